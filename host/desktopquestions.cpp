@@ -1,0 +1,79 @@
+#include "host/desktopquestions.h"
+
+#include "host/process.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+
+#include <cstdio>
+
+namespace host {
+
+namespace {
+
+QMessageBox::StandardButton ask(
+    const QString &title, const QString &text, QMessageBox::StandardButtons buttons)
+{
+    return QMessageBox::question(QApplication::activeWindow(), title, text, buttons, QMessageBox::No);
+}
+
+bool hasDisplay()
+{
+    return qobject_cast<QApplication *>(QCoreApplication::instance());
+}
+
+} // namespace
+
+QString DesktopQuestions::askText(const QString &prompt)
+{
+    return QInputDialog::getText(
+        QApplication::activeWindow(), QGuiApplication::applicationDisplayName(), prompt, QLineEdit::Password);
+}
+
+Questions::Answer DesktopQuestions::askYesNoCancel(const QString &title, const QString &text)
+{
+    switch (ask(title, text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    default:
+        return Answer::Cancel;
+    }
+}
+
+bool DesktopQuestions::askYesNo(const QString &title, const QString &text)
+{
+    return ask(title, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+void DesktopQuestions::tell(const QString &title, const QString &text)
+{
+    QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void DesktopQuestions::endWithError(const QString &title, const QString &text)
+{
+    std::fprintf(stderr, "%s: %s\n", title.toLocal8Bit().constData(), text.toLocal8Bit().constData());
+    std::fflush(stderr);
+
+    // A second failure, raised by what runs under the box, must not open a second box.
+    static bool ending = false;
+    if (hasDisplay() && !ending) {
+        ending = true;
+        QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok);
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
+    }
+    endProcess(1);
+}
+
+void DesktopQuestions::endProcess(int status)
+{
+    host::endProcess(status);
+}
+
+} // namespace host

@@ -1,0 +1,264 @@
+#include "host/process.h"
+
+#include "host/encoding.h"
+#include "host/failure.h"
+#include "host/paths.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include <spawn.h>
+#include <sys/pidfd.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace host {
+
+namespace {
+
+std::vector<std::string> currentEnvironment()
+{
+    std::vector<std::string> entries;
+    for (char **entry = environ; entry && *entry; ++entry)
+        entries.emplace_back(*entry);
+    return entries;
+}
+
+std::vector<std::string> &environment()
+{
+    static std::vector<std::string> entries = currentEnvironment();
+    return entries;
+}
+
+QByteArray searchPath()
+{
+    for (const std::string &entry : environment()) {
+        if (entry.starts_with("PATH="))
+            return QByteArray::fromStdString(entry.substr(5));
+    }
+    return "/usr/local/bin:/usr/bin:/bin";
+}
+
+bool isFile(const QByteArray &path)
+{
+    struct stat status { };
+    return !path.isEmpty() && stat(path.constData(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+bool mayRun(const QByteArray &path)
+{
+    return access(path.constData(), X_OK) == 0;
+}
+
+// The places where a program of this name may lie, the best first. A bare name gets a directory in front: an
+// interpreter would take one that begins with a dash for an option.
+std::vector<QByteArray> candidates(const QString &name)
+{
+    QByteArray found = findOnDisk(name);
+    if (lastSeparator(name) >= 0)
+        return { found };
+
+    std::vector<QByteArray> places;
+    if (!found.isEmpty())
+        places.push_back("./" + found);
+    const QByteArray bytes = nameToDisk(name);
+    for (const QByteArray &directory : searchPath().split(':')) {
+        if (!directory.isEmpty())
+            places.push_back(directory + '/' + bytes);
+    }
+    return places;
+}
+
+QByteArray findProgram(const QString &name)
+{
+    bool forbidden = false;
+    for (const QByteArray &place : candidates(name)) {
+        if (!isFile(place))
+            continue;
+        if (mayRun(place))
+            return place;
+        forbidden = true;
+    }
+    throw Failure(forbidden ? PermissionDenied : FileNotFound, QStringLiteral("start a program"), name);
+}
+
+Failure startFailure(int systemError, const QString &name)
+{
+    int number = InvalidArgument;
+    if (systemError == ENOENT || systemError == ENOTDIR)
+        number = FileNotFound;
+    else if (systemError == EACCES || systemError == EPERM)
+        number = PermissionDenied;
+    return Failure(number, QStringLiteral("start a program"), name);
+}
+
+// The terminated array of pointers that the system wants; the strings must outlive it.
+std::vector<char *> pointers(std::vector<std::string> &strings)
+{
+    std::vector<char *> result;
+    for (std::string &string : strings)
+        result.push_back(string.data());
+    result.push_back(nullptr);
+    return result;
+}
+
+// How a child begins: a session of its own, default signals, nothing blocked, the standard streams alone.
+class StartSettings {
+public:
+    StartSettings()
+    {
+        posix_spawnattr_init(&attributes);
+        posix_spawn_file_actions_init(&actions);
+        sigset_t signals;
+        sigfillset(&signals);
+        posix_spawnattr_setsigdefault(&attributes, &signals);
+        sigemptyset(&signals);
+        posix_spawnattr_setsigmask(&attributes, &signals);
+        posix_spawnattr_setflags(
+            &attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK);
+        posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
+    }
+    ~StartSettings()
+    {
+        posix_spawn_file_actions_destroy(&actions);
+        posix_spawnattr_destroy(&attributes);
+    }
+    StartSettings(const StartSettings &) = delete;
+    StartSettings &operator=(const StartSettings &) = delete;
+
+    posix_spawnattr_t attributes;
+    posix_spawn_file_actions_t actions;
+};
+
+} // namespace
+
+void rememberEnvironment()
+{
+    environment() = currentEnvironment();
+}
+
+void ArgumentSplitter::addText(QStringView text)
+{
+    for (const QChar c : text) {
+        if (c == u'"') {
+            m_quoted = !m_quoted;
+            m_begun = true;
+        } else if (!m_quoted && (c == u' ' || c == u'\t')) {
+            endArgument();
+        } else {
+            m_current += c;
+            m_begun = true;
+        }
+    }
+}
+
+void ArgumentSplitter::addWhole(const QString &text)
+{
+    m_current += text;
+    m_begun = m_begun || !text.isEmpty();
+}
+
+void ArgumentSplitter::endArgument()
+{
+    if (m_begun)
+        m_ended << m_current;
+    m_current.clear();
+    m_begun = false;
+}
+
+QStringList ArgumentSplitter::arguments() const
+{
+    return m_begun ? m_ended + QStringList(m_current) : m_ended;
+}
+
+QStringList splitArguments(QStringView text)
+{
+    ArgumentSplitter splitter;
+    splitter.addText(text);
+    return splitter.arguments();
+}
+
+Process::Process(pid_t id)
+    : m_id(id)
+    , m_ended(false)
+    , m_endDescriptor(pidfd_open(id, 0))
+{
+}
+
+Process::Process(Process &&other) noexcept
+    : m_id(std::exchange(other.m_id, -1))
+    , m_ended(std::exchange(other.m_ended, true))
+    , m_endDescriptor(std::exchange(other.m_endDescriptor, -1))
+{
+}
+
+Process &Process::operator=(Process &&other) noexcept
+{
+    if (this != &other) {
+        abandon();
+        m_id = std::exchange(other.m_id, -1);
+        m_ended = std::exchange(other.m_ended, true);
+        m_endDescriptor = std::exchange(other.m_endDescriptor, -1);
+    }
+    return *this;
+}
+
+Process::~Process()
+{
+    abandon();
+}
+
+// Somebody has to take the end of a child that runs on.
+void Process::abandon()
+{
+    if (m_endDescriptor >= 0)
+        close(m_endDescriptor);
+    if (!hasEnded())
+        std::thread([id = m_id] { waitpid(id, nullptr, 0); }).detach();
+}
+
+Process Process::start(const QStringList &arguments)
+{
+    const QString name = arguments.value(0);
+    if (name.isEmpty())
+        throw Failure(FileNotFound, QStringLiteral("start a program"), name);
+
+    const QByteArray program = findProgram(name);
+    std::vector<std::string> words { program.toStdString() };
+    for (qsizetype i = 1; i < arguments.size(); ++i)
+        words.push_back(nameToDisk(arguments[i]).toStdString());
+
+    const StartSettings settings;
+    pid_t id = -1;
+    const int error = posix_spawn(&id, program.constData(), &settings.actions, &settings.attributes,
+        pointers(words).data(), pointers(environment()).data());
+    if (error != 0)
+        throw startFailure(error, name);
+    return Process(id);
+}
+
+bool Process::hasEnded()
+{
+    if (!m_ended) {
+        const pid_t result = waitpid(m_id, nullptr, WNOHANG);
+        m_ended = result == m_id || (result < 0 && errno != EINTR);
+    }
+    return m_ended;
+}
+
+void endProcess(int status)
+{
+    std::fflush(nullptr);
+    std::_Exit(status);
+}
+
+} // namespace host

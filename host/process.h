@@ -1,0 +1,69 @@
+// Starting a program and watching it to its end, without a shell in between.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <sys/types.h>
+
+namespace host {
+
+// Keeps the environment as it is now for every child to come; called first thing in main, before a library
+// changes it.
+void rememberEnvironment();
+
+// Makes arguments from the pieces of a command line in their order. Pieces with no blank between them join.
+class ArgumentSplitter {
+public:
+    void addText(QStringView text); // split at blanks; double quotes group, and go
+    void addWhole(const QString &text); // never split; an empty one adds nothing
+    QStringList arguments() const;
+
+private:
+    void endArgument();
+
+    QStringList m_ended;
+    QString m_current;
+    bool m_begun = false; // tells an argument of two quotes alone from none
+    bool m_quoted = false;
+};
+
+// Parameters of a command line split at blanks; double quotes group, and go.
+QStringList splitArguments(QStringView text);
+
+// A child process: running, or ended, however it ended. Going out of scope leaves it running, and its end
+// leaves no zombie then either.
+class Process {
+public:
+    Process() = default;
+    Process(Process &&other) noexcept;
+    Process &operator=(Process &&other) noexcept;
+    Process(const Process &) = delete;
+    Process &operator=(const Process &) = delete;
+    ~Process();
+
+    // Starts arguments[0] in the working directory, with a session of its own, the remembered environment,
+    // default signals and none of our open files. A name without a separator is looked for in the working
+    // directory, then in PATH; one with a separator, and a name in the working directory, is found in any
+    // case. Fails with 53 if it is empty or there is no such program, 70 without the right to run it, 5 if it
+    // is of a format that doesn't run.
+    static Process start(const QStringList &arguments);
+
+    bool hasEnded(); // never waits; after the end it leaves no zombie
+    // Becomes readable at the end of the process; -1 if the system offers none.
+    int endDescriptor() const { return m_endDescriptor; }
+    pid_t id() const { return m_id; }
+
+private:
+    explicit Process(pid_t id);
+    void abandon();
+
+    pid_t m_id = -1;
+    bool m_ended = true;
+    int m_endDescriptor = -1;
+};
+
+// Ends the process at once, with the buffers of the standard streams written: no event loop can hold it.
+[[noreturn]] void endProcess(int status);
+
+} // namespace host
