@@ -1,0 +1,150 @@
+#include "host/directory.h"
+
+#include "host/descriptor.h"
+#include "host/encoding.h"
+#include "host/letters.h"
+#include "host/shortnames.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <time.h>
+
+namespace host {
+
+namespace {
+
+using Place = std::pair<dev_t, ino_t>;
+
+constexpr qint64 NanosecondsPerSecond = 1'000'000'000;
+// The file systems' clock ticks coarsely: a change within one tick of the reading leaves no trace.
+constexpr qint64 SureAfter = 20'000'000;
+constexpr std::size_t MostReadings = 256;
+
+int readingCount = 0;
+
+qint64 nanoseconds(const timespec &time)
+{
+    return time.tv_sec * NanosecondsPerSecond + time.tv_nsec;
+}
+
+struct Reading {
+    qint64 changed; // when anything last changed; not the modification time, which unpackers and copiers set
+                    // back
+    std::shared_ptr<const Directory> directory;
+};
+
+// The clock of a file system that counts whole seconds, or none at all, doesn't show every change.
+bool canBeKept(const timespec &changed)
+{
+    timespec now;
+    clock_gettime(CLOCK_REALTIME, &now);
+    return changed.tv_nsec != 0 && nanoseconds(now) - nanoseconds(changed) > SureAfter;
+}
+
+std::vector<Directory::Entry> readEntries(DIR *stream)
+{
+    ++readingCount;
+    std::vector<Directory::Entry> entries;
+    while (const dirent *entry = readdir(stream)) {
+        const QByteArray bytes(entry->d_name);
+        if (bytes == "." || bytes == "..")
+            continue;
+        const QString name = nameFromDisk(bytes);
+        entries.push_back({ bytes, name, upper(name), entry->d_type });
+    }
+    return entries;
+}
+
+} // namespace
+
+std::shared_ptr<const Directory> Directory::of(const Descriptor &descriptor)
+{
+    // The stream closes what it is given.
+    DIR *stream = fdopendir(fcntl(descriptor.number(), F_DUPFD_CLOEXEC, 0));
+    if (!stream)
+        return nullptr;
+    auto directory = std::make_shared<const Directory>(readEntries(stream));
+    closedir(stream);
+    return directory;
+}
+
+std::shared_ptr<const Directory> Directory::at(const QByteArray &path)
+{
+    static std::map<Place, Reading> readings;
+    struct stat status;
+    if (stat(path.constData(), &status) != 0)
+        return nullptr;
+    const Place place(status.st_dev, status.st_ino);
+    const auto kept = readings.find(place);
+    if (kept != readings.end() && kept->second.changed == nanoseconds(status.st_ctim))
+        return kept->second.directory;
+
+    readings.erase(place);
+    const Descriptor descriptor(open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!descriptor.isOpen() || fstat(descriptor.number(), &status) != 0)
+        return nullptr;
+    const bool keep = canBeKept(status.st_ctim);
+    std::shared_ptr<const Directory> directory = of(descriptor);
+    if (keep && directory) {
+        if (readings.size() >= MostReadings)
+            readings.clear();
+        readings[Place(status.st_dev, status.st_ino)] = { nanoseconds(status.st_ctim), directory };
+    }
+    return directory;
+}
+
+int Directory::readings()
+{
+    return readingCount;
+}
+
+Directory::Directory(std::vector<Entry> entries)
+    : m_entries(std::move(entries))
+{
+    std::sort(m_entries.begin(), m_entries.end(), [](const Entry &a, const Entry &b) {
+        const int order = compareCodes(a.upper, b.upper);
+        return order < 0 || (order == 0 && a.bytes < b.bytes);
+    });
+}
+
+QByteArray Directory::find(const QString &name) const
+{
+    const QString key = upper(name);
+    const auto first = std::lower_bound(m_entries.begin(), m_entries.end(), key,
+        [](const Entry &entry, const QString &wanted) { return compareCodes(entry.upper, wanted) < 0; });
+    if (first != m_entries.end() && first->upper == key)
+        return first->bytes;
+    const QString lowered = lower(name);
+    if (plainShortForm(lowered) != lowered)
+        return {};
+    nameShortForms();
+    return m_byShortForm.value(key);
+}
+
+QString Directory::shortForm(const QString &name) const
+{
+    if (plainShortForm(name) == name)
+        return name;
+    nameShortForms();
+    return m_shortForms.value(name, name);
+}
+
+void Directory::nameShortForms() const
+{
+    if (m_shortFormsNamed)
+        return;
+    QStringList names;
+    for (const Entry &entry : m_entries)
+        names.append(entry.name);
+    m_shortForms = assignShortForms(names);
+    for (auto form = m_shortForms.cbegin(); form != m_shortForms.cend(); ++form)
+        m_byShortForm.insert(upper(form.value()), nameToDisk(form.key()));
+    m_shortFormsNamed = true;
+}
+
+} // namespace host

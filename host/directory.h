@@ -1,0 +1,56 @@
+// One reading of a directory: its names in their order, found in any case or by their short form. Readings
+// are kept and used again while the directory stands unchanged. For the host's own files only.
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+namespace host {
+
+class Descriptor;
+
+class Directory {
+public:
+    struct Entry {
+        QByteArray bytes; // as on the disk
+        QString name;
+        QString upper;
+        unsigned char type; // of the entry itself, as readdir tells it: one of the DT_ values
+    };
+
+    // The directory as it is now; null if there is none, or it can't be read.
+    static std::shared_ptr<const Directory> at(const QByteArray &path);
+
+    // As at, always from the disk. The descriptor stays open, at its end.
+    static std::shared_ptr<const Directory> of(const Descriptor &descriptor);
+
+    // How many directories were read from the disk since the program began.
+    static int readings();
+
+    explicit Directory(std::vector<Entry> entries);
+
+    // In the order of names, ties by bytes, without "." and "..".
+    const std::vector<Entry> &entries() const { return m_entries; }
+
+    // The bytes of the first entry that has this name in any case, or else of the one that has this short
+    // form. Empty if there is none.
+    QByteArray find(const QString &name) const;
+
+    // The short form of an entry.
+    QString shortForm(const QString &name) const;
+
+private:
+    void nameShortForms() const;
+
+    std::vector<Entry> m_entries;
+    mutable QHash<QString, QString> m_shortForms; // by name, of those whose form isn't the name itself
+    mutable QHash<QString, QByteArray> m_byShortForm; // by upper-cased form
+    mutable bool m_shortFormsNamed = false;
+};
+
+} // namespace host

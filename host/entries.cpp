@@ -1,0 +1,130 @@
+// Attributes, lengths, making and deleting.
+#include "host/paths.h"
+
+#include "host/descriptor.h"
+#include "host/directory.h"
+#include "host/encoding.h"
+#include "host/failure.h"
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace host {
+
+namespace {
+
+// A directory's own entry, also where the path is closed: behind a slash the system would follow a link.
+QByteArray withoutClosing(QByteArray path)
+{
+    while (path.size() > 1 && path.endsWith('/'))
+        path.chop(1);
+    return path;
+}
+
+bool isHidden(const QByteArray &path)
+{
+    const QByteArray name = path.sliced(path.lastIndexOf('/') + 1);
+    return name.startsWith('.') && name != "." && name != "..";
+}
+
+[[noreturn]] void failOnDirectory(int systemError, const QString &operation, const QString &path)
+{
+    const bool missing = systemError == ENOENT || systemError == ENOTDIR;
+    throw Failure(missing ? PathNotFound : PathAccess, operation, path);
+}
+
+// The directory itself: a link in its place is not it.
+Descriptor openOwnDirectory(const QString &path)
+{
+    if (!path.startsWith(u'/') && !path.startsWith(u'\\'))
+        throw Failure(InvalidArgument, u"delete files by a path that isn't absolute"_s, path);
+    const QByteArray found = withoutClosing(findOnDisk(path));
+    Descriptor directory(open(found.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    if (!directory.isOpen())
+        throw Failure(PathNotFound, u"delete files"_s, path);
+    return directory;
+}
+
+void deletePlainFile(const Descriptor &directory, const QByteArray &name)
+{
+    struct stat status;
+    if (name.contains('/')
+        || fstatat(directory.number(), name.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return;
+    if (S_ISREG(status.st_mode) && (status.st_mode & S_IWUSR) != 0)
+        unlinkat(directory.number(), name.constData(), 0);
+}
+
+} // namespace
+
+int attributes(const QString &path)
+{
+    const QByteArray found = withoutClosing(findOnDisk(path));
+    struct stat own;
+    struct stat status;
+    // Of a link it is the target that can be written or not; one that leads nowhere stands for no file.
+    if (lstat(found.constData(), &own) != 0 || stat(found.constData(), &status) != 0)
+        throw Failure(FileNotFound, u"read the attributes"_s, path);
+    int result = S_ISDIR(own.st_mode) ? DirectoryAttribute : 0;
+    if ((status.st_mode & S_IWUSR) == 0)
+        result |= ReadOnlyAttribute;
+    if (isHidden(found))
+        result |= HiddenAttribute;
+    return result;
+}
+
+void clearAttributes(const QString &path)
+{
+    const QByteArray found = withoutClosing(findOnDisk(path));
+    struct stat status;
+    if (lstat(found.constData(), &status) != 0)
+        throw Failure(FileNotFound, u"clear the attributes"_s, path);
+    if (!S_ISLNK(status.st_mode))
+        fchmodat(AT_FDCWD, found.constData(), (status.st_mode & 07777) | S_IWUSR, AT_SYMLINK_NOFOLLOW);
+}
+
+qint64 fileLength(const QString &path)
+{
+    const QByteArray found = findOnDisk(path);
+    struct stat status;
+    if (stat(found.constData(), &status) != 0 || S_ISDIR(status.st_mode))
+        throw Failure(FileNotFound, u"read the length"_s, path);
+    return status.st_size;
+}
+
+void makeDirectory(const QString &path, int mode)
+{
+    const QByteArray place = findForWriting(path);
+    if (mkdir(place.constData(), mode_t(mode)) != 0)
+        failOnDirectory(errno, u"make a directory"_s, path);
+}
+
+void removeDirectory(const QString &path)
+{
+    const QByteArray found = withoutClosing(findOnDisk(path));
+    if (rmdir(found.constData()) != 0)
+        failOnDirectory(errno, u"remove a directory"_s, path);
+}
+
+void deleteFiles(const QString &directory)
+{
+    const Descriptor descriptor = openOwnDirectory(directory);
+    const auto names = Directory::of(descriptor);
+    if (!names)
+        return;
+    for (const Directory::Entry &entry : names->entries())
+        deletePlainFile(descriptor, entry.bytes);
+}
+
+void deleteFiles(const QString &directory, const QStringList &names)
+{
+    const Descriptor descriptor = openOwnDirectory(directory);
+    for (const QString &name : names)
+        deletePlainFile(descriptor, nameToDisk(name));
+}
+
+} // namespace host

@@ -1,0 +1,96 @@
+#include "host/letters.h"
+
+namespace host {
+
+namespace {
+
+// Walks a text by code points. A half of a surrogate pair on its own counts as the code that it is.
+class CodePoints {
+public:
+    explicit CodePoints(QStringView text)
+        : m_text(text)
+    {
+    }
+
+    bool atEnd() const { return m_position == m_text.size(); }
+
+    char32_t next()
+    {
+        const QChar first = m_text[m_position++];
+        if (first.isHighSurrogate() && !atEnd() && m_text[m_position].isLowSurrogate())
+            return QChar::surrogateToUcs4(first, m_text[m_position++]);
+        return first.unicode();
+    }
+
+private:
+    QStringView m_text;
+    qsizetype m_position = 0;
+};
+
+char32_t upperCode(char32_t code)
+{
+    if (code < 128)
+        return code >= U'a' && code <= U'z' ? code - 32 : code;
+    return QChar::toUpper(code);
+}
+
+char32_t lowerCode(char32_t code)
+{
+    return QChar::toLower(code);
+}
+
+char32_t sameCode(char32_t code)
+{
+    return code;
+}
+
+template <char32_t (*map)(char32_t)> QString mapped(QStringView text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (CodePoints points(text); !points.atEnd();)
+        result += QChar::fromUcs4(map(points.next()));
+    return result;
+}
+
+template <char32_t (*map)(char32_t)> int compared(QStringView a, QStringView b)
+{
+    CodePoints left(a);
+    CodePoints right(b);
+    while (!left.atEnd() && !right.atEnd()) {
+        const char32_t l = map(left.next());
+        const char32_t r = map(right.next());
+        if (l != r)
+            return l < r ? -1 : 1;
+    }
+    return int(right.atEnd()) - int(left.atEnd());
+}
+
+} // namespace
+
+QString upper(QStringView text)
+{
+    return mapped<upperCode>(text);
+}
+
+QString lower(QStringView text)
+{
+    return mapped<lowerCode>(text);
+}
+
+int compareCodes(QStringView a, QStringView b)
+{
+    return compared<sameCode>(a, b);
+}
+
+int compareNames(QStringView a, QStringView b)
+{
+    return compared<upperCode>(a, b);
+}
+
+bool sameName(QStringView a, QStringView b)
+{
+    return compareNames(a, b) == 0;
+}
+
+} // namespace host

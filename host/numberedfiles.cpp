@@ -1,0 +1,138 @@
+#include "host/numberedfiles.h"
+
+#include "host/failure.h"
+#include "host/paths.h"
+#include "host/plainfile.h"
+#include "host/replacement.h"
+
+#include <cerrno>
+#include <optional>
+
+#include <fcntl.h>
+
+using namespace Qt::StringLiterals;
+
+namespace host {
+
+namespace {
+
+constexpr int SourceNumber = 1;
+constexpr int DestinationNumber = 2;
+
+// The source of a text knows what went wrong, but not in which file.
+template <typename Operation> auto namingTheFile(const QString &path, Operation operation)
+{
+    try {
+        return operation();
+    } catch (const Failure &failure) {
+        throw Failure(failure.number(), failure.operation(), path);
+    }
+}
+
+} // namespace
+
+void NumberedFiles::openForInput(int number, const QString &path)
+{
+    if (isOpen(number))
+        throw Failure(FileAlreadyOpen, u"open a file under number %1, which is in use"_s.arg(number), path);
+    m_open.emplace(number, OpenFile { path, TextSource(decodeText(readBytes(path)).text) });
+}
+
+QString NumberedFiles::readLine(int number)
+{
+    OpenFile &file = open(number, "read a line");
+    return namingTheFile(file.path, [&file] { return file.source.readLine(); });
+}
+
+QString NumberedFiles::readField(int number)
+{
+    OpenFile &file = open(number, "read a field");
+    return namingTheFile(file.path, [&file] { return file.source.readField(); });
+}
+
+bool NumberedFiles::atEnd(int number)
+{
+    return open(number, "look for the end").source.atEnd();
+}
+
+void NumberedFiles::close(int number)
+{
+    m_open.erase(number);
+}
+
+void NumberedFiles::closeAll()
+{
+    m_open.clear();
+}
+
+bool NumberedFiles::isOpen(int number) const
+{
+    return m_open.contains(number);
+}
+
+void NumberedFiles::rewrite(
+    const QString &path, const QString &scratchName, const std::function<QString(const QString &)> &change)
+{
+    mustBeFree(path);
+    Replacement replacement(path, scratchName);
+    const std::optional<QByteArray> old = replacement.read();
+    if (!old)
+        throw Failure(FileNotFound, u"rewrite a file"_s, path);
+    takeNumbers(path);
+    DecodedText text = decodeText(*old);
+    text.text = change(text.text);
+    finish(replacement, text);
+}
+
+void NumberedFiles::replace(const QString &path, const QString &scratchName, const QString &text)
+{
+    mustBeFree(path);
+    Replacement replacement(path, scratchName);
+    const std::optional<QByteArray> old = replacement.read();
+    takeNumbers(path);
+    finish(replacement, { text, old ? decodeText(*old).encoding : Encoding::Windows1252, false });
+}
+
+void NumberedFiles::mustBeFree(const QString &path) const
+{
+    if (isOpen(SourceNumber) || isOpen(DestinationNumber))
+        throw Failure(FileAlreadyOpen, u"rewrite a file while its numbers are in use"_s, path);
+}
+
+void NumberedFiles::takeNumbers(const QString &path)
+{
+    for (const int number : { SourceNumber, DestinationNumber })
+        m_open.emplace(number, OpenFile { path, TextSource(QString()) });
+}
+
+void NumberedFiles::finish(Replacement &replacement, const DecodedText &text)
+{
+    replacement.write(encodeText(text));
+    close(SourceNumber);
+    close(DestinationNumber);
+    replacement.commit();
+}
+
+NumberedFiles::OpenFile &NumberedFiles::open(int number, const char *operation)
+{
+    const auto file = m_open.find(number);
+    if (file == m_open.end())
+        throw Failure(BadFileNumber,
+            u"%1 under number %2, which isn't open"_s.arg(QLatin1StringView(operation)).arg(number));
+    return file->second;
+}
+
+QByteArray readBytes(const QString &path)
+{
+    const QByteArray found = findOnDisk(path);
+    if (found.isEmpty())
+        throw Failure(FileNotFound, u"open a file"_s, path);
+    std::optional<PlainFile> file = readPlainFile(AT_FDCWD, found, O_RDONLY);
+    if (!file && errno == ENOENT)
+        throw Failure(FileNotFound, u"open a file"_s, path);
+    if (!file)
+        throw Failure(PathAccess, u"read a file"_s, path);
+    return file->bytes;
+}
+
+} // namespace host

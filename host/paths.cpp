@@ -1,0 +1,224 @@
+#include "host/paths.h"
+
+#include "host/directory.h"
+#include "host/encoding.h"
+#include "host/failure.h"
+
+#include <array>
+#include <climits>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace host {
+
+namespace {
+
+bool isSeparator(QChar character)
+{
+    return character == u'/' || character == u'\\';
+}
+
+bool entryExists(const QByteArray &path)
+{
+    struct stat status;
+    return lstat(path.constData(), &status) == 0;
+}
+
+bool isDirectory(const QByteArray &path)
+{
+    struct stat status;
+    return stat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+QByteArray joined(const QByteArray &directory, const QByteArray &name)
+{
+    if (directory.isEmpty() || directory.endsWith('/'))
+        return directory + name;
+    return directory + '/' + name;
+}
+
+// The bytes of a directory's entry that this name stands for; empty if there is none.
+QByteArray entryFor(const QByteArray &directory, const QString &name)
+{
+    const QByteArray exact = nameToDisk(name);
+    if (entryExists(joined(directory, exact)))
+        return exact;
+    const auto names = Directory::at(directory.isEmpty() ? QByteArray(".") : directory);
+    return names ? names->find(name) : QByteArray();
+}
+
+// Finds a path from left to right. A backslash separates too, unless it belongs to a name that is there.
+class Finder {
+public:
+    QByteArray find(const QString &path);
+
+private:
+    bool takePart(const QString &part);
+    qsizetype takeLongest(const QStringList &pieces, qsizetype first);
+
+    QByteArray m_found;
+    bool m_closed = false; // a separator came behind what was found last
+};
+
+QByteArray Finder::find(const QString &path)
+{
+    if (path.isEmpty() || path.contains(QChar::Null))
+        return {};
+    const bool absolute = isSeparator(path.front());
+    if (absolute)
+        m_found = "/";
+    for (const QString &part : path.sliced(absolute ? 1 : 0).split(u'/')) {
+        if (!takePart(part))
+            return {};
+    }
+    if (!m_closed || m_found.endsWith('/'))
+        return m_found;
+    return isDirectory(m_found) ? m_found + '/' : QByteArray();
+}
+
+bool Finder::takePart(const QString &part)
+{
+    const QStringList pieces = part.split(u'\\');
+    for (qsizetype first = 0; first < pieces.size();) {
+        const qsizetype taken = takeLongest(pieces, first);
+        if (taken == 0 && !pieces[first].isEmpty())
+            return false;
+        m_closed = taken == 0;
+        first += m_closed ? 1 : taken;
+    }
+    return true;
+}
+
+// Goes on to the entry whose name is made of the most pieces, and says of how many; 0 if there is none.
+qsizetype Finder::takeLongest(const QStringList &pieces, qsizetype first)
+{
+    for (qsizetype count = pieces.size() - first; count > 0; --count) {
+        const QString name = pieces.sliced(first, count).join(u'\\');
+        const QByteArray entry = name.isEmpty() ? QByteArray() : entryFor(m_found, name);
+        const bool last = first + count == pieces.size();
+        if (entry.isEmpty() || (!last && !isDirectory(joined(m_found, entry))))
+            continue;
+        m_found = joined(m_found, entry);
+        return count;
+    }
+    return 0;
+}
+
+QByteArray shortForm(const QByteArray &directory, const QByteArray &name)
+{
+    const QString text = nameFromDisk(name);
+    const auto names = name == ".." ? nullptr : Directory::at(directory);
+    return names ? nameToDisk(names->shortForm(text)) : name;
+}
+
+QString &chosenProgramDirectory()
+{
+    static QString directory;
+    return directory;
+}
+
+} // namespace
+
+qsizetype lastSeparator(QStringView path)
+{
+    qsizetype index = path.size() - 1;
+    while (index >= 0 && !isSeparator(path[index]))
+        --index;
+    return index;
+}
+
+QChar separatorOf(QStringView path)
+{
+    return path.contains(u'\\') && !path.contains(u'/') ? u'\\' : u'/';
+}
+
+QString withClosingSeparator(const QString &path)
+{
+    if (path.isEmpty() || isSeparator(path.back()))
+        return path;
+    return path + separatorOf(path);
+}
+
+QByteArray findOnDisk(const QString &path)
+{
+    return Finder().find(path);
+}
+
+QByteArray findForWriting(const QString &path)
+{
+    QStringView open(path);
+    while (open.size() > 1 && isSeparator(open.back()))
+        open.chop(1);
+    const QByteArray found = findOnDisk(open.toString());
+    if (!found.isEmpty() || open.isEmpty() || open.contains(QChar::Null))
+        return found;
+    const qsizetype separator = lastSeparator(open);
+    const QByteArray name = nameToDisk(open.sliced(separator + 1).toString());
+    if (separator < 0)
+        return name;
+    const QByteArray directory = findOnDisk(open.first(separator + 1).toString());
+    return directory.isEmpty() ? directory : directory + name;
+}
+
+QString trueSpelling(const QString &path)
+{
+    return nameFromDisk(findOnDisk(path));
+}
+
+QString GetShortPathNameA(const QString &path)
+{
+    QByteArray found = findOnDisk(path);
+    if (found.isEmpty())
+        return {};
+    if (!found.startsWith('/'))
+        found = joined(nameToDisk(currentDirectory()), found);
+    QByteArray walked = "/";
+    QByteArray result = "/";
+    for (const QByteArray &name : found.split('/')) {
+        if (name.isEmpty() || name == ".")
+            continue;
+        result = joined(result, shortForm(walked, name));
+        walked = joined(walked, name);
+    }
+    if (found.endsWith('/') && !result.endsWith('/'))
+        result += '/';
+    return nameFromDisk(result);
+}
+
+void changeDirectory(const QString &path)
+{
+    const QByteArray found = findOnDisk(path);
+    if (found.isEmpty() || chdir(found.constData()) != 0)
+        throw Failure(PathNotFound, u"change to a directory"_s, path);
+}
+
+QString currentDirectory()
+{
+    std::array<char, PATH_MAX> buffer;
+    return getcwd(buffer.data(), buffer.size()) ? nameFromDisk(QByteArray(buffer.data())) : QString();
+}
+
+QString programDirectory()
+{
+    if (!chosenProgramDirectory().isEmpty())
+        return chosenProgramDirectory();
+    std::array<char, PATH_MAX> buffer;
+    const ssize_t length = readlink("/proc/self/exe", buffer.data(), buffer.size());
+    const QByteArray executable(buffer.data(), std::max<ssize_t>(length, 0));
+    return nameFromDisk(executable.first(std::max<qsizetype>(executable.lastIndexOf('/'), 0)));
+}
+
+void setProgramDirectory(const QString &path)
+{
+    chosenProgramDirectory() = path;
+}
+
+QString programFile(const QString &name)
+{
+    return programDirectory() + u'/' + name;
+}
+
+} // namespace host

@@ -1,0 +1,21 @@
+// Reading a plain file whole. For the host's own files only.
+#pragma once
+
+#include <QByteArray>
+
+#include <optional>
+
+#include <sys/stat.h>
+
+namespace host {
+
+struct PlainFile {
+    QByteArray bytes;
+    struct stat status;
+};
+
+// Opens and reads the file of this name in the directory (a descriptor, or AT_FDCWD). None, with errno set,
+// if that fails or if it is something else than a file.
+std::optional<PlainFile> readPlainFile(int directory, const QByteArray &name, int openFlags);
+
+} // namespace host

@@ -1,0 +1,54 @@
+// The one routine that replaces a file. At any moment the old or the new file stands in its place, whole.
+#pragma once
+
+#include "host/descriptor.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+#include <sys/stat.h>
+
+namespace host {
+
+// From its making to its end it holds the lock on the directory, which other copies of the program wait for.
+// What it fails with names the path as it was typed. A scratch file that it made doesn't outlive it.
+class Replacement {
+public:
+    // A link in the file's place is followed: the lock, the scratch file and the last step are all in the
+    // directory of what it leads to. Fails with 76 if there is no such directory, 5 if the scratch name is no
+    // name beside it.
+    Replacement(const QString &path, const QString &scratchName);
+    Replacement(const Replacement &) = delete;
+    Replacement &operator=(const Replacement &) = delete;
+    ~Replacement();
+
+    // The bytes of the file; none if it doesn't exist. Comes before write. Fails with 75 if it can't be read.
+    std::optional<QByteArray> read();
+
+    // Writes the bytes to the scratch file, whatever lay there, and flushes them to the disk. Fails with 75
+    // if the old file may not be written, else with what the system says.
+    void write(const QByteArray &bytes);
+
+    // Puts the scratch file in the place of the old one.
+    void commit();
+
+private:
+    void lock();
+    void makeScratch();
+    void writeAll(const QByteArray &bytes);
+    void keepOwnerAndMode();
+    bool mayBeWritten() const;
+    [[noreturn]] void fail(const QString &operation) const; // with errno
+
+    QString m_path;
+    QByteArray m_name; // within the directory
+    QByteArray m_scratchName;
+    Descriptor m_directory;
+    Descriptor m_scratch;
+    std::optional<struct stat> m_old;
+    bool m_scratchStands = false;
+};
+
+} // namespace host
