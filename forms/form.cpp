@@ -1,0 +1,219 @@
+#include "forms/form.h"
+
+#include "forms/control.h"
+#include "forms/picturebutton.h"
+#include "forms/pictures.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QPainter>
+#include <QPointer>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace forms {
+
+struct Form::State {
+    Border border;
+    QPixmap tile;
+    int tileWidth = 0; // twips
+    int tileHeight = 0; // twips
+    QString background;
+    QEventLoop *modalLoop = nullptr;
+};
+
+namespace {
+
+// A form's own edges in twips, as its outer measures count them.
+constexpr int FrameWidth = 90;
+constexpr int FrameHeight = 375;
+
+void stackOver(QWidget &form, QWidget *lower)
+{
+    // Only dialogs are kept over another window by window managers.
+    const Qt::WindowType type = lower ? Qt::Dialog : Qt::Window;
+    if (form.windowType() != type)
+        form.setWindowFlags((form.windowFlags() & ~Qt::WindowType_Mask) | type);
+    form.winId();
+    if (lower)
+        lower->window()->winId();
+    form.windowHandle()->setTransientParent(lower ? lower->window()->windowHandle() : nullptr);
+}
+
+// In the middle of the owner's client area, or of the screen, and wholly on the screen where it has room.
+void centre(QWidget &form, const QWidget *owner)
+{
+    const QScreen *screen = owner ? owner->screen() : QApplication::primaryScreen();
+    const QRect free = screen->availableGeometry();
+    QRect place(QPoint(0, 0), form.size());
+    place.moveCenter(owner ? owner->window()->geometry().center() : free.center());
+    place.moveRight(std::min(place.right(), free.right()));
+    place.moveBottom(std::min(place.bottom(), free.bottom()));
+    place.moveLeft(std::max(place.left(), free.left()));
+    place.moveTop(std::max(place.top(), free.top()));
+    form.setGeometry(place);
+}
+
+void showOver(QWidget &form, QWidget *owner, Qt::WindowModality modality)
+{
+    QWidget *lower = QApplication::activeModalWidget();
+    if (!lower || lower == &form)
+        lower = owner ? owner : QApplication::activeWindow();
+    if (lower && lower->window() == &form)
+        lower = nullptr;
+    form.setWindowModality(modality);
+    stackOver(form, lower);
+    centre(form, owner);
+    form.show();
+    form.raise();
+    form.activateWindow();
+}
+
+} // namespace
+
+Form::Form(const QString &name, int clientWidth, int clientHeight, Border border)
+    : m_state(std::make_unique<State>())
+{
+    m_state->border = border;
+    setObjectName(name);
+    setWindowFlags(border == Border::None ? Qt::Window | Qt::FramelessWindowHint
+                                          : Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    setMouseTracking(true);
+    SetClientSize(clientWidth, clientHeight);
+}
+
+Form::~Form()
+{
+    if (m_state->modalLoop)
+        m_state->modalLoop->quit();
+}
+
+void Form::SetOuterHeight(int height)
+{
+    setFixedHeight(pixels(height - FrameHeight));
+}
+
+void Form::SetOuterWidth(int width)
+{
+    setFixedWidth(pixels(width - FrameWidth));
+}
+
+void Form::SetClientSize(int width, int height)
+{
+    setFixedSize(pixels(width), pixels(height));
+}
+
+void Form::ShowModal(QWidget *owner)
+{
+    QEventLoop loop;
+    const QPointer<Form> self(this);
+    const auto closed = qScopeGuard([self] {
+        if (self) {
+            self->m_state->modalLoop = nullptr;
+            self->hide();
+        }
+    });
+    hide();
+    m_state->modalLoop = &loop;
+    showOver(*this, owner, Qt::ApplicationModal);
+    // What showing it has raised may have closed it already.
+    if (self && isVisible())
+        loop.exec();
+}
+
+void Form::ShowModeless(QWidget *owner)
+{
+    showOver(*this, owner, Qt::NonModal);
+}
+
+void Form::Unload()
+{
+    hide();
+}
+
+void Form::SetBackColour(const QColor &colour)
+{
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, colour);
+    setPalette(colours);
+}
+
+void Form::SetTile(const QPixmap &tile, int width, int height)
+{
+    m_state->tile = tile;
+    m_state->tileWidth = width;
+    m_state->tileHeight = height;
+    update();
+}
+
+void Form::SetBackground(const QString &artworkName)
+{
+    m_state->background = artworkName;
+    update();
+}
+
+QWidget *Form::Control(const QString &name) const
+{
+    if (auto *control = findChild<QWidget *>(name))
+        return control;
+    const auto pairs = findChildren<QWidget *>();
+    for (QWidget *control : pairs) {
+        const auto *pair = dynamic_cast<const PictureButton *>(control);
+        if (pair && pair->PressedName() == name)
+            return control;
+    }
+    return nullptr;
+}
+
+void Form::closeEvent(QCloseEvent *event)
+{
+    if (CloseWished.hasHandler()) {
+        event->ignore();
+        CloseWished.raise();
+        return;
+    }
+    event->setAccepted(m_state->border == Border::FixedSingle);
+}
+
+void Form::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    if (m_state->modalLoop && !event->spontaneous())
+        m_state->modalLoop->quit();
+}
+
+void Form::keyPressEvent(QKeyEvent *event)
+{
+    if (keyCodeOf(*event) != EnterKey || !KeyEnter.hasHandler()) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    if (!event->isAutoRepeat())
+        KeyEnter.raise();
+}
+
+void Form::mouseMoveEvent(QMouseEvent *event)
+{
+    event->accept();
+    MouseMove.raise(heldMouseOf(*event));
+}
+
+void Form::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    if (!m_state->background.isEmpty())
+        painter.drawPixmap(0, 0, artwork(m_state->background, size(), devicePixelRatioF()));
+    if (m_state->tile.isNull() || m_state->tileWidth <= 0 || m_state->tileHeight <= 0)
+        return;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    for (int y = 0; y <= twips(height()); y += m_state->tileHeight) {
+        for (int x = 0; x <= twips(width()); x += m_state->tileWidth)
+            painter.drawPixmap(inPixels({ x, y, m_state->tileWidth, m_state->tileHeight }), m_state->tile);
+    }
+}
+
+} // namespace forms

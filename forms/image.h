@@ -1,0 +1,31 @@
+// A picture on the screen, stretched to its place.
+#pragma once
+
+#include "forms/control.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+namespace forms {
+
+// Also a container: a television set is an image with controls in it. A click gives it the focus only where
+// the screen sets a focus policy.
+class Image : public Control<QWidget> {
+public:
+    explicit Image(QWidget *parent);
+
+    void SetPicture(const QPixmap &picture); // stretched to the image's size
+    void SetArtwork(const QString &name); // drawn at the image's size
+    const QPixmap &Picture() const { return m_picture; }
+    void SetBorder(bool single); // a single dark line inside its edge
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QPixmap m_picture;
+    QString m_artwork;
+    bool m_border = false;
+};
+
+} // namespace forms

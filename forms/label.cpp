@@ -1,0 +1,121 @@
+#include "forms/label.h"
+
+#include "forms/growth.h"
+#include "forms/shape.h"
+
+#include <QEvent>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace forms {
+
+namespace {
+
+int widestPart(const QString &text, const QFontMetrics &metrics, const QString &separators)
+{
+    int widest = 0;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i <= text.size(); ++i) {
+        if (i < text.size() && !separators.contains(text[i]))
+            continue;
+        widest = std::max(widest, metrics.horizontalAdvance(text.mid(start, i - start)));
+        start = i + 1;
+    }
+    return widest;
+}
+
+// What the label must stay out of. Of a frame, and of a picture that the label lies on, only the edges count.
+QList<QRect> obstaclesOf(const QWidget &label, const QRect &place)
+{
+    QList<QRect> obstacles;
+    const auto siblings = label.parentWidget()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    for (const QWidget *sibling : siblings) {
+        if (sibling == &label || sibling->isHidden() || sibling->isWindow())
+            continue;
+        const QRect rect = sibling->geometry();
+        if (dynamic_cast<const Shape *>(sibling) || rect.contains(place))
+            obstacles += frameLines(rect);
+        else
+            obstacles += rect;
+    }
+    return obstacles;
+}
+
+} // namespace
+
+Label::Label(QWidget *parent)
+    : Control(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setMouseTracking(true);
+}
+
+void Label::SetCaption(const QString &caption)
+{
+    if (caption == text())
+        return;
+    setText(caption);
+    grow();
+}
+
+void Label::SetForeColor(const QColor &colour)
+{
+    if (colour == ForeColor())
+        return;
+    QPalette colours = palette();
+    colours.setColor(QPalette::WindowText, colour);
+    setPalette(colours);
+}
+
+QColor Label::ForeColor() const
+{
+    return palette().color(QPalette::Active, QPalette::WindowText);
+}
+
+void Label::SetPlace(const Place &place)
+{
+    m_place = m_grown = inPixels(place);
+    setGeometry(m_place);
+    grow();
+}
+
+void Label::Redraw()
+{
+    repaint();
+}
+
+void Label::grow()
+{
+    if (!parentWidget())
+        return;
+    if (geometry() != m_grown)
+        m_place = geometry();
+
+    const QFontMetrics metrics = fontMetrics();
+    const bool wraps = m_place.height() >= 2 * metrics.lineSpacing();
+    if (wraps != wordWrap())
+        setWordWrap(wraps);
+    const int width = widestPart(text(), metrics, wraps ? u" \n"_s : u"\n"_s);
+    m_grown = grownPlace(m_place, width, alignment(), parentWidget()->rect(), obstaclesOf(*this, m_place));
+    if (geometry() != m_grown)
+        setGeometry(m_grown);
+}
+
+void Label::showEvent(QShowEvent *event)
+{
+    Control::showEvent(event);
+    // The controls beside it may have come after its caption.
+    grow();
+}
+
+void Label::changeEvent(QEvent *event)
+{
+    Control::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        grow();
+}
+
+} // namespace forms

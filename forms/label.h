@@ -1,0 +1,35 @@
+// A text on the screen.
+#pragma once
+
+#include "forms/control.h"
+
+#include <QLabel>
+
+namespace forms {
+
+// Transparent, one line or wrapped as its place allows. A caption wider than its place grows into the free
+// room around it, about its point of alignment, up to the next visible control or the parent's edge, never
+// over either.
+class Label : public Control<QLabel> {
+public:
+    explicit Label(QWidget *parent);
+
+    QString Caption() const { return text(); }
+    void SetCaption(const QString &caption); // nothing is posted if it stands already
+    void SetForeColor(const QColor &colour); // nothing is posted if it stands already
+    QColor ForeColor() const;
+    void SetPlace(const Place &place); // the place of the design, from which the label grows
+    void Redraw(); // at once
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void grow();
+
+    QRect m_place; // of the design, in pixels
+    QRect m_grown; // where the label was put last; anything else was set from outside and is a new design
+};
+
+} // namespace forms

@@ -1,0 +1,231 @@
+#include "forms/listbox.h"
+
+#include "host/failure.h"
+#include "host/letters.h"
+
+#include <QPointer>
+#include <QSignalBlocker>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace forms {
+
+namespace {
+
+// Rows as high as the font, so that code that reckons with the height of a line meets the rows.
+class Rows final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return { QStyledItemDelegate::sizeHint(option, index).width(), option.fontMetrics.height() };
+    }
+};
+
+bool isMouseEvent(const QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+ListBox::ListBox(QWidget *parent, bool sorted)
+    : Control(parent)
+    , m_sorted(sorted)
+{
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setUniformItemSizes(true);
+    setTextElideMode(Qt::ElideNone);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setItemDelegate(new Rows(this));
+    viewport()->setMouseTracking(true);
+    // Only what comes from neither mouse nor keys nor code gets here: an assistive program's selection.
+    connect(this, &QListWidget::itemSelectionChanged, this, [this] {
+        if (ListIndex() >= 0)
+            Selection.raise();
+    });
+}
+
+int ListBox::AddItem(const QString &text, int itemData)
+{
+    int first = 0;
+    int last = m_sorted ? count() : 0;
+    while (first < last) {
+        const int middle = (first + last) / 2;
+        if (host::compareNames(text, item(middle)->text()) < 0)
+            last = middle;
+        else
+            first = middle + 1;
+    }
+    const int row = m_sorted ? first : count();
+    auto *entry = new QListWidgetItem(text);
+    entry->setData(Qt::UserRole, itemData);
+    const QSignalBlocker quiet(this);
+    insertItem(row, entry);
+    return row;
+}
+
+void ListBox::RemoveItem(int index)
+{
+    if (index < 0 || index >= count())
+        throw host::Failure(host::InvalidArgument, u"remove a list entry"_s, QString::number(index));
+    const QSignalBlocker quiet(this);
+    // Else the selection would go to a neighbour.
+    if (index == ListIndex())
+        setCurrentRow(-1);
+    delete takeItem(index);
+}
+
+void ListBox::Clear()
+{
+    const QSignalBlocker quiet(this);
+    clear();
+}
+
+QString ListBox::List(int index) const
+{
+    const QListWidgetItem *entry = item(index);
+    return entry ? entry->text() : QString();
+}
+
+int ListBox::ItemData(int index) const
+{
+    const QListWidgetItem *entry = item(index);
+    if (!entry)
+        throw host::Failure(host::InvalidProperty, u"read a list entry's number"_s, QString::number(index));
+    return entry->data(Qt::UserRole).toInt();
+}
+
+int ListBox::ListIndex() const
+{
+    // Not the current row: that one may be the place of the keyboard only.
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+void ListBox::SetListIndex(int index)
+{
+    if (index < -1 || index >= count())
+        throw host::Failure(host::InvalidProperty, u"select a list entry"_s, QString::number(index));
+    select(index);
+}
+
+QString ListBox::Text() const
+{
+    return List(ListIndex());
+}
+
+void ListBox::SetText(const QString &text)
+{
+    int index = 0;
+    while (index < count() && item(index)->text() != text)
+        ++index;
+    select(index < count() ? index : -1);
+}
+
+int ListBox::TopIndex() const
+{
+    return std::max(indexAt(QPoint(0, 0)).row(), 0);
+}
+
+int ListBox::ItemFromPoint(int x, int y) const
+{
+    const QPoint point(x, y);
+    if (!viewport()->rect().contains(point))
+        return -1;
+    const QModelIndex index = indexAt(point);
+    return index.isValid() ? index.row() : count();
+}
+
+void ListBox::select(int index)
+{
+    {
+        const QSignalBlocker quiet(this);
+        setCurrentRow(index);
+    }
+    if (index >= 0)
+        Selection.raise();
+}
+
+void ListBox::mousePressEvent(QMouseEvent *event)
+{
+    press(*event);
+    event->accept();
+}
+
+void ListBox::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (press(*event) && event->button() != Qt::RightButton)
+        DblClick.raise();
+    event->accept();
+}
+
+// Returns whether the list still exists.
+bool ListBox::press(const QMouseEvent &event)
+{
+    const QPointer<QObject> self(this);
+    MouseDown.raise(mouseOf(event));
+    if (!self || event.button() != Qt::LeftButton || !isEnabled())
+        return self;
+    const QModelIndex index = indexAt(event.position().toPoint());
+    if (index.isValid()) {
+        // No scrolling to a row half in view: the second press of a double click would meet another row.
+        setAutoScroll(false);
+        const auto scrolling = qScopeGuard([this, &self] {
+            if (self)
+                setAutoScroll(true);
+        });
+        select(index.row());
+    }
+    return self;
+}
+
+void ListBox::mouseMoveEvent(QMouseEvent *event)
+{
+    if (event->buttons() == Qt::NoButton) {
+        Control::mouseMoveEvent(event);
+        return;
+    }
+    MouseMove.raise(heldMouseOf(*event));
+    event->accept();
+}
+
+void ListBox::keyPressEvent(QKeyEvent *event)
+{
+    if (keyCodeOf(*event) != 0) {
+        Control::keyPressEvent(event);
+        return;
+    }
+    const int before = ListIndex();
+    {
+        const QSignalBlocker quiet(this);
+        Control::keyPressEvent(event);
+    }
+    const int after = ListIndex();
+    if (after >= 0 && after != before)
+        Selection.raise();
+}
+
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(
+    const QModelIndex &index, const QEvent *event) const
+{
+    // The presses select by themselves; moves and releases never do.
+    if (event && isMouseEvent(*event))
+        return QItemSelectionModel::NoUpdate;
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::Clear;
+}
+
+} // namespace forms

@@ -1,0 +1,57 @@
+// A list from which one entry is selected.
+#pragma once
+
+#include "forms/control.h"
+
+#include <QListWidget>
+
+namespace forms {
+
+// Indices count from 0; -1 is no entry. Selecting from code raises Selection, also for the entry selected
+// already; so does a press of the left button on an entry, also on the selected one, and a move by the
+// keyboard. The right and the middle button never select, and neither does the pointer moved with a button
+// held. Adding, removing and clearing raise nothing.
+class ListBox : public Control<QListWidget> {
+public:
+    explicit ListBox(QWidget *parent, bool sorted = false);
+
+    Event<> Selection;
+
+    // Appends, or in a sorted list inserts by upper-cased text, code point by code point, behind its equals.
+    // Returns the new entry's index. The selected entry stays selected.
+    int AddItem(const QString &text, int itemData = 0);
+    void RemoveItem(
+        int index); // fails with 5 for an index out of range; removing the selected entry selects none
+    void Clear();
+
+    int ListCount() const { return count(); }
+    QString List(int index) const; // an empty text for an index out of range
+    int ItemData(int index) const; // fails with 380 for an index out of range
+
+    int ListIndex() const;
+    void SetListIndex(int index); // -1 deselects without an event; otherwise fails with 380 out of range
+
+    QString Text() const; // of the selected entry, empty if there is none
+    void SetText(const QString
+            &text); // selects the first entry with exactly this text, else deselects without an event
+
+    int TopIndex() const; // the first entry in view
+    // The entry at this point of the client area, in pixels; below the last entry ListCount() is given where
+    // that is still inside the control, -1 outside.
+    int ItemFromPoint(int x, int y) const;
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(
+        const QModelIndex &index, const QEvent *event) const override;
+
+private:
+    void select(int index);
+    bool press(const QMouseEvent &event);
+    bool m_sorted;
+};
+
+} // namespace forms

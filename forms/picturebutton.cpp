@@ -1,0 +1,148 @@
+#include "forms/picturebutton.h"
+
+#include "forms/pictures.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+
+namespace forms {
+
+PictureButton::PictureButton(const QString &atRest, const QString &pressed, QWidget *parent)
+    : QAbstractButton(parent)
+    , m_pressedName(pressed)
+{
+    setObjectName(atRest);
+    setFocusPolicy(Qt::TabFocus);
+    // The toolkit's own press and release, which assistive programs start; mouse and keys don't come this
+    // way.
+    connect(this, &QAbstractButton::pressed, this, [this] { press(By::Other); });
+    connect(this, &QAbstractButton::clicked, this, [this] { release(); });
+}
+
+void PictureButton::SetPlace(const Place &place, int pressedWidth)
+{
+    m_restWidth = pixels(place.width);
+    m_pressedWidth = pressedWidth == 0 ? m_restWidth : pixels(pressedWidth);
+    forms::move(*this, place);
+    showPicture(m_pressedBy);
+}
+
+void PictureButton::showPicture(By pressedBy)
+{
+    m_pressedBy = pressedBy;
+    if (m_restWidth > 0)
+        resize(ShowsPressed() ? m_pressedWidth : m_restWidth, height());
+    repaint();
+}
+
+void PictureButton::press(By means)
+{
+    showPicture(means);
+    Press.raise();
+}
+
+void PictureButton::release()
+{
+    if (!ShowsPressed())
+        return;
+    showPicture(By::Nothing);
+    Release.raise();
+}
+
+void PictureButton::cancel()
+{
+    m_keyHeld = false;
+    if (ShowsPressed())
+        showPicture(By::Nothing);
+}
+
+void PictureButton::paintEvent(QPaintEvent *)
+{
+    const QString name = ShowsPressed() ? m_pressedName : objectName();
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, artwork(name, size(), devicePixelRatioF()));
+    if (hasFocus()) {
+        painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void PictureButton::mousePressEvent(QMouseEvent *event)
+{
+    event->accept();
+    // A press whose release got lost doesn't count as held.
+    const bool held =
+        m_pressedBy == By::Mouse && event->button() != m_button && (event->buttons() & m_button);
+    if (held || m_pressedBy == By::Other)
+        return;
+    m_button = event->button();
+    press(By::Mouse);
+}
+
+void PictureButton::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    mousePressEvent(event);
+}
+
+void PictureButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    event->accept();
+    if (m_pressedBy == By::Mouse && event->button() == m_button)
+        release();
+}
+
+void PictureButton::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Space) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    if (event->isAutoRepeat() || ShowsPressed())
+        return;
+    const QPointer<PictureButton> self(this);
+    press(By::Other);
+    if (!self)
+        return;
+    m_keyHeld = hasFocus();
+    // Where the press has moved the focus on, the key's release goes there.
+    if (!m_keyHeld)
+        release();
+}
+
+void PictureButton::keyReleaseEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Space) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    if (event->isAutoRepeat() || !m_keyHeld)
+        return;
+    m_keyHeld = false;
+    release();
+}
+
+void PictureButton::focusOutEvent(QFocusEvent *event)
+{
+    QAbstractButton::focusOutEvent(event);
+    if (m_keyHeld)
+        cancel();
+}
+
+void PictureButton::changeEvent(QEvent *event)
+{
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        cancel();
+}
+
+void PictureButton::hideEvent(QHideEvent *event)
+{
+    QAbstractButton::hideEvent(event);
+    cancel();
+}
+
+} // namespace forms

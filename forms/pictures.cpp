@@ -1,0 +1,66 @@
+#include "forms/pictures.h"
+
+#include "host/failure.h"
+#include "host/numberedfiles.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QHash>
+#include <QPainter>
+#include <QSvgRenderer>
+
+using namespace Qt::StringLiterals;
+
+namespace forms {
+
+namespace {
+
+QHash<QString, QPixmap> drawn;
+
+// Pictures must be gone before the application object.
+void forgetAtTheEnd()
+{
+    static const bool once = [] {
+        qAddPostRoutine([] { drawn.clear(); });
+        return true;
+    }();
+    Q_UNUSED(once)
+}
+
+QPixmap draw(const QString &file, const QSize &size, qreal devicePixelRatio)
+{
+    QImage image((QSizeF(size) * devicePixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    {
+        QPainter painter(&image);
+        QSvgRenderer(file).render(&painter, QRectF(image.rect()));
+    }
+    image.setDevicePixelRatio(devicePixelRatio);
+    return QPixmap::fromImage(image);
+}
+
+} // namespace
+
+QPixmap LoadPicture(const QString &path)
+{
+    QPixmap picture;
+    if (!picture.loadFromData(host::readBytes(path)))
+        throw host::Failure(host::InvalidPicture, u"load a picture"_s, path);
+    return picture;
+}
+
+QPixmap artwork(const QString &name, const QSize &size, qreal devicePixelRatio)
+{
+    const QString file = u":/artwork/%1.svg"_s.arg(name);
+    if (size.isEmpty() || !QFile::exists(file))
+        return {};
+    const QString key = u"%1 %2 %3 %4"_s.arg(name).arg(size.width()).arg(size.height()).arg(devicePixelRatio);
+    auto found = drawn.constFind(key);
+    if (found == drawn.constEnd()) {
+        forgetAtTheEnd();
+        found = drawn.insert(key, draw(file, size, devicePixelRatio));
+    }
+    return *found;
+}
+
+} // namespace forms

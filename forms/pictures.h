@@ -1,0 +1,17 @@
+// Pictures: from files the user brings, and the program's own artwork.
+#pragma once
+
+#include <QPixmap>
+#include <QString>
+
+namespace forms {
+
+// A picture file, found in any case. Fails with 53 if it is missing, 481 if it is no picture that can be
+// read.
+QPixmap LoadPicture(const QString &path);
+
+// The artwork of this name (":/artwork/<name>.svg") at the size given in design pixels, drawn for the device
+// pixel ratio; kept once drawn. A name without a drawing is a fault of the build and gives an empty picture.
+QPixmap artwork(const QString &name, const QSize &size, qreal devicePixelRatio);
+
+} // namespace forms

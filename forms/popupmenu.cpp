@@ -1,0 +1,44 @@
+#include "forms/popupmenu.h"
+
+#include <QCursor>
+
+namespace forms {
+
+MenuEntry::MenuEntry(QAction *action)
+    : m_action(action)
+{
+    QObject::connect(action, &QAction::triggered, action, [this] { Click.raise(); });
+}
+
+QString MenuEntry::Caption() const
+{
+    return m_action->text();
+}
+
+void MenuEntry::SetCaption(const QString &caption)
+{
+    m_action->setText(caption);
+}
+
+PopupMenu::PopupMenu(const QString &name, QWidget *parent)
+    : QMenu(parent)
+{
+    setObjectName(name);
+}
+
+PopupMenu::~PopupMenu() = default;
+
+MenuEntry *PopupMenu::AddEntry(const QString &name, const QString &caption)
+{
+    QAction *action = addAction(caption);
+    action->setObjectName(name);
+    m_entries.push_back(std::unique_ptr<MenuEntry>(new MenuEntry(action)));
+    return m_entries.back().get();
+}
+
+void PopupMenu::Popup()
+{
+    exec(QCursor::pos());
+}
+
+} // namespace forms

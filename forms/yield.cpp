@@ -1,0 +1,79 @@
+#include "forms/yield.h"
+
+#include <QApplication>
+#include <QSocketNotifier>
+#include <QTimer>
+#include <QWidget>
+
+namespace forms {
+
+namespace {
+
+// Sees whether anything at all is delivered while it lives.
+class Witness final : public QObject {
+public:
+    Witness() { qApp->installEventFilter(this); }
+
+    bool hasSeen() const { return m_seen; }
+
+protected:
+    bool eventFilter(QObject *, QEvent *) override
+    {
+        m_seen = true;
+        return false;
+    }
+
+private:
+    bool m_seen = false;
+};
+
+// What a turn of the loop leaves for later: deletions, and the painting, which the toolkit delays.
+void finish()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (!window->isVisible())
+            continue;
+        QEvent paint(QEvent::UpdateRequest);
+        QCoreApplication::sendEvent(window, &paint);
+    }
+}
+
+} // namespace
+
+void DoEvents()
+{
+    QCoreApplication::processEvents();
+    finish();
+}
+
+void DoEventsWithoutInput()
+{
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    finish();
+}
+
+void WaitForEvents(int descriptor, int milliseconds)
+{
+    const Witness witness;
+    QTimer over;
+    over.setSingleShot(true);
+    over.setTimerType(Qt::PreciseTimer);
+    over.start(milliseconds);
+    QSocketNotifier readable(QSocketNotifier::Read);
+    if (descriptor >= 0) {
+        readable.setSocket(descriptor);
+        QObject::connect(
+            &readable, &QSocketNotifier::activated, &readable, [&readable] { readable.setEnabled(false); });
+        readable.setEnabled(true);
+    }
+
+    // What is pending already doesn't keep the loop from waiting for more, so it gets a turn of its own.
+    QCoreApplication::processEvents();
+    while (!witness.hasSeen() && over.isActive())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace forms
