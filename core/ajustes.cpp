@@ -1,0 +1,190 @@
+#include "core/ajustes.h"
+
+#include "core/lineas.h"
+
+#include "host/letters.h"
+#include "host/paths.h"
+
+using namespace Qt::StringLiterals;
+
+namespace core {
+
+namespace {
+
+constexpr int PrimeraLineaDeFiltros = 20; // counted from 0
+
+// Which line, counted from 0, holds which setting.
+struct LineaDeAjuste {
+    int numero;
+    QString Modulo::*variable;
+};
+constexpr LineaDeAjuste LineasDeAjustes[] = {
+    { 11, &Modulo::UltimoSistema },
+    { 12, &Modulo::UltimoEmulador },
+    { 13, &Modulo::GuardarUltimo },
+    { 14, &Modulo::TypeOfEditor },
+    { 15, &Modulo::MsgEndDOS },
+    { 16, &Modulo::LanguageFile },
+    { 17, &Modulo::DebugMode },
+};
+
+QString sinBlancosFinales(const QString &texto)
+{
+    qsizetype final = texto.size();
+    while (final > 0 && texto[final - 1] == u' ')
+        --final;
+    return texto.left(final);
+}
+
+void leeLineas(Modulo &M)
+{
+    int filtro = 0;
+    for (int n = 0; !M.Ficheros.atEnd(1); ++n) {
+        const QString linea = M.Ficheros.readLine(1);
+        for (const LineaDeAjuste &ajuste : LineasDeAjustes) {
+            if (ajuste.numero == n)
+                M.*(ajuste.variable) = linea;
+        }
+        if (n < PrimeraLineaDeFiltros)
+            continue;
+        if (linea.isEmpty())
+            break;
+        M.Filtros(filtro++) = sinBlancosFinales(linea);
+    }
+}
+
+// Every filter and a comma, an empty one as the last; the two commas at the end are cut.
+QString filtrosEnTexto(const Tabla<QString> &filtros)
+{
+    QString texto;
+    for (int i = 0;; ++i) {
+        texto += filtros(i) + u',';
+        if (filtros(i).isEmpty())
+            break;
+    }
+    if (texto.size() < 2)
+        throw host::Failure(host::InvalidArgument, u"read the [Filters] section"_s, u"Zembro.cfg"_s);
+    return texto.chopped(2);
+}
+
+} // namespace
+
+bool EsPrimeraVez(Modulo &M)
+{
+    M.Ficheros.openForInput(1, host::programFile(u"Zembro.cfg"_s));
+    bool vacio = false;
+    do
+        vacio = M.Ficheros.readField(1) == MarcaVacio;
+    while (!vacio && !M.Ficheros.atEnd(1));
+    M.Ficheros.close(1);
+    return vacio;
+}
+
+void LeeAjustes(Modulo &M)
+{
+    for (const LineaDeAjuste &ajuste : LineasDeAjustes)
+        (M.*(ajuste.variable)).clear();
+    M.Ficheros.openForInput(1, host::programFile(u"Zembro.cfg"_s));
+    leeLineas(M);
+    M.Ficheros.close(1);
+    for (const LineaDeAjuste &ajuste : LineasDeAjustes)
+        M.*(ajuste.variable) = ValorDeAjuste(M.*(ajuste.variable));
+    M.FiltrosTexto = filtrosEnTexto(M.Filtros);
+}
+
+QString ValorDeAjuste(const QString &linea)
+{
+    const qsizetype igual = linea.lastIndexOf(u'=') + 1; // counted from 1, 0 if there is none
+    const qsizetype largo = linea.size() - igual - 1;
+    if (largo < 0)
+        throw host::Failure(host::InvalidArgument, u"read a setting of Zembro.cfg"_s, linea);
+    return linea.right(largo);
+}
+
+QString AjustesPorDefecto(const QString &LanguageFile)
+{
+    const QStringList lineas {
+        u"'                +----------------------------------+"_s,
+        u"'                |            Zembrolix             |"_s,
+        u"'                |  =- Archivo de configuracion -=  |"_s,
+        u"'                |     =- Configuration file -=     |"_s,
+        u"'                +----------------------------------+"_s,
+        u"'"_s,
+        u"'          * Please don't manipulate this file manually"_s,
+        u"'          * Por favor no manipular este archivo manualmente"_s,
+        u"'"_s,
+        QString(),
+        u"[General]"_s,
+        u"LastSisUsed = 0"_s,
+        u"LastEmuUsed = 0"_s,
+        u"SaveLastEmu&Sis = 1"_s,
+        u"TypeOfEditor = 1"_s,
+        u"MsgEndDOS = Finalizado"_s,
+        u"LanguageFile = "_s + LanguageFile,
+        u"DebugMode = 0"_s,
+        QString(),
+        u"[Filters]"_s,
+        u"ARTWORK"_s, u"CABINETS"_s, u"CFG"_s, u"DATAS"_s, u"FLYERS"_s, u"HI"_s, u"ICONS"_s, u"IMAGES"_s, u"INP"_s,
+        u"LOGS"_s, u"MEMCARD"_s, u"PCX"_s, u"ROMS"_s, u"SAMPLES"_s, u"SAVES"_s, u"SNAP"_s, u"TRACPLAY"_s,
+        u"ZIPROMS"_s, u"ZIPSAMPL"_s,
+        QString(),
+        u"[EOF]"_s,
+    };
+    return lineas.join(u"\r\n"_s) + u"\r\n"_s;
+}
+
+QString ConAjuste(const QString &texto, Ajuste ajuste, const QStringList &lineasNuevas)
+{
+    // Lines are told by their first nine characters: behind which the new lines come, and where copying goes on.
+    struct Anclas {
+        Ajuste ajuste;
+        QLatin1StringView detras;
+        QLatin1StringView hasta;
+    };
+    static constexpr Anclas anclas[] = {
+        { Ajuste::UltimaSeleccion, "[General]"_L1, "SaveLastE"_L1 },
+        { Ajuste::GuardarUltimo, "LastEmuUs"_L1, "TypeOfEdi"_L1 },
+        { Ajuste::TypeOfEditor, "SaveLastE"_L1, "MsgEndDOS"_L1 },
+        { Ajuste::MsgEndDOS, "TypeOfEdi"_L1, "LanguageF"_L1 },
+        { Ajuste::LanguageFile, "MsgEndDOS"_L1, "DebugMode"_L1 },
+    };
+    const Anclas &ancla = anclas[static_cast<int>(ajuste)];
+
+    Copia copia;
+    bool saltando = false;
+    for (const LineaConFin &linea : EnLineas(texto)) {
+        if (linea.linea.startsWith(ancla.hasta))
+            saltando = false;
+        if (!saltando)
+            copia.Copiar(linea);
+        if (linea.linea.startsWith(ancla.detras)) {
+            for (const QString &nueva : lineasNuevas)
+                copia.Nueva(nueva);
+            saltando = true;
+        }
+    }
+    return copia.Texto();
+}
+
+QStringList LineasDeUltimaSeleccion(int sistema, int emulador)
+{
+    return { u"LastSisUsed = "_s + QString::number(sistema), u"LastEmuUsed = "_s + QString::number(emulador) };
+}
+
+QString ConFiltros(const QString &texto, const QStringList &filtros)
+{
+    Copia copia;
+    for (const LineaConFin &linea : EnLineas(texto)) {
+        copia.Copiar(linea);
+        if (!linea.linea.startsWith(u"[Filters]"))
+            continue;
+        for (const QString &filtro : filtros)
+            copia.Nueva(host::upper(filtro));
+        copia.Nueva(QString());
+        copia.Nueva(u"[EOF]"_s);
+        break;
+    }
+    return copia.Texto();
+}
+
+} // namespace core

@@ -1,0 +1,119 @@
+#include "core/catalogo.h"
+
+#include "core/ordburbuja.h"
+
+#include "host/letters.h"
+#include "host/paths.h"
+
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace core {
+
+LectorDeCatalogo::LectorDeCatalogo(Modulo &modulo)
+    : M(modulo)
+{
+    for (Tabla2<QString> *tabla : { &M.Cat_Nombre, &M.Cat_EXE, &M.Cat_XDI, &M.Cat_ROM, &M.Cat_IMG, &M.Cat_PAR1,
+             &M.Cat_PAR2, &M.Cat_EXT, &M.Cat_WEB2 })
+        tabla->vacia();
+    M.Cat_WEB1.vacia();
+    M.Indice_Sistema = -1;
+    M.Indice_Emulador = -1;
+}
+
+void LectorDeCatalogo::Linea(const QString &linea)
+{
+    if (linea.startsWith(u'-')) {
+        M.Indice_Emulador = 0;
+        ++M.Indice_Sistema;
+        M.Cat_Nombre(M.Indice_Sistema, 0) = linea;
+    } else if (linea.startsWith(u'+')) {
+        m_extension = 0;
+        ++M.Indice_Emulador;
+        M.Cat_Nombre(M.Indice_Sistema, M.Indice_Emulador) = linea;
+    } else if (linea.startsWith(u"*.")) {
+        M.Cat_EXT(M.Indice_Sistema, m_extension++) = linea;
+    } else if (linea.startsWith(u"WEB1")) {
+        M.Cat_WEB1(M.Indice_Sistema) = linea;
+    } else {
+        lineaDeEmulador(linea);
+    }
+}
+
+void LectorDeCatalogo::lineaDeEmulador(const QString &linea)
+{
+    const struct {
+        QLatin1StringView prefijo;
+        Tabla2<QString> &tabla;
+    } claves[] = { { "EXE"_L1, M.Cat_EXE }, { "XDI"_L1, M.Cat_XDI }, { "ROM"_L1, M.Cat_ROM }, { "IMG"_L1, M.Cat_IMG },
+        { "PAR1"_L1, M.Cat_PAR1 }, { "PAR2"_L1, M.Cat_PAR2 }, { "WEB2"_L1, M.Cat_WEB2 } };
+    for (const auto &clave : claves) {
+        if (linea.startsWith(clave.prefijo))
+            clave.tabla(M.Indice_Sistema, M.Indice_Emulador) = linea;
+    }
+}
+
+void LeeCatalogo(Modulo &M)
+{
+    LectorDeCatalogo lector(M);
+    M.Ficheros.openForInput(1, host::programFile(M.VerBaseDeDatos == 1 ? u"Zembro.sye"_s : u"Zembro.emu"_s));
+    do
+        lector.Linea(M.Ficheros.readLine(1));
+    while (!M.Ficheros.atEnd(1));
+    M.Ficheros.close(1);
+}
+
+int TotalEmuladores(const Modulo &M, int sistema)
+{
+    int total = 0;
+    while (total + 1 < MaxSistemas && !M.Cat_Nombre(sistema, total + 1).isEmpty())
+        ++total;
+    return total;
+}
+
+namespace {
+
+// Position from 0 of a name among names that start at entry 1 of the table; 0 if it isn't there.
+int posicionOrdenada(std::vector<QString> nombres, const QString &nombre)
+{
+    const int ultimo = static_cast<int>(nombres.size()) - 1;
+    Ordenar(nombres, 1, ultimo);
+    const QString buscado = host::upper(nombre);
+    for (int i = 1; i <= ultimo; ++i) {
+        if (nombres[static_cast<size_t>(i)] == buscado)
+            return i - 1;
+    }
+    return 0;
+}
+
+int posicionDeEmulador(const Modulo &M, const QString &sistema, const QString &emulador)
+{
+    for (int s = 0; s < M.TotalSistemas; ++s) {
+        if (M.Cat_Nombre(s, 0) != u'-' + sistema)
+            continue;
+        std::vector<QString> nombres(1);
+        for (int e = 1; e <= TotalEmuladores(M, s); ++e)
+            nombres.push_back(host::upper(Valor(M.Cat_Nombre(s, e), 1)));
+        return posicionOrdenada(std::move(nombres), emulador);
+    }
+    return 0;
+}
+
+} // namespace
+
+Posiciones PosicionesDe(const Modulo &M, const QString &sistema, const QString &emulador)
+{
+    Posiciones posiciones;
+    if (sistema.isEmpty())
+        return posiciones;
+
+    std::vector<QString> nombres(1);
+    for (int s = 0; s < M.TotalSistemas; ++s)
+        nombres.push_back(host::upper(Valor(M.Cat_Nombre(s, 0), 1)));
+    posiciones.sistema = posicionOrdenada(std::move(nombres), sistema);
+    posiciones.emulador = emulador.isEmpty() ? NingunEmulador : posicionDeEmulador(M, sistema, emulador);
+    return posiciones;
+}
+
+} // namespace core

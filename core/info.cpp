@@ -1,0 +1,81 @@
+#include "core/info.h"
+
+#include "host/letters.h"
+#include "host/numbers.h"
+
+using namespace Qt::StringLiterals;
+
+namespace core {
+
+void BuscaROM(const Modulo &M, const QString &texto, const std::function<void(const FichaDeROM &)> &visita)
+{
+    bool encontrada = false;
+    int i = 0;
+    do {
+        if (M.Nota_Texto(i) == texto) {
+            encontrada = true;
+            visita({ host::upper(M.Nota_Clave(i)), true });
+        }
+        ++i;
+    } while (!M.Nota_Clave(i).isEmpty());
+    if (!encontrada)
+        visita({ texto, false });
+}
+
+namespace {
+
+QString kilobytes(const QString &ruta, const LargoDeFichero &largo)
+{
+    return host::formatGrouped(static_cast<double>(largo(ruta)) / 1024);
+}
+
+// A size read back as a number and written again: no group signs, and a blank ahead of it.
+QString comoNumero(const QString &tamaño)
+{
+    QString cifras;
+    for (const QChar letra : tamaño) {
+        if (letra.isDigit())
+            cifras += letra;
+    }
+    if (cifras.isEmpty())
+        throw host::Failure(host::TypeMismatch, u"read a size as a number"_s, tamaño);
+    return u' ' + cifras;
+}
+
+QString hastaElPunto(const QString &nombre)
+{
+    const qsizetype punto = nombre.indexOf(u'.');
+    if (punto < 0)
+        throw host::Failure(host::InvalidArgument, u"cut a name at its point"_s, nombre);
+    return nombre.left(punto);
+}
+
+} // namespace
+
+QString LineaDeInfo(int tipo, const QString &directorio, const FichaDeROM &ficha, const LargoDeFichero &largo)
+{
+    const QString mayus = host::upper(ficha.nombre);
+    if (FicherosSueltos(tipo)) {
+        const QString marca = mayus.endsWith(u"ZIP") ? u" [ZIP]"_s : u" [NOR]"_s;
+        return ficha.nombre + u' ' + kilobytes(directorio + ficha.nombre, largo) + u"Kb "_s + marca;
+    }
+    if (UnDirectorioPorJuego(tipo))
+        return mayus + u" [DIR]"_s;
+    if (!UnZipPorJuego(tipo))
+        return {};
+    if (ficha.conNota)
+        return mayus + u".ZIP "_s + comoNumero(kilobytes(directorio + mayus + u".ZIP"_s, largo)) + u"Kb [ZIP]"_s;
+    return mayus + u' ' + kilobytes(directorio + ficha.nombre, largo) + u"Kb [ZIP]"_s;
+}
+
+QString RutaDeCaptura(int tipo, const QString &directorio, const FichaDeROM &ficha)
+{
+    const QString gif = u".GIF"_s;
+    if (UnDirectorioPorJuego(tipo) || (UnZipPorJuego(tipo) && ficha.conNota))
+        return directorio + ficha.nombre + gif;
+    if (UnZipPorJuego(tipo) || FicherosSueltos(tipo))
+        return directorio + hastaElPunto(ficha.nombre) + gif;
+    return {};
+}
+
+} // namespace core

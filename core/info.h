@@ -1,0 +1,30 @@
+// From an entry of the list back to its file: the line of facts, and the capture's name.
+#pragma once
+
+#include "core/lista.h"
+#include "core/modulo.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace core {
+
+// What an entry of the list stands for.
+struct FichaDeROM {
+    QString nombre;        // the note's key in upper case, or the entry's own text
+    bool conNota = false;
+};
+
+// Gives every note with this text, in the order of the table, to `visita`; without one, the text itself. The first
+// note is always tried. Fails with 9 behind a full table.
+void BuscaROM(const Modulo &M, const QString &texto, const std::function<void(const FichaDeROM &)> &visita);
+
+// The line of facts of an emulator type; empty for a type without one. Fails with 53 if the file is gone, and with 13
+// for a ZIP with a note whose size rounds to nothing.
+QString LineaDeInfo(int tipo, const QString &directorio, const FichaDeROM &ficha, const LargoDeFichero &largo);
+
+// Path of the capture; empty for a type without captures. Fails with 5 for a name without the point at which it is cut.
+QString RutaDeCaptura(int tipo, const QString &directorio, const FichaDeROM &ficha);
+
+} // namespace core

@@ -1,0 +1,48 @@
+#include "core/lineas.h"
+
+namespace core {
+
+std::vector<LineaConFin> EnLineas(QStringView texto)
+{
+    std::vector<LineaConFin> lineas;
+    qsizetype inicio = 0;
+    while (inicio < texto.size()) {
+        const qsizetype salto = texto.indexOf(u'\n', inicio);
+        const qsizetype siguiente = salto < 0 ? texto.size() : salto + 1;
+        qsizetype final = salto < 0 ? texto.size() : salto;
+        if (salto > inicio && texto[salto - 1] == u'\r')
+            --final;
+        lineas.push_back({ texto.sliced(inicio, final - inicio), texto.sliced(final, siguiente - final) });
+        inicio = siguiente;
+    }
+    return lineas;
+}
+
+void Copia::Copiar(const LineaConFin &linea)
+{
+    cierraLinea();
+    m_texto += linea.linea;
+    m_texto += linea.fin;
+}
+
+void Copia::Nueva(const QString &linea)
+{
+    cierraLinea();
+    m_texto += linea;
+    m_texto += u"\r\n";
+}
+
+void Copia::Resto(QStringView texto)
+{
+    cierraLinea();
+    m_texto += texto;
+}
+
+// Something follows a last line that had no end of its own.
+void Copia::cierraLinea()
+{
+    if (!m_texto.isEmpty() && !m_texto.endsWith(u'\n'))
+        m_texto += u"\r\n";
+}
+
+} // namespace core

@@ -1,0 +1,206 @@
+#include "core/lista.h"
+
+#include "core/notas.h"
+
+#include "host/letters.h"
+#include "host/numbers.h"
+#include "host/paths.h"
+
+#include <QHash>
+
+using namespace Qt::StringLiterals;
+
+namespace core {
+
+bool UnDirectorioPorJuego(int tipo)
+{
+    return tipo == 1 || tipo == 6;
+}
+
+bool FicherosSueltos(int tipo)
+{
+    return tipo == 0 || tipo == 5;
+}
+
+bool UnZipPorJuego(int tipo)
+{
+    return tipo == 2 || tipo == 3 || tipo == 7 || tipo == 8;
+}
+
+bool CargaSoloElEmulador(int tipo)
+{
+    return tipo >= 5 && tipo <= 8;
+}
+
+namespace {
+
+// Only so many filters are walked; with more of them, and none fitting, the walk never meets the empty one at which a
+// directory is taken.
+constexpr int FiltrosMirados = 26;
+
+bool pasaLosFiltros(const Modulo &M, const QString &nombreMayus)
+{
+    for (int f = 0; f < FiltrosMirados; ++f) {
+        if (M.Filtros(f).isEmpty())
+            return true;
+        if (M.Filtros(f) == nombreMayus)
+            return false;
+    }
+    return false;
+}
+
+} // namespace
+
+int ExploraDirectorio(Modulo &M, int tipo, const QString &directorio)
+{
+    const bool directorios = UnDirectorioPorJuego(tipo);
+    const QStringList nombres = directorios ? host::listDirectories(directorio) : host::listFiles(directorio);
+    for (int i = 0; i < nombres.size(); ++i) {
+        const QString mayus = host::upper(nombres[i]);
+        const bool tomado = !directorios || pasaLosFiltros(M, mayus);
+        M.Arch_Mayus(i) = tomado ? mayus : QString();
+        M.Arch_Nombre(i) = directorios ? M.Arch_Mayus(i) : nombres[i];
+    }
+    return static_cast<int>(nombres.size());
+}
+
+int CargaNotasEnMayusculas(Modulo &M, const QString &sistema)
+{
+    const int total = CargaNotas(M, sistema);
+    for (int i = 0; i < total; ++i)
+        M.Nota_Clave(i) = host::upper(M.Nota_Clave(i));
+    return total;
+}
+
+int CargaExtensiones(Modulo &M, int sistema)
+{
+    int total = 0;
+    while (total < MaxSistemas && !M.Cat_EXT(sistema, total).isEmpty()) {
+        M.ExtActivas(total) = Valor(M.Cat_EXT(sistema, total), 2);
+        ++total;
+    }
+    return total;
+}
+
+int VecesQueEncaja(const Modulo &M, const QString &nombreMayus, int extensiones)
+{
+    int veces = 0;
+    for (int e = 0; e < extensiones; ++e) {
+        for (int letras = 1; letras <= 3; ++letras) {
+            if (nombreMayus.right(letras) == M.ExtActivas(e)) {
+                ++veces;
+                break;
+            }
+        }
+    }
+    return veces;
+}
+
+namespace {
+
+// One pass over a directory's entries.
+class Emparejador {
+public:
+    Emparejador(const Modulo &modulo, int tipo, const QString &directorio, int notas, int extensiones,
+        const LargoDeFichero &largo)
+        : M(modulo)
+        , m_tipo(tipo)
+        , m_directorio(directorio)
+        , m_notas(notas)
+        , m_extensiones(extensiones)
+        , m_largo(largo)
+    {
+        for (int j = notas - 1; j >= 0; --j)
+            m_porClave[M.Nota_Clave(j)] = j; // the first of two with one key stays
+    }
+
+    void Entrada(int i)
+    {
+        const QString buscada = UnZipPorJuego(m_tipo) ? claveDeZip(M.Arch_Mayus(i)) : M.Arch_Mayus(i);
+        const auto nota = buscada.isNull() ? m_porClave.constEnd() : m_porClave.constFind(buscada);
+        if (nota != m_porClave.constEnd())
+            conNota(i, *nota);
+        else
+            sinNota(i);
+    }
+
+    Recuento recuento;
+
+private:
+    static QString claveDeZip(const QString &mayus)
+    {
+        return mayus.endsWith(u".ZIP") ? mayus.chopped(4) : QString();
+    }
+
+    void conNota(int i, int j)
+    {
+        if (UnDirectorioPorJuego(m_tipo)) {
+            if (!M.Nota_Texto(j).isEmpty())
+                recuento.entradas += M.Nota_Texto(j);
+        } else if (FicherosSueltos(m_tipo)) {
+            añade(VecesQueEncaja(M, M.Arch_Mayus(i), m_extensiones), M.Nota_Texto(j), M.Nota_Clave(j));
+        } else {
+            añade(1, M.Nota_Texto(j), M.Nota_Clave(j) + u".ZIP"_s);
+        }
+    }
+
+    void sinNota(int i)
+    {
+        // The walk through the notes ends at the empty one behind the last; a full table has none.
+        M.Nota_Clave(m_notas);
+        if (UnDirectorioPorJuego(m_tipo)) {
+            if (!M.Arch_Nombre(i).isEmpty())
+                recuento.entradas += M.Arch_Nombre(i);
+        } else if (FicherosSueltos(m_tipo)) {
+            añade(VecesQueEncaja(M, M.Arch_Mayus(i), m_extensiones), M.Arch_Nombre(i), M.Arch_Nombre(i));
+        } else if (M.Arch_Mayus(i).endsWith(u"ZIP")) {
+            añade(1, M.Arch_Nombre(i), M.Arch_Nombre(i));
+        }
+    }
+
+    void añade(int veces, const QString &texto, const QString &fichero)
+    {
+        for (int vez = 0; vez < veces; ++vez) {
+            recuento.entradas += texto;
+            recuento.bytes += static_cast<double>(m_largo(m_directorio + fichero));
+        }
+    }
+
+    const Modulo &M;
+    int m_tipo;
+    QString m_directorio;
+    int m_notas;
+    int m_extensiones;
+    const LargoDeFichero &m_largo;
+    QHash<QString, int> m_porClave;
+};
+
+} // namespace
+
+Recuento Empareja(const Modulo &M, int tipo, const QString &directorio, int entradas, int notas, int extensiones,
+    const LargoDeFichero &largo)
+{
+    Emparejador emparejador(M, tipo, directorio, notas, extensiones, largo);
+    Recuento &recuento = emparejador.recuento;
+    if (!UnDirectorioPorJuego(tipo) && !FicherosSueltos(tipo) && !UnZipPorJuego(tipo))
+        return recuento;
+    try {
+        for (; recuento.exploradas < entradas; ++recuento.exploradas)
+            emparejador.Entrada(recuento.exploradas);
+    } catch (const host::Failure &) {
+        recuento.interrumpido = true;
+    }
+    return recuento;
+}
+
+QString Resumen(int tipo, qsizetype listadas, const Recuento &recuento, const QString &TXT_Directorios)
+{
+    const int relleno = recuento.exploradas < 10 ? 0 : recuento.exploradas < 100 ? 1 : 2;
+    const QString blancos(relleno, u' ');
+    const QString total = QString::number(listadas);
+    if (UnDirectorioPorJuego(tipo))
+        return total + u' ' + TXT_Directorios + blancos;
+    return total + u" ROMS - "_s + host::formatTwoDecimals(recuento.bytes / 1024 / 1024) + u"MB"_s + blancos;
+}
+
+} // namespace core

@@ -1,0 +1,33 @@
+#include "core/modulo.h"
+
+#include <algorithm>
+
+namespace core {
+
+int Numero(const QString &texto)
+{
+    return texto.size() == 1 && texto[0] >= u'0' && texto[0] <= u'9' ? texto[0].unicode() - u'0' : -1;
+}
+
+int NumeroDeAjuste(const QString &texto)
+{
+    const QString recortado = texto.trimmed();
+    const bool negativo = recortado.startsWith(u'-');
+    qsizetype final = negativo ? 1 : 0;
+    while (final < recortado.size() && recortado[final] >= u'0' && recortado[final] <= u'9')
+        ++final;
+    constexpr int cifrasSeguras = 9; // more can't be a position, and would not fit
+    return recortado.left(std::min<qsizetype>(final, cifrasSeguras + negativo)).toInt();
+}
+
+QString TipoDe(const QString &lineaXDI)
+{
+    return lineaXDI.right(1);
+}
+
+QString Valor(const QString &linea, int prefijo)
+{
+    return linea.mid(prefijo);
+}
+
+} // namespace core

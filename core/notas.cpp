@@ -1,0 +1,199 @@
+#include "core/notas.h"
+
+#include "core/lineas.h"
+
+#include "host/letters.h"
+#include "host/paths.h"
+
+using namespace Qt::StringLiterals;
+
+namespace core {
+
+namespace {
+
+constexpr char16_t CabeceraParametros[] = u"Parametros especificos";
+constexpr char16_t InicioParametros[] = u"Parametros";
+
+QString claveEscrita(const QString &clave)
+{
+    const bool entreComillas = clave.contains(u',') || clave.startsWith(u'\'') || clave.startsWith(u'[');
+    return entreComillas ? u'"' + clave + u'"' : clave;
+}
+
+QString registroDeNota(const QString &clave, const QString &descripcion)
+{
+    return claveEscrita(clave) + u",\""_s + descripcion + u'"';
+}
+
+QString registroDeParametros(const Parametros &parametros)
+{
+    return claveEscrita(parametros.clave) + u',' + parametros.sistema + u',' + parametros.emulador + u','
+        + parametros.texto;
+}
+
+// What lies behind the first comma, or behind the one after a quoted key, without the quotes around it.
+QStringView descripcionDe(QStringView linea)
+{
+    const qsizetype desde = linea.startsWith(u'"') ? linea.indexOf(u'"', 1) : 0;
+    const qsizetype coma = desde < 0 ? -1 : linea.indexOf(u',', desde);
+    if (coma < 0 || coma + 2 >= linea.size())
+        return {};
+    return linea.sliced(coma + 2).chopped(1);
+}
+
+bool llevaDescripcion(QStringView linea, const QString &descripcion)
+{
+    if (linea.isEmpty() || (linea[0] <= u'\'' && linea[0] != u'"'))
+        return false;
+    return linea.contains(u',') && descripcionDe(linea) == descripcion;
+}
+
+Parametros leeParametros(host::TextSource &fuente)
+{
+    Parametros leidos;
+    leidos.clave = fuente.readField();
+    leidos.sistema = CampoOVacio(fuente);
+    leidos.emulador = CampoOVacio(fuente);
+    leidos.texto = CampoOVacio(fuente);
+    return leidos;
+}
+
+void copiaSinVacias(Copia &copia, QStringView texto)
+{
+    for (const LineaConFin &linea : EnLineas(texto)) {
+        if (!linea.linea.isEmpty())
+            copia.Copiar(linea);
+    }
+}
+
+// The lines up to and with the one that begins the section; returns what lies behind it.
+QStringView copiaHastaParametros(Copia &copia, QStringView texto)
+{
+    qsizetype leido = 0;
+    for (const LineaConFin &linea : EnLineas(texto)) {
+        leido += linea.linea.size() + linea.fin.size();
+        if (!linea.linea.isEmpty())
+            copia.Copiar(linea);
+        if (linea.linea.startsWith(InicioParametros))
+            return texto.sliced(leido);
+    }
+    throw host::Failure(host::PastEndOfFile, u"find the section of parameters"_s, u"Zembro.rom"_s);
+}
+
+} // namespace
+
+QString CampoOVacio(host::TextSource &fuente)
+{
+    return fuente.atEnd() ? QString() : fuente.readField();
+}
+
+int CargaNotas(Modulo &M, const QString &sistema)
+{
+    M.Ficheros.openForInput(1, host::programFile(u"Zembro.rom"_s));
+    while (M.Ficheros.readLine(1) != sistema) { }
+    int total = 0;
+    for (;;) {
+        M.Nota_CampoClave = M.Ficheros.readField(1);
+        if (M.Nota_CampoClave == u"'")
+            break;
+        M.Nota_CampoTexto = M.Ficheros.atEnd(1) ? QString() : M.Ficheros.readField(1);
+        M.Nota_Clave(total) = M.Nota_CampoClave;
+        M.Nota_Texto(total) = M.Nota_CampoTexto;
+        ++total;
+    }
+    M.Ficheros.close(1);
+    return total;
+}
+
+int NotaConTexto(const Modulo &M, const QString &texto)
+{
+    for (int i = 0; i < M.Nota_Clave.tamaño() && !M.Nota_Clave(i).isEmpty(); ++i) {
+        if (M.Nota_Texto(i) == texto)
+            return i;
+    }
+    return -1;
+}
+
+QString ConDescripcionNueva(
+    const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion)
+{
+    Copia copia;
+    bool escrita = false;
+    for (const LineaConFin &linea : EnLineas(texto)) {
+        copia.Copiar(linea);
+        if (!escrita && linea.linea == sistema) {
+            copia.Nueva(registroDeNota(clave, descripcion));
+            escrita = true;
+        }
+    }
+    return copia.Texto();
+}
+
+QString ConDescripcionCambiada(
+    const QString &texto, const QString &anterior, const QString &clave, const QString &descripcion)
+{
+    Copia copia;
+    bool cambiada = false;
+    for (const LineaConFin &linea : EnLineas(texto)) {
+        if (!cambiada && llevaDescripcion(linea.linea, anterior)) {
+            copia.Nueva(registroDeNota(host::upper(clave), descripcion));
+            cambiada = true;
+        } else {
+            copia.Copiar(linea);
+        }
+    }
+    return copia.Texto();
+}
+
+QString ConParametrosNuevos(const QString &texto, const Parametros &parametros)
+{
+    Copia copia;
+    bool escritos = false;
+    for (const LineaConFin &linea : EnLineas(texto)) {
+        copia.Copiar(linea);
+        if (!escritos && linea.linea.startsWith(CabeceraParametros)) {
+            copia.Nueva(registroDeParametros(parametros));
+            escritos = true;
+        }
+    }
+    return copia.Texto();
+}
+
+QString ConParametrosCambiados(const QString &texto, const Parametros &parametros)
+{
+    Copia copia;
+    host::TextSource fuente(copiaHastaParametros(copia, texto).toString());
+    const QString buscada = host::upper(parametros.clave);
+    for (;;) {
+        const Parametros leidos = leeParametros(fuente);
+        if (leidos.clave == u"'") {
+            copia.Nueva(leidos.clave);
+            copia.Nueva(leidos.sistema);
+            copia.Nueva(leidos.emulador + u",\""_s + leidos.texto + u'"');
+            break;
+        }
+        const bool propio = host::upper(leidos.clave) == buscada;
+        if (propio && parametros.texto.isEmpty())
+            continue;
+        copia.Nueva(registroDeParametros(propio ? parametros : leidos));
+    }
+    copiaSinVacias(copia, fuente.rest());
+    return copia.Texto();
+}
+
+QString ConSistemaNuevo(const QString &texto, const QString &sistema)
+{
+    Copia copia;
+    bool escrito = false;
+    for (const LineaConFin &linea : EnLineas(texto)) {
+        if (!escrito && linea.linea.startsWith(u'[')) {
+            copia.Nueva(sistema);
+            copia.Nueva(u"'"_s);
+            escrito = true;
+        }
+        copia.Copiar(linea);
+    }
+    return copia.Texto();
+}
+
+} // namespace core
