@@ -1,0 +1,87 @@
+// The line of facts and the capture of the selected entry. Controls: TXT_Info, Graf_Imagen, Imagen of Aumento.
+// An entry that several notes share is looked up in every one of them, and the last one's result stands.
+
+#include "mainscreen/portada.h"
+
+#include "core/catalogo.h"
+#include "core/info.h"
+
+#include "forms/pictures.h"
+
+#include "host/paths.h"
+
+namespace mainscreen {
+
+void Portada::LLena_INFO()
+{
+    if (Combo2->Text().isEmpty())
+        return;
+    try {
+        const int sistema = Sistema();
+        const int emulador = Emulador() + 1;
+        M.TipoEmu = core::TipoDe(M.Cat_XDI(sistema, emulador));
+        if (Lista1->ListIndex() < 0)
+            return;
+        const QString directorio = core::Valor(M.Cat_ROM(sistema, emulador), core::PrefijoRuta);
+        core::BuscaROM(M, Lista1->Text(), [&](const core::FichaDeROM &ficha) {
+            const QString linea
+                = core::LineaDeInfo(core::Numero(M.TipoEmu), directorio, ficha, host::fileLength);
+            if (!linea.isEmpty())
+                PonInfo(linea);
+        });
+    } catch (const host::Failure &) {
+        // The line keeps its text.
+    }
+}
+
+void Portada::Lista1_Selection()
+{
+    LLena_INFO();
+    PonPuntero(RelojDeArena);
+    M.Lista1Cambio = 0;
+    BotonARR->hide();
+    if (M.ZoomActual == 0 && M.ImagenCambio == 0) {
+        SinCaptura();
+        return;
+    }
+    M.ImagenCambio = 0;
+    if (!Combo2->Text().isEmpty())
+        M.TipoEmu = core::TipoDe(M.Cat_XDI(Sistema(), Emulador() + 1));
+    try {
+        CargaCaptura();
+        PonPuntero(PunteroNormal);
+    } catch (const host::Failure &) {
+        SinCaptura();
+    }
+}
+
+void Portada::CargaCaptura()
+{
+    Graf_Imagen->show();
+    const QString directorio = core::Valor(M.Cat_IMG(Sistema(), Emulador() + 1), core::PrefijoRuta);
+    core::BuscaROM(M, Lista1->Text(), [&](const core::FichaDeROM &ficha) {
+        const QString ruta = core::RutaDeCaptura(core::Numero(M.TipoEmu), directorio, ficha);
+        if (ruta.isEmpty())
+            return;
+        const QPixmap captura = forms::LoadPicture(ruta);
+        Graf_Imagen->SetPicture(captura);
+        Aumento.Imagen->SetPicture(captura);
+    });
+}
+
+void Portada::SinCaptura()
+{
+    M.Lista1Cambio = 1;
+    PonNegro();
+    if (!BotonABJ->isHidden())
+        BotonARR->show();
+    PonPuntero(PunteroNormal);
+}
+
+void Portada::PonNegro()
+{
+    Aumento.Imagen->SetPicture(Aumento.Negro->Picture());
+    Graf_Imagen->SetPicture(Aumento.Negro->Picture());
+}
+
+} // namespace mainscreen

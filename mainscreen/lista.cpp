@@ -1,0 +1,88 @@
+// The list of ROMs. Controls: Lista1, TXT_InfoRoms. State: the tables of the list, NumLista.
+// The list keeps the order of the file names, whatever the descriptions say.
+
+#include "mainscreen/portada.h"
+
+#include "core/catalogo.h"
+#include "core/lista.h"
+
+#include "forms/yield.h"
+
+#include "host/paths.h"
+
+using namespace Qt::StringLiterals;
+
+namespace mainscreen {
+
+void Portada::ConectaLista()
+{
+    Lista1->Selection = [this] { Lista1_Selection(); };
+}
+
+void Portada::Llena_Lista()
+{
+    for (core::Tabla<QString> *tabla : { &M.Arch_Nombre, &M.Arch_Mayus, &M.Nota_Clave, &M.Nota_Texto })
+        tabla->vacia();
+    if (Combo2->Text().isEmpty())
+        return;
+
+    m_recuento = 0;
+    try {
+        ActivaParaLista(false);
+        PonInfoRoms(u"..."_s);
+        TXT_InfoRoms->Redraw();
+        Lista1->Clear();
+        forms::DoEventsWithoutInput();
+        PonNegro();
+        TXT_Info->SetForeColor(forms::colourFromNumber(0xC0));
+        PonInfo(M.TXT_Leyendo);
+        PonPuntero(RelojDeArena);
+        LlenaTablasDeLista();
+    } catch (const host::Failure &) {
+        // The list holds what was reached.
+    }
+    TXT_Info->SetForeColor(Qt::black);
+    ActivaParaLista(true);
+    PonPuntero(PunteroNormal);
+    M.NumLista = m_recuento + 1;
+    if (m_recuento == 0) {
+        PonInfoRoms(core::ResumenVacio);
+        PonInfo(M.TXT_NingunaROM);
+    }
+}
+
+void Portada::LlenaTablasDeLista()
+{
+    const int sistema = Sistema();
+    const int emulador = Emulador() + 1;
+    M.TipoEmu = core::TipoDe(M.Cat_XDI(sistema, emulador));
+    const int tipo = core::Numero(M.TipoEmu);
+    const QString directorio = core::Valor(M.Cat_ROM(sistema, emulador), core::PrefijoRuta);
+    const int entradas = core::ExploraDirectorio(M, tipo, directorio);
+    const int notas = core::CargaNotasEnMayusculas(M, Combo1->Text());
+    const int extensiones = core::CargaExtensiones(M, sistema);
+    PonInfo(M.TXT_Añadiendo);
+
+    const core::Recuento recuento
+        = core::Empareja(M, tipo, directorio, entradas, notas, extensiones, host::fileLength);
+    for (const QString &entrada : recuento.entradas)
+        Lista1->AddItem(entrada);
+    m_recuento = recuento.exploradas;
+    if (recuento.interrumpido)
+        return;
+    PonInfoRoms(core::Resumen(tipo, Lista1->ListCount(), recuento, M.TXT_Directorios));
+    if (M.RestaurarROM == 1)
+        Lista1->SetText(M.ROMGuardada);
+    else if (m_recuento > 0)
+        Lista1->SetListIndex(0);
+}
+
+void Portada::ActivaParaLista(bool activo)
+{
+    for (QWidget *control : std::initializer_list<QWidget *> { Lista1, BotonA2, BotonB2, Combo1, Combo2, WEB1, WEB2,
+             BotonC2, BotonD2, JugarB1, X2, X3, X4, X5, OFF, Boton1b, Boton2b, Boton3b, Boton4b, Boton5b, Boton6b,
+             Flecha2, Graf_Imagen, Menos2a, Menos2b, Check1, E1, D1 })
+        control->setEnabled(activo);
+}
+
+} // namespace mainscreen

@@ -1,0 +1,55 @@
+#include "mainscreen/portada.h"
+
+#include "mainscreen/disposicion.h"
+
+#include "host/paths.h"
+
+using namespace Qt::StringLiterals;
+
+namespace mainscreen {
+
+Portada::Portada(core::Modulo &modulo)
+    : Form(u"Portada"_s, LugarDePortada().width, LugarDePortada().height, Border::None)
+    , M(modulo)
+    , m_mensajes(
+          modulo, [this] { return this; }, [this] { return Teja(); })
+{
+    Disposicion::Monta(*this);
+    ConectaArranque();
+    ConectaSeleccion();
+    ConectaLista();
+    ConectaLanzamiento();
+    ConectaSuperficie();
+}
+
+void Portada::Mensaje(int Tipo, const QString &mensaje, const QString &TituloVentana, const QString &Boton1,
+    const QString &Boton2, const QString &MeterEnCajaDeTexto)
+{
+    m_mensajes.Mensaje(Tipo, mensaje, TituloVentana, Boton1, Boton2, MeterEnCajaDeTexto);
+}
+
+dialogs::Teja Portada::Teja() const
+{
+    const forms::Place lugar = forms::placeOf(*Fondo);
+    return { Fondo->Picture(), lugar.width, lugar.height };
+}
+
+void Portada::Textos()
+{
+    const auto directo = [this](const QString &nombre, const QString &texto) {
+        for (forms::MenuEntry *entrada : { Menu_Describir, Menu_Borrar, Menu_Parametros }) {
+            if (entrada->action()->objectName() == nombre)
+                entrada->SetCaption(texto);
+        }
+        if (auto *etiqueta = dynamic_cast<forms::Label *>(Control(nombre)))
+            etiqueta->SetCaption(texto);
+    };
+    core::LectorDeTextos lector(M, directo);
+    M.Ficheros.openForInput(1, host::programFile(u"LNG/"_s + M.LanguageFile));
+    do
+        lector.Linea(M.Ficheros.readLine(1));
+    while (!M.Ficheros.atEnd(1));
+    M.Ficheros.closeAll();
+}
+
+} // namespace mainscreen

@@ -1,0 +1,165 @@
+// The main screen: it lives from the start of the process to its end, and owns the run.
+//
+// One class, one file a topic: arranque (start and exit), seleccion, lista, informacion, lanzamiento, superficie, and
+// disposicion, the table of where every control stands.
+#pragma once
+
+#include "core/modulo.h"
+
+#include "dialogs/mensaje.h"
+
+#include "forms/checks.h"
+#include "forms/combobox.h"
+#include "forms/form.h"
+#include "forms/image.h"
+#include "forms/label.h"
+#include "forms/listbox.h"
+#include "forms/picturebutton.h"
+#include "forms/popupmenu.h"
+#include "forms/shape.h"
+#include "forms/textbox.h"
+
+#include "launch/pantalla.h"
+
+#include "mainscreen/aumento.h"
+
+#include <functional>
+
+namespace mainscreen {
+
+class Portada : public forms::Form, private launch::Pantalla {
+public:
+    // Builds the screen and wires its topics; Carga brings it to life.
+    explicit Portada(core::Modulo &modulo);
+
+    // The start of the program, up to a listed ROM. Has no failure handler: what fails here ends the process.
+    void Carga();
+
+    // Shown modally when the settings haven't been written yet; joined in main.
+    std::function<void()> MuestraPrimeraInstalacion;
+
+    // Operations that the secondary screens call too; input and output are the shared state and the controls.
+    void Textos();
+    void Llena_Combos();
+    void Llena_Lista();
+    void LLena_INFO();
+    void Jugar();
+    void Mensaje(int Tipo, const QString &mensaje, const QString &TituloVentana, const QString &Boton1,
+        const QString &Boton2, const QString &MeterEnCajaDeTexto);
+
+    // The tile of the secondary screens.
+    dialogs::Teja Teja() const;
+
+    // Selection.
+    forms::ComboBox *Combo1, *Combo2;
+    forms::CheckBox *Check1;
+    forms::Label *TXT_dB;
+    forms::PictureButton *Menos2a, *Menos2b;
+
+    // List.
+    forms::ListBox *Lista1;
+    forms::ListBox *File1, *Dir1; // hidden: the last enumeration of files and of directories
+    forms::Label *TXT_InfoRoms;
+
+    // Information, preview and zoom.
+    forms::Image *Graf_TV, *Graf_Imagen;
+    forms::Label *TXT_Info;
+    forms::Image *X2, *X3, *X4, *X5, *OFF;
+    forms::Image *Boton, *BotonARR, *BotonABJ;
+    mainscreen::Aumento Aumento;
+
+    // Actions.
+    forms::PictureButton *JugarB1;
+    forms::Label *TXT_Boton;
+    forms::PictureButton *BotonA2, *BotonB2;
+    forms::Label *TXT_Describir, *TXT_Borrar;
+    forms::PictureButton *Boton1b, *Boton2b, *Boton3b, *Boton4b;
+    forms::Label *TXT_Configurar, *TXT_Opciones, *TXT_Utilidades, *TXT_AcercaDe;
+    forms::PopupMenu *Menu_Lista1;
+    forms::MenuEntry *Menu_Describir, *Menu_Borrar, *Menu_Parametros;
+    forms::PopupMenu *Menu_Graf_Imagen;
+    forms::MenuEntry *Menu_ZoomX2, *Menu_ZoomX3, *Menu_ZoomX4, *Menu_ZoomX5, *Menu_OFF;
+
+    // Documents.
+    forms::PictureButton *BotonC2, *BotonD2, *Boton5b, *Boton6b, *D1, *E1;
+    forms::Label *TXT_VerAyuda, *TXT_VerConfig, *TXT_Ayuda, *TXT_FAQ;
+    forms::TextArea *Editor;
+    forms::PictureButton *FlechaE2, *Edit2, *BlocDeNotas2;
+
+    // Surface.
+    forms::Image *Titulo1;
+    forms::PictureButton *Flecha2;
+    forms::Image *IMGDescripcionLarga, *Fondo;
+    forms::Label *WEB1, *WEB2;
+    forms::Shape *Shape1, *Shape2;
+
+private:
+    void ConectaArranque();
+    void ConectaSeleccion();
+    void ConectaLista();
+    void ConectaLanzamiento();
+    void ConectaSuperficie();
+
+    // Start and exit.
+    void LeeConfiguracion();
+    void ApagaEditor();
+    void MuestraVentana();
+    void MuestraEstado();
+    void Flecha2_Press();
+    void Flecha2_Release();
+    void GuardaSeleccion();
+
+    // Selection.
+    void Combo1_Selection();
+    void Combo2_Selection();
+    void Check1_Click();
+    void EntraEnBaseDeDatos();
+    void SaleDeBaseDeDatos();
+    void RestauraSeleccion();
+    void RellenaCombo1();
+    void RellenaCombo2();
+    void SistemaSinEmulador();
+    void PalabraDelBoton();
+    int LlenaEmuladores();
+    void RecuerdaRuta(const QString &ruta);
+    bool CambiaDeDirectorio();
+    void ListaElegida();
+    void ActivaConCatalogo(bool activo);
+
+    // List.
+    void LlenaTablasDeLista();
+    void ActivaParaLista(bool activo);
+
+    // Information and preview.
+    void Lista1_Selection();
+    void CargaCaptura();
+    void SinCaptura();
+    void PonNegro();
+
+    // Launching: what the pipeline asks of the screen.
+    QString TextoCombo1() const override;
+    QString TextoCombo2() const override;
+    int Sistema() const override;
+    int Emulador() const override;
+    int EntradasLista1() const override;
+    QString TextoLista1() const override;
+    void MuestraCargando() override;
+    void InfoEnNegro() override;
+    void InfoEnColorDelSistema() override;
+    void MuestraNingunaROM() override;
+    void SeleccionaEnLista1(const QString &texto) override;
+    void EnfocaLista1() override;
+    void Cede(int descriptor, int milisegundos) override;
+    void Aviso(const QString &titulo, const QString &texto) override;
+
+    enum Puntero : int { PunteroNormal = 0, RelojDeArena = 11 };
+    void PonPuntero(Puntero puntero);
+    void PonInfo(const QString &texto);
+    void PonInfoRoms(const QString &texto);
+
+    core::Modulo &M;
+    dialogs::CajaDeMensajes m_mensajes;
+    int m_recuento = 0; // entries that the running Llena_Lista has looked at
+};
+
+} // namespace mainscreen
