@@ -1,0 +1,86 @@
+#include "options/primerainstalacion.h"
+
+#include "core/ajustes.h"
+#include "core/idiomas.h"
+
+#include "host/letters.h"
+#include "host/paths.h"
+
+using namespace Qt::StringLiterals;
+
+namespace options {
+
+namespace {
+
+forms::Label *etiqueta(QWidget *padre, const QString &nombre, const forms::Place &lugar, const QString &texto,
+    const QColor &color, Qt::Alignment alineacion)
+{
+    auto *etiqueta = new forms::Label(padre);
+    etiqueta->setObjectName(nombre);
+    etiqueta->setFont(forms::arial(8.25));
+    etiqueta->SetForeColor(color);
+    etiqueta->setAlignment(alineacion | Qt::AlignTop);
+    etiqueta->SetPlace(lugar);
+    etiqueta->SetCaption(texto);
+    return etiqueta;
+}
+
+} // namespace
+
+PrimeraInstalacion::PrimeraInstalacion(core::Modulo &modulo)
+    : Form(u"PrimeraInstalacion"_s, 2820, 2310, Border::None)
+    , M(modulo)
+{
+    Monta();
+    List1->Selection = [this] { List1_Selection(); };
+    Aceptar2->Press = [this] { Aceptar2_Press(); };
+    Aceptar2->Release = [this] { Unload(); };
+    Carga();
+}
+
+void PrimeraInstalacion::Monta()
+{
+    SetBackground(u"PrimeraInstalacion"_s);
+    SetCaption(u"Zembrolix"_s);
+    List1 = new forms::ListBox(this);
+    List1->setObjectName(u"List1"_s);
+    forms::move(*List1, { 360, 270, 1335, 1425 });
+    File1 = new forms::ListBox(this);
+    File1->setObjectName(u"File1"_s);
+    forms::move(*File1, { 360, 240, 975, 870 });
+    File1->hide();
+
+    Label1 = etiqueta(this, u"Label1"_s, { 1800, 270, 975, 615 }, u"Idioma   Language     Lingua"_s, QColor(128, 255, 255),
+        Qt::AlignLeft);
+    Label1->setWordWrap(true);
+    Aceptar2 = new forms::PictureButton(u"Aceptar2"_s, u"Aceptar1"_s, this);
+    Aceptar2->SetPlace({ 1800, 960, 465, 405 });
+    TXT_Aceptar = etiqueta(
+        this, u"TXT_Aceptar"_s, { 1875, 1440, 255, 210 }, u"OK"_s, QColor(192, 255, 192), Qt::AlignHCenter);
+    Label6 = etiqueta(this, u"Label6"_s, { 170, 1800, 2430, 255 }, u"Lng: Español - Autor: Dorvel"_s,
+        QColor(128, 255, 128), Qt::AlignHCenter);
+}
+
+void PrimeraInstalacion::Carga()
+{
+    const QStringList ficheros = core::FicherosDeIdioma();
+    for (int i = 0; i < ficheros.size(); ++i) {
+        List1->AddItem(host::upper(ficheros[i]));
+        M.ListaLNG(i) = core::CreditoDeIdioma(M, ficheros[i]);
+    }
+    List1->SetText(u"ZB-ESP.LNG"_s);
+}
+
+void PrimeraInstalacion::List1_Selection()
+{
+    Label6->SetCaption(M.ListaLNG(List1->ListIndex()));
+}
+
+// On the press already: a release that never comes leaves the settings written.
+void PrimeraInstalacion::Aceptar2_Press()
+{
+    M.Ficheros.replace(
+        host::programFile(u"Zembro.cfg"_s), u"Zembro.tmp"_s, core::AjustesPorDefecto(List1->Text()));
+}
+
+} // namespace options
