@@ -1,0 +1,6 @@
+#!/bin/sh
+# Source (UTF-8, LF) to the text as delivered (Windows-1252, CR LF).
+set -eu
+iconv -f UTF-8 -t CP1252 "$1" > "$2.part"
+sed 's/$/\r/' "$2.part" > "$2"
+rm "$2.part"

@@ -1,0 +1,37 @@
+// The assembler: makes the screens, joins a button to the screen that it opens, starts the event loop.
+
+#include "core/arranque.h"
+#include "core/modulo.h"
+
+#include "forms/application.h"
+#include "forms/guard.h"
+
+#include "host/desktopquestions.h"
+#include "host/process.h"
+
+#include "mainscreen/portada.h"
+
+#include "options/primerainstalacion.h"
+
+int main(int argc, char **argv)
+{
+    host::rememberEnvironment();
+    host::DesktopQuestions preguntas;
+    host::setQuestions(&preguntas);
+    forms::Application aplicacion(argc, argv);
+
+    bool arrancando = true;
+    forms::setFatalWords([&arrancando](const host::Failure &fallo) {
+        return forms::FatalWords { core::TituloDeFallo, core::TextoDeFallo(fallo, arrancando) };
+    });
+
+    core::Modulo M;
+    mainscreen::Portada portada(M);
+    forms::FormHolder<options::PrimeraInstalacion> primera(
+        [&M] { return std::make_unique<options::PrimeraInstalacion>(M); });
+    portada.MuestraPrimeraInstalacion = [&primera] { primera.ShowModal(nullptr); };
+
+    forms::guarded([&portada] { portada.Carga(); });
+    arrancando = false;
+    return forms::Application::exec();
+}
