@@ -124,9 +124,25 @@ QString AjustesPorDefecto(const QString &LanguageFile)
         u"DebugMode = 0"_s,
         QString(),
         u"[Filters]"_s,
-        u"ARTWORK"_s, u"CABINETS"_s, u"CFG"_s, u"DATAS"_s, u"FLYERS"_s, u"HI"_s, u"ICONS"_s, u"IMAGES"_s, u"INP"_s,
-        u"LOGS"_s, u"MEMCARD"_s, u"PCX"_s, u"ROMS"_s, u"SAMPLES"_s, u"SAVES"_s, u"SNAP"_s, u"TRACPLAY"_s,
-        u"ZIPROMS"_s, u"ZIPSAMPL"_s,
+        u"ARTWORK"_s,
+        u"CABINETS"_s,
+        u"CFG"_s,
+        u"DATAS"_s,
+        u"FLYERS"_s,
+        u"HI"_s,
+        u"ICONS"_s,
+        u"IMAGES"_s,
+        u"INP"_s,
+        u"LOGS"_s,
+        u"MEMCARD"_s,
+        u"PCX"_s,
+        u"ROMS"_s,
+        u"SAMPLES"_s,
+        u"SAVES"_s,
+        u"SNAP"_s,
+        u"TRACPLAY"_s,
+        u"ZIPROMS"_s,
+        u"ZIPSAMPL"_s,
         QString(),
         u"[EOF]"_s,
     };
@@ -135,7 +151,8 @@ QString AjustesPorDefecto(const QString &LanguageFile)
 
 QString ConAjuste(const QString &texto, Ajuste ajuste, const QStringList &lineasNuevas)
 {
-    // Lines are told by their first nine characters: behind which the new lines come, and where copying goes on.
+    // Lines are told by their first nine characters: behind which the new lines come, and where copying goes
+    // on.
     struct Anclas {
         Ajuste ajuste;
         QLatin1StringView detras;
@@ -168,7 +185,8 @@ QString ConAjuste(const QString &texto, Ajuste ajuste, const QStringList &lineas
 
 QStringList LineasDeUltimaSeleccion(int sistema, int emulador)
 {
-    return { u"LastSisUsed = "_s + QString::number(sistema), u"LastEmuUsed = "_s + QString::number(emulador) };
+    return { u"LastSisUsed = "_s + QString::number(sistema),
+        u"LastEmuUsed = "_s + QString::number(emulador) };
 }
 
 QString ConFiltros(const QString &texto, const QStringList &filtros)

@@ -14,8 +14,8 @@ inline const QString MarcaVacio = QStringLiteral("VACIO");
 // True if a field of Zembro.cfg is the first-run mark. Fails with 62 for an empty file. Reads under number 1.
 bool EsPrimeraVez(Modulo &M);
 
-// Reads Zembro.cfg under number 1 into the settings. Fails with 5 for a setting without a value and for a list of
-// filters that is empty, 9 for one that fills the table.
+// Reads Zembro.cfg under number 1 into the settings. Fails with 5 for a setting without a value and for a
+// list of filters that is empty, 9 for one that fills the table.
 void LeeAjustes(Modulo &M);
 
 // What stands behind the last "=" of a line and one character more. Fails with 5 where nothing does.
@@ -27,14 +27,15 @@ QString AjustesPorDefecto(const QString &LanguageFile);
 // The settings that are rewritten one by one; the last selection's two lines go together.
 enum class Ajuste { UltimaSeleccion, GuardarUltimo, TypeOfEditor, MsgEndDOS, LanguageFile };
 
-// The file's text with one setting's lines replaced. Lines behind the change are lost if the key that ends the skipping
-// is missing.
+// The file's text with one setting's lines replaced. Lines behind the change are lost if the key that ends
+// the skipping is missing.
 QString ConAjuste(const QString &texto, Ajuste ajuste, const QStringList &lineasNuevas);
 
 // The new lines of a changed last selection.
 QStringList LineasDeUltimaSeleccion(int sistema, int emulador);
 
-// The file's text with another [Filters] section: one line a filter, in upper case, and the file ends behind it.
+// The file's text with another [Filters] section: one line a filter, in upper case, and the file ends behind
+// it.
 QString ConFiltros(const QString &texto, const QStringList &filtros);
 
 } // namespace core

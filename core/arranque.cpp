@@ -23,8 +23,8 @@ bool hayIdiomas()
 
 void CompruebaFicheros()
 {
-    for (const QLatin1StringView nombre : { "Zembro.emu"_L1, "Zembro.rom"_L1, "Zembro.sye"_L1, "Zembro.cfg"_L1,
-             "Zembro.faq"_L1, "Zembro.txt"_L1, "Cvtgif15.exe"_L1 })
+    for (const QLatin1StringView nombre : { "Zembro.emu"_L1, "Zembro.rom"_L1, "Zembro.sye"_L1,
+             "Zembro.cfg"_L1, "Zembro.faq"_L1, "Zembro.txt"_L1, "Cvtgif15.exe"_L1 })
         host::attributes(host::programFile(nombre));
     if (!hayIdiomas())
         throw host::Failure(host::FileNotFound, u"find a language file"_s, host::programFile(u"LNG"_s));

@@ -7,12 +7,12 @@
 
 namespace core {
 
-// Fails with 53 for the first file of the program that isn't beside the executable, and for a directory LNG without
-// a language file.
+// Fails with 53 for the first file of the program that isn't beside the executable, and for a directory LNG
+// without a language file.
 void CompruebaFicheros();
 
-// The box of a failure that nothing catches: the files that the start needs, for one missing at the start, else the
-// failure's number; and a line that says which operation failed on what.
+// The box of a failure that nothing catches: the files that the start needs, for one missing at the start,
+// else the failure's number; and a line that says which operation failed on what.
 inline const QString TituloDeFallo = QStringLiteral("ERROR");
 QString TextoDeFallo(const host::Failure &fallo, bool arrancando);
 

@@ -14,8 +14,8 @@ namespace core {
 LectorDeCatalogo::LectorDeCatalogo(Modulo &modulo)
     : M(modulo)
 {
-    for (Tabla2<QString> *tabla : { &M.Cat_Nombre, &M.Cat_EXE, &M.Cat_XDI, &M.Cat_ROM, &M.Cat_IMG, &M.Cat_PAR1,
-             &M.Cat_PAR2, &M.Cat_EXT, &M.Cat_WEB2 })
+    for (Tabla2<QString> *tabla : { &M.Cat_Nombre, &M.Cat_EXE, &M.Cat_XDI, &M.Cat_ROM, &M.Cat_IMG,
+             &M.Cat_PAR1, &M.Cat_PAR2, &M.Cat_EXT, &M.Cat_WEB2 })
         tabla->vacia();
     M.Cat_WEB1.vacia();
     M.Indice_Sistema = -1;
@@ -46,8 +46,9 @@ void LectorDeCatalogo::lineaDeEmulador(const QString &linea)
     const struct {
         QLatin1StringView prefijo;
         Tabla2<QString> &tabla;
-    } claves[] = { { "EXE"_L1, M.Cat_EXE }, { "XDI"_L1, M.Cat_XDI }, { "ROM"_L1, M.Cat_ROM }, { "IMG"_L1, M.Cat_IMG },
-        { "PAR1"_L1, M.Cat_PAR1 }, { "PAR2"_L1, M.Cat_PAR2 }, { "WEB2"_L1, M.Cat_WEB2 } };
+    } claves[] = { { "EXE"_L1, M.Cat_EXE }, { "XDI"_L1, M.Cat_XDI }, { "ROM"_L1, M.Cat_ROM },
+        { "IMG"_L1, M.Cat_IMG }, { "PAR1"_L1, M.Cat_PAR1 }, { "PAR2"_L1, M.Cat_PAR2 },
+        { "WEB2"_L1, M.Cat_WEB2 } };
     for (const auto &clave : claves) {
         if (linea.startsWith(clave.prefijo))
             clave.tabla(M.Indice_Sistema, M.Indice_Emulador) = linea;

@@ -1,15 +1,15 @@
 // Reading a catalogue file into the tables.
 //
-// One line, one thing, told by how the line begins: "-" a system, "+" an emulator, "*." an extension, and the keys
-// EXE, XDI, ROM, IMG, PAR1, PAR2, WEB1, WEB2. Only the prefix counts, and the line is kept whole. Every other line is
-// passed over.
+// One line, one thing, told by how the line begins: "-" a system, "+" an emulator, "*." an extension, and the
+// keys EXE, XDI, ROM, IMG, PAR1, PAR2, WEB1, WEB2. Only the prefix counts, and the line is kept whole. Every
+// other line is passed over.
 #pragma once
 
 #include "core/modulo.h"
 
 namespace core {
 
-inline constexpr int PrefijoRuta = 4;      // "EXE=", "ROM=", "IMG="
+inline constexpr int PrefijoRuta = 4; // "EXE=", "ROM=", "IMG="
 inline constexpr int PrefijoParametro = 5; // "PAR1=", "PAR2=", "WEB1=", "WEB2="
 
 class LectorDeCatalogo {
@@ -17,20 +17,21 @@ public:
     // Clears the tables, and sets the cursors ahead of the first line.
     explicit LectorDeCatalogo(Modulo &M);
 
-    // Fails with 9 for a system, an emulator or an extension past the tables, and for a line of a system ahead of
-    // the first one.
+    // Fails with 9 for a system, an emulator or an extension past the tables, and for a line of a system
+    // ahead of the first one.
     void Linea(const QString &linea);
 
 private:
     void lineaDeEmulador(const QString &linea);
 
     Modulo &M;
-    // Goes back to 0 at an emulator, not at a system: behind a system without emulators the next one's extensions
-    // stand further back, and it reads as having none.
+    // Goes back to 0 at an emulator, not at a system: behind a system without emulators the next one's
+    // extensions stand further back, and it reads as having none.
     int m_extension = 0;
 };
 
-// Reads Zembro.sye in the view of the database, else Zembro.emu, under number 1; a failure leaves the number open.
+// Reads Zembro.sye in the view of the database, else Zembro.emu, under number 1; a failure leaves the number
+// open.
 void LeeCatalogo(Modulo &M);
 
 // Number of emulators of a system.

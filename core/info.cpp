@@ -64,7 +64,8 @@ QString LineaDeInfo(int tipo, const QString &directorio, const FichaDeROM &ficha
     if (!UnZipPorJuego(tipo))
         return {};
     if (ficha.conNota)
-        return mayus + u".ZIP "_s + comoNumero(kilobytes(directorio + mayus + u".ZIP"_s, largo)) + u"Kb [ZIP]"_s;
+        return mayus + u".ZIP "_s + comoNumero(kilobytes(directorio + mayus + u".ZIP"_s, largo))
+            + u"Kb [ZIP]"_s;
     return mayus + u' ' + kilobytes(directorio + ficha.nombre, largo) + u"Kb [ZIP]"_s;
 }
 

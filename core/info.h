@@ -12,19 +12,21 @@ namespace core {
 
 // What an entry of the list stands for.
 struct FichaDeROM {
-    QString nombre;        // the note's key in upper case, or the entry's own text
+    QString nombre; // the note's key in upper case, or the entry's own text
     bool conNota = false;
 };
 
-// Gives every note with this text, in the order of the table, to `visita`; without one, the text itself. The first
-// note is always tried. Fails with 9 behind a full table.
+// Gives every note with this text, in the order of the table, to `visita`; without one, the text itself. The
+// first note is always tried. Fails with 9 behind a full table.
 void BuscaROM(const Modulo &M, const QString &texto, const std::function<void(const FichaDeROM &)> &visita);
 
-// The line of facts of an emulator type; empty for a type without one. Fails with 53 if the file is gone, and with 13
-// for a ZIP with a note whose size rounds to nothing.
-QString LineaDeInfo(int tipo, const QString &directorio, const FichaDeROM &ficha, const LargoDeFichero &largo);
+// The line of facts of an emulator type; empty for a type without one. Fails with 53 if the file is gone, and
+// with 13 for a ZIP with a note whose size rounds to nothing.
+QString LineaDeInfo(
+    int tipo, const QString &directorio, const FichaDeROM &ficha, const LargoDeFichero &largo);
 
-// Path of the capture; empty for a type without captures. Fails with 5 for a name without the point at which it is cut.
+// Path of the capture; empty for a type without captures. Fails with 5 for a name without the point at which
+// it is cut.
 QString RutaDeCaptura(int tipo, const QString &directorio, const FichaDeROM &ficha);
 
 } // namespace core

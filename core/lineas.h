@@ -10,7 +10,7 @@ namespace core {
 
 struct LineaConFin {
     QStringView linea; // without its end
-    QStringView fin;   // CR LF, LF, or nothing at the end of the text
+    QStringView fin; // CR LF, LF, or nothing at the end of the text
 };
 
 // Views into the text, which must live on.

@@ -34,8 +34,8 @@ bool CargaSoloElEmulador(int tipo)
 
 namespace {
 
-// Only so many filters are walked; with more of them, and none fitting, the walk never meets the empty one at which a
-// directory is taken.
+// Only so many filters are walked; with more of them, and none fitting, the walk never meets the empty one at
+// which a directory is taken.
 constexpr int FiltrosMirados = 26;
 
 bool pasaLosFiltros(const Modulo &M, const QString &nombreMayus)
@@ -177,8 +177,8 @@ private:
 
 } // namespace
 
-Recuento Empareja(const Modulo &M, int tipo, const QString &directorio, int entradas, int notas, int extensiones,
-    const LargoDeFichero &largo)
+Recuento Empareja(const Modulo &M, int tipo, const QString &directorio, int entradas, int notas,
+    int extensiones, const LargoDeFichero &largo)
 {
     Emparejador emparejador(M, tipo, directorio, notas, extensiones, largo);
     Recuento &recuento = emparejador.recuento;

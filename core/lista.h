@@ -1,4 +1,5 @@
-// The list of ROMs: the directory's entries matched against the notes and the extensions of the system, by type.
+// The list of ROMs: the directory's entries matched against the notes and the extensions of the system, by
+// type.
 #pragma once
 
 #include "core/modulo.h"
@@ -12,28 +13,30 @@ namespace core {
 
 // What an emulator's type says of its games: types 5 to 8 are 0 to 3 with the emulator started without a ROM.
 bool UnDirectorioPorJuego(int tipo); // 1, 6
-bool FicherosSueltos(int tipo);      // 0, 5
-bool UnZipPorJuego(int tipo);        // 2, 3, 7, 8
-bool CargaSoloElEmulador(int tipo);  // 5 to 8
+bool FicherosSueltos(int tipo); // 0, 5
+bool UnZipPorJuego(int tipo); // 2, 3, 7, 8
+bool CargaSoloElEmulador(int tipo); // 5 to 8
 
-// Fills Arch_Nombre and Arch_Mayus with the entries of a ROM directory, and returns their number. A sub-directory that
-// a filter names leaves its entry empty. Fails with 76 for a directory that can't be read, 9 for more entries than the
-// tables take.
+// Fills Arch_Nombre and Arch_Mayus with the entries of a ROM directory, and returns their number. A
+// sub-directory that a filter names leaves its entry empty. Fails with 76 for a directory that can't be read,
+// 9 for more entries than the tables take.
 int ExploraDirectorio(Modulo &M, int tipo, const QString &directorio);
 
-// The notes of a system into Nota_Clave, in upper case, and Nota_Texto. Returns their number; fails as CargaNotas.
+// The notes of a system into Nota_Clave, in upper case, and Nota_Texto. Returns their number; fails as
+// CargaNotas.
 int CargaNotasEnMayusculas(Modulo &M, const QString &sistema);
 
 // The extensions of a system into ExtActivas, without "*."; returns their number.
 int CargaExtensiones(Modulo &M, int sistema);
 
-// How often a name, in upper case, fits the extensions in force: its last one, two or three characters equal one.
+// How often a name, in upper case, fits the extensions in force: its last one, two or three characters equal
+// one.
 int VecesQueEncaja(const Modulo &M, const QString &nombreMayus, int extensiones);
 
 struct Recuento {
-    QStringList entradas;   // as the list shows them, in order
-    double bytes = 0;       // of the files listed
-    int exploradas = 0;     // entries looked at, not entries listed
+    QStringList entradas; // as the list shows them, in order
+    double bytes = 0; // of the files listed
+    int exploradas = 0; // entries looked at, not entries listed
     bool interrumpido = false; // a length could not be had: what is here was added before
 };
 
@@ -41,8 +44,8 @@ struct Recuento {
 using LargoDeFichero = std::function<qint64(const QString &ruta)>;
 
 // Matches the entries against the notes: one with a note gives its description, one without its name.
-Recuento Empareja(const Modulo &M, int tipo, const QString &directorio, int entradas, int notas, int extensiones,
-    const LargoDeFichero &largo);
+Recuento Empareja(const Modulo &M, int tipo, const QString &directorio, int entradas, int notas,
+    int extensiones, const LargoDeFichero &largo);
 
 // The line over the list.
 QString Resumen(int tipo, qsizetype listadas, const Recuento &recuento, const QString &TXT_Directorios);

@@ -10,16 +10,17 @@
 
 namespace core {
 
-inline constexpr int MaxSistemas = 151;  // systems of a catalogue; emulators of a system, the system itself included
-inline constexpr int MaxROMs = 6667;     // entries of a ROM directory; notes of a system
-inline constexpr int MaxIdiomas = 101;   // language files offered at the first run
+inline constexpr int MaxSistemas =
+    151; // systems of a catalogue; emulators of a system, the system itself included
+inline constexpr int MaxROMs = 6667; // entries of a ROM directory; notes of a system
+inline constexpr int MaxIdiomas = 101; // language files offered at the first run
 inline constexpr int NingunEmulador = 696969; // UltimoEmulador: no emulator is to be selected
 
 struct Modulo : TextosIdioma {
     host::NumberedFiles Ficheros; // text files: number 1 for reading, 1 and 2 in a rewrite
 
-    // Catalogue, the lines as they stand in the file, prefix included. Emulator 0 is the system itself; an empty name
-    // ends a system's emulators.
+    // Catalogue, the lines as they stand in the file, prefix included. Emulator 0 is the system itself; an
+    // empty name ends a system's emulators.
     Tabla2<QString> Cat_Nombre { MaxSistemas, MaxSistemas };
     Tabla2<QString> Cat_EXE { MaxSistemas, MaxSistemas };
     Tabla2<QString> Cat_XDI { MaxSistemas, MaxSistemas }; // the last character is the emulator's type
@@ -36,13 +37,13 @@ struct Modulo : TextosIdioma {
 
     // The list of ROMs.
     Tabla<QString> Arch_Nombre { MaxROMs }; // the entry as the file system spells it
-    Tabla<QString> Arch_Mayus { MaxROMs };  // the same in upper case
-    Tabla<QString> Nota_Clave { MaxROMs };  // keys of the selected system's notes; an empty one ends them
-    Tabla<QString> Nota_Texto { MaxROMs };  // the descriptions
+    Tabla<QString> Arch_Mayus { MaxROMs }; // the same in upper case
+    Tabla<QString> Nota_Clave { MaxROMs }; // keys of the selected system's notes; an empty one ends them
+    Tabla<QString> Nota_Texto { MaxROMs }; // the descriptions
     Tabla<QString> ExtActivas { MaxSistemas }; // extensions of the selected system without "*."
 
     Tabla<QString> Filtros { MaxSistemas }; // directories that are no games
-    QString FiltrosTexto;                   // the same, joined by commas
+    QString FiltrosTexto; // the same, joined by commas
 
     // Settings, as the text of their values.
     QString UltimoSistema;
@@ -55,13 +56,13 @@ struct Modulo : TextosIdioma {
 
     // View and guards.
     int VerBaseDeDatos = 0; // 1: the tables show the whole database
-    int SoloTablas = 0;     // 1: Llena_Combos leaves the combos alone
-    int Combo1Listo = 0;    // 0 while the combos are being filled: their handlers do nothing
+    int SoloTablas = 0; // 1: Llena_Combos leaves the combos alone
+    int Combo1Listo = 0; // 0 while the combos are being filled: their handlers do nothing
     int Combo2Listo = 0;
-    int RestaurarROM = 0;   // 1: Llena_Lista selects ROMGuardada
+    int RestaurarROM = 0; // 1: Llena_Lista selects ROMGuardada
     int EmuConfigurado = 0; // 1: the next selection in Combo2 lists whatever the directory
-    QString TipoEmu;        // one character, compared as a number
-    int NumLista = 0;       // entries scanned by the last Llena_Lista, plus 1
+    QString TipoEmu; // one character, compared as a number
+    int NumLista = 0; // entries scanned by the last Llena_Lista, plus 1
     int IndiceRutas = 0;
     Tabla<QString> RutasROM { 3 }; // "ROM" lines of the last two emulators selected, in slots 1 and 2
     int NumROMsBorradas = 0;

@@ -1,8 +1,9 @@
 // The notes on single ROMs in Zembro.rom: descriptions by system, and parameters.
 //
-// A system's block: a line with its name, records `KEY,"description"`, a line with a lone apostrophe. The parameter
-// section: a line that begins with "Parametros especificos", records of four bare fields, a closing record whose first
-// field is a lone apostrophe. Every piece is found by its header line, never by its place in the file.
+// A system's block: a line with its name, records `KEY,"description"`, a line with a lone apostrophe. The
+// parameter section: a line that begins with "Parametros especificos", records of four bare fields, a closing
+// record whose first field is a lone apostrophe. Every piece is found by its header line, never by its place
+// in the file.
 #pragma once
 
 #include "core/modulo.h"
@@ -16,10 +17,10 @@ namespace core {
 // A field that may be missing at the end of the file, and then is empty.
 QString CampoOVacio(host::TextSource &fuente);
 
-// Loads the notes of a system from index 0 of Nota_Clave (as the file has them) and Nota_Texto; what the tables held
-// behind the last record stays. Returns the number of records. Reads under number 1.
-// Fails with 62 where there is no line that equals the system's name, or no closing apostrophe behind it, and with 9
-// for more records than the table takes; the number stays open then.
+// Loads the notes of a system from index 0 of Nota_Clave (as the file has them) and Nota_Texto; what the
+// tables held behind the last record stays. Returns the number of records. Reads under number 1. Fails with
+// 62 where there is no line that equals the system's name, or no closing apostrophe behind it, and with 9 for
+// more records than the table takes; the number stays open then.
 int CargaNotas(Modulo &M, const QString &sistema);
 
 // The index of the first note with this text, -1 if there is none. The notes end at the first empty key.
@@ -32,11 +33,12 @@ struct Parametros {
     QString texto;
 };
 
-// Changes of the file, from text to text. A key that the field reader would split or that would pass for an anchor
-// (one with a comma, or that begins with an apostrophe or a bracket) is written in double quotes.
+// Changes of the file, from text to text. A key that the field reader would split or that would pass for an
+// anchor (one with a comma, or that begins with an apostrophe or a bracket) is written in double quotes.
 
 // The new record stands first in the system's block; without a block nothing changes.
-QString ConDescripcionNueva(const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion);
+QString ConDescripcionNueva(
+    const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion);
 
 // Replaces the first record of the whole file with this description, whichever system it belongs to.
 QString ConDescripcionCambiada(
@@ -44,11 +46,13 @@ QString ConDescripcionCambiada(
 
 QString ConParametrosNuevos(const QString &texto, const Parametros &parametros);
 
-// Every record of this key becomes the new one, whatever its system and emulator, or goes if the new parameters are
-// empty. Empty lines of the file are dropped. Fails with 62 where the section or its closing record is missing.
+// Every record of this key becomes the new one, whatever its system and emulator, or goes if the new
+// parameters are empty. Empty lines of the file are dropped. Fails with 62 where the section or its closing
+// record is missing.
 QString ConParametrosCambiados(const QString &texto, const Parametros &parametros);
 
-// An empty block for a system ahead of the first line that begins with "["; without such a line nothing changes.
+// An empty block for a system ahead of the first line that begins with "["; without such a line nothing
+// changes.
 QString ConSistemaNuevo(const QString &texto, const QString &sistema);
 
 } // namespace core

@@ -9,10 +9,12 @@
 namespace core {
 
 // Indices count from 0; one out of range fails with 9.
-template <typename Elemento>
-class Tabla {
+template <typename Elemento> class Tabla {
 public:
-    explicit Tabla(int tamaño) : m_elementos(static_cast<size_t>(tamaño)) { }
+    explicit Tabla(int tamaño)
+        : m_elementos(static_cast<size_t>(tamaño))
+    {
+    }
 
     Elemento &operator()(int i) { return m_elementos[posicion(i)]; }
     const Elemento &operator()(int i) const { return m_elementos[posicion(i)]; }
@@ -23,7 +25,8 @@ private:
     size_t posicion(int i) const
     {
         if (i < 0 || i >= tamaño())
-            throw host::Failure(host::OutOfRange, QStringLiteral("use an entry of a table"), QString::number(i));
+            throw host::Failure(
+                host::OutOfRange, QStringLiteral("use an entry of a table"), QString::number(i));
         return static_cast<size_t>(i);
     }
 
@@ -31,10 +34,14 @@ private:
 };
 
 // A table of rows: systems by emulators (or by extensions). Both indices count from 0 and are checked.
-template <typename Elemento>
-class Tabla2 {
+template <typename Elemento> class Tabla2 {
 public:
-    Tabla2(int filas, int columnas) : m_filas(filas), m_columnas(columnas), m_elementos(filas * columnas) { }
+    Tabla2(int filas, int columnas)
+        : m_filas(filas)
+        , m_columnas(columnas)
+        , m_elementos(filas * columnas)
+    {
+    }
 
     Elemento &operator()(int fila, int columna) { return m_elementos(posicion(fila, columna)); }
     const Elemento &operator()(int fila, int columna) const { return m_elementos(posicion(fila, columna)); }

@@ -1,4 +1,5 @@
-// The words of the program: one variable for each key of a language file that isn't shown by a control directly.
+// The words of the program: one variable for each key of a language file that isn't shown by a control
+// directly.
 #pragma once
 
 #include <QString>
@@ -22,12 +23,12 @@ struct TextosIdioma {
         Msg_EmuYaAñadido0, Msg_EmuYaAñadido1, Msg_SisYaAñadido0, Msg_SisYaAñadido1, Msg_EmuNoWeb0,
         Msg_EmuNoWeb1, Msg_SisNoWeb0, Msg_SisNoWeb1, Msg_Parametros0, Msg_Parametros1, Msg_ZipSinRoms0,
         Msg_ZipSinRoms1, Msg_NoEXE0, Msg_NoEXE1, Msg_NoDIR0, Msg_NoDIR1, Msg_Casillas0, Msg_Casillas1,
-        Msg_NingunaROM0, Msg_NingunaROM1, Msg_CFGGrabada0, Msg_CFGGrabada1, Msg_SinCambios0,
-        Msg_SinCambios1, Msg_GrabacionOK0, Msg_GrabacionOK1, Msg_NingunPCX0, Msg_NingunPCX1, Msg_IMGTransXX,
-        Msg_IMGTrans1I, Msg_IMGTrans1D, Msg_IMGTransMI, Msg_IMGTransMD, Msg_NoDiscoX0, Msg_NoDiscoI1,
-        Msg_NoDiscoD1, Msg_NoEmuLD0, Msg_NoEmuLD1, Msg_EXT0, Msg_EXT1, Msg_YaAñadido0, Msg_YaAñadido1,
-        Msg_Descripcion0, Msg_Descripcion1, Msg_ArchGrande0, Msg_ArchGrande1, Msg_AyudaNoEnc0,
-        Msg_AyudaNoEnc1, Msg_CFGNoEnc0, Msg_CFGNoEnc1;
+        Msg_NingunaROM0, Msg_NingunaROM1, Msg_CFGGrabada0, Msg_CFGGrabada1, Msg_SinCambios0, Msg_SinCambios1,
+        Msg_GrabacionOK0, Msg_GrabacionOK1, Msg_NingunPCX0, Msg_NingunPCX1, Msg_IMGTransXX, Msg_IMGTrans1I,
+        Msg_IMGTrans1D, Msg_IMGTransMI, Msg_IMGTransMD, Msg_NoDiscoX0, Msg_NoDiscoI1, Msg_NoDiscoD1,
+        Msg_NoEmuLD0, Msg_NoEmuLD1, Msg_EXT0, Msg_EXT1, Msg_YaAñadido0, Msg_YaAñadido1, Msg_Descripcion0,
+        Msg_Descripcion1, Msg_ArchGrande0, Msg_ArchGrande1, Msg_AyudaNoEnc0, Msg_AyudaNoEnc1, Msg_CFGNoEnc0,
+        Msg_CFGNoEnc1;
 };
 
 // A key of the language files; without a variable its text goes to the control or menu entry of its own name.
@@ -42,12 +43,12 @@ const std::array<ClaveDeTexto, TotalClaves> &ClavesDeTexto();
 inline constexpr int AnchoClave = 18; // columns of the key, padded with points
 inline constexpr int AnchoPrefijo = 20; // the key and the two characters behind it that are passed over
 
-// A line of a language file: the text of a line with a key. Fails with 5 for a line, other than a comment, that is too
-// short to hold a text.
+// A line of a language file: the text of a line with a key. Fails with 5 for a line, other than a comment,
+// that is too short to hold a text.
 QString TextoDeLinea(const QString &linea);
 
-// Gives the lines of a language file, one after the other, to the variables and to `directo` (name, text). A comment
-// hits nothing; a key that no table knows is passed over; of a key that comes twice the last stands.
+// Gives the lines of a language file, one after the other, to the variables and to `directo` (name, text). A
+// comment hits nothing; a key that no table knows is passed over; of a key that comes twice the last stands.
 class LectorDeTextos {
 public:
     using Directo = std::function<void(const QString &nombre, const QString &texto)>;

@@ -40,9 +40,10 @@ Caja::Caja(core::Modulo &modulo, const Teja &teja)
     SetBackColour(AzulNoche);
     SetTile(teja.imagen, teja.ancho, teja.alto);
 
-    Texto1 = etiqueta(this, u"Texto1"_s, u"Vacio"_s, { 120, 90, 2205, 435 }, Qt::white, forms::arial(8.25), Qt::AlignLeft);
-    Texto2 = etiqueta(
-        this, u"Texto2"_s, u"Text2"_s, { 120, 120, 2415, 855 }, RojoClaro, forms::courier(9.75), Qt::AlignLeft);
+    Texto1 = etiqueta(
+        this, u"Texto1"_s, u"Vacio"_s, { 120, 90, 2205, 435 }, Qt::white, forms::arial(8.25), Qt::AlignLeft);
+    Texto2 = etiqueta(this, u"Texto2"_s, u"Text2"_s, { 120, 120, 2415, 855 }, RojoClaro, forms::courier(9.75),
+        Qt::AlignLeft);
     Texto1->setWordWrap(true);
     Texto2->setWordWrap(true);
     Casilla = new forms::TextBox(this);
@@ -54,8 +55,8 @@ Caja::Caja(core::Modulo &modulo, const Teja &teja)
     mueve(Flecha2, 850, 975, 615, 375);
     TXT_Aceptar = etiqueta(this, u"TXT_Aceptar"_s, u"Aceptar"_s, { 120, 1395, 525, 210 }, VerdeClaro,
         forms::arial(8.25), Qt::AlignHCenter);
-    TXT_Volver = etiqueta(
-        this, u"TXT_Volver"_s, u"Volver"_s, { 870, 1395, 650, 210 }, VerdeClaro, forms::arial(8.25), Qt::AlignHCenter);
+    TXT_Volver = etiqueta(this, u"TXT_Volver"_s, u"Volver"_s, { 870, 1395, 650, 210 }, VerdeClaro,
+        forms::arial(8.25), Qt::AlignHCenter);
 
     Aceptar2->Release = [this] { Acepta(); };
     Flecha2->Release = [this] {

@@ -12,15 +12,16 @@ enum Tipo : int { Entrada = 1, Pregunta = 2, Advertencia = 3, Aviso = 4 };
 
 }
 
-CajaDeMensajes::CajaDeMensajes(core::Modulo &modulo, std::function<QWidget *()> dueño, std::function<Teja()> teja)
+CajaDeMensajes::CajaDeMensajes(
+    core::Modulo &modulo, std::function<QWidget *()> dueño, std::function<Teja()> teja)
     : M(modulo)
     , m_dueño(std::move(dueño))
     , m_caja([&modulo, teja = std::move(teja)] { return std::make_unique<Caja>(modulo, teja()); })
 {
 }
 
-void CajaDeMensajes::Mensaje(int Tipo, const QString &mensaje, const QString &TituloVentana, const QString &Boton1,
-    const QString &Boton2, const QString &MeterEnCajaDeTexto)
+void CajaDeMensajes::Mensaje(int Tipo, const QString &mensaje, const QString &TituloVentana,
+    const QString &Boton1, const QString &Boton2, const QString &MeterEnCajaDeTexto)
 {
     if (Tipo < Entrada || Tipo > Aviso)
         return;

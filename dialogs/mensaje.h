@@ -9,11 +9,12 @@ class QWidget;
 
 namespace dialogs {
 
-// Type 1: an input box; 2: a question; 3: a warning with the back arrow alone; 4: a notice with the accept button alone.
-// Any other type shows nothing and changes nothing.
+// Type 1: an input box; 2: a question; 3: a warning with the back arrow alone; 4: a notice with the accept
+// button alone. Any other type shows nothing and changes nothing.
 //
 // Answers: Respuesta_Caja is what stood in the box on acceptance (a box left by the arrow leaves it alone),
-// Respuesta_Opcion 1 if the user went back, else 0, RespuestaMensaje (types 1 and 2) what an empty answer equals.
+// Respuesta_Opcion 1 if the user went back, else 0, RespuestaMensaje (types 1 and 2) what an empty answer
+// equals.
 class CajaDeMensajes {
 public:
     // The owner over which every box stands, and the tile, both asked for at each call.

@@ -1,5 +1,6 @@
-// Start and exit. Controls: Flecha2. State: the settings, and the flags that step by step get their first values.
-// The window is on the screen before the catalogue is read, and the settings are saved nowhere but at the exit.
+// Start and exit. Controls: Flecha2. State: the settings, and the flags that step by step get their first
+// values. The window is on the screen before the catalogue is read, and the settings are saved nowhere but at
+// the exit.
 
 #include "mainscreen/portada.h"
 
@@ -56,7 +57,8 @@ void Portada::LeeConfiguracion()
 
 void Portada::ApagaEditor()
 {
-    for (QWidget *control : std::initializer_list<QWidget *> { BotonARR, BotonABJ, FlechaE2, Edit2, BlocDeNotas2, Editor })
+    for (QWidget *control :
+        std::initializer_list<QWidget *> { BotonARR, BotonABJ, FlechaE2, Edit2, BlocDeNotas2, Editor })
         control->hide();
 }
 
@@ -116,9 +118,8 @@ void Portada::GuardaSeleccion()
 {
     const core::Posiciones posiciones = core::PosicionesDe(M, Combo1->Text(), Combo2->Text());
     const QStringList lineas = core::LineasDeUltimaSeleccion(posiciones.sistema, posiciones.emulador);
-    M.Ficheros.rewrite(host::programFile(u"Zembro.cfg"_s), u"Zembro.tmp"_s, [&](const QString &texto) {
-        return core::ConAjuste(texto, core::Ajuste::UltimaSeleccion, lineas);
-    });
+    M.Ficheros.rewrite(host::programFile(u"Zembro.cfg"_s), u"Zembro.tmp"_s,
+        [&](const QString &texto) { return core::ConAjuste(texto, core::Ajuste::UltimaSeleccion, lineas); });
 }
 
 } // namespace mainscreen

@@ -11,7 +11,7 @@ public:
     Aumento();
 
     forms::Image *Imagen; // the same picture as Graf_Imagen
-    forms::Image *Negro;  // black, never in view
+    forms::Image *Negro; // black, never in view
 };
 
 } // namespace mainscreen

@@ -13,7 +13,8 @@ namespace {
 constexpr int Ancho = 6165;
 constexpr int Alto = 5715;
 
-using Tele = forms::Image *Portada::*; // the container of a control: the television set, or none for the screen itself
+using Tele =
+    forms::Image *Portada::*; // the container of a control: the television set, or none for the screen itself
 
 enum class Letra { Normal, Negrita, Terminal };
 
@@ -60,29 +61,34 @@ constexpr QRgb Negro = qRgb(0, 0, 0);
 constexpr QRgb Rojo = qRgb(255, 0, 0);
 
 const FilaEtiqueta Etiquetas[] = {
-    { &Portada::TXT_InfoRoms, u"TXT_InfoRoms", nullptr, { 120, 1125, 2250, 195 }, u"...", Letra::Terminal, Cian, true },
+    { &Portada::TXT_InfoRoms, u"TXT_InfoRoms", nullptr, { 120, 1125, 2250, 195 }, u"...", Letra::Terminal,
+        Cian, true },
     { &Portada::TXT_Info, u"TXT_Info", &Portada::Graf_TV, { 720, 15, 2085, 210 }, u"Ninguna ROM encontrada",
         Letra::Negrita, Negro, true },
-    { &Portada::WEB1, u"WEB1", &Portada::Graf_TV, { 0, 3120, 480, 210 }, u"ROMS", Letra::Negrita, Rojo, false },
-    { &Portada::WEB2, u"WEB2", nullptr, { 2540, 4545, 345, 210 }, u"WEB", Letra::Negrita, Rojo, false },
-    { &Portada::TXT_Describir, u"TXT_Describir", nullptr, { 600, 3930, 705, 210 }, u"Describir", Letra::Normal, Verde,
+    { &Portada::WEB1, u"WEB1", &Portada::Graf_TV, { 0, 3120, 480, 210 }, u"ROMS", Letra::Negrita, Rojo,
         false },
-    { &Portada::TXT_Borrar, u"TXT_Borrar", nullptr, { 1800, 3930, 615, 210 }, u"Borrar", Letra::Normal, Verde, false },
+    { &Portada::WEB2, u"WEB2", nullptr, { 2540, 4545, 345, 210 }, u"WEB", Letra::Negrita, Rojo, false },
+    { &Portada::TXT_Describir, u"TXT_Describir", nullptr, { 600, 3930, 705, 210 }, u"Describir",
+        Letra::Normal, Verde, false },
+    { &Portada::TXT_Borrar, u"TXT_Borrar", nullptr, { 1800, 3930, 615, 210 }, u"Borrar", Letra::Normal, Verde,
+        false },
     { &Portada::TXT_dB, u"TXT_dB", nullptr, { 5895, 4515, 195, 210 }, u"dB", Letra::Normal, Verde, false },
     { &Portada::TXT_VerAyuda, u"TXT_VerAyuda", nullptr, { 780, 5055, 1620, 210 }, u"Ver ayuda del emu",
         Letra::Normal, Verde, false },
     { &Portada::TXT_VerConfig, u"TXT_VerConfig", nullptr, { 780, 5280, 1620, 210 }, u"Ver config. del emu",
         Letra::Normal, Verde, false },
-    { &Portada::TXT_Boton, u"TXT_Boton", nullptr, { 2610, 5400, 315, 210 }, u"-----", Letra::Negrita, Blanco, true },
-    { &Portada::TXT_Configurar, u"TXT_Configurar", nullptr, { 3740, 4560, 1740, 210 }, u"Configurar emuladores",
-        Letra::Normal, Verde, false },
+    { &Portada::TXT_Boton, u"TXT_Boton", nullptr, { 2610, 5400, 315, 210 }, u"-----", Letra::Negrita, Blanco,
+        true },
+    { &Portada::TXT_Configurar, u"TXT_Configurar", nullptr, { 3740, 4560, 1740, 210 },
+        u"Configurar emuladores", Letra::Normal, Verde, false },
     { &Portada::TXT_Opciones, u"TXT_Opciones", nullptr, { 3740, 4800, 1740, 210 }, u"Opciones del programa",
         Letra::Normal, Verde, false },
-    { &Portada::TXT_Utilidades, u"TXT_Utilidades", nullptr, { 3740, 5040, 740, 210 }, u"Utilidades", Letra::Normal,
+    { &Portada::TXT_Utilidades, u"TXT_Utilidades", nullptr, { 3740, 5040, 740, 210 }, u"Utilidades",
+        Letra::Normal, Verde, false },
+    { &Portada::TXT_AcercaDe, u"TXT_AcercaDe", nullptr, { 3735, 5280, 740, 210 }, u"Acerca...", Letra::Normal,
         Verde, false },
-    { &Portada::TXT_AcercaDe, u"TXT_AcercaDe", nullptr, { 3735, 5280, 740, 210 }, u"Acerca...", Letra::Normal, Verde,
+    { &Portada::TXT_Ayuda, u"TXT_Ayuda", nullptr, { 4850, 5040, 640, 210 }, u"Ayuda", Letra::Normal, Verde,
         false },
-    { &Portada::TXT_Ayuda, u"TXT_Ayuda", nullptr, { 4850, 5040, 640, 210 }, u"Ayuda", Letra::Normal, Verde, false },
     { &Portada::TXT_FAQ, u"TXT_FAQ", nullptr, { 4850, 5280, 640, 210 }, u"FAQ", Letra::Normal, Verde, false },
 };
 

@@ -1,5 +1,6 @@
-// The line of facts and the capture of the selected entry. Controls: TXT_Info, Graf_Imagen, Imagen of Aumento.
-// An entry that several notes share is looked up in every one of them, and the last one's result stands.
+// The line of facts and the capture of the selected entry. Controls: TXT_Info, Graf_Imagen, Imagen of
+// Aumento. An entry that several notes share is looked up in every one of them, and the last one's result
+// stands.
 
 #include "mainscreen/portada.h"
 
@@ -24,8 +25,8 @@ void Portada::LLena_INFO()
             return;
         const QString directorio = core::Valor(M.Cat_ROM(sistema, emulador), core::PrefijoRuta);
         core::BuscaROM(M, Lista1->Text(), [&](const core::FichaDeROM &ficha) {
-            const QString linea
-                = core::LineaDeInfo(core::Numero(M.TipoEmu), directorio, ficha, host::fileLength);
+            const QString linea =
+                core::LineaDeInfo(core::Numero(M.TipoEmu), directorio, ficha, host::fileLength);
             if (!linea.isEmpty())
                 PonInfo(linea);
         });

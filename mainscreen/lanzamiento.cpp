@@ -1,5 +1,6 @@
 // Launching: the gestures that play, and what the pipeline asks of the screen.
-// Controls: JugarB1, and the keyboard and double clicks of the list, the combos, the title, the television and the tip.
+// Controls: JugarB1, and the keyboard and double clicks of the list, the combos, the title, the television
+// and the tip.
 
 #include "mainscreen/portada.h"
 

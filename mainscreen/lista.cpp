@@ -63,8 +63,8 @@ void Portada::LlenaTablasDeLista()
     const int extensiones = core::CargaExtensiones(M, sistema);
     PonInfo(M.TXT_Añadiendo);
 
-    const core::Recuento recuento
-        = core::Empareja(M, tipo, directorio, entradas, notas, extensiones, host::fileLength);
+    const core::Recuento recuento =
+        core::Empareja(M, tipo, directorio, entradas, notas, extensiones, host::fileLength);
     for (const QString &entrada : recuento.entradas)
         Lista1->AddItem(entrada);
     m_recuento = recuento.exploradas;
@@ -79,9 +79,9 @@ void Portada::LlenaTablasDeLista()
 
 void Portada::ActivaParaLista(bool activo)
 {
-    for (QWidget *control : std::initializer_list<QWidget *> { Lista1, BotonA2, BotonB2, Combo1, Combo2, WEB1, WEB2,
-             BotonC2, BotonD2, JugarB1, X2, X3, X4, X5, OFF, Boton1b, Boton2b, Boton3b, Boton4b, Boton5b, Boton6b,
-             Flecha2, Graf_Imagen, Menos2a, Menos2b, Check1, E1, D1 })
+    for (QWidget *control : std::initializer_list<QWidget *> { Lista1, BotonA2, BotonB2, Combo1, Combo2, WEB1,
+             WEB2, BotonC2, BotonD2, JugarB1, X2, X3, X4, X5, OFF, Boton1b, Boton2b, Boton3b, Boton4b,
+             Boton5b, Boton6b, Flecha2, Graf_Imagen, Menos2a, Menos2b, Check1, E1, D1 })
         control->setEnabled(activo);
 }
 

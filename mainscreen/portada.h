@@ -1,7 +1,7 @@
 // The main screen: it lives from the start of the process to its end, and owns the run.
 //
-// One class, one file a topic: arranque (start and exit), seleccion, lista, informacion, lanzamiento, superficie, and
-// disposicion, the table of where every control stands.
+// One class, one file a topic: arranque (start and exit), seleccion, lista, informacion, lanzamiento,
+// superficie, and disposicion, the table of where every control stands.
 #pragma once
 
 #include "core/modulo.h"

@@ -1,6 +1,7 @@
 // Selection of system and emulator, and the two views. Controls: Combo1, Combo2, Check1.
-// The combos' handlers also run while the combos are filled; Combo1Listo and Combo2Listo alone silence them, and what
-// the second one does ahead of its test (the type, the word under the play button) is wanted at the start.
+// The combos' handlers also run while the combos are filled; Combo1Listo and Combo2Listo alone silence them,
+// and what the second one does ahead of its test (the type, the word under the play button) is wanted at the
+// start.
 
 #include "mainscreen/portada.h"
 
@@ -24,8 +25,8 @@ const QString SinPalabra = u"-----"_s;
 // The controls that the view of the database switches off.
 std::vector<QWidget *> controlesDelCatalogo(Portada &p)
 {
-    return { p.Boton1b, p.Boton2b, p.Boton3b, p.Boton4b, p.Boton5b, p.Boton6b, p.BotonC2, p.BotonD2, p.Menos2a,
-        p.Menos2b, p.E1, p.D1, p.BotonA2, p.BotonB2, p.JugarB1, p.Lista1 };
+    return { p.Boton1b, p.Boton2b, p.Boton3b, p.Boton4b, p.Boton5b, p.Boton6b, p.BotonC2, p.BotonD2,
+        p.Menos2a, p.Menos2b, p.E1, p.D1, p.BotonA2, p.BotonB2, p.JugarB1, p.Lista1 };
 }
 
 } // namespace
@@ -165,8 +166,8 @@ void Portada::PalabraDelBoton()
         TXT_Boton->SetCaption(M.TXT_Jugar);
 }
 
-// True if the emulator's ROM directory is another than that of the one before. The "ROM" line alone decides: two
-// emulators of one directory share the list of the first, whatever their types.
+// True if the emulator's ROM directory is another than that of the one before. The "ROM" line alone decides:
+// two emulators of one directory share the list of the first, whatever their types.
 bool Portada::CambiaDeDirectorio()
 {
     RecuerdaRuta(host::upper(M.Cat_ROM(Sistema(), Emulador() + 1)));

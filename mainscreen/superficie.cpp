@@ -6,8 +6,8 @@ namespace mainscreen {
 
 void Portada::ConectaSuperficie()
 {
-    for (forms::PictureButton *boton : { JugarB1, BotonA2, BotonB2, BotonC2, BotonD2, Boton1b, Boton2b, Boton3b, Boton4b,
-             Boton5b, Boton6b, FlechaE2, Edit2, BlocDeNotas2 })
+    for (forms::PictureButton *boton : { JugarB1, BotonA2, BotonB2, BotonC2, BotonD2, Boton1b, Boton2b,
+             Boton3b, Boton4b, Boton5b, Boton6b, FlechaE2, Edit2, BlocDeNotas2 })
         boton->Press = [this] { Lista1->setFocus(); };
     Menos2b->Press = [this] { Combo2->setFocus(); };
     MouseMove = [this](const forms::Mouse &) { IMGDescripcionLarga->hide(); };

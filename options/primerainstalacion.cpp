@@ -50,8 +50,8 @@ void PrimeraInstalacion::Monta()
     forms::move(*File1, { 360, 240, 975, 870 });
     File1->hide();
 
-    Label1 = etiqueta(this, u"Label1"_s, { 1800, 270, 975, 615 }, u"Idioma   Language     Lingua"_s, QColor(128, 255, 255),
-        Qt::AlignLeft);
+    Label1 = etiqueta(this, u"Label1"_s, { 1800, 270, 975, 615 }, u"Idioma   Language     Lingua"_s,
+        QColor(128, 255, 255), Qt::AlignLeft);
     Label1->setWordWrap(true);
     Aceptar2 = new forms::PictureButton(u"Aceptar2"_s, u"Aceptar1"_s, this);
     Aceptar2->SetPlace({ 1800, 960, 465, 405 });

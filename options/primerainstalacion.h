@@ -11,7 +11,8 @@
 
 namespace options {
 
-// It runs before any language is in memory, so its own words are in several. Only its accept button closes it.
+// It runs before any language is in memory, so its own words are in several. Only its accept button closes
+// it.
 class PrimeraInstalacion : public forms::Form {
 public:
     // Loading lists the language files and selects the program's own.
