@@ -1,0 +1,116 @@
+#include "launch/destino.h"
+
+#include <cerrno>
+#include <cstdio>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+namespace launch {
+
+namespace {
+
+constexpr std::int64_t MinimoLibre = 100 * 1024 * 1024;
+constexpr int EnDirectorio = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
+std::int64_t espacioDelSistema(int descriptor)
+{
+    struct statvfs disco;
+    if (fstatvfs(descriptor, &disco) != 0)
+        return 0;
+    return std::int64_t(disco.f_bavail) * std::int64_t(disco.f_frsize);
+}
+
+EspacioLibre &espacioLibre()
+{
+    static EspacioLibre fuente = espacioDelSistema;
+    return fuente;
+}
+
+} // namespace
+
+void PonEspacioLibre(EspacioLibre fuente)
+{
+    espacioLibre() = fuente ? std::move(fuente) : espacioDelSistema;
+}
+
+QList<QByteArray> PartesDe(const QByteArray &nombre)
+{
+    QList<QByteArray> partes;
+    for (const QByteArray &parte : QByteArray(nombre).replace('\\', '/').split('/')) {
+        if (!parte.isEmpty() && parte != "." && parte != "..")
+            partes << parte;
+    }
+    return partes;
+}
+
+FicheroNuevo::FicheroNuevo(const host::Descriptor &directorio)
+    : m_directorio(directorio)
+{
+    for (int intento = 0; intento < 100 && !Abierto(); ++intento) {
+        m_provisional = ".unpacking-" + QByteArray::number(getpid()) + '-' + QByteArray::number(intento);
+        m_fichero = host::Descriptor(openat(directorio.number(), m_provisional.constData(),
+            O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
+        if (!Abierto() && errno != EEXIST)
+            break;
+    }
+}
+
+FicheroNuevo::~FicheroNuevo()
+{
+    if (Abierto() && !m_provisional.isEmpty())
+        unlinkat(m_directorio.number(), m_provisional.constData(), 0);
+}
+
+bool FicheroNuevo::Escribe(const char *bytes, std::int64_t total)
+{
+    if (espacioLibre()(m_directorio.number()) - total < MinimoLibre)
+        return false;
+    while (total > 0) {
+        const ssize_t escritos = write(m_fichero.number(), bytes, size_t(total));
+        if (escritos < 0 && errno != EINTR)
+            return false;
+        bytes += std::max<ssize_t>(escritos, 0);
+        total -= std::max<ssize_t>(escritos, 0);
+    }
+    return true;
+}
+
+bool FicheroNuevo::Termina(const QByteArray &nombre, bool soloLectura)
+{
+    struct stat estado;
+    if (soloLectura && fstat(m_fichero.number(), &estado) == 0)
+        fchmod(m_fichero.number(), estado.st_mode & 0555);
+    if (renameat(m_directorio.number(), m_provisional.constData(), m_directorio.number(), nombre.constData())
+        != 0)
+        return false;
+    m_provisional.clear();
+    return true;
+}
+
+Destino::Destino(const QByteArray &ruta)
+    : m_descriptor(open(ruta.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+{
+}
+
+host::Descriptor Destino::Directorio(const QList<QByteArray> &partes) const
+{
+    host::Descriptor directorio(openat(m_descriptor.number(), ".", EnDirectorio));
+    for (const QByteArray &parte : partes) {
+        mkdirat(directorio.number(), parte.constData(), 0777);
+        directorio = host::Descriptor(openat(directorio.number(), parte.constData(), EnDirectorio));
+        if (!directorio.isOpen())
+            break;
+    }
+    return directorio;
+}
+
+bool Destino::Existe(const host::Descriptor &directorio, const QByteArray &nombre)
+{
+    struct stat estado;
+    return fstatat(directorio.number(), nombre.constData(), &estado, AT_SYMLINK_NOFOLLOW) == 0;
+}
+
+} // namespace launch

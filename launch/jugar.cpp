@@ -1,0 +1,262 @@
+#include "launch/jugar.h"
+
+#include "core/parrom.h"
+#include "launch/busquedarom.h"
+#include "launch/carpetadejuego.h"
+#include "launch/intenta.h"
+#include "launch/piezas.h"
+#include "launch/vbunzbas.h"
+
+#include "host/letters.h"
+#include "host/paths.h"
+#include "host/questions.h"
+
+using namespace Qt::StringLiterals;
+
+namespace launch {
+
+namespace {
+
+struct Seleccion {
+    int sistema;
+    int fila; // the emulator's row: row 0 is the system itself
+    int tipo;
+};
+
+// One launch. Its steps run in the order in which they stand here; none of them lets a failure out.
+class Lanzamiento {
+public:
+    Lanzamiento(core::Modulo &modulo, Pantalla &pantalla, Seleccion seleccion)
+        : M(modulo)
+        , m_pantalla(pantalla)
+        , m_seleccion(seleccion)
+    {
+    }
+
+    void SoloExe();
+    void ConROM(const QString &entrada);
+
+private:
+    using Tabla = core::Tabla2<QString>;
+
+    void BuscaPorNota(const Busqueda &busqueda);
+    void BuscaPorFichero(const Busqueda &busqueda);
+    void ReunePiezasDelEmulador();
+    void LeeParRom(const QString &clave);
+
+    void Tipo0();
+    void Tipo0Zip();
+    std::optional<QString> FicheroDelZip(const QString &carpeta);
+    void Tipo2();
+    void Tipo3();
+
+    QString LeeCatalogo(const Tabla &tabla, int prefijo) const;
+    QStringList Extensiones() const;
+    QStringList Desempaqueta(const QString &ArchivoZip, const QString &DirectorioDestino);
+    void Corre(Caso caso);
+
+    core::Modulo &M;
+    Pantalla &m_pantalla;
+    const Seleccion m_seleccion;
+    Via m_via = Via::Fichero;
+    Piezas m_piezas;
+};
+
+void Lanzamiento::SoloExe()
+{
+    m_piezas.Par1 = host::lower(LeeCatalogo(M.Cat_PAR1, 5));
+    m_piezas.programa = ProgramaDe(LeeCatalogo(M.Cat_EXE, 4));
+    Corre(Caso::SoloExe);
+}
+
+void Lanzamiento::ConROM(const QString &entrada)
+{
+    m_piezas.RomDir = RomDirDe(LeeCatalogo(M.Cat_ROM, 4));
+    const Busqueda busqueda = BuscaROM(M, m_seleccion.tipo, entrada);
+    m_via = busqueda.via;
+    if (m_via == Via::Nota)
+        BuscaPorNota(busqueda);
+    else
+        BuscaPorFichero(busqueda);
+
+    switch (m_seleccion.tipo) {
+    case 0:
+        return Tipo0();
+    case 1:
+        return Corre(Caso::Directorio);
+    case 2:
+        return Tipo2();
+    case 3:
+        return Tipo3();
+    default:
+        return;
+    }
+}
+
+void Lanzamiento::BuscaPorNota(const Busqueda &busqueda)
+{
+    m_piezas.RomCorto = RomCortoDe(m_piezas.RomDir, busqueda.nombre);
+    if (m_seleccion.tipo == 2 || m_seleccion.tipo == 3)
+        m_piezas.RomCorto.texto.chop(4);
+    M.Nota_Clave(busqueda.nota) = host::lower(busqueda.clave);
+    ReunePiezasDelEmulador();
+    LeeParRom(busqueda.clave);
+}
+
+// On this route the parameters are kept under the short name.
+void Lanzamiento::BuscaPorFichero(const Busqueda &busqueda)
+{
+    m_piezas.RomCorto = RomCortoDe(m_piezas.RomDir, busqueda.nombre);
+    m_piezas.RomBase = RomBaseDe(m_piezas.RomCorto.texto);
+    ReunePiezasDelEmulador();
+    LeeParRom(m_piezas.RomCorto.texto);
+}
+
+void Lanzamiento::ReunePiezasDelEmulador()
+{
+    m_piezas.Par1 = host::lower(LeeCatalogo(M.Cat_PAR1, 5));
+    m_piezas.Par2 = host::lower(LeeCatalogo(M.Cat_PAR2, 5));
+    m_piezas.programa = ProgramaDe(LeeCatalogo(M.Cat_EXE, 4));
+    M.TituloDOS = TituloDe(m_piezas.programa.ExeNombre.texto);
+}
+
+// All files are closed at the end, also one that an earlier failure left open under the number.
+void Lanzamiento::LeeParRom(const QString &clave)
+{
+    constexpr int numero = 1;
+    Intenta([&] { M.Ficheros.openForInput(numero, host::programFile(u"Zembro.rom"_s)); });
+    QString texto;
+    Intenta([&] {
+        while (!M.Ficheros.atEnd(numero))
+            texto += M.Ficheros.readLine(numero) + u'\n';
+    });
+    M.Ficheros.closeAll();
+    host::TextSource fuente(texto);
+    m_piezas.ParRom = core::ParametrosDe(fuente, clave);
+}
+
+void Lanzamiento::Tipo0()
+{
+    if (host::upper(m_piezas.RomCorto.texto).endsWith(u"ZIP"))
+        Tipo0Zip();
+    else
+        Corre(Caso::Suelto);
+}
+
+void Lanzamiento::Tipo0Zip()
+{
+    const QString carpeta = RutaZBTMP();
+    Intenta([&] { host::makeDirectory(carpeta, 0700); });
+    if (const std::optional<QString> elegido = FicheroDelZip(carpeta)) {
+        m_piezas.Desempaquetada = { DirectorioTemporal() + u"ZB-TMP/"_s + host::lower(*elegido),
+            carpeta + u'/' + *elegido };
+        Corre(Caso::Desempaquetado);
+    } else {
+        Intenta([&] { m_pantalla.Aviso(M.Msg_ZipSinRoms0, M.Msg_ZipSinRoms1); });
+    }
+    VaciaZBTMP(carpeta);
+}
+
+std::optional<QString> Lanzamiento::FicheroDelZip(const QString &carpeta)
+{
+    if (!EsDirectorioPropio(carpeta))
+        return std::nullopt;
+    const QStringList miembros = Desempaqueta(m_piezas.RomDir.texto + m_piezas.RomCorto.texto, carpeta);
+    M.RutaTrabajo = carpeta + u'/';
+    QStringList enCarpeta;
+    Intenta([&] { enCarpeta = host::listPlainFiles(carpeta); });
+    M.DirActual = enCarpeta.value(enCarpeta.size() - 1);
+    return EligeFichero(Candidatos(enCarpeta, miembros), Extensiones());
+}
+
+void Lanzamiento::Tipo2()
+{
+    const bool porNota = m_via == Via::Nota;
+    const QString Carpeta = porNota ? m_piezas.RomCorto.texto : m_piezas.RomBase;
+    const CarpetaDeJuego carpeta(m_piezas.programa.ExeDir, Carpeta);
+    QStringList desempaquetados;
+    if (!carpeta.Ruta().isEmpty()) {
+        const QString extension = porNota ? u".zip"_s : u".zip "_s;
+        desempaquetados = Desempaqueta(m_piezas.RomDir.texto + Carpeta + extension, carpeta.Ruta());
+    }
+    Corre(Caso::Comprimido);
+    carpeta.Limpia(desempaquetados);
+}
+
+void Lanzamiento::Tipo3()
+{
+    const bool rutaEntera = host::upper(m_pantalla.TextoCombo2()) == u"NEORAGE";
+    Corre(rutaEntera ? Caso::NeoRage : Caso::AutoComprimido);
+}
+
+// A row that the tables don't have leaves the piece empty.
+QString Lanzamiento::LeeCatalogo(const Tabla &tabla, int prefijo) const
+{
+    QString valor;
+    Intenta([&] { valor = core::Valor(tabla(m_seleccion.sistema, m_seleccion.fila), prefijo); });
+    return valor;
+}
+
+QStringList Lanzamiento::Extensiones() const
+{
+    QStringList extensiones;
+    Intenta([&] {
+        for (int k = 0; k < M.Cat_EXT.columnas(); ++k)
+            extensiones << M.Cat_EXT(m_seleccion.sistema, k);
+    });
+    return extensiones;
+}
+
+QStringList Lanzamiento::Desempaqueta(const QString &ArchivoZip, const QString &DirectorioDestino)
+{
+    M.ArchivoZip = ArchivoZip;
+    M.DirectorioDestino = DirectorioDestino;
+    return Descomprimir(M.ArchivoZip, M.DirectorioDestino).ficheros;
+}
+
+void Lanzamiento::Corre(Caso caso)
+{
+    const LineaDeOrden orden = Compone(caso, m_via, m_piezas);
+    Intenta([&] { host::changeDirectory(m_piezas.programa.ExeDir); });
+    if (core::NumeroDeAjuste(M.DebugMode) == 1)
+        host::questions().tell(u"Zembrolix"_s, orden.EnTexto());
+    Intenta([&] { EsperarEmulador(M, m_pantalla, orden); });
+}
+
+void Termina(Pantalla &pantalla, const QString &entrada)
+{
+    Intenta([&] { pantalla.InfoEnColorDelSistema(); });
+    Intenta([&] { pantalla.SeleccionaEnLista1(entrada); });
+    Intenta([&] { pantalla.EnfocaLista1(); });
+    Intenta([&] {
+        if (pantalla.EntradasLista1() == 0)
+            pantalla.MuestraNingunaROM();
+    });
+}
+
+} // namespace
+
+void Jugar(core::Modulo &M, Pantalla &pantalla)
+{
+    if (pantalla.TextoCombo2().isEmpty())
+        return;
+    const int sistema = pantalla.Sistema();
+    const int fila = pantalla.Emulador() + 1;
+    M.TipoEmu = core::TipoDe(M.Cat_XDI(sistema, fila));
+    const int tipo = core::Numero(M.TipoEmu);
+    if (tipo < 5 && pantalla.EntradasLista1() == 0)
+        return;
+
+    pantalla.MuestraCargando();
+    const QString entrada = pantalla.TextoLista1();
+    Intenta([&] { BarreZBTMP(M); });
+    Lanzamiento lanzamiento(M, pantalla, { sistema, fila, tipo });
+    if (tipo >= 5 && tipo <= 8)
+        lanzamiento.SoloExe();
+    else
+        lanzamiento.ConROM(entrada);
+    RecogeTemporal();
+    Termina(pantalla, entrada);
+}
+
+} // namespace launch

@@ -1,0 +1,149 @@
+#include "launch/piezas.h"
+
+#include "host/letters.h"
+#include "host/paths.h"
+
+using namespace Qt::StringLiterals;
+
+namespace launch {
+
+namespace {
+
+Ruta rutaCorta(const QString &ruta)
+{
+    const QString corta = host::lower(host::GetShortPathNameA(ruta));
+    return { corta, host::trueSpelling(corta) };
+}
+
+// Found paths are cut at the slash alone: a backslash in one belongs to a name.
+QString nombreDe(const QString &ruta)
+{
+    return ruta.sliced(ruta.lastIndexOf(u'/') + 1);
+}
+
+Ruta nombreDe(const Ruta &ruta)
+{
+    return { nombreDe(ruta.texto), nombreDe(ruta.enDisco) };
+}
+
+// A name of the game alone: the emulator looks for it in a place of its own, so the text is what it gets.
+LineaDeOrden &soloNombre(LineaDeOrden &orden, const QString &nombre)
+{
+    return orden.Ruta(nombre, nombre);
+}
+
+LineaDeOrden &comienzo(LineaDeOrden &orden, const Piezas &p)
+{
+    return orden.Ruta(p.programa.ExeCorto.texto, p.programa.ExeCorto.enDisco).Texto(u' ' + p.Par1 + u' ');
+}
+
+void final(LineaDeOrden &orden, const Piezas &p)
+{
+    orden.Texto(u' ' + p.Par2 + u' ' + p.ParRom);
+}
+
+void finalPegado(LineaDeOrden &orden, const Piezas &p)
+{
+    orden.Texto(p.Par2 + u' ' + p.ParRom);
+}
+
+LineaDeOrden soloExe(const Piezas &p)
+{
+    LineaDeOrden orden;
+    orden.Ruta(p.programa.ExeNombre.texto, p.programa.ExeNombre.enDisco).Texto(p.Par1);
+    return orden;
+}
+
+LineaDeOrden conRuta(const Piezas &p, const Ruta &ruta)
+{
+    LineaDeOrden orden;
+    final(comienzo(orden, p).Ruta(ruta.texto, ruta.enDisco), p);
+    return orden;
+}
+
+LineaDeOrden conNombre(const Piezas &p, const QString &nombre)
+{
+    LineaDeOrden orden;
+    final(soloNombre(comienzo(orden, p), nombre), p);
+    return orden;
+}
+
+LineaDeOrden comprimidoPorFichero(const Piezas &p)
+{
+    LineaDeOrden orden;
+    orden.Ruta(p.programa.ExeNombre.texto, p.programa.ExeNombre.enDisco).Texto(u"  "_s + p.Par1 + u' ');
+    final(soloNombre(orden, p.RomBase), p);
+    return orden;
+}
+
+LineaDeOrden autoComprimidoPorNota(const Piezas &p)
+{
+    LineaDeOrden orden;
+    finalPegado(soloNombre(comienzo(orden, p), p.RomCorto.texto), p);
+    return orden;
+}
+
+LineaDeOrden neoRagePorNota(const Piezas &p)
+{
+    const QString enDisco = p.RomCorto.enDisco.isEmpty() ? p.RomCorto.texto + u".zip"_s : p.RomCorto.enDisco;
+    LineaDeOrden orden;
+    comienzo(orden, p)
+        .Ruta(p.RomDir.texto + p.RomCorto.texto + u".zip"_s, p.RomDir.enDisco + enDisco)
+        .Texto(u" "_s);
+    finalPegado(orden, p);
+    return orden;
+}
+
+} // namespace
+
+Programa ProgramaDe(const QString &exe)
+{
+    const Ruta corta = rutaCorta(exe);
+    return { corta, nombreDe(corta), corta.texto.first(corta.texto.lastIndexOf(u'/') + 1) };
+}
+
+QString TituloDe(const QString &ExeNombre)
+{
+    const qsizetype punto = ExeNombre.indexOf(u'.');
+    return punto < 0 ? ExeNombre : ExeNombre.first(punto);
+}
+
+Ruta RomDirDe(const QString &rom)
+{
+    return rutaCorta(rom);
+}
+
+Ruta RomCortoDe(const Ruta &RomDir, const QString &nombre)
+{
+    return nombreDe(rutaCorta(RomDir.texto + host::lower(nombre)));
+}
+
+QString RomBaseDe(const QString &RomCorto)
+{
+    return RomCorto.first(qMax(RomCorto.indexOf(u'.'), 0));
+}
+
+LineaDeOrden Compone(Caso caso, Via via, const Piezas &p)
+{
+    const bool porNota = via == Via::Nota;
+    const Ruta entera { p.RomDir.texto + p.RomCorto.texto, p.RomDir.enDisco + p.RomCorto.enDisco };
+    switch (caso) {
+    case Caso::SoloExe:
+        return soloExe(p);
+    case Caso::Suelto:
+        return conRuta(p, entera);
+    case Caso::Desempaquetado:
+        return conRuta(p, p.Desempaquetada);
+    case Caso::Directorio:
+        return conNombre(p, p.RomCorto.texto);
+    case Caso::Comprimido:
+        return porNota ? conNombre(p, p.RomCorto.texto) : comprimidoPorFichero(p);
+    case Caso::AutoComprimido:
+        return porNota ? autoComprimidoPorNota(p) : conNombre(p, p.RomBase);
+    case Caso::NeoRage:
+        return porNota ? neoRagePorNota(p) : conRuta(p, entera);
+    }
+    return {};
+}
+
+} // namespace launch

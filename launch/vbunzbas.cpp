@@ -1,0 +1,239 @@
+#include "launch/vbunzbas.h"
+
+#include "launch/destino.h"
+
+#include "host/encoding.h"
+#include "host/failure.h"
+#include "host/paths.h"
+#include "host/questions.h"
+
+#include <array>
+#include <memory>
+
+#include <archive.h>
+#include <archive_entry.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace launch {
+
+namespace {
+
+constexpr int MaxIntentos = 3; // passwords asked for one member
+constexpr qsizetype MaxContraseña = 256; // in bytes
+constexpr size_t Bloque = 65536;
+
+bool saltarContraseña = false;
+
+// The passwords of one archive. The library tries those that fitted before by itself and comes for a further
+// one.
+class Contraseñas {
+public:
+    void NuevoMiembro();
+    const char *Otra();
+
+private:
+    void Pregunta();
+
+    int m_intentos = 0;
+    QByteArrayList m_porProbar;
+    QByteArray m_actual;
+};
+
+void Contraseñas::NuevoMiembro()
+{
+    m_intentos = 0;
+    m_porProbar.clear();
+}
+
+const char *Contraseñas::Otra()
+{
+    if (m_porProbar.isEmpty())
+        Pregunta();
+    if (m_porProbar.isEmpty())
+        return nullptr;
+    m_actual = m_porProbar.takeFirst();
+    return m_actual.constData();
+}
+
+// Archives keep bytes, not characters: a password is tried as older systems write it, then as this one does.
+void Contraseñas::Pregunta()
+{
+    if (saltarContraseña || m_intentos == MaxIntentos)
+        return;
+    ++m_intentos;
+    const QString respuesta = host::questions().askText(u"Please Enter The Password!"_s);
+    saltarContraseña = respuesta.isEmpty();
+    for (const QByteArray &bytes : { host::encodeText({ respuesta }), respuesta.toUtf8() }) {
+        const QByteArray contraseña = bytes.first(qMin(bytes.size(), MaxContraseña));
+        if (!contraseña.isEmpty() && !m_porProbar.contains(contraseña))
+            m_porProbar << contraseña;
+    }
+}
+
+const char *otraContraseña(archive *, void *contraseñas)
+{
+    try {
+        return static_cast<Contraseñas *>(contraseñas)->Otra();
+    } catch (const host::Failure &) {
+        return nullptr;
+    }
+}
+
+// The archive as it stands, or without the blanks at the end of its name; closed if it is no plain file.
+host::Descriptor abre(const QString &ruta)
+{
+    QByteArray enDisco = host::findOnDisk(ruta);
+    QString sinBlancos = ruta;
+    while (sinBlancos.endsWith(u' '))
+        sinBlancos.chop(1);
+    if (enDisco.isEmpty())
+        enDisco = host::findOnDisk(sinBlancos);
+
+    host::Descriptor fichero(open(enDisco.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    struct stat estado;
+    const bool normal = fichero.isOpen() && fstat(fichero.number(), &estado) == 0 && S_ISREG(estado.st_mode);
+    return normal ? std::move(fichero) : host::Descriptor();
+}
+
+struct Cierra {
+    void operator()(archive *a) const { archive_read_free(a); }
+};
+using Archivo = std::unique_ptr<archive, Cierra>;
+
+Archivo leeZip(const host::Descriptor &fichero, Contraseñas &contraseñas)
+{
+    Archivo archivo(archive_read_new());
+    archive_read_support_format_zip(archivo.get());
+    archive_read_set_options(archivo.get(), "zip:hdrcharset=CP437"); // of names that aren't marked as UTF-8
+    archive_read_set_passphrase_callback(archivo.get(), &contraseñas, otraContraseña);
+    if (archive_read_open_fd(archivo.get(), fichero.number(), Bloque) != ARCHIVE_OK)
+        archivo.reset();
+    return archivo;
+}
+
+class Extraccion {
+public:
+    Extraccion(archive *archivo, const Destino &destino, Contraseñas &contraseñas)
+        : m_archivo(archivo)
+        , m_destino(destino)
+        , m_contraseñas(contraseñas)
+    {
+    }
+
+    Desempaquetado Todo();
+
+private:
+    enum class Lectura { Entera, Dañada, DiscoLleno };
+
+    void Miembro(archive_entry *miembro);
+    void Fichero(archive_entry *miembro, QList<QByteArray> partes);
+    bool PuedeOcupar(
+        const host::Descriptor &directorio, const QByteArray &nombre, const QByteArray &enArchivo);
+    Lectura Copia(FicheroNuevo &fichero);
+
+    archive *m_archivo;
+    const Destino &m_destino;
+    Contraseñas &m_contraseñas;
+    Desempaquetado m_resultado;
+    bool m_ningunoMas = false; // existing files are not to be replaced, and not to be asked about
+    bool m_discoLleno = false;
+};
+
+Desempaquetado Extraccion::Todo()
+{
+    archive_entry *miembro = nullptr;
+    int estado = ARCHIVE_OK;
+    while (!m_discoLleno && estado >= ARCHIVE_WARN) {
+        estado = archive_read_next_header(m_archivo, &miembro);
+        if (estado == ARCHIVE_EOF)
+            break;
+        if (estado >= ARCHIVE_WARN)
+            Miembro(miembro);
+    }
+    return m_resultado;
+}
+
+// Links and devices are passed over, and names that can't be read.
+void Extraccion::Miembro(archive_entry *miembro)
+{
+    const QByteArray nombre = archive_entry_pathname(miembro);
+    const QList<QByteArray> partes = PartesDe(nombre);
+    const auto clase = archive_entry_filetype(miembro);
+    if (partes.isEmpty())
+        return;
+    m_contraseñas.NuevoMiembro();
+    if (clase == AE_IFDIR || nombre.endsWith('/') || nombre.endsWith('\\'))
+        m_destino.Directorio(partes);
+    else if (clase == AE_IFREG)
+        Fichero(miembro, partes);
+}
+
+void Extraccion::Fichero(archive_entry *miembro, QList<QByteArray> partes)
+{
+    const bool directamente = partes.size() == 1;
+    const QByteArray nombre = partes.takeLast();
+    const host::Descriptor directorio = m_destino.Directorio(partes);
+    if (!directorio.isOpen() || !PuedeOcupar(directorio, nombre, archive_entry_pathname(miembro)))
+        return;
+    FicheroNuevo fichero(directorio);
+    if (!fichero.Abierto())
+        return;
+    const Lectura lectura = Copia(fichero);
+    m_discoLleno = lectura == Lectura::DiscoLleno;
+    const auto permisos = archive_entry_perm(miembro);
+    const bool soloLectura = permisos != 0 && (permisos & 0200) == 0;
+    if (lectura == Lectura::Entera && fichero.Termina(nombre, soloLectura) && directamente)
+        m_resultado.ficheros << host::nameFromDisk(nombre);
+}
+
+bool Extraccion::PuedeOcupar(
+    const host::Descriptor &directorio, const QByteArray &nombre, const QByteArray &enArchivo)
+{
+    using Answer = host::Questions::Answer;
+    if (!Destino::Existe(directorio, nombre))
+        return true;
+    if (m_ningunoMas)
+        return false;
+    const Answer respuesta = host::questions().askYesNoCancel(
+        u"VBUnZip32 - File Already Exists!"_s, u"Overwrite "_s + host::nameFromDisk(enArchivo) + u'?');
+    m_ningunoMas = respuesta == Answer::Cancel;
+    return respuesta == Answer::Yes;
+}
+
+// A warning at the end of the data means that it doesn't agree with its checksum.
+Extraccion::Lectura Extraccion::Copia(FicheroNuevo &fichero)
+{
+    std::array<char, Bloque> bloque;
+    for (;;) {
+        const la_ssize_t leidos = archive_read_data(m_archivo, bloque.data(), bloque.size());
+        if (leidos == 0)
+            return Lectura::Entera;
+        if (leidos < 0)
+            return Lectura::Dañada;
+        if (!fichero.Escribe(bloque.data(), leidos))
+            return Lectura::DiscoLleno;
+    }
+}
+
+} // namespace
+
+Desempaquetado Descomprimir(const QString &ArchivoZip, const QString &DirectorioDestino)
+{
+    const host::Descriptor fichero = abre(ArchivoZip);
+    const Destino destino(host::findOnDisk(DirectorioDestino));
+    if (!fichero.isOpen() || !destino.Abierto())
+        return {};
+    Contraseñas contraseñas;
+    const Archivo archivo = leeZip(fichero, contraseñas);
+    return archivo ? Extraccion(archivo.get(), destino, contraseñas).Todo() : Desempaquetado();
+}
+
+void OlvidaSaltarContraseña()
+{
+    saltarContraseña = false;
+}
+
+} // namespace launch
