@@ -1,0 +1,30 @@
+#!/bin/bash
+# Installs the Debian packages that are missing for the purposes named: build, play, screen, test.
+set -euo pipefail
+
+declare -A packages=(
+    [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6svg6-dev libarchive-dev libxcb1-dev
+             libxcb-ewmh-dev dasm"
+    [play]="stella fonts-liberation"
+    [screen]="xvfb openbox xdotool x11-utils imagemagick"
+    [test]="libgtest-dev libgmock-dev zip"
+)
+
+missing=()
+for purpose in "$@"; do
+    for package in ${packages[$purpose]}; do
+        state=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null || true)
+        [ "$state" = installed ] || missing+=("$package")
+    done
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || { echo "Installing ${missing[*]} needs root or sudo." >&2; exit 1; }
+    as_root=(sudo)
+fi
+echo "Installing: ${missing[*]}"
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" \
+    >/dev/null

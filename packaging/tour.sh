@@ -1,0 +1,64 @@
+#!/bin/bash
+# Plays the demonstration game through the play button on the display that is set, and keeps pictures of it:
+# tour.sh DIRECTORY-OF-THE-PROGRAM PICTURES. Succeeds only if all of it happened.
+set -euo pipefail
+
+program=$1
+pictures=$2
+mkdir -p "$pictures"
+
+fail() { echo "tour: $*" >&2; exit 1; }
+
+# The first visible window with this title; waits for it up to so many seconds.
+window() { # title pattern, seconds
+    local id
+    for _ in $(seq $(($2 * 10))); do
+        id=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1) || true
+        [ -n "$id" ] && { echo "$id"; return; }
+        sleep 0.1
+    done
+    return 1
+}
+gone() { # window, seconds
+    for _ in $(seq $(($2 * 10))); do
+        xdotool getwindowname "$1" >/dev/null 2>&1 || return 0
+        sleep 0.1
+    done
+    return 1
+}
+click() { # window, x, y in its pixels
+    xdotool mousemove --window "$1" "$2" "$3" click 1
+}
+picture() { # window, name
+    import -window "$1" "$pictures/$2"
+    [ "$(identify -format %k "$pictures/$2")" -gt 2 ] || fail "$2 shows nothing"
+    echo "tour: saved $pictures/$2"
+}
+
+"$program/Zembrolix" &
+zembrolix=$!
+trap 'kill $zembrolix 2>/dev/null || true' EXIT
+
+if first=$(window '^Zembrolix$' 5); then
+    picture "$first" first-run.png
+    click "$first" 135 77
+    echo "tour: accepted the language of the first run"
+fi
+main=$(window '^Zembrolix v2\.0$' 10) || fail "no main screen"
+sleep 0.5
+picture "$main" main-screen.png
+click "$main" 184 341
+echo "tour: pressed play"
+game=$(window 'Stella' 15) || fail "no emulator's window"
+sleep 4
+picture "$game" running-game.png
+xdotool windowclose "$game"
+gone "$game" 10 || fail "the emulator's window stays open"
+echo "tour: closed the emulator"
+sleep 0.5
+picture "$main" back-again.png
+click "$main" 391 359
+gone "$main" 10 || fail "the main screen stays open"
+trap - EXIT
+wait "$zembrolix" || fail "the program ended with status $?"
+echo "tour: left the program"

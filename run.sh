@@ -1,0 +1,30 @@
+#!/bin/bash
+# Installs what is missing, builds the release, assembles build/zembrolix and starts it.
+#   --build   stops before the start
+set -euo pipefail
+cd "$(dirname "$0")"
+
+case "${1:-}" in
+"" | --build) ;;
+*)
+    echo "usage: ./run.sh [--build]" >&2
+    exit 2
+    ;;
+esac
+
+packaging/install.sh build play
+mkdir -p build
+cmake --preset release >build/configure.log 2>&1 || { cat build/configure.log >&2; exit 1; }
+cmake --build --preset release
+packaging/assemble.sh build/release build/zembrolix
+[ "${1:-}" != --build ] || exit 0
+
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    exec build/zembrolix/Zembrolix
+fi
+
+echo "There is no display here: playing the demonstration game on a screen in memory instead."
+packaging/install.sh screen
+rm -rf build/tour
+packaging/assemble.sh build/release build/tour/zembrolix
+exec tests/with_screen.sh packaging/tour.sh build/tour/zembrolix build/tour

@@ -1,0 +1,12 @@
+#!/bin/bash
+# Installs what is missing, builds the sanitized preset and runs every test.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+packaging/install.sh build play screen test
+# The journey also plays on the release that a user gets.
+cmake --preset release
+cmake --build --preset release
+cmake --preset sanitize
+cmake --build --preset sanitize
+ctest --preset sanitize "$@"
