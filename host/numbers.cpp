@@ -2,8 +2,10 @@
 
 #include <QLocale>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 #include <string>
 

@@ -24,11 +24,12 @@ QString withClosingSeparator(const QString &path);
 
 // The true spelling on the disk of an existing path, as bytes for the system; empty if there is no such path.
 // Relative paths stand in the working directory. A closing separator is kept as '/', and then only a
-// directory fits. Links are not followed in the spelling.
+// directory fits. A backslash separates too, unless it is part of a name that is there. Links are not
+// followed in the spelling.
 QByteArray findOnDisk(const QString &path);
 
 // For a path that may be about to be made: the directory part as found, the last component as found or, if
-// there is none, as spelled. Empty if the directory doesn't exist.
+// there is none, as spelled. Without a closing separator. Empty if the directory doesn't exist.
 QByteArray findForWriting(const QString &path);
 
 // As findOnDisk, as text.
@@ -37,18 +38,20 @@ QString trueSpelling(const QString &path);
 // The short form of an existing path: absolute, each component in lower case, its blanks and inner points as
 // '_', so without blanks and with at most one point a component. A name that has this form already is its own
 // short form; the others that collide with it get ~2, ~3 ... ahead of the point. Keeps a closing separator.
-// Empty if there is no such path. A pure function of what lies in the directories.
+// Empty if there is no such path. A pure function of what lies in the directories; findOnDisk of a short form
+// is the path's own file. A component ".." stays, a "." goes.
 QString GetShortPathNameA(const QString &path);
 
 // Attributes of an existing path: 16 a directory (a link to one is none), 1 added where the owner can't
-// write, 2 added for a hidden name. Fails with 53 if there is no such path.
+// write, 2 added for a hidden name. Fails with 53 if there is no such path, or only a link that leads
+// nowhere.
 int attributes(const QString &path);
 enum Attribute : int { ReadOnlyAttribute = 1, HiddenAttribute = 2, DirectoryAttribute = 16 };
 
 // Clears every attribute that can be cleared: the owner may write again. Follows no link. Fails with 53.
 void clearAttributes(const QString &path);
 
-// Length in bytes of an existing file. Fails with 53.
+// Length in bytes of an existing file. Fails with 53, for a directory too.
 qint64 fileLength(const QString &path);
 
 // The plain files of a directory, without path, or its sub-directories, by name only. Links are followed to
@@ -57,25 +60,27 @@ qint64 fileLength(const QString &path);
 QStringList listFiles(const QString &directory);
 QStringList listDirectories(const QString &directory);
 
-// The names of listFiles that fit the pattern: "*.*" fits all, "*.lng" all with that ending in any case;
-// several patterns are separated by ';'.
+// The names of listFiles that fit the pattern: "*.*" fits all, "*.lng" all with that ending in any case; '*'
+// stands for any characters, '?' for one; several patterns are separated by ';'.
 QStringList listFiles(const QString &directory, const QString &pattern);
 bool fitsPattern(QStringView name, const QString &pattern);
 
-// The plain files of a directory, hidden ones included and links left out: what deleteFiles would take.
+// The plain files of a directory, hidden ones included and links left out: what deleteFiles takes, but for
+// those that their owner may not write. Fails with 76.
 QStringList listPlainFiles(const QString &directory);
 
 void makeDirectory(const QString &path, int mode = 0777); // fails with 75 or 76, also if it exists
 void removeDirectory(const QString &path); // fails with 75 or 76; only an empty one goes
 
-// Deletes the plain files that lie in the directory itself: no sub-directories, no links, no file that its
-// owner may not write. The path must be absolute (5). With names, only the files of these names. Files that
-// can't be deleted are left.
+// Deletes the plain files that lie in the directory itself: hidden ones too, but no sub-directories, no
+// links, no file that its owner may not write. With names, only the files of exactly these names. Files that
+// can't be deleted are left. Fails with 5 if the path isn't absolute, 76 if there is no such directory, or a
+// link in its place.
 void deleteFiles(const QString &directory);
 void deleteFiles(const QString &directory, const QStringList &names);
 
 void changeDirectory(const QString &path); // fails with 76
-QString currentDirectory();
+QString currentDirectory(); // empty if it has been deleted
 
 // The directory of the executable, without a closing separator, read anew at each call. A test sets another;
 // an empty path puts the executable's own back.

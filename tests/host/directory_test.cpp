@@ -1,0 +1,100 @@
+#include "disktest.h"
+
+#include "host/directory.h"
+#include "host/paths.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace host;
+
+namespace {
+
+class DirectoryReadings : public DiskTest {
+protected:
+    // Looks up until the reading is kept: one that follows a change too closely is not.
+    void lookUntilKept() const
+    {
+        for (int tries = 0; tries < 5000; ++tries) {
+            const int before = Directory::readings();
+            findOnDisk(path(u"NONE"_s));
+            if (Directory::readings() == before)
+                return;
+            usleep(1000);
+        }
+        FAIL() << "the reading is never kept";
+    }
+};
+
+} // namespace
+
+TEST_F(DirectoryReadings, AreNotRepeated_WhileTheDirectoryStandsUnchanged)
+{
+    for (int i = 0; i < 2000; ++i)
+        makeFile("Game " + QByteArray::number(i) + ".ZIP");
+    lookUntilKept();
+    const int before = Directory::readings();
+    for (int i = 0; i < 2000; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        ASSERT_EQ(findOnDisk(path(u"GAME %1.zip"_s.arg(i))), place("Game " + number + ".ZIP"));
+        ASSERT_EQ(findOnDisk(path(u"game_%1.zip"_s.arg(i))), place("Game " + number + ".ZIP"));
+        ASSERT_EQ(findOnDisk(path(u"other %1.zip"_s.arg(i))), QByteArray());
+    }
+    EXPECT_EQ(Directory::readings(), before);
+}
+
+TEST_F(DirectoryReadings, NewNamesAreFoundAtOnce)
+{
+    for (int i = 0; i < 300; ++i) {
+        makeFile("File" + QByteArray::number(i));
+        ASSERT_EQ(findOnDisk(path(u"FILE%1"_s.arg(i))), place("File" + QByteArray::number(i)));
+    }
+}
+
+TEST_F(DirectoryReadings, RemovedNamesAreGoneAtOnce)
+{
+    for (int i = 0; i < 300; ++i) {
+        makeFile("File");
+        ASSERT_EQ(listFiles(path()).size(), 1);
+        ASSERT_EQ(unlink(place("File").constData()), 0);
+        ASSERT_EQ(listFiles(path()).size(), 0);
+    }
+}
+
+TEST_F(DirectoryReadings, NewNamesAreFound_WhenTheModificationTimeIsSetBack)
+{
+    makeFile("one");
+    lookUntilKept();
+    struct stat status;
+    ASSERT_EQ(stat(place().constData(), &status), 0);
+    const timespec times[2] = { status.st_atim, status.st_mtim };
+    makeFile("Two");
+    ASSERT_EQ(utimensat(AT_FDCWD, place().constData(), times, 0), 0);
+    EXPECT_EQ(findOnDisk(path(u"two"_s)), place("Two"));
+}
+
+TEST_F(DirectoryReadings, BelongToTheDirectoryAndNotToThePath)
+{
+    makeDirectory("a");
+    makeFile("a/One");
+    changeDirectory(path(u"a"_s));
+    EXPECT_EQ(findOnDisk(u"ONE"_s), "One");
+    makeDirectory("b");
+    makeFile("b/Two");
+    changeDirectory(path(u"b"_s));
+    EXPECT_EQ(findOnDisk(u"ONE"_s), QByteArray());
+    EXPECT_EQ(findOnDisk(u"TWO"_s), "Two");
+}
+
+TEST_F(DirectoryReadings, ManyDirectoriesAreReadRight)
+{
+    for (int i = 0; i < 600; ++i) {
+        const QByteArray name = QByteArray::number(i);
+        makeDirectory(name);
+        makeFile(name + "/File" + name);
+        ASSERT_EQ(findOnDisk(path(u"%1/FILE%1"_s.arg(i))), place(name + "/File" + name));
+    }
+    EXPECT_EQ(findOnDisk(path(u"7/FILE7"_s)), place("7/File7"));
+}

@@ -1,0 +1,265 @@
+#include "disktest.h"
+
+#include "host/paths.h"
+
+using namespace Qt::StringLiterals;
+using namespace host;
+using testing::ElementsAre;
+using testing::UnorderedElementsAre;
+
+using Attributes = DiskTest;
+
+TEST_F(Attributes, TellDirectoriesFromFiles)
+{
+    makeDirectory("Dir");
+    makeFile("file");
+    EXPECT_EQ(attributes(path(u"DIR"_s)), 16);
+    EXPECT_EQ(attributes(path(u"dir\\"_s)), 16);
+    EXPECT_EQ(attributes(path(u"file"_s)), 0);
+    EXPECT_EQ(attributes(u"/"_s) & DirectoryAttribute, 16);
+    EXPECT_EQ(attributes(path(u"dir/.."_s)), 16);
+}
+
+TEST_F(Attributes, OneIsAdded_WhereTheOwnerCannotWrite)
+{
+    makeDirectory("dir");
+    makeFile("file");
+    setMode("dir", 0555);
+    setMode("file", 0477);
+    EXPECT_EQ(attributes(path(u"dir"_s)), 17);
+    EXPECT_EQ(attributes(path(u"file"_s)), 1);
+}
+
+TEST_F(Attributes, TwoIsAdded_ForAHiddenName)
+{
+    makeDirectory(".dir");
+    makeFile(".file");
+    setMode(".file", 0444);
+    EXPECT_EQ(attributes(path(u".dir/"_s)), 18);
+    EXPECT_EQ(attributes(path(u".file"_s)), 3);
+    EXPECT_EQ(attributes(path(u".dir/."_s)), 16);
+}
+
+TEST_F(Attributes, LinkToADirectoryIsNone)
+{
+    makeDirectory("dir");
+    makeLink("dir", "link");
+    EXPECT_EQ(attributes(path(u"link"_s)), 0);
+    EXPECT_EQ(attributes(path(u"link/"_s)), 0);
+}
+
+TEST_F(Attributes, LinkIsAsWritableAsWhatItLeadsTo)
+{
+    makeFile("file");
+    makeLink("file", "link");
+    EXPECT_EQ(attributes(path(u"link"_s)), 0);
+    setMode("file", 0444);
+    EXPECT_EQ(attributes(path(u"link"_s)), 1);
+}
+
+TEST_F(Attributes, Fail_WhereThereIsNoFile)
+{
+    makeLink("nowhere", "broken");
+    EXPECT_EQ(failureOf([this] { attributes(path(u"none"_s)); }), FileNotFound);
+    EXPECT_EQ(failureOf([this] { attributes(path(u"none/none"_s)); }), FileNotFound);
+    EXPECT_EQ(failureOf([this] { attributes(path(u"broken"_s)); }), FileNotFound);
+    EXPECT_EQ(failureOf([] { attributes(QString()); }), FileNotFound);
+}
+
+TEST_F(Attributes, ClearingLetsTheOwnerWriteAgain)
+{
+    makeFile("file");
+    setMode("file", 0444);
+    makeDirectory("dir");
+    setMode("dir", 0511);
+    clearAttributes(path(u"FILE"_s));
+    clearAttributes(path(u"dir/"_s));
+    EXPECT_EQ(mode("file"), 0644u);
+    EXPECT_EQ(mode("dir"), 0711u);
+    EXPECT_EQ(attributes(path(u"file"_s)), 0);
+}
+
+TEST_F(Attributes, ClearingFollowsNoLink)
+{
+    makeFile("file");
+    setMode("file", 0444);
+    makeLink("file", "link");
+    makeDirectory("dir");
+    setMode("dir", 0555);
+    makeLink("dir", "to dir");
+    clearAttributes(path(u"link"_s));
+    clearAttributes(path(u"to dir/"_s));
+    EXPECT_EQ(mode("file"), 0444u);
+    EXPECT_EQ(mode("dir"), 0555u);
+    EXPECT_EQ(failureOf([this] { clearAttributes(path(u"none"_s)); }), FileNotFound);
+}
+
+using Lengths = DiskTest;
+
+TEST_F(Lengths, AreInBytes)
+{
+    makeFile("Empty", "");
+    makeFile("File", QByteArray(1234567, 'x'));
+    makeLink("File", "link");
+    EXPECT_EQ(fileLength(path(u"empty"_s)), 0);
+    EXPECT_EQ(fileLength(path(u"file"_s)), 1234567);
+    EXPECT_EQ(fileLength(path(u"link"_s)), 1234567);
+}
+
+TEST_F(Lengths, Fail_WhereThereIsNoFile)
+{
+    makeDirectory("dir");
+    makeLink("nowhere", "broken");
+    EXPECT_EQ(failureOf([this] { fileLength(path(u"none"_s)); }), FileNotFound);
+    EXPECT_EQ(failureOf([this] { fileLength(path(u"broken"_s)); }), FileNotFound);
+    EXPECT_EQ(failureOf([this] { fileLength(path(u"dir"_s)); }), FileNotFound);
+}
+
+using Making = DiskTest;
+
+TEST_F(Making, DirectoryIsMadeInADirectoryFoundInAnyCase)
+{
+    makeDirectory("Sub");
+    host::makeDirectory(path(u"SUB\\New Dir\\"_s));
+    EXPECT_EQ(attributes(path(u"Sub/New Dir"_s)), 16);
+    host::makeDirectory(path(u"own"_s), 0700);
+    EXPECT_EQ(mode("own"), 0700u);
+}
+
+TEST_F(Making, Fails_WhereItExistsOrCannotBe)
+{
+    makeDirectory("Sub");
+    makeFile("file");
+    EXPECT_EQ(failureOf([this] { host::makeDirectory(path(u"SUB"_s)); }), PathAccess);
+    EXPECT_EQ(failureOf([this] { host::makeDirectory(path(u"file"_s)); }), PathAccess);
+    EXPECT_EQ(failureOf([this] { host::makeDirectory(path(u"none/new"_s)); }), PathNotFound);
+    EXPECT_EQ(failureOf([] { host::makeDirectory(QString()); }), PathNotFound);
+    EXPECT_THAT(names(), ElementsAre("Sub", "file"));
+}
+
+TEST_F(Making, Fails_WhereTheUserMayNot)
+{
+    const int status =
+        inChildOfOrdinaryUser([] { return failureOf([] { host::makeDirectory(u"/zembrolix-test"_s); }); });
+    EXPECT_EQ(status, PathAccess);
+}
+
+TEST_F(Making, EmptyDirectoryIsRemoved)
+{
+    makeDirectory("Sub");
+    removeDirectory(path(u"SUB/"_s));
+    EXPECT_FALSE(exists("Sub"));
+}
+
+TEST_F(Making, RemovingFails_OfAnythingElse)
+{
+    makeDirectory("full");
+    makeFile("full/a");
+    makeDirectory("empty");
+    makeLink("empty", "link");
+    makeFile("file");
+    EXPECT_EQ(failureOf([this] { removeDirectory(path(u"full"_s)); }), PathAccess);
+    EXPECT_EQ(failureOf([this] { removeDirectory(path(u"link/"_s)); }), PathNotFound);
+    EXPECT_EQ(failureOf([this] { removeDirectory(path(u"file"_s)); }), PathNotFound);
+    EXPECT_EQ(failureOf([this] { removeDirectory(path(u"none"_s)); }), PathNotFound);
+    EXPECT_EQ(failureOf([] { removeDirectory(QString()); }), PathNotFound);
+    EXPECT_THAT(names(), ElementsAre("empty", "file", "full", "link"));
+}
+
+using Deleting = DiskTest;
+
+TEST_F(Deleting, TakesPlainFilesAlone)
+{
+    makeDirectory("Dir");
+    makeDirectory("Dir/sub");
+    makeFile("Dir/sub/inner");
+    makeFile("outer");
+    makeFile("Dir/a.zip");
+    makeFile("Dir/no point");
+    makeFile("Dir/.hidden");
+    makeFile("Dir/Espa\xF1"
+             "a");
+    makeLink("../outer", "Dir/link");
+    makeLink("..", "Dir/up");
+    makeFile("Dir/locked");
+    setMode("Dir/locked", 0466);
+    deleteFiles(path(u"DIR\\"_s));
+    EXPECT_TRUE(exists("outer"));
+    EXPECT_TRUE(exists("Dir/sub/inner"));
+    EXPECT_TRUE(exists("Dir/link"));
+    EXPECT_TRUE(exists("Dir/up"));
+    EXPECT_TRUE(exists("Dir/locked"));
+    EXPECT_FALSE(exists("Dir/a.zip"));
+    EXPECT_FALSE(exists("Dir/no point"));
+    EXPECT_FALSE(exists("Dir/.hidden"));
+    EXPECT_FALSE(exists("Dir/Espa\xF1"
+                        "a"));
+}
+
+TEST_F(Deleting, TakesReadOnlyFiles_OnceTheirAttributesAreCleared)
+{
+    makeFile("locked");
+    setMode("locked", 0444);
+    for (const QString &name : listPlainFiles(path()))
+        clearAttributes(path(name));
+    deleteFiles(path());
+    EXPECT_THAT(names(), ElementsAre());
+}
+
+TEST_F(Deleting, TakesTheNamedFilesAlone)
+{
+    makeDirectory("dir");
+    makeDirectory("dir/sub");
+    makeFile("outer");
+    for (const char *name : { "dir/a", "dir/A", "dir/b", "dir/c", "dir/sub/a" })
+        makeFile(name);
+    setMode("dir/c", 0444);
+    deleteFiles(path(u"dir"_s), { u"a"_s, u"c"_s, u"none"_s, u"sub"_s, u"sub/a"_s, u"../outer"_s, u".."_s });
+    EXPECT_FALSE(exists("dir/a"));
+    EXPECT_TRUE(exists("dir/A"));
+    EXPECT_TRUE(exists("dir/b"));
+    EXPECT_TRUE(exists("dir/c"));
+    EXPECT_TRUE(exists("dir/sub/a"));
+    EXPECT_TRUE(exists("outer"));
+}
+
+TEST_F(Deleting, Fails_OfALinkInTheDirectorysPlace)
+{
+    makeDirectory("home");
+    makeFile("home/letter");
+    makeLink("home", "ZB-TMP");
+    EXPECT_EQ(failureOf([this] { deleteFiles(path(u"ZB-TMP"_s)); }), PathNotFound);
+    EXPECT_EQ(failureOf([this] { deleteFiles(path(u"ZB-TMP/"_s)); }), PathNotFound);
+    EXPECT_EQ(failureOf([this] { deleteFiles(path(u"ZB-TMP/"_s), { u"letter"_s }); }), PathNotFound);
+    EXPECT_TRUE(exists("home/letter"));
+}
+
+TEST_F(Deleting, Fails_OfAPathThatIsNotAbsolute)
+{
+    makeFile("a");
+    changeDirectory(path());
+    EXPECT_EQ(failureOf([] { deleteFiles(u"."_s); }), InvalidArgument);
+    EXPECT_EQ(failureOf([] { deleteFiles(QString()); }), InvalidArgument);
+    EXPECT_EQ(failureOf([] { deleteFiles(u"."_s, { u"a"_s }); }), InvalidArgument);
+    EXPECT_TRUE(exists("a"));
+}
+
+TEST_F(Deleting, Fails_WhereThereIsNoSuchDirectory)
+{
+    makeFile("file");
+    EXPECT_EQ(failureOf([this] { deleteFiles(path(u"none"_s)); }), PathNotFound);
+    EXPECT_EQ(failureOf([this] { deleteFiles(path(u"file"_s)); }), PathNotFound);
+    EXPECT_TRUE(exists("file"));
+}
+
+TEST_F(Deleting, LeavesWhatCannotBeDeleted)
+{
+    makeDirectory("dir");
+    makeFile("dir/a");
+    setMode("dir", 0555);
+    const int status =
+        inChildOfOrdinaryUser([this] { return failureOf([this] { deleteFiles(path(u"dir"_s)); }); });
+    setMode("dir", 0755);
+    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(exists("dir/a"));
+}

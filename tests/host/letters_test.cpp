@@ -1,0 +1,62 @@
+#include "disktest.h"
+
+#include "host/letters.h"
+
+using namespace Qt::StringLiterals;
+using namespace host;
+
+TEST(Letters, UpperTurnsEachCharacterIntoOne)
+{
+    EXPECT_EQ(upper(u"señor ÿ straße ﬁ 1"), u"SEÑOR Ÿ STRAßE ﬁ 1"_s);
+}
+
+TEST(Letters, LowerTurnsEachCharacterIntoOne)
+{
+    EXPECT_EQ(lower(u"SEÑOR Ÿ ÉÜ [1]"), u"señor ÿ éü [1]"_s);
+}
+
+TEST(Letters, CharactersBeyondTheBasicPlaneHaveCasesToo)
+{
+    EXPECT_EQ(upper(u"\U00010428"), u"\U00010400"_s);
+    EXPECT_EQ(lower(u"\U00010400"), u"\U00010428"_s);
+}
+
+TEST(Letters, HalvesOfPairsStayAsTheyAre)
+{
+    const QString halves = QString(QChar(0xDC00)) + u'a' + QChar(0xD801);
+    EXPECT_EQ(upper(halves), QString(QChar(0xDC00)) + u'A' + QChar(0xD801));
+}
+
+TEST(Letters, CodesCompareOneByOne)
+{
+    EXPECT_LT(compareCodes(u"B", u"a"), 0);
+    EXPECT_GT(compareCodes(u"b", u"B"), 0);
+    EXPECT_EQ(compareCodes(u"ñ", u"ñ"), 0);
+    EXPECT_LT(compareCodes(u"", u"a"), 0);
+    EXPECT_LT(compareCodes(u"ab", u"abc"), 0);
+    EXPECT_GT(compareCodes(u"abc", u"ab"), 0);
+    EXPECT_EQ(compareCodes(u"", u""), 0);
+}
+
+TEST(Letters, CodesBeyondTheBasicPlaneComeLast)
+{
+    // By UTF-16 units the pair would come first.
+    EXPECT_LT(compareCodes(u"\uFFFD", u"\U00010000"), 0);
+    EXPECT_LT(compareNames(u"\uFFFD", u"\U00010000"), 0);
+}
+
+TEST(Letters, NamesCompareByTheirCapitals)
+{
+    EXPECT_EQ(compareNames(u"ÑandÚ", u"ñANDú"), 0);
+    EXPECT_LT(compareNames(u"a", u"B"), 0);
+    // The underscore stands behind the capitals, but ahead of the small letters.
+    EXPECT_GT(compareNames(u"_", u"a"), 0);
+    EXPECT_GT(compareNames(u"ñ", u"z"), 0);
+}
+
+TEST(Letters, SameNameIsTheSameInAnyCase)
+{
+    EXPECT_TRUE(sameName(u"Zembro.CFG", u"ZEMBRO.cfg"));
+    EXPECT_FALSE(sameName(u"Zembro.cfg", u"Zembro.cf"));
+    EXPECT_FALSE(sameName(u"straße", u"STRASSE"));
+}

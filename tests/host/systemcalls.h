@@ -1,0 +1,41 @@
+// Stands between the program and the calls to the system with which files are rewritten, and lets one of them
+// go wrong. The test program's own definitions of these calls take precedence over the library's.
+#pragma once
+
+#include <cstddef>
+#include <limits>
+
+namespace systemcalls {
+
+enum class Fault {
+    Fail, // the call does nothing and fails with the given error
+    End, // the process ends in the place of the call; a write has written half by then
+};
+
+// The status with which Fault::End ends a process.
+constexpr int EndStatus = 77;
+
+// While it lives, the call with this index (from 0, of all the calls watched) goes wrong. One at a time.
+class FaultAt {
+public:
+    FaultAt(int index, Fault fault, int error = 0);
+    ~FaultAt();
+    FaultAt(const FaultAt &) = delete;
+    FaultAt &operator=(const FaultAt &) = delete;
+
+    bool happened() const;
+};
+
+// While it lives, the calls of this name fail with this error, the first few or all of them. One at a time.
+class FaultOf {
+public:
+    FaultOf(const char *name, int error, int times = std::numeric_limits<int>::max());
+    ~FaultOf();
+    FaultOf(const FaultOf &) = delete;
+    FaultOf &operator=(const FaultOf &) = delete;
+};
+
+// From now on a write takes no more than this many bytes at once.
+void setMostWritten(std::size_t bytes);
+
+} // namespace systemcalls
