@@ -68,7 +68,16 @@ Caja::Caja(core::Modulo &modulo, const Teja &teja)
         if (tecla == forms::EnterKey)
             Acepta();
     };
+    // Only its own controls close it: closed in any other way, a question would count as answered with yes.
+    CloseWished = [] {};
     M.Respuesta_Opcion = 0;
+}
+
+// No picture has the focus until the user takes it there: a blank typed ahead must not answer.
+void Caja::QuitaCasilla()
+{
+    Casilla->hide();
+    setFocus();
 }
 
 void Caja::Acepta()
@@ -90,7 +99,7 @@ void Caja::PreparaPregunta(const QString &mensaje, const QString &titulo)
 {
     Texto1->SetCaption(mensaje);
     Texto2->hide();
-    Casilla->hide();
+    QuitaCasilla();
     SetCaption(titulo);
     mueve(Aceptar2, 180, 625, 465, 405);
     mueve(Flecha2, 850, 640, 615, 375);
@@ -102,7 +111,7 @@ void Caja::PreparaPregunta(const QString &mensaje, const QString &titulo)
 
 void Caja::PreparaAdvertencia(const QString &mensaje, const QString &titulo)
 {
-    Casilla->hide();
+    QuitaCasilla();
     Aceptar2->hide();
     TXT_Aceptar->hide();
     SetOuterHeight(1900);
@@ -115,7 +124,7 @@ void Caja::PreparaAdvertencia(const QString &mensaje, const QString &titulo)
 
 void Caja::PreparaAviso(const QString &mensaje, const QString &titulo)
 {
-    Casilla->hide();
+    QuitaCasilla();
     Flecha2->hide();
     TXT_Volver->hide();
     SetOuterHeight(1900);

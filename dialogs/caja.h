@@ -40,6 +40,7 @@ public:
     forms::Label *TXT_Volver;
 
 private:
+    void QuitaCasilla();
     void Acepta();
 
     core::Modulo &M;

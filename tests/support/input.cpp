@@ -1,0 +1,118 @@
+#include "tests/support/input.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTest>
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int Bound = 5000; // milliseconds
+
+QWindow *windowOf(QWidget &widget)
+{
+    return widget.window()->windowHandle();
+}
+
+QPoint inWindow(QWidget &widget, QPoint point)
+{
+    return widget.mapTo(widget.window(), point);
+}
+
+QPoint middle(QWidget &widget)
+{
+    return inWindow(widget, widget.rect().center());
+}
+
+QPoint middleOfRow(QAbstractItemView &view, int row)
+{
+    const QModelIndex index = view.model()->index(row, 0);
+    view.scrollTo(index);
+    return inWindow(*view.viewport(), view.visualRect(index).center());
+}
+
+} // namespace
+
+void press(QWidget &widget, Qt::MouseButton button)
+{
+    QTest::mousePress(windowOf(widget), button, {}, middle(widget));
+}
+
+void release(QWidget &widget, Qt::MouseButton button)
+{
+    QTest::mouseRelease(windowOf(widget), button, {}, middle(widget));
+}
+
+void releaseAt(QWidget &widget, QPoint point, Qt::MouseButton button)
+{
+    QTest::mouseRelease(windowOf(widget), button, {}, inWindow(widget, point));
+}
+
+void click(QWidget &widget, Qt::MouseButton button)
+{
+    QTest::mouseClick(windowOf(widget), button, {}, middle(widget));
+}
+
+void moveTo(QWidget &widget, QPoint point)
+{
+    QTest::mouseMove(windowOf(widget), inWindow(widget, point));
+}
+
+void strike(QWidget &widget, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(windowOf(widget), key, modifiers);
+}
+
+void type(QWidget &widget, const QString &text)
+{
+    for (const QChar letter : text)
+        QTest::keyClick(windowOf(widget), letter.toLatin1());
+}
+
+void repeatKey(QWidget &widget, Qt::Key key)
+{
+    QWidget *focused = widget.window()->focusWidget();
+    ASSERT_TRUE(focused);
+    QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(focused, &again);
+}
+
+void clickRow(forms::ListBox &list, int row, Qt::MouseButton button)
+{
+    QTest::mouseClick(windowOf(list), button, {}, middleOfRow(list, row));
+}
+
+void doubleClickRow(forms::ListBox &list, int row)
+{
+    QTest::mouseDClick(windowOf(list), Qt::LeftButton, {}, middleOfRow(list, row));
+}
+
+void dropDown(forms::ComboBox &combo)
+{
+    QKeyEvent open(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier);
+    QCoreApplication::sendEvent(&combo, &open);
+    ASSERT_TRUE(waitUntil([&combo] { return combo.view()->isVisible(); })) << "the list didn't drop down";
+}
+
+void pick(forms::ComboBox &combo, const QString &text)
+{
+    const int row = combo.findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    ASSERT_GE(row, 0) << "no entry " << text.toStdString();
+    ASSERT_TRUE(combo.isEnabled());
+    dropDown(combo);
+    QTest::mouseClick(windowOf(*combo.view()), Qt::LeftButton, {}, middleOfRow(*combo.view(), row));
+    EXPECT_FALSE(combo.view()->isVisible()) << "the list stayed open";
+}
+
+void wishClose(QWidget &window)
+{
+    window.windowHandle()->close();
+}
+
+bool waitUntil(const std::function<bool()> &condition)
+{
+    return QTest::qWaitFor(condition, Bound);
+}

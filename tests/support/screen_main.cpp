@@ -1,0 +1,43 @@
+// The main function of the test programs that show screens.
+
+#include "tests/support/testquestions.h"
+
+#include "forms/application.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+// The process would be gone: what waits behind the event doesn't see its end as a failure of its own.
+class TestApplication final : public forms::Application {
+public:
+    using Application::Application;
+
+    bool notify(QObject *receiver, QEvent *event) override
+    {
+        try {
+            return Application::notify(receiver, event);
+        } catch (const ProcessEnd &) {
+            return true;
+        }
+    }
+};
+
+// The offscreen platform can't raise windows, and says so at each one.
+QtMessageHandler defaultHandler = nullptr;
+
+void withoutRaise(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (!message.contains(u"does not support raise"))
+        defaultHandler(type, context, message);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    testing::InitGoogleMock(&argc, argv);
+    defaultHandler = qInstallMessageHandler(&withoutRaise);
+    TestApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
