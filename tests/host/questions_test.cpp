@@ -1,0 +1,156 @@
+// The plain system boxes on a screen: what they show, which answer each button and key gives.
+#include "host/desktopquestions.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <gmock/gmock.h>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+inline void PrintTo(host::Questions::Answer answer, std::ostream *out)
+{
+    *out << int(answer);
+}
+
+class QuestionsTest : public testing::Test {
+protected:
+    // Does this to the box of the kind as soon as it is up.
+    template <typename Box> void whenUp(std::function<void(Box *)> act)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, act = std::move(act)] {
+            auto *box = qobject_cast<Box *>(QApplication::activeModalWidget());
+            if (!box || !box->isVisible())
+                return;
+            m_timer.stop();
+            ++m_boxes;
+            act(box);
+        });
+        m_timer.start(5);
+    }
+
+    void TearDown() override { EXPECT_EQ(m_boxes, 1); }
+
+    host::DesktopQuestions m_questions;
+
+private:
+    QTimer m_timer;
+    int m_boxes = 0;
+};
+
+TEST_F(QuestionsTest, TheOverwriteBoxShowsTitleAndText_AndEnterMeansNo)
+{
+    whenUp<QMessageBox>([](QMessageBox *box) {
+        EXPECT_EQ(box->windowTitle(), u"Title"_s);
+        EXPECT_EQ(box->text(), u"Overwrite a & b?"_s);
+        EXPECT_EQ(box->standardButtons(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    EXPECT_EQ(m_questions.askYesNoCancel(u"Title"_s, u"Overwrite a & b?"_s), host::Questions::Answer::No);
+}
+
+TEST_F(QuestionsTest, TheOverwriteBoxIsYes_ByItsButton)
+{
+    whenUp<QMessageBox>(
+        [](QMessageBox *box) { QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton); });
+    EXPECT_EQ(m_questions.askYesNoCancel(u"T"_s, u"x"_s), host::Questions::Answer::Yes);
+}
+
+TEST_F(QuestionsTest, TheOverwriteBoxIsCancel_WhenItIsClosed)
+{
+    whenUp<QMessageBox>([](QMessageBox *box) { box->close(); });
+    EXPECT_EQ(m_questions.askYesNoCancel(u"T"_s, u"x"_s), host::Questions::Answer::Cancel);
+}
+
+TEST_F(QuestionsTest, YesOrNoIsNo_ByEnter)
+{
+    whenUp<QMessageBox>([](QMessageBox *box) { QTest::keyClick(box, Qt::Key_Return); });
+    EXPECT_FALSE(m_questions.askYesNo(u"T"_s, u"x"_s));
+}
+
+TEST_F(QuestionsTest, YesOrNoIsYes_ByItsButton)
+{
+    whenUp<QMessageBox>(
+        [](QMessageBox *box) { QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton); });
+    EXPECT_TRUE(m_questions.askYesNo(u"T"_s, u"x"_s));
+}
+
+TEST_F(QuestionsTest, ThePasswordIsHiddenAndHandedOver)
+{
+    whenUp<QInputDialog>([](QInputDialog *box) {
+        EXPECT_EQ(box->labelText(), u"The prompt"_s);
+        EXPECT_EQ(box->textEchoMode(), QLineEdit::Password);
+        QTest::keyClicks(box->findChild<QLineEdit *>(), u"open sesame"_s);
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    EXPECT_EQ(m_questions.askText(u"The prompt"_s), u"open sesame"_s);
+}
+
+TEST_F(QuestionsTest, ThePasswordIsEmpty_WhenThePromptIsClosed)
+{
+    whenUp<QInputDialog>([](QInputDialog *box) {
+        QTest::keyClicks(box->findChild<QLineEdit *>(), u"half"_s);
+        QTest::keyClick(box, Qt::Key_Escape);
+    });
+    EXPECT_EQ(m_questions.askText(u"The prompt"_s), QString());
+}
+
+TEST_F(QuestionsTest, TellShowsOneTextAsItStandsAndOneButton)
+{
+    whenUp<QMessageBox>([](QMessageBox *box) {
+        EXPECT_EQ(box->windowTitle(), u"Title"_s);
+        EXPECT_EQ(box->text(), u"/emu/x.exe  -a <b>  /roms/a.nes "_s);
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        EXPECT_EQ(box->buttons().size(), 1);
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    m_questions.tell(u"Title"_s, u"/emu/x.exe  -a <b>  /roms/a.nes "_s);
+}
+
+TEST(QuestionsDeathTest, AFatalEndTellsOnTheStandardError_AndEndsWithStatusOne)
+{
+    EXPECT_EXIT(
+        {
+            QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+            host::DesktopQuestions().endWithError(u"ERROR"_s, u"no such file"_s);
+        },
+        testing::ExitedWithCode(1), "ERROR: no such file");
+}
+
+TEST(QuestionsDeathTest, AFatalEndUnderTheBoxOfAnotherEndsWithoutASecondBox)
+{
+    EXPECT_EXIT(
+        {
+            host::DesktopQuestions questions;
+            QTimer::singleShot(0, [&] { questions.endWithError(u"ERROR"_s, u"second"_s); });
+            questions.endWithError(u"ERROR"_s, u"first"_s);
+        },
+        testing::ExitedWithCode(1), "ERROR: first\nERROR: second");
+}
+
+TEST(QuestionsDeathTest, TheRegularEndHandsItsStatusOn)
+{
+    EXPECT_EXIT(host::DesktopQuestions().endProcess(0), testing::ExitedWithCode(0), "");
+}
+
+TEST(Questions, TheAnswersInForceAreTheOnesThatWereSet)
+{
+    host::DesktopQuestions first;
+    host::DesktopQuestions second;
+    host::setQuestions(&first);
+    EXPECT_EQ(&host::questions(), &first);
+    host::setQuestions(&second);
+    EXPECT_EQ(&host::questions(), &second);
+    host::setQuestions(nullptr);
+}
+
+} // namespace
