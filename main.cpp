@@ -7,15 +7,22 @@
 #include "forms/guard.h"
 
 #include "host/desktopquestions.h"
+#include "host/display.h"
 #include "host/process.h"
 
 #include "mainscreen/portada.h"
 
 #include "options/primerainstalacion.h"
 
+#include <cstdio>
+
 int main(int argc, char **argv)
 {
     host::rememberEnvironment();
+    if (!host::hasDisplay()) {
+        std::fputs("Zembrolix: there is no display to show the screen on.\n", stderr);
+        return 1;
+    }
     host::DesktopQuestions preguntas;
     host::setQuestions(&preguntas);
     forms::Application aplicacion(argc, argv);

@@ -1,0 +1,10 @@
+// Whether there is a screen to draw on.
+#pragma once
+
+namespace host {
+
+// True if the toolkit will find a display: a Wayland one is named, an X server answers, or the user has chosen another
+// platform of the toolkit. Without one the toolkit would abort.
+bool hasDisplay();
+
+} // namespace host
