@@ -16,10 +16,13 @@
 #include <vector>
 
 #include <spawn.h>
-#include <sys/pidfd.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+extern "C" { // the header of this system leaves that out
+#include <sys/pidfd.h>
+}
 
 namespace host {
 
