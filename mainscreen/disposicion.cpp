@@ -180,14 +180,25 @@ ControlDeForma *coloca(ControlDeForma *control, const QString &nombre, const for
     return control;
 }
 
+void montaCasillaDB(Portada &portada)
+{
+    portada.Check1 = coloca(new forms::CheckBox(&portada), u"Check1"_s, { 5640, 4460, 200, 255 });
+    portada.Check1->setText(u"DB"_s);
+    portada.Check1->setFont(forms::arial(6, true));
+    QPalette colores = portada.Check1->palette();
+    colores.setColor(QPalette::WindowText, Blanco);
+    colores.setColor(QPalette::Window, Negro);
+    portada.Check1->setPalette(colores);
+    portada.Check1->setBackgroundRole(QPalette::Window);
+    portada.Check1->setAutoFillBackground(true);
+}
+
 void montaSeleccionYLista(Portada &portada)
 {
     portada.Lista1 = coloca(new forms::ListBox(&portada), u"Lista1"_s, { 120, 1320, 2295, 2580 });
     portada.Combo1 = coloca(new forms::ComboBox(&portada), u"Combo1"_s, { 480, 4200, 1935, 330 });
     portada.Combo2 = coloca(new forms::ComboBox(&portada), u"Combo2"_s, { 480, 4560, 1935, 330 });
-    portada.Check1 = coloca(new forms::CheckBox(&portada), u"Check1"_s, { 5640, 4460, 200, 255 });
-    portada.Check1->setText(u"DB"_s);
-    portada.Check1->setFont(forms::arial(6, true));
+    montaCasillaDB(portada);
 
     portada.File1 = coloca(new forms::ListBox(&portada), u"File1"_s, {});
     portada.Dir1 = coloca(new forms::ListBox(&portada), u"Dir1"_s, {});

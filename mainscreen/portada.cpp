@@ -2,6 +2,8 @@
 
 #include "mainscreen/disposicion.h"
 
+#include "forms/pictures.h"
+
 #include "host/paths.h"
 
 using namespace Qt::StringLiterals;
@@ -31,7 +33,8 @@ void Portada::Mensaje(int Tipo, const QString &mensaje, const QString &TituloVen
 dialogs::Teja Portada::Teja() const
 {
     const forms::Place lugar = forms::placeOf(*Fondo);
-    return { Fondo->Picture(), lugar.width, lugar.height };
+    return { forms::artwork(Fondo->objectName(), Fondo->size(), devicePixelRatioF()), lugar.width,
+        lugar.height };
 }
 
 void Portada::Textos()
