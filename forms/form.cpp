@@ -57,7 +57,8 @@ void centre(QWidget &form, const QWidget *owner)
     form.setGeometry(place);
 }
 
-void showOver(QWidget &form, QWidget *owner, Qt::WindowModality modality)
+// Returns the window that the form stands over.
+QPointer<QWidget> showOver(QWidget &form, QWidget *owner, Qt::WindowModality modality)
 {
     QWidget *lower = QApplication::activeModalWidget();
     if (!lower || lower == &form)
@@ -70,6 +71,7 @@ void showOver(QWidget &form, QWidget *owner, Qt::WindowModality modality)
     form.show();
     form.raise();
     form.activateWindow();
+    return lower;
 }
 
 } // namespace
@@ -118,10 +120,13 @@ void Form::ShowModal(QWidget *owner)
     });
     hide();
     m_state->modalLoop = &loop;
-    showOver(*this, owner, Qt::ApplicationModal);
+    const QPointer<QWidget> lower = showOver(*this, owner, Qt::ApplicationModal);
     // What showing it has raised may have closed it already.
     if (self && isVisible())
         loop.exec();
+    // Not every window manager gives the focus back; one that the user has taken to another program stays there.
+    if (lower && lower->isVisible() && QApplication::applicationState() == Qt::ApplicationActive)
+        lower->activateWindow();
 }
 
 void Form::ShowModeless(QWidget *owner)

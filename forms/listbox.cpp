@@ -48,6 +48,7 @@ ListBox::ListBox(QWidget *parent, bool sorted)
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setUniformItemSizes(true);
+    setVerticalScrollMode(ScrollPerItem);
     setTextElideMode(Qt::ElideNone);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setItemDelegate(new Rows(this));

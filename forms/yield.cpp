@@ -1,5 +1,6 @@
 #include "forms/yield.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -27,10 +28,14 @@ private:
     bool m_seen = false;
 };
 
-// What a turn of the loop leaves for later: deletions, and the painting, which the toolkit delays.
-void finish()
+// A turn of the event loop may handle one kind of event only, so it takes turns until nothing is left. The time stops
+// it where there is always something, as with a timer of no interval.
+void handlePending(QEventLoop::ProcessEventsFlags flags)
 {
+    constexpr int LongestMilliseconds = 50;
+    QCoreApplication::processEvents(flags, LongestMilliseconds);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    // The toolkit puts painting off by a timer.
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
         if (!window->isVisible())
@@ -44,14 +49,13 @@ void finish()
 
 void DoEvents()
 {
-    QCoreApplication::processEvents();
-    finish();
+    handlePending(QEventLoop::AllEvents);
 }
 
 void DoEventsWithoutInput()
 {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    finish();
+    handlePending(QEventLoop::ExcludeUserInputEvents);
+    QAbstractEventDispatcher::instance()->wakeUp();
 }
 
 void WaitForEvents(int descriptor, int milliseconds)

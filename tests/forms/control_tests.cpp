@@ -1,0 +1,274 @@
+#include "drive.h"
+
+#include "forms/form.h"
+#include "forms/image.h"
+#include "forms/label.h"
+#include "forms/textbox.h"
+
+#include <QPointer>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class Controls : public testing::Test {
+protected:
+    Controls()
+    {
+        outer.setGeometry(10, 10, 100, 100);
+        inner.setGeometry(20, 20, 40, 15);
+        box.setGeometry(10, 130, 100, 20);
+        text.setGeometry(10, 155, 100, 40);
+    }
+
+    template <class Control> void logButtons(Control &control)
+    {
+        control.MouseDown = [this](const forms::Mouse &mouse) {
+            log.push_back("down " + std::to_string(mouse.button));
+        };
+        control.MouseUp = [this](const forms::Mouse &mouse) {
+            log.push_back("up " + std::to_string(mouse.button));
+        };
+        control.Click = [this] { log.push_back("click"); };
+        control.DblClick = [this] { log.push_back("double"); };
+    }
+
+    forms::Form form { u"Form"_s, 3000, 3000, forms::Form::Border::None };
+    forms::Image outer { &form };
+    forms::Label inner { &outer };
+    forms::TextBox box { &form };
+    forms::TextArea text { &form };
+    drive::Log log;
+};
+
+TEST_F(Controls, LeftAndMiddleClick_RaisePressReleaseAndClick)
+{
+    logButtons(inner);
+    drive::show(form);
+    drive::click(inner, Qt::LeftButton);
+    EXPECT_THAT(log, ElementsAre("down 1", "up 1", "click"));
+    log.clear();
+    drive::click(inner, Qt::MiddleButton);
+    EXPECT_THAT(log, ElementsAre("down 4", "up 4", "click"));
+}
+
+TEST_F(Controls, TheRightButton_RaisesPressAndReleaseOnly)
+{
+    logButtons(inner);
+    drive::show(form);
+    drive::click(inner, Qt::RightButton);
+    EXPECT_THAT(log, ElementsAre("down 2", "up 2"));
+}
+
+TEST_F(Controls, TheSecondPressOfADoubleClick_IsAPressToo)
+{
+    logButtons(inner);
+    drive::show(form);
+    drive::doubleClick(inner);
+    EXPECT_THAT(log, ElementsAre("down 1", "up 1", "click", "down 1", "double", "up 1", "click"));
+}
+
+TEST_F(Controls, ADoubleClickOnATextArea_RaisesEachEventOnce)
+{
+    logButtons(text);
+    drive::show(form);
+    drive::doubleClick(*text.viewport());
+    EXPECT_THAT(log, ElementsAre("down 1", "up 1", "click", "down 1", "double", "up 1", "click"));
+}
+
+TEST_F(Controls, TheRelease_ComesWhereverThePointerStands)
+{
+    logButtons(inner);
+    drive::show(form);
+    drive::press(inner);
+    drive::moveTo(form, { 180, 190 });
+    drive::release(form, Qt::LeftButton, { 180, 190 });
+    EXPECT_THAT(log, ElementsAre("down 1", "up 1", "click"));
+}
+
+TEST_F(Controls, TheMousePosition_IsGivenInTwipsOfTheControl)
+{
+    std::vector<std::pair<int, int>> points;
+    inner.MouseDown = [&](const forms::Mouse &mouse) { points.emplace_back(mouse.x, mouse.y); };
+    drive::show(form);
+    drive::press(inner, Qt::LeftButton, { 3, 7 });
+    drive::release(inner, Qt::LeftButton, { 3, 7 });
+    EXPECT_THAT(points, ElementsAre(std::pair(45, 105)));
+}
+
+TEST_F(Controls, AnEventWithAHandler_StaysInTheControl)
+{
+    logButtons(outer);
+    int clicks = 0;
+    inner.Click = [&] { ++clicks; };
+    drive::show(form);
+    drive::click(inner);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(Controls, AnEventWithoutAHandler_GoesToTheParent)
+{
+    logButtons(outer);
+    drive::show(form);
+    drive::press(inner);
+    EXPECT_THAT(log, ElementsAre("down 1"));
+    drive::release(inner);
+}
+
+TEST_F(Controls, MovesWithoutAButton_AreRaised)
+{
+    drive::Log moves;
+    outer.MouseMove = [&](const forms::Mouse &mouse) {
+        moves.push_back(
+            std::to_string(mouse.button) + " " + std::to_string(mouse.x) + " " + std::to_string(mouse.y));
+    };
+    drive::show(form);
+    drive::moveTo(outer, { 5, 6 });
+    EXPECT_THAT(moves, ElementsAre("0 75 90"));
+}
+
+TEST_F(Controls, AMoveTellsTheSumOfTheButtonsHeld)
+{
+    std::vector<int> held;
+    drive::show(form);
+    drive::press(outer, Qt::LeftButton, { 5, 5 });
+    drive::press(outer, Qt::MiddleButton, { 5, 5 });
+    outer.MouseMove = [&](const forms::Mouse &mouse) { held.push_back(mouse.button); };
+    drive::moveTo(outer, { 9, 9 });
+    outer.MouseMove = nullptr;
+    drive::release(outer, Qt::LeftButton, { 9, 9 });
+    drive::release(outer, Qt::MiddleButton, { 9, 9 });
+    EXPECT_THAT(held, ElementsAre(forms::LeftButton + forms::MiddleButton));
+}
+
+TEST_F(Controls, TheKeysThatScreensListenFor_HaveTheirCodes)
+{
+    std::vector<int> codes;
+    outer.KeyDown = [&](int code) { codes.push_back(code); };
+    drive::show(form);
+    outer.setFocus();
+    for (const Qt::Key key :
+        { Qt::Key_Return, Qt::Key_Enter, Qt::Key_Insert, Qt::Key_Delete, Qt::Key_A, Qt::Key_F5 })
+        drive::key(form, key);
+    EXPECT_THAT(codes, ElementsAre(13, 13, 45, 46));
+}
+
+TEST_F(Controls, AKeyHeldDown_RaisesOnce)
+{
+    std::vector<int> codes;
+    outer.KeyDown = [&](int code) { codes.push_back(code); };
+    drive::show(form);
+    outer.setFocus();
+    drive::key(form, Qt::Key_Return);
+    drive::repeatedKey(outer, Qt::Key_Return);
+    drive::repeatedKey(outer, Qt::Key_Return);
+    EXPECT_THAT(codes, ElementsAre(13));
+}
+
+TEST_F(Controls, EnterWithAHandler_DoesNotReachTheForm)
+{
+    int enters = 0;
+    form.KeyEnter = [&] { ++enters; };
+    int codes = 0;
+    box.KeyDown = [&](int) { ++codes; };
+    drive::show(form);
+    box.setFocus();
+    drive::key(form, Qt::Key_Return);
+    EXPECT_EQ(codes, 1);
+    EXPECT_EQ(enters, 0);
+}
+
+TEST_F(Controls, EnterWithoutAHandler_ReachesTheForm)
+{
+    int enters = 0;
+    form.KeyEnter = [&] { ++enters; };
+    drive::show(form);
+    box.setFocus();
+    drive::key(form, Qt::Key_Return);
+    EXPECT_EQ(enters, 1);
+}
+
+TEST_F(Controls, DeleteInATextBoxWithAKeyHandler_StillDeletes)
+{
+    int codes = 0;
+    box.KeyDown = [&](int) { ++codes; };
+    box.SetText(u"abc"_s);
+    drive::show(form);
+    box.setFocus();
+    box.setCursorPosition(0);
+    drive::key(form, Qt::Key_Delete);
+    EXPECT_EQ(box.Text(), u"bc"_s);
+    EXPECT_EQ(codes, 1);
+}
+
+TEST_F(Controls, TypedText_ReachesTheTextBoxes)
+{
+    box.KeyDown = [](int) {};
+    drive::show(form);
+    box.setFocus();
+    drive::type(form, 'x');
+    EXPECT_EQ(box.Text(), u"x"_s);
+    text.setFocus();
+    drive::type(form, 'y');
+    drive::key(form, Qt::Key_Return);
+    drive::type(form, 'z');
+    EXPECT_EQ(text.Text(), u"y\nz"_s);
+}
+
+TEST_F(Controls, TheFocus_IsToldWhenItComes)
+{
+    int focused = 0;
+    drive::show(form);
+    text.setFocus();
+    box.GotFocus = [&] { ++focused; };
+    box.setFocus();
+    EXPECT_EQ(focused, 1);
+}
+
+TEST_F(Controls, TheFocusThatAMenuGivesBack_IsNotTold)
+{
+    int focused = 0;
+    drive::show(form);
+    box.setFocus();
+    box.GotFocus = [&] { ++focused; };
+    QFocusEvent back(QEvent::FocusIn, Qt::PopupFocusReason);
+    QApplication::sendEvent(&box, &back);
+    EXPECT_EQ(focused, 0);
+}
+
+TEST_F(Controls, AControlDestroyedInItsHandler_IsNotTouchedAnyMore)
+{
+    drive::show(form);
+    for (const bool onPress : { true, false }) {
+        logButtons(outer);
+        auto *victim = new forms::Label(&outer);
+        victim->setGeometry(60, 60, 20, 20);
+        victim->show();
+        const QPointer<forms::Label> watch(victim);
+        const auto destroy = [victim](const forms::Mouse &) { delete victim; };
+        if (onPress)
+            victim->MouseDown = destroy;
+        else
+            victim->MouseUp = destroy;
+        drive::click(outer, Qt::LeftButton, { 70, 70 });
+        EXPECT_TRUE(watch.isNull());
+        EXPECT_THAT(log, IsEmpty());
+    }
+}
+
+TEST_F(Controls, ATextAreasColours_AreThoseOfItsPaper)
+{
+    text.SetColours(Qt::black, Qt::yellow);
+    EXPECT_EQ(text.palette().color(QPalette::Base), QColor(Qt::black));
+    EXPECT_EQ(text.palette().color(QPalette::Text), QColor(Qt::yellow));
+}
+
+} // namespace

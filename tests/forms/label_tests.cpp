@@ -1,0 +1,185 @@
+#include "drive.h"
+
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/shape.h"
+
+#include <QApplication>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Counts what a label is sent while it lives.
+class Witness final : public QObject {
+public:
+    explicit Witness(QObject &watched) { watched.installEventFilter(this); }
+    int seen = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *) override
+    {
+        ++seen;
+        return false;
+    }
+};
+
+class Labels : public testing::Test {
+protected:
+    Labels() { label.SetPlace({ 600, 600, 600, 210 }); }
+
+    int natural(const QString &text) const { return label.fontMetrics().horizontalAdvance(text); }
+
+    const QString wide = u"Configurar emuladores"_s;
+    forms::Form form { u"Form"_s, 6000, 3000, forms::Form::Border::None };
+    forms::Label label { &form };
+};
+
+TEST_F(Labels, ACaptionThatFits_StaysInItsPlace)
+{
+    label.SetCaption(u"WEB"_s);
+    EXPECT_EQ(label.Caption(), u"WEB"_s);
+    EXPECT_EQ(label.geometry(), QRect(40, 40, 40, 14));
+}
+
+TEST_F(Labels, ACaptionTooWide_GetsTheWidthOfItsText)
+{
+    label.SetCaption(wide);
+    EXPECT_EQ(label.geometry(), QRect(40, 40, natural(wide), 14));
+    EXPECT_GT(label.width(), 40);
+}
+
+TEST_F(Labels, AShorterCaption_TakesTheLabelBackToItsPlace)
+{
+    label.SetCaption(wide);
+    label.SetCaption(u"WEB"_s);
+    EXPECT_EQ(label.geometry(), QRect(40, 40, 40, 14));
+}
+
+TEST_F(Labels, ALabelMovedFromOutside_GrowsFromThere)
+{
+    label.SetCaption(wide);
+    forms::move(label, { 150, 150, 600, 210 });
+    label.SetCaption(wide + u"!"_s);
+    EXPECT_EQ(label.geometry(), QRect(10, 10, natural(wide + u"!"_s), 14));
+    label.SetCaption(u"WEB"_s);
+    EXPECT_EQ(label.geometry(), QRect(10, 10, 40, 14));
+}
+
+TEST_F(Labels, ACentredCaption_GrowsToBothSides)
+{
+    label.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    label.SetCaption(u"Grabar todo"_s);
+    const int missing = natural(u"Grabar todo"_s) - 40;
+    ASSERT_GT(missing, 0);
+    EXPECT_EQ(label.geometry(), QRect(40 - missing / 2, 40, 40 + missing, 14));
+}
+
+TEST_F(Labels, AGrowingCaption_StopsAtAVisibleControlOnly)
+{
+    QWidget neighbour(&form);
+    neighbour.setGeometry(90, 30, 20, 20);
+    label.SetCaption(wide);
+    EXPECT_EQ(label.geometry(), QRect(40, 40, 50, 14));
+    neighbour.hide();
+    label.SetCaption(wide + u"!"_s);
+    EXPECT_EQ(label.width(), natural(wide + u"!"_s));
+}
+
+TEST_F(Labels, AControlThatCameAfterTheCaption_CountsWhenTheFormShows)
+{
+    label.SetCaption(wide);
+    QWidget neighbour(&form);
+    neighbour.setGeometry(90, 30, 20, 20);
+    drive::show(form);
+    EXPECT_EQ(label.geometry(), QRect(40, 40, 50, 14));
+}
+
+TEST_F(Labels, InsideAShape_ACaptionGrowsUpToItsLine)
+{
+    forms::Shape shape(Qt::cyan, &form);
+    shape.setGeometry(30, 30, 60, 40);
+    label.SetCaption(wide);
+    EXPECT_EQ(label.geometry(), QRect(40, 40, 49, 14));
+}
+
+TEST_F(Labels, APlaceOfTwoLines_WrapsInsteadOfGrowing)
+{
+    label.SetPlace({ 600, 600, 1200, 435 });
+    label.SetCaption(wide);
+    EXPECT_TRUE(label.wordWrap());
+    EXPECT_EQ(label.geometry(), QRect(40, 40, 80, 29));
+}
+
+TEST_F(Labels, AWrappedCaption_GrowsForAWordTooWideAlone)
+{
+    label.SetPlace({ 600, 600, 600, 435 });
+    label.SetCaption(wide);
+    EXPECT_EQ(label.width(), natural(u"emuladores"_s));
+}
+
+TEST_F(Labels, ALargerFont_GrowsTheLabel)
+{
+    label.SetCaption(u"Opciones"_s);
+    label.setFont(forms::arial(16.5));
+    EXPECT_EQ(label.width(), natural(u"Opciones"_s));
+    EXPECT_GT(label.width(), 40);
+}
+
+TEST_F(Labels, MarkupInACaption_IsText)
+{
+    label.SetCaption(u"<b>x</b> & y"_s);
+    EXPECT_EQ(label.width(), natural(u"<b>x</b> & y"_s));
+}
+
+TEST_F(Labels, TheSameCaptionAndColour_PostNothing)
+{
+    label.SetCaption(wide);
+    label.SetForeColor(Qt::yellow);
+    drive::show(form);
+    QTest::qWait(0);
+    QCoreApplication::sendPostedEvents();
+    Witness ofLabel(label);
+    Witness ofForm(form);
+    label.SetCaption(wide);
+    label.SetForeColor(Qt::yellow);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(ofLabel.seen, 0);
+    EXPECT_EQ(ofForm.seen, 0);
+}
+
+TEST_F(Labels, TheColour_IsTheTexts)
+{
+    label.SetForeColor(QColor(192, 255, 192));
+    EXPECT_EQ(label.ForeColor(), QColor(192, 255, 192));
+    EXPECT_TRUE(label.styleSheet().isEmpty());
+}
+
+TEST_F(Labels, AShape_LetsTheMouseThroughToTheForm)
+{
+    forms::Shape shape(Qt::cyan, &form);
+    shape.setGeometry(0, 0, 100, 100);
+    int clicks = 0;
+    label.SetCaption(u"x"_s);
+    label.Click = [&] { ++clicks; };
+    drive::show(form);
+    drive::click(form, Qt::LeftButton, { 45, 45 });
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Labels, AShape_PaintsItsFrameAlone)
+{
+    form.SetBackColour(Qt::black);
+    forms::Shape shape(QColor(0, 128, 128), &form);
+    shape.setGeometry(200, 10, 30, 20);
+    drive::show(form);
+    EXPECT_EQ(drive::colourAt(form, { 200, 10 }), QColor(0, 128, 128));
+    EXPECT_EQ(drive::colourAt(form, { 229, 29 }), QColor(0, 128, 128));
+    EXPECT_EQ(drive::colourAt(form, { 201, 11 }), QColor(Qt::black));
+    EXPECT_EQ(drive::colourAt(form, { 228, 28 }), QColor(Qt::black));
+}
+
+} // namespace

@@ -1,0 +1,155 @@
+#include "drive.h"
+
+#include "forms/form.h"
+#include "forms/image.h"
+#include "forms/pictures.h"
+
+#include "host/failure.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A GIF of one red pixel.
+const QByteArray redGif =
+    QByteArray::fromBase64("R0lGODlhAQABAIAAAP8AAP///yH5BAAAAAAALAAAAAABAAEAAAICRAEAOw==");
+
+class Pictures : public testing::Test {
+protected:
+    QString write(const QString &name, const QByteArray &bytes) const
+    {
+        QFile file(directory.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return file.fileName();
+    }
+
+    static int failureOf(const QString &path)
+    {
+        try {
+            forms::LoadPicture(path);
+        } catch (const host::Failure &failure) {
+            return failure.number();
+        }
+        return 0;
+    }
+
+    const QTemporaryDir directory;
+};
+
+TEST_F(Pictures, AGif_IsLoaded)
+{
+    const QPixmap picture = forms::LoadPicture(write(u"PONG.GIF"_s, redGif));
+    EXPECT_EQ(picture.size(), QSize(1, 1));
+    EXPECT_EQ(picture.toImage().pixelColor(0, 0), QColor(Qt::red));
+}
+
+TEST_F(Pictures, AFileInAnotherCase_IsFound)
+{
+    write(u"Pong.gif"_s, redGif);
+    EXPECT_EQ(forms::LoadPicture(directory.filePath(u"PONG.GIF"_s)).size(), QSize(1, 1));
+}
+
+TEST_F(Pictures, AMissingFile_FailsWith53)
+{
+    EXPECT_EQ(failureOf(directory.filePath(u"none.gif"_s)), 53);
+}
+
+TEST_F(Pictures, WhatIsNoPicture_FailsWith481)
+{
+    EXPECT_EQ(failureOf(write(u"text.gif"_s, "no picture")), 481);
+    EXPECT_EQ(failureOf(write(u"empty.gif"_s, "")), 481);
+    EXPECT_EQ(failureOf(write(u"cut.gif"_s, redGif.first(12))), 481);
+}
+
+TEST_F(Pictures, Artwork_IsDrawnAtItsSizeAndRatio)
+{
+    const QPixmap drawn = forms::artwork(u"Rest2"_s, QSize(20, 30), 1.5);
+    EXPECT_EQ(drawn.size(), QSize(30, 45));
+    EXPECT_EQ(drawn.devicePixelRatio(), 1.5);
+    EXPECT_EQ(drawn.toImage().pixelColor(10, 40), QColor(Qt::red));
+    EXPECT_EQ(drawn.toImage().pixelColor(20, 40), QColor(Qt::white));
+}
+
+TEST_F(Pictures, Artwork_IsDrawnOnceForEachSizeAndRatio)
+{
+    const QPixmap first = forms::artwork(u"Rest2"_s, QSize(12, 13), 1);
+    EXPECT_EQ(forms::artwork(u"Rest2"_s, QSize(12, 13), 1).cacheKey(), first.cacheKey());
+    EXPECT_NE(forms::artwork(u"Rest1"_s, QSize(12, 13), 1).cacheKey(), first.cacheKey());
+    EXPECT_NE(forms::artwork(u"Rest2"_s, QSize(13, 12), 1).cacheKey(), first.cacheKey());
+    EXPECT_NE(forms::artwork(u"Rest2"_s, QSize(12, 13), 2).cacheKey(), first.cacheKey());
+}
+
+TEST_F(Pictures, ANameWithoutADrawing_GivesAnEmptyPicture)
+{
+    EXPECT_TRUE(forms::artwork(u"Nothing"_s, QSize(10, 10), 1).isNull());
+}
+
+class Images : public testing::Test {
+protected:
+    Images()
+    {
+        form.SetBackColour(Qt::black);
+        image.setGeometry(10, 10, 40, 20);
+    }
+
+    static QPixmap solid(Qt::GlobalColor colour)
+    {
+        QPixmap picture(3, 3);
+        picture.fill(colour);
+        return picture;
+    }
+
+    forms::Form form { u"Form"_s, 3000, 3000, forms::Form::Border::None };
+    forms::Image image { &form };
+};
+
+TEST_F(Images, APicture_IsStretchedOverTheWholeImage)
+{
+    const QPixmap picture = solid(Qt::green);
+    image.SetPicture(picture);
+    drive::show(form);
+    EXPECT_EQ(drive::colourAt(form, { 10, 10 }), QColor(Qt::green));
+    EXPECT_EQ(drive::colourAt(form, { 49, 29 }), QColor(Qt::green));
+    EXPECT_EQ(drive::colourAt(form, { 50, 30 }), QColor(Qt::black));
+    EXPECT_EQ(image.Picture().cacheKey(), picture.cacheKey());
+}
+
+TEST_F(Images, Artwork_IsDrawnAtTheImagesSize)
+{
+    image.SetPicture(solid(Qt::green));
+    image.SetArtwork(u"Rest2"_s);
+    drive::show(form);
+    EXPECT_EQ(drive::colourAt(form, { 25, 20 }), QColor(Qt::red));
+    EXPECT_EQ(drive::colourAt(form, { 35, 20 }), QColor(Qt::white));
+    EXPECT_TRUE(image.Picture().isNull());
+    image.SetPicture(solid(Qt::green));
+    EXPECT_EQ(drive::colourAt(form, { 25, 20 }), QColor(Qt::green));
+}
+
+TEST_F(Images, ABorder_IsOneDarkLineInsideTheEdge)
+{
+    image.SetPicture(solid(Qt::green));
+    image.SetBorder(true);
+    drive::show(form);
+    EXPECT_EQ(drive::colourAt(image, { 0, 0 }), QColor(Qt::black));
+    EXPECT_EQ(drive::colourAt(image, { 39, 19 }), QColor(Qt::black));
+    EXPECT_EQ(drive::colourAt(image, { 1, 1 }), QColor(Qt::green));
+}
+
+TEST_F(Images, AClick_BringsTheFocusWhereTheScreenSaysSo)
+{
+    drive::show(form);
+    drive::click(image);
+    EXPECT_FALSE(image.hasFocus());
+    image.setFocusPolicy(Qt::ClickFocus);
+    drive::click(image);
+    EXPECT_TRUE(image.hasFocus());
+}
+
+} // namespace
