@@ -119,9 +119,6 @@ QByteArray Directory::find(const QString &name) const
         [](const Entry &entry, const QString &wanted) { return compareCodes(entry.upper, wanted) < 0; });
     if (first != m_entries.end() && first->upper == key)
         return first->bytes;
-    const QString lowered = lower(name);
-    if (plainShortForm(lowered) != lowered)
-        return {};
     nameShortForms();
     return m_byShortForm.value(key);
 }

@@ -41,7 +41,7 @@ public:
     // form. Empty if there is none.
     QByteArray find(const QString &name) const;
 
-    // The short form of an entry.
+    // The short form of an entry; any other name stays as it is.
     QString shortForm(const QString &name) const;
 
 private:

@@ -83,8 +83,8 @@ void clearAttributes(const QString &path)
     struct stat status;
     if (lstat(found.constData(), &status) != 0)
         throw Failure(FileNotFound, u"clear the attributes"_s, path);
-    if (!S_ISLNK(status.st_mode))
-        fchmodat(AT_FDCWD, found.constData(), (status.st_mode & 07777) | S_IWUSR, AT_SYMLINK_NOFOLLOW);
+    // A link itself has no mode: there this does nothing.
+    fchmodat(AT_FDCWD, found.constData(), (status.st_mode & 07777) | S_IWUSR, AT_SYMLINK_NOFOLLOW);
 }
 
 qint64 fileLength(const QString &path)

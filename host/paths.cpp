@@ -109,9 +109,8 @@ qsizetype Finder::takeLongest(const QStringList &pieces, qsizetype first)
 
 QByteArray shortForm(const QByteArray &directory, const QByteArray &name)
 {
-    const QString text = nameFromDisk(name);
-    const auto names = name == ".." ? nullptr : Directory::at(directory);
-    return names ? nameToDisk(names->shortForm(text)) : name;
+    const auto names = Directory::at(directory);
+    return names ? nameToDisk(names->shortForm(nameFromDisk(name))) : name;
 }
 
 QString &chosenProgramDirectory()

@@ -187,6 +187,24 @@ TEST_F(RewriteFaults, NextRewriteComesThrough_WhenTheLastOneWasKilledAtAnyCall)
     FAIL() << "the rewrite never came to its end";
 }
 
+TEST_F(RewriteFaults, OldFileStands_WhenTheNewOneDoesNotReachTheDisk)
+{
+    const systemcalls::FaultOf flushing("fsync", EIO, 1);
+    EXPECT_EQ(failureOf([this] { rewrite(); }), host::DeviceError);
+    EXPECT_EQ(bytes("Zembro.cfg"), Old);
+}
+
+TEST_F(RewriteFaults, NothingIsWrittenThroughALink_ThatComesUnderTheScratchNameAtTheLastMoment)
+{
+    makeFile("precious", "precious");
+    makeLink("precious", "Zembro.tmp");
+    // As if there had been nothing to remove.
+    const systemcalls::FaultOf removing("unlinkat", ENOENT, 1);
+    EXPECT_EQ(failureOf([this] { rewrite(); }), host::PathAccess);
+    EXPECT_EQ(bytes("precious"), "precious");
+    EXPECT_EQ(bytes("Zembro.cfg"), Old);
+}
+
 TEST_F(RewriteFaults, FailureNamesTheFileAndIsOfAFullDisk_WhenTheNewFileDoesNotFit)
 {
     const QString large(100000, u'x');
@@ -227,10 +245,12 @@ TEST_F(RewriteFaults, ScratchFileCannotBeMade_WhereTheUserMayWriteTheFileButNotT
     EXPECT_EQ(bytes("Zembro.cfg"), Old);
 }
 
-TEST_F(RewriteFaults, RewriteFails_OfAFileThatTheUserMayNotWrite)
+TEST_F(RewriteFaults, RewriteFails_OfAFileThatOthersMayWriteButNotTheUser)
 {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only the administrator can own the file in another user's stead";
     setMode({}, 0777);
-    setMode("Zembro.cfg", 0444);
+    setMode("Zembro.cfg", 0644);
     const int status = inChildOfOrdinaryUser([this] { return failureOf([this] { rewrite(); }); });
     EXPECT_EQ(status, host::PathAccess);
     EXPECT_EQ(bytes("Zembro.cfg"), Old);

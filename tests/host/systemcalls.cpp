@@ -27,6 +27,17 @@ struct Plan {
 Plan plan;
 std::size_t mostWritten = std::numeric_limits<std::size_t>::max();
 
+long tickOfChanges = 0;
+
+int withTicks(int result, struct stat *status)
+{
+    if (result == 0 && tickOfChanges == systemcalls::CoarseClock::WholeSeconds)
+        status->st_ctim.tv_nsec = 0;
+    else if (result == 0 && tickOfChanges > 0)
+        status->st_ctim.tv_nsec = status->st_ctim.tv_nsec / tickOfChanges * tickOfChanges + 1;
+    return result;
+}
+
 template <typename Function> Function *next(const char *name)
 {
     return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
@@ -88,7 +99,12 @@ int flock(int file, int operation) noexcept
 
 int fstat(int file, struct stat *status) noexcept
 {
-    return passed<int(int, struct stat *)>("fstat", file, status);
+    return withTicks(passed<int(int, struct stat *)>("fstat", file, status), status);
+}
+
+int stat(const char *path, struct stat *status) noexcept
+{
+    return withTicks(next<int(const char *, struct stat *)>("stat")(path, status), status);
 }
 
 int unlinkat(int directory, const char *path, int flags) noexcept
@@ -168,6 +184,16 @@ FaultOf::FaultOf(const char *name, int error, int times)
 FaultOf::~FaultOf()
 {
     plan = {};
+}
+
+CoarseClock::CoarseClock(long tick)
+{
+    tickOfChanges = tick;
+}
+
+CoarseClock::~CoarseClock()
+{
+    tickOfChanges = 0;
 }
 
 void setMostWritten(std::size_t bytes)

@@ -35,6 +35,18 @@ public:
     FaultOf &operator=(const FaultOf &) = delete;
 };
 
+// While it lives, files tell the times of their changes in ticks of so many nanoseconds, cut off to the last
+// tick and one nanosecond more, or to the whole second.
+class CoarseClock {
+public:
+    explicit CoarseClock(long tick);
+    ~CoarseClock();
+    CoarseClock(const CoarseClock &) = delete;
+    CoarseClock &operator=(const CoarseClock &) = delete;
+
+    static constexpr long WholeSeconds = 1'000'000'000;
+};
+
 // From now on a write takes no more than this many bytes at once.
 void setMostWritten(std::size_t bytes);
 

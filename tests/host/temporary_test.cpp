@@ -88,6 +88,8 @@ TEST_F(TemporaryPath, IsEmpty_WhereItCannotBeMade)
 
 TEST_F(TemporaryPath, IsInTheUsualPlace_WhereTheVariableNamesNoDirectory)
 {
+    makeDirectory("relative");
+    ASSERT_EQ(chdir(place().constData()), 0);
     for (const QByteArray &value : { QByteArray(), place("none"), QByteArray("relative") }) {
         qputenv("TMPDIR", value);
         EXPECT_TRUE(temporaryPath(u"zembrolix-test"_s).startsWith(u"/tmp/"_s)) << value.constData();
@@ -114,11 +116,12 @@ TEST_F(TemporaryPath, OwnDirectoryGoes_IfItIsEmpty)
     EXPECT_FALSE(exists(own()));
 }
 
-TEST_F(TemporaryPath, SystemsDirectoryStays)
+TEST_F(TemporaryPath, SystemsDirectoryStaysWithAllThatIsInIt)
 {
     makeDirectory("tmp");
+    makeDirectory("tmp/" + own());
     qputenv("TMPDIR", place("tmp"));
     temporaryPath(u"zembrolix"_s);
     tidyTemporaryPath(u"zembrolix"_s);
-    EXPECT_TRUE(exists("tmp"));
+    EXPECT_TRUE(exists("tmp/" + own()));
 }
