@@ -1,0 +1,19 @@
+// ZIP archives for tests, byte by byte: also such as no honest tool makes.
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+
+struct MiembroZip {
+    QByteArray nombre;
+    QByteArray datos = "data";
+    bool utf8 = false; // the name is marked as UTF-8
+    quint32 atributos = 0; // external ones: bit 0 read-only, the upper half a Unix mode
+    bool enUnix = false; // made on a Unix
+    bool sumaFalsa = false; // the checksum doesn't agree with the data
+};
+
+QByteArray Zip(const QList<MiembroZip> &miembros);
+
+// With the traditional cipher, by the library's own writer.
+QByteArray ZipCifrado(const QList<MiembroZip> &miembros, const QByteArray &contraseña);
