@@ -17,9 +17,15 @@ QColor middleOf(const forms::Image &image)
 } // namespace
 
 PortadaTest::PortadaTest()
-    : M(std::make_unique<core::Modulo>())
-    , portada(std::make_unique<mainscreen::Portada>(*M))
 {
+    renew();
+}
+
+void PortadaTest::renew()
+{
+    portada.reset();
+    M = std::make_unique<core::Modulo>();
+    portada = std::make_unique<mainscreen::Portada>(*M);
     portada->MuestraPrimeraInstalacion = [this] { firstRunShown = true; };
 }
 
@@ -41,15 +47,6 @@ void PortadaTest::start()
     const std::optional<ProcessEnd> end = load();
     ASSERT_FALSE(end) << end->text.toStdString();
     ASSERT_TRUE(waitUntil([this] { return QApplication::activeWindow() == portada.get(); }));
-}
-
-void PortadaTest::restart()
-{
-    portada.reset();
-    M = std::make_unique<core::Modulo>();
-    portada = std::make_unique<mainscreen::Portada>(*M);
-    portada->MuestraPrimeraInstalacion = [this] { firstRunShown = true; };
-    start();
 }
 
 QString PortadaTest::caption(const QString &label)

@@ -22,7 +22,12 @@ protected:
     void start();
 
     // A new process over the same directory: fresh state, fresh screen.
-    void restart();
+    void renew();
+    void restart() // and started
+    {
+        renew();
+        start();
+    }
 
     template <typename Kind = QWidget> Kind &control(const QString &name)
     {

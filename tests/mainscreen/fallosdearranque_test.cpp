@@ -1,0 +1,182 @@
+// What ends the program at its start: the exact words, and nothing on the screen.
+
+#include "mundotest.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Ahead of the line that names the file.
+const QString MissingFiles = u"Cannot find any of these files:\n"
+                             "¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯\n"
+                             "In the program directory\n"
+                             "   Zembro.cfg\n"
+                             "   Zembro.emu\n"
+                             "   Zembro.rom\n"
+                             "   Zembro.sye\n"
+                             "   Zembro.txt\n"
+                             "   Zembro.faq\n"
+                             "   Cvtgif15.exe\n"
+                             "In LNG subdirectory any *.LNG file\n"_s;
+
+} // namespace
+
+class FallosDeArranqueTest : public MundoTest {
+protected:
+    // Loads the screen, which has to end the program with this text and a line that says what failed on which
+    // file.
+    void expectEnd(const QString &text, const QString &file)
+    {
+        renew();
+        const std::optional<ProcessEnd> end = load();
+        ASSERT_TRUE(end) << "the program started";
+        EXPECT_EQ(end->status, 1);
+        EXPECT_EQ(end->title, u"ERROR"_s);
+        EXPECT_EQ(end->text.first(std::min(text.size(), end->text.size())), text);
+        const QString last = end->text.mid(text.size());
+        EXPECT_TRUE(last.startsWith(u"Failed to ")) << last.toStdString();
+        EXPECT_TRUE(last.endsWith(u": "_s + file)) << last.toStdString();
+        EXPECT_FALSE(last.contains(u'\n'));
+        EXPECT_FALSE(portada->isVisible());
+    }
+    void expectEndWithNumber(int number, const QString &file)
+    {
+        expectEnd(u"An unknown error has occurred. (ERR%1)\n"_s.arg(number), file);
+    }
+    void expectNothingRead()
+    {
+        EXPECT_FALSE(firstRunShown);
+        EXPECT_EQ(M->LanguageFile, QString());
+        EXPECT_EQ(M->GuardarUltimo, QString());
+        EXPECT_EQ(M->TXT_Jugar, QString());
+    }
+};
+
+TEST_F(FallosDeArranqueTest, AnyMissingFileEndsTheProgramAndIsNamed)
+{
+    for (const QString &name : { u"Zembro.emu"_s, u"Zembro.rom"_s, u"Zembro.sye"_s, u"Zembro.cfg"_s,
+             u"Zembro.faq"_s, u"Zembro.txt"_s, u"Cvtgif15.exe"_s }) {
+        SCOPED_TRACE(name.toStdString());
+        const QByteArray content = files.read(name);
+        files.remove(name);
+        expectEnd(MissingFiles, files.path(name));
+        expectNothingRead();
+        files.write(name, content);
+    }
+}
+
+TEST_F(FallosDeArranqueTest, FilesAreLookedForOneAfterTheOther)
+{
+    const QStringList order { u"Zembro.emu"_s, u"Zembro.rom"_s, u"Zembro.sye"_s, u"Zembro.cfg"_s,
+        u"Zembro.faq"_s, u"Zembro.txt"_s, u"Cvtgif15.exe"_s };
+    for (const QString &name : order)
+        files.remove(name);
+    for (const QString &name : order) {
+        expectEnd(MissingFiles, files.path(name));
+        files.write(name, "x");
+    }
+}
+
+TEST_F(FallosDeArranqueTest, DirectoryWithoutALanguageEndsTheProgram)
+{
+    files.remove(u"LNG/ZB-ESP.LNG"_s);
+    files.write(u"LNG/ZB-ESP.TXT"_s, "x");
+    files.makeDirectory(u"LNG/ZB.LNG"_s);
+    expectEnd(MissingFiles, files.path(u"LNG"_s));
+    expectNothingRead();
+}
+
+TEST_F(FallosDeArranqueTest, MissingLanguageDirectoryEndsTheProgram)
+{
+    files.remove(u"LNG"_s);
+    expectEnd(MissingFiles, files.path(u"LNG"_s));
+    expectNothingRead();
+}
+
+TEST_F(FallosDeArranqueTest, MissingFilesAreLookedForAheadOfTheFirstRun)
+{
+    files.write(u"Zembro.cfg"_s, "VACIO");
+    files.remove(u"Cvtgif15.exe"_s);
+    expectEnd(MissingFiles, files.path(u"Cvtgif15.exe"_s));
+    EXPECT_FALSE(firstRunShown);
+}
+
+TEST_F(FallosDeArranqueTest, EmptySettingsEndTheProgram)
+{
+    files.write(u"Zembro.cfg"_s, {});
+    expectEndWithNumber(62, files.path(u"Zembro.cfg"_s));
+    EXPECT_FALSE(firstRunShown);
+}
+
+TEST_F(FallosDeArranqueTest, SettingWithoutAValueEndsTheProgram)
+{
+    for (int line = 11; line <= 17; ++line) {
+        QStringList lines = Settings {}.lines();
+        const QString key = lines[line].left(lines[line].indexOf(u'=') + 1);
+        lines[line] = key;
+        files.writeLines(u"Zembro.cfg"_s, lines);
+        expectEndWithNumber(5, key);
+        lines[line] = QString();
+        files.writeLines(u"Zembro.cfg"_s, lines);
+        expectEndWithNumber(5, QString());
+    }
+}
+
+TEST_F(FallosDeArranqueTest, SettingsThatEndTooEarlyEndTheProgram)
+{
+    files.writeLines(u"Zembro.cfg"_s, Settings {}.lines().mid(0, 17));
+    expectEndWithNumber(5, QString());
+}
+
+TEST_F(FallosDeArranqueTest, MoreFiltersThanTheTableTakesEndTheProgram)
+{
+    Settings settings;
+    settings.Filters.clear();
+    for (int i = 0; i < 152; ++i)
+        settings.Filters << u"F%1"_s.arg(i);
+    files.writeSettings(settings);
+    expectEndWithNumber(9, u"151"_s);
+}
+
+TEST_F(FallosDeArranqueTest, FiltersThatFillTheTableEndTheProgram)
+{
+    Settings settings;
+    settings.Filters.clear();
+    for (int i = 0; i < 151; ++i)
+        settings.Filters << u"F%1"_s.arg(i);
+    files.writeSettings(settings);
+    expectEndWithNumber(9, u"151"_s);
+    settings.Filters.removeLast();
+    files.writeSettings(settings);
+    restart();
+}
+
+TEST_F(FallosDeArranqueTest, NoFilterAtAllEndsTheProgram)
+{
+    Settings settings;
+    settings.Filters.clear();
+    files.writeSettings(settings);
+    expectEndWithNumber(5, u"Zembro.cfg"_s);
+}
+
+TEST_F(FallosDeArranqueTest, MissingLanguageOfTheSettingsEndsTheProgram)
+{
+    Settings settings;
+    settings.LanguageFile = u"ZB-NO.LNG"_s;
+    files.writeSettings(settings);
+    expectEnd(MissingFiles, files.path(u"LNG/ZB-NO.LNG"_s));
+}
+
+TEST_F(FallosDeArranqueTest, EmptyLanguageEndsTheProgram)
+{
+    files.write(u"LNG/ZB-ESP.LNG"_s, {});
+    expectEndWithNumber(62, files.path(u"LNG/ZB-ESP.LNG"_s));
+}
+
+TEST_F(FallosDeArranqueTest, LanguageLineWithoutATextEndsTheProgram)
+{
+    for (const QString &line : { QString(), u"TXT_Jugar........."_s, u"TXT_Jugar.........=\""_s }) {
+        files.writeLines(u"LNG/ZB-ESP.LNG"_s, languageLines() << line);
+        expectEndWithNumber(5, line);
+    }
+}
