@@ -1,6 +1,6 @@
 #include "host/display.h"
 
-#include <QtGlobal>
+#include <QByteArray>
 
 #include <xcb/xcb.h>
 
