@@ -39,18 +39,20 @@ QString sinBlancosFinales(const QString &texto)
 void leeLineas(Modulo &M)
 {
     int filtro = 0;
-    for (int n = 0; !M.Ficheros.atEnd(1); ++n) {
+    int n = 0;
+    do {
         const QString linea = M.Ficheros.readLine(1);
         for (const LineaDeAjuste &ajuste : LineasDeAjustes) {
             if (ajuste.numero == n)
                 M.*(ajuste.variable) = linea;
         }
-        if (n < PrimeraLineaDeFiltros)
-            continue;
-        if (linea.isEmpty())
-            break;
-        M.Filtros(filtro++) = sinBlancosFinales(linea);
-    }
+        if (n >= PrimeraLineaDeFiltros) {
+            if (linea.isEmpty())
+                return;
+            M.Filtros(filtro++) = sinBlancosFinales(linea);
+        }
+        ++n;
+    } while (!M.Ficheros.atEnd(1));
 }
 
 // Every filter and a comma, an empty one as the last; the two commas at the end are cut.

@@ -88,6 +88,14 @@ int posicionOrdenada(std::vector<QString> nombres, const QString &nombre)
     return 0;
 }
 
+int posicionDeSistema(const Modulo &M, const QString &sistema)
+{
+    std::vector<QString> nombres(1);
+    for (int s = 0; s < M.TotalSistemas; ++s)
+        nombres.push_back(host::upper(Valor(M.Cat_Nombre(s, 0), 1)));
+    return posicionOrdenada(std::move(nombres), sistema);
+}
+
 int posicionDeEmulador(const Modulo &M, const QString &sistema, const QString &emulador)
 {
     for (int s = 0; s < M.TotalSistemas; ++s) {
@@ -106,14 +114,12 @@ int posicionDeEmulador(const Modulo &M, const QString &sistema, const QString &e
 Posiciones PosicionesDe(const Modulo &M, const QString &sistema, const QString &emulador)
 {
     Posiciones posiciones;
-    if (sistema.isEmpty())
-        return posiciones;
-
-    std::vector<QString> nombres(1);
-    for (int s = 0; s < M.TotalSistemas; ++s)
-        nombres.push_back(host::upper(Valor(M.Cat_Nombre(s, 0), 1)));
-    posiciones.sistema = posicionOrdenada(std::move(nombres), sistema);
-    posiciones.emulador = emulador.isEmpty() ? NingunEmulador : posicionDeEmulador(M, sistema, emulador);
+    if (!sistema.isEmpty())
+        posiciones.sistema = posicionDeSistema(M, sistema);
+    if (!emulador.isEmpty())
+        posiciones.emulador = posicionDeEmulador(M, sistema, emulador);
+    else if (!sistema.isEmpty())
+        posiciones.emulador = NingunEmulador;
     return posiciones;
 }
 

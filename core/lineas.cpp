@@ -32,12 +32,6 @@ void Copia::Nueva(const QString &linea)
     m_texto += u"\r\n";
 }
 
-void Copia::Resto(QStringView texto)
-{
-    cierraLinea();
-    m_texto += texto;
-}
-
 // Something follows a last line that had no end of its own.
 void Copia::cierraLinea()
 {

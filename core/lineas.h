@@ -21,7 +21,6 @@ class Copia {
 public:
     void Copiar(const LineaConFin &linea);
     void Nueva(const QString &linea);
-    void Resto(QStringView texto); // as it stands
 
     const QString &Texto() const { return m_texto; }
 

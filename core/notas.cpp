@@ -22,7 +22,7 @@ QString claveEscrita(const QString &clave)
 
 QString registroDeNota(const QString &clave, const QString &descripcion)
 {
-    return claveEscrita(clave) + u",\""_s + descripcion + u'"';
+    return claveEscrita(host::upper(clave)) + u",\""_s + descripcion + u'"';
 }
 
 QString registroDeParametros(const Parametros &parametros)
@@ -31,21 +31,18 @@ QString registroDeParametros(const Parametros &parametros)
         + parametros.texto;
 }
 
-// What lies behind the first comma, or behind the one after a quoted key, without the quotes around it.
-QStringView descripcionDe(QStringView linea)
-{
-    const qsizetype desde = linea.startsWith(u'"') ? linea.indexOf(u'"', 1) : 0;
-    const qsizetype coma = desde < 0 ? -1 : linea.indexOf(u',', desde);
-    if (coma < 0 || coma + 2 >= linea.size())
-        return {};
-    return linea.sliced(coma + 2).chopped(1);
-}
-
+// The description is what lies behind the first comma, or behind the one after a quoted key, without the
+// quotes around it. A line that begins with an apostrophe, or ahead of it in the code, holds none, unless it
+// is a quoted key's.
 bool llevaDescripcion(QStringView linea, const QString &descripcion)
 {
     if (linea.isEmpty() || (linea[0] <= u'\'' && linea[0] != u'"'))
         return false;
-    return linea.contains(u',') && descripcionDe(linea) == descripcion;
+    const qsizetype desde = linea[0] == u'"' ? linea.indexOf(u'"', 1) : 0;
+    const qsizetype coma = desde < 0 ? -1 : linea.indexOf(u',', desde);
+    if (coma < 0)
+        return false;
+    return coma + 2 < linea.size() ? linea.sliced(coma + 2).chopped(1) == descripcion : descripcion.isEmpty();
 }
 
 Parametros leeParametros(host::TextSource &fuente)
@@ -80,6 +77,18 @@ QStringView copiaHastaParametros(Copia &copia, QStringView texto)
     throw host::Failure(host::PastEndOfFile, u"find the section of parameters"_s, u"Zembro.rom"_s);
 }
 
+// The next note, if there is one ahead of the closing apostrophe, at this index.
+bool leeNota(Modulo &M, int indice)
+{
+    M.Nota_CampoClave = M.Ficheros.readField(1);
+    if (M.Nota_CampoClave == u"'")
+        return false;
+    M.Nota_CampoTexto = M.Ficheros.atEnd(1) ? QString() : M.Ficheros.readField(1);
+    M.Nota_Clave(indice) = M.Nota_CampoClave;
+    M.Nota_Texto(indice) = M.Nota_CampoTexto;
+    return true;
+}
+
 } // namespace
 
 QString CampoOVacio(host::TextSource &fuente)
@@ -92,15 +101,19 @@ int CargaNotas(Modulo &M, const QString &sistema)
     M.Ficheros.openForInput(1, host::programFile(u"Zembro.rom"_s));
     while (M.Ficheros.readLine(1) != sistema) { }
     int total = 0;
-    for (;;) {
-        M.Nota_CampoClave = M.Ficheros.readField(1);
-        if (M.Nota_CampoClave == u"'")
-            break;
-        M.Nota_CampoTexto = M.Ficheros.atEnd(1) ? QString() : M.Ficheros.readField(1);
-        M.Nota_Clave(total) = M.Nota_CampoClave;
-        M.Nota_Texto(total) = M.Nota_CampoTexto;
+    while (leeNota(M, total))
         ++total;
-    }
+    M.Ficheros.close(1);
+    return total;
+}
+
+int RecargaNotas(Modulo &M, const QString &sistema)
+{
+    M.Ficheros.openForInput(1, host::programFile(u"Zembro.rom"_s));
+    while (!M.Ficheros.atEnd(1) && M.Ficheros.readLine(1) != sistema) { }
+    int total = 0;
+    while (!M.Ficheros.atEnd(1) && leeNota(M, total))
+        ++total;
     M.Ficheros.close(1);
     return total;
 }
@@ -136,7 +149,7 @@ QString ConDescripcionCambiada(
     bool cambiada = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
         if (!cambiada && llevaDescripcion(linea.linea, anterior)) {
-            copia.Nueva(registroDeNota(host::upper(clave), descripcion));
+            copia.Nueva(registroDeNota(clave, descripcion));
             cambiada = true;
         } else {
             copia.Copiar(linea);
@@ -165,6 +178,8 @@ QString ConParametrosCambiados(const QString &texto, const Parametros &parametro
     host::TextSource fuente(copiaHastaParametros(copia, texto).toString());
     const QString buscada = host::upper(parametros.clave);
     for (;;) {
+        if (fuente.atEnd())
+            throw host::Failure(host::PastEndOfFile, u"find the end of the parameters"_s, u"Zembro.rom"_s);
         const Parametros leidos = leeParametros(fuente);
         if (leidos.clave == u"'") {
             copia.Nueva(leidos.clave);
@@ -177,7 +192,8 @@ QString ConParametrosCambiados(const QString &texto, const Parametros &parametro
             continue;
         copia.Nueva(registroDeParametros(propio ? parametros : leidos));
     }
-    copiaSinVacias(copia, fuente.rest());
+    if (!fuente.atEnd())
+        copiaSinVacias(copia, fuente.rest());
     return copia.Texto();
 }
 

@@ -23,6 +23,9 @@ QString CampoOVacio(host::TextSource &fuente);
 // more records than the table takes; the number stays open then.
 int CargaNotas(Modulo &M, const QString &sistema);
 
+// The same after a change of the file: its end, wherever it comes, ends the load in silence.
+int RecargaNotas(Modulo &M, const QString &sistema);
+
 // The index of the first note with this text, -1 if there is none. The notes end at the first empty key.
 int NotaConTexto(const Modulo &M, const QString &texto);
 
@@ -36,11 +39,12 @@ struct Parametros {
 // Changes of the file, from text to text. A key that the field reader would split or that would pass for an
 // anchor (one with a comma, or that begins with an apostrophe or a bracket) is written in double quotes.
 
-// The new record stands first in the system's block; without a block nothing changes.
+// The new record stands first in the system's block, its key in upper case; without a block nothing changes.
 QString ConDescripcionNueva(
     const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion);
 
-// Replaces the first record of the whole file with this description, whichever system it belongs to.
+// Replaces the first record of the whole file with this description, whichever system it belongs to. The key
+// is written in upper case.
 QString ConDescripcionCambiada(
     const QString &texto, const QString &anterior, const QString &clave, const QString &descripcion);
 
