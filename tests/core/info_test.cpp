@@ -1,0 +1,247 @@
+// From an entry of the list back to its file: the look-up, the line of facts, the capture's path.
+#include "directoriodeprograma.h"
+
+#include "core/info.h"
+
+#include "host/paths.h"
+
+using namespace Qt::StringLiterals;
+using core::FichaDeROM;
+
+namespace {
+
+class Informacion : public DirectorioDePrograma {
+protected:
+    void PonNotas(const QList<std::pair<QString, QString>> &notas)
+    {
+        for (int i = 0; i < notas.size(); ++i) {
+            M.Nota_Clave(i) = notas[i].first;
+            M.Nota_Texto(i) = notas[i].second;
+        }
+    }
+
+    // What an entry stands for, one after the other: "KEY*" with a note, "name" without.
+    QStringList Buscadas(const QString &texto) const
+    {
+        QStringList halladas;
+        core::BuscaROM(M, texto, [&halladas](const FichaDeROM &ficha) {
+            halladas += ficha.conNota ? ficha.nombre + u'*' : ficha.nombre;
+        });
+        return halladas;
+    }
+};
+
+} // namespace
+
+TEST_F(Informacion, EntryStandsForTheKeyOfItsNote)
+{
+    PonNotas({ { u"A.BIN"_s, u"One"_s }, { u"B.BIN"_s, u"Two"_s } });
+    EXPECT_EQ(Buscadas(u"Two"_s), QStringList { u"B.BIN*"_s });
+}
+
+TEST_F(Informacion, EntryStandsForItself_WithoutANote)
+{
+    PonNotas({ { u"A.BIN"_s, u"One"_s } });
+    EXPECT_EQ(Buscadas(u"b.bin"_s), QStringList { u"b.bin"_s });
+    EXPECT_EQ(Buscadas(u"one"_s), QStringList { u"one"_s });
+}
+
+TEST_F(Informacion, EntryStandsForEachNoteOfItsTextInTurn)
+{
+    PonNotas({ { u"A.BIN"_s, u"Same"_s }, { u"B.BIN"_s, u"Other"_s }, { u"C.BIN"_s, u"Same"_s } });
+    EXPECT_EQ(Buscadas(u"Same"_s), (QStringList { u"A.BIN*"_s, u"C.BIN*"_s }));
+}
+
+TEST_F(Informacion, KeyShowsInUpperCase_AlsoWhereTheTableHoldsItInLowerCase)
+{
+    PonNotas({ { u"a.bin"_s, u"One"_s } });
+    EXPECT_EQ(Buscadas(u"One"_s), QStringList { u"A.BIN*"_s });
+    EXPECT_EQ(M.Nota_Clave(0), u"a.bin");
+}
+
+TEST_F(Informacion, NotesEndAtTheFirstEmptyKey_ButTheFirstIsAlwaysTried)
+{
+    PonNotas({ { QString(), u"One"_s }, { QString(), u"Two"_s }, { u"C"_s, u"Three"_s } });
+    EXPECT_EQ(Buscadas(u"One"_s), QStringList { u"*"_s });
+    EXPECT_EQ(Buscadas(u"Two"_s), QStringList { u"Two"_s });
+    EXPECT_EQ(Buscadas(u"Three"_s), QStringList { u"Three"_s });
+}
+
+TEST_F(Informacion, NothingSelectedHitsTheEmptyFirstNote_OfASystemWithoutNotes)
+{
+    EXPECT_EQ(Buscadas(QString()), QStringList { u"*"_s });
+}
+
+TEST_F(Informacion, LookUpRunsOffAFullTable_BehindItsHits)
+{
+    for (int i = 0; i < core::MaxROMs; ++i) {
+        M.Nota_Clave(i) = u"K%1"_s.arg(i);
+        M.Nota_Texto(i) = u"T%1"_s.arg(i);
+    }
+    QStringList halladas;
+    const auto apunta = [&halladas](const FichaDeROM &ficha) { halladas += ficha.nombre; };
+    EXPECT_EQ(NumeroDeFallo([&] { core::BuscaROM(M, u"T6666"_s, apunta); }), host::OutOfRange);
+    EXPECT_EQ(halladas, QStringList { u"K6666"_s });
+    EXPECT_EQ(NumeroDeFallo([&] { core::BuscaROM(M, u"none"_s, apunta); }), host::OutOfRange);
+    EXPECT_EQ(halladas, QStringList { u"K6666"_s });
+}
+
+struct CasoDeInfo {
+    int tipo;
+    FichaDeROM ficha;
+    qint64 largo;
+    QString linea;
+    QString fichero; // whose length is asked for
+};
+
+void PrintTo(const CasoDeInfo &caso, std::ostream *salida)
+{
+    *salida << caso.tipo << ", " << caso.ficha.nombre.toStdString() << (caso.ficha.conNota ? "*, " : ", ")
+            << caso.largo;
+}
+
+class LineaDeInfo : public testing::TestWithParam<CasoDeInfo> { };
+
+TEST_P(LineaDeInfo, TellsNameSizeAndKind)
+{
+    const CasoDeInfo &caso = GetParam();
+    QString preguntado;
+    const QString linea = core::LineaDeInfo(caso.tipo, u"R/"_s, caso.ficha, [&](const QString &ruta) {
+        preguntado = ruta;
+        return caso.largo;
+    });
+    EXPECT_EQ(linea, caso.linea);
+    EXPECT_EQ(preguntado, caso.fichero);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sueltos, LineaDeInfo,
+    testing::Values(
+        CasoDeInfo { 0, { u"GAME.BIN"_s, true }, 40960, u"GAME.BIN 40Kb  [NOR]"_s, u"R/GAME.BIN"_s },
+        CasoDeInfo { 5, { u"GAME.ZIP"_s, true }, 40960, u"GAME.ZIP 40Kb  [ZIP]"_s, u"R/GAME.ZIP"_s },
+        // Without a note the name keeps its case.
+        CasoDeInfo { 0, { u"Game.bin"_s, false }, 40960, u"Game.bin 40Kb  [NOR]"_s, u"R/Game.bin"_s },
+        CasoDeInfo { 5, { u"Game.Zip"_s, false }, 40960, u"Game.Zip 40Kb  [ZIP]"_s, u"R/Game.Zip"_s },
+        CasoDeInfo { 0, { u"GAMEZIP"_s, true }, 1024, u"GAMEZIP 1Kb  [ZIP]"_s, u"R/GAMEZIP"_s },
+        // Whole Kb, half away from zero, nothing for what rounds to none.
+        CasoDeInfo { 0, { u"G.BIN"_s, false }, 1000, u"G.BIN 1Kb  [NOR]"_s, u"R/G.BIN"_s },
+        CasoDeInfo { 0, { u"NAME"_s, false }, 400, u"NAME Kb  [NOR]"_s, u"R/NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 0, u"NAME Kb  [NOR]"_s, u"R/NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 511, u"NAME Kb  [NOR]"_s, u"R/NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 512, u"NAME 1Kb  [NOR]"_s, u"R/NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 1535, u"NAME 1Kb  [NOR]"_s, u"R/NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 1536, u"NAME 2Kb  [NOR]"_s, u"R/NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 2560, u"NAME 3Kb  [NOR]"_s, u"R/NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 1234567LL * 1024, u"NAME 1,234,567Kb  [NOR]"_s, u"R/NAME"_s }));
+
+INSTANTIATE_TEST_SUITE_P(Directorios, LineaDeInfo,
+    testing::Values(CasoDeInfo { 1, { u"GAME"_s, true }, 0, u"GAME [DIR]"_s, QString() },
+        CasoDeInfo { 6, { u"GAME"_s, true }, 0, u"GAME [DIR]"_s, QString() },
+        CasoDeInfo { 1, { u"Game.x"_s, false }, 0, u"GAME.X [DIR]"_s, QString() }));
+
+INSTANTIATE_TEST_SUITE_P(Zips, LineaDeInfo,
+    testing::Values(
+        // With a note: two blanks ahead of the number, and no separators in it.
+        CasoDeInfo { 2, { u"GAME"_s, true }, 40960, u"GAME.ZIP  40Kb [ZIP]"_s, u"R/GAME.ZIP"_s },
+        CasoDeInfo {
+            3, { u"GAME"_s, true }, 1234567LL * 1024, u"GAME.ZIP  1234567Kb [ZIP]"_s, u"R/GAME.ZIP"_s },
+        CasoDeInfo { 7, { u"GAME"_s, true }, 512, u"GAME.ZIP  1Kb [ZIP]"_s, u"R/GAME.ZIP"_s },
+        CasoDeInfo { 8, { u"GAME.ZIP"_s, true }, 2048, u"GAME.ZIP.ZIP  2Kb [ZIP]"_s, u"R/GAME.ZIP.ZIP"_s },
+        // Without: the name in upper case, the separators stay.
+        CasoDeInfo { 2, { u"Game.zip"_s, false }, 40960, u"GAME.ZIP 40Kb [ZIP]"_s, u"R/Game.zip"_s },
+        CasoDeInfo {
+            3, { u"Game.zip"_s, false }, 1234567LL * 1024, u"GAME.ZIP 1,234,567Kb [ZIP]"_s, u"R/Game.zip"_s },
+        CasoDeInfo { 7, { u"Game.zip"_s, false }, 400, u"GAME.ZIP Kb [ZIP]"_s, u"R/Game.zip"_s },
+        CasoDeInfo { 8, { u"Game.zip"_s, false }, 512, u"GAME.ZIP 1Kb [ZIP]"_s, u"R/Game.zip"_s }));
+
+INSTANTIATE_TEST_SUITE_P(Otros, LineaDeInfo,
+    testing::Values(CasoDeInfo { 4, { u"GAME"_s, true }, 1024, QString(), QString() },
+        CasoDeInfo { 4, { u"GAME"_s, false }, 1024, QString(), QString() },
+        CasoDeInfo { -1, { u"GAME"_s, true }, 1024, QString(), QString() },
+        CasoDeInfo { 9, { u"GAME"_s, false }, 1024, QString(), QString() }));
+
+TEST(LineaDeInfo, FailsAsATypeMismatch_ForANotedZipWhoseSizeRoundsToNothing)
+{
+    for (const int tipo : { 2, 3, 7, 8 }) {
+        for (const qint64 largo : { 0, 511 }) {
+            EXPECT_EQ(NumeroDeFallo([&] {
+                core::LineaDeInfo(tipo, u"R/"_s, { u"GAME"_s, true }, [&](const QString &) { return largo; });
+            }),
+                host::TypeMismatch)
+                << tipo << ' ' << largo;
+        }
+    }
+}
+
+TEST_F(Informacion, FailsAsNotFound_WhereTheFileIsGone)
+{
+    for (const int tipo : { 0, 2, 3, 5, 7, 8 }) {
+        for (const bool conNota : { true, false }) {
+            EXPECT_EQ(NumeroDeFallo([&] {
+                core::LineaDeInfo(tipo, Ruta(QString()), { u"GONE.ZIP"_s, conNota }, host::fileLength);
+            }),
+                host::FileNotFound)
+                << tipo << conNota;
+        }
+    }
+}
+
+TEST_F(Informacion, LengthIsFoundByAKeyInUpperCase)
+{
+    Pon(u"mario.nes"_s, QByteArray(2048, 'x'));
+    Pon(u"Castle.zip"_s, QByteArray(3072, 'x'));
+    EXPECT_EQ(core::LineaDeInfo(0, Ruta(QString()), { u"MARIO.NES"_s, true }, host::fileLength),
+        u"MARIO.NES 2Kb  [NOR]");
+    EXPECT_EQ(core::LineaDeInfo(3, Ruta(QString()), { u"CASTLE"_s, true }, host::fileLength),
+        u"CASTLE.ZIP  3Kb [ZIP]");
+}
+
+struct CasoDeCaptura {
+    int tipo;
+    FichaDeROM ficha;
+    QString ruta;
+};
+
+void PrintTo(const CasoDeCaptura &caso, std::ostream *salida)
+{
+    *salida << caso.tipo << ", " << caso.ficha.nombre.toStdString() << (caso.ficha.conNota ? "*" : "");
+}
+
+class RutaDeCaptura : public testing::TestWithParam<CasoDeCaptura> { };
+
+TEST_P(RutaDeCaptura, IsADirectoryAndTheNameByType)
+{
+    EXPECT_EQ(core::RutaDeCaptura(GetParam().tipo, u"D/"_s, GetParam().ficha), GetParam().ruta);
+}
+
+INSTANTIATE_TEST_SUITE_P(Casos, RutaDeCaptura,
+    testing::Values(CasoDeCaptura { 1, { u"GAME.X"_s, true }, u"D/GAME.X.GIF"_s },
+        CasoDeCaptura { 6, { u"GAME.X"_s, false }, u"D/GAME.X.GIF"_s },
+        CasoDeCaptura { 1, { u"GAME"_s, false }, u"D/GAME.GIF"_s },
+        CasoDeCaptura { 2, { u"GAME"_s, true }, u"D/GAME.GIF"_s },
+        CasoDeCaptura { 3, { u"GAME.V1.X"_s, true }, u"D/GAME.V1.X.GIF"_s },
+        CasoDeCaptura { 7, { u"Game.zip"_s, false }, u"D/Game.GIF"_s },
+        CasoDeCaptura { 8, { u"Game.v1.zip"_s, false }, u"D/Game.GIF"_s },
+        CasoDeCaptura { 0, { u"GAME.V1.BIN"_s, true }, u"D/GAME.GIF"_s },
+        CasoDeCaptura { 5, { u"Game.v1.bin"_s, false }, u"D/Game.GIF"_s },
+        CasoDeCaptura { 0, { u".bin"_s, false }, u"D/.GIF"_s },
+        CasoDeCaptura { 4, { u"GAME"_s, true }, QString() },
+        CasoDeCaptura { 4, { u"GAME"_s, false }, QString() },
+        CasoDeCaptura { -1, { u"GAME.X"_s, false }, QString() }));
+
+TEST(RutaDeCaptura, IsTheBareName_WithoutADirectory)
+{
+    EXPECT_EQ(core::RutaDeCaptura(0, QString(), { u"GAME.BIN"_s, true }), u"GAME.GIF");
+}
+
+TEST(RutaDeCaptura, FailsAsInvalid_ForANameWithoutThePointThatItIsCutAt)
+{
+    for (const auto &[tipo, conNota] :
+        { std::pair(0, true), std::pair(0, false), std::pair(5, true), std::pair(5, false),
+            std::pair(2, false), std::pair(3, false), std::pair(7, false), std::pair(8, false) }) {
+        EXPECT_EQ(NumeroDeFallo([&] {
+            core::RutaDeCaptura(tipo, u"D/"_s, { u"GAME"_s, conNota });
+        }),
+            host::InvalidArgument)
+            << tipo << conNota;
+    }
+}

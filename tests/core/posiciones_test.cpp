@@ -1,0 +1,93 @@
+// The positions that the exit saves: those of the sorted, upper-cased names, not of the tables.
+#include "directoriodeprograma.h"
+
+#include "core/catalogo.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Caso {
+    QString sistema;
+    QString emulador;
+    int posicionDelSistema;
+    int posicionDelEmulador;
+};
+
+void PrintTo(const Caso &caso, std::ostream *salida)
+{
+    *salida << caso.sistema.toStdString() << " / " << caso.emulador.toStdString();
+}
+
+class PosicionesDe : public DirectorioDePrograma, public testing::WithParamInterface<Caso> {
+protected:
+    void Lee(const QByteArray &bytes)
+    {
+        Pon(u"Zembro.emu"_s, bytes);
+        core::LeeCatalogo(M);
+        M.TotalSistemas = M.Indice_Sistema + 1;
+    }
+};
+
+} // namespace
+
+// In order: ARCADE (entry 3), CONSOLE (1), CONSOLE_2 (2), ZX (0).
+TEST_P(PosicionesDe, ArePlacesInTheSortedNames)
+{
+    Lee("-zx\r\n+only\r\n"
+        "-Console\r\n+gamma\r\n+Alpha\r\n+BETA\r\n"
+        "-console_2\r\n"
+        "-Arcade\r\n+b\r\n+A\r\n");
+    const core::Posiciones posiciones = core::PosicionesDe(M, GetParam().sistema, GetParam().emulador);
+    EXPECT_EQ(posiciones.sistema, GetParam().posicionDelSistema);
+    EXPECT_EQ(posiciones.emulador, GetParam().posicionDelEmulador);
+}
+
+INSTANTIATE_TEST_SUITE_P(Selecciones, PosicionesDe,
+    testing::Values(Caso { u"Arcade"_s, u"A"_s, 0, 0 }, Caso { u"Arcade"_s, u"b"_s, 0, 1 },
+        Caso { u"Console"_s, u"Alpha"_s, 1, 0 }, Caso { u"Console"_s, u"BETA"_s, 1, 1 },
+        Caso { u"Console"_s, u"gamma"_s, 1, 2 }, Caso { u"zx"_s, u"only"_s, 3, 0 },
+        // A system stands without an emulator.
+        Caso { u"Console"_s, QString(), 1, 696969 }, Caso { u"console_2"_s, QString(), 2, 696969 },
+        // Nothing is selected.
+        Caso { QString(), QString(), 0, 0 },
+        // Names that aren't there.
+        Caso { u"None"_s, u"A"_s, 0, 0 }, Caso { u"Arcade"_s, u"none"_s, 0, 0 }));
+
+TEST_F(PosicionesDe, IsTheFirst_OfANameThatOccursTwice)
+{
+    Lee("-Twice\r\n+x\r\n-Ahead\r\n-TWICE\r\n-Last\r\n");
+    EXPECT_EQ(core::PosicionesDe(M, u"Twice"_s, QString()).sistema, 2);
+    EXPECT_EQ(core::PosicionesDe(M, u"TWICE"_s, QString()).sistema, 2);
+}
+
+TEST_F(PosicionesDe, EmulatorIsLookedUp_AlsoInASystemWithAnEmptyName)
+{
+    Lee("-Other\r\n+C\r\n-\r\n+B\r\n+A\r\n");
+    const core::Posiciones posiciones = core::PosicionesDe(M, QString(), u"B"_s);
+    EXPECT_EQ(posiciones.sistema, 0);
+    EXPECT_EQ(posiciones.emulador, 1);
+}
+
+TEST_F(PosicionesDe, AgreeWithTheOrderOfTheControls_WhateverTheCase)
+{
+    // '_' stands behind the capitals, accents behind all of ASCII.
+    Lee("-b\r\n-_a\r\n-É\r\n-éa\r\n-a-b\r\n-A B\r\n");
+    const QStringList enOrden { u"A B"_s, u"a-b"_s, u"b"_s, u"_a"_s, u"É"_s, u"éa"_s };
+    for (int i = 0; i < enOrden.size(); ++i)
+        EXPECT_EQ(core::PosicionesDe(M, enOrden[i], QString()).sistema, i) << enOrden[i].toStdString();
+}
+
+TEST_F(PosicionesDe, AreRight_InAFullCatalogue)
+{
+    QByteArray bytes;
+    for (int s = 150; s >= 0; --s)
+        bytes += "-S" + QByteArray::number(1000 + s) + "\r\n";
+    for (int e = 149; e >= 0; --e)
+        bytes += "+E" + QByteArray::number(1000 + e) + "\r\n"; // of S1000, the last
+    Lee(bytes);
+    const core::Posiciones posiciones = core::PosicionesDe(M, u"S1000"_s, u"E1149"_s);
+    EXPECT_EQ(posiciones.sistema, 0);
+    EXPECT_EQ(posiciones.emulador, 149);
+    EXPECT_EQ(core::PosicionesDe(M, u"S1150"_s, QString()).sistema, 150);
+}
