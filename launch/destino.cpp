@@ -107,10 +107,12 @@ host::Descriptor Destino::Directorio(const QList<QByteArray> &partes) const
     return directorio;
 }
 
-bool Destino::Existe(const host::Descriptor &directorio, const QByteArray &nombre)
+Destino::Ocupante Destino::QuienOcupa(const host::Descriptor &directorio, const QByteArray &nombre)
 {
     struct stat estado;
-    return fstatat(directorio.number(), nombre.constData(), &estado, AT_SYMLINK_NOFOLLOW) == 0;
+    if (fstatat(directorio.number(), nombre.constData(), &estado, AT_SYMLINK_NOFOLLOW) != 0)
+        return Ocupante::Nadie;
+    return S_ISDIR(estado.st_mode) ? Ocupante::Directorio : Ocupante::Fichero;
 }
 
 } // namespace launch

@@ -53,7 +53,8 @@ public:
     // a link.
     host::Descriptor Directorio(const QList<QByteArray> &partes) const;
 
-    static bool Existe(const host::Descriptor &directorio, const QByteArray &nombre);
+    enum class Ocupante { Nadie, Fichero, Directorio }; // anything that is no directory counts as a file
+    static Ocupante QuienOcupa(const host::Descriptor &directorio, const QByteArray &nombre);
 
 private:
     host::Descriptor m_descriptor;

@@ -23,6 +23,8 @@ namespace {
 
 constexpr int MaxIntentos = 3; // passwords asked for one member
 constexpr qsizetype MaxContraseña = 256; // in bytes
+constexpr qsizetype MaxNombre =
+    2048; // of a member, in bytes: a file far below could not be reached by its path
 constexpr size_t Bloque = 65536;
 
 bool saltarContraseña = false;
@@ -162,7 +164,7 @@ void Extraccion::Miembro(archive_entry *miembro)
     const QByteArray nombre = archive_entry_pathname(miembro);
     const QList<QByteArray> partes = PartesDe(nombre);
     const auto clase = archive_entry_filetype(miembro);
-    if (partes.isEmpty())
+    if (partes.isEmpty() || nombre.size() > MaxNombre)
         return;
     m_contraseñas.NuevoMiembro();
     if (clase == AE_IFDIR || nombre.endsWith('/') || nombre.endsWith('\\'))
@@ -193,9 +195,10 @@ bool Extraccion::PuedeOcupar(
     const host::Descriptor &directorio, const QByteArray &nombre, const QByteArray &enArchivo)
 {
     using Answer = host::Questions::Answer;
-    if (!Destino::Existe(directorio, nombre))
+    const Destino::Ocupante ocupante = Destino::QuienOcupa(directorio, nombre);
+    if (ocupante == Destino::Ocupante::Nadie)
         return true;
-    if (m_ningunoMas)
+    if (m_ningunoMas || ocupante == Destino::Ocupante::Directorio)
         return false;
     const Answer respuesta = host::questions().askYesNoCancel(
         u"VBUnZip32 - File Already Exists!"_s, u"Overwrite "_s + host::nameFromDisk(enArchivo) + u'?');

@@ -1,20 +1,55 @@
 #include "zipdeprueba.h"
 
-#include <archive.h>
-#include <archive_entry.h>
-
 namespace {
+
+quint32 sumaCon(quint32 resto, char byte)
+{
+    resto ^= quint8(byte);
+    for (int bit = 0; bit < 8; ++bit)
+        resto = (resto >> 1) ^ ((resto & 1) != 0 ? 0xedb88320 : 0);
+    return resto;
+}
 
 quint32 suma(const QByteArray &datos)
 {
     quint32 resto = 0xffffffff;
-    for (const char byte : datos) {
-        resto ^= quint8(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            resto = (resto >> 1) ^ ((resto & 1) != 0 ? 0xedb88320 : 0);
-    }
+    for (const char byte : datos)
+        resto = sumaCon(resto, byte);
     return ~resto;
 }
+
+// The traditional cipher of ZIP archives.
+class Cifra {
+public:
+    explicit Cifra(const QByteArray &contraseña)
+    {
+        for (const char byte : contraseña)
+            avanza(byte);
+    }
+
+    QByteArray de(const QByteArray &claro)
+    {
+        QByteArray cifrado;
+        for (const char byte : claro) {
+            const quint32 t = (m_clave2 | 2) & 0xffff;
+            cifrado.append(char(quint8(byte) ^ quint8((t * (t ^ 1)) >> 8)));
+            avanza(byte);
+        }
+        return cifrado;
+    }
+
+private:
+    void avanza(char byte)
+    {
+        m_clave0 = sumaCon(m_clave0, byte);
+        m_clave1 = (m_clave1 + (m_clave0 & 0xff)) * 134775813 + 1;
+        m_clave2 = sumaCon(m_clave2, char(m_clave1 >> 24));
+    }
+
+    quint32 m_clave0 = 0x12345678;
+    quint32 m_clave1 = 0x23456789;
+    quint32 m_clave2 = 0x34567890;
+};
 
 class Bytes {
 public:
@@ -37,25 +72,33 @@ private:
 };
 
 // The part that the local header and the directory's entry have in common.
-void comun(Bytes &salida, const MiembroZip &miembro)
+void comun(Bytes &salida, const MiembroZip &miembro, const QByteArray &guardado, bool cifrado)
 {
-    const quint32 total = quint32(miembro.datos.size());
-    salida.dos(20).dos(miembro.utf8 ? 0x800 : 0).dos(0).dos(0).dos(0x21);
-    salida.cuatro(suma(miembro.datos) + (miembro.sumaFalsa ? 1 : 0)).cuatro(total).cuatro(total);
+    salida.dos(20).dos((miembro.utf8 ? 0x800 : 0) | (cifrado ? 1 : 0)).dos(0).dos(0).dos(0x21);
+    salida.cuatro(suma(miembro.datos) + (miembro.sumaFalsa ? 1 : 0));
+    salida.cuatro(quint32(guardado.size())).cuatro(quint32(miembro.datos.size()));
     salida.dos(quint32(miembro.nombre.size())).dos(0);
 }
 
-} // namespace
-
-QByteArray Zip(const QList<MiembroZip> &miembros)
+// The data as they lie in the archive: behind twelve bytes, the last of which lets a reader check the
+// password.
+QByteArray cifrados(const QByteArray &datos, const QByteArray &contraseña)
 {
+    return Cifra(contraseña).de(QByteArray(11, 'z') + char(suma(datos) >> 24) + datos);
+}
+
+QByteArray hazZip(const QList<MiembroZip> &miembros, const QByteArray &contraseña)
+{
+    const bool cifrado = !contraseña.isEmpty();
     Bytes cuerpo;
     Bytes directorio;
     for (const MiembroZip &miembro : miembros) {
+        const QByteArray guardado = cifrado ? cifrados(miembro.datos, contraseña) : miembro.datos;
         const quint32 lugar = cuerpo.total();
-        comun(cuerpo.texto("PK\3\4"), miembro);
-        cuerpo.texto(miembro.nombre).texto(miembro.datos);
-        comun(directorio.texto("PK\1\2").dos(miembro.enUnix ? 20 | (3 << 8) : 20), miembro);
+        comun(cuerpo.texto("PK\3\4"), miembro, guardado, cifrado);
+        cuerpo.texto(miembro.nombre).texto(guardado);
+        comun(
+            directorio.texto("PK\1\2").dos(miembro.enUnix ? 20 | (3 << 8) : 20), miembro, guardado, cifrado);
         directorio.dos(0).dos(0).dos(0).cuatro(miembro.atributos).cuatro(lugar).texto(miembro.nombre);
     }
     const quint32 total = quint32(miembros.size());
@@ -71,26 +114,14 @@ QByteArray Zip(const QList<MiembroZip> &miembros)
     return cuerpo.bytes() + directorio.bytes() + fin.bytes();
 }
 
+} // namespace
+
+QByteArray Zip(const QList<MiembroZip> &miembros)
+{
+    return hazZip(miembros, {});
+}
+
 QByteArray ZipCifrado(const QList<MiembroZip> &miembros, const QByteArray &contraseña)
 {
-    QByteArray bytes(1 << 20, '\0');
-    size_t usados = 0;
-    archive *archivo = archive_write_new();
-    archive_write_set_format_zip(archivo);
-    archive_write_set_options(archivo, "zip:encryption=traditional");
-    archive_write_set_passphrase(archivo, contraseña.constData());
-    archive_write_open_memory(archivo, bytes.data(), size_t(bytes.size()), &usados);
-    for (const MiembroZip &miembro : miembros) {
-        archive_entry *entrada = archive_entry_new();
-        archive_entry_set_pathname(entrada, miembro.nombre.constData());
-        archive_entry_set_filetype(entrada, AE_IFREG);
-        archive_entry_set_perm(entrada, 0644);
-        archive_entry_set_size(entrada, miembro.datos.size());
-        archive_write_header(archivo, entrada);
-        archive_write_data(archivo, miembro.datos.constData(), size_t(miembro.datos.size()));
-        archive_entry_free(entrada);
-    }
-    archive_write_close(archivo);
-    archive_write_free(archivo);
-    return bytes.first(qsizetype(usados));
+    return hazZip(miembros, contraseña);
 }

@@ -15,5 +15,5 @@ struct MiembroZip {
 
 QByteArray Zip(const QList<MiembroZip> &miembros);
 
-// With the traditional cipher, by the library's own writer.
+// With the traditional cipher, always the same bytes. Of wrong passwords one in 256 passes its check.
 QByteArray ZipCifrado(const QList<MiembroZip> &miembros, const QByteArray &contraseña);
