@@ -67,12 +67,12 @@ bool mayRun(const QByteArray &path)
 std::vector<QByteArray> candidates(const QString &name)
 {
     QByteArray found = findOnDisk(name);
+    if (!found.isEmpty() && !found.contains('/'))
+        found.prepend("./");
     if (lastSeparator(name) >= 0)
         return { found };
 
-    std::vector<QByteArray> places;
-    if (!found.isEmpty())
-        places.push_back("./" + found);
+    std::vector<QByteArray> places { found };
     const QByteArray bytes = nameToDisk(name);
     for (const QByteArray &directory : searchPath().split(':')) {
         if (!directory.isEmpty())

@@ -14,7 +14,8 @@ namespace {
 
 xcb_connection_t *x11Connection()
 {
-    auto *x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    auto *application = qobject_cast<QGuiApplication *>(QCoreApplication::instance());
+    auto *x11 = application ? application->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
     return x11 ? x11->connection() : nullptr;
 }
 

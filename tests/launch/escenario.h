@@ -35,7 +35,7 @@ public:
 };
 
 // The main screen: what stands selected, and every call in its order.
-class PantallaDePrueba final : public launch::Pantalla {
+class PantallaDePrueba : public launch::Pantalla {
 public:
     QString combo2 = QStringLiteral("Emu");
     QString lista1 = QStringLiteral("mario.nes");

@@ -1,0 +1,491 @@
+// A whole launch of games that lie in archives: type 0 out of the temporary directory, type 2 beside the
+// emulator.
+#include "escenario.h"
+#include "zipdeprueba.h"
+
+#include "launch/destino.h"
+#include "launch/jugar.h"
+
+#include "host/paths.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using Answer = host::Questions::Answer;
+
+namespace {
+
+const QString SinRoms = u"Aviso Zip0: Zip1"_s;
+
+class Tipo0Test : public Escenario {
+protected:
+    Tipo0Test()
+    {
+        PonEmulador(0, u"-1"_s, u"-2"_s);
+        PonExtensiones({ u"*.NES"_s, u"*.FDS"_s });
+        HazDuranteElJuego("cd '" + place("tmp") + "'; find . | LC_ALL=C sort > \"$OUT/tmp\"\n");
+        pantalla.lista1 = u"game.zip"_s;
+    }
+
+    void juega(const QList<MiembroZip> &miembros)
+    {
+        PonROM("game.zip", Zip(miembros));
+        Juega();
+    }
+    QStringList avisos() const { return pantalla.llamadas.filter(u"Aviso"_s); }
+    QByteArrayList enTemporal() const { return Anotado("tmp").trimmed().split('\n'); }
+    bool temporalVacio() const { return !exists("tmp/ZB-TMP"); }
+    void esperaSinRoms()
+    {
+        EXPECT_EQ(avisos(), QStringList({ SinRoms }));
+        EXPECT_FALSE(HuboJuego());
+        EXPECT_EQ(pantalla.llamadas.last(), u"EnfocaLista1"_s);
+    }
+};
+
+TEST_F(Tipo0Test, AZipIsUnpacked_PlayedFromTheTemporaryDirectory_AndRemoved)
+{
+    M.DebugMode = u"1"_s;
+    juega({ { "Castle of DOOM.NES", "the castle" }, { "Read Me.txt" } });
+    EXPECT_EQ(respuestas.dichos,
+        QStringList({ u"Zembrolix: "_s + Corta(u"emu/emu.sh -1 "_s)
+            + path(u"tmp/ZB-TMP/castle of doom.nes -2 "_s) }));
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", place("tmp/ZB-TMP/Castle of DOOM.NES"), "-2" }));
+    EXPECT_EQ(Abierto(), "the castle");
+    EXPECT_EQ(DirectorioDelJuego(), place("emu"));
+    EXPECT_EQ(enTemporal(),
+        QByteArrayList({ ".", "./ZB-TMP", "./ZB-TMP/Castle of DOOM.NES", "./ZB-TMP/Read Me.txt" }));
+    EXPECT_TRUE(temporalVacio());
+    EXPECT_EQ(avisos(), QStringList());
+    EXPECT_EQ(M.ArchivoZip, Corta(u"roms/game.zip"_s));
+    EXPECT_EQ(M.DirectorioDestino, path(u"tmp/ZB-TMP"_s));
+    EXPECT_EQ(M.RutaTrabajo, path(u"tmp/ZB-TMP/"_s));
+}
+
+TEST_F(Tipo0Test, ByNoteToo_WithTheRomsOwnParameters)
+{
+    PonNota(0, u"GAME.ZIP"_s, u"described"_s);
+    PonParametros("GAME.ZIP,s,e,-R\r\n");
+    pantalla.lista1 = u"described"_s;
+    juega({ { "a.nes", "the game" } });
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", place("tmp/ZB-TMP/a.nes"), "-2", "-R" }));
+}
+
+TEST_F(Tipo0Test, TheTemporaryDirectoryIsForTheUserAlone)
+{
+    HazDuranteElJuego("stat -c %a '" + place("tmp/ZB-TMP") + "' > \"$OUT/mode\"\n");
+    juega({ { "a.nes" } });
+    EXPECT_EQ(Anotado("mode"), "700\n");
+}
+
+TEST_F(Tipo0Test, InASharedPlaceNothingIsLeft)
+{
+    setMode("tmp", 01777);
+    juega({ { "a.nes", "the game" } });
+    const QByteArray propio = "tmp/zembrolix-" + QByteArray::number(geteuid());
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", place(propio + "/ZB-TMP/a.nes"), "-2" }));
+    EXPECT_EQ(Abierto(), "the game");
+    EXPECT_FALSE(exists(propio));
+}
+
+class NombreDeZip : public Tipo0Test, public testing::WithParamInterface<QByteArray> { };
+
+TEST_P(NombreDeZip, ThatEndsInTheThreeLettersIsUnpacked_InAnyCase)
+{
+    pantalla.lista1 = QString::fromUtf8(GetParam());
+    PonROM(GetParam(), Zip({ { "a.nes", "the game" } }));
+    Juega();
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", place("tmp/ZB-TMP/a.nes"), "-2" }));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Nombres, NombreDeZip, testing::Values("Game.ZIP", "my game.Zip", "gamezip", "a.b.zip", "ZIP"));
+
+TEST_F(Tipo0Test, AnotherEndingIsHandedOverAsItIs)
+{
+    pantalla.lista1 = u"game.zip2"_s;
+    PonROM("game.zip2", Zip({ { "a.nes" } }));
+    Juega();
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", place("roms/game.zip2"), "-2" }));
+}
+
+TEST_F(Tipo0Test, TheFirstExtensionIsFoundOnlyOnTheFirstFile)
+{
+    juega({ { "readme.txt" }, { "a.nes" } });
+    esperaSinRoms();
+    EXPECT_TRUE(temporalVacio());
+}
+
+TEST_F(Tipo0Test, MembersAreTriedInTheArchivesOrder)
+{
+    juega({ { "z.fds", "z" }, { "a.nes", "a" } });
+    EXPECT_EQ(Argumentos()[1], place("tmp/ZB-TMP/z.fds"));
+}
+
+TEST_F(Tipo0Test, AFileInASubdirectoryIsNoCandidate)
+{
+    juega({ { "sub/a.nes" } });
+    esperaSinRoms();
+}
+
+TEST_F(Tipo0Test, WhatIsNoArchiveEndsInTheMessage)
+{
+    PonROM("game.zip", "no archive");
+    Juega();
+    esperaSinRoms();
+    EXPECT_TRUE(temporalVacio());
+}
+
+TEST_F(Tipo0Test, TheMessageComesWhileTheUnpackedFilesAreStillThere)
+{
+    bool hubo = false;
+    pantalla.enLlamada = [&](const QString &llamada) {
+        if (llamada == SinRoms)
+            hubo = exists("tmp/ZB-TMP/readme.txt");
+    };
+    juega({ { "readme.txt" } });
+    EXPECT_TRUE(hubo);
+    EXPECT_TRUE(temporalVacio());
+}
+
+TEST_F(Tipo0Test, AnEncryptedArchiveIsUnpackedWithItsPassword)
+{
+    PonROM("game.zip", ZipCifrado({ { "a.nes", "secret" } }, "sesame"));
+    respuestas.contraseñas = { u"sesame"_s };
+    Juega();
+    EXPECT_EQ(Abierto(), "secret");
+}
+
+TEST_F(Tipo0Test, APromptLeftEmptyEndsInTheMessage_AndIsNotAskedAgain)
+{
+    PonROM("game.zip", ZipCifrado({ { "a.nes", "secret" } }, "sesame"));
+    respuestas.contraseñas = { u""_s };
+    Juega();
+    esperaSinRoms();
+    Juega();
+    EXPECT_EQ(avisos().size(), 2);
+    EXPECT_EQ(respuestas.preguntas.size(), 1);
+}
+
+TEST_F(Tipo0Test, OnlyTheFirst151FilesAreCandidates_AndAllAreDeleted)
+{
+    QList<MiembroZip> miembros;
+    for (int i = 0; i < 151; ++i)
+        miembros << MiembroZip { QByteArray::number(i) + ".txt" };
+    miembros << MiembroZip { "a.fds" };
+    juega(miembros);
+    esperaSinRoms();
+    EXPECT_TRUE(temporalVacio());
+
+    miembros.removeFirst();
+    juega(miembros);
+    EXPECT_EQ(Argumentos()[1], place("tmp/ZB-TMP/a.fds"));
+    EXPECT_TRUE(temporalVacio());
+}
+
+TEST_F(Tipo0Test, AReadOnlyFileStaysAfterTheRun_AndGoesWithTheNextLaunch)
+{
+    juega({ { "a.nes" }, { .nombre = "readonly.txt", .atributos = 1 } });
+    EXPECT_FALSE(exists("tmp/ZB-TMP/a.nes"));
+    EXPECT_TRUE(exists("tmp/ZB-TMP/readonly.txt"));
+    PonEmulador(5);
+    Juega();
+    EXPECT_EQ(enTemporal(), QByteArrayList({ "." }));
+}
+
+TEST_F(Tipo0Test, SubdirectoriesStayForGood_AndTheNextArchiveIsUnpackedBesideThem)
+{
+    juega({ { "a.nes" }, { "sub/deep.txt" } });
+    EXPECT_EQ(Argumentos()[1], place("tmp/ZB-TMP/a.nes"));
+    EXPECT_TRUE(exists("tmp/ZB-TMP/sub/deep.txt"));
+    EXPECT_FALSE(exists("tmp/ZB-TMP/a.nes"));
+    juega({ { "b.nes", "second" } });
+    EXPECT_EQ(Abierto(), "second");
+    EXPECT_TRUE(exists("tmp/ZB-TMP/sub/deep.txt"));
+}
+
+TEST_F(Tipo0Test, OldFilesThatTheSweepPassedByComeFirstAmongTheCandidates)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can write where the owner may not";
+    makeDirectory("tmp/ZB-TMP");
+    makeFile("tmp/ZB-TMP/old.nes", "old");
+    setMode("tmp/ZB-TMP", 0500);
+    juega({ { "a.nes", "new" } });
+    EXPECT_EQ(Abierto(), "old");
+    EXPECT_TRUE(temporalVacio()) << "the clean-up of a run of type 0 takes it";
+}
+
+TEST_F(Tipo0Test, ALinkInThePlaceOfTheDirectoryIsNeitherSweptNorUsed)
+{
+    makeDirectory("precious");
+    makeFile("precious/kept.nes");
+    makeLink("../precious", "tmp/ZB-TMP");
+    juega({ { "a.nes" } });
+    esperaSinRoms();
+    EXPECT_TRUE(exists("precious/kept.nes"));
+    EXPECT_FALSE(exists("precious/a.nes"));
+    EXPECT_TRUE(exists("tmp/ZB-TMP"));
+}
+
+TEST_F(Tipo0Test, ADirectoryOfSomebodyElseIsNeitherSweptNorUsed)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can give a directory away";
+    makeDirectory("tmp/ZB-TMP");
+    makeFile("tmp/ZB-TMP/kept.nes");
+    ASSERT_EQ(chown(place("tmp/ZB-TMP").constData(), 65534, 65534), 0);
+    juega({ { "a.nes" } });
+    esperaSinRoms();
+    EXPECT_TRUE(exists("tmp/ZB-TMP/kept.nes"));
+    EXPECT_FALSE(exists("tmp/ZB-TMP/a.nes"));
+}
+
+TEST_F(Tipo0Test, AFileInThePlaceOfTheDirectoryEndsInTheMessage)
+{
+    makeFile("tmp/ZB-TMP", "kept");
+    juega({ { "a.nes" } });
+    esperaSinRoms();
+    EXPECT_EQ(bytes("tmp/ZB-TMP"), "kept");
+}
+
+TEST_F(Tipo0Test, AFullDiskEndsInTheMessage)
+{
+    launch::PonEspacioLibre([](int) { return 1000; });
+    juega({ { "a.nes" } });
+    launch::PonEspacioLibre({});
+    esperaSinRoms();
+    EXPECT_TRUE(temporalVacio());
+}
+
+TEST_F(Tipo0Test, AfterAFailedStartTheTemporaryDirectoryIsRemovedToo)
+{
+    setMode("emu/emu.sh", 0644);
+    juega({ { "a.nes" } });
+    EXPECT_EQ(avisos(), QStringList());
+    EXPECT_TRUE(temporalVacio());
+}
+
+TEST_F(Tipo0Test, AMemberOfAnyNameReachesTheEmulatorAsOneArgument)
+{
+    for (const QByteArray &nombre :
+        { QByteArray("a \"b\" 'c' `touch bad` $d;e\nf.nes"), QByteArray("-x.nes") }) {
+        juega({ { nombre, "the game" } });
+        EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", place("tmp/ZB-TMP/" + nombre), "-2" }));
+        EXPECT_EQ(Abierto(), "the game");
+    }
+}
+
+class Tipo2Test : public Escenario {
+protected:
+    Tipo2Test()
+    {
+        PonEmulador(2, u"-1"_s, u"-2"_s);
+        PonROM("mario.zip", Zip({ { "rom1.bin", "the game" }, { "rom2.bin" } }));
+        PonNota(0, u"MARIO"_s, u"The Plumber"_s);
+        HazDuranteElJuego(
+            "for d in mario Mario \"My Game\" my_game; do [ -d \"$d\" ] && ls -A \"$d\"; done > \"$OUT/unpacked\"\n");
+        M.DebugMode = u"1"_s;
+    }
+
+    void juega(const QString &entrada)
+    {
+        pantalla.lista1 = entrada;
+        Juega();
+    }
+};
+
+class PorLasDosVias : public Tipo2Test, public testing::WithParamInterface<QString> { };
+
+TEST_P(PorLasDosVias, TheArchiveIsUnpackedBesideTheEmulator_AndGoesAfterTheRun)
+{
+    juega(GetParam());
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "mario", "-2" }));
+    EXPECT_EQ(DirectorioDelJuego(), place("emu"));
+    EXPECT_EQ(Anotado("unpacked"), "rom1.bin\nrom2.bin\n");
+    EXPECT_FALSE(exists("emu/mario"));
+    EXPECT_TRUE(exists("emu/emu.sh"));
+    EXPECT_TRUE(exists("roms/mario.zip"));
+}
+
+TEST_P(PorLasDosVias, WhatTheEmulatorWritesIntoTheNewDirectoryGoesToo)
+{
+    HazDuranteElJuego("echo x > mario/score\n");
+    juega(GetParam());
+    EXPECT_FALSE(exists("emu/mario"));
+}
+
+TEST_P(PorLasDosVias, SubdirectoriesStay_AndThenTheDirectory)
+{
+    PonROM("mario.zip", Zip({ { "rom1.bin" }, { "sub/rom2.bin" } }));
+    juega(GetParam());
+    EXPECT_FALSE(exists("emu/mario/rom1.bin"));
+    EXPECT_TRUE(exists("emu/mario/sub/rom2.bin"));
+}
+
+TEST_P(PorLasDosVias, InADirectoryThatWasThereOnlyWhatWasUnpackedIsDeleted)
+{
+    makeDirectory("emu/mario");
+    makeFile("emu/mario/score", "1000");
+    juega(GetParam());
+    EXPECT_EQ(Anotado("unpacked"), "rom1.bin\nrom2.bin\nscore\n");
+    EXPECT_EQ(bytes("emu/mario/score"), "1000");
+    EXPECT_FALSE(exists("emu/mario/rom1.bin"));
+}
+
+TEST_P(PorLasDosVias, BeforeAFileThatWasThereIsReplacedTheUserIsAsked)
+{
+    makeDirectory("emu/mario");
+    makeFile("emu/mario/rom1.bin", "the user's");
+    respuestas.sobreescribir = { Answer::No };
+    juega(GetParam());
+    EXPECT_EQ(
+        respuestas.preguntas, QStringList({ u"VBUnZip32 - File Already Exists!: Overwrite rom1.bin?"_s }));
+    EXPECT_EQ(bytes("emu/mario/rom1.bin"), "the user's");
+    EXPECT_FALSE(exists("emu/mario/rom2.bin"));
+}
+
+TEST_P(PorLasDosVias, ARomDirectoryOfTheGamesNameKeepsItsRoms)
+{
+    M.Cat_ROM(3, 2) = u"ROM="_s + path(u"emu/mario/"_s);
+    makeDirectory("emu/mario");
+    makeFile("emu/mario/mario.zip", Zip({ { "rom1.bin" } }));
+    makeFile("emu/mario/zelda.zip");
+    juega(GetParam());
+    EXPECT_TRUE(HuboJuego());
+    EXPECT_TRUE(exists("emu/mario/mario.zip"));
+    EXPECT_TRUE(exists("emu/mario/zelda.zip"));
+    EXPECT_FALSE(exists("emu/mario/rom1.bin"));
+}
+
+TEST_P(PorLasDosVias, ADamagedArchiveStartsTheEmulatorAnyway)
+{
+    PonROM("mario.zip", "no archive");
+    juega(GetParam());
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "mario", "-2" }));
+    EXPECT_EQ(Anotado("unpacked"), "");
+    EXPECT_FALSE(exists("emu/mario"));
+}
+
+TEST_P(PorLasDosVias, WhereTheDirectoryCanNotBeMadeTheEmulatorStartsAnyway)
+{
+    makeFile("emu/mario", "in the way");
+    juega(GetParam());
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "mario", "-2" }));
+    EXPECT_EQ(bytes("emu/mario"), "in the way");
+}
+
+TEST_P(PorLasDosVias, AfterAFailedStartTheDirectoryGoesToo)
+{
+    setMode("emu/emu.sh", 0644);
+    juega(GetParam());
+    EXPECT_FALSE(HuboJuego());
+    EXPECT_FALSE(exists("emu/mario"));
+}
+
+TEST_P(PorLasDosVias, AMissingEmulatorMakesAndRemovesNothing)
+{
+    ASSERT_EQ(unlink(place("emu/emu.sh").constData()), 0);
+    makeDirectory("program/mario");
+    makeFile("program/mario/kept");
+    juega(GetParam());
+    EXPECT_TRUE(exists("program/mario/kept"));
+    EXPECT_FALSE(exists("program/mario/rom1.bin"));
+}
+
+TEST_P(PorLasDosVias, AMissingRomDeletesNothing_AndTheCommandStartsWithTheEmptyField)
+{
+    ASSERT_EQ(unlink(place("roms/mario.zip").constData()), 0);
+    makeFile("emu/kept");
+    juega(GetParam());
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "-2" }));
+    EXPECT_TRUE(exists("emu/kept"));
+    EXPECT_TRUE(exists("emu/emu.sh"));
+}
+
+TEST_P(PorLasDosVias, TheCleanUpKeepsToItsDirectory_WhereverTheWorkingDirectoryWent)
+{
+    makeDirectory("elsewhere");
+    makeDirectory("elsewhere/mario");
+    makeFile("elsewhere/mario/kept");
+    pantalla.enLlamada = [this](const QString &llamada) {
+        if (llamada == u"LLena_INFO")
+            host::changeDirectory(path(u"elsewhere"_s));
+    };
+    juega(GetParam());
+    EXPECT_TRUE(exists("elsewhere/mario/kept"));
+    EXPECT_FALSE(exists("emu/mario"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Vias, PorLasDosVias, testing::Values(u"mario.zip"_s, u"The Plumber"_s),
+    [](const auto &caso) { return caso.index == 0 ? "PorFichero" : "PorNota"; });
+
+TEST_F(Tipo2Test, ByNoteTheCommandNamesTheWholePathOfTheEmulator)
+{
+    juega(u"The Plumber"_s);
+    EXPECT_EQ(respuestas.dichos, QStringList({ u"Zembrolix: "_s + Corta(u"emu/emu.sh -1 mario -2 "_s) }));
+    EXPECT_EQ(Programa(), place("emu/emu.sh"));
+    EXPECT_EQ(M.ArchivoZip, Corta(u"roms/mario.zip"_s));
+    EXPECT_EQ(M.DirectorioDestino, path(u"emu/mario"_s));
+    EXPECT_EQ(M.Nota_Clave(0), u"mario"_s);
+}
+
+TEST_F(Tipo2Test, ByFileNameTheCommandNamesTheBareEmulator_BehindWhichTwoBlanksStand)
+{
+    juega(u"mario.zip"_s);
+    EXPECT_EQ(respuestas.dichos, QStringList({ u"Zembrolix: emu.sh  -1 mario -2 "_s }));
+    EXPECT_EQ(Programa(), "./emu.sh");
+    EXPECT_EQ(M.ArchivoZip, Corta(u"roms/mario.zip "_s));
+}
+
+TEST_F(Tipo2Test, AnUncleanNameIsPlayedByItsShortForm)
+{
+    PonROM("My Game.ZIP", Zip({ { "rom.bin" } }));
+    PonNota(1, u"MY GAME"_s, u"described"_s);
+    for (const QString &entrada : { u"My Game.ZIP"_s, u"described"_s }) {
+        juega(entrada);
+        EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "my_game", "-2" }));
+        EXPECT_EQ(Anotado("unpacked"), "rom.bin\n");
+    }
+    EXPECT_FALSE(exists("emu/my_game"));
+}
+
+TEST_F(Tipo2Test, AKeyThatAlreadyEndsInZipFindsNothing_AndDeletesNothing)
+{
+    PonNota(0, u"MARIO.ZIP"_s, u"The Plumber"_s);
+    makeFile("emu/kept");
+    juega(u"The Plumber"_s);
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "-2" }));
+    EXPECT_TRUE(exists("emu/kept"));
+}
+
+TEST_F(Tipo2Test, ANameWithoutAPointHasNoBase_AndDeletesNothing)
+{
+    PonROM("mario", "plain");
+    makeFile("emu/kept");
+    juega(u"mario"_s);
+    EXPECT_EQ(respuestas.dichos, QStringList({ u"Zembrolix: emu.sh  -1  -2 "_s }));
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "-2" }));
+    EXPECT_TRUE(exists("emu/kept"));
+    EXPECT_FALSE(exists("emu/mario"));
+}
+
+TEST_F(Tipo2Test, ANestedLaunchOfTheSameGameLeavesTheFirstOnesDirectoryToIt)
+{
+    bool hecho = false;
+    PantallaDePrueba otra;
+    otra.lista1 = u"mario.zip"_s;
+    respuestas.sobreescribir = { Answer::Yes, Answer::Yes };
+    pantalla.enLlamada = [&](const QString &llamada) {
+        if (!hecho && llamada == u"LLena_INFO") {
+            hecho = true;
+            launch::Jugar(M, otra);
+        }
+    };
+    juega(u"mario.zip"_s);
+    EXPECT_TRUE(hecho);
+    EXPECT_FALSE(exists("emu/mario"));
+}
+
+} // namespace
