@@ -23,6 +23,7 @@ void Portada::Llena_Lista()
 {
     for (core::Tabla<QString> *tabla : { &M.Arch_Nombre, &M.Arch_Mayus, &M.Nota_Clave, &M.Nota_Texto })
         tabla->vacia();
+    M.NumROMsBorradas = 0;
     if (Combo2->Text().isEmpty())
         return;
 

@@ -2,38 +2,11 @@
 
 #include "mundotest.h"
 
-#include <QEvent>
+#include "tests/support/witness.h"
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-namespace {
-
-// Calls back for every event of one kind that a widget gets.
-class Witness final : public QObject {
-public:
-    Witness(QWidget &widget, QEvent::Type type, std::function<void()> seen)
-        : m_type(type)
-        , m_seen(std::move(seen))
-    {
-        widget.installEventFilter(this);
-    }
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() == m_type)
-            m_seen();
-        return false;
-    }
-
-private:
-    QEvent::Type m_type;
-    std::function<void()> m_seen;
-};
-
-} // namespace
 
 using ArranqueTest = MundoTest;
 

@@ -12,6 +12,15 @@ namespace {
 
 constexpr int Bound = 5000; // milliseconds
 
+// A window system gives the window back what its drop-down list took.
+void activate(QWidget &window)
+{
+    if (!window.isVisible() || QApplication::activeModalWidget())
+        return;
+    window.activateWindow();
+    EXPECT_TRUE(waitUntil([&window] { return window.isActiveWindow(); }));
+}
+
 QWindow *windowOf(QWidget &widget)
 {
     return widget.window()->windowHandle();
@@ -105,6 +114,7 @@ void pick(forms::ComboBox &combo, const QString &text)
     dropDown(combo);
     QTest::mouseClick(windowOf(*combo.view()), Qt::LeftButton, {}, middleOfRow(*combo.view(), row));
     EXPECT_FALSE(combo.view()->isVisible()) << "the list stayed open";
+    activate(*combo.window());
 }
 
 void wishClose(QWidget &window)

@@ -77,7 +77,7 @@ QStringList PortadaTest::entries(const forms::ComboBox &combo) const
 
 QString PortadaTest::focused() const
 {
-    const QWidget *widget = QApplication::focusWidget();
+    const QWidget *widget = portada->focusWidget();
     return widget ? widget->objectName() : QString();
 }
 

@@ -43,7 +43,7 @@ protected:
     QString word() { return caption(QStringLiteral("TXT_Boton")); }
     QStringList listed();
     QStringList entries(const forms::ComboBox &combo) const;
-    QString focused() const; // name of the control that has the focus
+    QString focused() const; // name of the screen's control that has the focus
     QColor capture(); // the colour in the middle of the picture in Graf_Imagen
     QColor zoomed(); // the same of the zoom screen
 
