@@ -1,6 +1,8 @@
 // The watch on a running process.
 #include "launch/esperaremulador.h"
 
+#include "launch/ritmo.h"
+
 #include "escenario.h"
 
 #include "host/paths.h"
@@ -30,6 +32,21 @@ protected:
     }
     void espera() { launch::EsperarEmulador(M, pantalla, orden()); }
 };
+
+TEST(RitmoDeBusqueda, WindowsAreSearchedFourTimesASecondAtMost_AndWheneverTheyHaveToBe)
+{
+    using namespace std::chrono_literals;
+    const auto inicio = std::chrono::steady_clock::now();
+    launch::RitmoDeBusqueda ritmo;
+    EXPECT_TRUE(ritmo.Toca(inicio, false));
+    EXPECT_FALSE(ritmo.Toca(inicio + 1ms, false));
+    EXPECT_FALSE(ritmo.Toca(inicio + 249ms, false));
+    EXPECT_TRUE(ritmo.Toca(inicio + 250ms, false));
+    EXPECT_FALSE(ritmo.Toca(inicio + 300ms, false));
+    EXPECT_TRUE(ritmo.Toca(inicio + 300ms, true));
+    EXPECT_FALSE(ritmo.Toca(inicio + 500ms, false));
+    EXPECT_TRUE(ritmo.Toca(inicio + 550ms, false));
+}
 
 TEST_F(EsperaTest, EachPassYieldsThenTurnsTheLabelBlackThenFillsTheInformation)
 {

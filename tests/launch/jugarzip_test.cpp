@@ -284,8 +284,8 @@ protected:
         PonEmulador(2, u"-1"_s, u"-2"_s);
         PonROM("mario.zip", Zip({ { "rom1.bin", "the game" }, { "rom2.bin" } }));
         PonNota(0, u"MARIO"_s, u"The Plumber"_s);
-        HazDuranteElJuego(
-            "for d in mario Mario \"My Game\" my_game; do [ -d \"$d\" ] && ls -A \"$d\"; done > \"$OUT/unpacked\"\n");
+        HazDuranteElJuego("for d in mario Mario \"My Game\" my_game; do [ -d \"$d\" ] && ls -A \"$d\"; done "
+                          "> \"$OUT/unpacked\"\n");
         M.DebugMode = u"1"_s;
     }
 
