@@ -25,7 +25,8 @@ done
 for language in "$beside"/LNG/*.LNG; do
     add "$language" "LNG/$(basename "$language")"
 done
-for game in "$build"/data/demo/games/*; do
+sources=$(dirname "$0")/../data
+for game in "$build"/data/demo/games/* "$sources"/demo/captures/*; do
     add "$game" "demo/$(basename "$game")"
 done
 
