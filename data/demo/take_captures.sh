@@ -27,7 +27,7 @@ start_screen() {
     until [ -s "$home/display" ]; do sleep 0.05; done
     DISPLAY=:$(cat "$home/display")
     export DISPLAY
-    openbox 2>/dev/null &
+    openbox >/dev/null 2>&1 &
     started+=($!)
     until xprop -root _NET_SUPPORTING_WM_CHECK | grep -q '#'; do sleep 0.05; done
 }
