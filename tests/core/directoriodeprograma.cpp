@@ -25,6 +25,17 @@ int NumeroDeFallo(const std::function<void()> &operacion)
     return 0;
 }
 
+QByteArray BytesSinOrden()
+{
+    QByteArray bytes;
+    quint32 estado = 12345;
+    for (int i = 0; i < 20000; ++i) {
+        estado = estado * 1664525 + 1013904223;
+        bytes += static_cast<char>(estado >> 24);
+    }
+    return bytes;
+}
+
 DirectorioDePrograma::DirectorioDePrograma()
 {
     EXPECT_TRUE(m_directorio.isValid());

@@ -33,6 +33,9 @@ qint64 TiempoDeTrabajo();
 // The number of the failure that the operation ends with; 0 if it ends without one.
 int NumeroDeFallo(const std::function<void()> &operacion);
 
+// Every byte there is, in an order without pattern, the same at every call.
+QByteArray BytesSinOrden();
+
 class DirectorioDePrograma : public testing::Test {
 protected:
     DirectorioDePrograma();

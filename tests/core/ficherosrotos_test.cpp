@@ -21,18 +21,6 @@ namespace {
 
 constexpr uid_t Nadie = 65534;
 
-// Every byte there is, in an order without pattern, the same at every run.
-QByteArray binario()
-{
-    QByteArray bytes;
-    quint32 estado = 12345;
-    for (int i = 0; i < 20000; ++i) {
-        estado = estado * 1664525 + 1013904223;
-        bytes += static_cast<char>(estado >> 24);
-    }
-    return bytes;
-}
-
 struct Lector {
     const char *nombre;
     QString fichero;
@@ -173,7 +161,7 @@ TEST_P(FicherosRotos, AFileCutOffAnywhereIsReadOrFailsByItsRules)
 
 TEST_P(FicherosRotos, ABinaryFileIsReadOrFailsByItsRules)
 {
-    const QByteArray bytes = binario();
+    const QByteArray bytes = BytesSinOrden();
     for (const QByteArray &basura : { bytes, bytes + GetParam().bueno, GetParam().bueno + bytes,
              QByteArray(20000, '\0'), QByteArray(20000, '\n'), QByteArray(20000, '\r'),
              QByteArray(20000, '"'), QByteArray(20000, ','), QByteArray(20000, '\xFF') }) {
