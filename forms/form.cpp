@@ -124,7 +124,8 @@ void Form::ShowModal(QWidget *owner)
     // What showing it has raised may have closed it already.
     if (self && isVisible())
         loop.exec();
-    // Not every window manager gives the focus back; one that the user has taken to another program stays there.
+    // Not every window system gives the focus back. Where the user has gone on to another program, it stays
+    // there.
     if (lower && lower->isVisible() && QApplication::applicationState() == Qt::ApplicationActive)
         lower->activateWindow();
 }

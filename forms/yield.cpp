@@ -28,8 +28,8 @@ private:
     bool m_seen = false;
 };
 
-// A turn of the event loop may handle one kind of event only, so it takes turns until nothing is left. The time stops
-// it where there is always something, as with a timer of no interval.
+// A turn of the event loop may handle one kind of event only, so it takes turns until nothing is left. The
+// time stops it where there is always something, as with a timer of no interval.
 void handlePending(QEventLoop::ProcessEventsFlags flags)
 {
     constexpr int LongestMilliseconds = 50;

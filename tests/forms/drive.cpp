@@ -1,7 +1,6 @@
 #include "drive.h"
 
 #include <QApplication>
-#include <QCursor>
 #include <QKeyEvent>
 #include <QTest>
 #include <QWheelEvent>
@@ -27,8 +26,6 @@ QPoint inWindow(const QWidget &widget, const QPoint &point)
 
 void show(QWidget &window)
 {
-    // Off all windows, so that the first move to any point is one.
-    QCursor::setPos(0, 0);
     window.show();
     window.activateWindow();
     if (!QTest::qWaitForWindowActive(&window))

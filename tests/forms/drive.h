@@ -28,7 +28,7 @@ void press(QWidget &widget, Qt::MouseButton button, const QPoint &point);
 void release(QWidget &widget, Qt::MouseButton button, const QPoint &point);
 void click(QWidget &widget, Qt::MouseButton button, const QPoint &point);
 void doubleClick(QWidget &widget, Qt::MouseButton button, const QPoint &point);
-void moveTo(QWidget &widget, const QPoint &point);
+void moveTo(QWidget &widget, const QPoint &point); // nothing happens where the pointer stands there already
 
 void press(QWidget &widget, Qt::MouseButton button = Qt::LeftButton);
 void release(QWidget &widget, Qt::MouseButton button = Qt::LeftButton);

@@ -170,6 +170,26 @@ TEST_F(Forms, WhileAFormIsModal_TheOthersGetNoInput)
     EXPECT_EQ(presses, 1);
 }
 
+TEST_F(Forms, AfterAModalForm_TheControlBelowHasTheFocusAgain)
+{
+    QWidget first(&owner);
+    QWidget second(&owner);
+    drive::show(owner);
+    first.setFocus();
+    second.setFocus();
+    Form form(u"Caja"_s, 1500, 1500, Form::Border::FixedSingle);
+    QWidget box(&form);
+    bool boxHadIt = false;
+    meanwhile([&] {
+        box.setFocus();
+        boxHadIt = QTest::qWaitFor([&] { return box.hasFocus(); });
+        form.Unload();
+    });
+    form.ShowModal(&owner);
+    EXPECT_TRUE(boxHadIt);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return second.hasFocus(); }));
+}
+
 TEST_F(Forms, AFormUnloadedWhileItShows_DoesNotKeepShowModalWaiting)
 {
     class Hasty : public Form {
@@ -274,8 +294,9 @@ TEST_F(Forms, EnterOnTheForm_RaisesKeyEnterOnceWhileHeld)
 TEST_F(Forms, MovesOverItsOwnSurface_AreRaised)
 {
     std::vector<int> points;
-    owner.MouseMove = [&](const forms::Mouse &mouse) { points.push_back(mouse.x); };
     drive::show(owner);
+    drive::moveTo(owner, { 20, 20 });
+    owner.MouseMove = [&](const forms::Mouse &mouse) { points.push_back(mouse.x); };
     drive::moveTo(owner, { 300, 300 });
     EXPECT_THAT(points, ElementsAre(4500));
 }

@@ -286,6 +286,7 @@ TEST_F(Lists, MovesWithoutAButton_AreToldInPointsOfTheClientArea)
         rows.push_back(list.ItemFromPoint(forms::pixels(mouse.x), forms::pixels(mouse.y)));
     };
     drive::show(form);
+    drive::moveTo(form, { 190, 190 });
     drive::moveTo(*list.viewport(), row(2));
     EXPECT_THAT(rows, ElementsAre(2));
 }
