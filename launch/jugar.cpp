@@ -11,6 +11,8 @@
 #include "host/paths.h"
 #include "host/questions.h"
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace launch {
