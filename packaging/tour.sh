@@ -30,7 +30,9 @@ click() { # window, x, y in its pixels
     xdotool mousemove --window "$1" "$2" "$3" click 1
 }
 picture() { # window, name
-    import -window "$1" "$pictures/$2"
+    # Cut out of the whole screen: a window that draws by itself is black when asked for its own picture.
+    eval "$(xdotool getwindowgeometry --shell "$1")"
+    import -window root -crop "${WIDTH}x${HEIGHT}+${X}+${Y}" +repage "$pictures/$2"
     [ "$(identify -format %k "$pictures/$2")" -gt 2 ] || fail "$2 shows nothing"
     echo "tour: saved $pictures/$2"
 }
@@ -52,7 +54,7 @@ echo "tour: pressed play"
 game=$(window 'Stella' 15) || fail "no emulator's window"
 sleep 4
 picture "$game" running-game.png
-xdotool windowclose "$game"
+xdotool windowactivate --sync "$game" key alt+F4
 gone "$game" 10 || fail "the emulator's window stays open"
 echo "tour: closed the emulator"
 sleep 0.5
