@@ -11,7 +11,7 @@ fi
 bound() { exec setpriv --pdeathsig "$@"; }
 
 # The server picks a free display and tells its number.
-exec {display_number}< <(bound KILL Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -noreset 2>/dev/null)
+exec {display_number}< <(bound TERM Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -noreset 2>/dev/null)
 server=$!
 end_screen() {
     kill $manager "$server" 2>/dev/null
@@ -26,7 +26,7 @@ fi
 export DISPLAY=:$number
 unset WAYLAND_DISPLAY
 
-(bound KILL openbox --sm-disable >/dev/null 2>&1) &
+(bound TERM openbox --sm-disable >/dev/null 2>&1) &
 manager=$!
 
 # A window manager is up once the window that the root names names itself.
