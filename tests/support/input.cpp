@@ -65,6 +65,16 @@ void click(QWidget &widget, Qt::MouseButton button)
     QTest::mouseClick(windowOf(widget), button, {}, middle(widget));
 }
 
+void doubleClick(QWidget &widget)
+{
+    QTest::mouseDClick(windowOf(widget), Qt::LeftButton, {}, middle(widget));
+}
+
+void clickAt(QWidget &widget, QPoint point, Qt::MouseButton button)
+{
+    QTest::mouseClick(windowOf(widget), button, {}, inWindow(widget, point));
+}
+
 void moveTo(QWidget &widget, QPoint point)
 {
     QTest::mouseMove(windowOf(widget), inWindow(widget, point));

@@ -14,6 +14,8 @@ void press(QWidget &widget, Qt::MouseButton button = Qt::LeftButton);
 void release(QWidget &widget, Qt::MouseButton button = Qt::LeftButton);
 void releaseAt(QWidget &widget, QPoint point, Qt::MouseButton button = Qt::LeftButton);
 void click(QWidget &widget, Qt::MouseButton button = Qt::LeftButton);
+void doubleClick(QWidget &widget);
+void clickAt(QWidget &widget, QPoint point, Qt::MouseButton button = Qt::LeftButton);
 void moveTo(QWidget &widget, QPoint point);
 
 // A key goes to the control that has the focus in the widget's window.

@@ -1,0 +1,267 @@
+// The gestures that play, and what the main screen shows of a launch. The emulator is a script that counts
+// its runs.
+
+#include "mundotest.h"
+
+#include "tests/support/witness.h"
+
+#include <QApplication>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+
+class LanzamientoTest : public MundoTest {
+protected:
+    LanzamientoTest()
+    {
+        files.makeDirectory(u"tmp"_s);
+        qputenv("TMPDIR", files.path(u"tmp"_s).toUtf8());
+        makeEmulator("echo run >> runs\n");
+        configure(u"5"_s);
+    }
+    ~LanzamientoTest() override
+    {
+        if (m_temporary.isNull())
+            qunsetenv("TMPDIR");
+        else
+            qputenv("TMPDIR", m_temporary);
+    }
+
+    void makeEmulator(const QByteArray &script)
+    {
+        files.write(u"bin/emu"_s, "#!/bin/sh\n" + script);
+        QFile(files.path(u"bin/emu"_s))
+            .setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    void configure(const QString &type)
+    {
+        systemsOfCatalogue[0].emulators[0].executable = files.path(u"bin/emu"_s);
+        systemsOfCatalogue[0].emulators[0].type = type;
+        files.writeCatalogue(systemsOfCatalogue);
+    }
+    // The runs since the last call.
+    qsizetype runs()
+    {
+        const QString log = u"bin/runs"_s;
+        if (!files.exists(log))
+            return 0;
+        const qsizetype count = files.read(log).count("run");
+        files.remove(log);
+        return count;
+    }
+    void focus(const QString &name)
+    {
+        control(name).setFocus();
+        ASSERT_EQ(focused(), name);
+    }
+
+private:
+    QByteArray m_temporary = qgetenv("TMPDIR");
+};
+
+TEST_F(LanzamientoTest, PlayButtonPlaysOnTheReleaseWhereverThatIs)
+{
+    startAt(Zeta, 0);
+    auto &button = control<forms::PictureButton>(u"JugarB1"_s);
+    press(button, Qt::MiddleButton);
+    EXPECT_TRUE(button.ShowsPressed());
+    EXPECT_EQ(runs(), 0);
+    releaseAt(button, QPoint(200, -100), Qt::MiddleButton);
+    EXPECT_FALSE(button.ShowsPressed());
+    EXPECT_EQ(runs(), 1);
+}
+
+TEST_F(LanzamientoTest, PlayButtonGivesWayOnceAheadOfPlaying)
+{
+    startAt(Zeta, 0);
+    bool ran = false;
+    press(control(u"JugarB1"_s));
+    QTimer::singleShot(0, portada.get(), [&] {
+        ran = true;
+        EXPECT_EQ(info(), u"ONE.NES 1Kb  [NOR]"_s);
+        EXPECT_EQ(runs(), 0);
+    });
+    release(control(u"JugarB1"_s));
+    EXPECT_TRUE(ran);
+    EXPECT_EQ(runs(), 1);
+}
+
+TEST_F(LanzamientoTest, EnterPlaysOnceFromEveryPlaceThatTakesIt)
+{
+    startAt(Zeta, 0);
+    for (const QString &name : { u"Lista1"_s, u"Combo1"_s, u"Combo2"_s, u"Graf_TV"_s, u"Titulo1"_s,
+             u"IMGDescripcionLarga"_s, u"Check1"_s }) {
+        for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Enter }) {
+            control(name).show();
+            focus(name);
+            strike(*portada, key);
+            EXPECT_EQ(runs(), 1) << name.toStdString();
+        }
+    }
+}
+
+TEST_F(LanzamientoTest, EnterPlaysFromTheScreenItself)
+{
+    startAt(Zeta, 0);
+    list().clearFocus();
+    portada->setFocus();
+    ASSERT_EQ(focused(), u"Portada"_s);
+    strike(*portada, Qt::Key_Return);
+    EXPECT_EQ(runs(), 1);
+}
+
+TEST_F(LanzamientoTest, ClickOnTheTitleOrTheTelevisionTakesTheFocusForEnter)
+{
+    startAt(Zeta, 0);
+    for (const QString &name : { u"Titulo1"_s, u"Graf_TV"_s }) {
+        list().setFocus();
+        clickAt(control(name), QPoint(4, 30)); // beside what the television holds
+        EXPECT_EQ(focused(), name);
+    }
+}
+
+TEST_F(LanzamientoTest, KeyHeldDownPlaysOnce)
+{
+    startAt(Zeta, 0);
+    for (const QString &name : { u"Lista1"_s, u"Combo1"_s, u"Titulo1"_s, u"Check1"_s }) {
+        focus(name);
+        strike(*portada, Qt::Key_Return);
+        focus(name);
+        repeatKey(*portada, Qt::Key_Return);
+        repeatKey(*portada, Qt::Key_Return);
+        EXPECT_EQ(runs(), 1) << name.toStdString();
+    }
+}
+
+TEST_F(LanzamientoTest, OtherKeysPlayNothing)
+{
+    startAt(Zeta, 0);
+    for (const Qt::Key key : { Qt::Key_Space, Qt::Key_Escape, Qt::Key_Down, Qt::Key_J })
+        strike(*portada, key);
+    EXPECT_EQ(runs(), 0);
+}
+
+TEST_F(LanzamientoTest, EnterThatPicksFromADropDownListDoesNotPlay)
+{
+    startAt(Zeta, 0);
+    systems().setFocus();
+    dropDown(systems());
+    strike(*QApplication::activePopupWidget(), Qt::Key_Return);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(runs(), 0);
+}
+
+TEST_F(LanzamientoTest, DoubleClickInTheListPlays)
+{
+    startAt(Zeta, 0);
+    doubleClickRow(list(), 1);
+    EXPECT_EQ(runs(), 1);
+    EXPECT_EQ(list().Text(), u"two.nes"_s);
+}
+
+TEST_F(LanzamientoTest, DoubleClickOnThePlayButtonPlaysTwice)
+{
+    startAt(Zeta, 0);
+    doubleClick(control(u"JugarB1"_s));
+    EXPECT_EQ(runs(), 2);
+}
+
+TEST_F(LanzamientoTest, NothingPlaysWithoutAnEmulator)
+{
+    startWithoutEmulator(Zeta);
+    click(control(u"JugarB1"_s));
+    strike(*portada, Qt::Key_Return);
+    EXPECT_EQ(runs(), 0);
+    EXPECT_EQ(info(), u"Ninguna ROM"_s);
+}
+
+TEST_F(LanzamientoTest, NothingPlaysInTheDatabase)
+{
+    startAt(Zeta, 0);
+    click(control(u"Check1"_s));
+    pick(systems(), u"Nueva"_s);
+    click(control(u"JugarB1"_s));
+    EXPECT_EQ(runs(), 0);
+}
+
+TEST_F(LanzamientoTest, LineShowsTheLoadingInRedCapitalsAtOnce)
+{
+    startAt(Zeta, 0);
+    QStringList painted;
+    const Witness paints(control(u"TXT_Info"_s), QEvent::Paint,
+        [&] { painted << colour(u"TXT_Info"_s).name() + u' ' + info(); });
+    click(control(u"JugarB1"_s));
+    EXPECT_THAT(painted, testing::Contains(u"#c00000 CARGANDO"_s));
+    EXPECT_EQ(info(), u"ONE.NES 1Kb  [NOR]"_s);
+    EXPECT_EQ(colour(u"TXT_Info"_s), QColor(Qt::black));
+}
+
+TEST_F(LanzamientoTest, EndSelectsTheEntryAnewAndGivesTheListTheFocus)
+{
+    startAt(Zeta, 0);
+    clickRow(list(), 1);
+    files.writeGif(u"zetacap/two.gif"_s, Qt::green);
+    ASSERT_EQ(capture(), QColor(Qt::black));
+    focus(u"Combo1"_s);
+    strike(*portada, Qt::Key_Return);
+    EXPECT_EQ(runs(), 1);
+    EXPECT_EQ(list().Text(), u"two.nes"_s);
+    EXPECT_EQ(capture(), QColor(Qt::green));
+    EXPECT_EQ(focused(), u"Lista1"_s);
+}
+
+TEST_F(LanzamientoTest, EmulatorWithoutROMsSaysSoAtTheEnd)
+{
+    files.remove(u"zeta"_s);
+    startAt(Zeta, 0);
+    click(control(u"JugarB1"_s));
+    EXPECT_EQ(runs(), 1);
+    EXPECT_EQ(info(), u"Ninguna ROM"_s);
+    EXPECT_EQ(colour(u"TXT_Info"_s), QColor(Qt::black));
+}
+
+TEST_F(LanzamientoTest, ScreenLivesWhileTheEmulatorRuns)
+{
+    makeEmulator("touch started\nwhile [ ! -e go ]; do sleep 0.01; done\n");
+    startAt(Zeta, 0);
+    QTimer watch;
+    QStringList seen;
+    QObject::connect(&watch, &QTimer::timeout, portada.get(), [&] {
+        if (!files.exists(u"bin/started"_s) || info() == u"CARGANDO"_s)
+            return;
+        watch.stop();
+        seen << colour(u"TXT_Info"_s).name() + u' ' + info();
+        clickRow(list(), 1);
+        seen << info();
+        files.write(u"bin/go"_s, {});
+    });
+    watch.start(0);
+    click(control(u"JugarB1"_s));
+    EXPECT_THAT(seen, ElementsAre(u"#000000 ONE.NES 1Kb  [NOR]"_s, u"two.nes 2Kb  [NOR]"_s));
+    EXPECT_EQ(list().Text(), u"Juego uno"_s); // what was played is selected again
+}
+
+TEST_F(LanzamientoTest, ZipWithoutAROMIsToldInABoxOverTheScreen)
+{
+    files.write(u"zeta/bad.zip"_s, "no archive");
+    files.writeLines(u"LNG/ZB-ESP.LNG"_s,
+        languageLines() << languageLine(u"Msg_ZipSinRoms0"_s, u"Zip"_s)
+                        << languageLine(u"Msg_ZipSinRoms1"_s, u"No hay nada"_s));
+    systemsOfCatalogue[0].extensions = { u"ZIP"_s };
+    configure(u"0"_s);
+    startAt(Zeta, 0);
+    ASSERT_THAT(listed(), ElementsAre(u"bad.zip"_s));
+    bool told = false;
+    atModal(u"Caja"_s, [&](forms::Form &form) {
+        told = true;
+        EXPECT_EQ(form.Caption(), u"Zip"_s);
+        EXPECT_EQ(controlOf<forms::Label>(form, u"Texto2"_s).Caption(), u"No hay nada"_s);
+        EXPECT_EQ(controlOf<forms::Label>(form, u"TXT_Aceptar"_s).Caption(), u"Aceptar"_s);
+        EXPECT_FALSE(controlOf<QWidget>(form, u"Flecha2"_s).isVisible());
+        click(controlOf<QWidget>(form, u"Aceptar2"_s));
+    });
+    click(control(u"JugarB1"_s));
+    EXPECT_TRUE(told);
+    EXPECT_EQ(runs(), 0);
+}
