@@ -151,11 +151,13 @@ int ListBox::ItemFromPoint(int x, int y) const
     return index.isValid() ? index.row() : count();
 }
 
-void ListBox::select(int index)
+void ListBox::select(int index, Scroll scroll)
 {
     {
         const QSignalBlocker quiet(this);
+        setAutoScroll(scroll == Scroll::Yes);
         setCurrentRow(index);
+        setAutoScroll(true);
     }
     if (index >= 0)
         Selection.raise();
@@ -182,15 +184,9 @@ bool ListBox::press(const QMouseEvent &event)
     if (!self || event.button() != Qt::LeftButton || !isEnabled())
         return self;
     const QModelIndex index = indexAt(event.position().toPoint());
-    if (index.isValid()) {
-        // No scrolling to a row half in view: the second press of a double click would meet another row.
-        setAutoScroll(false);
-        const auto scrolling = qScopeGuard([this, &self] {
-            if (self)
-                setAutoScroll(true);
-        });
-        select(index.row());
-    }
+    // No scrolling to a row half in view: the second press of a double click would meet another row.
+    if (index.isValid())
+        select(index.row(), Scroll::No);
     return self;
 }
 

@@ -49,8 +49,11 @@ protected:
         const QModelIndex &index, const QEvent *event) const override;
 
 private:
-    void select(int index);
+    enum class Scroll { No, Yes };
+
+    void select(int index, Scroll scroll = Scroll::Yes);
     bool press(const QMouseEvent &event);
+
     bool m_sorted;
 };
 

@@ -17,23 +17,27 @@ PictureButton::PictureButton(const QString &atRest, const QString &pressed, QWid
     setFocusPolicy(Qt::TabFocus);
     // The toolkit's own press and release, which assistive programs start; mouse and keys don't come this
     // way.
-    connect(this, &QAbstractButton::pressed, this, [this] { press(By::Other); });
+    connect(this, &QAbstractButton::pressed, this, [this] {
+        if (!ShowsPressed())
+            press(By::Other);
+    });
     connect(this, &QAbstractButton::clicked, this, [this] { release(); });
 }
 
 void PictureButton::SetPlace(const Place &place, int pressedWidth)
 {
-    m_restWidth = pixels(place.width);
-    m_pressedWidth = pressedWidth == 0 ? m_restWidth : pixels(pressedWidth);
+    m_growth = pressedWidth == 0 ? 0 : pixels(pressedWidth) - pixels(place.width);
     forms::move(*this, place);
-    showPicture(m_pressedBy);
+    if (ShowsPressed())
+        resize(width() + m_growth, height());
 }
 
 void PictureButton::showPicture(By pressedBy)
 {
+    const bool wasPressed = ShowsPressed();
     m_pressedBy = pressedBy;
-    if (m_restWidth > 0)
-        resize(ShowsPressed() ? m_pressedWidth : m_restWidth, height());
+    if (ShowsPressed() != wasPressed)
+        resize(width() + (wasPressed ? -m_growth : m_growth), height());
     repaint();
 }
 

@@ -45,8 +45,7 @@ private:
     void showPicture(By pressedBy);
 
     QString m_pressedName;
-    int m_restWidth = 0; // pixels; 0 until the place is set
-    int m_pressedWidth = 0; // pixels
+    int m_growth = 0; // of the width while pressed, in pixels
     By m_pressedBy = By::Nothing;
     Qt::MouseButton m_button = Qt::NoButton; // the button that pressed it
     bool m_keyHeld = false;

@@ -227,6 +227,20 @@ TEST_F(Lists, ADoubleClickOnARowHalfInView_MeetsThatRowBothTimes)
     EXPECT_THAT(selected, ElementsAre(last, last));
 }
 
+TEST_F(Lists, ASelectionFromCodeInTheHandlerOfAPress_ScrollsToItsRow)
+{
+    for (int i = 0; i < 40; ++i)
+        list.AddItem(QString::number(i));
+    drive::show(form);
+    list.Selection = [&] {
+        list.Selection = nullptr;
+        list.SetListIndex(35);
+    };
+    drive::click(*list.viewport(), Qt::LeftButton, row(0));
+    EXPECT_EQ(list.ListIndex(), 35);
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.item(35))));
+}
+
 TEST_F(Lists, RightAndMiddleButton_NeverSelect)
 {
     fill({ u"a"_s, u"b"_s });

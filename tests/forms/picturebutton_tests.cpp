@@ -73,6 +73,28 @@ TEST_F(PicturePairs, EachPictureShows_InItsOwnWidth)
     EXPECT_EQ(pair.geometry(), QRect(10, 10, 30, 20));
 }
 
+TEST_F(PicturePairs, APairThatCodeMoves_KeepsItsNewPlace)
+{
+    drive::show(form);
+    forms::move(pair, { 300, 300, 600, 300 });
+    drive::click(pair);
+    EXPECT_EQ(pair.geometry(), QRect(20, 20, 40, 20));
+    drive::press(pair);
+    pair.SetPlace({ 150, 150, 450, 300 }, 420);
+    EXPECT_EQ(pair.geometry(), QRect(10, 10, 28, 20));
+    drive::release(pair);
+    EXPECT_EQ(pair.geometry(), QRect(10, 10, 30, 20));
+}
+
+TEST_F(PicturePairs, ThePressActionWhileTheMouseHolds_PressesNoSecondTime)
+{
+    drive::show(form);
+    drive::press(pair);
+    pair.click();
+    drive::release(pair);
+    EXPECT_THAT(log, ElementsAre("press", "release"));
+}
+
 TEST_F(PicturePairs, TheRelease_ActsWhereverThePointerStands)
 {
     drive::show(form);
