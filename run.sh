@@ -3,6 +3,8 @@
 #   --build   stops before the start
 set -euo pipefail
 cd "$(dirname "$0")"
+# So that another clone finds in the cache what this one has compiled.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
 
 case "${1:-}" in
 "" | --build) ;;
