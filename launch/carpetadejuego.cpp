@@ -8,10 +8,15 @@ namespace launch {
 
 CarpetaDeJuego::CarpetaDeJuego(const QString &ExeDir, const QString &Carpeta)
 {
-    if (ExeDir.isEmpty() || Carpeta.isEmpty())
+    // A separator in a game's name would lead somewhere else.
+    if (ExeDir.isEmpty() || Carpeta.isEmpty() || host::lastSeparator(Carpeta) >= 0)
         return;
     m_nueva = Intenta([&] { host::makeDirectory(ExeDir + Carpeta); });
-    m_ruta = host::trueSpelling(ExeDir + Carpeta);
+    // Nothing is unpacked through a link: what lies behind it isn't ours to clean up.
+    Intenta([&] {
+        if (host::attributes(ExeDir + Carpeta) & host::DirectoryAttribute)
+            m_ruta = host::trueSpelling(ExeDir + Carpeta);
+    });
 }
 
 void CarpetaDeJuego::Limpia(const QStringList &desempaquetados) const

@@ -95,6 +95,11 @@ Destino::Destino(const QByteArray &ruta)
 {
 }
 
+bool Destino::QuedaSitio() const
+{
+    return espacioLibre()(m_descriptor.number()) >= MinimoLibre;
+}
+
 host::Descriptor Destino::Directorio(const QList<QByteArray> &partes) const
 {
     host::Descriptor directorio(openat(m_descriptor.number(), ".", EnDirectorio));

@@ -49,6 +49,9 @@ public:
 
     bool Abierto() const { return m_descriptor.isOpen(); }
 
+    // Whether the disk has more room than must be left.
+    bool QuedaSitio() const;
+
     // The directory that these parts lead to, made where it isn't there; closed if a part is no directory, or
     // a link.
     host::Descriptor Directorio(const QList<QByteArray> &partes) const;

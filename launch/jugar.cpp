@@ -1,5 +1,6 @@
 #include "launch/jugar.h"
 
+#include "core/catalogo.h"
 #include "core/parrom.h"
 #include "launch/busquedarom.h"
 #include "launch/carpetadejuego.h"
@@ -66,14 +67,14 @@ private:
 
 void Lanzamiento::SoloExe()
 {
-    m_piezas.Par1 = host::lower(LeeCatalogo(M.Cat_PAR1, 5));
-    m_piezas.programa = ProgramaDe(LeeCatalogo(M.Cat_EXE, 4));
+    m_piezas.Par1 = host::lower(LeeCatalogo(M.Cat_PAR1, core::PrefijoParametro));
+    m_piezas.programa = ProgramaDe(LeeCatalogo(M.Cat_EXE, core::PrefijoRuta));
     Corre(Caso::SoloExe);
 }
 
 void Lanzamiento::ConROM(const QString &entrada)
 {
-    m_piezas.RomDir = RomDirDe(LeeCatalogo(M.Cat_ROM, 4));
+    m_piezas.RomDir = RomDirDe(LeeCatalogo(M.Cat_ROM, core::PrefijoRuta));
     const Busqueda busqueda = BuscaROM(M, m_seleccion.tipo, entrada);
     m_via = busqueda.via;
     if (m_via == Via::Nota)
@@ -116,9 +117,9 @@ void Lanzamiento::BuscaPorFichero(const Busqueda &busqueda)
 
 void Lanzamiento::ReunePiezasDelEmulador()
 {
-    m_piezas.Par1 = host::lower(LeeCatalogo(M.Cat_PAR1, 5));
-    m_piezas.Par2 = host::lower(LeeCatalogo(M.Cat_PAR2, 5));
-    m_piezas.programa = ProgramaDe(LeeCatalogo(M.Cat_EXE, 4));
+    m_piezas.Par1 = host::lower(LeeCatalogo(M.Cat_PAR1, core::PrefijoParametro));
+    m_piezas.Par2 = host::lower(LeeCatalogo(M.Cat_PAR2, core::PrefijoParametro));
+    m_piezas.programa = ProgramaDe(LeeCatalogo(M.Cat_EXE, core::PrefijoRuta));
     M.TituloDOS = TituloDe(m_piezas.programa.ExeNombre.texto);
 }
 
@@ -148,7 +149,7 @@ void Lanzamiento::Tipo0()
 void Lanzamiento::Tipo0Zip()
 {
     const QString carpeta = RutaZBTMP();
-    Intenta([&] { host::makeDirectory(carpeta, 0700); });
+    HazZBTMP(carpeta);
     if (const std::optional<QString> elegido = FicheroDelZip(carpeta)) {
         m_piezas.Desempaquetada = { DirectorioTemporal() + u"ZB-TMP/"_s + host::lower(*elegido),
             carpeta + u'/' + *elegido };

@@ -11,8 +11,10 @@ namespace {
 
 Ruta rutaCorta(const QString &ruta)
 {
-    const QString corta = host::lower(host::GetShortPathNameA(ruta));
-    return { corta, host::trueSpelling(corta) };
+    const QString enDisco = host::trueSpelling(ruta);
+    const bool relativa = !enDisco.isEmpty() && !enDisco.startsWith(u'/');
+    return { host::lower(host::GetShortPathNameA(ruta)),
+        relativa ? host::currentDirectory() + u'/' + enDisco : enDisco };
 }
 
 // Found paths are cut at the slash alone: a backslash in one belongs to a name.
@@ -115,7 +117,7 @@ Ruta RomDirDe(const QString &rom)
 
 Ruta RomCortoDe(const Ruta &RomDir, const QString &nombre)
 {
-    return nombreDe(rutaCorta(RomDir.texto + host::lower(nombre)));
+    return nombreDe(rutaCorta(RomDir.enDisco + host::lower(nombre)));
 }
 
 QString RomBaseDe(const QString &RomCorto)

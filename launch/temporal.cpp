@@ -29,7 +29,10 @@ QString DirectorioTemporal()
 QString RutaZBTMP()
 {
     const QString temporal = DirectorioTemporal();
-    return (temporal.isEmpty() ? host::currentDirectory() + u'/' : temporal) + u"ZB-TMP"_s;
+    const QString actual = host::currentDirectory();
+    if (temporal.isEmpty() && actual.isEmpty())
+        return {};
+    return (temporal.isEmpty() ? actual + u'/' : temporal) + u"ZB-TMP"_s;
 }
 
 bool EsDirectorioPropio(const QString &ruta)
@@ -37,6 +40,11 @@ bool EsDirectorioPropio(const QString &ruta)
     struct stat estado;
     return lstat(host::nameToDisk(ruta).constData(), &estado) == 0 && S_ISDIR(estado.st_mode)
         && estado.st_uid == geteuid();
+}
+
+void HazZBTMP(const QString &ruta)
+{
+    mkdir(host::nameToDisk(ruta).constData(), 0700);
 }
 
 void BarreZBTMP(core::Modulo &M)

@@ -18,6 +18,9 @@ QString RutaZBTMP();
 // A real directory of this user's: anything else under its name is neither swept nor used.
 bool EsDirectorioPropio(const QString &ruta);
 
+// Makes the directory under exactly this name, open to the user alone; one that is there stays.
+void HazZBTMP(const QString &ruta);
+
 // Removes what an earlier run left in ZB-TMP, read-only files included. A directory with any other attribute
 // beside its own is left alone. Fails as the host's operations do.
 void BarreZBTMP(core::Modulo &M);

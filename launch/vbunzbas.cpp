@@ -13,7 +13,6 @@
 #include <archive.h>
 #include <archive_entry.h>
 #include <fcntl.h>
-#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -84,7 +83,8 @@ const char *otraContraseña(archive *, void *contraseñas)
     }
 }
 
-// The archive as it stands, or without the blanks at the end of its name; closed if it is no plain file.
+// The archive as it stands, or without the blanks at the end of its name. What is no plain file must not hold
+// us up.
 host::Descriptor abre(const QString &ruta)
 {
     QByteArray enDisco = host::findOnDisk(ruta);
@@ -93,11 +93,7 @@ host::Descriptor abre(const QString &ruta)
         sinBlancos.chop(1);
     if (enDisco.isEmpty())
         enDisco = host::findOnDisk(sinBlancos);
-
-    host::Descriptor fichero(open(enDisco.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    struct stat estado;
-    const bool normal = fichero.isOpen() && fstat(fichero.number(), &estado) == 0 && S_ISREG(estado.st_mode);
-    return normal ? std::move(fichero) : host::Descriptor();
+    return host::Descriptor(open(enDisco.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
 }
 
 struct Cierra {
@@ -167,6 +163,9 @@ void Extraccion::Miembro(archive_entry *miembro)
     if (partes.isEmpty() || nombre.size() > MaxNombre)
         return;
     m_contraseñas.NuevoMiembro();
+    m_discoLleno = !m_destino.QuedaSitio();
+    if (m_discoLleno)
+        return;
     if (clase == AE_IFDIR || nombre.endsWith('/') || nombre.endsWith('\\'))
         m_destino.Directorio(partes);
     else if (clase == AE_IFREG)
@@ -185,8 +184,7 @@ void Extraccion::Fichero(archive_entry *miembro, QList<QByteArray> partes)
         return;
     const Lectura lectura = Copia(fichero);
     m_discoLleno = lectura == Lectura::DiscoLleno;
-    const auto permisos = archive_entry_perm(miembro);
-    const bool soloLectura = permisos != 0 && (permisos & 0200) == 0;
+    const bool soloLectura = (archive_entry_perm(miembro) & 0200) == 0;
     if (lectura == Lectura::Entera && fichero.Termina(nombre, soloLectura) && directamente)
         m_resultado.ficheros << host::nameFromDisk(nombre);
 }

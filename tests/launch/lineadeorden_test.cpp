@@ -62,6 +62,9 @@ TEST(LineaDeOrden, AnEmptyProgramGivesNoArguments_SoThatParametersAreNeverRun)
     conRuta.Ruta(u""_s, u""_s).Texto(u" rm -rf x"_s);
     EXPECT_EQ(conRuta.EnTexto(), u" rm -rf x"_s);
     EXPECT_EQ(conRuta.Argumentos(), QStringList());
+    LineaDeOrden perdido;
+    perdido.Ruta(u"/gone/meanwhile"_s, u""_s).Texto(u" rm"_s);
+    EXPECT_EQ(perdido.Argumentos(), QStringList());
     LineaDeOrden conTexto;
     conTexto.Texto(u"  "_s).Texto(u"rm"_s);
     EXPECT_EQ(conTexto.Argumentos(), QStringList());

@@ -54,7 +54,7 @@ TEST(ParametrosDe, TheSectionIsFoundByTheBeginningOfItsLine)
 
 TEST(ParametrosDe, TheSearchEndsAtALoneApostrophe_NotAtALineThatBeginsWithOne)
 {
-    EXPECT_EQ(parametrosDe(u"A"_s, u"Parametros\n'\nA,s,e,-x\n"_s), QString());
+    EXPECT_EQ(parametrosDe(u"A"_s, u"Parametros\n'\nfin\nfin,fin\nA,s,e,-x\n"_s), QString());
     EXPECT_EQ(parametrosDe(u"A"_s, u"Parametros\n'---,s,e,p\nA,s,e,-x\n"_s), u"-x"_s);
 }
 

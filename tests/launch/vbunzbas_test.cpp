@@ -261,6 +261,17 @@ TEST_F(DescomprimirTest, AReadOnlyFileIsReplacedOnYes)
     EXPECT_EQ(bytes("to/a.nes"), "new");
 }
 
+TEST_F(DescomprimirTest, ALinkIsReplacedOnYesOnly_EvenOneThatLeadsNowhere)
+{
+    makeLink("nowhere", "to/a.nes");
+    makeLink("nowhere", "to/b.nes");
+    respuestas.sobreescribir = { Answer::No, Answer::Yes };
+    EXPECT_EQ(descomprime({ { "a.nes" }, { "b.nes", "new" } }), QStringList({ u"b.nes"_s }));
+    EXPECT_EQ(bytes("to/a.nes"), std::nullopt);
+    EXPECT_EQ(bytes("to/b.nes"), "new");
+    EXPECT_FALSE(exists("to/nowhere"));
+}
+
 TEST_F(DescomprimirTest, AFileDoesNotTakeTheNameOfADirectory)
 {
     makeDirectory("to/a.nes");
