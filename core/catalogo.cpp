@@ -114,8 +114,7 @@ int posicionDeEmulador(const Modulo &M, const QString &sistema, const QString &e
 Posiciones PosicionesDe(const Modulo &M, const QString &sistema, const QString &emulador)
 {
     Posiciones posiciones;
-    if (!sistema.isEmpty())
-        posiciones.sistema = posicionDeSistema(M, sistema);
+    posiciones.sistema = posicionDeSistema(M, sistema);
     if (!emulador.isEmpty())
         posiciones.emulador = posicionDeEmulador(M, sistema, emulador);
     else if (!sistema.isEmpty())

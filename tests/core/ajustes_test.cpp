@@ -172,6 +172,12 @@ TEST_F(Ajustes, FailAsInvalid_WhereTheFileEndsAheadOfTheLastSetting)
     EXPECT_EQ(FalloAlLeer("\r\n"), host::InvalidArgument);
 }
 
+TEST_F(Ajustes, NoValueIsLeftFromAnEarlierReading)
+{
+    Lee(Cabecera + Valores + HastaFiltros + "ROMS\r\n" + Final);
+    EXPECT_EQ(FalloAlLeer(Cabecera + "LastSisUsed = 5\r\n"), host::InvalidArgument);
+}
+
 TEST_F(Ajustes, FailAtTheEnd_OfAnEmptyFile)
 {
     EXPECT_EQ(FalloAlLeer(""), host::PastEndOfFile);

@@ -162,6 +162,8 @@ TEST_F(AjustesEscritos, KeysAreToldByTheirFirstNineCharacters)
 {
     EXPECT_EQ(Cambiado("MsgEndDOSx\r\nold\r\nDebugModex\r\n", Ajuste::LanguageFile, { u"n"_s }),
         "MsgEndDOSx\r\nn\r\nDebugModex\r\n");
+    EXPECT_EQ(Cambiado("MsgEndDOS\r\nold\r\ndebugmode\r\nDebugMode\r\n", Ajuste::LanguageFile, { u"n"_s }),
+        "MsgEndDOS\r\nn\r\nDebugMode\r\n");
     const QByteArray otros = "msgenddos\r\n MsgEndDOS\r\nMsgEndDO\r\nold\r\n";
     EXPECT_EQ(Cambiado(otros, Ajuste::LanguageFile, { u"n"_s }), otros);
 }

@@ -172,7 +172,8 @@ INSTANTIATE_TEST_SUITE_P(Lineas, LineaCandidata,
         // A key in double quotes: behind the comma that follows the closing quote.
         Candidata { "\"A, B\",\"one\"", u"one"_s, true },
         Candidata { "\"A, B\",\"one\"", u"B\",\"one"_s, false }, Candidata { "\"A, B", QString(), false },
-        Candidata { "\"A\"", QString(), false }, Candidata { ",\"one\"", u"one"_s, true }));
+        Candidata { "\"A,", QString(), false }, Candidata { "\"A\"", QString(), false },
+        Candidata { ",\"one\"", u"one"_s, true }));
 
 TEST_F(NotasEscritas, NothingChanges_WithoutARecordOfTheDescription)
 {
@@ -222,4 +223,31 @@ TEST_F(NotasEscritas, AnEmptyStoreTakesSystemsAndNotesOneAfterTheOther)
     EXPECT_EQ(bytes, "Arcade\r\n'\r\nConsole\r\nB.BIN,\"second\"\r\nA.BIN,\"third\"\r\n'\r\n" + Vacio);
     EXPECT_EQ(core::CargaNotas(M, u"Console"_s), 2);
     EXPECT_EQ(core::CargaNotas(M, u"Arcade"_s), 0);
+}
+
+TEST_F(NotasEscritas, OnlyTheFirstOfTwoBlocksTakesTheRecord)
+{
+    EXPECT_EQ(ConNueva("Console\r\n'\r\nConsole\r\n'\r\n", u"A.BIN"_s, u"a"_s),
+        "Console\r\nA.BIN,\"a\"\r\n'\r\nConsole\r\n'\r\n");
+}
+
+TEST_F(NotasEscritas, KeysThatWouldNotComeBackAsTheyAreWriteNothing)
+{
+    const QByteArray antes = "Console\r\nOLD.BIN,\"Old\"\r\n'\r\n[\r\n";
+    for (const QString &clave : { u"'"_s, u"\"X\" GAME.BIN"_s, u"A \"X\", B.BIN"_s, u"TWO\nLINES.BIN"_s,
+             u"TWO\rLINES.BIN"_s, u"[\"X\"].BIN"_s }) {
+        EXPECT_EQ(ConNueva(antes, clave, u"d"_s), antes) << clave.toStdString();
+        EXPECT_EQ(ConCambiada(antes, u"Old"_s, clave, u"d"_s), antes) << clave.toStdString();
+    }
+}
+
+TEST_F(NotasEscritas, KeysWithABlankAtEitherEndStandInDoubleQuotes)
+{
+    EXPECT_EQ(ConNueva("Console\r\n'\r\n", u" A "_s, u"d"_s), "Console\r\n\" A \",\"d\"\r\n'\r\n");
+}
+
+TEST_F(NotasEscritas, ALineBreakInADescriptionBecomesABlank)
+{
+    EXPECT_EQ(
+        ConNueva("Console\r\n'\r\n", u"A.BIN"_s, u"one\r\ntwo"_s), "Console\r\nA.BIN,\"one  two\"\r\n'\r\n");
 }

@@ -225,3 +225,24 @@ TEST_F(Parametros, OfAGameAreCutAtAComma)
 {
     EXPECT_EQ(De(u"A"_s, u"Parametros especificos\r\nA,s,e,-a,b\r\n'\r\n"_s), u"-a");
 }
+
+TEST_F(Parametros, OnlyTheFirstOfTwoHeadersTakesNewOnes)
+{
+    EXPECT_EQ(ConNuevos(Cabecera + Cierre + Cabecera + Cierre, { u"A"_s, u"s"_s, u"e"_s, u"-x"_s }),
+        Cabecera + "A,s,e,-x\r\n" + Cierre + Cabecera + Cierre);
+}
+
+TEST_F(Parametros, OfAKeyThatWouldNotComeBackAsItIsAreNotWritten)
+{
+    const QByteArray antes = Cabecera + "OLD,s,e,-x\r\n" + Cierre;
+    for (const QString &clave : { u"'"_s, u"\"X\" GAME"_s, u"A \"X\", B"_s, u"TWO\nLINES"_s }) {
+        EXPECT_EQ(ConNuevos(antes, { clave, u"s"_s, u"e"_s, u"-y"_s }), antes) << clave.toStdString();
+        EXPECT_EQ(ConCambiados(antes, { clave, u"s"_s, u"e"_s, u"-y"_s }), antes) << clave.toStdString();
+    }
+}
+
+TEST_F(Parametros, WithALineBreakStayOnOneLine)
+{
+    EXPECT_EQ(ConNuevos(Cabecera + Cierre, { u"A"_s, u"s"_s, u"e"_s, u"-x\n-y"_s }),
+        Cabecera + "A,s,e,-x -y\r\n" + Cierre);
+}
