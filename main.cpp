@@ -1,4 +1,4 @@
-// The assembler: makes the screens, joins a button to the screen that it opens, starts the event loop.
+// The assembler: makes the screens, joins them, starts the event loop.
 
 #include "core/arranque.h"
 #include "core/modulo.h"

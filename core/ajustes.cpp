@@ -1,5 +1,6 @@
 #include "core/ajustes.h"
 
+#include "core/arranque.h"
 #include "core/lineas.h"
 
 #include "host/letters.h"
@@ -65,7 +66,7 @@ QString filtrosEnTexto(const Tabla<QString> &filtros)
             break;
     }
     if (texto.size() < 2)
-        throw host::Failure(host::InvalidArgument, u"read the [Filters] section"_s, u"Zembro.cfg"_s);
+        throw host::Failure(host::InvalidArgument, u"read the [Filters] section"_s);
     return texto.chopped(2);
 }
 
@@ -86,12 +87,15 @@ void LeeAjustes(Modulo &M)
 {
     for (const LineaDeAjuste &ajuste : LineasDeAjustes)
         (M.*(ajuste.variable)).clear();
-    M.Ficheros.openForInput(1, host::programFile(u"Zembro.cfg"_s));
-    leeLineas(M);
-    M.Ficheros.close(1);
-    for (const LineaDeAjuste &ajuste : LineasDeAjustes)
-        M.*(ajuste.variable) = ValorDeAjuste(M.*(ajuste.variable));
-    M.FiltrosTexto = filtrosEnTexto(M.Filtros);
+    const QString fichero = host::programFile(u"Zembro.cfg"_s);
+    LeeFichero(fichero, [&] {
+        M.Ficheros.openForInput(1, fichero);
+        leeLineas(M);
+        M.Ficheros.close(1);
+        for (const LineaDeAjuste &ajuste : LineasDeAjustes)
+            M.*(ajuste.variable) = ValorDeAjuste(M.*(ajuste.variable));
+        M.FiltrosTexto = filtrosEnTexto(M.Filtros);
+    });
 }
 
 QString ValorDeAjuste(const QString &linea)
@@ -99,7 +103,7 @@ QString ValorDeAjuste(const QString &linea)
     const qsizetype igual = linea.lastIndexOf(u'=') + 1; // counted from 1, 0 if there is none
     const qsizetype largo = linea.size() - igual - 1;
     if (largo < 0)
-        throw host::Failure(host::InvalidArgument, u"read a setting of Zembro.cfg"_s, linea);
+        throw host::Failure(host::InvalidArgument, u"read a setting"_s, linea);
     return linea.right(largo);
 }
 

@@ -10,6 +10,13 @@ namespace core {
 
 namespace {
 
+// What failed may be a line without end; a box has room for a little of it.
+QString acortado(const QString &texto)
+{
+    constexpr qsizetype largo = 300;
+    return texto.size() > largo ? texto.left(largo) + u"..."_s : texto;
+}
+
 bool hayIdiomas()
 {
     try {
@@ -30,6 +37,18 @@ void CompruebaFicheros()
         throw host::Failure(host::FileNotFound, u"find a language file"_s, host::programFile(u"LNG"_s));
 }
 
+void LeeFichero(const QString &fichero, const std::function<void()> &lectura)
+{
+    try {
+        lectura();
+    } catch (const host::Failure &fallo) {
+        if (fallo.about().contains(fichero))
+            throw;
+        const QString detalle = fallo.about().isEmpty() ? QString() : u" ("_s + fallo.about() + u')';
+        throw host::Failure(fallo.number(), fallo.operation() + detalle, fichero);
+    }
+}
+
 QString TextoDeFallo(const host::Failure &fallo, bool arrancando)
 {
     QStringList lineas;
@@ -41,7 +60,7 @@ QString TextoDeFallo(const host::Failure &fallo, bool arrancando)
     } else {
         lineas = { u"An unknown error has occurred. (ERR"_s + QString::number(fallo.number()) + u')' };
     }
-    lineas += u"Failed to "_s + fallo.operation() + u": "_s + fallo.about();
+    lineas += u"Failed to "_s + acortado(fallo.operation()) + u": "_s + acortado(fallo.about());
     return lineas.join(u'\n');
 }
 

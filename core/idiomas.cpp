@@ -1,5 +1,7 @@
 #include "core/idiomas.h"
 
+#include "core/arranque.h"
+
 #include "host/paths.h"
 
 using namespace Qt::StringLiterals;
@@ -13,15 +15,18 @@ QStringList FicherosDeIdioma()
 
 QString CreditoDeIdioma(Modulo &M, const QString &fichero)
 {
-    M.Ficheros.openForInput(1, host::programFile(u"LNG/"_s + fichero));
+    const QString ruta = host::programFile(u"LNG/"_s + fichero);
     QString credito;
-    while (!M.Ficheros.atEnd(1)) {
-        const QString linea = M.Ficheros.readLine(1);
-        if (!linea.startsWith(u"TXT_InfoLNG"))
-            continue;
-        credito = TextoDeLinea(linea);
-        break;
-    }
+    LeeFichero(ruta, [&] {
+        M.Ficheros.openForInput(1, ruta);
+        while (!M.Ficheros.atEnd(1)) {
+            const QString linea = M.Ficheros.readLine(1);
+            if (!linea.startsWith(u"TXT_InfoLNG"))
+                continue;
+            credito = TextoDeLinea(linea);
+            break;
+        }
+    });
     M.Ficheros.close(1);
     return credito;
 }

@@ -2,6 +2,16 @@
 
 namespace core {
 
+namespace {
+
+// A line break in a value would become a line of its own, with a meaning of its own.
+QString enUnaLinea(QString linea)
+{
+    return linea.replace(u'\r', u' ').replace(u'\n', u' ');
+}
+
+} // namespace
+
 std::vector<LineaConFin> EnLineas(QStringView texto)
 {
     std::vector<LineaConFin> lineas;
@@ -28,7 +38,7 @@ void Copia::Copiar(const LineaConFin &linea)
 void Copia::Nueva(const QString &linea)
 {
     cierraLinea();
-    m_texto += linea;
+    m_texto += enUnaLinea(linea);
     m_texto += u"\r\n";
 }
 

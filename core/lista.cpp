@@ -8,6 +8,8 @@
 
 #include <QHash>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace core {
@@ -116,8 +118,9 @@ public:
 
     void Entrada(int i)
     {
-        const QString buscada = UnZipPorJuego(m_tipo) ? claveDeZip(M.Arch_Mayus(i)) : M.Arch_Mayus(i);
-        const auto nota = buscada.isNull() ? m_porClave.constEnd() : m_porClave.constFind(buscada);
+        const std::optional<QString> buscada =
+            UnZipPorJuego(m_tipo) ? claveDeZip(M.Arch_Mayus(i)) : M.Arch_Mayus(i);
+        const auto nota = buscada ? m_porClave.constFind(*buscada) : m_porClave.constEnd();
         if (nota != m_porClave.constEnd())
             conNota(i, *nota);
         else
@@ -127,9 +130,9 @@ public:
     Recuento recuento;
 
 private:
-    static QString claveDeZip(const QString &mayus)
+    static std::optional<QString> claveDeZip(const QString &mayus)
     {
-        return mayus.endsWith(u".ZIP") ? mayus.chopped(4) : QString();
+        return mayus.endsWith(u".ZIP") ? std::optional(mayus.chopped(4)) : std::nullopt;
     }
 
     void conNota(int i, int j)

@@ -7,6 +7,7 @@
 #include "host/numberedfiles.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace core {
 
@@ -35,6 +36,15 @@ struct Modulo : TextosIdioma {
     int Indice_Emulador = 0;
     int TotalSistemas = 0;
 
+    // The database's lines while a system is being chosen for configuring.
+    Tabla2<QString> BD_Nombre { MaxSistemas, MaxSistemas };
+    Tabla2<QString> BD_WEB2 { MaxSistemas, MaxSistemas };
+    Tabla2<QString> BD_EXT { MaxSistemas, MaxSistemas };
+    Tabla<QString> BD_WEB1 { MaxSistemas };
+    int BD_Sistema = 0;
+    int BD_Emulador = 0;
+    int BD_TotalSistemas = 0;
+
     // The list of ROMs.
     Tabla<QString> Arch_Nombre { MaxROMs }; // the entry as the file system spells it
     Tabla<QString> Arch_Mayus { MaxROMs }; // the same in upper case
@@ -57,7 +67,7 @@ struct Modulo : TextosIdioma {
     // View and guards.
     int VerBaseDeDatos = 0; // 1: the tables show the whole database
     int SoloTablas = 0; // 1: Llena_Combos leaves the combos alone
-    int Combo1Listo = 0; // 0 while the combos are being filled: their handlers do nothing
+    int Combo1Listo = 0; // 0 while the combos are being filled: their handlers list nothing
     int Combo2Listo = 0;
     int RestaurarROM = 0; // 1: Llena_Lista selects ROMGuardada
     int EmuConfigurado = 0; // 1: the next selection in Combo2 lists whatever the directory
@@ -78,18 +88,45 @@ struct Modulo : TextosIdioma {
     QString Combo2Previo;
     int ImagenCambio = 0;
     int Lista1Cambio = 0; // 1 while the black picture shows
+    QStringList OrdenBlocDeNotas; // command lines of the outside editors for the file on show
+    QStringList OrdenEdit;
     QString TituloDOS;
     QString RutaTrabajo;
     QString DirActual;
     QString ArchivoZip;
     QString DirectorioDestino;
+
+    // The two steps of configuring.
+    int Lista1Lista = 0;
     int CambioConfig1 = 0;
+    int Config_Origen = 0;
+    int Config2_Cambios = 0;
+    QString EXE_Previo;
+    QString XDI_Previo;
+    QString ROM_Previo;
+    QString IMG_Previo;
+    QString PAR1_Previo;
+    QString PAR2_Previo;
+    QString ExtTexto;
+    int ExtLargo = 0;
+
+    // What stood in the option screens when they were opened.
+    QString TypeOfEditorPrevio;
+    QString IdiomaPrevio;
+    int IdiomaCambiado = 0;
+    QString GuardarUltimoNuevo;
+    QString FiltrosNuevo;
+
     Tabla<QString> ListaLNG { MaxIdiomas };
 
     // Answers of the message box.
     QString Respuesta_Caja;
     int Respuesta_Opcion = 0;
     QString RespuestaMensaje;
+
+    // Answers of the file browser.
+    QString RutaExaminar;
+    QString ArchivoExaminar;
 };
 
 // The number that a type digit stands for; -1 for any other text, which then equals no type.

@@ -14,10 +14,23 @@ namespace {
 constexpr char16_t CabeceraParametros[] = u"Parametros especificos";
 constexpr char16_t InicioParametros[] = u"Parametros";
 
+bool pideComillas(const QString &clave)
+{
+    return clave.contains(u',') || clave.startsWith(u'\'') || clave.startsWith(u'[') || clave.startsWith(u' ')
+        || clave.endsWith(u' ');
+}
+
+// Some names would come back from the file as others, and take the records behind them along.
+bool sePuedeEscribir(const QString &clave)
+{
+    const bool enUnaLinea = !clave.contains(u'\n') && !clave.contains(u'\r');
+    const bool conComillas = clave.startsWith(u'"') || (clave.contains(u'"') && pideComillas(clave));
+    return enUnaLinea && !conComillas && clave != u"'";
+}
+
 QString claveEscrita(const QString &clave)
 {
-    const bool entreComillas = clave.contains(u',') || clave.startsWith(u'\'') || clave.startsWith(u'[');
-    return entreComillas ? u'"' + clave + u'"' : clave;
+    return pideComillas(clave) ? u'"' + clave + u'"' : clave;
 }
 
 QString registroDeNota(const QString &clave, const QString &descripcion)
@@ -130,6 +143,8 @@ int NotaConTexto(const Modulo &M, const QString &texto)
 QString ConDescripcionNueva(
     const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion)
 {
+    if (!sePuedeEscribir(clave))
+        return texto;
     Copia copia;
     bool escrita = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
@@ -145,6 +160,8 @@ QString ConDescripcionNueva(
 QString ConDescripcionCambiada(
     const QString &texto, const QString &anterior, const QString &clave, const QString &descripcion)
 {
+    if (!sePuedeEscribir(clave))
+        return texto;
     Copia copia;
     bool cambiada = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
@@ -160,6 +177,8 @@ QString ConDescripcionCambiada(
 
 QString ConParametrosNuevos(const QString &texto, const Parametros &parametros)
 {
+    if (!sePuedeEscribir(parametros.clave))
+        return texto;
     Copia copia;
     bool escritos = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
@@ -174,6 +193,8 @@ QString ConParametrosNuevos(const QString &texto, const Parametros &parametros)
 
 QString ConParametrosCambiados(const QString &texto, const Parametros &parametros)
 {
+    if (!sePuedeEscribir(parametros.clave))
+        return texto;
     Copia copia;
     host::TextSource fuente(copiaHastaParametros(copia, texto).toString());
     const QString buscada = host::upper(parametros.clave);

@@ -37,7 +37,8 @@ struct Parametros {
 };
 
 // Changes of the file, from text to text. A key that the field reader would split or that would pass for an
-// anchor (one with a comma, or that begins with an apostrophe or a bracket) is written in double quotes.
+// anchor (one with a comma, one that begins with an apostrophe or a bracket, or with a blank at either end)
+// is written in double quotes. For a key that would not come back as it is the text stays unchanged.
 
 // The new record stands first in the system's block, its key in upper case; without a block nothing changes.
 QString ConDescripcionNueva(

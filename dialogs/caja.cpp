@@ -44,8 +44,8 @@ Caja::Caja(core::Modulo &modulo, const Teja &teja)
         this, u"Texto1"_s, u"Vacio"_s, { 120, 90, 2205, 435 }, Qt::white, forms::arial(8.25), Qt::AlignLeft);
     Texto2 = etiqueta(this, u"Texto2"_s, u"Text2"_s, { 120, 120, 2415, 855 }, RojoClaro, forms::courier(9.75),
         Qt::AlignLeft);
-    Texto1->setWordWrap(true);
-    Texto2->setWordWrap(true);
+    Texto1->SetGrowing(false);
+    Texto2->SetGrowing(false);
     Casilla = new forms::TextBox(this);
     Casilla->setObjectName(u"Casilla"_s);
     forms::move(*Casilla, { 120, 600, 2295, 285 });
@@ -63,7 +63,10 @@ Caja::Caja(core::Modulo &modulo, const Teja &teja)
         M.Respuesta_Opcion = 1;
         Unload();
     };
-    Casilla->GotFocus = [this] { Casilla->selectAll(); };
+    // Later: the press that brings the focus would take the selection away again.
+    Casilla->GotFocus = [this] {
+        QMetaObject::invokeMethod(Casilla, &QLineEdit::selectAll, Qt::QueuedConnection);
+    };
     Casilla->KeyDown = [this](int tecla) {
         if (tecla == forms::EnterKey)
             Acepta();

@@ -13,6 +13,14 @@ void CheckBox::SetValue(int value)
     setChecked(value != 0);
 }
 
+void CheckBox::keyPressEvent(QKeyEvent *event)
+{
+    if (keyCodeOf(*event) == EnterKey)
+        event->accept();
+    else
+        QCheckBox::keyPressEvent(event);
+}
+
 OptionButton::OptionButton(QWidget *parent)
     : QRadioButton(parent)
 {

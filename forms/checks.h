@@ -16,6 +16,9 @@ public:
 
     int Value() const { return isChecked() ? 1 : 0; }
     void SetValue(int value);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override; // Enter is nothing here, and not the form's either
 };
 
 class OptionButton : public QRadioButton {

@@ -82,6 +82,12 @@ void Label::SetPlace(const Place &place)
     grow();
 }
 
+void Label::SetGrowing(bool growing)
+{
+    m_growing = growing;
+    grow();
+}
+
 void Label::Redraw()
 {
     repaint();
@@ -98,7 +104,7 @@ void Label::grow()
     const bool wraps = m_place.height() >= 2 * metrics.lineSpacing();
     if (wraps != wordWrap())
         setWordWrap(wraps);
-    const int width = widestPart(text(), metrics, wraps ? u" \n"_s : u"\n"_s);
+    const int width = m_growing ? widestPart(text(), metrics, wraps ? u" \n"_s : u"\n"_s) : 0;
     m_grown = grownPlace(m_place, width, alignment(), parentWidget()->rect(), obstaclesOf(*this, m_place));
     if (geometry() != m_grown)
         setGeometry(m_grown);

@@ -19,6 +19,7 @@ public:
     void SetForeColor(const QColor &colour); // nothing is posted if it stands already
     QColor ForeColor() const;
     void SetPlace(const Place &place); // the place of the design, from which the label grows
+    void SetGrowing(bool growing); // false: a caption too long for its place is clipped
     void Redraw(); // at once
 
 protected:
@@ -28,6 +29,7 @@ protected:
 private:
     void grow();
 
+    bool m_growing = true;
     QRect m_place; // of the design, in pixels
     QRect m_grown; // where the label was put last; anything else was set from outside and is a new design
 };

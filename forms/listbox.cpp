@@ -119,6 +119,8 @@ int ListBox::ListIndex() const
 
 void ListBox::SetListIndex(int index)
 {
+    if (index == 0 && count() == 0)
+        return;
     if (index < -1 || index >= count())
         throw host::Failure(host::InvalidProperty, u"select a list entry"_s, QString::number(index));
     select(index);
@@ -171,7 +173,7 @@ void ListBox::mousePressEvent(QMouseEvent *event)
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    if (press(*event) && event->button() != Qt::RightButton)
+    if (press(*event) && event->button() == Qt::LeftButton)
         DblClick.raise();
     event->accept();
 }

@@ -29,7 +29,8 @@ public:
     int ItemData(int index) const; // fails with 380 for an index out of range
 
     int ListIndex() const;
-    void SetListIndex(int index); // -1 deselects without an event; otherwise fails with 380 out of range
+    void SetListIndex(int index); // -1 deselects without an event; fails with 380 out of range,
+                                  // but for 0 in an empty list, which does nothing
 
     QString Text() const; // of the selected entry, empty if there is none
     void SetText(const QString

@@ -1,17 +1,31 @@
 #include "forms/textbox.h"
 
+#include <QRegularExpression>
+
 namespace forms {
 
 TextBox::TextBox(QWidget *parent)
     : Control(parent)
 {
     setMouseTracking(true);
+    connect(this, &QLineEdit::textChanged, this, [this](const QString &text) {
+        const qsizetype end = text.indexOf(QRegularExpression(QStringLiteral("[\\r\\n\u2028\u2029]")));
+        if (end >= 0)
+            setText(text.first(end));
+    });
 }
 
 TextArea::TextArea(QWidget *parent)
     : Control(parent)
 {
     viewport()->setMouseTracking(true);
+}
+
+void TextArea::keyPressEvent(QKeyEvent *event)
+{
+    Control::keyPressEvent(event);
+    if (keyCodeOf(*event) == EnterKey)
+        event->accept();
 }
 
 void TextArea::SetColours(const QColor &back, const QColor &text)

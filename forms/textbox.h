@@ -8,6 +8,7 @@
 
 namespace forms {
 
+// One line: of a text with line breaks, pasted or set, what stands ahead of the first one stays.
 class TextBox : public Control<QLineEdit> {
 public:
     explicit TextBox(QWidget *parent);
@@ -23,6 +24,10 @@ public:
     QString Text() const { return toPlainText(); }
     void SetText(const QString &value) { setPlainText(value); }
     void SetColours(const QColor &back, const QColor &text);
+
+protected:
+    void keyPressEvent(
+        QKeyEvent *event) override; // Enter never travels to the form, also if nothing can be typed
 };
 
 } // namespace forms

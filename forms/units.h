@@ -33,7 +33,7 @@ QFont arial(double points, bool bold = false);
 QFont courier(double points, bool bold = false);
 QFont terminal(double points, bool bold = false);
 
-// A colour given as a number in the host's blue-green-red order, as in 0xC0 for red. The system's colours
+// A colour given as a number in blue-green-red order, as in 0xC0 for red. The system's colours
 // 0x80000005 (window) and 0x80000012 (text on a control) give those of the program's own palette.
 QColor colourFromNumber(unsigned int number);
 

@@ -15,7 +15,10 @@ namespace {
 QMessageBox::StandardButton ask(
     const QString &title, const QString &text, QMessageBox::StandardButtons buttons)
 {
-    return QMessageBox::question(QApplication::activeWindow(), title, text, buttons, QMessageBox::No);
+    QMessageBox box(QMessageBox::Question, title, text, buttons, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return QMessageBox::StandardButton(box.exec());
 }
 
 bool hasDisplay()

@@ -23,6 +23,7 @@ using Place = std::pair<dev_t, ino_t>;
 constexpr qint64 NanosecondsPerSecond = 1'000'000'000;
 // The file systems' clock ticks coarsely: a change within one tick of the reading leaves no trace.
 constexpr qint64 SureAfter = 20'000'000;
+constexpr qint64 SureAfterCoarse = 4 * NanosecondsPerSecond;
 constexpr std::size_t MostReadings = 256;
 
 int readingCount = 0;
@@ -38,12 +39,13 @@ struct Reading {
     std::shared_ptr<const Directory> directory;
 };
 
-// The clock of a file system that counts whole seconds, or none at all, doesn't show every change.
+// The clock of a file system that counts whole seconds, or pairs of them, doesn't show a change soon after
+// another.
 bool canBeKept(const timespec &changed)
 {
     timespec now;
     clock_gettime(CLOCK_REALTIME, &now);
-    return changed.tv_nsec != 0 && nanoseconds(now) - nanoseconds(changed) > SureAfter;
+    return nanoseconds(now) - nanoseconds(changed) > (changed.tv_nsec == 0 ? SureAfterCoarse : SureAfter);
 }
 
 std::vector<Directory::Entry> readEntries(DIR *stream)

@@ -3,6 +3,7 @@
 #include "host/directory.h"
 #include "host/encoding.h"
 #include "host/failure.h"
+#include "host/shortnames.h"
 
 #include <array>
 #include <climits>
@@ -65,7 +66,8 @@ private:
 
 QByteArray Finder::find(const QString &path)
 {
-    if (path.isEmpty() || path.contains(QChar::Null))
+    // A longer path is none that the system takes, and looking for one would take long.
+    if (path.isEmpty() || path.size() > PATH_MAX || path.contains(QChar::Null))
         return {};
     const bool absolute = isSeparator(path.front());
     if (absolute)
@@ -97,6 +99,8 @@ qsizetype Finder::takeLongest(const QStringList &pieces, qsizetype first)
 {
     for (qsizetype count = pieces.size() - first; count > 0; --count) {
         const QString name = pieces.sliced(first, count).join(u'\\');
+        if (name.size() > NAME_MAX)
+            continue;
         const QByteArray entry = name.isEmpty() ? QByteArray() : entryFor(m_found, name);
         const bool last = first + count == pieces.size();
         if (entry.isEmpty() || (!last && !isDirectory(joined(m_found, entry))))
@@ -110,7 +114,8 @@ qsizetype Finder::takeLongest(const QStringList &pieces, qsizetype first)
 QByteArray shortForm(const QByteArray &directory, const QByteArray &name)
 {
     const auto names = Directory::at(directory);
-    return names ? nameToDisk(names->shortForm(nameFromDisk(name))) : name;
+    // A directory that can be entered but not listed shows no names to collide with.
+    return nameToDisk(names ? names->shortForm(nameFromDisk(name)) : plainShortForm(nameFromDisk(name)));
 }
 
 QString &chosenProgramDirectory()

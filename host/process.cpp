@@ -69,10 +69,11 @@ std::vector<QByteArray> candidates(const QString &name)
     QByteArray found = findOnDisk(name);
     if (!found.isEmpty() && !found.contains('/'))
         found.prepend("./");
-    if (lastSeparator(name) >= 0)
+    // A file of that name in the working directory decides, also if it may not run.
+    if (lastSeparator(name) >= 0 || isFile(found))
         return { found };
 
-    std::vector<QByteArray> places { found };
+    std::vector<QByteArray> places;
     const QByteArray bytes = nameToDisk(name);
     for (const QByteArray &directory : searchPath().split(':')) {
         if (!directory.isEmpty())

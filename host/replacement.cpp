@@ -23,6 +23,13 @@ constexpr int MostLinks = 40;
 constexpr mode_t NewFileMode = 0666; // less the process's mask
 constexpr mode_t ScratchMode = 0600; // until it has the old file's
 
+// Owners that this system can't name, and file systems without owners or modes: nothing to keep there.
+bool isBeyondUs(int systemError)
+{
+    return systemError == EPERM || systemError == EINVAL || systemError == ENOSYS
+        || systemError == EOPNOTSUPP;
+}
+
 QByteArray directoryOf(const QByteArray &path)
 {
     const qsizetype slash = path.lastIndexOf('/');
@@ -147,10 +154,15 @@ void Replacement::keepOwnerAndMode()
     if (!m_old)
         return;
     const int file = m_scratch.number();
-    if (fchown(file, m_old->st_uid, m_old->st_gid) != 0 && fchown(file, uid_t(-1), m_old->st_gid) != 0
-        && errno != EPERM)
+    struct stat fresh { };
+    if (fstat(file, &fresh) != 0)
         fail(u"keep the owner of a file"_s);
-    if (fchmod(file, m_old->st_mode & 07777) != 0)
+    const bool sameOwner = fresh.st_uid == m_old->st_uid && fresh.st_gid == m_old->st_gid;
+    if (!sameOwner && fchown(file, m_old->st_uid, m_old->st_gid) != 0
+        && fchown(file, uid_t(-1), m_old->st_gid) != 0 && !isBeyondUs(errno))
+        fail(u"keep the owner of a file"_s);
+    if ((fresh.st_mode & 07777) != (m_old->st_mode & 07777) && fchmod(file, m_old->st_mode & 07777) != 0
+        && !isBeyondUs(errno))
         fail(u"keep the mode of a file"_s);
 }
 

@@ -25,8 +25,11 @@ public:
     WindowManager()
     {
         xcb_connection_t *connection = x11Connection();
-        m_ready = connection
-            && xcb_ewmh_init_atoms_replies(&m_ewmh, xcb_ewmh_init_atoms(connection, &m_ewmh), nullptr);
+        if (!connection)
+            return;
+        m_ready = xcb_ewmh_init_atoms_replies(&m_ewmh, xcb_ewmh_init_atoms(connection, &m_ewmh), nullptr);
+        if (!m_ready)
+            xcb_ewmh_connection_wipe(&m_ewmh);
     }
     ~WindowManager()
     {

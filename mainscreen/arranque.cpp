@@ -1,6 +1,6 @@
 // Start and exit. Controls: Flecha2. State: the settings, and the flags that step by step get their first
-// values. The window is on the screen before the catalogue is read, and the settings are saved nowhere but at
-// the exit.
+// values. The window is on the screen before the catalogue is read, and the last selection is saved at the
+// exit alone.
 
 #include "mainscreen/portada.h"
 

@@ -250,6 +250,9 @@ void Disposicion::Monta(Portada &portada)
     for (const FilaEtiqueta &fila : Etiquetas)
         montaEtiqueta(portada, fila);
     montaMenus(portada);
+    // What happens over a control is that control's alone, and not what it stands in.
+    for (QWidget *control : portada.findChildren<QWidget *>())
+        control->setAttribute(Qt::WA_NoMousePropagation);
 }
 
 } // namespace mainscreen

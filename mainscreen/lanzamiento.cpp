@@ -26,9 +26,12 @@ void Portada::ConectaLanzamiento()
     IMGDescripcionLarga->DblClick = [this] { Jugar(); };
     Lista1->KeyDown = conEnter;
     for (forms::Image *imagen : { Graf_TV, IMGDescripcionLarga, Titulo1 }) {
-        imagen->setFocusPolicy(Qt::ClickFocus);
         imagen->KeyDown = conEnter;
     }
+    Titulo1->setFocusPolicy(Qt::ClickFocus);
+    IMGDescripcionLarga->setFocusPolicy(Qt::ClickFocus);
+    // No policy for the set: a click on what stands in it would bring it the focus too.
+    Graf_TV->MouseDown = [this](const forms::Mouse &) { Graf_TV->setFocus(); };
     KeyEnter = [this] { Jugar(); };
 }
 

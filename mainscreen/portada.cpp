@@ -2,6 +2,8 @@
 
 #include "mainscreen/disposicion.h"
 
+#include "core/arranque.h"
+
 #include "forms/pictures.h"
 
 #include "host/paths.h"
@@ -48,10 +50,13 @@ void Portada::Textos()
             etiqueta->SetCaption(texto);
     };
     core::LectorDeTextos lector(M, directo);
-    M.Ficheros.openForInput(1, host::programFile(u"LNG/"_s + M.LanguageFile));
-    do
-        lector.Linea(M.Ficheros.readLine(1));
-    while (!M.Ficheros.atEnd(1));
+    const QString fichero = host::programFile(u"LNG/"_s + M.LanguageFile);
+    core::LeeFichero(fichero, [&] {
+        M.Ficheros.openForInput(1, fichero);
+        do
+            lector.Linea(M.Ficheros.readLine(1));
+        while (!M.Ficheros.atEnd(1));
+    });
     M.Ficheros.closeAll();
 }
 

@@ -58,7 +58,7 @@ public:
 
     // List.
     forms::ListBox *Lista1;
-    forms::ListBox *File1, *Dir1; // hidden: the last enumeration of files and of directories
+    forms::ListBox *File1, *Dir1; // hidden, and empty: they keep their names
     forms::Label *TXT_InfoRoms;
 
     // Information, preview and zoom.

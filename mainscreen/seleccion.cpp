@@ -250,11 +250,16 @@ void Portada::SaleDeBaseDeDatos()
     M.RestaurarROM = 0;
 }
 
-// A name that the catalogue no longer holds fails here, and nothing catches it.
+// A name that the catalogue no longer holds fails here, and nothing catches it. Where nothing stood selected,
+// nothing does again.
 void Portada::RestauraSeleccion()
 {
-    if (!M.SistemaGuardado.isEmpty())
+    if (!M.SistemaGuardado.isEmpty()) {
         Combo1->SetText(M.SistemaGuardado);
+    } else {
+        Combo1->SetListIndex(-1);
+        Combo2->Clear();
+    }
     M.Combo2Listo = 0;
     if (!M.EmuladorGuardado.isEmpty())
         Combo2->SetText(M.EmuladorGuardado);

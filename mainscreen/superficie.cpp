@@ -10,7 +10,10 @@ void Portada::ConectaSuperficie()
              Boton3b, Boton4b, Boton5b, Boton6b, FlechaE2, Edit2, BlocDeNotas2 })
         boton->Press = [this] { Lista1->setFocus(); };
     Menos2b->Press = [this] { Combo2->setFocus(); };
-    MouseMove = [this](const forms::Mouse &) { IMGDescripcionLarga->hide(); };
+    const auto escondeConsejo = [this](const forms::Mouse &) { IMGDescripcionLarga->hide(); };
+    MouseMove = escondeConsejo;
+    for (forms::Image *imagen : { Graf_TV, Graf_Imagen })
+        imagen->MouseMove = escondeConsejo;
 }
 
 void Portada::PonPuntero(Puntero puntero)

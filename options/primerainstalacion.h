@@ -19,7 +19,7 @@ public:
     explicit PrimeraInstalacion(core::Modulo &modulo);
 
     forms::ListBox *List1;
-    forms::ListBox *File1; // hidden: the enumeration
+    forms::ListBox *File1; // hidden, and empty: it keeps its name
     forms::Label *Label1;
     forms::PictureButton *Aceptar2;
     forms::Label *TXT_Aceptar;

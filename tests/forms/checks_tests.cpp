@@ -84,4 +84,15 @@ TEST_F(Checks, AnOptionSetFromCode_RaisesClickWhenItChanges)
     EXPECT_FALSE(second.Value());
 }
 
+TEST_F(Checks, EnterOnACheckBox_IsNothingAndNotTheFormsEither)
+{
+    int entered = 0;
+    form.KeyEnter = [&] { ++entered; };
+    drive::show(form);
+    check.setFocus();
+    drive::key(form, Qt::Key_Return);
+    EXPECT_EQ(entered, 0);
+    EXPECT_EQ(checkClicks, 0);
+}
+
 } // namespace

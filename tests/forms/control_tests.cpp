@@ -5,6 +5,8 @@
 #include "forms/label.h"
 #include "forms/textbox.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QPointer>
 #include <QTest>
 
@@ -187,6 +189,18 @@ TEST_F(Controls, EnterWithAHandler_DoesNotReachTheForm)
     EXPECT_EQ(enters, 0);
 }
 
+TEST_F(Controls, EnterWithAHandlerInATextArea_BeginsNoLine)
+{
+    int codes = 0;
+    text.KeyDown = [&](int) { ++codes; };
+    text.SetText(u"ab"_s);
+    drive::show(form);
+    text.setFocus();
+    drive::key(form, Qt::Key_Return);
+    EXPECT_EQ(codes, 1);
+    EXPECT_EQ(text.Text(), u"ab"_s);
+}
+
 TEST_F(Controls, EnterWithoutAHandler_ReachesTheForm)
 {
     int enters = 0;
@@ -270,6 +284,27 @@ TEST_F(Controls, ATextAreasColours_AreThoseOfItsPaper)
     text.SetColours(Qt::black, Qt::yellow);
     EXPECT_EQ(text.palette().color(QPalette::Base), QColor(Qt::black));
     EXPECT_EQ(text.palette().color(QPalette::Text), QColor(Qt::yellow));
+}
+
+TEST_F(Controls, OfATextWithLineBreaks_ATextBoxKeepsTheFirstLine)
+{
+    box.SetText(u"http://x.example\n-Foo"_s);
+    EXPECT_EQ(box.Text(), u"http://x.example"_s);
+    QApplication::clipboard()->setText(u"-x\r\n-y"_s);
+    box.SetText({});
+    box.paste();
+    EXPECT_EQ(box.Text(), u"-x"_s);
+}
+
+TEST_F(Controls, EnterInATextAreaThatTakesNoTyping_StaysThere)
+{
+    int entered = 0;
+    form.KeyEnter = [&] { ++entered; };
+    text.setReadOnly(true);
+    drive::show(form);
+    text.setFocus();
+    drive::key(form, Qt::Key_Return);
+    EXPECT_EQ(entered, 0);
 }
 
 } // namespace

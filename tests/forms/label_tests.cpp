@@ -182,4 +182,13 @@ TEST_F(Labels, AShape_PaintsItsFrameAlone)
     EXPECT_EQ(drive::colourAt(form, { 228, 28 }), QColor(Qt::black));
 }
 
+TEST_F(Labels, ALabelThatMustNotGrow_ClipsItsCaption)
+{
+    label.SetGrowing(false);
+    label.SetCaption(wide);
+    EXPECT_EQ(label.width(), forms::pixels(600));
+    label.SetGrowing(true);
+    EXPECT_EQ(label.width(), natural(wide));
+}
+
 } // namespace

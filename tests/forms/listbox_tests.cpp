@@ -449,4 +449,27 @@ TEST_F(Lists, AListDestroyedInItsHandlers_IsNotTouchedAnyMore)
     EXPECT_TRUE(victim.isNull());
 }
 
+TEST_F(Lists, IndexZeroOfAnEmptyList_IsNoFailureAndNoEvent)
+{
+    int raised = 0;
+    list.Clear();
+    list.Selection = [&] { ++raised; };
+    list.SetListIndex(0);
+    EXPECT_EQ(list.ListIndex(), -1);
+    EXPECT_EQ(raised, 0);
+    EXPECT_THROW(list.SetListIndex(1), host::Failure);
+}
+
+TEST_F(Lists, ADoubleClickOfAnotherButtonThanTheLeft_IsNone)
+{
+    int raised = 0;
+    list.DblClick = [&] { ++raised; };
+    drive::show(form);
+    drive::doubleClick(*list.viewport(), Qt::MiddleButton, { 5, 5 });
+    drive::doubleClick(*list.viewport(), Qt::RightButton, { 5, 5 });
+    EXPECT_EQ(raised, 0);
+    drive::doubleClick(*list.viewport(), Qt::LeftButton, { 5, 5 });
+    EXPECT_EQ(raised, 1);
+}
+
 } // namespace

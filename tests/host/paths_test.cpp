@@ -4,6 +4,8 @@
 
 #include <unistd.h>
 
+#include <QElapsedTimer>
+
 using namespace Qt::StringLiterals;
 using namespace host;
 
@@ -242,4 +244,15 @@ TEST(ProgramDirectory, IsThatOfTheExecutable_UnlessATestSetsAnother)
     EXPECT_EQ(programFile(u"Zembro.cfg"_s), u"/some/where/Zembro.cfg"_s);
     setProgramDirectory(QString());
     EXPECT_EQ(programDirectory(), own);
+}
+
+TEST(EndlessPaths, AreNoneAtOnce)
+{
+    for (const QString &piece : { u"\\"_s, u"x\\"_s, u"/"_s, u"x"_s }) {
+        QElapsedTimer time;
+        time.start();
+        EXPECT_EQ(host::findOnDisk(piece.repeated(1'000'000)), QByteArray());
+        EXPECT_EQ(host::findOnDisk(u"/tmp/"_s + piece.repeated(30'000)), QByteArray());
+        EXPECT_LT(time.elapsed(), 1000);
+    }
 }

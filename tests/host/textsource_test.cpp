@@ -146,3 +146,8 @@ TEST(TextLines, MillionsOfCharactersAreReadAsOneLine)
     EXPECT_EQ(lines(line + u"\r\nb"_s), (QStringList { line, u"b"_s }));
     EXPECT_EQ(fields(line + u"\r\nb"_s), (QStringList { line, u"b"_s }));
 }
+
+TEST(TextFields, LoseBlanksAroundThemButNotTabs)
+{
+    EXPECT_THAT(fields(u"  \ta\t  ,b"_s), ElementsAre(u"\ta\t"_s, u"b"_s));
+}

@@ -290,6 +290,25 @@ TEST_F(PortadaDisposicionTest, MessageBoxIsTiledAndStandsOverTheScreen)
     EXPECT_EQ(M->Respuesta_Opcion, 0);
 }
 
+TEST_F(PortadaDisposicionTest, MessageBoxOverAnotherScreenStillStandsOverThisOne)
+{
+    start();
+    forms::Form other(u"Otra"_s, 3000, 3000, forms::Form::Border::FixedSingle);
+    atModal(u"Otra"_s, [this](forms::Form &between) {
+        between.move(portada->pos() + QPoint(200, 200));
+        atModal(u"Caja"_s, [&](forms::Form &box) {
+            EXPECT_EQ(box.geometry().center(), portada->geometry().center());
+            EXPECT_TRUE(between.isVisible());
+            click(controlOf<QWidget>(box, u"Aceptar2"_s));
+        });
+        portada->Mensaje(4, u"m"_s, u"t"_s, u"1"_s, u"2"_s, {});
+        EXPECT_TRUE(between.isVisible());
+        between.Unload();
+    });
+    other.ShowModal(portada.get());
+    EXPECT_FALSE(other.isVisible());
+}
+
 namespace {
 
 // The buttons that send the focus to the list when they are pressed.

@@ -2,6 +2,8 @@
 
 #include "mundotest.h"
 
+#include <QElapsedTimer>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -25,7 +27,7 @@ class FallosDeArranqueTest : public MundoTest {
 protected:
     // Loads the screen, which has to end the program with this text and a line that says what failed on which
     // file.
-    void expectEnd(const QString &text, const QString &file)
+    void expectEnd(const QString &text, const QString &file, const QString &detail = {})
     {
         renew();
         const std::optional<ProcessEnd> end = load();
@@ -36,12 +38,13 @@ protected:
         const QString last = end->text.mid(text.size());
         EXPECT_TRUE(last.startsWith(u"Failed to ")) << last.toStdString();
         EXPECT_TRUE(last.endsWith(u": "_s + file)) << last.toStdString();
+        EXPECT_TRUE(last.contains(detail)) << last.toStdString();
         EXPECT_FALSE(last.contains(u'\n'));
         EXPECT_FALSE(portada->isVisible());
     }
-    void expectEndWithNumber(int number, const QString &file)
+    void expectEndWithNumber(int number, const QString &file, const QString &detail = {})
     {
-        expectEnd(u"An unknown error has occurred. (ERR%1)\n"_s.arg(number), file);
+        expectEnd(u"An unknown error has occurred. (ERR%1)\n"_s.arg(number), file, detail);
     }
     void expectNothingRead()
     {
@@ -115,17 +118,17 @@ TEST_F(FallosDeArranqueTest, SettingWithoutAValueEndsTheProgram)
         const QString key = lines[line].left(lines[line].indexOf(u'=') + 1);
         lines[line] = key;
         files.writeLines(u"Zembro.cfg"_s, lines);
-        expectEndWithNumber(5, key);
+        expectEndWithNumber(5, files.path(u"Zembro.cfg"_s), key);
         lines[line] = QString();
         files.writeLines(u"Zembro.cfg"_s, lines);
-        expectEndWithNumber(5, QString());
+        expectEndWithNumber(5, files.path(u"Zembro.cfg"_s));
     }
 }
 
 TEST_F(FallosDeArranqueTest, SettingsThatEndTooEarlyEndTheProgram)
 {
     files.writeLines(u"Zembro.cfg"_s, Settings {}.lines().mid(0, 17));
-    expectEndWithNumber(5, QString());
+    expectEndWithNumber(5, files.path(u"Zembro.cfg"_s));
 }
 
 TEST_F(FallosDeArranqueTest, MoreFiltersThanTheTableTakesEndTheProgram)
@@ -135,7 +138,7 @@ TEST_F(FallosDeArranqueTest, MoreFiltersThanTheTableTakesEndTheProgram)
     for (int i = 0; i < 152; ++i)
         settings.Filters << u"F%1"_s.arg(i);
     files.writeSettings(settings);
-    expectEndWithNumber(9, u"151"_s);
+    expectEndWithNumber(9, files.path(u"Zembro.cfg"_s), u"151"_s);
 }
 
 TEST_F(FallosDeArranqueTest, FiltersThatFillTheTableEndTheProgram)
@@ -145,7 +148,7 @@ TEST_F(FallosDeArranqueTest, FiltersThatFillTheTableEndTheProgram)
     for (int i = 0; i < 151; ++i)
         settings.Filters << u"F%1"_s.arg(i);
     files.writeSettings(settings);
-    expectEndWithNumber(9, u"151"_s);
+    expectEndWithNumber(9, files.path(u"Zembro.cfg"_s), u"151"_s);
     settings.Filters.removeLast();
     files.writeSettings(settings);
     restart();
@@ -156,7 +159,7 @@ TEST_F(FallosDeArranqueTest, NoFilterAtAllEndsTheProgram)
     Settings settings;
     settings.Filters.clear();
     files.writeSettings(settings);
-    expectEndWithNumber(5, u"Zembro.cfg"_s);
+    expectEndWithNumber(5, files.path(u"Zembro.cfg"_s), u"[Filters]"_s);
 }
 
 TEST_F(FallosDeArranqueTest, MissingLanguageOfTheSettingsEndsTheProgram)
@@ -177,6 +180,22 @@ TEST_F(FallosDeArranqueTest, LanguageLineWithoutATextEndsTheProgram)
 {
     for (const QString &line : { QString(), u"TXT_Jugar........."_s, u"TXT_Jugar.........=\""_s }) {
         files.writeLines(u"LNG/ZB-ESP.LNG"_s, languageLines() << line);
-        expectEndWithNumber(5, line);
+        expectEndWithNumber(5, files.path(u"LNG/ZB-ESP.LNG"_s), line);
+    }
+}
+
+TEST_F(FallosDeArranqueTest, EndlessLanguageNameEndsTheProgramAtOnceInAFewWords)
+{
+    for (const QChar letter : { u'x', u'\\', u'/' }) {
+        Settings settings;
+        settings.LanguageFile = QString(1'000'000, letter);
+        files.writeSettings(settings);
+        renew();
+        QElapsedTimer time;
+        time.start();
+        const std::optional<ProcessEnd> end = load();
+        ASSERT_TRUE(end);
+        EXPECT_LT(end->text.size(), 2000);
+        EXPECT_LT(time.elapsed(), 5000);
     }
 }

@@ -122,6 +122,15 @@ TEST_F(InformacionTest, LastOfTheRecordsWithOneDescriptionStands)
     EXPECT_EQ(captureOf(0), QColor(Qt::green));
 }
 
+TEST_F(InformacionTest, LastOfTheRecordsWithoutACaptureIsBlack)
+{
+    files.writeSize(u"r/a.bin"_s, 1024);
+    files.writeGif(u"c/A.GIF"_s, Qt::red);
+    startWith(u"0"_s, { { u"A.BIN"_s, u"Gemelo"_s }, { u"B.BIN"_s, u"Gemelo"_s } });
+    EXPECT_EQ(captureOf(0), QColor(Qt::black));
+    EXPECT_EQ(M->Lista1Cambio, 1);
+}
+
 TEST_F(InformacionTest, RecordWithoutItsFileKeepsWhatStoodBefore)
 {
     files.writeSize(u"r/a.bin"_s, 1024);

@@ -81,6 +81,7 @@ TEST_F(LanzamientoTest, PlayButtonGivesWayOnceAheadOfPlaying)
         ran = true;
         EXPECT_EQ(info(), u"ONE.NES 1Kb  [NOR]"_s);
         EXPECT_EQ(runs(), 0);
+        EXPECT_FALSE(control<forms::PictureButton>(u"JugarB1"_s).ShowsPressed());
     });
     release(control(u"JugarB1"_s));
     EXPECT_TRUE(ran);

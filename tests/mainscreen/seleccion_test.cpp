@@ -153,6 +153,26 @@ TEST_F(SistemaTest, KeysPickLikeTheMouse)
     EXPECT_THAT(listed(), ElementsAre(u"Juego uno"_s, u"two.nes"_s));
 }
 
+TEST_F(SistemaTest, GivesWayOnceTheEmulatorsAreCleared)
+{
+    startAt(Medio, 0);
+    systems().setFocus();
+    int seen = -1;
+    QTimer::singleShot(0, portada.get(), [&] {
+        seen = emulators().ListCount();
+        EXPECT_EQ(systems().Text(), u"Zeta"_s);
+    });
+    strike(*portada, Qt::Key_Down);
+    EXPECT_EQ(seen, 0);
+    EXPECT_THAT(entries(emulators()), ElementsAre(u"Uno"_s));
+}
+
+TEST_F(SistemaTest, ListsAreForPickingOnly)
+{
+    EXPECT_FALSE(systems().isEditable());
+    EXPECT_FALSE(emulators().isEditable());
+}
+
 class EmuladorTest : public MundoTest {
 protected:
     // What shows that the directory was read again.
@@ -170,6 +190,21 @@ TEST_F(EmuladorTest, AnotherDirectoryIsListed)
     EXPECT_EQ(info(), u"GAME.ZIP  3Kb [ZIP]"_s);
     EXPECT_EQ(word(), u"Jugar"_s);
     EXPECT_EQ(focused(), u"Combo2"_s);
+}
+
+TEST_F(EmuladorTest, GivesWayOnceAheadOfTheListing)
+{
+    startAt(Alfa, 0);
+    emulators().setFocus();
+    QStringList seen;
+    QTimer::singleShot(0, portada.get(), [&] {
+        EXPECT_EQ(emulators().Text(), u"beta"_s);
+        EXPECT_TRUE(list().isEnabled());
+        seen = listed();
+    });
+    strike(*portada, Qt::Key_Down);
+    EXPECT_THAT(seen, ElementsAre(u"a.sms"_s, u"b.sms"_s));
+    EXPECT_THAT(listed(), ElementsAre(u"Un juego"_s));
 }
 
 TEST_F(EmuladorTest, EachChangeOfDirectoryIsListedAndRemembered)

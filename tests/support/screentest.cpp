@@ -30,6 +30,7 @@ ScreenTest::ScreenTest()
     m_workingDirectory = getcwd(buffer.data(), buffer.size());
     host::setQuestions(&questions);
     QObject::connect(&m_watch, &QTimer::timeout, &m_watch, [this] { look(); });
+    m_watch.setSingleShot(true);
     m_watch.start(0);
 }
 
@@ -60,8 +61,10 @@ std::optional<ProcessEnd> ScreenTest::endOf(const std::function<void()> &action)
 
 void ScreenTest::look()
 {
+    // Anew each time: a timer doesn't come in a loop that it has opened itself.
+    m_watch.start(0);
     QWidget *const window = QApplication::activeModalWidget();
-    if (m_acting)
+    if (window && window == m_acting)
         return;
     if (!window) {
         overdue();
@@ -79,13 +82,13 @@ void ScreenTest::look()
     }
     const std::function<void(forms::Form &)> act = std::move(m_announced.front().act);
     m_announced.pop_front();
-    m_acting = true;
+    QWidget *const below = std::exchange(m_acting, window);
     try {
         act(*form);
     } catch (const std::exception &failure) {
         ADD_FAILURE() << failure.what();
     }
-    m_acting = false;
+    m_acting = below;
 }
 
 void ScreenTest::overdue()

@@ -42,7 +42,7 @@ private:
 
     std::deque<Announced> m_announced;
     QTimer m_watch;
-    bool m_acting = false;
+    QWidget *m_acting = nullptr; // the form that is being driven
     QByteArray m_workingDirectory;
 };
 
