@@ -92,7 +92,7 @@ TEST_F(LanzamientoTest, EnterPlaysOnceFromEveryPlaceThatTakesIt)
 {
     startAt(Zeta, 0);
     for (const QString &name : { u"Lista1"_s, u"Combo1"_s, u"Combo2"_s, u"Graf_TV"_s, u"Titulo1"_s,
-             u"IMGDescripcionLarga"_s, u"Check1"_s }) {
+             u"IMGDescripcionLarga"_s }) {
         for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Enter }) {
             control(name).show();
             focus(name);
@@ -125,7 +125,7 @@ TEST_F(LanzamientoTest, ClickOnTheTitleOrTheTelevisionTakesTheFocusForEnter)
 TEST_F(LanzamientoTest, KeyHeldDownPlaysOnce)
 {
     startAt(Zeta, 0);
-    for (const QString &name : { u"Lista1"_s, u"Combo1"_s, u"Titulo1"_s, u"Check1"_s }) {
+    for (const QString &name : { u"Lista1"_s, u"Combo1"_s, u"Titulo1"_s }) {
         focus(name);
         strike(*portada, Qt::Key_Return);
         focus(name);
@@ -264,5 +264,13 @@ TEST_F(LanzamientoTest, ZipWithoutAROMIsToldInABoxOverTheScreen)
     });
     click(control(u"JugarB1"_s));
     EXPECT_TRUE(told);
+    EXPECT_EQ(runs(), 0);
+}
+
+TEST_F(LanzamientoTest, EnterOnTheCheckBoxPlaysNothing)
+{
+    startAt(Zeta, 0);
+    focus(u"Check1"_s);
+    strike(*portada, Qt::Key_Return);
     EXPECT_EQ(runs(), 0);
 }

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPixmap>
 
+#include <algorithm>
 #include <array>
 #include <climits>
 #include <cmath>
@@ -31,7 +32,7 @@ ScreenTest::ScreenTest()
     host::setQuestions(&questions);
     QObject::connect(&m_watch, &QTimer::timeout, &m_watch, [this] { look(); });
     m_watch.setSingleShot(true);
-    m_watch.start(0);
+    m_watch.start(1);
 }
 
 ScreenTest::~ScreenTest()
@@ -62,9 +63,9 @@ std::optional<ProcessEnd> ScreenTest::endOf(const std::function<void()> &action)
 void ScreenTest::look()
 {
     // Anew each time: a timer doesn't come in a loop that it has opened itself.
-    m_watch.start(0);
+    m_watch.start(1);
     QWidget *const window = QApplication::activeModalWidget();
-    if (window && window == m_acting)
+    if (window && std::find(m_acting.begin(), m_acting.end(), window) != m_acting.end())
         return;
     if (!window) {
         overdue();
@@ -82,13 +83,13 @@ void ScreenTest::look()
     }
     const std::function<void(forms::Form &)> act = std::move(m_announced.front().act);
     m_announced.pop_front();
-    QWidget *const below = std::exchange(m_acting, window);
+    m_acting.push_back(window);
     try {
         act(*form);
     } catch (const std::exception &failure) {
         ADD_FAILURE() << failure.what();
     }
-    m_acting = below;
+    m_acting.pop_back();
 }
 
 void ScreenTest::overdue()

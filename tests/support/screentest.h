@@ -15,6 +15,7 @@
 #include <deque>
 #include <functional>
 #include <optional>
+#include <vector>
 
 class ScreenTest : public testing::Test {
 protected:
@@ -42,7 +43,7 @@ private:
 
     std::deque<Announced> m_announced;
     QTimer m_watch;
-    QWidget *m_acting = nullptr; // the form that is being driven
+    std::vector<QWidget *> m_acting; // forms whose action runs, the innermost last
     QByteArray m_workingDirectory;
 };
 
