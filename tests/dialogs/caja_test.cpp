@@ -210,6 +210,19 @@ TEST_F(CajaTest, LongTextIsClippedByItsLabel)
     });
 }
 
+TEST_F(CajaTest, WordThatIsTooWideIsClippedByItsLabel)
+{
+    const QString word(80, u'W');
+    show(1, word, [](forms::Form &form) {
+        EXPECT_EQ(placeOf(form, u"Texto1"_s), QRect(8, 6, 147, 29));
+        close(form, ByArrow);
+    });
+    show(3, word, [](forms::Form &form) {
+        EXPECT_EQ(placeOf(form, u"Texto2"_s), QRect(8, 8, 161, 57));
+        close(form, ByArrow);
+    });
+}
+
 TEST_F(CajaTest, StandsInTheMiddleOfItsOwner)
 {
     owner.move(100, 60);

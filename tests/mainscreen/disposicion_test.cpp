@@ -372,11 +372,15 @@ TEST_F(FocoTest, ExitArrowEnablesTheListAndGivesItTheFocus)
     EXPECT_TRUE(list().isEnabled());
 }
 
-TEST_F(FocoTest, PointerOverTheSurfaceHidesTheTip)
+TEST_F(FocoTest, PointerOverTheScreenTheTelevisionOrThePictureHidesTheTip)
 {
     start();
     QWidget &tip = control(u"IMGDescripcionLarga"_s);
-    tip.show();
-    moveTo(*portada, QPoint(30, 60));
-    EXPECT_FALSE(tip.isVisible());
+    const std::pair<QString, QPoint> places[] = { { u"Portada"_s, { 30, 60 } }, { u"Graf_TV"_s, { 4, 30 } },
+        { u"Graf_Imagen"_s, { 40, 40 } } };
+    for (const auto &[name, point] : places) {
+        tip.show();
+        moveTo(name == u"Portada" ? *portada : control(name), point);
+        EXPECT_FALSE(tip.isVisible()) << name.toStdString();
+    }
 }

@@ -169,6 +169,17 @@ TEST_F(InformacionTest, WithoutAnEmulatorNothingChanges)
     EXPECT_EQ(M->TipoEmu, u"7"_s);
 }
 
+TEST_F(InformacionTest, SelectionWithoutAnEmulatorIsBlack)
+{
+    files.writeSize(u"r/a.bin"_s, 1024);
+    files.writeGif(u"c/a.gif"_s, Qt::red);
+    startWith(u"0"_s);
+    emulators().SetListIndex(-1);
+    EXPECT_EQ(infoOf(0), u"sin tocar"_s);
+    EXPECT_EQ(capture(), QColor(Qt::black));
+    EXPECT_EQ(M->Lista1Cambio, 1);
+}
+
 TEST_F(InformacionTest, TypeIsThatOfTheEmulatorSelectedNow)
 {
     files.writeSize(u"r/a.zip"_s, 1024);

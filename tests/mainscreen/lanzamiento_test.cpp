@@ -91,8 +91,8 @@ TEST_F(LanzamientoTest, PlayButtonGivesWayOnceAheadOfPlaying)
 TEST_F(LanzamientoTest, EnterPlaysOnceFromEveryPlaceThatTakesIt)
 {
     startAt(Zeta, 0);
-    for (const QString &name : { u"Lista1"_s, u"Combo1"_s, u"Combo2"_s, u"Graf_TV"_s, u"Titulo1"_s,
-             u"IMGDescripcionLarga"_s }) {
+    for (const QString &name :
+        { u"Lista1"_s, u"Combo1"_s, u"Combo2"_s, u"Graf_TV"_s, u"Titulo1"_s, u"IMGDescripcionLarga"_s }) {
         for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Enter }) {
             control(name).show();
             focus(name);
@@ -159,6 +159,16 @@ TEST_F(LanzamientoTest, DoubleClickInTheListPlays)
     doubleClickRow(list(), 1);
     EXPECT_EQ(runs(), 1);
     EXPECT_EQ(list().Text(), u"two.nes"_s);
+}
+
+TEST_F(LanzamientoTest, DoubleClickOnTheTipPlays)
+{
+    startAt(Zeta, 0);
+    QWidget &tip = control(u"IMGDescripcionLarga"_s);
+    tip.show();
+    tip.raise();
+    doubleClick(tip);
+    EXPECT_EQ(runs(), 1);
 }
 
 TEST_F(LanzamientoTest, DoubleClickOnThePlayButtonPlaysTwice)

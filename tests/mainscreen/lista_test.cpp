@@ -175,6 +175,18 @@ TEST_F(ListaTest, ZipsShowTheDescriptionOfTheirNameWithoutTheEnding)
     }
 }
 
+TEST_F(ListaTest, TypeIsThatOfTheEmulatorSelectedNow)
+{
+    files.writeSize(u"r/a.bin"_s, 10);
+    files.writeSize(u"r/b.zip"_s, 10);
+    startWith(u"0"_s, { u"BIN"_s });
+    ASSERT_THAT(listed(), ElementsAre(u"a.bin"_s));
+    M->Cat_XDI(0, 1) = u"XDI=3"_s;
+    portada->Llena_Lista();
+    EXPECT_EQ(M->TipoEmu, u"3"_s);
+    EXPECT_THAT(listed(), ElementsAre(u"b.zip"_s));
+}
+
 TEST_F(ListaTest, OtherTypesListNothing)
 {
     for (const QString &type : { u"4"_s, u"9"_s, u"X"_s, u""_s }) {

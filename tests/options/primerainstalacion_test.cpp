@@ -132,6 +132,7 @@ TEST_F(PrimeraInstalacionTest, LabelsHaveTheirWordsAndColours)
         EXPECT_EQ(QFontInfo(label.font()).family(), u"Liberation Sans"_s);
         EXPECT_EQ(label.font().pixelSize(), 11);
     }
+    EXPECT_TRUE(controlOf<forms::Label>(form, u"Label1"_s).wordWrap());
 }
 
 TEST_F(PrimeraInstalacionTest, BackgroundIsPaintedOverItAll)
