@@ -60,4 +60,13 @@ QString ConParametrosCambiados(const QString &texto, const Parametros &parametro
 // changes.
 QString ConSistemaNuevo(const QString &texto, const QString &sistema);
 
+// Without the parameter records whose second field is the system, case apart. The other records of the
+// section come out bare on one line each, and empty lines outside it are dropped. Where systems follow the
+// section, the four fields of its closing record reach into the first of them; its lines are put together
+// again.
+QString SinParametrosDeSistema(const QString &texto, const QString &sistema);
+
+// Without the system's block, header and closing apostrophe included.
+QString SinNotasDeSistema(const QString &texto, const QString &sistema);
+
 } // namespace core
