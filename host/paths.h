@@ -1,7 +1,8 @@
 // Paths of the host: both separators, any case, short forms, the listings behind them.
 //
 // A path is kept as it was typed. Handed to the host it is found as spelled or, component by component, in
-// any case (exact spelling first, then the order of upper-cased code, ties by bytes), or by its short form.
+// any case (exact spelling first, then the order of upper-cased code, ties by bytes), or by its short form;
+// where nothing fits, once more without the points and blanks at a component's end.
 #pragma once
 
 #include <QByteArray>

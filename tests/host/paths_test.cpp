@@ -145,6 +145,20 @@ TEST_F(Finding, NamesThatBeginOrEndWithABackslashAreFound)
     EXPECT_EQ(findOnDisk(path(u"a\\"_s)), place("a\\"));
 }
 
+TEST_F(Finding, PointsAndBlanksAtTheEndDoNotCount_WhereNothingHasThem)
+{
+    makeDirectory("Docs");
+    makeFile("Docs/README");
+    makeFile("Docs/other.");
+    makeFile("Docs/OTHER");
+    EXPECT_EQ(host::findOnDisk(path(u"docs. /readme."_s)), place("Docs/README"));
+    EXPECT_EQ(host::findOnDisk(path(u"docs/readme. . "_s)), place("Docs/README"));
+    EXPECT_EQ(host::findOnDisk(path(u"docs/Other."_s)), place("Docs/other."));
+    EXPECT_EQ(host::findOnDisk(path(u"docs/..."_s)), QByteArray());
+    EXPECT_EQ(host::findOnDisk(path(u"docs/ "_s)), QByteArray());
+    EXPECT_EQ(host::findForWriting(path(u"docs/new."_s)), place("Docs/new."));
+}
+
 TEST_F(Finding, RelativePathsStandInTheWorkingDirectory)
 {
     makeDirectory("Sub");
