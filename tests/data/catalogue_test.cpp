@@ -55,7 +55,7 @@ void expectNoneTwice(const QStringList &names)
 bool isPlainName(const QString &name)
 {
     return !name.isEmpty() && name == name.trimmed() && !name.contains(u',') && !name.contains(u'"')
-        && name != u"'" && !name.startsWith(u'[') && !name.startsWith(u"Parametros");
+        && !name.startsWith(u'\'') && !name.startsWith(u'[') && !name.startsWith(u"Parametros");
 }
 
 } // namespace
@@ -108,22 +108,54 @@ TEST(Database, HasNamesThatTheNotesCanHold)
     }
 }
 
-// A system without emulators would take the extensions of the one behind it.
-TEST(Database, HasTwoEmulatorsOrMoreForEverySystem)
+// A system without emulators would give its count of extensions to the one behind it.
+TEST(Database, HasAnEmulatorForEverySystem)
 {
     for (const sources::System &system : sources::systems(Database))
-        EXPECT_GE(system.emulators.size(), 2) << system.name.toStdString();
+        EXPECT_FALSE(system.emulators.isEmpty()) << system.name.toStdString();
 }
 
-TEST(Database, HasWebAddressesOrNone)
+TEST(Database, KnowsSixtySystemsAndAHundredAndFiftyEmulatorsOrMore)
 {
+    const std::vector<sources::System> systems = sources::systems(Database);
+    qsizetype emulators = 0;
+    for (const sources::System &system : systems)
+        emulators += system.emulators.size();
+    EXPECT_GE(systems.size(), 60U);
+    EXPECT_GE(emulators, 150);
+}
+
+// The user adds systems and emulators of his own to it.
+TEST(Database, LeavesRoomInTheTables)
+{
+    const std::vector<sources::System> systems = sources::systems(Database);
+    EXPECT_LE(systems.size(), 120U);
+    for (const sources::System &system : systems) {
+        EXPECT_LE(system.emulators.size(), 120) << system.name.toStdString();
+        EXPECT_LE(system.extensions.size(), 120) << system.name.toStdString();
+    }
+}
+
+// A directory of ROMs is named after its system, with a hyphen for each slash.
+TEST(Database, HasNamesThatGiveEachSystemADirectoryOfItsOwn)
+{
+    QStringList directories;
+    for (const QString &name : namesOf(sources::systems(Database))) {
+        directories += QString(name).replace(u'/', u'-');
+        EXPECT_FALSE(name.startsWith(u'.') || name.contains(u'\\')) << name.toStdString();
+    }
+    expectNoneTwice(directories);
+}
+
+TEST(Database, HasAWebAddressForEverySystemAndEveryEmulator)
+{
+    const QRegularExpression address(u"^https?://[a-z0-9][a-z0-9.-]+\\.[a-z]+(/[!-~]*)?$"_s);
     for (const sources::System &system : sources::systems(Database)) {
         QStringList addresses = system.emulatorWebs;
         addresses += system.web;
-        for (const QString &address : std::as_const(addresses)) {
-            const bool known = address.startsWith(u"https://") || address.startsWith(u"http://");
-            EXPECT_TRUE(address.isEmpty() || (known && !address.contains(u' '))) << address.toStdString();
-        }
+        for (const QString &web : std::as_const(addresses))
+            EXPECT_TRUE(address.match(web).hasMatch())
+                << system.name.toStdString() << ' ' << web.toStdString();
     }
 }
 
