@@ -1,6 +1,7 @@
 // The program-wide state: one instance of one struct, read and written by every screen directly.
 #pragma once
 
+#include "core/palabras.h"
 #include "core/tabla.h"
 #include "core/textos.h"
 
@@ -118,6 +119,7 @@ struct Modulo : TextosIdioma {
     QString FiltrosNuevo;
 
     Tabla<QString> ListaLNG { MaxIdiomas };
+    core::Palabras Palabras; // of the language, as its file gives them or as they are built in
 
     // Answers of the message box.
     QString Respuesta_Caja;

@@ -4,6 +4,7 @@
 #include "forms/event.h"
 #include "forms/units.h"
 
+#include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -41,6 +42,7 @@ public:
     Event<> DblClick;
     Event<int> KeyDown; // a KeyCode; other keys raise nothing
     Event<> GotFocus;
+    Event<> MenuKey; // the keyboard asks for the menu
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
@@ -49,6 +51,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
     bool takesButtons() const;

@@ -86,4 +86,16 @@ template <class Base> void Control<Base>::focusInEvent(QFocusEvent *event)
         GotFocus.raise();
 }
 
+// The mouse asks by its presses.
+template <class Base> void Control<Base>::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (!MenuKey.hasHandler()) {
+        Base::contextMenuEvent(event);
+        return;
+    }
+    event->accept();
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        MenuKey.raise();
+}
+
 } // namespace forms

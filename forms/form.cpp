@@ -135,6 +135,21 @@ void Form::ShowModeless(QWidget *owner)
     showOver(*this, owner, Qt::NonModal);
 }
 
+void Form::ShowAside(QWidget &owner)
+{
+    if (windowType() != Qt::ToolTip) {
+        setWindowFlags(Qt::ToolTip | Qt::FramelessWindowHint);
+        setAttribute(Qt::WA_ShowWithoutActivating);
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+    winId();
+    owner.window()->winId();
+    windowHandle()->setTransientParent(owner.window()->windowHandle());
+    centre(*this, &owner);
+    show();
+    raise();
+}
+
 void Form::Unload()
 {
     hide();

@@ -37,6 +37,10 @@ public:
     // Shows the form and returns at once.
     void ShowModeless(QWidget *owner);
 
+    // Shows a form without border over its owner, centred, and returns at once. It takes neither the focus
+    // nor the mouse: who holds a button keeps it.
+    void ShowAside(QWidget &owner);
+
     // Closes a form shown modally: ShowModal returns. The holder destroys it.
     void Unload();
 

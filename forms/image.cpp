@@ -3,6 +3,7 @@
 #include "forms/pictures.h"
 
 #include <QPainter>
+#include <QPointer>
 
 namespace forms {
 
@@ -48,6 +49,53 @@ void Image::paintEvent(QPaintEvent *)
         painter.setPen(Qt::black);
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
+    if (hasFocus() && (focusPolicy() & Qt::TabFocus)) {
+        painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+bool Image::isSpace(const QKeyEvent &event) const
+{
+    return event.key() == Qt::Key_Space && (focusPolicy() & Qt::TabFocus);
+}
+
+void Image::keyPressEvent(QKeyEvent *event)
+{
+    if (!isSpace(*event)) {
+        Control::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    if (event->isAutoRepeat() || m_held)
+        return;
+    m_held = true;
+    MouseDown.raise(Mouse { LeftButton });
+}
+
+void Image::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!isSpace(*event)) {
+        Control::keyReleaseEvent(event);
+        return;
+    }
+    event->accept();
+    if (event->isAutoRepeat() || !m_held)
+        return;
+    m_held = false;
+    const QPointer<QObject> self(this);
+    MouseUp.raise(Mouse { LeftButton });
+    if (self)
+        Click.raise();
+}
+
+void Image::focusOutEvent(QFocusEvent *event)
+{
+    Control::focusOutEvent(event);
+    if (!m_held)
+        return;
+    m_held = false;
+    MouseUp.raise(Mouse { LeftButton });
 }
 
 } // namespace forms

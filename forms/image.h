@@ -9,7 +9,8 @@
 namespace forms {
 
 // Also a container: a television set is an image with controls in it. A click gives it the focus only where
-// the screen sets a focus policy.
+// the screen sets a focus policy. One that takes the focus by Tab shows it, and Space is the press and the
+// release of the left button.
 class Image : public Control<QWidget> {
 public:
     explicit Image(QWidget *parent);
@@ -21,8 +22,14 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    bool isSpace(const QKeyEvent &event) const;
+
+    bool m_held = false; // by Space
     QPixmap m_picture;
     QString m_artwork;
     bool m_border = false;

@@ -41,4 +41,9 @@ void PopupMenu::Popup()
     exec(QCursor::pos());
 }
 
+void PopupMenu::PopupOver(const QWidget &control)
+{
+    exec(control.mapToGlobal(control.rect().center()));
+}
+
 } // namespace forms

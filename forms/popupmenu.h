@@ -36,6 +36,7 @@ public:
 
     // At the pointer; returns when it has closed, and the entry chosen has raised its Click.
     void Popup();
+    void PopupOver(const QWidget &control); // in its middle, for the keyboard
 
 private:
     std::vector<std::unique_ptr<MenuEntry>> m_entries;

@@ -14,8 +14,11 @@ Shape::Shape(const QColor &colour, QWidget *parent)
 void Shape::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setPen(m_colour);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    // Filled, not stroked: at a fraction of the design size a line between two pixels gets lost.
+    painter.fillRect(0, 0, width(), 1, m_colour);
+    painter.fillRect(0, height() - 1, width(), 1, m_colour);
+    painter.fillRect(0, 0, 1, height(), m_colour);
+    painter.fillRect(width() - 1, 0, 1, height(), m_colour);
 }
 
 } // namespace forms

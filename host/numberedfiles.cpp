@@ -55,6 +55,11 @@ bool NumberedFiles::atEnd(int number)
     return open(number, "look for the end").source.atEnd();
 }
 
+QString NumberedFiles::rest(int number)
+{
+    return open(number, "read the rest").source.rest().toString();
+}
+
 void NumberedFiles::close(int number)
 {
     m_open.erase(number);
@@ -122,12 +127,12 @@ NumberedFiles::OpenFile &NumberedFiles::open(int number, const char *operation)
     return file->second;
 }
 
-QByteArray readBytes(const QString &path)
+QByteArray readBytes(const QString &path, qint64 most)
 {
     const QByteArray found = findOnDisk(path);
     if (found.isEmpty())
         throw Failure(FileNotFound, u"open a file"_s, path);
-    std::optional<PlainFile> file = readPlainFile(AT_FDCWD, found, O_RDONLY);
+    std::optional<PlainFile> file = readPlainFile(AT_FDCWD, found, O_RDONLY, most);
     if (!file && errno == ENOENT)
         throw Failure(FileNotFound, u"open a file"_s, path);
     if (!file)

@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <functional>
+#include <limits>
 #include <map>
 
 namespace host {
@@ -26,6 +27,7 @@ public:
     QString readLine(int number);
     QString readField(int number);
     bool atEnd(int number);
+    QString rest(int number); // what hasn't been read yet, and stays unread
 
     void close(int number);
     void closeAll();
@@ -60,7 +62,7 @@ private:
     std::map<int, OpenFile> m_open;
 };
 
-// A file's bytes, read whole. Fails with 53 or 75.
-QByteArray readBytes(const QString &path);
+// A file's bytes, the first `most` of them. Fails with 53 or 75.
+QByteArray readBytes(const QString &path, qint64 most = std::numeric_limits<qint64>::max());
 
 } // namespace host

@@ -2,6 +2,7 @@
 
 #include "host/descriptor.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 
@@ -11,11 +12,12 @@ namespace host {
 
 namespace {
 
-bool readToEnd(const Descriptor &file, QByteArray &bytes)
+bool readBegin(const Descriptor &file, qint64 most, QByteArray &bytes)
 {
     std::array<char, 65536> buffer;
-    for (;;) {
-        const ssize_t count = ::read(file.number(), buffer.data(), buffer.size());
+    while (bytes.size() < most) {
+        const size_t wanted = size_t(std::min<qint64>(most - bytes.size(), buffer.size()));
+        const ssize_t count = ::read(file.number(), buffer.data(), wanted);
         if (count == 0)
             return true;
         if (count > 0)
@@ -23,11 +25,12 @@ bool readToEnd(const Descriptor &file, QByteArray &bytes)
         else if (errno != EINTR)
             return false;
     }
+    return true;
 }
 
 } // namespace
 
-std::optional<PlainFile> readPlainFile(int directory, const QByteArray &name, int openFlags)
+std::optional<PlainFile> readPlainFile(int directory, const QByteArray &name, int openFlags, qint64 most)
 {
     // Not blocking: a pipe in the file's place would never open.
     const Descriptor file(openat(directory, name.constData(), openFlags | O_NONBLOCK | O_CLOEXEC));
@@ -38,7 +41,7 @@ std::optional<PlainFile> readPlainFile(int directory, const QByteArray &name, in
         errno = EISDIR;
         return std::nullopt;
     }
-    if (!readToEnd(file, result.bytes))
+    if (!readBegin(file, most, result.bytes))
         return std::nullopt;
     return result;
 }

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 
+#include <limits>
 #include <optional>
 
 #include <sys/stat.h>
@@ -14,8 +15,9 @@ struct PlainFile {
     struct stat status;
 };
 
-// Opens and reads the file of this name in the directory (a descriptor, or AT_FDCWD). None, with errno set,
-// if that fails or if it is something else than a file.
-std::optional<PlainFile> readPlainFile(int directory, const QByteArray &name, int openFlags);
+// Opens the file of this name in the directory (a descriptor, or AT_FDCWD), and reads the first `most` of its
+// bytes. None, with errno set, if that fails or if it is something else than a file.
+std::optional<PlainFile> readPlainFile(
+    int directory, const QByteArray &name, int openFlags, qint64 most = std::numeric_limits<qint64>::max());
 
 } // namespace host

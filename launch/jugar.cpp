@@ -129,10 +129,7 @@ void Lanzamiento::LeeParRom(const QString &clave)
     constexpr int numero = 1;
     Intenta([&] { M.Ficheros.openForInput(numero, host::programFile(u"Zembro.rom"_s)); });
     QString texto;
-    Intenta([&] {
-        while (!M.Ficheros.atEnd(numero))
-            texto += M.Ficheros.readLine(numero) + u'\n';
-    });
+    Intenta([&] { texto = M.Ficheros.rest(numero); });
     M.Ficheros.closeAll();
     host::TextSource fuente(texto);
     m_piezas.ParRom = core::ParametrosDe(fuente, clave);

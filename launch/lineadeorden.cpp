@@ -2,6 +2,8 @@
 
 #include "host/process.h"
 
+using namespace Qt::StringLiterals;
+
 namespace launch {
 
 LineaDeOrden &LineaDeOrden::Texto(const QString &texto)
@@ -14,6 +16,17 @@ LineaDeOrden &LineaDeOrden::Ruta(const QString &texto, const QString &enDisco)
 {
     m_piezas.push_back({ texto, enDisco, true });
     return *this;
+}
+
+LineaDeOrden LineaDeOrden::DeArgumentos(const QStringList &argumentos)
+{
+    LineaDeOrden orden;
+    for (const QString &argumento : argumentos) {
+        if (!orden.m_piezas.empty())
+            orden.Texto(u" "_s);
+        orden.Ruta(argumento, argumento);
+    }
+    return orden;
 }
 
 QString LineaDeOrden::EnTexto() const

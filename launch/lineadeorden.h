@@ -19,6 +19,9 @@ public:
 
     QString EnTexto() const;
 
+    // Of arguments that are whole already.
+    static LineaDeOrden DeArgumentos(const QStringList &argumentos);
+
     // Empty if the first piece, the program, is empty: parameters are never run as a program.
     QStringList Argumentos() const;
 

@@ -22,4 +22,11 @@ Aumento::Aumento()
     Negro->SetPicture(negro);
 }
 
+void Aumento::Muestra(int ancho, int alto, QWidget &dueño)
+{
+    SetClientSize(ancho, alto);
+    forms::move(*Imagen, { 0, 0, ancho, alto });
+    ShowAside(dueño);
+}
+
 } // namespace mainscreen

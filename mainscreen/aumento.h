@@ -10,6 +10,10 @@ class Aumento : public forms::Form {
 public:
     Aumento();
 
+    // Shows the capture so wide and high, in twips, over its owner, until it is hidden. The owner keeps the
+    // focus and the mouse.
+    void Muestra(int ancho, int alto, QWidget &dueño);
+
     forms::Image *Imagen; // the same picture as Graf_Imagen
     forms::Image *Negro; // black, never in view
 };

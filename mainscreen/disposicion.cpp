@@ -119,8 +119,8 @@ const FilaBoton Botones[] = {
     { &Portada::D1, u"D1", u"D2", { 5620, 4940, 270, 225 }, 270, true },
     { &Portada::Flecha2, u"Flecha2", u"Flecha1", { 5640, 5160, 465, 465 }, 465, true },
     { &Portada::FlechaE2, u"FlechaE2", u"FlechaE1", { 0, 0, 465, 465 }, 465, false },
-    { &Portada::Edit2, u"Edit2", u"Edit1", { 4920, 5100, 465, 465 }, 465, false },
-    { &Portada::BlocDeNotas2, u"BlocDeNotas2", u"BlocDeNotas1", { 5520, 5100, 465, 465 }, 465, false },
+    { &Portada::Edit2, u"Edit2", u"Edit1", { 4920, 5160, 465, 465 }, 465, false },
+    { &Portada::BlocDeNotas2, u"BlocDeNotas2", u"BlocDeNotas1", { 5520, 5160, 465, 465 }, 465, false },
 };
 
 QFont letraDe(Letra letra)
@@ -205,7 +205,7 @@ void montaSeleccionYLista(Portada &portada)
     portada.File1->hide();
     portada.Dir1->hide();
 
-    portada.Editor = coloca(new forms::TextArea(&portada), u"Editor"_s, { 135, 900, 5895, 4035 });
+    portada.Editor = coloca(new forms::TextArea(&portada), u"Editor"_s, { 120, 1080, 5895, 4035 });
     portada.Editor->hide();
 }
 

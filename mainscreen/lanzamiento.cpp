@@ -24,14 +24,12 @@ void Portada::ConectaLanzamiento()
     };
     Lista1->DblClick = [this] { Jugar(); };
     IMGDescripcionLarga->DblClick = [this] { Jugar(); };
-    Lista1->KeyDown = conEnter;
+    Lista1->KeyDown = [this](int tecla) { Lista1_KeyDown(tecla); };
     for (forms::Image *imagen : { Graf_TV, IMGDescripcionLarga, Titulo1 }) {
         imagen->KeyDown = conEnter;
     }
     Titulo1->setFocusPolicy(Qt::ClickFocus);
     IMGDescripcionLarga->setFocusPolicy(Qt::ClickFocus);
-    // No policy for the set: a click on what stands in it would bring it the focus too.
-    Graf_TV->MouseDown = [this](const forms::Mouse &) { Graf_TV->setFocus(); };
     KeyEnter = [this] { Jugar(); };
 }
 

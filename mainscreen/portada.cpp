@@ -22,8 +22,12 @@ Portada::Portada(core::Modulo &modulo)
     ConectaArranque();
     ConectaSeleccion();
     ConectaLista();
+    ConectaZoom();
     ConectaLanzamiento();
+    ConectaAcciones();
+    ConectaDocumentos();
     ConectaSuperficie();
+    ConectaTeclado();
 }
 
 void Portada::Mensaje(int Tipo, const QString &mensaje, const QString &TituloVentana, const QString &Boton1,
@@ -49,15 +53,19 @@ void Portada::Textos()
         if (auto *etiqueta = dynamic_cast<forms::Label *>(Control(nombre)))
             etiqueta->SetCaption(texto);
     };
+    M.Palabras = {};
     core::LectorDeTextos lector(M, directo);
     const QString fichero = host::programFile(u"LNG/"_s + M.LanguageFile);
     core::LeeFichero(fichero, [&] {
         M.Ficheros.openForInput(1, fichero);
-        do
-            lector.Linea(M.Ficheros.readLine(1));
-        while (!M.Ficheros.atEnd(1));
+        do {
+            const QString linea = M.Ficheros.readLine(1);
+            lector.Linea(linea);
+            core::LeePalabra(M.Palabras, linea);
+        } while (!M.Ficheros.atEnd(1));
     });
     M.Ficheros.closeAll();
+    NombraControles();
 }
 
 } // namespace mainscreen

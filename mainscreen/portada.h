@@ -1,7 +1,8 @@
 // The main screen: it lives from the start of the process to its end, and owns the run.
 //
-// One class, one file a topic: arranque (start and exit), seleccion, lista, informacion, lanzamiento,
-// superficie, and disposicion, the table of where every control stands.
+// One class, one file a topic: arranque (start and exit), seleccion, lista, informacion, zoom, lanzamiento,
+// acciones, documentos, superficie, teclado, nombres, and disposicion, the table of where every control
+// stands.
 #pragma once
 
 #include "core/modulo.h"
@@ -24,6 +25,7 @@
 #include "mainscreen/aumento.h"
 
 #include <functional>
+#include <vector>
 
 namespace mainscreen {
 
@@ -44,6 +46,11 @@ public:
     void Llena_Lista();
     void LLena_INFO();
     void Jugar();
+    void Borrar();
+    void Describir();
+    void Edit(const QString &ruta); // loads a text into the Editor; fails with 53 or 75
+    void PrepararEditor();
+    void RestaurarEditor();
     void Mensaje(int Tipo, const QString &mensaje, const QString &TituloVentana, const QString &Boton1,
         const QString &Boton2, const QString &MeterEnCajaDeTexto);
 
@@ -97,8 +104,12 @@ private:
     void ConectaArranque();
     void ConectaSeleccion();
     void ConectaLista();
+    void ConectaZoom();
     void ConectaLanzamiento();
+    void ConectaAcciones();
+    void ConectaDocumentos();
     void ConectaSuperficie();
+    void ConectaTeclado();
 
     // Start and exit.
     void LeeConfiguracion();
@@ -136,6 +147,14 @@ private:
     void SinCaptura();
     void PonNegro();
 
+    // Zoom.
+    void Graf_Imagen_MouseDown(int boton);
+    void EligeZoom(int zoom);
+    void OFF_Click();
+    void Menu_OFF_Click();
+    void ApagaTelevisor();
+    void PonLupa();
+
     // Launching: what the pipeline asks of the screen.
     QString TextoCombo1() const override;
     QString TextoCombo2() const override;
@@ -152,6 +171,42 @@ private:
     void Cede(int descriptor, int milisegundos) override;
     void Aviso(const QString &titulo, const QString &texto) override;
 
+    // Actions.
+    void Lista1_KeyDown(int tecla);
+    bool HayROMElegida() const;
+    void BorrarAPapelera(const QString &ruta);
+    void GuardaDescripcion(int tipo, int nota, const QString &entrada, const QString &descripcion);
+    void Menu_Parametros_Click();
+    void ReescribeNotas(const std::function<QString(const QString &)> &cambio);
+
+    // Documents.
+    void BotonC2_Release();
+    void BotonD2_Release();
+    QString RutaDelEmulador() const;
+    void NoHayDocumento(const QString &titulo, const QString &texto);
+    void MuestraDocumento(const QString &ruta, const std::function<void()> &prepara);
+    void FlechaE2_Release();
+    std::vector<QWidget *> CubiertosPorElEditor() const;
+    void AbreEnEditor(const QStringList &orden, const QString &falta);
+    void MuestraTextoPropio(const QString &fichero);
+    void E1_Release();
+    void D1_Release();
+    void EsperaHerramienta(const QStringList &orden, const QString &falta);
+
+    // Surface.
+    void Lista1_MouseDown(int boton);
+    void Graf_TV_MouseDown(int boton);
+    void Lista1_MouseMove(const forms::Mouse &raton);
+    void EscribeConsejo(const QString &texto);
+    void IMGDescripcionLarga_Click();
+    void WEB1_MouseUp();
+    void WEB2_MouseUp();
+    void AbreWeb(const QString &linea, const QString &titulo, const QString &texto);
+    void PulsaWeb(forms::Label &web);
+    void OrdenaFoco();
+    void NombraControles();
+    void Advierte(const QString &titulo, const QString &texto); // the message box, type 3
+
     enum Puntero : int { PunteroNormal = 0, RelojDeArena = 11 };
     void PonPuntero(Puntero puntero);
     void PonInfo(const QString &texto);
@@ -160,6 +215,7 @@ private:
     core::Modulo &M;
     dialogs::CajaDeMensajes m_mensajes;
     int m_recuento = 0; // entries that the running Llena_Lista has looked at
+    int ElementoBajoRaton = 0; // the entry of Lista1 last found under the pointer
 };
 
 } // namespace mainscreen

@@ -1,8 +1,35 @@
-// The surface: where the focus goes when a picture is pressed, the tip that hides, the pointer.
+// The surface: where the focus goes when a picture is pressed, the drag, the menus, the web links, and the
+// tip that shows an entry too long for the list. Controls: Titulo1, IMGDescripcionLarga, WEB1, WEB2, Graf_TV.
+// State: ElementoBajoRaton.
 
 #include "mainscreen/portada.h"
 
+#include "core/catalogo.h"
+
+#include "forms/windowmove.h"
+#include "forms/yield.h"
+
+#include "host/tools.h"
+
+#include <QPainter>
+
 namespace mainscreen {
+
+namespace {
+
+constexpr QRgb Amarillo = qRgb(255, 255, 0);
+constexpr QRgb Rojo = qRgb(255, 0, 0);
+constexpr QRgb FondoDelConsejo = qRgb(255, 255, 192);
+
+QPixmap hojaDelConsejo(const QWidget &consejo)
+{
+    QPixmap hoja(consejo.size() * consejo.devicePixelRatioF());
+    hoja.setDevicePixelRatio(consejo.devicePixelRatioF());
+    hoja.fill(QColor(FondoDelConsejo));
+    return hoja;
+}
+
+} // namespace
 
 void Portada::ConectaSuperficie()
 {
@@ -10,10 +37,119 @@ void Portada::ConectaSuperficie()
              Boton3b, Boton4b, Boton5b, Boton6b, FlechaE2, Edit2, BlocDeNotas2 })
         boton->Press = [this] { Lista1->setFocus(); };
     Menos2b->Press = [this] { Combo2->setFocus(); };
+
     const auto escondeConsejo = [this](const forms::Mouse &) { IMGDescripcionLarga->hide(); };
     MouseMove = escondeConsejo;
     for (forms::Image *imagen : { Graf_TV, Graf_Imagen })
         imagen->MouseMove = escondeConsejo;
+    Lista1->MouseMove = [this](const forms::Mouse &raton) { Lista1_MouseMove(raton); };
+    IMGDescripcionLarga->Click = [this] { IMGDescripcionLarga_Click(); };
+
+    Lista1->MouseDown = [this](const forms::Mouse &raton) { Lista1_MouseDown(raton.button); };
+    IMGDescripcionLarga->MouseDown = [this](const forms::Mouse &raton) {
+        if (raton.button == forms::RightButton)
+            Menu_Lista1->Popup();
+    };
+    Graf_TV->MouseDown = [this](const forms::Mouse &raton) { Graf_TV_MouseDown(raton.button); };
+    Titulo1->MouseDown = [this](const forms::Mouse &raton) {
+        if (raton.button != forms::RightButton)
+            forms::MoveWindow(*Titulo1, raton.button);
+    };
+
+    WEB1->MouseDown = [this](const forms::Mouse &) { WEB1->SetForeColor(Amarillo); };
+    WEB2->MouseDown = [this](const forms::Mouse &) { WEB2->SetForeColor(Amarillo); };
+    WEB1->MouseUp = [this](const forms::Mouse &) { WEB1_MouseUp(); };
+    WEB2->MouseUp = [this](const forms::Mouse &) { WEB2_MouseUp(); };
+    for (QWidget *control : std::initializer_list<QWidget *> { Titulo1, WEB1, WEB2 })
+        control->setCursor(Qt::PointingHandCursor);
+}
+
+void Portada::Lista1_MouseDown(int boton)
+{
+    if (boton == forms::RightButton && !Lista1->Text().isEmpty())
+        Menu_Lista1->Popup();
+}
+
+void Portada::Graf_TV_MouseDown(int boton)
+{
+    // Not by a focus policy: a click on what stands in the set would bring it the focus too.
+    Graf_TV->setFocus();
+    if (boton == forms::RightButton)
+        Menu_Graf_Imagen->Popup();
+}
+
+void Portada::Lista1_MouseMove(const forms::Mouse &raton)
+{
+    if (raton.button != 0)
+        return;
+    ElementoBajoRaton = Lista1->ItemFromPoint(forms::pixels(raton.x), forms::pixels(raton.y));
+    const QString texto = Lista1->List(ElementoBajoRaton);
+    const int ancho = forms::twips(fontMetrics().horizontalAdvance(texto));
+    const forms::Place lista = forms::placeOf(*Lista1);
+    if (ElementoBajoRaton < 0 || ElementoBajoRaton > Lista1->ListCount() || ancho <= lista.width) {
+        IMGDescripcionLarga->hide();
+        return;
+    }
+    const int alto = forms::twips(fontMetrics().height());
+    const int fila = ElementoBajoRaton - Lista1->TopIndex();
+    forms::move(
+        *IMGDescripcionLarga, { lista.left + 50, alto * fila + lista.top + 20, ancho + 50, alto + 50 });
+    EscribeConsejo(texto);
+}
+
+void Portada::EscribeConsejo(const QString &texto)
+{
+    const int elemento = ElementoBajoRaton;
+    IMGDescripcionLarga->raise();
+    IMGDescripcionLarga->show();
+    QPixmap hoja = hojaDelConsejo(*IMGDescripcionLarga);
+    IMGDescripcionLarga->SetPicture(hoja);
+    forms::DoEvents();
+    // A further move may have come meanwhile: what it left stands.
+    if (ElementoBajoRaton != elemento || IMGDescripcionLarga->isHidden())
+        return;
+    QPainter pluma(&hoja);
+    pluma.setFont(font());
+    pluma.setPen(Qt::black);
+    pluma.drawText(QPoint(0, fontMetrics().ascent()), texto);
+    pluma.end();
+    IMGDescripcionLarga->SetPicture(hoja);
+    IMGDescripcionLarga->show();
+}
+
+void Portada::IMGDescripcionLarga_Click()
+{
+    // The list may have become shorter under the tip.
+    if (ElementoBajoRaton < Lista1->ListCount())
+        Lista1->SetListIndex(ElementoBajoRaton);
+    Lista1->setFocus();
+}
+
+void Portada::WEB1_MouseUp()
+{
+    WEB1->SetForeColor(Rojo);
+    if (Combo1->Text().isEmpty())
+        return;
+    AbreWeb(M.Cat_WEB1(Sistema()), M.Msg_SisNoWeb0, M.Msg_SisNoWeb1);
+}
+
+void Portada::WEB2_MouseUp()
+{
+    WEB2->SetForeColor(Rojo);
+    if (Combo2->Text().isEmpty())
+        return;
+    AbreWeb(M.Cat_WEB2(Sistema(), Emulador() + 1), M.Msg_EmuNoWeb0, M.Msg_EmuNoWeb1);
+}
+
+void Portada::AbreWeb(const QString &linea, const QString &titulo, const QString &texto)
+{
+    const QString direccion = core::Valor(linea, core::PrefijoParametro);
+    if (direccion.isEmpty()) {
+        Aviso(titulo, texto);
+        return;
+    }
+    forms::DoEvents();
+    host::openLink(direccion);
 }
 
 void Portada::PonPuntero(Puntero puntero)
@@ -32,6 +168,11 @@ void Portada::PonInfo(const QString &texto)
 void Portada::PonInfoRoms(const QString &texto)
 {
     TXT_InfoRoms->SetCaption(texto);
+}
+
+void Portada::Advierte(const QString &titulo, const QString &texto)
+{
+    Mensaje(3, texto, titulo, M.TXT_Aceptar, M.TXT_Volver, QString());
 }
 
 } // namespace mainscreen

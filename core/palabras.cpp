@@ -1,0 +1,64 @@
+#include "core/palabras.h"
+
+#include "core/textos.h"
+
+#include <QHash>
+
+namespace core {
+
+std::span<const ClaveDePalabra> ClavesDePalabras()
+{
+    using P = Palabras;
+    static constexpr ClaveDePalabra claves[] = {
+        { u"Zem_Papelera0", &P::Zem_Papelera0 },
+        { u"Zem_Papelera1", &P::Zem_Papelera1 },
+        { u"Zem_NoPapelera0", &P::Zem_NoPapelera0 },
+        { u"Zem_NoPapelera1", &P::Zem_NoPapelera1 },
+        { u"Zem_Falta0", &P::Zem_Falta0 },
+        { u"Zem_FaltaEditor", &P::Zem_FaltaEditor },
+        { u"Zem_FaltaEdit", &P::Zem_FaltaEdit },
+        { u"Zem_FaltaTerm", &P::Zem_FaltaTerm },
+        { u"Zem_FaltaGestor", &P::Zem_FaltaGestor },
+        { u"Zem_Lista1", &P::Zem_Lista1 },
+        { u"Zem_Combo1", &P::Zem_Combo1 },
+        { u"Zem_Combo2", &P::Zem_Combo2 },
+        { u"Zem_Menos2a", &P::Zem_Menos2a },
+        { u"Zem_Menos2b", &P::Zem_Menos2b },
+        { u"Zem_Titulo1", &P::Zem_Titulo1 },
+        { u"Zem_Graf_TV", &P::Zem_Graf_TV },
+        { u"Zem_Captura", &P::Zem_Captura },
+        { u"Zem_OFF", &P::Zem_OFF },
+        { u"Zem_WEB1", &P::Zem_WEB1 },
+        { u"Zem_WEB2", &P::Zem_WEB2 },
+        { u"Zem_D1", &P::Zem_D1 },
+        { u"Zem_E1", &P::Zem_E1 },
+        { u"Zem_Flecha2", &P::Zem_Flecha2 },
+        { u"Zem_Editor", &P::Zem_Editor },
+        { u"Zem_FlechaE2", &P::Zem_FlechaE2 },
+        { u"Zem_Edit2", &P::Zem_Edit2 },
+        { u"Zem_BlocNotas2", &P::Zem_BlocNotas2 },
+    };
+    return claves;
+}
+
+namespace {
+
+QHash<QString, QString Palabras::*> porClaveRellena()
+{
+    QHash<QString, QString Palabras::*> tabla;
+    for (const ClaveDePalabra &clave : ClavesDePalabras())
+        tabla.insert(clave.nombre.toString().leftJustified(AnchoClave, u'.'), clave.variable);
+    return tabla;
+}
+
+} // namespace
+
+void LeePalabra(Palabras &palabras, const QString &linea)
+{
+    static const QHash<QString, QString Palabras::*> claves = porClaveRellena();
+
+    if (const auto variable = claves.value(linea.left(AnchoClave)))
+        palabras.*variable = TextoDeLinea(linea);
+}
+
+} // namespace core

@@ -1,0 +1,56 @@
+// Words of the program that language files may lack: they have a Spanish text built in. In a language file
+// they stand under their own keys, like all others.
+#pragma once
+
+#include <QString>
+
+#include <span>
+
+namespace core {
+
+struct Palabras {
+    // Throwing a ROM away.
+    QString Zem_Papelera0 = QStringLiteral("Papelera");
+    QString Zem_Papelera1 = QStringLiteral("¿Mover a la papelera?");
+    QString Zem_NoPapelera0 = QStringLiteral("Sin papelera");
+    QString Zem_NoPapelera1 = QStringLiteral("La papelera no admite este archivo: se queda donde está.");
+
+    // What the desktop lacks.
+    QString Zem_Falta0 = QStringLiteral("Falta un programa");
+    QString Zem_FaltaEditor = QStringLiteral("No hay ningún editor de textos instalado.");
+    QString Zem_FaltaEdit = QStringLiteral("No hay ningún editor para el terminal, o ningún terminal.");
+    QString Zem_FaltaTerm = QStringLiteral("No hay ningún terminal instalado.");
+    QString Zem_FaltaGestor = QStringLiteral("No hay ningún gestor de archivos instalado.");
+
+    // Names of controls that show no word, as screen readers say them.
+    QString Zem_Lista1 = QStringLiteral("Juegos");
+    QString Zem_Combo1 = QStringLiteral("Sistema");
+    QString Zem_Combo2 = QStringLiteral("Emulador");
+    QString Zem_Menos2a = QStringLiteral("Quitar el sistema");
+    QString Zem_Menos2b = QStringLiteral("Quitar el emulador");
+    QString Zem_Titulo1 = QStringLiteral("Mover la ventana");
+    QString Zem_Graf_TV = QStringLiteral("Televisor");
+    QString Zem_Captura = QStringLiteral("Captura");
+    QString Zem_OFF = QStringLiteral("Apagar el televisor");
+    QString Zem_WEB1 = QStringLiteral("Página web del sistema");
+    QString Zem_WEB2 = QStringLiteral("Página web del emulador");
+    QString Zem_D1 = QStringLiteral("Consola en el directorio del emulador");
+    QString Zem_E1 = QStringLiteral("Explorar el directorio del emulador");
+    QString Zem_Flecha2 = QStringLiteral("Salir");
+    QString Zem_Editor = QStringLiteral("Texto");
+    QString Zem_FlechaE2 = QStringLiteral("Cerrar el texto");
+    QString Zem_Edit2 = QStringLiteral("Abrir en el editor del terminal");
+    QString Zem_BlocNotas2 = QStringLiteral("Abrir en el editor");
+};
+
+struct ClaveDePalabra {
+    QStringView nombre; // the key in the file
+    QString Palabras::*variable;
+};
+
+std::span<const ClaveDePalabra> ClavesDePalabras();
+
+// Takes the word out of a line of a language file, if it is one of these.
+void LeePalabra(Palabras &palabras, const QString &linea);
+
+} // namespace core

@@ -1,0 +1,150 @@
+// What is done to the selected ROM without starting it: thrown away, described, given parameters of its own.
+// Controls: BotonA2, BotonB2, Menu_Lista1. Zembro.rom keeps the notes of ROMs that are gone: one of the same
+// name gets them back.
+
+#include "mainscreen/portada.h"
+
+#include "core/catalogo.h"
+#include "core/lista.h"
+#include "core/notas.h"
+#include "core/romelegida.h"
+
+#include "host/paths.h"
+#include "host/questions.h"
+#include "host/trash.h"
+
+using namespace Qt::StringLiterals;
+
+namespace mainscreen {
+
+namespace {
+
+bool existe(const QString &ruta)
+{
+    try {
+        host::attributes(ruta);
+        return true;
+    } catch (const host::Failure &) {
+        return false;
+    }
+}
+
+} // namespace
+
+void Portada::ConectaAcciones()
+{
+    BotonA2->Release = Menu_Describir->Click = [this] { Describir(); };
+    BotonB2->Release = Menu_Borrar->Click = [this] { Borrar(); };
+    Menu_Parametros->Click = [this] { Menu_Parametros_Click(); };
+}
+
+void Portada::Lista1_KeyDown(int tecla)
+{
+    switch (tecla) {
+    case forms::EnterKey:
+        Jugar();
+        break;
+    case forms::DeleteKey:
+        Borrar();
+        break;
+    case forms::InsertKey:
+        Describir();
+        break;
+    }
+}
+
+bool Portada::HayROMElegida() const
+{
+    return !Combo2->Text().isEmpty() && Lista1->ListIndex() >= 0;
+}
+
+void Portada::Borrar()
+{
+    if (!HayROMElegida())
+        return;
+    const int indice = Lista1->ListIndex();
+    const QString directorio = core::Valor(M.Cat_ROM(Sistema(), Emulador() + 1), core::PrefijoRuta);
+    M.TipoEmu = core::TipoDe(M.Cat_XDI(Sistema(), Emulador() + 1));
+    M.Nota_CampoTexto = core::FicheroDeEntrada(M, core::Numero(M.TipoEmu), Lista1->Text());
+    // Without a name it would be the whole directory.
+    if (M.Nota_CampoTexto.isEmpty())
+        return;
+    const QString ruta = directorio + M.Nota_CampoTexto;
+    BorrarAPapelera(ruta);
+    if (existe(ruta))
+        return;
+    Lista1->RemoveItem(indice);
+    Lista1->SetListIndex(indice == 0 ? 0 : indice - 1);
+}
+
+void Portada::BorrarAPapelera(const QString &ruta)
+{
+    const core::Palabras &palabras = M.Palabras;
+    const QString pregunta = palabras.Zem_Papelera1 + u"\n\n"_s + M.Nota_CampoTexto;
+    if (!existe(ruta) || !host::questions().askYesNo(palabras.Zem_Papelera0, pregunta))
+        return;
+    if (!host::moveToTrash(ruta))
+        Advierte(palabras.Zem_NoPapelera0, palabras.Zem_NoPapelera1);
+}
+
+void Portada::Describir()
+{
+    if (!HayROMElegida())
+        return;
+    const int indice = Lista1->ListIndex();
+    const QString entrada = Lista1->Text();
+    const int nota = core::NotaConTexto(M, entrada);
+    Mensaje(1, M.Msg_Descripcion1, M.Msg_Descripcion0, M.TXT_Aceptar, M.TXT_Volver, entrada);
+    if (M.Respuesta_Caja == entrada || M.Respuesta_Opcion == 1)
+        return;
+    const QString descripcion = M.Respuesta_Caja;
+    M.TipoEmu = core::TipoDe(M.Cat_XDI(Sistema(), Emulador() + 1));
+    const int tipo = core::Numero(M.TipoEmu);
+    if (!core::FicherosSueltos(tipo) && !core::UnDirectorioPorJuego(tipo) && !core::UnZipPorJuego(tipo))
+        return;
+    GuardaDescripcion(tipo, nota, entrada, descripcion);
+
+    JugarB1->setFocus();
+    Lista1->RemoveItem(indice);
+    Lista1->AddItem(descripcion);
+    // With the old notes still: the line of facts shows the new text as a file's.
+    Lista1->SetText(descripcion);
+    Lista1->setFocus();
+    core::RecargaNotas(M, Combo1->Text());
+}
+
+void Portada::GuardaDescripcion(int tipo, int nota, const QString &entrada, const QString &descripcion)
+{
+    const QString sistema = Combo1->Text();
+    if (nota >= 0)
+        M.ArchivoExaminar = M.Nota_Clave(nota);
+    ReescribeNotas([&](const QString &texto) {
+        return nota < 0
+            ? core::ConDescripcionNueva(texto, sistema, core::ClaveNueva(tipo, entrada), descripcion)
+            : core::ConDescripcionCambiada(texto, entrada, M.ArchivoExaminar, descripcion);
+    });
+}
+
+void Portada::Menu_Parametros_Click()
+{
+    const QString clave = core::ClaveDeParametros(M, Lista1->Text());
+    M.Ficheros.openForInput(1, host::programFile(u"Zembro.rom"_s));
+    host::TextSource notas(M.Ficheros.rest(1));
+    M.Ficheros.closeAll();
+    const QString actuales = core::ParametrosEscritos(notas, clave, Combo1->Text(), Combo2->Text());
+    Mensaje(1, M.Msg_Parametros1, M.Msg_Parametros0, M.TXT_Aceptar, M.TXT_Volver, actuales);
+    if (M.Respuesta_Caja == actuales || M.Respuesta_Opcion == 1)
+        return;
+    const core::Parametros nuevos { clave, Combo1->Text(), Combo2->Text(), M.Respuesta_Caja };
+    ReescribeNotas([&](const QString &texto) {
+        return actuales.isEmpty() ? core::ConParametrosNuevos(texto, nuevos)
+                                  : core::ConParametrosCambiados(texto, nuevos);
+    });
+}
+
+void Portada::ReescribeNotas(const std::function<QString(const QString &)> &cambio)
+{
+    M.Ficheros.rewrite(host::programFile(u"Zembro.rom"_s), u"Zembro.tmp"_s, cambio);
+}
+
+} // namespace mainscreen

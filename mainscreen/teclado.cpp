@@ -1,0 +1,81 @@
+// The main screen without a mouse: the way of Tab, the accelerators, the menu key. None of them is a key that
+// the screen listens for by itself (Enter, Insert, Delete, letters in the list).
+
+#include "mainscreen/portada.h"
+
+#include <QShortcut>
+
+#include <array>
+
+namespace mainscreen {
+
+namespace {
+
+struct Acelerador {
+    forms::PictureButton *Portada::*boton;
+    QKeyCombination tecla;
+};
+
+const Acelerador Aceleradores[] = {
+    { &Portada::Boton5b, Qt::Key_F1 },
+    { &Portada::Boton6b, Qt::SHIFT | Qt::Key_F1 },
+    { &Portada::BotonC2, Qt::Key_F2 },
+    { &Portada::BotonD2, Qt::Key_F3 },
+    { &Portada::Boton1b, Qt::Key_F5 },
+    { &Portada::Boton2b, Qt::Key_F6 },
+    { &Portada::Boton3b, Qt::Key_F7 },
+    { &Portada::Boton4b, Qt::Key_F8 },
+    { &Portada::JugarB1, Qt::Key_F9 },
+    { &Portada::E1, Qt::CTRL | Qt::Key_E },
+    { &Portada::D1, Qt::CTRL | Qt::Key_T },
+    { &Portada::FlechaE2, Qt::CTRL | Qt::Key_W },
+    { &Portada::Flecha2, Qt::CTRL | Qt::Key_Q },
+};
+
+} // namespace
+
+void Portada::ConectaTeclado()
+{
+    for (const Acelerador &acelerador : Aceleradores)
+        (this->*acelerador.boton)->setShortcut(acelerador.tecla);
+
+    const auto conTecla = [this](QKeyCombination tecla, auto accion) {
+        connect(new QShortcut(tecla, this), &QShortcut::activated, this, accion);
+    };
+    for (const auto &[tecla, punto] : { std::pair(Qt::Key_2, X2), std::pair(Qt::Key_3, X3),
+             std::pair(Qt::Key_4, X4), std::pair(Qt::Key_5, X5), std::pair(Qt::Key_0, OFF) })
+        conTecla(Qt::CTRL | tecla, [control = punto] { control->Click.raise(); });
+    conTecla(Qt::CTRL | Qt::Key_1, [this] { PulsaWeb(*WEB1); });
+    conTecla(Qt::CTRL | Qt::SHIFT | Qt::Key_1, [this] { PulsaWeb(*WEB2); });
+
+    Lista1->MenuKey = [this] {
+        if (!Lista1->Text().isEmpty())
+            Menu_Lista1->PopupOver(*Lista1);
+    };
+    for (forms::Image *imagen : { Graf_TV, Graf_Imagen })
+        imagen->MenuKey = [this] { Menu_Graf_Imagen->PopupOver(*Graf_Imagen); };
+    // Space holds the glass over it, as the mouse does.
+    Graf_Imagen->setFocusPolicy(Qt::TabFocus);
+    Editor->setTabChangesFocus(true);
+    OrdenaFoco();
+}
+
+void Portada::PulsaWeb(forms::Label &web)
+{
+    if (!web.isEnabled())
+        return;
+    web.MouseDown.raise({ forms::LeftButton });
+    web.MouseUp.raise({ forms::LeftButton });
+}
+
+void Portada::OrdenaFoco()
+{
+    const std::array<QWidget *, 24> orden { Lista1, BotonA2, BotonB2, Menos2a, Combo1, Menos2b, Combo2,
+        BotonC2, BotonD2, JugarB1, Graf_Imagen, Boton1b, Boton2b, Boton3b, Boton5b, Boton4b, Boton6b, Check1,
+        E1, D1, Flecha2, Editor, Edit2, BlocDeNotas2 };
+    for (size_t i = 1; i < orden.size(); ++i)
+        setTabOrder(orden[i - 1], orden[i]);
+    setTabOrder(BlocDeNotas2, FlechaE2);
+}
+
+} // namespace mainscreen
