@@ -1,248 +1,278 @@
-// Every text fits the place where the screens show it.
+// Every text is shown whole where the screens show it, in every language.
+#include "languages.h"
+#include "plans.h"
+#include "room.h"
 #include "sources.h"
+
+#include "tests/support/programdirectory.h"
+#include "tests/support/screentest.h"
 
 #include "core/textos.h"
 
-#include "forms/units.h"
+#include "dialogs/caja.h"
 
-#include <gtest/gtest.h>
+#include "mainscreen/portada.h"
 
-#include <QFontMetrics>
-#include <QMap>
+#include "options/primerainstalacion.h"
+
+#include "host/numberedfiles.h"
 
 #include <algorithm>
+#include <memory>
 
 using namespace Qt::StringLiterals;
+using languages::Language;
+using room::showsWhole;
 
 namespace {
 
-enum class Font { Plain, Bold, Terminal, Courier };
-
-// The room of a text, in twips: a label with what it may grow into where it stands alone, or the inside of a
-// button or a caption. A label of two lines or more wraps its text.
-struct Room {
-    QStringView key;
-    Font font;
-    int width;
-    int height;
+// What the main screen's labels show of the language, besides its labels named after their keys.
+struct Shown {
+    QString label;
+    QString key;
 };
 
-constexpr int InfoWidth = 2085; // TXT_Info, in the television set
-constexpr int InfoRomsWidth = 2250, InfoRomsHeight = 195;
-constexpr int Line = 210; // the height of most labels
-constexpr int BoxTitle = 2200; // the caption of the message box, that has no buttons of its own
-constexpr int InputWidth = 2205, InputHeight = 435; // the message box over the input, and asking
-constexpr int NoticeWidth = 2415,
-              NoticeHeight = 700; // the message box that tells or warns, down to its button
-constexpr int ComboWidth = 1515; // what the arrow leaves of a drop-down list
-
-const Room Rooms[] = {
-    // The main screen. TXT_Boton grows to both sides, up to the frames.
-    { u"TXT_NingunaROM", Font::Bold, InfoWidth, Line },
-    { u"TXT_BaseDeDatos", Font::Bold, InfoWidth, Line },
-    { u"TXT_Leyendo", Font::Bold, InfoWidth, Line },
-    { u"TXT_Añadiendo", Font::Bold, InfoWidth, Line },
-    { u"TXT_EmuNoSelec", Font::Terminal, InfoRomsWidth, InfoRomsHeight },
-    { u"TXT_Describir", Font::Plain, 705, Line },
-    { u"TXT_Borrar", Font::Plain, 615, Line },
-    { u"TXT_VerAyuda", Font::Plain, 1620, Line },
-    { u"TXT_VerConfig", Font::Plain, 1620, Line },
-    { u"TXT_Configurar", Font::Plain, 1740, Line },
-    { u"TXT_Opciones", Font::Plain, 1740, Line },
-    { u"TXT_Utilidades", Font::Plain, 740, Line },
-    { u"TXT_Ayuda", Font::Plain, 640, Line },
-    { u"TXT_AcercaDe", Font::Plain, 740, Line },
-    { u"TXT_Jugar", Font::Bold, 660, Line },
-    { u"TXT_Cargar", Font::Bold, 660, Line },
-    // Labels under the buttons of all other screens.
-    { u"TXT_Grabar", Font::Plain, 690, Line },
-    { u"TXT_Volver", Font::Plain, 585, Line },
-    { u"TXT_Aceptar", Font::Plain, 760, Line },
-    // Systems and emulators.
-    { u"TXT_TituloCFG1", Font::Bold, 2500, Line },
-    { u"TXT_Escoge", Font::Plain, 3540, Line },
-    { u"TXT_Sistemas", Font::Plain, 1695, Line },
-    { u"TXT_Emuladores", Font::Plain, 1695, Line },
-    { u"TXT_Sevaaañadir", Font::Plain, 3500, Line },
-    { u"TXT_Añadir", Font::Plain, 650, Line },
-    { u"TXT_Extensiones", Font::Plain, 650, Line },
-    { u"TXT_Leyenda", Font::Plain, 900, Line },
-    // The configuration of an emulator.
-    { u"TXT_TituloCFG2", Font::Bold, 2500, Line },
-    { u"TXT_Examinar", Font::Plain, 840, Line },
-    { u"TXT_CFGDe", Font::Bold, 3480, Line },
-    { u"TXT_CFGGeneral", Font::Bold, 2100, Line },
-    { u"TXT_EXE", Font::Plain, 3255, Line },
-    { u"TXT_ROM", Font::Plain, 3255, Line },
-    { u"TXT_IMG", Font::Plain, 3255, Line },
-    { u"TXT_PAR", Font::Plain, 3255, Line },
-    { u"TXT_SoloEXE", Font::Plain, 3210, Line },
-    { u"TXT_Especial", Font::Bold, 3255, Line },
-    { u"TXT_1DIR", Font::Plain, 2895, Line },
-    { u"TXT_Comp", Font::Plain, 2895, 495 },
-    { u"TXT_AutoComp", Font::Plain, 2850, 450 },
-    { u"TXT_AvisoTipo0", Font::Plain, 1935, 735 },
-    { u"TXT_AvisoTipo1", Font::Plain, 1935, 735 },
-    { u"TXT_AvisoNuevo", Font::Plain, 1935, 735 },
-    // Options.
-    { u"TXT_TituloOp1", Font::Bold, 1600, Line },
-    { u"TXT_Editor", Font::Plain, 2415, Line },
-    { u"TXT_EditorDOS", Font::Plain, 1950, Line },
-    { u"TXT_EditorWIN", Font::Plain, 1950, Line },
-    { u"TXT_Idioma", Font::Plain, 2415, Line },
-    { u"TXT_InfoLNG", Font::Plain, 2400, Line },
-    { u"TXT_EditarLNG", Font::Plain, 2415, 480 },
-    { u"Boton_CFGAv", Font::Plain, 2200, Line },
-    { u"TXT_TituloOp2", Font::Bold, 1900, Line },
-    { u"TXT_Guardar", Font::Plain, 2370, 690 },
-    { u"TXT_GuardarAviso", Font::Plain, 2175, 495 },
-    { u"TXT_Filtros", Font::Plain, 2535, 480 },
-    { u"TXT_FinDOS", Font::Plain, 2175, 615 },
-    { u"TXT_FinDOSAviso", Font::Plain, 2535, 660 },
-    { u"TXT_Si", Font::Plain, 320, Line },
-    { u"TXT_No", Font::Plain, 320, Line },
-    // Utilities.
-    { u"TXT_TituloUtil", Font::Bold, 1100, Line },
-    { u"TXT_Convertir", Font::Plain, 1935, 615 },
-    // The message box: over its input, and telling or warning. What is joined is measured below.
-    { u"Msg_AñadirEmu1", Font::Plain, InputWidth, InputHeight },
-    { u"Msg_AñadirSis1", Font::Plain, InputWidth, InputHeight },
-    { u"Msg_NuevaWWW1", Font::Plain, InputWidth, InputHeight },
-    { u"Msg_NuevaWWWROMS1", Font::Plain, InputWidth, InputHeight },
-    { u"Msg_Parametros1", Font::Plain, InputWidth, InputHeight },
-    { u"Msg_EXT1", Font::Plain, InputWidth, InputHeight },
-    { u"Msg_Descripcion1", Font::Plain, InputWidth, InputHeight },
-    { u"Msg_EmuYaAñadido1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_SisYaAñadido1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_EmuNoWeb1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_SisNoWeb1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_ZipSinRoms1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_NoEXE1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_NoDIR1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_Casillas1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_NingunaROM1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_CFGGrabada1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_SinCambios1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_GrabacionOK1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_NingunPCX1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_NoEmuLD1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_YaAñadido1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_ArchGrande1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_AyudaNoEnc1", Font::Courier, NoticeWidth, NoticeHeight },
-    { u"Msg_CFGNoEnc1", Font::Courier, NoticeWidth, NoticeHeight },
+const Shown ShownByPortada[] = {
+    { u"TXT_Info"_s, u"TXT_NingunaROM"_s },
+    { u"TXT_Info"_s, u"TXT_BaseDeDatos"_s },
+    { u"TXT_Info"_s, u"TXT_Leyendo"_s },
+    { u"TXT_Info"_s, u"TXT_Añadiendo"_s },
+    { u"TXT_InfoRoms"_s, u"TXT_EmuNoSelec"_s },
+    { u"TXT_Boton"_s, u"TXT_Jugar"_s },
+    { u"TXT_Boton"_s, u"TXT_Cargar"_s },
 };
 
-QFontMetrics metrics(Font font)
-{
-    switch (font) {
-    case Font::Bold:
-        return QFontMetrics(forms::arial(8.25, true));
-    case Font::Terminal:
-        return QFontMetrics(forms::terminal(6, true));
-    case Font::Courier:
-        return QFontMetrics(forms::courier(9.75));
-    case Font::Plain:
-        break;
-    }
-    return QFontMetrics(forms::arial(8.25));
-}
+const QStringList LabelsOfPortada { u"TXT_Describir"_s, u"TXT_Borrar"_s, u"TXT_VerAyuda"_s,
+    u"TXT_VerConfig"_s, u"TXT_Configurar"_s, u"TXT_Opciones"_s, u"TXT_Utilidades"_s, u"TXT_Ayuda"_s,
+    u"TXT_AcercaDe"_s };
 
-void expectFits(const QString &text, const Room &room)
-{
-    const QFontMetrics letters = metrics(room.font);
-    const int width = forms::pixels(room.width);
-    const int height = forms::pixels(room.height);
-    const int flags = height >= 2 * letters.lineSpacing() ? Qt::TextWordWrap : Qt::TextSingleLine;
-    const QRect needed = letters.boundingRect(QRect(0, 0, width, 1000), flags, text);
-    EXPECT_LE(needed.width(), width) << text.toStdString();
-    EXPECT_LE(needed.height(), height) << text.toStdString();
-}
+// Messages by the type of their box, without the final digit: 0 is the caption, 1 the text.
+const QStringList Inputs { u"Msg_AñadirEmu"_s, u"Msg_AñadirSis"_s, u"Msg_NuevaWWW"_s, u"Msg_NuevaWWWROMS"_s,
+    u"Msg_Parametros"_s, u"Msg_EXT"_s, u"Msg_Descripcion"_s };
+const QStringList Questions { u"Msg_BorrarEmu"_s, u"Msg_BorrarSis"_s };
+const QStringList Warnings { u"Msg_EmuYaAñadido"_s, u"Msg_SisYaAñadido"_s, u"Msg_NoEXE"_s, u"Msg_NoDIR"_s,
+    u"Msg_Casillas"_s, u"Msg_NingunaROM"_s, u"Msg_SinCambios"_s, u"Msg_NingunPCX"_s, u"Msg_NoEmuLD"_s,
+    u"Msg_YaAñadido"_s, u"Msg_AyudaNoEnc"_s, u"Msg_CFGNoEnc"_s };
+const QStringList Notices { u"Msg_EmuNoWeb"_s, u"Msg_SisNoWeb"_s, u"Msg_ZipSinRoms"_s, u"Msg_CFGGrabada"_s,
+    u"Msg_GrabacionOK"_s, u"Msg_ArchGrande"_s };
 
-class TextsOfLanguage : public testing::TestWithParam<QString> {
+const QStringList JoinedInNotices { u"Msg_IMGTransXX"_s, u"Msg_IMGTrans1I"_s, u"Msg_IMGTrans1D"_s,
+    u"Msg_IMGTransMI"_s, u"Msg_IMGTransMD"_s, u"Msg_NoDiscoX0"_s, u"Msg_NoDiscoI1"_s, u"Msg_NoDiscoD1"_s };
+
+// A menu is as wide as its entries.
+const QStringList Menus { u"Menu_Describir"_s, u"Menu_Borrar"_s, u"Menu_Parametros"_s };
+
+class TextsOfLanguage : public ScreenTest, public testing::WithParamInterface<Language> {
 protected:
     TextsOfLanguage()
+        : m_texts(languages::texts(GetParam()))
     {
-        for (const QString &line : sources::lines(GetParam())) {
-            if (!line.startsWith(u'\''))
-                m_texts[line.left(core::AnchoClave)] = core::TextoDeLinea(line);
-        }
     }
 
     QString text(const QString &key) const
     {
-        return m_texts.value(key.leftJustified(core::AnchoClave, u'.'));
+        EXPECT_TRUE(m_texts.contains(key)) << key.toStdString();
+        return m_texts.value(key);
     }
 
+    std::unique_ptr<core::Modulo> M = std::make_unique<core::Modulo>();
+
+private:
     QMap<QString, QString> m_texts;
 };
 
-INSTANTIATE_TEST_SUITE_P(Delivered, TextsOfLanguage,
-    testing::Values(u"LNG/ZB-ESP.LNG"_s, u"LNG/ZB-ENG.LNG"_s),
-    [](const auto &file) { return file.index == 0 ? "Spanish" : "English"; });
+INSTANTIATE_TEST_SUITE_P(Delivered, TextsOfLanguage, testing::ValuesIn(languages::delivered()),
+    [](const auto &tested) { return tested.param.name; });
+
+class TextsOfPortada : public TextsOfLanguage {
+protected:
+    TextsOfPortada()
+        : portada(*M)
+    {
+        for (const QString &label : LabelsOfPortada)
+            labelOf(label).SetCaption(text(label));
+        portada.show();
+    }
+
+    forms::Label &labelOf(const QString &name) { return controlOf<forms::Label>(portada, name); }
+
+    void expectShown(const QString &label, const QString &caption)
+    {
+        labelOf(label).SetCaption(caption);
+        EXPECT_TRUE(showsWhole(labelOf(label)));
+    }
+
+    mainscreen::Portada portada;
+};
+
+INSTANTIATE_TEST_SUITE_P(Delivered, TextsOfPortada, testing::ValuesIn(languages::delivered()),
+    [](const auto &tested) { return tested.param.name; });
+
+class TextsOfCaja : public TextsOfLanguage {
+protected:
+    enum class Box { Input, Question, Warning, Notice };
+
+    void expectShown(Box box, const QString &title, const QString &message)
+    {
+        constexpr int Tile = 10;
+        QPixmap tile(Tile, Tile);
+        tile.fill(Qt::black);
+        dialogs::Caja caja(*M, { tile, forms::twips(Tile), forms::twips(Tile) });
+        if (box == Box::Input)
+            caja.PreparaEntrada(message, title, {});
+        else if (box == Box::Question)
+            caja.PreparaPregunta(message, title);
+        else if (box == Box::Warning)
+            caja.PreparaAdvertencia(message, title);
+        else
+            caja.PreparaAviso(message, title);
+        caja.TXT_Aceptar->SetCaption(text(u"TXT_Aceptar"_s));
+        caja.TXT_Volver->SetCaption(text(u"TXT_Volver"_s));
+        caja.show();
+        for (const forms::Label *label : { caja.Texto1, caja.Texto2, caja.TXT_Aceptar }) {
+            if (!label->isHidden()) {
+                EXPECT_TRUE(showsWhole(*label));
+            }
+        }
+        // The larger arrow of a warning reaches under its word.
+        if (!caja.TXT_Volver->isHidden()) {
+            EXPECT_TRUE(showsWhole(*caja.TXT_Volver, box == Box::Warning ? caja.Flecha2 : nullptr));
+        }
+        EXPECT_TRUE(room::titleTakes(title, forms::twips(caja.width()), false));
+    }
+
+    void expectMessages(Box box, const QStringList &messages)
+    {
+        for (const QString &message : messages)
+            expectShown(box, text(message + u'0'), text(message + u'1'));
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Delivered, TextsOfCaja, testing::ValuesIn(languages::delivered()),
+    [](const auto &tested) { return tested.param.name; });
 
 QString longest(const QStringList &names)
 {
     return *std::max_element(names.begin(), names.end(), [](const QString &one, const QString &other) {
-        const QFontMetrics letters = metrics(Font::Plain);
+        const QFontMetrics letters(forms::arial(8.25));
         return letters.horizontalAdvance(one) < letters.horizontalAdvance(other);
     });
 }
 
-QStringList titles()
+QStringList keysOf(const QStringList &messages)
 {
     QStringList keys;
-    for (const core::ClaveDeTexto &key : core::ClavesDeTexto()) {
-        const QString name = key.nombre.toString();
-        if (name.startsWith(u"Msg_") && (name.endsWith(u'0') || name.endsWith(u"XX")))
-            keys += name;
-    }
+    for (const QString &message : messages)
+        keys << message + u'0' << message + u'1';
     return keys;
+}
+
+// Shows every text of a planned control, and measures it.
+void expectPlanned(QWidget &form, const plans::Planned &planned, const QString &text)
+{
+    auto *control = form.findChild<QWidget *>(planned.control, Qt::FindDirectChildrenOnly);
+    ASSERT_TRUE(control) << planned.control.toStdString();
+    if (auto *label = dynamic_cast<forms::Label *>(control)) {
+        label->SetCaption(text);
+        EXPECT_TRUE(showsWhole(*label)) << planned.control.toStdString();
+    } else if (const auto *button = qobject_cast<QPushButton *>(control)) {
+        EXPECT_TRUE(room::takes(*button, text)) << planned.control.toStdString();
+    } else if (const auto *combo = qobject_cast<QComboBox *>(control)) {
+        EXPECT_TRUE(room::takes(*combo, text)) << planned.control.toStdString();
+    } else {
+        ADD_FAILURE() << planned.control.toStdString() << " shows no text";
+    }
 }
 
 } // namespace
 
 TEST(FitOfTexts, IsMeasuredForEveryKey)
 {
-    // A menu is as wide as its entries.
-    QStringList measured { u"Menu_Describir"_s, u"Menu_Borrar"_s, u"Menu_Parametros"_s, u"TXT_Cargando"_s,
-        u"TXT_Directorios"_s, u"Msg_BorrarSis1"_s, u"Msg_BorrarEmu1"_s, u"Msg_IMGTrans1I"_s,
-        u"Msg_IMGTrans1D"_s, u"Msg_IMGTransMI"_s, u"Msg_IMGTransMD"_s, u"Msg_NoDiscoI1"_s,
-        u"Msg_NoDiscoD1"_s };
-    measured += titles();
-    for (const Room &room : Rooms)
-        measured += room.key.toString();
-    QStringList keys;
-    for (const core::ClaveDeTexto &key : core::ClavesDeTexto())
-        keys += key.nombre.toString();
+    QStringList measured = LabelsOfPortada + Menus + JoinedInNotices
+        + keysOf(Inputs + Questions + Warnings + Notices)
+        + QStringList { u"TXT_Cargando"_s, u"TXT_Directorios"_s };
+    for (const Shown &shown : ShownByPortada)
+        measured += shown.key;
+    for (const plans::Screen &screen : plans::screens()) {
+        measured += screen.caption;
+        for (const plans::Planned &planned : screen.controls)
+            measured += planned.keys;
+    }
+    for (QString &key : measured)
+        key = key.leftJustified(core::AnchoClave, u'.');
+    measured.removeDuplicates();
     measured.sort();
-    keys.sort();
-    EXPECT_EQ(measured, keys);
+    EXPECT_EQ(measured, languages::knownKeys());
 }
 
-TEST_P(TextsOfLanguage, FitTheirPlaces)
+TEST_P(TextsOfPortada, ShowWholeBesideTheirButtons)
 {
-    for (const Room &room : Rooms)
-        expectFits(text(room.key.toString()), room);
+    for (const QString &label : LabelsOfPortada)
+        EXPECT_TRUE(showsWhole(labelOf(label))) << label.toStdString();
 }
 
-TEST_P(TextsOfLanguage, FitTheTitleOfTheMessageBox)
+TEST_P(TextsOfPortada, ShowWholeInTheLabelsThatTellTheState)
 {
-    for (const QString &key : titles())
-        expectFits(text(key), { {}, Font::Bold, BoxTitle, Line });
+    for (const Shown &shown : ShownByPortada)
+        expectShown(shown.label, text(shown.key));
 }
 
-TEST_P(TextsOfLanguage, FitWhenTheyAreShownInCapitals)
+TEST_P(TextsOfPortada, ShowWholeInCapitals)
 {
-    expectFits(text(u"TXT_Cargando"_s).toUpper(), { {}, Font::Bold, InfoWidth, Line });
+    expectShown(u"TXT_Info"_s, text(u"TXT_Cargando"_s).toUpper());
 }
 
-TEST_P(TextsOfLanguage, FitBehindTheLargestCountOfDirectories)
+TEST_P(TextsOfPortada, ShowWholeBehindTheLargestCountOfDirectories)
 {
-    expectFits(u"6667 "_s + text(u"TXT_Directorios"_s) + u"  "_s,
-        { {}, Font::Terminal, InfoRomsWidth, InfoRomsHeight });
+    expectShown(u"TXT_InfoRoms"_s, u"6667 "_s + text(u"TXT_Directorios"_s) + u"  "_s);
 }
 
-TEST_P(TextsOfLanguage, FitWithTheLongestNameOfTheDatabase)
+TEST_P(TextsOfLanguage, ShowWholeOnThePlannedScreens)
+{
+    for (const plans::Screen &screen : plans::screens()) {
+        SCOPED_TRACE(screen.name);
+        const std::unique_ptr<QWidget> form = plans::built(screen);
+        for (const plans::Planned &planned : screen.controls) {
+            if (auto *label = dynamic_cast<forms::Label *>(form->findChild<QWidget *>(planned.control)))
+                label->SetCaption(text(planned.keys.first()));
+        }
+        form->show();
+        for (const plans::Planned &planned : screen.controls) {
+            for (const QString &key : planned.keys)
+                expectPlanned(*form, planned, text(key));
+        }
+        EXPECT_TRUE(room::titleTakes(text(screen.caption), screen.width, true));
+    }
+}
+
+TEST_P(TextsOfLanguage, ShowTheirCreditWholeAtTheFirstRun)
+{
+    const ProgramDirectory files;
+    for (const Language &language : languages::delivered())
+        files.write(language.file, host::readBytes(QStringLiteral(DELIVERED "/") + language.file));
+    options::PrimeraInstalacion screen(*M);
+    screen.show();
+    screen.List1->SetText(GetParam().file.section(u'/', 1));
+    EXPECT_EQ(screen.Label6->Caption(), GetParam().credit);
+    EXPECT_TRUE(showsWhole(*screen.Label6));
+}
+
+TEST_P(TextsOfCaja, ShowWholeAboveTheInput)
+{
+    expectMessages(Box::Input, Inputs);
+}
+
+TEST_P(TextsOfCaja, ShowWholeInWarnings)
+{
+    expectMessages(Box::Warning, Warnings);
+}
+
+TEST_P(TextsOfCaja, ShowWholeInNotices)
+{
+    expectMessages(Box::Notice, Notices);
+}
+
+TEST_P(TextsOfCaja, ShowWholeInQuestionsWithTheLongestNameOfTheDatabase)
 {
     QStringList systems;
     QStringList emulators;
@@ -250,25 +280,30 @@ TEST_P(TextsOfLanguage, FitWithTheLongestNameOfTheDatabase)
         systems += system.name;
         emulators += system.emulators;
     }
-    const Room question { {}, Font::Plain, InputWidth, InputHeight };
-    expectFits(text(u"Msg_BorrarSis1"_s) + longest(systems) + u'?', question);
-    expectFits(text(u"Msg_BorrarEmu1"_s) + longest(emulators) + u'?', question);
+    expectShown(
+        Box::Question, text(u"Msg_BorrarSis0"_s), text(u"Msg_BorrarSis1"_s) + longest(systems) + u'?');
+    expectShown(
+        Box::Question, text(u"Msg_BorrarEmu0"_s), text(u"Msg_BorrarEmu1"_s) + longest(emulators) + u'?');
 }
 
-TEST_P(TextsOfLanguage, FitAroundANumberOrADrive)
+TEST_P(TextsOfCaja, ShowWholeAroundANumberOrADrive)
 {
-    const Room notice { {}, Font::Courier, NoticeWidth, NoticeHeight };
-    expectFits(text(u"Msg_IMGTrans1I"_s) + u" 1 "_s + text(u"Msg_IMGTrans1D"_s), notice);
-    expectFits(text(u"Msg_IMGTransMI"_s) + u" 5001 "_s + text(u"Msg_IMGTransMD"_s), notice);
-    expectFits(text(u"Msg_NoDiscoI1"_s) + u" /MEDIA/CDROM0 "_s + text(u"Msg_NoDiscoD1"_s), notice);
+    const QString converted = text(u"Msg_IMGTransXX"_s);
+    expectShown(Box::Notice, converted, text(u"Msg_IMGTrans1I"_s) + u" 1 "_s + text(u"Msg_IMGTrans1D"_s));
+    expectShown(Box::Notice, converted, text(u"Msg_IMGTransMI"_s) + u" 5001 "_s + text(u"Msg_IMGTransMD"_s));
+    expectShown(Box::Notice, text(u"Msg_NoDiscoX0"_s),
+        text(u"Msg_NoDiscoI1"_s) + u" /MEDIA/CDROM0 "_s + text(u"Msg_NoDiscoD1"_s));
 }
 
 TEST(NamesOfTheDatabase, FitTheDropDownListsAndThePairOfBoth)
 {
+    const QFontMetrics letters(forms::arial(8.25));
+    constexpr int ComboWidth = 1515; // twips: what the arrow leaves
+    constexpr int PairWidth = 3120;
     for (const sources::System &system : sources::systems(u"Zembro.sye"_s)) {
-        expectFits(system.name, { {}, Font::Plain, ComboWidth, Line });
-        expectFits(system.name + u" -> "_s + longest(system.emulators), { {}, Font::Plain, 3120, Line });
-        for (const QString &emulator : system.emulators)
-            expectFits(emulator, { {}, Font::Plain, ComboWidth, Line });
+        const QString pair = system.name + u" -> "_s + longest(system.emulators);
+        EXPECT_LE(letters.horizontalAdvance(pair), forms::pixels(PairWidth)) << pair.toStdString();
+        for (const QString &name : system.emulators + QStringList { system.name })
+            EXPECT_LE(letters.horizontalAdvance(name), forms::pixels(ComboWidth)) << name.toStdString();
     }
 }

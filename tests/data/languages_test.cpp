@@ -1,65 +1,55 @@
 // The language files: layout, keys, and the blanks at the ends of texts that the program joins.
+#include "languages.h"
 #include "sources.h"
 
 #include "core/textos.h"
 
 #include <gmock/gmock.h>
 
-#include <QMap>
+#include <QDir>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
+using languages::Language;
+using languages::settings;
+using languages::texts;
 
 namespace {
 
-const QString Spanish = u"LNG/ZB-ESP.LNG"_s;
-const QString English = u"LNG/ZB-ENG.LNG"_s;
-
-QStringList settings(const QString &file)
-{
-    QStringList lines = sources::lines(file);
-    lines.removeIf([](const QString &line) { return line.startsWith(u'\''); });
-    return lines;
-}
-
-// Texts by key, the key without its points; of a key that comes twice the last, as the program has it.
-QMap<QString, QString> texts(const QString &file)
-{
-    QMap<QString, QString> read;
-    core::TextosIdioma variables;
-    core::LectorDeTextos reader(
-        variables, [&read](const QString &name, const QString &text) { read[name] = text; });
-    for (const QString &line : sources::lines(file))
-        reader.Linea(line);
-    for (const core::ClaveDeTexto &key : core::ClavesDeTexto()) {
-        if (key.variable)
-            read[key.nombre.toString()] = variables.*(key.variable);
-    }
-    return read;
-}
-
-QStringList allKeys()
+QStringList keysOf(const Language &language)
 {
     QStringList keys;
-    for (const core::ClaveDeTexto &key : core::ClavesDeTexto())
-        keys += key.nombre.toString().leftJustified(core::AnchoClave, u'.');
-    keys.sort();
+    for (const QString &line : settings(language))
+        keys += line.left(core::AnchoClave);
     return keys;
 }
 
-class LanguageFile : public testing::TestWithParam<QString> { };
+class LanguageFile : public testing::TestWithParam<Language> { };
 
-INSTANTIATE_TEST_SUITE_P(Delivered, LanguageFile, testing::Values(Spanish, English),
-    [](const auto &file) { return file.index == 0 ? "Spanish" : "English"; });
+INSTANTIATE_TEST_SUITE_P(Delivered, LanguageFile, testing::ValuesIn(languages::delivered()),
+    [](const auto &tested) { return tested.param.name; });
 
 } // namespace
 
 TEST_P(LanguageFile, HoldsEveryKeyOnceAndNoOther)
 {
-    QStringList keys;
-    for (const QString &line : settings(GetParam()))
-        keys += line.left(core::AnchoClave);
+    QStringList keys = keysOf(GetParam());
     keys.sort();
-    EXPECT_EQ(keys, allKeys());
+    EXPECT_EQ(keys, languages::knownKeys());
+}
+
+// Whoever compares two of them finds each text on the same line.
+TEST_P(LanguageFile, HoldsItsLinesInTheOrderOfTheOthers)
+{
+    const QStringList lines = sources::lines(GetParam().file);
+    const QStringList model = sources::lines(languages::delivered().front().file);
+    ASSERT_EQ(lines.size(), model.size());
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const bool comment = model[i].startsWith(u'\'');
+        EXPECT_EQ(lines[i].startsWith(u'\''), comment) << lines[i].toStdString();
+        const qsizetype columns = comment ? 1 : core::AnchoClave;
+        EXPECT_EQ(lines[i].left(columns), model[i].left(columns));
+    }
 }
 
 TEST_P(LanguageFile, HasItsTextsBetweenTheSeparatorAndTheClosingQuote)
@@ -74,18 +64,18 @@ TEST_P(LanguageFile, HasItsTextsBetweenTheSeparatorAndTheClosingQuote)
 // The reader fails on an empty line, and the program with it.
 TEST_P(LanguageFile, HasNoEmptyLine)
 {
-    EXPECT_FALSE(sources::lines(GetParam()).contains(QString()));
+    EXPECT_FALSE(sources::lines(GetParam().file).contains(QString()));
 }
 
 TEST_P(LanguageFile, IsReadBackAsItWasAfterDelivery)
 {
-    EXPECT_TRUE(sources::survivesDelivery(sources::delivered(GetParam())));
+    EXPECT_TRUE(sources::survivesDelivery(sources::delivered(GetParam().file)));
 }
 
 TEST_P(LanguageFile, HasATextForEveryKey)
 {
     const QMap<QString, QString> read = texts(GetParam());
-    EXPECT_EQ(read.size(), core::TotalClaves);
+    EXPECT_EQ(read.size(), languages::knownKeys().size());
     for (const auto &[key, text] : read.asKeyValueRange())
         EXPECT_FALSE(text.isEmpty()) << key.toStdString();
 }
@@ -97,6 +87,7 @@ TEST_P(LanguageFile, EndsInABlankOnlyWhereANameFollows)
     for (const auto &[key, text] : texts(GetParam()).asKeyValueRange()) {
         const QString blank = questions.contains(key) ? u" "_s : QString();
         EXPECT_EQ(text, text.trimmed() + blank) << key.toStdString();
+        EXPECT_FALSE(text.contains(u"  "_s)) << key.toStdString();
     }
 }
 
@@ -113,28 +104,47 @@ TEST_P(LanguageFile, GivesEachMenuEntryAShortcutOfItsOwn)
     EXPECT_NE(shortcuts[1], shortcuts[2]) << shortcuts.toStdString();
 }
 
-TEST(LanguageFiles, HoldTheSameKeys)
+// Shown before any language is read, by cutting the line at its columns.
+TEST_P(LanguageFile, NamesItsLanguageAndAuthor)
 {
-    QStringList spanish;
-    QStringList english;
-    for (const QString &line : settings(Spanish))
-        spanish += line.left(core::AnchoClave);
-    for (const QString &line : settings(English))
-        english += line.left(core::AnchoClave);
-    EXPECT_EQ(spanish, english);
+    EXPECT_EQ(texts(GetParam())[u"TXT_InfoLNG"_s], GetParam().credit);
 }
 
-// Shown before any language is read, by cutting the line at its columns.
-TEST(LanguageFiles, NameTheirLanguageAndAuthor)
+// The message tells the user to answer with this word.
+TEST_P(LanguageFile, NamesTheAnswerAsItIsWrittenOnTheScreen)
 {
-    EXPECT_EQ(texts(Spanish)[u"TXT_InfoLNG"_s], u"Lng: Español - Autor: Dorvel");
-    EXPECT_EQ(texts(English)[u"TXT_InfoLNG"_s], u"Lng: English - Author: Dorvel");
+    const QMap<QString, QString> read = texts(GetParam());
+    const QStringList words = read[u"TXT_GuardarAviso"_s].split(u' ');
+    EXPECT_TRUE(words.contains(read[u"TXT_No"_s].toUpper()));
+}
+
+TEST_P(LanguageFile, NamesTheFilesOfLanguagesAsTheyAreCalled)
+{
+    EXPECT_TRUE(texts(GetParam())[u"TXT_EditarLNG"_s].contains(u"ZB-xxx.LNG"_s));
+}
+
+TEST(LanguageFiles, AreAllThatLieInTheirDirectory)
+{
+    QStringList names;
+    for (const Language &language : languages::delivered())
+        names += language.file.section(u'/', 1);
+    names.sort();
+    EXPECT_EQ(QDir(QStringLiteral(DATA_SOURCES "/LNG")).entryList(QDir::Files, QDir::Name), names);
 }
 
 TEST(LanguageFiles, AskInSpanishBetweenBothQuestionMarks)
 {
-    for (const auto &[key, text] : texts(Spanish).asKeyValueRange()) {
+    for (const auto &[key, text] : texts(languages::delivered().front()).asKeyValueRange()) {
         const bool markFollows = key == u"Msg_BorrarEmu1" || key == u"Msg_BorrarSis1";
         EXPECT_EQ(text.count(u'¿'), text.count(u'?') + (markFollows ? 1 : 0)) << key.toStdString();
+    }
+}
+
+// Else a line could end ahead of the mark.
+TEST(LanguageFiles, TieInFrenchEveryDoubleMarkToItsWord)
+{
+    const QRegularExpression loose(u"(^|[^\\x{A0}])[?!;]|[^\\x{A0}]:"_s);
+    for (const auto &[key, text] : texts(languages::delivered().at(3)).asKeyValueRange()) {
+        EXPECT_FALSE(text.contains(loose)) << key.toStdString();
     }
 }

@@ -12,11 +12,6 @@
 
 using namespace Qt::StringLiterals;
 
-void PrintTo(const QString &text, std::ostream *out)
-{
-    *out << '"' << text.toStdString() << '"';
-}
-
 namespace sources {
 
 QStringList lines(const QString &name)

@@ -1,16 +1,14 @@
 // The sources of what lies beside the executable: UTF-8 with LF ends, delivered in Windows-1252 with CR LF.
 #pragma once
 
+#include "tests/support/printing.h"
+
 #include "core/modulo.h"
 
 #include <QString>
 #include <QStringList>
 
-#include <ostream>
 #include <vector>
-
-// How GoogleTest shows a text.
-void PrintTo(const QString &text, std::ostream *out);
 
 namespace sources {
 
