@@ -1,0 +1,71 @@
+#!/usr/bin/python3
+"""Makes the pictures of tests/converter/fixtures anew: NAME.ppm is a picture, NAME-TOOL.pcx what a program made of it.
+
+Needs Debian's netpbm, imagemagick, graphicsmagick, ffmpeg and python3-pil; the tests need none of them.
+"""
+import pathlib
+import subprocess
+
+from PIL import Image
+
+fixtures = pathlib.Path(__file__).parent / "fixtures"
+width, height = 141, 9  # an odd width, with runs longer than one byte can count
+
+
+def write(name, colour_at):
+    pixels = b"".join(bytes(colour_at(x, y)) for y in range(height) for x in range(width))
+    (fixtures / f"{name}.ppm").write_bytes(b"P6\n%d %d\n255\n" % (width, height) + pixels)
+
+
+def pattern(x, y):
+    """The upper lines are long runs, the lower ones change from pixel to pixel."""
+    return x // 70 + y if y < 3 else x * 7 + y * 3
+
+
+def spread(index, count):
+    """Colours that differ in all three channels and in their upper two bits."""
+    return ((index * 97 + 13) % 256, 255 - index * 255 // (count - 1), (index * 181 + 200) % 256)
+
+
+def write_sources():
+    write("mono", lambda x, y: (255 * (pattern(x, y) % 2),) * 3)
+    for name, count in (("two", 2), ("four", 4), ("eight", 8), ("sixteen", 16), ("all256", 256)):
+        write(name, lambda x, y, count=count: spread(pattern(x, y) % count, count))
+    write("grey", lambda x, y: (pattern(x, y) % 256,) * 3)
+    write("true", lambda x, y: (x * 255 // (width - 1), y * 31 % 256, (x * 3 + y * 17) % 256))
+
+
+def run(*command, output=None):
+    stdout = open(fixtures / output, "wb") if output else None
+    subprocess.run([str(part) for part in command], check=True, cwd=fixtures, stdout=stdout,
+                   stderr=subprocess.DEVNULL)
+
+
+def write_pcx():
+    for name in ("two", "four", "eight", "sixteen", "all256", "true", "mono"):
+        run("ppmtopcx", f"{name}.ppm", output=f"{name}-netpbm.pcx")
+    for name in ("four", "sixteen"):
+        run("ppmtopcx", "-packed", f"{name}.ppm", output=f"{name}-netpbm-packed.pcx")
+    run("ppmtopcx", "-24bit", "sixteen.ppm", output="sixteen-netpbm-24.pcx")
+    run("ppmtopcx", "-xpos", "7", "-ypos", "5", "sixteen.ppm", output="sixteen-netpbm-offset.pcx")
+    for name, kind in (("all256", "palette"), ("grey", "truecolor"), ("sixteen", "truecolor"), ("true", "truecolor")):
+        run("convert", f"{name}.ppm", "-type", kind, f"{name}-imagemagick.pcx")
+        run("convert", f"{name}.ppm", "-type", kind, "-compress", "none", f"{name}-imagemagick-raw.pcx")
+        run("gm", "convert", f"{name}.ppm", "-type", kind, f"{name}-graphicsmagick.pcx")
+    run("convert", "true.ppm", "-alpha", "on", "-channel", "A", "-evaluate", "set", "40%", "true-imagemagick-alpha.pcx")
+    run("gm", "convert", "mono.ppm", "-type", "bilevel", "mono-graphicsmagick.pcx")
+    for name, layout in (("true", "rgb24"), ("grey", "gray"), ("mono", "monob")):
+        run("ffmpeg", "-v", "error", "-y", "-i", f"{name}.ppm", "-sws_dither", "none", "-pix_fmt", layout,
+            f"{name}-ffmpeg.pcx")
+    for name, mode in (("true", "RGB"), ("grey", "L"), ("mono", "1"), ("all256", "P")):
+        picture = Image.open(fixtures / f"{name}.ppm")
+        if mode == "P":
+            picture = picture.quantize(256, dither=Image.Dither.NONE)
+        picture.convert(mode, dither=Image.Dither.NONE).save(fixtures / f"{name}-pillow.pcx")
+
+
+fixtures.mkdir(exist_ok=True)
+for old in (*fixtures.glob("*.ppm"), *fixtures.glob("*.pcx")):
+    old.unlink()
+write_sources()
+write_pcx()
