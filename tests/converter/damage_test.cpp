@@ -139,7 +139,7 @@ TEST(PcxDamage, YieldsAWholePictureOrNone_WhateverTheHeaderSays)
         QByteArray bytes = file.bytes();
         for (int i = 0; i < 128; ++i) {
             const char original = bytes[i];
-            for (int value = 0; value < 256; ++value) {
+            for (int value = 0; value < 256; value += 3) { // 0 and 255 among them
                 bytes[i] = char(value);
                 try {
                     const converter::Picture picture = converter::readPcx(span(bytes));
