@@ -52,15 +52,24 @@ const QStringList Inputs { u"Msg_AñadirEmu"_s, u"Msg_AñadirSis"_s, u"Msg_Nueva
 const QStringList Questions { u"Msg_BorrarEmu"_s, u"Msg_BorrarSis"_s };
 const QStringList Warnings { u"Msg_EmuYaAñadido"_s, u"Msg_SisYaAñadido"_s, u"Msg_NoEXE"_s, u"Msg_NoDIR"_s,
     u"Msg_Casillas"_s, u"Msg_NingunaROM"_s, u"Msg_SinCambios"_s, u"Msg_NingunPCX"_s, u"Msg_NoEmuLD"_s,
-    u"Msg_YaAñadido"_s, u"Msg_AyudaNoEnc"_s, u"Msg_CFGNoEnc"_s };
+    u"Msg_YaAñadido"_s, u"Msg_AyudaNoEnc"_s, u"Msg_CFGNoEnc"_s, u"Zem_NoPapelera"_s };
 const QStringList Notices { u"Msg_EmuNoWeb"_s, u"Msg_SisNoWeb"_s, u"Msg_ZipSinRoms"_s, u"Msg_CFGGrabada"_s,
     u"Msg_GrabacionOK"_s, u"Msg_ArchGrande"_s };
 
 const QStringList JoinedInNotices { u"Msg_IMGTransXX"_s, u"Msg_IMGTrans1I"_s, u"Msg_IMGTrans1D"_s,
     u"Msg_IMGTransMI"_s, u"Msg_IMGTransMD"_s, u"Msg_NoDiscoX0"_s, u"Msg_NoDiscoI1"_s, u"Msg_NoDiscoD1"_s };
 
-// A menu is as wide as its entries.
-const QStringList Menus { u"Menu_Describir"_s, u"Menu_Borrar"_s, u"Menu_Parametros"_s };
+// Warnings under one caption.
+const QString MissingTool = u"Zem_Falta0"_s;
+const QStringList MissingTools { u"Zem_FaltaEditor"_s, u"Zem_FaltaEdit"_s, u"Zem_FaltaTerm"_s,
+    u"Zem_FaltaGestor"_s };
+
+// As wide as what they show, or shown to nobody: menu entries, plain boxes, and what screen readers say.
+const QStringList Unbound { u"Menu_Describir"_s, u"Menu_Borrar"_s, u"Menu_Parametros"_s, u"Zem_Papelera0"_s,
+    u"Zem_Papelera1"_s, u"Zem_Lista1"_s, u"Zem_Combo1"_s, u"Zem_Combo2"_s, u"Zem_Menos2a"_s, u"Zem_Menos2b"_s,
+    u"Zem_Titulo1"_s, u"Zem_Graf_TV"_s, u"Zem_Captura"_s, u"Zem_OFF"_s, u"Zem_WEB1"_s, u"Zem_WEB2"_s,
+    u"Zem_D1"_s, u"Zem_E1"_s, u"Zem_Flecha2"_s, u"Zem_Editor"_s, u"Zem_FlechaE2"_s, u"Zem_Edit2"_s,
+    u"Zem_BlocNotas2"_s };
 
 class TextsOfLanguage : public ScreenTest, public testing::WithParamInterface<Language> {
 protected:
@@ -188,9 +197,9 @@ void expectPlanned(QWidget &form, const plans::Planned &planned, const QString &
 
 TEST(FitOfTexts, IsMeasuredForEveryKey)
 {
-    QStringList measured = LabelsOfPortada + Menus + JoinedInNotices
+    QStringList measured = LabelsOfPortada + Unbound + JoinedInNotices + MissingTools
         + keysOf(Inputs + Questions + Warnings + Notices)
-        + QStringList { u"TXT_Cargando"_s, u"TXT_Directorios"_s };
+        + QStringList { u"TXT_Cargando"_s, u"TXT_Directorios"_s, MissingTool };
     for (const Shown &shown : ShownByPortada)
         measured += shown.key;
     for (const plans::Screen &screen : plans::screens()) {
@@ -265,6 +274,12 @@ TEST_P(TextsOfCaja, ShowWholeAboveTheInput)
 TEST_P(TextsOfCaja, ShowWholeInWarnings)
 {
     expectMessages(Box::Warning, Warnings);
+}
+
+TEST_P(TextsOfCaja, ShowWholeInWarningsOfMissingTools)
+{
+    for (const QString &tool : MissingTools)
+        expectShown(Box::Warning, text(MissingTool), text(tool));
 }
 
 TEST_P(TextsOfCaja, ShowWholeInNotices)

@@ -2,6 +2,7 @@
 
 #include "sources.h"
 
+#include "core/palabras.h"
 #include "core/textos.h"
 
 using namespace Qt::StringLiterals;
@@ -31,7 +32,11 @@ QStringList knownKeys()
 {
     QStringList keys;
     for (const core::ClaveDeTexto &key : core::ClavesDeTexto())
-        keys += key.nombre.toString().leftJustified(core::AnchoClave, u'.');
+        keys += key.nombre.toString();
+    for (const core::ClaveDePalabra &key : core::ClavesDePalabras())
+        keys += key.nombre.toString();
+    for (QString &key : keys)
+        key = key.leftJustified(core::AnchoClave, u'.');
     keys.sort();
     return keys;
 }

@@ -2,6 +2,7 @@
 #include "languages.h"
 #include "sources.h"
 
+#include "core/palabras.h"
 #include "core/textos.h"
 
 #include <gmock/gmock.h>
@@ -130,6 +131,14 @@ TEST(LanguageFiles, AreAllThatLieInTheirDirectory)
         names += language.file.section(u'/', 1);
     names.sort();
     EXPECT_EQ(QDir(QStringLiteral(DATA_SOURCES "/LNG")).entryList(QDir::Files, QDir::Name), names);
+}
+
+TEST(LanguageFiles, SayInSpanishWhatIsBuiltIn)
+{
+    const core::Palabras builtIn;
+    const QMap<QString, QString> read = texts(languages::delivered().front());
+    for (const core::ClaveDePalabra &key : core::ClavesDePalabras())
+        EXPECT_EQ(read[key.nombre.toString()], builtIn.*key.variable);
 }
 
 TEST(LanguageFiles, AskInSpanishBetweenBothQuestionMarks)
