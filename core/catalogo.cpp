@@ -11,44 +11,50 @@ using namespace Qt::StringLiterals;
 
 namespace core {
 
+LectorDeSistemas::LectorDeSistemas(const TablasDeSistemas &tablas)
+    : m_tablas(tablas)
+{
+    m_tablas.sistema = -1;
+    m_tablas.emulador = -1;
+}
+
+void LectorDeSistemas::Linea(const QString &linea)
+{
+    int &s = m_tablas.sistema;
+    int &e = m_tablas.emulador;
+    if (linea.startsWith(u'-')) {
+        e = 0;
+        m_tablas.nombre(++s, 0) = linea;
+    } else if (linea.startsWith(u'+')) {
+        m_extension = 0;
+        m_tablas.nombre(s, ++e) = linea;
+    } else if (linea.startsWith(u"*.")) {
+        m_tablas.extension(s, m_extension++) = linea;
+    } else if (linea.startsWith(u"WEB1")) {
+        m_tablas.web1(s) = linea;
+    } else if (linea.startsWith(u"WEB2")) {
+        m_tablas.web2(s, e) = linea;
+    }
+}
+
 LectorDeCatalogo::LectorDeCatalogo(Modulo &modulo)
     : M(modulo)
+    , m_sistemas({ M.Cat_Nombre, M.Cat_EXT, M.Cat_WEB1, M.Cat_WEB2, M.Indice_Sistema, M.Indice_Emulador })
 {
     for (Tabla2<QString> *tabla : { &M.Cat_Nombre, &M.Cat_EXE, &M.Cat_XDI, &M.Cat_ROM, &M.Cat_IMG,
              &M.Cat_PAR1, &M.Cat_PAR2, &M.Cat_EXT, &M.Cat_WEB2 })
         tabla->vacia();
     M.Cat_WEB1.vacia();
-    M.Indice_Sistema = -1;
-    M.Indice_Emulador = -1;
 }
 
 void LectorDeCatalogo::Linea(const QString &linea)
 {
-    if (linea.startsWith(u'-')) {
-        M.Indice_Emulador = 0;
-        ++M.Indice_Sistema;
-        M.Cat_Nombre(M.Indice_Sistema, 0) = linea;
-    } else if (linea.startsWith(u'+')) {
-        m_extension = 0;
-        ++M.Indice_Emulador;
-        M.Cat_Nombre(M.Indice_Sistema, M.Indice_Emulador) = linea;
-    } else if (linea.startsWith(u"*.")) {
-        M.Cat_EXT(M.Indice_Sistema, m_extension++) = linea;
-    } else if (linea.startsWith(u"WEB1")) {
-        M.Cat_WEB1(M.Indice_Sistema) = linea;
-    } else {
-        lineaDeEmulador(linea);
-    }
-}
-
-void LectorDeCatalogo::lineaDeEmulador(const QString &linea)
-{
+    m_sistemas.Linea(linea);
     const struct {
         QLatin1StringView prefijo;
         Tabla2<QString> &tabla;
     } claves[] = { { "EXE"_L1, M.Cat_EXE }, { "XDI"_L1, M.Cat_XDI }, { "ROM"_L1, M.Cat_ROM },
-        { "IMG"_L1, M.Cat_IMG }, { "PAR1"_L1, M.Cat_PAR1 }, { "PAR2"_L1, M.Cat_PAR2 },
-        { "WEB2"_L1, M.Cat_WEB2 } };
+        { "IMG"_L1, M.Cat_IMG }, { "PAR1"_L1, M.Cat_PAR1 }, { "PAR2"_L1, M.Cat_PAR2 } };
     for (const auto &clave : claves) {
         if (linea.startsWith(clave.prefijo))
             clave.tabla(M.Indice_Sistema, M.Indice_Emulador) = linea;
@@ -88,14 +94,6 @@ int posicionOrdenada(std::vector<QString> nombres, const QString &nombre)
     return 0;
 }
 
-int posicionDeSistema(const Modulo &M, const QString &sistema)
-{
-    std::vector<QString> nombres(1);
-    for (int s = 0; s < M.TotalSistemas; ++s)
-        nombres.push_back(host::upper(Valor(M.Cat_Nombre(s, 0), 1)));
-    return posicionOrdenada(std::move(nombres), sistema);
-}
-
 int posicionDeEmulador(const Modulo &M, const QString &sistema, const QString &emulador)
 {
     for (int s = 0; s < M.TotalSistemas; ++s) {
@@ -111,10 +109,18 @@ int posicionDeEmulador(const Modulo &M, const QString &sistema, const QString &e
 
 } // namespace
 
+int PosicionDeSistema(const Modulo &M, const QString &sistema)
+{
+    std::vector<QString> nombres(1);
+    for (int s = 0; s < M.TotalSistemas; ++s)
+        nombres.push_back(host::upper(Valor(M.Cat_Nombre(s, 0), 1)));
+    return posicionOrdenada(std::move(nombres), sistema);
+}
+
 Posiciones PosicionesDe(const Modulo &M, const QString &sistema, const QString &emulador)
 {
     Posiciones posiciones;
-    posiciones.sistema = posicionDeSistema(M, sistema);
+    posiciones.sistema = PosicionDeSistema(M, sistema);
     if (!emulador.isEmpty())
         posiciones.emulador = posicionDeEmulador(M, sistema, emulador);
     else if (!sistema.isEmpty())

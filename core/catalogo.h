@@ -12,22 +12,43 @@ namespace core {
 inline constexpr int PrefijoRuta = 4; // "EXE=", "ROM=", "IMG="
 inline constexpr int PrefijoParametro = 5; // "PAR1=", "PAR2=", "WEB1=", "WEB2="
 
-class LectorDeCatalogo {
+// Where the lines go that both catalogue files have.
+struct TablasDeSistemas {
+    Tabla2<QString> &nombre;
+    Tabla2<QString> &extension;
+    Tabla<QString> &web1;
+    Tabla2<QString> &web2;
+    int &sistema;
+    int &emulador;
+};
+
+class LectorDeSistemas {
 public:
-    // Clears the tables, and sets the cursors ahead of the first line.
-    explicit LectorDeCatalogo(Modulo &M);
+    // Sets the cursors ahead of the first line.
+    explicit LectorDeSistemas(const TablasDeSistemas &tablas);
 
     // Fails with 9 for a system, an emulator or an extension past the tables, and for a line of a system
     // ahead of the first one.
     void Linea(const QString &linea);
 
 private:
-    void lineaDeEmulador(const QString &linea);
-
-    Modulo &M;
+    TablasDeSistemas m_tablas;
     // Goes back to 0 at an emulator, not at a system: behind a system without emulators the next one's
     // extensions stand further back, and it reads as having none.
     int m_extension = 0;
+};
+
+class LectorDeCatalogo {
+public:
+    // Clears the tables, and sets the cursors ahead of the first line.
+    explicit LectorDeCatalogo(Modulo &M);
+
+    // Fails as LectorDeSistemas does.
+    void Linea(const QString &linea);
+
+private:
+    Modulo &M;
+    LectorDeSistemas m_sistemas;
 };
 
 // Reads Zembro.sye in the view of the database, else Zembro.emu, under number 1; a failure leaves the number
@@ -36,6 +57,9 @@ void LeeCatalogo(Modulo &M);
 
 // Number of emulators of a system.
 int TotalEmuladores(const Modulo &M, int sistema);
+
+// The position of a name among the sorted names of the systems, counted from 0; 0 if it isn't there.
+int PosicionDeSistema(const Modulo &M, const QString &sistema);
 
 // What Portada's exit saves: the positions of these names in the sorted lists, counted from 0.
 struct Posiciones {

@@ -68,6 +68,48 @@ Parametros leeParametros(host::TextSource &fuente)
     return leidos;
 }
 
+// The closing record on three lines. Where a system follows the section, they are its header and its first
+// note.
+void copiaCierre(Copia &copia, const Parametros &cierre)
+{
+    copia.Nueva(cierre.clave);
+    copia.Nueva(cierre.sistema);
+    copia.Nueva(cierre.emulador + u",\""_s + cierre.texto + u'"');
+}
+
+// The same where that system has no notes: its closing apostrophe and the header behind it were read along.
+void copiaCierreConSistemaVacio(Copia &copia, const Parametros &cierre)
+{
+    for (const QString &campo : { cierre.clave, cierre.sistema, cierre.emulador, cierre.texto })
+        copia.Nueva(campo);
+}
+
+// The records up to the closing one, or to the end of the text, without those of a system.
+void copiaParametrosDeOtros(Copia &copia, host::TextSource &fuente, const QString &sistema)
+{
+    while (!fuente.atEnd()) {
+        const Parametros leidos = leeParametros(fuente);
+        if (leidos.clave == u"'") {
+            if (leidos.emulador == u"'")
+                copiaCierreConSistemaVacio(copia, leidos);
+            else
+                copiaCierre(copia, leidos);
+            return;
+        }
+        if (!host::sameName(leidos.sistema, sistema))
+            copia.Nueva(registroDeParametros(leidos));
+    }
+}
+
+// The next line with its end, as views into the source.
+LineaConFin leeLineaConFin(host::TextSource &fuente)
+{
+    const QStringView antes = fuente.rest();
+    const qsizetype largo = fuente.readLine().size();
+    const qsizetype leido = fuente.atEnd() ? antes.size() : antes.size() - fuente.rest().size();
+    return { antes.first(largo), antes.sliced(largo, leido - largo) };
+}
+
 void copiaSinVacias(Copia &copia, QStringView texto)
 {
     for (const LineaConFin &linea : EnLineas(texto)) {
@@ -203,9 +245,7 @@ QString ConParametrosCambiados(const QString &texto, const Parametros &parametro
             throw host::Failure(host::PastEndOfFile, u"find the end of the parameters"_s, u"Zembro.rom"_s);
         const Parametros leidos = leeParametros(fuente);
         if (leidos.clave == u"'") {
-            copia.Nueva(leidos.clave);
-            copia.Nueva(leidos.sistema);
-            copia.Nueva(leidos.emulador + u",\""_s + leidos.texto + u'"');
+            copiaCierre(copia, leidos);
             break;
         }
         const bool propio = host::upper(leidos.clave) == buscada;
@@ -229,6 +269,35 @@ QString ConSistemaNuevo(const QString &texto, const QString &sistema)
             escrito = true;
         }
         copia.Copiar(linea);
+    }
+    return copia.Texto();
+}
+
+QString SinParametrosDeSistema(const QString &texto, const QString &sistema)
+{
+    host::TextSource fuente(texto);
+    Copia copia;
+    while (!fuente.atEnd()) {
+        const LineaConFin linea = leeLineaConFin(fuente);
+        if (!linea.linea.isEmpty())
+            copia.Copiar(linea);
+        if (linea.linea.startsWith(InicioParametros))
+            copiaParametrosDeOtros(copia, fuente, sistema);
+    }
+    return copia.Texto();
+}
+
+QString SinNotasDeSistema(const QString &texto, const QString &sistema)
+{
+    Copia copia;
+    bool dentro = false;
+    for (const LineaConFin &linea : EnLineas(texto)) {
+        if (linea.linea == sistema)
+            dentro = true;
+        if (!dentro)
+            copia.Copiar(linea);
+        if (linea.linea.startsWith(u'\''))
+            dentro = false;
     }
     return copia.Texto();
 }
