@@ -1,0 +1,212 @@
+// Removals from the two catalogue files, and the place that is selected afterwards.
+#include "catalogosdeprueba.h"
+
+#include "core/altas.h"
+#include "core/bajas.h"
+#include "core/catalogo.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Bajas : public CatalogosDePrueba {
+protected:
+    QByteArray SinSistema(const QByteArray &bytes, const QString &sistema)
+    {
+        return Cambiado(bytes, [&](const QString &t) { return core::SinSistema(t, sistema); });
+    }
+
+    QByteArray SinEmuladorEnBase(const QByteArray &bytes, const QString &sistema, const QString &emulador)
+    {
+        return Cambiado(
+            bytes, [&](const QString &t) { return core::SinEmuladorEnBase(t, sistema, emulador); });
+    }
+
+    QByteArray SinUnico(const QByteArray &bytes, const QString &sistema)
+    {
+        return Cambiado(bytes, [&](const QString &t) { return core::SinUnicoEmulador(t, sistema); });
+    }
+
+    QByteArray SinEmulador(const QByteArray &bytes, const QString &emulador)
+    {
+        return Cambiado(bytes, [&](const QString &t) { return core::SinEmulador(t, emulador); });
+    }
+
+    QByteArray SinUltimo(const QByteArray &bytes, const QString &sistema, int total)
+    {
+        return Cambiado(bytes, [&](const QString &t) { return core::SinUltimoEmulador(t, sistema, total); });
+    }
+
+    void LeeSistemas(const QStringList &nombres)
+    {
+        core::LectorDeCatalogo lector(M);
+        for (const QString &nombre : nombres)
+            lector.Linea(u'-' + nombre);
+        M.TotalSistemas = static_cast<int>(nombres.size());
+    }
+};
+
+} // namespace
+
+TEST_F(Bajas, ASystemGoesWithItsClosingLine_FromBothFiles)
+{
+    EXPECT_EQ(SinSistema(Cabecera + Alfa + Beta + Gamma + Fin, u"Beta"_s), Cabecera + Alfa + Gamma + Fin);
+    EXPECT_EQ(SinSistema(Cabecera + Alfa + Beta + Gamma + Fin, u"Alfa"_s), Cabecera + Beta + Gamma + Fin);
+    EXPECT_EQ(SinSistema(Cabecera + Gamma + Fin, u"Gamma"_s), Cabecera + Fin);
+    const QByteArray alfa = SistemaDe(CabezaAlfa, { "A1", "A2" });
+    const QByteArray beta = SistemaDe(CabezaBeta, { "B1" });
+    EXPECT_EQ(SinSistema(Cabecera + alfa + "\r\nmine\n" + beta + Fin, u"Alfa"_s),
+        Cabecera + "\r\nmine\n" + beta + Fin);
+}
+
+TEST_F(Bajas, ASystemThatTheFileLacksTakesNothingAlong)
+{
+    const QByteArray bytes = Cabecera + Alfa + Beta + Fin;
+    for (const QString &sistema : { u"ALFA"_s, u"Alf"_s, u"Alfa "_s, u"A1"_s, QString() })
+        EXPECT_EQ(SinSistema(bytes, sistema), bytes) << sistema.toStdString();
+}
+
+TEST_F(Bajas, AnEmulatorOfTheDatabaseGoesUpToItsAddress)
+{
+    const QByteArray bytes = Cabecera + Alfa + Gamma + Fin;
+    const struct {
+        QString sistema;
+        QString emulador;
+        QByteArray lineas;
+    } casos[] = { { u"Alfa"_s, u"A1"_s, "+A1\r\nWEB2=http://a1\r\n" },
+        { u"Alfa"_s, u"A2"_s, "+A2\r\nWEB2=\r\n" }, { u"Gamma"_s, u"G3"_s, "+G3\r\nWEB2=3\r\n" } };
+    for (const auto &caso : casos)
+        EXPECT_EQ(SinEmuladorEnBase(bytes, caso.sistema, caso.emulador),
+            QByteArray(bytes).replace(caso.lineas, QByteArray()))
+            << caso.emulador.toStdString();
+}
+
+TEST_F(Bajas, LinesBetweenAnEmulatorAndItsAddressGoAlong)
+{
+    EXPECT_EQ(SinEmuladorEnBase("-S\n+E\nmine\nWEB2=\nmine\n+F\nWEB2=f\n'-\n", u"S"_s, u"E"_s),
+        "-S\nmine\n+F\nWEB2=f\n'-\n");
+}
+
+TEST_F(Bajas, AnEmulatorOfTheSameNameAheadOfTheSystemStays)
+{
+    EXPECT_EQ(SinEmuladorEnBase("-R\n+E\nWEB2=1\n'-\n-S\n+E\nWEB2=2\n'-\n", u"S"_s, u"E"_s),
+        "-R\n+E\nWEB2=1\n'-\n-S\n'-\n");
+}
+
+TEST_F(Bajas, AnEmulatorThatTheSystemLacksTakesNothingAlong)
+{
+    const QByteArray bytes = Cabecera + Alfa + Gamma + Fin;
+    EXPECT_EQ(SinEmuladorEnBase(bytes, u"Alfa"_s, u"a1"_s), bytes);
+    EXPECT_EQ(SinEmuladorEnBase(bytes, u"Gamma"_s, u"A1"_s), bytes);
+    EXPECT_EQ(SinEmuladorEnBase(bytes, u"Delta"_s, u"A1"_s), bytes);
+}
+
+TEST_F(Bajas, ASystemStaysEmptyWhenItsOnlyEmulatorGoes)
+{
+    const QByteArray alfa = SistemaDe(CabezaAlfa, { "A1" });
+    const QByteArray beta = SistemaDe(CabezaBeta, { "B1" });
+    EXPECT_EQ(SinUnico(Cabecera + alfa + beta + Fin, u"Alfa"_s), Cabecera + CabezaAlfa + Cierre + beta + Fin);
+    EXPECT_EQ(SinUnico(Cabecera + alfa + beta + Fin, u"Beta"_s), Cabecera + alfa + CabezaBeta + Cierre + Fin);
+}
+
+TEST_F(Bajas, ASystemThatIsClosedAtOnceStaysAsItIs)
+{
+    EXPECT_EQ(SinUnico(CabezaAlfa + Cierre + "mine\n", u"Alfa"_s), CabezaAlfa + Cierre + "mine\n");
+    EXPECT_EQ(SinUnico(CabezaAlfa + Cierre + "mine\n", u"alfa"_s), CabezaAlfa + Cierre + "mine\n");
+}
+
+TEST_F(Bajas, BehindASystemWithoutEmulatorsTheNextOneReadsAsHavingNoExtensions)
+{
+    const QByteArray bytes =
+        SinUnico(SistemaDe(CabezaAlfa, { "A1" }) + SistemaDe(CabezaBeta, { "B1" }), u"Alfa"_s);
+    Pon(u"Zembro.emu"_s, bytes);
+    core::LeeCatalogo(M);
+    EXPECT_EQ(M.Cat_EXT(0, 1), u"*.BIN"_s);
+    EXPECT_EQ(M.Cat_EXT(1, 0), QString());
+    EXPECT_EQ(M.Cat_EXT(1, 2), u"*.ROM"_s);
+}
+
+TEST_F(Bajas, AnEmulatorThatOthersFollowGoesWithTheLineThatEndsIt)
+{
+    const QByteArray bytes =
+        Cabecera + SistemaDe(CabezaAlfa, { "A1", "A2", "A3" }) + SistemaDe(CabezaBeta, { "B1" }) + Fin;
+    for (const QByteArray emulador : { "A1", "A2" })
+        EXPECT_EQ(SinEmulador(bytes, QString::fromLatin1(emulador)),
+            QByteArray(bytes).replace(BloqueDe(emulador) + "'\r\n", QByteArray()));
+    EXPECT_EQ(SinEmulador(bytes, u"a1"_s), bytes);
+}
+
+TEST_F(Bajas, OfTwoEmulatorsOfOneNameTheFirstInTheFileGoes_EvenFromAnotherSystem)
+{
+    const QByteArray bytes =
+        SistemaDe(CabezaAlfa, { "E", "A2" }) + SistemaDe(CabezaBeta, { "E", "B2" }) + Fin;
+    EXPECT_EQ(SinEmulador(bytes, u"E"_s),
+        SistemaDe(CabezaAlfa, { "A2" }) + SistemaDe(CabezaBeta, { "E", "B2" }) + Fin);
+    // The last of its system takes the closing line along.
+    EXPECT_EQ(SinEmulador(SistemaDe(CabezaAlfa, { "E" }) + SistemaDe(CabezaBeta, { "E", "B2" }), u"E"_s),
+        CabezaAlfa + "'\r\n" + SistemaDe(CabezaBeta, { "E", "B2" }));
+}
+
+TEST_F(Bajas, TheLastEmulatorGoesWithTheApostropheAheadOfIt_AndTheClosingLineStays)
+{
+    const QByteArray gamma = SistemaDe(CabezaGamma, { "G1", "G2" });
+    const QByteArray tres = Cabecera + gamma + SistemaDe(CabezaAlfa, { "A1", "A2", "A3" }) + gamma + Fin;
+    EXPECT_EQ(SinUltimo(tres, u"Alfa"_s, 3),
+        Cabecera + gamma + SistemaDe(CabezaAlfa, { "A1", "A2" }) + gamma + Fin);
+    const QByteArray dos = Cabecera + SistemaDe(CabezaAlfa, { "A1", "A2" }) + gamma + Fin;
+    EXPECT_EQ(SinUltimo(dos, u"Alfa"_s, 2), Cabecera + SistemaDe(CabezaAlfa, { "A1" }) + gamma + Fin);
+}
+
+TEST_F(Bajas, AnApostropheOfTheUsersOwnCountsAsOneOfTheBlocks)
+{
+    EXPECT_EQ(SinUltimo("-S\n' mine\n'\n+E\n'\n+F\n'-\nx\n", u"S"_s, 2), "-S\n' mine\n'-\nx\n");
+}
+
+TEST_F(Bajas, NothingGoes_WhereTheBlocksAreFewerThanTold)
+{
+    const QByteArray bytes = "-S\n*.A\n+E\n'\n+F\n'-\nx\n[\nlast";
+    EXPECT_EQ(SinUltimo(bytes, u"S"_s, 2), bytes);
+    EXPECT_EQ(SinUltimo(bytes, u"s"_s, 1), bytes);
+}
+
+TEST_F(Bajas, RemovedInTurnASystemsEmulatorsLeaveItEmpty)
+{
+    const QByteArray beta = SistemaDe(CabezaBeta, { "B1" });
+    QByteArray bytes = Cabecera + SistemaDe(CabezaGamma, { "G1", "G2", "G3" }) + beta + Fin;
+    bytes = SinEmulador(bytes, u"G2"_s);
+    bytes = SinUltimo(bytes, u"Gamma"_s, 2);
+    bytes = SinUnico(bytes, u"Gamma"_s);
+    EXPECT_EQ(bytes, Cabecera + CabezaGamma + Cierre + beta + Fin);
+}
+
+TEST_F(Bajas, ThePlaceOfASystemIsTheOneAmongTheSortedNames)
+{
+    LeeSistemas({ u"delta"_s, u"Alfa"_s, u"_x"_s, u"Beta"_s, u"Ñu"_s });
+    const QStringList ordenados { u"Alfa"_s, u"Beta"_s, u"delta"_s, u"_x"_s, u"Ñu"_s };
+    for (int i = 0; i < ordenados.size(); ++i)
+        EXPECT_EQ(core::PosicionParaBorrar(M, ordenados[i]), i) << ordenados[i].toStdString();
+}
+
+TEST_F(Bajas, AFullTableOfSystemsFails)
+{
+    QStringList nombres;
+    for (int i = 0; i < 150; ++i)
+        nombres += u"S%1"_s.arg(i, 3, 10, QChar(u'0'));
+    LeeSistemas(nombres);
+    EXPECT_EQ(core::PosicionParaBorrar(M, u"S149"_s), 149);
+    LeeSistemas(nombres + QStringList { u"T"_s });
+    EXPECT_EQ(NumeroDeFallo([this] { core::PosicionParaBorrar(M, u"S000"_s); }), host::OutOfRange);
+}
+
+TEST_F(Bajas, ThePlaceStays_OrMovesOneUpFromTheEnd)
+{
+    const struct {
+        int posicion;
+        int total;
+        int despues;
+    } casos[] = { { 0, 1, 0 }, { 0, 2, 0 }, { 1, 2, 0 }, { 0, 3, 0 }, { 1, 3, 1 }, { 2, 3, 1 },
+        { 148, 150, 148 }, { 149, 150, 148 } };
+    for (const auto &caso : casos)
+        EXPECT_EQ(core::PosicionTrasBorrar(caso.posicion, caso.total), caso.despues)
+            << caso.posicion << " of " << caso.total;
+}
