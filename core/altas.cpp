@@ -104,11 +104,12 @@ QString ConEmuladorConfigurado(
 
 QString ConEmuladorCambiado(const QString &texto, const EmuladorNuevo &emulador)
 {
+    const QString lineaDeEmulador = u'+' + emulador.nombre;
     Copia copia;
     bool cambiado = false;
     bool dentro = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
-        if (!cambiado && linea.linea == u'+' + emulador.nombre)
+        if (!cambiado && linea.linea == lineaDeEmulador)
             dentro = true;
         if (dentro && linea.linea.startsWith(u'\'')) {
             escribe(copia, LineasDeEmulador(emulador));
@@ -123,13 +124,14 @@ QString ConEmuladorCambiado(const QString &texto, const EmuladorNuevo &emulador)
 
 QString ConExtensiones(const QString &texto, const QString &sistema, const QStringList &extensiones)
 {
+    const QString lineaDeSistema = u'-' + sistema;
     Copia copia;
     bool dentro = false;
     bool salta = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
         if (!salta)
             copia.Copiar(linea);
-        if (linea.linea == u'-' + sistema)
+        if (linea.linea == lineaDeSistema)
             dentro = true;
         if (dentro && linea.linea.startsWith(u"WEB1")) {
             salta = true;
@@ -143,12 +145,13 @@ QString ConExtensiones(const QString &texto, const QString &sistema, const QStri
 
 QString ConWebDeSistema(const QString &texto, const QString &sistema, const QString &direccion)
 {
+    const QString lineaDeSistema = u'-' + sistema;
     Copia copia;
     bool salta = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
         if (!salta)
             copia.Copiar(linea);
-        if (linea.linea == u'-' + sistema) {
+        if (linea.linea == lineaDeSistema) {
             copia.Nueva(u"WEB1="_s + direccion);
             salta = true;
         }
@@ -161,19 +164,21 @@ QString ConWebDeSistema(const QString &texto, const QString &sistema, const QStr
 QString ConWebDeEmulador(
     const QString &texto, const QString &sistema, const QString &emulador, const QString &direccion)
 {
+    const QString lineaDeSistema = u'-' + sistema;
+    const QString lineaDeEmulador = u'+' + emulador;
     Copia copia;
     bool dentro = false;
     bool salta = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
         if (!salta)
             copia.Copiar(linea);
-        if (linea.linea == u'-' + sistema)
+        if (linea.linea == lineaDeSistema)
             dentro = true;
         if (salta && dentro && linea.linea.startsWith(u"WEB2")) {
             copia.Nueva(u"WEB2="_s + direccion);
             salta = dentro = false;
         }
-        if (dentro && linea.linea == u'+' + emulador)
+        if (dentro && linea.linea == lineaDeEmulador)
             salta = true;
     }
     return copia.Texto();

@@ -10,10 +10,11 @@ namespace core {
 
 QString SinSistema(const QString &texto, const QString &sistema)
 {
+    const QString lineaDeSistema = u'-' + sistema;
     Copia copia;
     bool dentro = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
-        if (linea.linea == u'-' + sistema)
+        if (linea.linea == lineaDeSistema)
             dentro = true;
         if (!dentro)
             copia.Copiar(linea);
@@ -25,13 +26,15 @@ QString SinSistema(const QString &texto, const QString &sistema)
 
 QString SinEmuladorEnBase(const QString &texto, const QString &sistema, const QString &emulador)
 {
+    const QString lineaDeSistema = u'-' + sistema;
+    const QString lineaDeEmulador = u'+' + emulador;
     Copia copia;
     bool enSistema = false;
     bool corta = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
-        if (linea.linea == u'-' + sistema)
+        if (linea.linea == lineaDeSistema)
             enSistema = true;
-        if (enSistema && linea.linea == u'+' + emulador)
+        if (enSistema && linea.linea == lineaDeEmulador)
             corta = true;
         if (!corta)
             copia.Copiar(linea);
@@ -43,11 +46,12 @@ QString SinEmuladorEnBase(const QString &texto, const QString &sistema, const QS
 
 QString SinUnicoEmulador(const QString &texto, const QString &sistema)
 {
+    const QString lineaDeSistema = u'-' + sistema;
     Copia copia;
     bool enCabeza = false;
     bool corta = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
-        if (linea.linea == u'-' + sistema)
+        if (linea.linea == lineaDeSistema)
             enCabeza = true;
         if (enCabeza && linea.linea.startsWith(u'\'')) {
             copia.Nueva(LineaDeCierre());
@@ -64,11 +68,12 @@ QString SinUnicoEmulador(const QString &texto, const QString &sistema)
 
 QString SinEmulador(const QString &texto, const QString &emulador)
 {
+    const QString lineaDeEmulador = u'+' + emulador;
     Copia copia;
     bool cortado = false;
     bool corta = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
-        if (!cortado && linea.linea == u'+' + emulador)
+        if (!cortado && linea.linea == lineaDeEmulador)
             corta = cortado = true;
         if (!corta)
             copia.Copiar(linea);
@@ -80,12 +85,13 @@ QString SinEmulador(const QString &texto, const QString &emulador)
 
 QString SinUltimoEmulador(const QString &texto, const QString &sistema, int total)
 {
+    const QString lineaDeSistema = u'-' + sistema;
     Copia copia;
     bool enSistema = false;
     bool corta = false;
     int apostrofos = 0;
     for (const LineaConFin &linea : EnLineas(texto)) {
-        if (linea.linea == u'-' + sistema)
+        if (linea.linea == lineaDeSistema)
             enSistema = true;
         if (enSistema && linea.linea.startsWith(u'\'') && ++apostrofos == total)
             corta = true;

@@ -3,7 +3,9 @@
 #include "directoriodeprograma.h"
 
 #include "core/ajustes.h"
+#include "core/basededatos.h"
 #include "core/catalogo.h"
+#include "core/configuracion.h"
 #include "core/idiomas.h"
 #include "core/lista.h"
 #include "core/notas.h"
@@ -69,6 +71,12 @@ const Lector Lectores[] = {
             M.VerBaseDeDatos = 1;
             core::LeeCatalogo(M);
         } },
+    { "choice of a system", u"Zembro.sye"_s, CatalogoBueno,
+        [](core::Modulo &M) { core::LeeBaseDeDatos(M); } },
+    { "addresses", u"Zembro.sye"_s, CatalogoBueno,
+        [](core::Modulo &M) { core::LeeWebs(M, u"Console"_s, u"None"_s); } },
+    { "old values", u"Zembro.emu"_s, CatalogoBueno,
+        [](core::Modulo &M) { core::LeePrevios(M, u"Emulator"_s); } },
     { "first run", u"Zembro.cfg"_s, core::AjustesPorDefecto(u"ZB-ESP.LNG"_s).toLatin1(),
         [](core::Modulo &M) { core::EsPrimeraVez(M); } },
     { "settings", u"Zembro.cfg"_s, core::AjustesPorDefecto(u"ZB-ESP.LNG"_s).toLatin1(),

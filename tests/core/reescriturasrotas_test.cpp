@@ -3,6 +3,8 @@
 #include "directoriodeprograma.h"
 
 #include "core/ajustes.h"
+#include "core/altas.h"
+#include "core/bajas.h"
 #include "core/notas.h"
 
 using namespace Qt::StringLiterals;
@@ -36,6 +38,37 @@ const Reescritura Reescrituras[] = {
             return core::ConDescripcionCambiada(texto, u"old one"_s, u"A"_s, u"a"_s);
         } },
     { "new parameters", [](const QString &texto) { return core::ConParametrosNuevos(texto, Nuevos); } },
+    { "new system of the database",
+        [](const QString &texto) { return core::ConSistemaEnBase(texto, u"New"_s); } },
+    { "new emulator of the database",
+        [](const QString &texto) { return core::ConEmuladorEnBase(texto, u"-System"_s, u"New"_s); } },
+    { "configured system",
+        [](const QString &texto) {
+            return core::ConSistemaConfigurado(texto, { u"New"_s, {}, {}, {} });
+        } },
+    { "configured emulator",
+        [](const QString &texto) { return core::ConEmuladorConfigurado(texto, u"-System"_s, {}); } },
+    { "changed emulator",
+        [](const QString &texto) {
+            return core::ConEmuladorCambiado(texto, { u"Emulator"_s, {}, {}, {}, {}, {}, {}, {} });
+        } },
+    { "extensions",
+        [](const QString &texto) { return core::ConExtensiones(texto, u"System"_s, { u"ZIP"_s }); } },
+    { "address of a system",
+        [](const QString &texto) { return core::ConWebDeSistema(texto, u"System"_s, u"w"_s); } },
+    { "address of an emulator",
+        [](const QString &texto) {
+            return core::ConWebDeEmulador(texto, u"System"_s, u"Emulator"_s, u"w"_s);
+        } },
+    { "removed system", [](const QString &texto) { return core::SinSistema(texto, u"System"_s); } },
+    { "removed emulator of the database",
+        [](const QString &texto) { return core::SinEmuladorEnBase(texto, u"System"_s, u"Emulator"_s); } },
+    { "removed only emulator",
+        [](const QString &texto) { return core::SinUnicoEmulador(texto, u"System"_s); } },
+    { "removed emulator", [](const QString &texto) { return core::SinEmulador(texto, u"Emulator"_s); } },
+    { "removed last emulator",
+        [](const QString &texto) { return core::SinUltimoEmulador(texto, u"System"_s, 2); } },
+    { "removed notes", [](const QString &texto) { return core::SinNotasDeSistema(texto, u"System"_s); } },
     { "new system", [](const QString &texto) { return core::ConSistemaNuevo(texto, u"New"_s); } },
 };
 
@@ -94,6 +127,19 @@ TEST_F(ReescriturasRotas, AChangeOfParametersFailsAtTheEndAndFast_WithoutASectio
         EXPECT_LT(TiempoDeTrabajo() - antes, 1000);
         EXPECT_EQ(Bytes(u"Zembro.rom"_s), bytes);
         M.Ficheros.closeAll();
+    }
+}
+
+TEST_F(ReescriturasRotas, ARemovalOfParametersIsFast_InAFileOfManyLinesOrSections)
+{
+    for (const QByteArray &bytes : { BytesSinOrden(), QByteArray(1000000, '\n'), QByteArray(1000000, 'x'),
+             QByteArray("Parametros\r\n'\r\n").repeated(20000),
+             "Parametros\r\n" + QByteArray(1000000, ',') }) {
+        Pon(u"Zembro.rom"_s, bytes);
+        const qint64 antes = TiempoDeTrabajo();
+        Reescribe(u"Zembro.rom"_s,
+            [](const QString &texto) { return core::SinParametrosDeSistema(texto, u"s"_s); });
+        EXPECT_LT(TiempoDeTrabajo() - antes, 2000);
     }
 }
 
