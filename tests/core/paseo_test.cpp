@@ -1,0 +1,520 @@
+// A random walk through the operations on the catalogues and the notes, step by step against the model: no
+// line is lost or mixed that an operation doesn't mean to change. Names are unique, as those that the program
+// matches are. The walk is the same for a seed.
+#include "modelodecatalogos.h"
+
+#include "directoriodeprograma.h"
+
+#include "core/altas.h"
+#include "core/bajas.h"
+#include "core/notas.h"
+
+#include "host/letters.h"
+
+#include <iostream>
+#include <iterator>
+#include <random>
+#include <string>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Pasos = 1500; // of each walk
+constexpr size_t MaxSistemas = 9;
+constexpr size_t MaxEmuladores = 5;
+
+QString nueva(const QString &linea)
+{
+    return linea + u"\r\n"_s;
+}
+
+template <typename Sistema> Sistema *busca(Fichero<Sistema> &fichero, const QString &nombre)
+{
+    for (Sistema &sistema : fichero.sistemas) {
+        if (sistema.nombre == nombre)
+            return &sistema;
+    }
+    return nullptr;
+}
+
+class Paseo : public testing::TestWithParam<unsigned> {
+public:
+    Paseo()
+        : m_azar(GetParam())
+    {
+        MontaBase();
+        MontaCatalogo();
+        MontaNotas();
+    }
+
+    void AñadeSistema();
+    void AñadeEmulador();
+    void BorraEmulador();
+    void BorraSistema();
+    void CambiaExtensiones();
+    void CambiaWebDeSistema();
+    void CambiaWebDeEmulador();
+    void Guarda();
+    void QuitaSistema();
+    void QuitaEmulador();
+    void Describe();
+    void DaParametros();
+    void EscribeAMano();
+
+protected:
+    size_t Azar(size_t total) { return m_azar() % total; }
+    QString Textos() const { return m_textoSye + m_textoEmu + m_textoRom; }
+
+private:
+    QString ConFin(const QString &linea) { return linea + (Azar(3) == 0 ? u"\n"_s : u"\r\n"_s); }
+    QString Propia();
+    QStringList Propias();
+    QString NombreNuevo(const QString &clase);
+    QStringList Extensiones();
+    core::EmuladorNuevo Configurado(const QString &nombre, const QString &web2);
+
+    void MontaBase();
+    SistemaDeBase SistemaAlAzar();
+    void MontaCatalogo();
+    void MontaNotas();
+
+    void GuardaSistema(const SistemaDeBase &sistema, const EmuladorDeBase &emulador);
+    void GuardaEmulador(SistemaDeCatalogo &sistema, const EmuladorDeBase &emulador);
+    void GuardaCambios(EmuladorDeCatalogo &configurado, const EmuladorDeBase &emulador);
+    void QuitaUnoDeVarios(SistemaDeCatalogo &sistema, size_t cual);
+    void QuitaDeNotas(const QString &sistema);
+
+    SistemaDeBase *SistemaConEmuladores();
+    EmuladorDeCatalogo *EmuladorConfigurado(const QString &nombre);
+    void PonEmu(const QString &texto)
+    {
+        m_textoEmu = texto;
+        ASSERT_EQ(m_textoEmu, TextoDe(m_emu));
+    }
+    void PonSye(const QString &texto)
+    {
+        m_textoSye = texto;
+        ASSERT_EQ(m_textoSye, TextoDe(m_sye));
+    }
+    void PonRom(const QString &texto)
+    {
+        m_textoRom = texto;
+        ASSERT_EQ(m_textoRom, TextoDe(m_rom));
+    }
+
+    std::mt19937 m_azar;
+    int m_nombres = 0;
+    Fichero<SistemaDeBase> m_sye;
+    Fichero<SistemaDeCatalogo> m_emu;
+    FicheroDeNotas m_rom;
+    QString m_textoSye;
+    QString m_textoEmu;
+    QString m_textoRom;
+};
+
+// A line of the user's own that is no anchor of any operation.
+QString Paseo::Propia()
+{
+    static const QString lineas[] = { QString(), u"mine"_s, u" -S"_s, u"; +E"_s, u"EXEC=1"_s, u"WEB3=1"_s,
+        u"*"_s, u"\"'\""_s, u"ñ\x81"_s, u"ROM"_s };
+    return ConFin(lineas[Azar(std::size(lineas))]);
+}
+
+QStringList Paseo::Propias()
+{
+    QStringList lineas;
+    while (Azar(4) == 0)
+        lineas += Propia();
+    return lineas;
+}
+
+QString Paseo::NombreNuevo(const QString &clase)
+{
+    static const QString adornos[] = { QString(), u" ñ"_s, u"/b"_s, u" \"q\""_s, u" '"_s };
+    return clase + QString::number(++m_nombres) + adornos[Azar(std::size(adornos))];
+}
+
+QStringList Paseo::Extensiones()
+{
+    QStringList extensiones;
+    for (size_t i = Azar(4); i > 0; --i)
+        extensiones += u"E%1"_s.arg(Azar(100));
+    return extensiones;
+}
+
+SistemaDeBase Paseo::SistemaAlAzar()
+{
+    SistemaDeBase sistema;
+    sistema.nombre = NombreNuevo(u"S"_s);
+    sistema.linea = ConFin(u'-' + sistema.nombre);
+    sistema.antesDeWeb = Propias();
+    sistema.web = ConFin(u"WEB1=w"_s);
+    for (const QString &extension : Extensiones())
+        sistema.extensiones += ConFin(u"*."_s + extension);
+    sistema.extensiones += Propias();
+    sistema.apostrofo = ConFin(u"'"_s);
+    sistema.detrasDelApostrofo = Propias();
+    for (size_t i = Azar(3); i > 0; --i) {
+        const QString nombre = NombreNuevo(u"E"_s);
+        sistema.emuladores.push_back(
+            { nombre, ConFin(u'+' + nombre), Propias(), ConFin(u"WEB2=w"_s), Propias() });
+    }
+    sistema.cierre = ConFin(u"'----"_s);
+    sistema.detras = Propias();
+    return sistema;
+}
+
+void Paseo::MontaBase()
+{
+    m_sye.cabecera = { ConFin(u"' top"_s), Propia() };
+    m_sye.fin = { ConFin(u"[EOF]"_s), Propia(), u"last"_s };
+    for (int i = 0; i < 3; ++i)
+        m_sye.sistemas.push_back(SistemaAlAzar());
+    m_textoSye = TextoDe(m_sye);
+}
+
+// One system with blocks that no save has written.
+void Paseo::MontaCatalogo()
+{
+    m_emu.cabecera = { Propia(), ConFin(u"' top"_s) };
+    m_emu.fin = { u"[EOF]"_s };
+    const SistemaDeBase &base = m_sye.sistemas.front();
+    SistemaDeCatalogo sistema { base.nombre, ConFin(u'-' + base.nombre), Propias(), ConFin(u"WEB1=w"_s),
+        { ConFin(u"*.Z"_s) }, {}, ConFin(u"'----"_s), Propias() };
+    for (const EmuladorDeBase &emulador : base.emuladores)
+        sistema.emuladores.push_back({ emulador.nombre, ConFin(u"'"_s), Propias(),
+            ConFin(u'+' + emulador.nombre), Propias(), ConFin(u"WEB2=w"_s), Propias() });
+    if (!sistema.emuladores.empty())
+        m_emu.sistemas.push_back(sistema);
+    m_textoEmu = TextoDe(m_emu);
+}
+
+void Paseo::MontaNotas()
+{
+    m_rom.cabecera = { ConFin(u"' top"_s), ConFin(QString()) };
+    for (const SistemaDeBase &sistema : m_sye.sistemas)
+        m_rom.sistemas.push_back(
+            { sistema.nombre, ConFin(sistema.nombre), { ConFin(u"K,\"d\""_s) }, ConFin(u"'"_s) });
+    m_rom.fin = { ConFin(u"[EOF]"_s), ConFin(u"Parametros especificos"_s) };
+    m_rom.cierre = { ConFin(u"'"_s), ConFin(u"fin"_s), ConFin(u"fin,\"fin\""_s) };
+    m_rom.detras = { ConFin(QString()), u"last"_s };
+    m_textoRom = TextoDe(m_rom);
+}
+
+core::EmuladorNuevo Paseo::Configurado(const QString &nombre, const QString &web2)
+{
+    const QString numero = QString::number(Azar(1000));
+    return { nombre, web2.trimmed(), u"/bin/"_s + numero, QString::number(Azar(4)), u"/roms/"_s + numero,
+        u"/img/"_s, u"-p "_s + numero, QString() };
+}
+
+SistemaDeBase *Paseo::SistemaConEmuladores()
+{
+    SistemaDeBase &sistema = m_sye.sistemas[Azar(m_sye.sistemas.size())];
+    return sistema.emuladores.empty() ? nullptr : &sistema;
+}
+
+EmuladorDeCatalogo *Paseo::EmuladorConfigurado(const QString &nombre)
+{
+    for (SistemaDeCatalogo &sistema : m_emu.sistemas) {
+        for (EmuladorDeCatalogo &emulador : sistema.emuladores) {
+            if (emulador.nombre == nombre)
+                return &emulador;
+        }
+    }
+    return nullptr;
+}
+
+void Paseo::AñadeSistema()
+{
+    if (m_sye.sistemas.size() == MaxSistemas)
+        return;
+    const QString nombre = NombreNuevo(u"S"_s);
+    m_sye.sistemas.push_back({ nombre, nueva(u'-' + nombre), {}, nueva(u"WEB1="_s), { nueva(u"*.ZIP"_s) },
+        nueva(u"'"_s), {}, {}, nueva(core::LineaDeCierre()), {} });
+    PonSye(core::ConSistemaEnBase(m_textoSye, nombre));
+    m_rom.sistemas.push_back({ nombre, nueva(nombre), {}, nueva(u"'"_s) });
+    PonRom(core::ConSistemaNuevo(m_textoRom, nombre));
+}
+
+void Paseo::AñadeEmulador()
+{
+    SistemaDeBase &sistema = m_sye.sistemas[Azar(m_sye.sistemas.size())];
+    if (sistema.emuladores.size() == MaxEmuladores)
+        return;
+    const QString nombre = NombreNuevo(u"E"_s);
+    sistema.emuladores.push_back({ nombre, nueva(u'+' + nombre), {}, nueva(u"WEB2="_s), {} });
+    PonSye(core::ConEmuladorEnBase(m_textoSye, u'-' + sistema.nombre, nombre));
+}
+
+void Paseo::BorraEmulador()
+{
+    SistemaDeBase *sistema = SistemaConEmuladores();
+    if (!sistema)
+        return;
+    const size_t cual = Azar(sistema->emuladores.size());
+    const EmuladorDeBase quitado = sistema->emuladores[cual];
+    if (EmuladorConfigurado(quitado.nombre))
+        return;
+    QStringList &delante = cual == 0 ? sistema->detrasDelApostrofo : sistema->emuladores[cual - 1].detras;
+    delante += quitado.detras;
+    sistema->emuladores.erase(sistema->emuladores.begin() + static_cast<std::ptrdiff_t>(cual));
+    PonSye(core::SinEmuladorEnBase(m_textoSye, sistema->nombre, quitado.nombre));
+}
+
+void Paseo::BorraSistema()
+{
+    const size_t cual = Azar(m_sye.sistemas.size());
+    const QString nombre = m_sye.sistemas[cual].nombre;
+    if (m_sye.sistemas.size() == 1 || busca(m_emu, nombre))
+        return;
+    QStringList &delante = cual == 0 ? m_sye.cabecera : m_sye.sistemas[cual - 1].detras;
+    delante += m_sye.sistemas[cual].detras;
+    m_sye.sistemas.erase(m_sye.sistemas.begin() + static_cast<std::ptrdiff_t>(cual));
+    PonSye(core::SinSistema(m_textoSye, nombre));
+    QuitaDeNotas(nombre);
+}
+
+// The first of its two rewrites drops every empty line outside the section, and writes the section anew.
+void Paseo::QuitaDeNotas(const QString &sistema)
+{
+    const auto sinVacias = [](QStringList &lineas) {
+        lineas.removeIf([](const QString &linea) { return linea == u"\n" || linea == u"\r\n"; });
+    };
+    sinVacias(m_rom.cabecera);
+    sinVacias(m_rom.detras);
+    for (NotasDeUnSistema &notas : m_rom.sistemas)
+        sinVacias(notas.notas);
+    std::erase_if(
+        m_rom.parametros, [&](const RegistroDeParametros &registro) { return registro.sistema == sistema; });
+    m_rom.cierre = { nueva(u"'"_s), nueva(u"fin"_s), nueva(u"fin,\"fin\""_s) };
+    PonRom(core::SinParametrosDeSistema(m_textoRom, host::upper(sistema)));
+    std::erase_if(m_rom.sistemas, [&](const NotasDeUnSistema &notas) { return notas.nombre == sistema; });
+    PonRom(core::SinNotasDeSistema(m_textoRom, sistema));
+}
+
+void Paseo::CambiaExtensiones()
+{
+    SistemaDeBase &sistema = m_sye.sistemas[Azar(m_sye.sistemas.size())];
+    SistemaDeCatalogo *configurado = busca(m_emu, sistema.nombre);
+    // Without emulators the closing line would be taken for the end of the extensions.
+    if (configurado && configurado->emuladores.empty())
+        return;
+    const QStringList extensiones = Extensiones();
+    sistema.extensiones.clear();
+    for (const QString &extension : extensiones)
+        sistema.extensiones += nueva(u"*."_s + extension);
+    sistema.apostrofo = nueva(u"'"_s);
+    PonSye(core::ConExtensiones(m_textoSye, sistema.nombre, extensiones));
+    if (!configurado)
+        return;
+    configurado->extensiones = sistema.extensiones;
+    configurado->emuladores.front().apostrofo = nueva(u"'"_s);
+    PonEmu(core::ConExtensiones(m_textoEmu, sistema.nombre, extensiones));
+}
+
+void Paseo::CambiaWebDeSistema()
+{
+    SistemaDeBase &sistema = m_sye.sistemas[Azar(m_sye.sistemas.size())];
+    const QString direccion = u"http://%1"_s.arg(Azar(1000));
+    sistema.antesDeWeb.clear();
+    sistema.web = nueva(u"WEB1="_s + direccion);
+    PonSye(core::ConWebDeSistema(m_textoSye, sistema.nombre, direccion));
+    if (SistemaDeCatalogo *configurado = busca(m_emu, sistema.nombre)) {
+        configurado->antesDeWeb.clear();
+        configurado->web = sistema.web;
+        PonEmu(core::ConWebDeSistema(m_textoEmu, sistema.nombre, direccion));
+    }
+}
+
+void Paseo::CambiaWebDeEmulador()
+{
+    SistemaDeBase *sistema = SistemaConEmuladores();
+    if (!sistema)
+        return;
+    EmuladorDeBase &emulador = sistema->emuladores[Azar(sistema->emuladores.size())];
+    const QString direccion = u"http://%1"_s.arg(Azar(1000));
+    emulador.antesDeWeb.clear();
+    emulador.web = nueva(u"WEB2="_s + direccion);
+    PonSye(core::ConWebDeEmulador(m_textoSye, sistema->nombre, emulador.nombre, direccion));
+    // The rewrite follows also where the pair isn't configured.
+    if (EmuladorDeCatalogo *configurado = EmuladorConfigurado(emulador.nombre)) {
+        configurado->antesDeWeb.clear();
+        configurado->web = emulador.web;
+    }
+    PonEmu(core::ConWebDeEmulador(m_textoEmu, sistema->nombre, emulador.nombre, direccion));
+}
+
+void Paseo::Guarda()
+{
+    SistemaDeBase *sistema = SistemaConEmuladores();
+    if (!sistema)
+        return;
+    const EmuladorDeBase &emulador = sistema->emuladores[Azar(sistema->emuladores.size())];
+    SistemaDeCatalogo *configurado = busca(m_emu, sistema->nombre);
+    if (EmuladorDeCatalogo *antes = EmuladorConfigurado(emulador.nombre))
+        GuardaCambios(*antes, emulador);
+    else if (configurado)
+        GuardaEmulador(*configurado, emulador);
+    else
+        GuardaSistema(*sistema, emulador);
+}
+
+EmuladorDeCatalogo escrito(const core::EmuladorNuevo &nuevo)
+{
+    return { nuevo.nombre, nueva(u"'"_s), {}, nueva(u'+' + nuevo.nombre), {}, nueva(nuevo.web2),
+        { nueva(u"EXE="_s + nuevo.exe), nueva(u"XDI="_s + nuevo.tipo), nueva(u"ROM="_s + nuevo.rom + u'/'),
+            nueva(u"IMG="_s + nuevo.img), nueva(u"PAR1="_s + nuevo.par1), nueva(u"PAR2="_s) } };
+}
+
+void Paseo::GuardaSistema(const SistemaDeBase &sistema, const EmuladorDeBase &emulador)
+{
+    const core::EmuladorNuevo nuevo = Configurado(emulador.nombre, emulador.web);
+    const QStringList extensiones { u"*.ZIP"_s, u"*.n"_s };
+    m_emu.sistemas.push_back({ sistema.nombre, nueva(u'-' + sistema.nombre), {}, nueva(sistema.web.trimmed()),
+        { nueva(extensiones[0]), nueva(extensiones[1]) }, { escrito(nuevo) }, nueva(core::LineaDeCierre()),
+        {} });
+    PonEmu(core::ConSistemaConfigurado(
+        m_textoEmu, { sistema.nombre, sistema.web.trimmed(), extensiones, nuevo }));
+}
+
+void Paseo::GuardaEmulador(SistemaDeCatalogo &sistema, const EmuladorDeBase &emulador)
+{
+    const core::EmuladorNuevo nuevo = Configurado(emulador.nombre, emulador.web);
+    sistema.emuladores.push_back(escrito(nuevo));
+    PonEmu(core::ConEmuladorConfigurado(m_textoEmu, u'-' + sistema.nombre, nuevo));
+}
+
+void Paseo::GuardaCambios(EmuladorDeCatalogo &configurado, const EmuladorDeBase &emulador)
+{
+    const core::EmuladorNuevo nuevo = Configurado(emulador.nombre, emulador.web);
+    EmuladorDeCatalogo despues = escrito(nuevo);
+    despues.apostrofo = configurado.apostrofo;
+    despues.antes = configurado.antes;
+    configurado = despues;
+    PonEmu(core::ConEmuladorCambiado(m_textoEmu, nuevo));
+}
+
+void Paseo::QuitaSistema()
+{
+    if (m_emu.sistemas.empty())
+        return;
+    const size_t cual = Azar(m_emu.sistemas.size());
+    const QString nombre = m_emu.sistemas[cual].nombre;
+    QStringList &delante = cual == 0 ? m_emu.cabecera : m_emu.sistemas[cual - 1].detras;
+    delante += m_emu.sistemas[cual].detras;
+    m_emu.sistemas.erase(m_emu.sistemas.begin() + static_cast<std::ptrdiff_t>(cual));
+    PonEmu(core::SinSistema(m_textoEmu, nombre));
+}
+
+void Paseo::QuitaEmulador()
+{
+    if (m_emu.sistemas.empty())
+        return;
+    SistemaDeCatalogo &sistema = m_emu.sistemas[Azar(m_emu.sistemas.size())];
+    if (sistema.emuladores.size() > 1) {
+        QuitaUnoDeVarios(sistema, Azar(sistema.emuladores.size()));
+    } else if (!sistema.emuladores.empty()) {
+        sistema.emuladores.clear();
+        sistema.cierre = nueva(core::LineaDeCierre());
+        PonEmu(core::SinUnicoEmulador(m_textoEmu, sistema.nombre));
+    }
+}
+
+void Paseo::QuitaUnoDeVarios(SistemaDeCatalogo &sistema, size_t cual)
+{
+    const size_t total = sistema.emuladores.size();
+    const EmuladorDeCatalogo quitado = sistema.emuladores[cual];
+    sistema.emuladores.erase(sistema.emuladores.begin() + static_cast<std::ptrdiff_t>(cual));
+    if (cual == total - 1) {
+        PonEmu(core::SinUltimoEmulador(m_textoEmu, sistema.nombre, static_cast<int>(total)));
+        return;
+    }
+    // Its own apostrophe stays, and the one behind it goes.
+    EmuladorDeCatalogo &siguiente = sistema.emuladores[cual];
+    siguiente.apostrofo = quitado.apostrofo;
+    siguiente.antes = quitado.antes + siguiente.antes;
+    PonEmu(core::SinEmulador(m_textoEmu, quitado.nombre));
+}
+
+void Paseo::Describe()
+{
+    NotasDeUnSistema &notas = m_rom.sistemas[Azar(m_rom.sistemas.size())];
+    const QString clave = u"[K%1], THE"_s.arg(Azar(1000));
+    notas.notas.prepend(nueva(u'"' + clave + u"\",\"d\""_s));
+    PonRom(core::ConDescripcionNueva(m_textoRom, notas.nombre, clave, u"d"_s));
+}
+
+void Paseo::DaParametros()
+{
+    const QString sistema = m_rom.sistemas[Azar(m_rom.sistemas.size())].nombre;
+    m_rom.parametros.insert(m_rom.parametros.begin(), { sistema, nueva(u"K,"_s + sistema + u",E,-p"_s) });
+    PonRom(core::ConParametrosNuevos(m_textoRom, { u"K"_s, sistema, u"E"_s, u"-p"_s }));
+}
+
+// Lines of the user's own wherever they may stand, and other line ends.
+void Paseo::EscribeAMano()
+{
+    SistemaDeBase &base = m_sye.sistemas[Azar(m_sye.sistemas.size())];
+    base.linea = ConFin(u'-' + base.nombre);
+    for (QStringList *lineas :
+        { &base.antesDeWeb, &base.extensiones, &base.detrasDelApostrofo, &base.detras, &m_sye.cabecera })
+        *lineas += Propias();
+    for (EmuladorDeBase &emulador : base.emuladores) {
+        emulador.antesDeWeb += Propias();
+        emulador.detras += Propias();
+    }
+    m_textoSye = TextoDe(m_sye);
+    if (SistemaDeCatalogo *sistema = busca(m_emu, base.nombre)) {
+        sistema->cierre = ConFin(u"'- closed"_s);
+        for (QStringList *lineas : { &sistema->antesDeWeb, &sistema->extensiones, &sistema->detras })
+            *lineas += Propias();
+        for (EmuladorDeCatalogo &emulador : sistema->emuladores) {
+            emulador.apostrofo = ConFin(u"' next"_s);
+            for (QStringList *lineas : { &emulador.antes, &emulador.antesDeWeb, &emulador.resto })
+                *lineas += Propias();
+        }
+        m_textoEmu = TextoDe(m_emu);
+    }
+    m_rom.sistemas[Azar(m_rom.sistemas.size())].notas += Propias();
+    m_textoRom = TextoDe(m_rom);
+}
+
+constexpr struct {
+    const char *nombre;
+    void (Paseo::*hace)();
+    size_t peso;
+} Operaciones[] = { { "add a system", &Paseo::AñadeSistema, 4 },
+    { "add an emulator", &Paseo::AñadeEmulador, 4 }, { "delete an emulator", &Paseo::BorraEmulador, 2 },
+    { "delete a system", &Paseo::BorraSistema, 8 }, { "extensions", &Paseo::CambiaExtensiones, 2 },
+    { "address of a system", &Paseo::CambiaWebDeSistema, 2 },
+    { "address of an emulator", &Paseo::CambiaWebDeEmulador, 2 }, { "save", &Paseo::Guarda, 8 },
+    { "remove a system", &Paseo::QuitaSistema, 1 }, { "remove an emulator", &Paseo::QuitaEmulador, 3 },
+    { "describe", &Paseo::Describe, 2 }, { "parameters", &Paseo::DaParametros, 2 },
+    { "lines of the user's own", &Paseo::EscribeAMano, 4 } };
+
+TEST_P(Paseo, ChangesNoLineThatItDoesntMeanTo)
+{
+    std::cout << "seed " << GetParam() << '\n';
+    std::vector<size_t> baraja;
+    for (size_t i = 0; i < std::size(Operaciones); ++i)
+        baraja.insert(baraja.end(), Operaciones[i].peso, i);
+    std::vector<int> cambios(std::size(Operaciones));
+    for (int paso = 0; paso < Pasos; ++paso) {
+        const size_t cual = baraja[Azar(baraja.size())];
+        SCOPED_TRACE(testing::Message() << "step " << paso << ": " << Operaciones[cual].nombre);
+        const QString antes = Textos();
+        (this->*Operaciones[cual].hace)();
+        cambios[cual] += Textos() != antes;
+        if (HasFatalFailure())
+            return;
+    }
+    for (size_t i = 0; i < std::size(Operaciones); ++i)
+        EXPECT_GT(cambios[i], 20) << Operaciones[i].nombre;
+}
+
+INSTANTIATE_TEST_SUITE_P(Semillas, Paseo, testing::Range(1u, 8u),
+    [](const auto &caso) { return "Seed" + std::to_string(caso.param); });
+
+} // namespace
