@@ -12,6 +12,8 @@
 
 #include "mainscreen/portada.h"
 
+#include "maintenance/bajas.h"
+
 #include "options/primerainstalacion.h"
 
 #include <cstdio>
@@ -36,6 +38,7 @@ int main(int argc, char **argv)
     mainscreen::Portada portada(M);
     forms::FormHolder<options::PrimeraInstalacion> primera(
         [&M] { return std::make_unique<options::PrimeraInstalacion>(M); });
+    maintenance::Bajas bajas(M, portada);
     portada.MuestraPrimeraInstalacion = [&primera] { primera.ShowModal(nullptr); };
 
     forms::guarded([&portada] { portada.Carga(); });

@@ -53,4 +53,7 @@ QString Resumen(int tipo, qsizetype listadas, const Recuento &recuento, const QS
 // Shown wherever no ROM can be listed, with its comma in every locale.
 inline const QString ResumenVacio = QStringLiteral("0 ROMS - 0,00MB");
 
+// Stands under the play button where there is nothing to play.
+inline const QString SinPalabra = QStringLiteral("-----");
+
 } // namespace core

@@ -20,8 +20,6 @@ namespace mainscreen {
 
 namespace {
 
-const QString SinPalabra = u"-----"_s;
-
 // The controls that the view of the database switches off.
 std::vector<QWidget *> controlesDelCatalogo(Portada &p)
 {
@@ -106,7 +104,7 @@ void Portada::Combo1_Selection()
         SistemaSinEmulador();
     if (Combo1->Text().isEmpty() && Combo2->Text().isEmpty()) {
         PonInfoRoms(core::ResumenVacio);
-        TXT_Boton->SetCaption(SinPalabra);
+        TXT_Boton->SetCaption(core::SinPalabra);
     }
     Combo1->setFocus();
 }
@@ -116,7 +114,7 @@ void Portada::SistemaSinEmulador()
     Lista1->Clear();
     if (M.RestaurarROM == 0)
         PonInfoRoms(M.TXT_EmuNoSelec);
-    TXT_Boton->SetCaption(SinPalabra);
+    TXT_Boton->SetCaption(core::SinPalabra);
     if (M.VerBaseDeDatos == 0)
         PonInfo(M.TXT_NingunaROM);
     PonNegro();
@@ -140,7 +138,7 @@ void Portada::Combo2_Selection()
     if (!Combo2->Text().isEmpty())
         M.TipoEmu = core::TipoDe(M.Cat_XDI(Sistema(), Emulador() + 1));
     if (Combo1->Text().isEmpty() || Combo2->Text().isEmpty())
-        M.TXT_Jugar = SinPalabra; // the language's word is gone until the language is read again
+        M.TXT_Jugar = core::SinPalabra; // the language's word is gone until the language is read again
     if (Check1->Value() == 0)
         PalabraDelBoton();
     if (M.VerBaseDeDatos == 1 && Combo2->Text().isEmpty())
@@ -213,7 +211,7 @@ void Portada::EntraEnBaseDeDatos()
     Lista1->Clear();
     Graf_Imagen->SetPicture(Aumento.Negro->Picture());
     ActivaConCatalogo(false);
-    TXT_Boton->SetCaption(SinPalabra);
+    TXT_Boton->SetCaption(core::SinPalabra);
     M.VerBaseDeDatos = 1;
     M.UltimoSistema = u"0"_s;
     M.UltimoEmulador = QString::number(core::NingunEmulador);
@@ -242,7 +240,7 @@ void Portada::SaleDeBaseDeDatos()
         PonInfoRoms(M.TXT_EmuNoSelec);
     if (Combo1->Text().isEmpty() && Combo2->Text().isEmpty()) {
         PonInfoRoms(core::ResumenVacio);
-        TXT_Boton->SetCaption(SinPalabra);
+        TXT_Boton->SetCaption(core::SinPalabra);
     }
     if (Lista1->ListCount() == 0)
         PonInfo(M.TXT_NingunaROM);

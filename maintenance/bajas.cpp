@@ -1,0 +1,169 @@
+#include "maintenance/bajas.h"
+
+#include "core/bajas.h"
+#include "core/catalogo.h"
+#include "core/lista.h"
+
+#include "host/letters.h"
+#include "host/paths.h"
+
+#include "mainscreen/portada.h"
+
+using namespace Qt::StringLiterals;
+
+namespace maintenance {
+
+Bajas::Bajas(core::Modulo &modulo, mainscreen::Portada &portada)
+    : M(modulo)
+    , P(portada)
+{
+    P.Menos2a->Release = [this] { Menos2a_Release(); };
+    P.Menos2b->Release = [this] { Menos2b_Release(); };
+}
+
+void Bajas::Menos2a_Release()
+{
+    if (P.Combo1->Text().isEmpty())
+        SinNadaQueJugar();
+    else
+        BorraSistema();
+    P.Combo1->setFocus();
+}
+
+void Bajas::Menos2b_Release()
+{
+    if (!P.Combo2->Text().isEmpty())
+        BorraEmulador();
+    P.Combo2->setFocus();
+}
+
+bool Bajas::Confirma(const QString &titulo, const QString &mensaje)
+{
+    P.Mensaje(2, mensaje + u'?', titulo, M.TXT_Aceptar, M.TXT_Volver, QString());
+    return M.Respuesta_Opcion != 1;
+}
+
+void Bajas::Reescribe(const std::function<QString(const QString &)> &cambio)
+{
+    M.Ficheros.rewrite(host::programFile(u"Zembro.emu"_s), u"Zembro.tmp"_s, cambio);
+}
+
+// Reads the catalogue anew, and selects by places in the sorted lists.
+void Bajas::RefrescaCombos(int posicion, int emulador)
+{
+    M.UltimoSistema = QString::number(posicion);
+    M.UltimoEmulador = QString::number(emulador);
+    P.Llena_Combos();
+}
+
+void Bajas::BorraSistema()
+{
+    const QString sistema = P.Combo1->Text();
+    const int posicion = core::PosicionParaBorrar(M, sistema);
+    if (!Confirma(M.Msg_BorrarSis0, M.Msg_BorrarSis1 + sistema))
+        return;
+    Reescribe([&](const QString &texto) { return core::SinSistema(texto, sistema); });
+    RefrescaCombos(core::PosicionTrasBorrar(posicion, M.TotalSistemas), core::NingunEmulador);
+    P.TXT_Info->SetCaption(M.TXT_NingunaROM);
+    if (!P.Combo1->Text().isEmpty()) {
+        QuedanOtrosSistemas();
+        return;
+    }
+    P.Lista1->Clear();
+    SinNadaQueJugar();
+    PonNegro();
+}
+
+void Bajas::QuedanOtrosSistemas()
+{
+    P.Lista1->Clear();
+    if (core::TotalEmuladores(M, Sistema()) == 1)
+        P.Combo2->SetText(P.Combo2->List(0));
+    if (P.Combo2->Text().isEmpty()) {
+        P.TXT_InfoRoms->SetCaption(M.TXT_EmuNoSelec);
+        P.TXT_Boton->SetCaption(core::SinPalabra);
+    }
+}
+
+// What is to go is known ahead of the question, so that what was asked for is what goes.
+void Bajas::BorraEmulador()
+{
+    const int total = core::TotalEmuladores(M, Sistema());
+    const Elegido elegido { P.Combo1->Text(), P.Combo2->Text(), core::PosicionParaBorrar(M, P.Combo1->Text()),
+        total, Emulador() == total };
+    if (!Confirma(M.Msg_BorrarEmu0, M.Msg_BorrarEmu1 + elegido.emulador))
+        return;
+    if (total == 1)
+        BorraUnico(elegido);
+    else
+        BorraUnoDeVarios(elegido);
+}
+
+// The system stays in the catalogue and in Combo1, empty.
+void Bajas::BorraUnico(const Elegido &elegido)
+{
+    Reescribe([&](const QString &texto) { return core::SinUnicoEmulador(texto, elegido.sistema); });
+    RefrescaCombos(elegido.posicion, core::NingunEmulador);
+    if (P.Combo2->Text().isEmpty())
+        SinNadaQueJugar();
+    P.Lista1->Clear();
+    OlvidaRuta();
+    P.TXT_Info->SetCaption(M.TXT_NingunaROM);
+    PonNegro();
+}
+
+// A single one that remains is selected at once, and listed unless the slots of the ROM lines are equal.
+void Bajas::BorraUnoDeVarios(const Elegido &elegido)
+{
+    Reescribe([&](const QString &texto) {
+        return elegido.esElUltimo ? core::SinUltimoEmulador(texto, elegido.sistema, elegido.total)
+                                  : core::SinEmulador(texto, elegido.emulador);
+    });
+    if (M.IndiceRutas == 0)
+        M.IndiceRutas = 1;
+    RefrescaCombos(elegido.posicion, elegido.total == 2 ? 0 : core::NingunEmulador);
+    const bool hayEmulador = !P.Combo2->Text().isEmpty();
+    if (hayEmulador)
+        M.RutasROM(M.IndiceRutas) = host::upper(M.Cat_ROM(Sistema(), Emulador()));
+    if (M.RutasROM(2) != M.RutasROM(1))
+        P.Llena_Lista();
+    if (!hayEmulador) {
+        P.Lista1->Clear();
+        OlvidaRuta();
+        SinNadaQueJugar();
+        PonNegro();
+    }
+}
+
+void Bajas::SinNadaQueJugar()
+{
+    P.TXT_InfoRoms->SetCaption(core::ResumenVacio);
+    P.TXT_Boton->SetCaption(core::SinPalabra);
+}
+
+void Bajas::PonNegro()
+{
+    P.Graf_Imagen->show();
+    for (forms::Image *imagen : { P.Graf_Imagen, P.Aumento.Imagen })
+        imagen->SetPicture(P.Aumento.Negro->Picture());
+}
+
+// An empty slot: the next emulator picked compares unequal, and is listed.
+void Bajas::OlvidaRuta()
+{
+    if (M.IndiceRutas == 0)
+        M.IndiceRutas = 1;
+    M.RutasROM(M.IndiceRutas).clear();
+}
+
+int Bajas::Sistema() const
+{
+    return P.Combo1->ItemData(P.Combo1->ListIndex());
+}
+
+int Bajas::Emulador() const
+{
+    return P.Combo2->ItemData(P.Combo2->ListIndex()) + 1;
+}
+
+} // namespace maintenance
