@@ -316,6 +316,7 @@ TEST(NamesOfTheDatabase, FitTheDropDownListsAndThePairOfBoth)
     constexpr int ComboWidth = 1515; // twips: what the arrow leaves
     constexpr int PairWidth = 3120;
     for (const sources::System &system : sources::systems(u"Zembro.sye"_s)) {
+        ASSERT_FALSE(system.emulators.isEmpty()) << system.name.toStdString();
         const QString pair = system.name + u" -> "_s + longest(system.emulators);
         EXPECT_LE(letters.horizontalAdvance(pair), forms::pixels(PairWidth)) << pair.toStdString();
         for (const QString &name : system.emulators + QStringList { system.name })
