@@ -1,0 +1,77 @@
+#include "finder/fichas.h"
+
+#include "host/failure.h"
+
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace finder {
+
+namespace {
+
+constexpr int Columnas = 5;
+const QString Nada = u"-"_s;
+
+bool esTipo(const QString &texto)
+{
+    return texto.size() == 1 && u"01235678"_s.contains(texto);
+}
+
+Ficha fichaDe(const QString &linea)
+{
+    const QStringList columnas = linea.split(u'\t');
+    if (columnas.size() != Columnas || columnas.contains(QString()) || !esTipo(columnas[2]))
+        throw host::Failure(host::InvalidArgument, u"read the table of emulators"_s, linea);
+    Ficha ficha { columnas[0], columnas[1].split(u' ', Qt::SkipEmptyParts), columnas[2], columnas[3],
+        columnas[4] };
+    if (ficha.par1 == Nada)
+        ficha.par1.clear();
+    if (ficha.par2 == Nada)
+        ficha.par2.clear();
+    return ficha;
+}
+
+QString conBlanco(const QString &parametros)
+{
+    return parametros.isEmpty() ? parametros : u' ' + parametros;
+}
+
+} // namespace
+
+std::vector<Ficha> LeeFichas(const QString &texto)
+{
+    std::vector<Ficha> fichas;
+    QSet<QString> nombres;
+    for (QString linea : texto.split(u'\n')) {
+        if (linea.endsWith(u'\r'))
+            linea.chop(1);
+        if (linea.isEmpty() || linea.startsWith(u'#'))
+            continue;
+        fichas.push_back(fichaDe(linea));
+        const QString &nombre = fichas.back().emulador;
+        if (nombres.contains(nombre))
+            throw host::Failure(host::InvalidArgument, u"read the table of emulators"_s, nombre);
+        nombres += nombre;
+    }
+    return fichas;
+}
+
+Parametros ParametrosDe(const Ficha &ficha)
+{
+    const int tipo = ficha.tipo.toInt();
+    return { tipo >= 5 ? conBlanco(ficha.par1) : ficha.par1, tipo == 3 ? conBlanco(ficha.par2) : ficha.par2 };
+}
+
+QString MarcaDe(const QString &texto, const QString &nombre)
+{
+    const QString principio = u'{' + nombre + u':';
+    const qsizetype desde = texto.indexOf(principio);
+    const qsizetype hasta = texto.indexOf(u'}', desde);
+    if (desde < 0 || hasta < 0)
+        return {};
+    const qsizetype valor = desde + principio.size();
+    return texto.sliced(valor, hasta - valor);
+}
+
+} // namespace finder

@@ -1,0 +1,137 @@
+#include "finder/hallazgos.h"
+
+#include "core/catalogo.h"
+#include "core/lineas.h"
+
+#include "host/paths.h"
+#include "host/textsource.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <algorithm>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace finder {
+
+namespace {
+
+// A system's name as that of a directory.
+QString nombreDeDirectorio(QString sistema)
+{
+    return sistema.replace(u'/', u'-');
+}
+
+QSet<QString> nombresConfigurados(const core::Modulo &catalogo)
+{
+    QSet<QString> nombres;
+    for (int s = 0; s <= catalogo.Indice_Sistema; ++s) {
+        for (int e = 1; e <= core::TotalEmuladores(catalogo, s); ++e)
+            nombres += catalogo.Cat_Nombre(s, e);
+    }
+    return nombres;
+}
+
+// The emulator of a card with its paths, if all of it is on the machine.
+std::optional<Hallazgo> hallazgoDe(
+    const Ficha &ficha, const QString &sistema, const Lugares &lugares, const QString &directorio)
+{
+    Hallazgo hallazgo;
+    hallazgo.sistema = sistema;
+    hallazgo.programa = RutaDePrograma(ficha.ejecutables, lugares);
+    if (hallazgo.programa.isEmpty())
+        return std::nullopt;
+
+    Parametros parametros = ParametrosDe(ficha);
+    const QString nucleo = MarcaDe(ficha.par1, u"nucleo"_s);
+    if (!nucleo.isEmpty()) {
+        const QString ruta = RutaDeNucleo(nucleo, lugares);
+        if (ruta.isEmpty())
+            return std::nullopt;
+        parametros.par1.replace(u"{nucleo:"_s + nucleo + u'}', ruta);
+    }
+
+    core::EmuladorNuevo &emulador = hallazgo.emulador;
+    emulador.exe = hallazgo.programa;
+    if (parametros.par1.contains(u"{roms}"_s)) {
+        hallazgo.arranque = directorio + u"/arranque/"_s + nombreDeDirectorio(ficha.emulador);
+        emulador.exe = hallazgo.arranque + hallazgo.programa.sliced(host::lastSeparator(hallazgo.programa));
+        parametros.par1.replace(u"{roms}"_s, u"roms"_s);
+    }
+    emulador.nombre = ficha.emulador;
+    emulador.tipo = ficha.tipo;
+    emulador.rom = directorio + u"/roms/"_s + nombreDeDirectorio(sistema) + u'/';
+    emulador.img = directorio + u"/capturas/"_s + nombreDeDirectorio(sistema) + u'/';
+    emulador.par1 = parametros.par1;
+    emulador.par2 = parametros.par2;
+    return hallazgo;
+}
+
+bool tieneLinea(const QString &texto, const QString &buscada)
+{
+    const std::vector<core::LineaConFin> lineas = core::EnLineas(texto);
+    return std::any_of(lineas.begin(), lineas.end(),
+        [&buscada](const core::LineaConFin &linea) { return linea.linea == buscada; });
+}
+
+core::SistemaNuevo sistemaDe(const core::Modulo &base, const Hallazgo &hallazgo)
+{
+    int s = 0;
+    while (base.Cat_Nombre(s, 0) != u'-' + hallazgo.sistema)
+        ++s;
+    core::SistemaNuevo sistema { hallazgo.sistema, base.Cat_WEB1(s), {}, hallazgo.emulador };
+    for (int k = 0; !base.Cat_EXT(s, k).isEmpty(); ++k)
+        sistema.extensiones += base.Cat_EXT(s, k);
+    return sistema;
+}
+
+} // namespace
+
+void LeeTablas(core::Modulo &M, const QString &texto)
+{
+    core::LectorDeCatalogo lector(M);
+    host::TextSource fuente(texto);
+    while (!fuente.atEnd())
+        lector.Linea(fuente.readLine());
+}
+
+std::vector<Hallazgo> Busca(const core::Modulo &base, const core::Modulo &catalogo,
+    const std::vector<Ficha> &fichas, const Lugares &lugares, const QString &directorio)
+{
+    QHash<QString, const Ficha *> porNombre;
+    for (const Ficha &ficha : fichas)
+        porNombre[u'+' + ficha.emulador] = &ficha;
+    const QSet<QString> configurados = nombresConfigurados(catalogo);
+
+    std::vector<Hallazgo> hallazgos;
+    for (int s = 0; s <= base.Indice_Sistema; ++s) {
+        for (int e = 1; e <= core::TotalEmuladores(base, s); ++e) {
+            const QString &nombre = base.Cat_Nombre(s, e);
+            if (!porNombre.contains(nombre) || configurados.contains(nombre))
+                continue;
+            std::optional<Hallazgo> hallazgo =
+                hallazgoDe(*porNombre[nombre], core::Valor(base.Cat_Nombre(s, 0), 1), lugares, directorio);
+            if (!hallazgo)
+                continue;
+            hallazgo->emulador.web2 = base.Cat_WEB2(s, e);
+            hallazgos.push_back(*hallazgo);
+        }
+    }
+    return hallazgos;
+}
+
+QString CatalogoCon(const QString &texto, const core::Modulo &base, const std::vector<Hallazgo> &hallazgos)
+{
+    QString catalogo = texto;
+    for (const Hallazgo &hallazgo : hallazgos) {
+        const QString linea = u'-' + hallazgo.sistema;
+        catalogo = tieneLinea(catalogo, linea)
+            ? core::ConEmuladorConfigurado(catalogo, linea, hallazgo.emulador)
+            : core::ConSistemaConfigurado(catalogo, sistemaDe(base, hallazgo));
+    }
+    return catalogo;
+}
+
+} // namespace finder

@@ -1,0 +1,39 @@
+// Which emulators of the database are on the machine and not yet in the catalogue, and the catalogue with
+// them.
+#pragma once
+
+#include "core/altas.h"
+#include "core/modulo.h"
+
+#include "finder/fichas.h"
+#include "finder/lugares.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace finder {
+
+struct Hallazgo {
+    QString sistema;
+    core::EmuladorNuevo emulador; // as it is configured
+    QString programa; // the executable that was found
+    // The directory that an emulator is started in which gets the bare name of a game: a link to the
+    // executable lies there, so that its working directory is this one, and a link named "roms". Empty for
+    // all others.
+    QString arranque;
+};
+
+// The catalogue tables of a file's text, read by the program's own reader; fails as that does.
+void LeeTablas(core::Modulo &M, const QString &texto);
+
+// In the order of the database. An emulator whose name stands in the catalogue, under whichever system, is
+// left out, and so is one whose executable or core isn't there.
+std::vector<Hallazgo> Busca(const core::Modulo &base, const core::Modulo &catalogo,
+    const std::vector<Ficha> &fichas, const Lugares &lugares, const QString &directorio);
+
+// The catalogue's text with these emulators, block for block as saving each of them writes it. Every line
+// that was there stays.
+QString CatalogoCon(const QString &texto, const core::Modulo &base, const std::vector<Hallazgo> &hallazgos);
+
+} // namespace finder

@@ -1,0 +1,144 @@
+// The finder run as the assembling of a program directory runs it.
+
+#include "maquina.h"
+
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QProcessEnvironment>
+
+using namespace Qt::StringLiterals;
+using testing::Contains;
+using testing::HasSubstr;
+
+namespace {
+
+const QByteArray Closing = "'----------------------------------------------------------------------\r\n";
+const QByteArray Catalogue = "' Comment\r\n[EOF]\r\n";
+
+// The names of two emulators that no machine has.
+class Finder : public testing::Test {
+protected:
+    Finder()
+    {
+        maquina.PonFichero(
+            u"table"_s, "Nes Test\tno-such-nes\t0\t-\t-\nArcade Test\tno-such-arcade\t3\t-dir {roms}\t-\n");
+        maquina.PonFichero(u"Zembro Dir/Zembro.sye"_s,
+            "-Games/Home\r\nWEB1=w\r\n*.ZIP\r\n'\r\n+Nes Test\r\nWEB2=n\r\n" + Closing
+                + "-Arcade\r\nWEB1=a\r\n*.ZIP\r\n'\r\n+Arcade Test\r\nWEB2=b\r\n" + Closing + "[EOF]\r\n");
+        maquina.PonFichero(u"Zembro Dir/Zembro.emu"_s, Catalogue);
+    }
+
+    int run(const QStringList &arguments)
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"PATH"_s, maquina.Ruta(u"bin"_s));
+        environment.insert(u"HOME"_s, maquina.Ruta(u"home"_s));
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(FINDER), arguments);
+        EXPECT_TRUE(process.waitForFinished());
+        output = process.readAllStandardOutput();
+        errors = process.readAllStandardError();
+        return process.exitCode();
+    }
+
+    int run()
+    {
+        return run({ maquina.Ruta(u"table"_s), maquina.Ruta(u"Zembro Dir"_s),
+            maquina.Ruta(u"Zembro Dir/Zembro.emu"_s) });
+    }
+
+    QByteArray catalogue() const { return maquina.Bytes(u"Zembro Dir/Zembro.emu"_s); }
+
+    Maquina maquina;
+    QByteArray output;
+    QByteArray errors;
+};
+
+} // namespace
+
+TEST_F(Finder, ConfiguresWhatIsThereAndMakesItsDirectories)
+{
+    maquina.PonPrograma(u"bin/no-such-nes"_s);
+    ASSERT_EQ(run(), 0) << errors.toStdString();
+    const QByteArray directory = maquina.Ruta(u"Zembro Dir"_s).toUtf8();
+    const QByteArray exe = maquina.Ruta(u"bin/no-such-nes"_s).toUtf8();
+    EXPECT_EQ(catalogue(),
+        "' Comment\r\n-Games/Home\r\nWEB1=w\r\n*.ZIP\r\n'\r\n+Nes Test\r\nWEB2=n\r\nEXE=" + exe
+            + "\r\nXDI=0\r\nROM=" + directory + "/roms/Games-Home/\r\nIMG=" + directory
+            + "/capturas/Games-Home/\r\nPAR1=\r\nPAR2=\r\n" + Closing + "[EOF]\r\n");
+    EXPECT_EQ(maquina.Entradas(u"Zembro Dir"_s),
+        QStringList({ u"Zembro.emu"_s, u"Zembro.sye"_s, u"capturas"_s, u"capturas/Games-Home"_s, u"roms"_s,
+            u"roms/Games-Home"_s }));
+    EXPECT_EQ(output, "Games/Home: Nes Test, " + exe + "\n");
+}
+
+TEST_F(Finder, ChangesNothingWhereNoEmulatorIs)
+{
+    ASSERT_EQ(run(), 0) << errors.toStdString();
+    EXPECT_EQ(catalogue(), Catalogue);
+    EXPECT_EQ(maquina.Entradas(u"Zembro Dir"_s), QStringList({ u"Zembro.emu"_s, u"Zembro.sye"_s }));
+    EXPECT_EQ(output, "");
+}
+
+TEST_F(Finder, ChangesNothingTheSecondTime)
+{
+    maquina.PonPrograma(u"bin/no-such-nes"_s);
+    maquina.PonPrograma(u"bin/no-such-arcade"_s);
+    ASSERT_EQ(run(), 0);
+    const QByteArray before = catalogue();
+    const QStringList entries = maquina.Entradas(u"Zembro Dir"_s);
+    ASSERT_EQ(run(), 0) << errors.toStdString();
+    EXPECT_EQ(catalogue(), before);
+    EXPECT_EQ(maquina.Entradas(u"Zembro Dir"_s), entries);
+    EXPECT_EQ(output, "");
+}
+
+TEST_F(Finder, LinksExecutableAndGamesWhereAnEmulatorGetsABareName)
+{
+    maquina.PonPrograma(u"bin/no-such-arcade"_s);
+    ASSERT_EQ(run(), 0) << errors.toStdString();
+    const QString start = u"Zembro Dir/arranque/Arcade Test/"_s;
+    EXPECT_EQ(QFileInfo(maquina.Ruta(start + u"no-such-arcade"_s)).symLinkTarget(),
+        maquina.Ruta(u"bin/no-such-arcade"_s));
+    EXPECT_EQ(QFileInfo(maquina.Ruta(start + u"roms"_s)).symLinkTarget(),
+        maquina.Ruta(u"Zembro Dir/roms/Arcade"_s));
+    EXPECT_THAT(catalogue().toStdString(), HasSubstr("PAR1=-dir roms\r\n"));
+}
+
+TEST_F(Finder, PutsALinkRightThatLeadsElsewhere)
+{
+    maquina.PonPrograma(u"bin/no-such-arcade"_s);
+    const QString start = u"Zembro Dir/arranque/Arcade Test/"_s;
+    ASSERT_TRUE(QDir().mkpath(maquina.Ruta(start)));
+    ASSERT_TRUE(QFile::link(maquina.Ruta(u"gone"_s), maquina.Ruta(start + u"roms"_s)));
+    ASSERT_EQ(run(), 0) << errors.toStdString();
+    EXPECT_EQ(QFileInfo(maquina.Ruta(start + u"roms"_s)).symLinkTarget(),
+        maquina.Ruta(u"Zembro Dir/roms/Arcade"_s));
+}
+
+TEST_F(Finder, LeavesTheCatalogueAsItWasWhereADirectoryCannotBeMade)
+{
+    maquina.PonPrograma(u"bin/no-such-nes"_s);
+    maquina.PonFichero(u"Zembro Dir/roms"_s);
+    EXPECT_EQ(run(), 1);
+    EXPECT_EQ(catalogue(), Catalogue);
+    EXPECT_THAT(errors.toStdString(), HasSubstr("roms/Games-Home"));
+}
+
+TEST_F(Finder, NamesTheFileThatIsMissing)
+{
+    EXPECT_EQ(run({ maquina.Ruta(u"none"_s), maquina.Ruta(u"Zembro Dir"_s),
+                  maquina.Ruta(u"Zembro Dir/Zembro.emu"_s) }),
+        1);
+    EXPECT_THAT(errors.toStdString(), HasSubstr("/none"));
+}
+
+TEST_F(Finder, TakesThreeArguments)
+{
+    EXPECT_EQ(run({ maquina.Ruta(u"table"_s) }), 2);
+    EXPECT_THAT(errors.toStdString(), HasSubstr("usage"));
+}

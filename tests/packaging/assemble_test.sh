@@ -1,0 +1,146 @@
+#!/bin/bash
+# Assembling a program directory: assemble_test.sh FINDER. New, again, from a newer build, over what a user changed.
+set -u
+finder=$1
+assemble=$(dirname "$0")/../../packaging/assemble.sh
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+bad=0
+complain() { echo "$*" >&2; bad=1; }
+
+build=$work/build
+program="$work/My Programs/zembrolix"
+
+# A build whose texts say its version.
+make_build() { # version
+    local name
+    mkdir -p "$build"/{converter,finder,data/beside/LNG,data/demo/games}
+    for name in Zembrolix converter/Cvtgif15.exe; do
+        printf '#!/bin/sh\necho %s\n' "$1" >"$build/$name"
+    done
+    cp "$finder" "$build/finder/BuscaEmuladores"
+    for name in Zembro.cfg Zembro.txt Zembro.faq Zembro.rom LNG/ZB-ESP.LNG; do
+        printf '%s %s\r\n' "$name" "$1" >"$build/data/beside/$name"
+    done
+    cp "$build/data/beside/Zembro.txt" "$build/data/demo/games/GAME.A26"
+    {
+        printf -- "'\r\n-Jaguar\r\nWEB1=%s\r\n*.ZIP\r\n*.J64\r\n'\r\n+BigPEmu\r\nWEB2=f\r\n" "$1"
+        printf "'%s\r\n[EOF]\r\n" "$closing"
+    } >"$build/data/beside/Zembro.sye"
+    printf -- "-Atari 2600\r\n'\r\n+Stella\r\nEXE=@STELLA@\r\nROM=@DEMO@/\r\n'%s\r\n[EOF]\r\n" "$closing" \
+        >"$build/data/beside/Zembro.emu"
+}
+closing=----------------------------------------------------------------------
+run() { "$assemble" "$build" "$program" >"$work/said" 2>"$work/errors" || complain "$1: it fails: $(cat "$work/errors")"; }
+version_of() { grep -ao 'version[0-9]' "$program/$1" | head -n 1; }
+expect() { # name, version, situation
+    [ "$(version_of "$1")" = "$2" ] || complain "$3: $1 is '$(version_of "$1")', not $2"
+}
+state() { (cd "$program" && find . -type f -exec sha256sum {} + | sort -k 2); }
+anew() { rm -rf "$work/My Programs"; make_build version1; run "$1"; }
+mkdir "$work/bin"
+printf '#!/bin/sh\n' >"$work/bin/bigpemu"
+chmod +x "$work/bin/bigpemu"
+plain=$PATH
+
+# New: everything is there, and the emulators of the machine are in the catalogue behind the demonstration.
+PATH=$work/bin:$plain
+anew new
+for name in Zembrolix Cvtgif15.exe Zembro.cfg Zembro.txt Zembro.faq Zembro.rom Zembro.sye LNG/ZB-ESP.LNG demo/GAME.A26; do
+    expect "$name" version1 new
+done
+[ -x "$program/Zembrolix" ] || complain "new: the program can't be run"
+[ -z "$(find "$program" -name '*.new')" ] || complain "new: something is left over"
+stella=$(command -v stella || echo /usr/games/stella)
+printf -- "-Atari 2600\r\n'\r\n+Stella\r\nEXE=%s\r\nROM=%s/demo/\r\n'%s\r\n" "$stella" "$program" "$closing" >"$work/demo"
+cmp -s "$work/demo" <(head -c "$(stat -c %s "$work/demo")" "$program/Zembro.emu") || complain "new: the demonstration isn't what it was"
+printf -- "-Jaguar\r\nWEB1=version1\r\n*.ZIP\r\n*.J64\r\n'\r\n+BigPEmu\r\nWEB2=f\r\nEXE=%s/bin/bigpemu\r\nXDI=0\r\n" "$work" >"$work/block"
+printf -- "ROM=%s/roms/Jaguar/\r\nIMG=%s/capturas/Jaguar/\r\nPAR1=\r\nPAR2=\r\n'%s\r\n[EOF]\r\n" "$program" "$program" "$closing" >>"$work/block"
+cmp -s "$work/block" <(tail -c "$(stat -c %s "$work/block")" "$program/Zembro.emu") || complain "new: the emulator isn't configured"
+[ -d "$program/roms/Jaguar" ] && [ -d "$program/capturas/Jaguar" ] || complain "new: no directories for the games"
+grep -q '^Configured Jaguar: BigPEmu, ' "$work/said" || complain "new: it doesn't say what it has configured"
+
+# Again: nothing changes.
+before=$(state)
+run again
+[ "$(state)" = "$before" ] || complain "again: something has changed"
+[ ! -s "$work/said" ] || complain "again: it says something"
+
+# Again with one emulator more: the catalogue is the user's.
+PATH=$plain
+rm "$work/bin/bigpemu"
+anew "without emulators"
+before=$(state)
+printf '#!/bin/sh\n' >"$work/bin/bigpemu"
+chmod +x "$work/bin/bigpemu"
+PATH=$work/bin:$plain
+run "one more"
+[ "$(state)" = "$before" ] || complain "one more: something has changed"
+
+# A newer build renews what is as it was delivered, and the programs.
+anew newer
+catalogue=$(sha256sum <"$program/Zembro.emu")
+make_build version2
+run newer
+for name in Zembrolix Cvtgif15.exe Zembro.cfg Zembro.txt Zembro.faq Zembro.rom Zembro.sye LNG/ZB-ESP.LNG demo/GAME.A26; do
+    expect "$name" version2 newer
+done
+[ "$(sha256sum <"$program/Zembro.emu")" = "$catalogue" ] || complain "newer: the catalogue has changed"
+make_build version3
+run "newer still"
+expect Zembro.txt version3 "newer still"
+
+# What the user changed stays, and so does a link; what he deleted is there again.
+anew changed
+for name in Zembro.cfg LNG/ZB-ESP.LNG demo/GAME.A26 Zembro.emu; do
+    echo mine >>"$program/$name"
+done
+mv "$program/Zembro.faq" "$work/elsewhere"
+ln -s "$work/elsewhere" "$program/Zembro.faq"
+rm "$program/Zembro.txt"
+before=$(sha256sum "$program"/Zembro.{cfg,emu} "$program/LNG/ZB-ESP.LNG" "$program/demo/GAME.A26" "$work/elsewhere")
+make_build version2
+run changed
+after=$(sha256sum "$program"/Zembro.{cfg,emu} "$program/LNG/ZB-ESP.LNG" "$program/demo/GAME.A26" "$work/elsewhere")
+[ "$after" = "$before" ] || complain "changed: something that the user changed is gone"
+[ -L "$program/Zembro.faq" ] || complain "changed: the link is gone"
+expect Zembro.txt version2 changed
+expect Zembro.sye version2 changed
+
+# The database and the notes are renewed together or not at all.
+for mine in Zembro.rom Zembro.sye; do
+    anew pair
+    echo mine >>"$program/$mine"
+    make_build version2
+    run pair
+    expect Zembro.rom version1 "pair, $mine changed"
+    expect Zembro.sye version1 "pair, $mine changed"
+    expect Zembro.txt version2 "pair, $mine changed"
+done
+rm "$program/Zembro.rom"
+run "pair with one missing"
+expect Zembro.rom version2 "pair with one missing"
+expect Zembro.sye version1 "pair with one missing"
+
+# A directory from the time before sums were kept: known from the build that it came from.
+anew old
+rm "$program/.delivered"
+run old
+make_build version2
+run old
+expect Zembro.txt version2 old
+anew older
+rm "$program/.delivered"
+make_build version2
+run older
+expect Zembro.txt version1 older
+
+# Without the finder the demonstration is there all the same.
+rm -rf "$work/My Programs"
+make_build version1
+printf '#!/bin/sh\nexit 1\n' >"$build/finder/BuscaEmuladores"
+run "no finder"
+grep -q '^+Stella' "$program/Zembro.emu" || complain "no finder: no catalogue"
+grep -q "aren't configured" "$work/errors" || complain "no finder: not a word about it"
+
+exit "$bad"
