@@ -48,6 +48,17 @@ if first=$(window '^Zembrolix$' 5); then
 fi
 main=$(window '^Zembrolix v2\.0$' 10) || fail "no main screen"
 sleep 0.5
+# The catalogue holds the emulators of the machine too: the demonstration is for the first Atari, in Stella.
+choose() { # y of the list, what its entry begins with
+    click "$main" 90 "$1"
+    sleep 0.5
+    xdotool type "$2"
+    sleep 0.5
+    xdotool key Return
+    sleep 0.5
+}
+choose 291 ata
+choose 315 st
 picture "$main" main-screen.png
 click "$main" 184 341
 echo "tour: pressed play"

@@ -155,6 +155,34 @@ protected:
         return waitForWindow([] { return host::findWindow(MainTitle); });
     }
 
+    void key(const QStringList &words) { run(u"xdotool"_s, words); }
+
+    // An entry of a drop-down list, told by what it begins with.
+    void choose(host::WindowId main, int y, const QString &beginning)
+    {
+        click(main, 90, y);
+        waitFor([&] { return popupIsOpen(main); });
+        key({ u"type"_s, beginning });
+        key({ u"key"_s, u"Return"_s });
+        waitFor([&] { return !popupIsOpen(main); });
+    }
+
+    // A drop-down list's entries stand in a window of their own, without a name.
+    static bool popupIsOpen(host::WindowId main)
+    {
+        const QStringList windows =
+            output(u"xdotool"_s, { u"search"_s, u"--onlyvisible"_s, u"--class"_s, u"^Zembrolix$"_s })
+                .split(u'\n', Qt::SkipEmptyParts);
+        return windows.size() > 1 && windows.contains(QString::number(main));
+    }
+
+    // The catalogue holds the emulators of the machine too: the games are for the first Atari, in Stella.
+    void chooseStella(host::WindowId main)
+    {
+        choose(main, 291, u"ata"_s);
+        choose(main, 315, u"st"_s);
+    }
+
     host::WindowId emulatorWindow()
     {
         return output(u"xdotool"_s, { u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^Stella .*: "_s })
@@ -185,6 +213,8 @@ TEST_P(Journey, ChosenGamePlaysInItsEmulatorAndTheListIsBackWhenItEnds)
     start();
     const host::WindowId main = acceptFirstRun();
     ASSERT_NE(main, 0u);
+    atRest(main);
+    chooseStella(main);
     atRest(main);
     click(main, 60, 88 + 1 + RowHeight * GetParam().row + RowHeight / 2);
     const QImage before = atRest(main);
