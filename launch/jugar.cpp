@@ -216,8 +216,10 @@ QStringList Lanzamiento::Desempaqueta(const QString &ArchivoZip, const QString &
 
 void Lanzamiento::Corre(Caso caso)
 {
+    // From another directory a bare name would lead to another program.
+    if (!Intenta([&] { host::changeDirectory(m_piezas.programa.ExeDir); }))
+        m_piezas.programa.ExeNombre.enDisco = m_piezas.programa.ExeCorto.enDisco;
     const LineaDeOrden orden = Compone(caso, m_via, m_piezas);
-    Intenta([&] { host::changeDirectory(m_piezas.programa.ExeDir); });
     if (core::NumeroDeAjuste(M.DebugMode) == 1)
         host::questions().tell(u"Zembrolix"_s, orden.EnTexto());
     Intenta([&] { EsperarEmulador(M, m_pantalla, orden); });

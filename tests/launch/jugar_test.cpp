@@ -2,8 +2,6 @@
 // without a ZIP.
 #include "escenario.h"
 
-#include "host/encoding.h"
-#include "host/letters.h"
 #include "host/paths.h"
 #include "launch/jugar.h"
 
@@ -92,10 +90,23 @@ TEST_P(SinRama, ATypeWithoutABranchShowsTheStart_AndStartsNothing)
     PonROM("mario.nes");
     Juega();
     EXPECT_EQ(pantalla.llamadas, FinalDeSiempre);
-    pantalla.llamadas.clear();
-    PonNota(0, u"MARIO.NES"_s, u"mario.nes"_s);
+    EXPECT_EQ(M.TituloDOS, u"emu"_s);
+    EXPECT_FALSE(HuboJuego());
+}
+
+TEST_P(SinRama, ByNoteToo_WithTheKeyLeftInLowerCaseAndTheRestOfTheNotesAsTheyWere)
+{
+    PonEmulador(0);
+    M.Cat_XDI(3, 2) = GetParam();
+    PonROM("mario.nes");
+    PonNota(0, u"OTHER.NES"_s, u"other"_s);
+    PonNota(1, u"MARIO.NES"_s, u"mario.nes"_s);
+    PonNota(2, u"MARIO.NES"_s, u"mario.nes"_s);
     Juega();
     EXPECT_EQ(pantalla.llamadas, FinalDeSiempre);
+    EXPECT_EQ(M.Nota_Clave(0), u"OTHER.NES"_s);
+    EXPECT_EQ(M.Nota_Clave(1), u"mario.nes"_s);
+    EXPECT_EQ(M.TituloDOS, u"emu"_s);
     EXPECT_FALSE(HuboJuego());
 }
 
@@ -120,6 +131,31 @@ TEST_P(SoloExe, RunsTheExecutableAloneInItsDirectory)
 }
 
 INSTANTIATE_TEST_SUITE_P(Tipos, SoloExe, testing::Range(5, 9));
+
+// The directory's short name leads nowhere where the one above it can't be listed.
+TEST_P(SoloExe, WhereTheDirectoryIsNotReachedTheTrueProgramStarts_AndNoneOfItsNameElsewhere)
+{
+    PonEmulador(GetParam(), u" -x"_s);
+    makeDirectory("closed");
+    makeDirectory("closed/My Emu");
+    ASSERT_EQ(rename(place("emu/emu.sh").constData(), place("closed/My Emu/emu.sh").constData()), 0);
+    makeFile("program/emu.sh", "#!/bin/sh\ntouch '" + place("out") + "/another'\n");
+    setMode("program/emu.sh", 0755);
+    setMode("closed", 0711);
+    setMode("out", 0777);
+    M.Cat_EXE(3, 2) = u"EXE="_s + path(u"closed/My Emu/emu.sh"_s);
+    M.DebugMode = u"1"_s;
+    const int status = inChildOfOrdinaryUser([this] {
+        Juega();
+        return ordenMostrada() == u"Zembrolix: emu.sh -x" ? 0 : 1;
+    });
+    setMode("closed", 0755);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(Programa(), place("closed/My Emu/emu.sh"));
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-x" }));
+    EXPECT_EQ(DirectorioDelJuego(), place("program"));
+    EXPECT_FALSE(exists("out/another"));
+}
 
 TEST_F(JugarTest, Type5WithParametersThatBringNoBlankJoinsThemToTheName_AndFindsNoSuchProgram)
 {
@@ -171,57 +207,6 @@ TEST_F(JugarTest, Type0MakesNoTemporaryDirectory_ForAPlainFile)
     Juega();
     EXPECT_EQ(Anotado("tmp"), "");
 }
-
-class ConNombre : public JugarTest, public testing::WithParamInterface<QByteArray> { };
-
-TEST_P(ConNombre, ARomOfAnyNameReachesTheEmulatorAsOneArgumentThatItCanOpen)
-{
-    PonEmulador(0, u"-a"_s, u"-b"_s);
-    PonROM(GetParam(), "the game");
-    pantalla.lista1 = host::nameFromDisk(GetParam());
-    Juega();
-    EXPECT_EQ(Argumentos(), QByteArrayList({ "-a", place("roms/" + GetParam()), "-b" }));
-    EXPECT_EQ(Abierto(), "the game");
-    EXPECT_FALSE(exists("emu/bad"));
-}
-
-TEST_P(ConNombre, ByNoteToo)
-{
-    PonEmulador(0, u"-a"_s, u"-b"_s);
-    PonROM(GetParam(), "the game");
-    PonNota(0, host::upper(host::nameFromDisk(GetParam())), u"described"_s);
-    pantalla.lista1 = u"described"_s;
-    Juega();
-    EXPECT_EQ(Argumentos(), QByteArrayList({ "-a", place("roms/" + GetParam()), "-b" }));
-    EXPECT_EQ(Abierto(), "the game");
-}
-
-TEST_P(ConNombre, AnEmulatorOfAnyNameIsFoundAndRunsInItsDirectory)
-{
-    PonEmulador(0);
-    PonROM("mario.nes");
-    makeDirectory("emu/" + GetParam());
-    ASSERT_EQ(
-        rename(place("emu/emu.sh").constData(), place("emu/" + GetParam() + '/' + GetParam()).constData()),
-        0);
-    const QString nombre = host::nameFromDisk(GetParam());
-    for (const int tipo : { 0, 5 }) {
-        M.Cat_XDI(3, 2) = u"XDI=%1"_s.arg(tipo);
-        M.Cat_EXE(3, 2) = u"EXE="_s + path(u"emu/"_s) + nombre + u'/' + nombre;
-        Juega();
-        EXPECT_EQ(Programa(), (tipo == 0 ? place("emu/" + GetParam() + '/') : QByteArray("./")) + GetParam());
-        EXPECT_EQ(bytes("out/directory"), place("emu/" + GetParam()) + '\n');
-        ASSERT_EQ(unlink(place("out/arguments").constData()), 0);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Nombres, ConNombre,
-    testing::Values("Two Words.NES", "a \"quoted\" one.nes", "it's.nes", "`touch bad`.nes",
-        "$HOME $(touch bad).nes", "a;touch bad;.nes", "two\nlines.nes", "bad\xff\xfe.nes", "-rf.nes",
-        "*?.nes", "a\\b.nes", "many.inner.points.nes",
-        "\xc3\x91"
-        "and\xc3\xba.NES",
-        "noextension", " blank first.nes", "blank last.nes ", "tab\there.nes", "&|<>.nes", "#!~.nes"));
 
 TEST_F(JugarTest, AShortNameStandsInTheText_TheTrueOneAmongTheArguments)
 {
@@ -346,6 +331,58 @@ TEST_F(JugarTest, WithoutTheNotesFileARomHasNoParametersOfItsOwn)
     PonROM("mario.nes");
     Juega();
     EXPECT_EQ(Argumentos(), QByteArrayList({ "mario.nes" }));
+}
+
+TEST_F(JugarTest, ANotesFileThatCanNotBeReadGivesNoParameters_AndTheGameIsPlayed)
+{
+    PonEmulador(1);
+    PonROM("mario.nes");
+    PonParametros("MARIO.NES,s,e,-x\r\n");
+    setMode("program/Zembro.rom", 0);
+    setMode("out", 0777);
+    const int status = inChildOfOrdinaryUser([this] {
+        Juega();
+        return 0;
+    });
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "mario.nes" }));
+    ASSERT_EQ(unlink(place("out/arguments").constData()), 0);
+
+    ASSERT_EQ(unlink(place("program/Zembro.rom").constData()), 0);
+    makeDirectory("program/Zembro.rom");
+    Juega();
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "mario.nes" }));
+}
+
+TEST_F(JugarTest, ABinaryNotesFileGivesNoParameters_AndTheGameIsPlayed)
+{
+    PonEmulador(1);
+    PonROM("mario.nes");
+    QByteArray todos;
+    for (int i = 0; i < 256; ++i)
+        todos += char(i);
+    for (const QByteArray &basura :
+        { todos, QByteArray(5000, '\0'), QByteArray(5000, '"'), todos + "\nParametros\n" + todos,
+            QByteArray("Parametros\nMARIO.NES,\"") + todos, QByteArray("Parametros\nMARIO.NES,s,e") }) {
+        makeFile("program/Zembro.rom", basura);
+        Juega();
+        EXPECT_EQ(Argumentos(), QByteArrayList({ "mario.nes" }));
+        EXPECT_EQ(bytes("program/Zembro.rom"), basura);
+        EXPECT_FALSE(M.Ficheros.isOpen(1));
+        ASSERT_EQ(unlink(place("out/arguments").constData()), 0);
+    }
+}
+
+TEST_F(JugarTest, ABinaryNotesFileWithARecordOfTheGameGivesItsParameters)
+{
+    PonEmulador(1);
+    PonROM("mario.nes");
+    QByteArray todos;
+    for (int i = 0; i < 256; ++i)
+        todos += char(i);
+    makeFile("program/Zembro.rom", todos + "\nParametros\n\1\2,\xff,\3,x\nMARIO.NES,s,e,-x\n");
+    Juega();
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "mario.nes", "-x" }));
 }
 
 TEST_F(JugarTest, TheNotesFileIsOnlyRead_AndEveryFileIsClosed)

@@ -229,6 +229,34 @@ TEST_F(Tipo0Test, ALinkInThePlaceOfTheDirectoryIsNeitherSweptNorUsed)
     EXPECT_TRUE(exists("tmp/ZB-TMP"));
 }
 
+TEST_F(Tipo0Test, ADirectoryOfTheNameInAnotherCaseIsNeitherSweptNorUsed)
+{
+    makeDirectory("tmp/zb-tmp");
+    makeFile("tmp/zb-tmp/kept.nes");
+    juega({ { "a.nes", "the game" } });
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", place("tmp/ZB-TMP/a.nes"), "-2" }));
+    EXPECT_EQ(Abierto(), "the game");
+    EXPECT_TRUE(exists("tmp/zb-tmp/kept.nes"));
+    EXPECT_FALSE(exists("tmp/zb-tmp/a.nes"));
+    EXPECT_TRUE(temporalVacio());
+    Juega();
+    EXPECT_TRUE(exists("tmp/zb-tmp/kept.nes"));
+}
+
+TEST_F(Tipo0Test, WithoutATemporaryPlaceTheGameIsUnpackedInTheWorkingDirectory)
+{
+    setMode("tmp", 01777);
+    makeLink("elsewhere", "tmp/zembrolix-" + QByteArray::number(geteuid()));
+    M.DebugMode = u"1"_s;
+    juega({ { "A Game.nes", "the game" } });
+    EXPECT_EQ(respuestas.dichos,
+        QStringList({ u"Zembrolix: "_s + Corta(u"emu/emu.sh -1 ZB-TMP/a game.nes -2 "_s) }));
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", place("program/ZB-TMP/A Game.nes"), "-2" }));
+    EXPECT_EQ(Abierto(), "the game");
+    EXPECT_FALSE(exists("program/ZB-TMP"));
+    EXPECT_FALSE(exists("emu/ZB-TMP"));
+}
+
 TEST_F(Tipo0Test, ADirectoryOfSomebodyElseIsNeitherSweptNorUsed)
 {
     if (geteuid() != 0)
@@ -376,6 +404,18 @@ TEST_P(PorLasDosVias, WhereTheDirectoryCanNotBeMadeTheEmulatorStartsAnyway)
     EXPECT_EQ(bytes("emu/mario"), "in the way");
 }
 
+TEST_P(PorLasDosVias, ALinkInTheDirectorysPlaceIsNeitherUnpackedIntoNorEmptied)
+{
+    makeDirectory("precious");
+    makeFile("precious/rom1.bin", "the user's");
+    makeLink("../precious", "emu/mario");
+    juega(GetParam());
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "mario", "-2" }));
+    EXPECT_EQ(bytes("precious/rom1.bin"), "the user's");
+    EXPECT_FALSE(exists("precious/rom2.bin"));
+    EXPECT_TRUE(exists("emu/mario"));
+}
+
 TEST_P(PorLasDosVias, AfterAFailedStartTheDirectoryGoesToo)
 {
     setMode("emu/emu.sh", 0644);
@@ -469,6 +509,23 @@ TEST_F(Tipo2Test, ANameWithoutAPointHasNoBase_AndDeletesNothing)
     EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "-2" }));
     EXPECT_TRUE(exists("emu/kept"));
     EXPECT_FALSE(exists("emu/mario"));
+}
+
+TEST_F(Tipo2Test, ABackslashInANameLeadsIntoNoOtherDirectory)
+{
+    PonROM("a\\b.zip", Zip({ { "rom.bin" } }));
+    PonNota(1, u"A\\B"_s, u"described"_s);
+    makeDirectory("emu/a");
+    makeDirectory("emu/a/b");
+    makeFile("emu/a/b/kept");
+    HazDuranteElJuego("find . -name rom.bin > \"$OUT/unpacked\"\n");
+    for (const QString &entrada : { u"a\\b.zip"_s, u"described"_s }) {
+        juega(entrada);
+        EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "a\\b", "-2" }));
+        EXPECT_EQ(Anotado("unpacked"), "");
+        EXPECT_TRUE(exists("emu/a/b/kept"));
+        EXPECT_FALSE(exists("emu/a\\b"));
+    }
 }
 
 TEST_F(Tipo2Test, ANestedLaunchOfTheSameGameLeavesTheFirstOnesDirectoryToIt)

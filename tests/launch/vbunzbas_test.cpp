@@ -365,6 +365,19 @@ TEST_F(DescomprimirTest, StopsWhereTheDiskWouldBeLeftWithTooLittle)
     EXPECT_EQ(desempaquetado(), QByteArrayList({ "fits.nes" }));
 }
 
+TEST_F(DescomprimirTest, EmptyMembersAndDirectoriesStopThereToo)
+{
+    launch::PonEspacioLibre([](int) { return 1000; });
+    EXPECT_EQ(descomprime({ { "dir/", "" }, { "sub/in.nes", "" }, { "empty.nes", "" } }), QStringList());
+    EXPECT_EQ(desempaquetado(), QByteArrayList());
+}
+
+TEST_F(DescomprimirTest, TheRoomLeftIsThatOfTheDestinationsOwnDisk)
+{
+    EXPECT_FALSE(launch::Destino("/proc").QuedaSitio()) << "a disk without any room";
+    EXPECT_TRUE(launch::Destino(place("to")).QuedaSitio());
+}
+
 TEST_F(DescomprimirTest, StopsInTheMiddleOfAMember_AndLeavesNoHalfFile)
 {
     constexpr qint64 Minimo = 100 * 1024 * 1024;
@@ -401,9 +414,44 @@ TEST_F(DescomprimirTest, NamesThatAreTooLongOrTooDeepLeaveTheOthersAlone)
 TEST_F(DescomprimirTest, UnpacksThousandsOfMembers)
 {
     QList<MiembroZip> miembros;
-    for (int i = 0; i < 2000; ++i)
-        miembros << MiembroZip { "game" + QByteArray::number(i) + ".nes" };
-    EXPECT_EQ(descomprime(miembros).size(), 2000);
+    for (int i = 0; i < 20000; ++i)
+        miembros << MiembroZip { "game" + QByteArray::number(i) + ".nes", "g" };
+    const QStringList ficheros = descomprime(miembros);
+    EXPECT_EQ(ficheros.size(), 20000);
+    EXPECT_EQ(ficheros.value(19999), u"game19999.nes"_s);
+    EXPECT_EQ(bytes("to/game19999.nes"), "g");
+}
+
+TEST_F(DescomprimirTest, UnpacksDeflatedMembers)
+{
+    const QByteArray texto = QByteArray("a line that comes again\n").repeated(20000);
+    EXPECT_EQ(descomprime({ { .nombre = "a.nes", .datos = texto, .comprimido = true }, { "b.nes", "stored" },
+                  { .nombre = "empty.nes", .datos = "", .comprimido = true } }),
+        QStringList({ u"a.nes"_s, u"b.nes"_s, u"empty.nes"_s }));
+    EXPECT_EQ(bytes("to/a.nes"), texto);
+    EXPECT_EQ(bytes("to/b.nes"), "stored");
+    EXPECT_EQ(bytes("to/empty.nes"), "");
+}
+
+TEST_F(DescomprimirTest, ADamagedDeflatedMemberLeavesNothing)
+{
+    QByteArray texto;
+    for (int i = 0; i < 20000; ++i)
+        texto += QByteArray::number(i * 7919 % 10007) + '\n';
+    EXPECT_EQ(
+        descomprime({ { "a.nes" },
+            { .nombre = "bad.nes", .datos = texto, .comprimido = true, .datosRotos = true }, { "c.nes" } }),
+        QStringList({ u"a.nes"_s, u"c.nes"_s }));
+    EXPECT_EQ(desempaquetado(), QByteArrayList({ "a.nes", "c.nes" }));
+}
+
+TEST_F(DescomprimirTest, AnEncryptedDeflatedMemberIsUnpackedWithItsPassword)
+{
+    const QByteArray texto = QByteArray("secret ").repeated(1000);
+    makeFile("a.zip", ZipCifrado({ { .nombre = "a.nes", .datos = texto, .comprimido = true } }, "sesame"));
+    respuestas.contraseñas = { u"sesame"_s };
+    EXPECT_EQ(descomprimeArchivo(), QStringList({ u"a.nes"_s }));
+    EXPECT_EQ(bytes("to/a.nes"), texto);
 }
 
 TEST(PartesDe, CutsAtBothSeparators_AndDropsWhatLeadsElsewhere)

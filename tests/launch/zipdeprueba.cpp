@@ -74,17 +74,31 @@ private:
 // The part that the local header and the directory's entry have in common.
 void comun(Bytes &salida, const MiembroZip &miembro, const QByteArray &guardado, bool cifrado)
 {
-    salida.dos(20).dos((miembro.utf8 ? 0x800 : 0) | (cifrado ? 1 : 0)).dos(0).dos(0).dos(0x21);
+    salida.dos(20).dos((miembro.utf8 ? 0x800 : 0) | (cifrado ? 1 : 0));
+    salida.dos(miembro.comprimido ? 8 : 0).dos(0).dos(0x21);
     salida.cuatro(suma(miembro.datos) + (miembro.sumaFalsa ? 1 : 0));
     salida.cuatro(quint32(guardado.size())).cuatro(quint32(miembro.datos.size()));
     salida.dos(quint32(miembro.nombre.size())).dos(0);
 }
 
+// The data ahead of any cipher.
+QByteArray guardados(const MiembroZip &miembro)
+{
+    QByteArray datos = miembro.datos;
+    if (miembro.comprimido) {
+        // Without the length, the head of two bytes and the checksum of four.
+        datos = datos.isEmpty() ? QByteArray("\3\0", 2) : qCompress(datos).sliced(6).chopped(4);
+    }
+    if (miembro.datosRotos)
+        datos.replace(datos.size() / 2, 16, QByteArray(16, '\xff'));
+    return datos;
+}
+
 // The data as they lie in the archive: behind twelve bytes, the last of which lets a reader check the
 // password.
-QByteArray cifrados(const QByteArray &datos, const QByteArray &contraseña)
+QByteArray cifrados(const MiembroZip &miembro, const QByteArray &contraseña)
 {
-    return Cifra(contraseña).de(QByteArray(11, 'z') + char(suma(datos) >> 24) + datos);
+    return Cifra(contraseña).de(QByteArray(11, 'z') + char(suma(miembro.datos) >> 24) + guardados(miembro));
 }
 
 QByteArray hazZip(const QList<MiembroZip> &miembros, const QByteArray &contraseña)
@@ -93,7 +107,7 @@ QByteArray hazZip(const QList<MiembroZip> &miembros, const QByteArray &contrase�
     Bytes cuerpo;
     Bytes directorio;
     for (const MiembroZip &miembro : miembros) {
-        const QByteArray guardado = cifrado ? cifrados(miembro.datos, contraseña) : miembro.datos;
+        const QByteArray guardado = cifrado ? cifrados(miembro, contraseña) : guardados(miembro);
         const quint32 lugar = cuerpo.total();
         comun(cuerpo.texto("PK\3\4"), miembro, guardado, cifrado);
         cuerpo.texto(miembro.nombre).texto(guardado);

@@ -11,6 +11,8 @@ struct MiembroZip {
     quint32 atributos = 0; // external ones: bit 0 read-only, the upper half a Unix mode
     bool enUnix = false; // made on a Unix
     bool sumaFalsa = false; // the checksum doesn't agree with the data
+    bool comprimido = false; // deflated
+    bool datosRotos = false; // what is kept of them is damaged in its middle
 };
 
 QByteArray Zip(const QList<MiembroZip> &miembros);
