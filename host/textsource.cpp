@@ -55,7 +55,7 @@ QStringView TextSource::takeUntil(qsizetype end)
 {
     const bool endsHere = end >= 0 && end < m_text.size();
     QStringView piece = QStringView(m_text).sliced(m_position, (endsHere ? end : m_text.size()) - m_position);
-    m_position += piece.size() + 1;
+    m_position += piece.size() + (endsHere ? 1 : 0);
     if (endsHere && m_text[end] == u'\n' && piece.endsWith(u'\r'))
         piece.chop(1);
     return piece;

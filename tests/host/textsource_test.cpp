@@ -151,3 +151,21 @@ TEST(TextFields, LoseBlanksAroundThemButNotTabs)
 {
     EXPECT_THAT(fields(u"  \ta\t  ,b"_s), ElementsAre(u"\ta\t"_s, u"b"_s));
 }
+
+TEST(TextRest, IsWhatHasNotBeenRead_AndNothingAtTheEnd)
+{
+    for (const QString &text :
+        { u"a\r\nlast"_s, u"a\nlast\n"_s, u"a,last"_s, u"a,\"last\""_s, u"a,last,"_s }) {
+        TextSource source(text);
+        EXPECT_EQ(source.rest(), text);
+        EXPECT_EQ(source.readField(), u"a"_s);
+        EXPECT_TRUE(source.rest().contains(u"last"_s)) << text.toStdString();
+        EXPECT_EQ(source.readField(), u"last"_s);
+        EXPECT_TRUE(source.atEnd());
+        EXPECT_EQ(source.rest(), QString()) << text.toStdString();
+    }
+    TextSource line(u"last"_s);
+    line.readLine();
+    EXPECT_EQ(line.rest(), QString());
+    EXPECT_EQ(TextSource(QString()).rest(), QString());
+}
