@@ -179,13 +179,30 @@ TEST_F(ArranqueTest, WordUnderThePlayButtonFollowsTheType)
     }
 }
 
-TEST_F(ArranqueTest, PartsOfTheEditorAreHidden)
+TEST_F(ArranqueTest, PartsOfTheEditorAreHiddenWhateverTheyWere)
 {
-    start();
-    for (const QString &name : { u"BotonARR"_s, u"BotonABJ"_s, u"FlechaE1"_s, u"FlechaE2"_s, u"Edit1"_s,
-             u"Edit2"_s, u"BlocDeNotas1"_s, u"BlocDeNotas2"_s, u"Editor"_s })
+    const QStringList parts { u"BotonARR"_s, u"BotonABJ"_s, u"FlechaE1"_s, u"FlechaE2"_s, u"Edit1"_s,
+        u"Edit2"_s, u"BlocDeNotas1"_s, u"BlocDeNotas2"_s, u"Editor"_s };
+    for (const QString &name : parts)
+        control(name).show();
+    startWithoutEmulator(); // a selected entry would hide one of them by itself
+    for (const QString &name : parts)
         EXPECT_FALSE(control(name).isVisible()) << name.toStdString();
+}
+
+TEST_F(ArranqueTest, PictureOfTheCaptureShowsWhateverItWas)
+{
+    control(u"Graf_Imagen"_s).hide();
+    startWithoutEmulator();
     EXPECT_TRUE(control(u"Graf_Imagen"_s).isVisible());
+}
+
+TEST_F(ArranqueTest, PlayButtonStartsWithoutAWord)
+{
+    files.writeCatalogue({});
+    control<forms::Label>(u"TXT_Boton"_s).SetCaption(u"otra cosa"_s);
+    start();
+    EXPECT_EQ(word(), u"-----"_s);
 }
 
 TEST_F(ArranqueTest, PicturesAreBlackUntilACaptureIsThere)
@@ -303,6 +320,7 @@ TEST_F(ArranqueTest, FirstRunMarkCountsInAnyField)
     for (const QByteArray &text : { QByteArray("VACIO"), QByteArray("'\r\n\r\n[General]\r\nVACIO\r\n"),
              QByteArray("uno,dos , VACIO,tres\r\n"), QByteArray("a\r\n\"VACIO\"\r\n") }) {
         files.write(u"Zembro.cfg"_s, text);
+        renew();
         firstRunShown = false;
         // What it leaves unwritten ends the start.
         EXPECT_TRUE(load());

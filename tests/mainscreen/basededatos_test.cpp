@@ -178,9 +178,9 @@ TEST_F(BaseDeDatosTest, LeavingAtOnceListsThoughTheDirectoryIsTheSame)
     EXPECT_EQ(list().Text(), u"Juego uno"_s);
 }
 
-TEST_F(BaseDeDatosTest, LeavingEnablesAllAgain)
+TEST_F(BaseDeDatosTest, LeavingEnablesAllAgainAlsoWhereNothingIsListed)
 {
-    startAt(Zeta, 0);
+    startWithoutEmulator(Medio);
     enter();
     leave();
     for (const QString &name : SwitchedOff + LeftOn)
@@ -207,6 +207,7 @@ TEST_F(BaseDeDatosTest, LeavingWithoutAnEmulatorAsksForOne)
     EXPECT_THAT(listed(), IsEmpty());
     EXPECT_EQ(summary(), u"Elige emulador"_s);
     EXPECT_EQ(info(), u"Ninguna ROM"_s);
+    EXPECT_EQ(colour(u"TXT_Info"_s), QColor(Qt::black));
     EXPECT_EQ(word(), u"-----"_s);
     EXPECT_EQ(focused(), u"Lista1"_s);
 }
@@ -226,6 +227,21 @@ TEST_F(BaseDeDatosTest, LeavingWithNothingSavedLeavesNothingSelected)
     EXPECT_EQ(word(), u"-----"_s);
 }
 
+TEST_F(BaseDeDatosTest, LeavingSelectsNoSystemWhereNoneStoodSelected)
+{
+    startAt(3, 0); // past the last
+    ASSERT_EQ(systems().Text(), QString());
+    enter();
+    ASSERT_EQ(systems().Text(), u"alfa"_s);
+    leave();
+    EXPECT_THAT(entries(systems()), ElementsAre(u"alfa"_s, u"Medio"_s, u"Zeta"_s));
+    EXPECT_EQ(systems().ListIndex(), -1);
+    EXPECT_THAT(entries(emulators()), IsEmpty());
+    EXPECT_EQ(summary(), u"0 ROMS - 0,00MB"_s);
+    EXPECT_EQ(info(), u"Ninguna ROM"_s);
+    EXPECT_EQ(word(), u"-----"_s);
+}
+
 TEST_F(BaseDeDatosTest, ROMThatIsGoneLeavesNoEntrySelected)
 {
     startAt(Zeta, 0);
@@ -235,6 +251,10 @@ TEST_F(BaseDeDatosTest, ROMThatIsGoneLeavesNoEntrySelected)
     leave();
     EXPECT_THAT(listed(), ElementsAre(u"Juego uno"_s));
     EXPECT_EQ(list().ListIndex(), -1);
+    // Not even on the way: the first entry's facts and capture would have stayed.
+    EXPECT_EQ(info(), u"Añadiendo"_s);
+    EXPECT_EQ(capture(), QColor(Qt::black));
+    EXPECT_EQ(zoomed(), QColor(Qt::black));
 }
 
 TEST_F(BaseDeDatosTest, EmptyListSaysSoOnLeaving)

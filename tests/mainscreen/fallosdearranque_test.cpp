@@ -199,3 +199,100 @@ TEST_F(FallosDeArranqueTest, EndlessLanguageNameEndsTheProgramAtOnceInAFewWords)
         EXPECT_LT(time.elapsed(), 5000);
     }
 }
+
+// Fast whatever the lines hold: a line of a million characters costs next to nothing.
+class LineasSinFinTest : public MundoTest {
+protected:
+    void expectFastStart()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        constexpr qint64 Bound = 10000; // milliseconds; the checks make it many times slower
+#else
+        constexpr qint64 Bound = 1000;
+#endif
+        renew();
+        QElapsedTimer time;
+        time.start();
+        EXPECT_FALSE(load());
+        EXPECT_LT(time.elapsed(), Bound);
+    }
+    static QString endless(const QString &piece)
+    {
+        return piece.repeated(1'000'000 / piece.size());
+    }
+};
+
+TEST_F(LineasSinFinTest, EndlessDirectoriesAndProgramsInTheCatalogueStartFast)
+{
+    for (const QString &piece : { u"x"_s, u"\\"_s, u"/"_s, u"x\\"_s, u"x/"_s, u"../"_s, u" "_s, u"~2"_s }) {
+        SCOPED_TRACE(piece.toStdString());
+        systemsOfCatalogue[0].emulators[0].roms = endless(piece);
+        systemsOfCatalogue[0].emulators[0].captures = endless(piece);
+        systemsOfCatalogue[0].emulators[0].executable = endless(piece);
+        files.writeCatalogue(systemsOfCatalogue);
+        Settings settings;
+        settings.LastSisUsed = u"2"_s;
+        files.writeSettings(settings);
+        expectFastStart();
+        EXPECT_EQ(systems().Text(), u"Zeta"_s);
+    }
+}
+
+TEST_F(LineasSinFinTest, EndlessCapturesOfAListedROMStartFast)
+{
+    for (const QString &piece : { u"\\"_s, u"x\\"_s, u"x/"_s }) {
+        systemsOfCatalogue[0].emulators[0].captures = endless(piece);
+        files.writeCatalogue(systemsOfCatalogue);
+        Settings settings;
+        settings.LastSisUsed = u"2"_s;
+        files.writeSettings(settings);
+        expectFastStart();
+        EXPECT_EQ(list().Text(), u"Juego uno"_s);
+    }
+}
+
+TEST_F(LineasSinFinTest, EndlessNamesInTheCatalogueStartFast)
+{
+    systemsOfCatalogue[1].name = endless(u"a"_s);
+    systemsOfCatalogue[1].emulators[0].name = endless(u"b"_s);
+    systemsOfCatalogue[1].emulators[0].type = endless(u"0"_s);
+    files.writeCatalogue(systemsOfCatalogue);
+    files.writeNotes({ { endless(u"a"_s), {} } });
+    expectFastStart();
+    EXPECT_EQ(systems().Text().size(), 1'000'000);
+}
+
+TEST_F(LineasSinFinTest, EndlessNotesStartFast)
+{
+    files.writeNotes({ { u"Zeta"_s, { { u"ONE.NES"_s, endless(u"d"_s) }, { endless(u"k"_s), u"x"_s } } } });
+    Settings settings;
+    settings.LastSisUsed = u"2"_s;
+    files.writeSettings(settings);
+    expectFastStart();
+    EXPECT_EQ(list().Text().size(), 1'000'000);
+}
+
+TEST_F(LineasSinFinTest, EndlessWordsOfTheLanguageStartFast)
+{
+    for (const QString &piece : { u"x"_s, u"x "_s, u"\\"_s }) {
+        QStringList lines = languageLines();
+        for (const QString &key : { u"TXT_Jugar"_s, u"TXT_Opciones"_s, u"TXT_NingunaROM"_s,
+                 u"TXT_EmuNoSelec"_s, u"TXT_Leyendo"_s, u"TXT_Añadiendo"_s })
+            lines << languageLine(key, endless(piece));
+        files.writeLines(u"LNG/ZB-ESP.LNG"_s, lines);
+        expectFastStart();
+        EXPECT_EQ(word().size(), 1'000'000);
+    }
+}
+
+TEST_F(LineasSinFinTest, EndlessSettingsStartFast)
+{
+    Settings settings;
+    settings.MsgEndDOS = endless(u"x"_s);
+    settings.Filters = { endless(u"F"_s) };
+    settings.LastSisUsed = endless(u"0"_s);
+    settings.LastEmuUsed = endless(u"9"_s);
+    files.writeSettings(settings);
+    expectFastStart();
+    EXPECT_EQ(M->MsgEndDOS.size(), 1'000'000);
+}

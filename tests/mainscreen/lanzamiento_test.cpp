@@ -196,6 +196,32 @@ TEST_F(LanzamientoTest, NothingPlaysInTheDatabase)
     EXPECT_EQ(runs(), 0);
 }
 
+TEST_F(LanzamientoTest, EnterPlaysNothingInTheDatabaseAlsoWhereItNamesAnExecutable)
+{
+    files.writeLines(u"Zembro.sye"_s,
+        { u"-Nueva"_s, u"WEB1="_s, u"*.NEW"_s, u"'"_s, u"+Solita"_s, u"WEB2="_s,
+            u"EXE="_s + files.path(u"bin/emu"_s), u"'-"_s, u"-Otra"_s, u"WEB1="_s, u"'"_s, u"+Sola"_s,
+            u"WEB2="_s, u"'-"_s, u"[EOF]"_s });
+    startAt(Zeta, 0);
+    click(control(u"Check1"_s));
+    for (const QString &system : { u"Nueva"_s, u"Otra"_s }) {
+        pick(systems(), system);
+        ASSERT_EQ(emulators().ListIndex(), 0);
+        for (const QString &name : { u"Combo1"_s, u"Combo2"_s, u"Titulo1"_s, u"Graf_TV"_s }) {
+            focus(name);
+            strike(*portada, Qt::Key_Return);
+            strike(*portada, Qt::Key_Enter);
+        }
+        portada->setFocus();
+        ASSERT_EQ(focused(), u"Portada"_s);
+        strike(*portada, Qt::Key_Return);
+        EXPECT_EQ(runs(), 0) << system.toStdString();
+        EXPECT_EQ(info(), u"Base de datos"_s);
+        EXPECT_EQ(colour(u"TXT_Info"_s), QColor(0, 0, 128));
+    }
+    EXPECT_EQ(M->Cat_EXE(0, 1), u"EXE="_s + files.path(u"bin/emu"_s));
+}
+
 TEST_F(LanzamientoTest, LineShowsTheLoadingInRedCapitalsAtOnce)
 {
     startAt(Zeta, 0);
@@ -251,6 +277,64 @@ TEST_F(LanzamientoTest, ScreenLivesWhileTheEmulatorRuns)
     click(control(u"JugarB1"_s));
     EXPECT_THAT(seen, ElementsAre(u"#000000 ONE.NES 1Kb  [NOR]"_s, u"two.nes 2Kb  [NOR]"_s));
     EXPECT_EQ(list().Text(), u"Juego uno"_s); // what was played is selected again
+}
+
+namespace {
+
+// Follows all that is delivered in the program while the watch runs, one pass for each tick of a timer: lets
+// the screen settle first, then notes whatever else comes, and calls back at the end.
+class Passes final : public QObject {
+public:
+    explicit Passes(std::function<bool()> running, std::function<void()> over)
+        : m_running(std::move(running))
+        , m_over(std::move(over))
+    {
+        qApp->installEventFilter(this);
+    }
+
+    QStringList others;
+
+protected:
+    bool eventFilter(QObject *receiver, QEvent *event) override
+    {
+        constexpr int Settled = 50;
+        constexpr int Last = 150;
+        const bool tick = event->type() == QEvent::Timer;
+        if (m_passes >= Last || (m_passes == 0 && !m_running()))
+            return false;
+        if (tick && ++m_passes == Last)
+            m_over();
+        else if (!tick && m_passes > Settled)
+            others << QString::fromLatin1(receiver->metaObject()->className()) + u' ' + receiver->objectName()
+                    + u' ' + QString::number(event->type());
+        return false;
+    }
+
+private:
+    std::function<bool()> m_running;
+    std::function<void()> m_over;
+    int m_passes = 0;
+};
+
+} // namespace
+
+TEST_F(LanzamientoTest, PassOfTheWatchThatChangesNothingPostsNothing)
+{
+    makeEmulator("touch started\nwhile [ ! -e go ]; do sleep 0.01; done\n");
+    for (const bool withROMs : { true, false }) {
+        if (!withROMs)
+            files.remove(u"zeta"_s);
+        renew();
+        startAt(Zeta, 0);
+        Passes passes(
+            [this] { return files.exists(u"bin/started"_s); }, [this] { files.write(u"bin/go"_s, {}); });
+        click(control(u"JugarB1"_s));
+        ASSERT_TRUE(files.exists(u"bin/go"_s));
+        EXPECT_THAT(passes.others, testing::IsEmpty()) << (withROMs ? "with ROMs" : "without");
+        EXPECT_EQ(info(), withROMs ? u"ONE.NES 1Kb  [NOR]"_s : u"Ninguna ROM"_s);
+        files.remove(u"bin/go"_s);
+        files.remove(u"bin/started"_s);
+    }
 }
 
 TEST_F(LanzamientoTest, ZipWithoutAROMIsToldInABoxOverTheScreen)

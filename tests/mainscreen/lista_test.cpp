@@ -8,6 +8,8 @@
 
 #include <QFile>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -483,6 +485,21 @@ TEST_F(ListaMientrasTest, ControlsAreOffAndTheListIsEmptyAtTheYield)
     portada->Llena_Lista();
     EXPECT_TRUE(seen);
     expectEnabled(true);
+}
+
+TEST_F(ListaMientrasTest, NothingIsLetInOnceTheReadingHasBegun)
+{
+    startAt(Zeta, 0);
+    bool begun = false;
+    bool letIn = false;
+    const Witness reading(*portada, QEvent::CursorChange, [&] {
+        if (!std::exchange(begun, true))
+            QTimer::singleShot(0, portada.get(), [&] { letIn = true; });
+    });
+    portada->Llena_Lista();
+    EXPECT_TRUE(begun);
+    EXPECT_FALSE(letIn);
+    EXPECT_TRUE(waitUntil([&] { return letIn; }));
 }
 
 TEST_F(ListaMientrasTest, SummaryIsPaintedAtOnce)

@@ -306,6 +306,24 @@ TEST_F(EmuladorTest, MarkOfAConfiguredEmulatorListsAgain)
     EXPECT_EQ(M->IndiceRutas, 1);
 }
 
+TEST_F(EmuladorTest, MarkOfAConfiguredEmulatorDoesNothingButList)
+{
+    startAt(Alfa, 0);
+    M->EmuConfigurado = 1;
+    systems().setFocus();
+    bool listing = false;
+    QTimer::singleShot(0, portada.get(), [&] { listing = !list().isEnabled(); });
+    // By a key, so that the focus is where the selection leaves it.
+    emulators().setFocus();
+    strike(*portada, Qt::Key_Down);
+    EXPECT_EQ(emulators().Text(), u"beta"_s);
+    EXPECT_THAT(listed(), ElementsAre(u"Un juego"_s));
+    EXPECT_TRUE(listing) << "it gave way ahead of the listing";
+    EXPECT_NE(focused(), u"Combo2"_s);
+    EXPECT_EQ(M->RutasROM(1), u"ROM="_s + files.path(u"alfa/"_s).toUpper());
+    EXPECT_EQ(M->RutasROM(2), QString());
+}
+
 TEST_F(EmuladorTest, NothingIsListedUntilTheListIsReadyButTypeAndWordFollow)
 {
     startAt(Alfa, 0);

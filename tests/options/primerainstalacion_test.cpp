@@ -6,6 +6,9 @@
 
 #include <QFontInfo>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -51,6 +54,30 @@ QStringList entriesOf(const forms::ListBox &list)
         entries << list.List(i);
     return entries;
 }
+
+// While it lives, the process is bound by permissions, and the directory can't be written.
+class AsOrdinaryUser {
+public:
+    explicit AsOrdinaryUser(const QString &directory)
+        : m_directory(directory.toUtf8())
+    {
+        constexpr uid_t Nobody = 65534;
+        EXPECT_EQ(chmod(m_directory.constData(), 0555), 0);
+        if (m_user == 0)
+            EXPECT_EQ(seteuid(Nobody), 0);
+    }
+    ~AsOrdinaryUser()
+    {
+        EXPECT_EQ(seteuid(m_user), 0);
+        EXPECT_EQ(chmod(m_directory.constData(), 0700), 0);
+    }
+    AsOrdinaryUser(const AsOrdinaryUser &) = delete;
+    AsOrdinaryUser &operator=(const AsOrdinaryUser &) = delete;
+
+private:
+    QByteArray m_directory;
+    uid_t m_user = geteuid();
+};
 
 } // namespace
 
@@ -332,6 +359,27 @@ TEST_F(PrimerArranqueTest, FirstSystemAndItsFirstEmulatorComeUp)
     EXPECT_EQ(systems().Text(), u"alfa"_s);
     EXPECT_EQ(emulators().Text(), u"Beta"_s);
     EXPECT_THAT(listed(), ElementsAre(u"a.bin"_s));
+}
+
+TEST_F(PrimerArranqueTest, DirectoryThatCannotBeWrittenEndsTheFirstRunAndKeepsItsMark)
+{
+    atModal(u"PrimeraInstalacion"_s, [this](forms::Form &form) {
+        std::optional<ProcessEnd> end;
+        {
+            const AsOrdinaryUser user(files.path());
+            end = endOf([&] { press(controlOf<QWidget>(form, u"Aceptar2"_s)); });
+        }
+        form.Unload(); // the process would be gone
+        ASSERT_TRUE(end) << "the first run goes on";
+        EXPECT_EQ(end->status, 1);
+        EXPECT_EQ(end->title, u"ERROR"_s);
+        EXPECT_TRUE(end->text.startsWith(u"An unknown error has occurred. (ERR75)\n"))
+            << end->text.toStdString();
+        EXPECT_TRUE(end->text.endsWith(u": "_s + files.path(u"Zembro.cfg"_s))) << end->text.toStdString();
+    });
+    EXPECT_TRUE(load());
+    EXPECT_EQ(files.read(u"Zembro.cfg"_s), QByteArray("VACIO\r\n"));
+    EXPECT_FALSE(files.exists(u"Zembro.tmp"_s));
 }
 
 TEST_F(PrimerArranqueTest, NoLanguageChosenEndsTheStart)
