@@ -1,0 +1,91 @@
+// The program itself, as a process: the ends that it comes to before its screen is up.
+
+#include "host/windows.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Patience = 30'000; // ms; a bound, not a wait
+
+const QStringList Files { u"Zembro.emu"_s, u"Zembro.rom"_s, u"Zembro.sye"_s, u"Zembro.cfg"_s, u"Zembro.faq"_s,
+    u"Zembro.txt"_s, u"Cvtgif15.exe"_s, u"LNG/ZB-ESP.LNG"_s };
+
+// A directory with the program and all files that it asks for; what is in them plays no part here.
+class ProgramTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_directory.isValid());
+        ASSERT_TRUE(QDir(m_directory.path()).mkdir(u"LNG"_s));
+        for (const QString &name : Files) {
+            QFile file(m_directory.filePath(name));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << name.toStdString();
+            file.write("x\r\n");
+        }
+        ASSERT_TRUE(QFile::copy(QStringLiteral(BUILD_DIRECTORY "/Zembrolix"), program()));
+        m_process.setProgram(program());
+    }
+    void TearDown() override
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+    QString program() const { return m_directory.filePath(u"Zembrolix"_s); }
+    QString standardError() { return QString::fromUtf8(m_process.readAllStandardError()); }
+
+    QTemporaryDir m_directory;
+    QProcess m_process;
+};
+
+TEST_F(ProgramTest, WithoutADisplayItSaysSoOnTheStandardErrorAndEndsWithStatusOne)
+{
+    for (const QString &display : { QString(), u":4711"_s }) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(u"WAYLAND_DISPLAY"_s);
+        environment.insert(u"DISPLAY"_s, display);
+        m_process.setProcessEnvironment(environment);
+        m_process.start();
+        ASSERT_TRUE(m_process.waitForFinished(Patience));
+        EXPECT_EQ(m_process.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(m_process.exitCode(), 1);
+        EXPECT_EQ(standardError(), u"Zembrolix: there is no display to show the screen on.\n"_s);
+    }
+}
+
+TEST_F(ProgramTest, AMissingFileIsNamedInABoxAndOnTheStandardErrorAndTheStatusIsOne)
+{
+    ASSERT_TRUE(QFile::remove(m_directory.filePath(u"Zembro.rom"_s)));
+    m_process.start();
+    host::WindowId box = 0;
+    ASSERT_TRUE(QTest::qWaitFor([&box] { return (box = host::findWindow(u"ERROR"_s)) != 0; }, Patience));
+    EXPECT_EQ(host::findWindow(u"Zembrolix v2.0"_s), 0u);
+    EXPECT_EQ(m_process.state(), QProcess::Running);
+    host::closeWindow(box);
+    ASSERT_TRUE(m_process.waitForFinished(Patience));
+    EXPECT_EQ(m_process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(m_process.exitCode(), 1);
+    const QString said = standardError();
+    EXPECT_TRUE(said.contains(u"ERROR: Cannot find any of these files:\n"_s)) << said.toStdString();
+    EXPECT_TRUE(said.contains(u": "_s + m_directory.filePath(u"Zembro.rom"_s) + u'\n')) << said.toStdString();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    QGuiApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
