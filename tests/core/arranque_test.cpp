@@ -113,3 +113,52 @@ TEST(TextoDeFallo, TellsTheNumberAndWhatFailedOnWhat_Otherwise)
     EXPECT_EQ(core::TextoDeFallo(host::Failure(53, u"open a file"_s, u"/p/Zembro.rom"_s), false),
         u"An unknown error has occurred. (ERR53)\nFailed to open a file: /p/Zembro.rom");
 }
+
+TEST(TextoDeFallo, CutsWhatHasNoEnd)
+{
+    const QString largo(301, u'x');
+    const QString justo(300, u'y');
+    EXPECT_EQ(core::TextoDeFallo(host::Failure(5, largo, largo), false),
+        u"An unknown error has occurred. (ERR5)\nFailed to "_s + largo.first(300) + u"...: "_s
+            + largo.first(300) + u"..."_s);
+    EXPECT_EQ(core::TextoDeFallo(host::Failure(5, justo, justo), false),
+        u"An unknown error has occurred. (ERR5)\nFailed to "_s + justo + u": "_s + justo);
+}
+
+namespace {
+
+host::Failure falloAlLeer(const host::Failure &fallo)
+{
+    try {
+        core::LeeFichero(u"/p/Zembro.cfg"_s, [&fallo] { throw fallo; });
+    } catch (const host::Failure &resultado) {
+        return resultado;
+    }
+    return host::Failure(0, u"nothing"_s);
+}
+
+} // namespace
+
+TEST(LeeFichero, NamesTheFileInAFailureOfSomethingElse_WithThatInBrackets)
+{
+    const host::Failure fallo = falloAlLeer(host::Failure(5, u"read a setting"_s, u"DebugMode"_s));
+    EXPECT_EQ(fallo.number(), 5);
+    EXPECT_EQ(fallo.operation(), u"read a setting (DebugMode)");
+    EXPECT_EQ(fallo.about(), u"/p/Zembro.cfg");
+}
+
+TEST(LeeFichero, NamesTheFileInAFailureOfNothing)
+{
+    const host::Failure fallo = falloAlLeer(host::Failure(9, u"index a table"_s));
+    EXPECT_EQ(fallo.number(), 9);
+    EXPECT_EQ(fallo.operation(), u"index a table");
+    EXPECT_EQ(fallo.about(), u"/p/Zembro.cfg");
+}
+
+TEST(LeeFichero, LeavesAFailureOfTheFileAsItIs)
+{
+    const host::Failure fallo = falloAlLeer(host::Failure(53, u"open a file"_s, u"/p/Zembro.cfg"_s));
+    EXPECT_EQ(fallo.number(), 53);
+    EXPECT_EQ(fallo.operation(), u"open a file");
+    EXPECT_EQ(fallo.about(), u"/p/Zembro.cfg");
+}

@@ -249,11 +249,9 @@ TEST_F(LeeCatalogo, ExtensionsAreCountedOn_BehindASystemWithoutEmulators)
 
 TEST_F(LeeCatalogo, NoSystem_InAFileOfCommentsAndAMarker)
 {
-    M.TotalSistemas = 5;
     Lee("' comment\r\n\r\n[EOF]\r\n");
     EXPECT_EQ(M.Indice_Sistema, -1);
     EXPECT_EQ(M.Indice_Emulador, -1);
-    EXPECT_EQ(M.TotalSistemas, 5);
     EXPECT_EQ(M.Cat_Nombre(0, 0), QString());
     EXPECT_FALSE(M.Ficheros.isOpen(1));
 }

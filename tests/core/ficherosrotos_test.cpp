@@ -1,5 +1,5 @@
 // Files that no writer of the program leaves behind: empty, cut off, binary, of one endless line, unreadable.
-// Each reader does what its rules say, and leaves the file as it was.
+// Each reader reads what there is, or fails by a number of its own, and leaves the file as it was.
 #include "directoriodeprograma.h"
 
 #include "core/ajustes.h"
@@ -154,7 +154,7 @@ TEST_P(FicherosRotos, AnEmptyFileEndsTheReadingAtItsEnd_OrIsNoFailure)
     }
 }
 
-TEST_P(FicherosRotos, AFileCutOffAnywhereIsReadOrFailsByItsRules)
+TEST_P(FicherosRotos, AFileCutOffAnywhereIsRead_OrFailsAsInvalidOrAtItsEnd)
 {
     const QByteArray &bueno = GetParam().bueno;
     const qsizetype paso = 1 + bueno.size() / 300;
@@ -167,7 +167,7 @@ TEST_P(FicherosRotos, AFileCutOffAnywhereIsReadOrFailsByItsRules)
     }
 }
 
-TEST_P(FicherosRotos, ABinaryFileIsReadOrFailsByItsRules)
+TEST_P(FicherosRotos, ABinaryFileIsReadFast_OrFailsAsInvalidOutOfRangeOrAtItsEnd)
 {
     const QByteArray bytes = BytesSinOrden();
     for (const QByteArray &basura : { bytes, bytes + GetParam().bueno, GetParam().bueno + bytes,

@@ -155,6 +155,25 @@ TEST_F(Lista, DirectoriesGiveTheirDescriptionOrTheirName_AndNoSize)
     }
 }
 
+TEST_F(Lista, ADroppedDirectoryGivesTheDescriptionOfANoteWithoutAKey)
+{
+    PonEntradas({ QString(), u"GAME"_s });
+    PonNotas({ { u"GAME"_s, u"A game"_s }, { QString(), u"Vacia"_s } });
+    for (const int tipo : { 1, 6 }) {
+        const core::Recuento recuento = Empareja(tipo);
+        EXPECT_EQ(recuento.entradas, (QStringList { u"Vacia"_s, u"A game"_s })) << tipo;
+        EXPECT_EQ(recuento.exploradas, 2) << tipo;
+    }
+}
+
+TEST_F(Lista, ANoteWithoutAKeyIsThatOfAZipWithoutAName)
+{
+    PonEntradas({ u".zip"_s, u"unzip"_s });
+    PonNotas({ { QString(), u"Vacia"_s } });
+    m_largos = { { u"R/.ZIP"_s, 1 }, { u"R/unzip"_s, 1 } };
+    EXPECT_EQ(Empareja(2).entradas, (QStringList { u"Vacia"_s, u"unzip"_s }));
+}
+
 TEST_F(Lista, ZipsGiveTheirDescriptionByTheirNameWithoutItsEnding)
 {
     PonEntradas({ u"game.zip"_s, u"Other.Zip"_s, u"pack7zip"_s, u"read.me"_s });

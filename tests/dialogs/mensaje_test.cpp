@@ -118,6 +118,23 @@ TEST_F(MensajeTest, InputHasTheFocusAndIsSelectedWhole)
     });
 }
 
+TEST_F(MensajeTest, ClickBackIntoTheInputSelectsItWhole)
+{
+    show(1, [](forms::Form &form) {
+        auto &input = controlOf<forms::TextBox>(form, u"Casilla"_s);
+        strike(form, Qt::Key_End);
+        strike(form, Qt::Key_Tab);
+        ASSERT_FALSE(input.hasFocus());
+        ASSERT_EQ(input.selectedText(), QString());
+        click(input);
+        EXPECT_TRUE(input.hasFocus());
+        EXPECT_TRUE(waitUntil([&input] { return input.selectedText() == u"entrada"_s; }));
+        type(form, u"x"_s);
+        EXPECT_EQ(input.Text(), u"x"_s);
+        click(buttonOf(form, Arrow));
+    });
+}
+
 TEST_F(MensajeTest, QuestionAcceptedIsYesAndEmptiesTheAnswer)
 {
     M.Respuesta_Caja = u"antes"_s;

@@ -71,6 +71,18 @@ TEST_F(DirectoryReadings, NewNamesAreFoundAtOnce_WhereTheClockTellsWholeSeconds)
     findEachNewFile(150);
 }
 
+TEST(OldDirectoryReadings, AreKept_AlsoWhereTheClockTellsWholeSeconds)
+{
+    struct stat status;
+    ASSERT_EQ(stat("/usr", &status), 0);
+    ASSERT_GT(time(nullptr) - status.st_ctim.tv_sec, 10);
+    const systemcalls::CoarseClock clock(systemcalls::CoarseClock::WholeSeconds);
+    EXPECT_TRUE(Directory::at("/usr"));
+    const int before = Directory::readings();
+    EXPECT_TRUE(Directory::at("/usr"));
+    EXPECT_EQ(Directory::readings(), before);
+}
+
 TEST_F(DirectoryReadings, RemovedNamesAreGoneAtOnce)
 {
     for (int i = 0; i < 300; ++i) {

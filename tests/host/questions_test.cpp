@@ -11,6 +11,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdio>
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -82,6 +83,39 @@ TEST_F(QuestionsTest, YesOrNoIsYes_ByItsButton)
     whenUp<QMessageBox>(
         [](QMessageBox *box) { QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton); });
     EXPECT_TRUE(m_questions.askYesNo(u"T"_s, u"x"_s));
+}
+
+TEST_F(QuestionsTest, MarkupInTheOverwriteBoxIsText)
+{
+    whenUp<QMessageBox>([](QMessageBox *box) {
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        EXPECT_EQ(box->text(), u"Overwrite <b>a</b>?"_s);
+        box->close();
+    });
+    m_questions.askYesNoCancel(u"T"_s, u"Overwrite <b>a</b>?"_s);
+}
+
+TEST_F(QuestionsTest, MarkupInAYesOrNoIsText)
+{
+    whenUp<QMessageBox>([](QMessageBox *box) {
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        box->close();
+    });
+    m_questions.askYesNo(u"T"_s, u"<b>a</b>?"_s);
+}
+
+TEST(QuestionsDeathTest, MarkupInTheBoxOfAFatalEndIsText)
+{
+    EXPECT_EXIT(
+        {
+            QTimer::singleShot(0, [] {
+                auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+                std::fputs(box && box->textFormat() == Qt::PlainText ? "plain\n" : "marked up\n", stderr);
+                QApplication::activeModalWidget()->close();
+            });
+            host::DesktopQuestions().endWithError(u"ERROR"_s, u"<b>file</b>"_s);
+        },
+        testing::ExitedWithCode(1), "ERROR: <b>file</b>\nplain");
 }
 
 TEST_F(QuestionsTest, ThePasswordIsHiddenAndHandedOver)

@@ -315,3 +315,38 @@ TEST_F(RewriteFaults, SecondProcessWaits_UntilTheDirectoryIsUnlocked)
     EXPECT_EQ(endOf(child), 0);
     EXPECT_EQ(bytes("Zembro.cfg"), New);
 }
+
+class RewriteOfAnothersFile : public RewriteFaults {
+protected:
+    void SetUp() override
+    {
+        if (geteuid() != 0)
+            GTEST_SKIP() << "only the administrator can give a file away";
+        ASSERT_EQ(chown(place("Zembro.cfg").constData(), 12345, 12345), 0);
+        setMode("Zembro.cfg", 0640);
+    }
+};
+
+TEST_F(RewriteOfAnothersFile, ComesThrough_WhereItsOwnerOrModeCannotBeGiven)
+{
+    for (const char *call : { "fchown", "fchmod" }) {
+        for (const int error : { EPERM, EINVAL, ENOSYS, EOPNOTSUPP }) {
+            makeFile("Zembro.cfg", Old);
+            ASSERT_EQ(chown(place("Zembro.cfg").constData(), 12345, 12345), 0);
+            setMode("Zembro.cfg", 0640);
+            const systemcalls::FaultOf giving(call, error);
+            EXPECT_EQ(failureOf([this] { rewrite(); }), 0) << call << ' ' << error;
+            EXPECT_EQ(bytes("Zembro.cfg"), New);
+        }
+    }
+}
+
+TEST_F(RewriteOfAnothersFile, Fails_WhereTheDeviceFailsAtTheGiving)
+{
+    for (const char *call : { "fchown", "fchmod" }) {
+        const systemcalls::FaultOf giving(call, EIO);
+        EXPECT_EQ(failureOf([this] { rewrite(); }), host::DeviceError) << call;
+        EXPECT_EQ(bytes("Zembro.cfg"), Old);
+        EXPECT_THAT(names(), ElementsAre("Zembro.cfg"));
+    }
+}

@@ -243,3 +243,17 @@ TEST(ShortNames, ThousandsThatCollideAreNamedInNoTime)
     const QList<QString> all = forms.values();
     EXPECT_EQ(QSet<QString>(all.begin(), all.end()).size(), 3000);
 }
+
+TEST_F(ShortPaths, NamesInADirectoryThatCannotBeListedHaveTheirPlainForm)
+{
+    makeDirectory("closed");
+    makeDirectory("closed/My Games");
+    makeFile("closed/My Games/A. B.nes");
+    setMode("closed", 0711);
+    const int status = inChildOfOrdinaryUser([this] {
+        const QString whole = GetShortPathNameA(path(u"closed/My Games/A. B.nes"_s));
+        return whole == GetShortPathNameA(path()) + u"/closed/my_games/a__b.nes"_s ? 0 : 1;
+    });
+    setMode("closed", 0755);
+    EXPECT_EQ(status, 0);
+}
