@@ -23,6 +23,9 @@ finish() {
 }
 trap finish EXIT
 "$here/../packaging/assemble.sh" "$build" "$program" >"$work/said" || exit 1
+catalogue=$work/catalogue # in this script's encoding
+iconv -f UTF-8 -t UTF-8 "$program/Zembro.emu" >"$catalogue" 2>/dev/null ||
+    iconv -f CP1252 -t UTF-8 "$program/Zembro.emu" >"$catalogue"
 
 # A file of zeros is no game, but an emulator has to open it to see that. Where the name says which machine is
 # emulated it is a real one, and some want a second file, or a name of the old kind.
@@ -47,7 +50,7 @@ extension() { # the second one of a system's, in small letters: the first is ZIP
     awk -v line="-$1" '
         { sub(/\r$/, "") }
         $0 == line { found = 1 }
-        found && /^\*\./ && ++n == 2 { print tolower(substr($0, 3)); exit }' "$program/Zembro.emu"
+        found && /^\*\./ && ++n == 2 { print tolower(substr($0, 3)); exit }' "$catalogue"
 }
 
 # The lines of an emulator's block: "key=value" each.
@@ -56,7 +59,7 @@ block() { # emulator
         { sub(/\r$/, "") }
         $0 == line { found = 1; next }
         found && substr($0, 1, 1) == "\047" { exit }
-        found' "$program/Zembro.emu"
+        found' "$catalogue"
 }
 value() { # block, key
     sed -n "s/^$2=//p" <<<"$1"
