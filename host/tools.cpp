@@ -84,9 +84,10 @@ constexpr Tool FileManagers[] = {
 constexpr Tool DesktopOpener { u"xdg-open", u"", u"" };
 constexpr Tool DebianTerminal { u"x-terminal-emulator", u"-e", u"" };
 
-bool isInstalled(const QString &program)
+// Where a program lies; empty if it isn't installed.
+QString placeOf(const QString &program)
 {
-    return !QStandardPaths::findExecutable(program).isEmpty();
+    return QStandardPaths::findExecutable(program);
 }
 
 bool isDesktops(const Tool &tool)
@@ -99,7 +100,7 @@ const Tool *find(std::span<const Tool> tools)
 {
     const Tool *first = nullptr;
     for (const Tool &tool : tools) {
-        if (!isInstalled(tool.program.toString()))
+        if (placeOf(tool.program.toString()).isEmpty())
             continue;
         if (isDesktops(tool))
             return &tool;
@@ -110,14 +111,17 @@ const Tool *find(std::span<const Tool> tools)
 
 QStringList commandOf(const Tool &tool)
 {
-    return QStringList { tool.program.toString() } + splitArguments(tool.arguments);
+    return QStringList { placeOf(tool.program.toString()) } + splitArguments(tool.arguments);
 }
 
 // What the user's own setting names, if it is installed.
 QStringList chosenCommand(const char *variable)
 {
-    const QStringList command = splitArguments(qEnvironmentVariable(variable));
-    return !command.isEmpty() && isInstalled(command.first()) ? command : QStringList();
+    QStringList command = splitArguments(qEnvironmentVariable(variable));
+    if (command.isEmpty())
+        return {};
+    command.first() = placeOf(command.first());
+    return command.first().isEmpty() ? QStringList() : command;
 }
 
 QString baseName(const QString &program)
@@ -144,10 +148,12 @@ std::optional<Terminal> findTerminal()
     const QStringList chosen = chosenCommand("TERMINAL");
     if (!chosen.isEmpty())
         return chosenTerminal(chosen);
-    const Tool *tool = isInstalled(DebianTerminal.program.toString()) ? &DebianTerminal : find(Terminals);
+    const Tool *tool = find({ &DebianTerminal, 1 });
+    if (!tool)
+        tool = find(Terminals);
     if (!tool)
         return std::nullopt;
-    return Terminal { { tool->program.toString() }, splitArguments(tool->arguments) };
+    return Terminal { { placeOf(tool->program.toString()) }, splitArguments(tool->arguments) };
 }
 
 QStringList inTerminal(const QStringList &command)
@@ -178,9 +184,10 @@ QString asArgument(const QString &file)
 
 QStringList found(std::span<const Tool> tools)
 {
-    if (const Tool *tool = find(tools))
-        return commandOf(*tool);
-    return isInstalled(DesktopOpener.program.toString()) ? commandOf(DesktopOpener) : QStringList();
+    const Tool *tool = find(tools);
+    if (!tool)
+        tool = find({ &DesktopOpener, 1 });
+    return tool ? commandOf(*tool) : QStringList();
 }
 
 } // namespace

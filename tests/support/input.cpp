@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QTest>
+#include <QTimer>
 #include <QWindow>
 
 #include <gtest/gtest.h>
@@ -130,6 +131,25 @@ void pick(forms::ComboBox &combo, const QString &text)
 void wishClose(QWidget &window)
 {
     window.windowHandle()->close();
+}
+
+bool popsUp(QMenu &menu, const std::function<void()> &open, QAction *entry)
+{
+    bool shown = false;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &menu, [&] {
+        if (QApplication::activePopupWidget() != &menu)
+            return;
+        watch.stop();
+        shown = true;
+        // The press that opened it is over for the user, and so it is for the box that an entry may show.
+        QTest::mouseRelease(windowOf(menu), Qt::RightButton, {}, QPoint(-1, -1));
+        menu.setActiveAction(entry);
+        QTest::keyClick(windowOf(menu), entry ? Qt::Key_Return : Qt::Key_Escape);
+    });
+    watch.start(0);
+    open();
+    return shown;
 }
 
 bool waitUntil(const std::function<bool()> &condition)

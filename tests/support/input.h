@@ -5,6 +5,7 @@
 #include "forms/combobox.h"
 #include "forms/listbox.h"
 
+#include <QMenu>
 #include <QWidget>
 
 #include <functional>
@@ -30,6 +31,10 @@ void doubleClickRow(forms::ListBox &list, int row);
 // Drops the list down, and clicks on the first entry with this text.
 void pick(forms::ComboBox &combo, const QString &text);
 void dropDown(forms::ComboBox &combo);
+
+// Runs `open`, which pops the menu up, and closes it again, by the entry or, without one, by Escape. Returns
+// whether the menu came up.
+bool popsUp(QMenu &menu, const std::function<void()> &open, QAction *entry = nullptr);
 
 // Gives the window system's wish to close the window.
 void wishClose(QWidget &window);

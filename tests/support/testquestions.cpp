@@ -30,10 +30,16 @@ host::Questions::Answer TestQuestions::askYesNoCancel(const QString &, const QSt
     return Answer::Cancel;
 }
 
-bool TestQuestions::askYesNo(const QString &, const QString &text)
+bool TestQuestions::askYesNo(const QString &title, const QString &text)
 {
-    unexpected("question", text);
-    return false;
+    if (yesNo.empty()) {
+        unexpected("question", text);
+        return false;
+    }
+    asked << title << text;
+    const bool answer = yesNo.front();
+    yesNo.pop_front();
+    return answer;
 }
 
 void TestQuestions::tell(const QString &, const QString &text)

@@ -4,7 +4,9 @@
 #include "host/questions.h"
 
 #include <QString>
+#include <QStringList>
 
+#include <deque>
 #include <exception>
 #include <optional>
 
@@ -27,6 +29,10 @@ public:
     void tell(const QString &title, const QString &text) override;
     [[noreturn]] void endWithError(const QString &title, const QString &text) override;
     [[noreturn]] void endProcess(int status) override;
+
+    // The answers to the next questions of yes and no, with what was asked.
+    std::deque<bool> yesNo;
+    QStringList asked; // titles and texts, one after the other
 
     // The first end since the last call; a test that leaves one untaken fails.
     std::optional<ProcessEnd> takeEnd();

@@ -1,0 +1,299 @@
+// The texts of an emulator and of the program: what is found, what the screen shows while one is open, and
+// what is started. The desktop's tools are scripts that record what they were given.
+
+#include "mundotest.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+
+namespace {
+
+const QStringList Hidden { u"D1"_s, u"Check1"_s, u"TXT_dB"_s, u"TXT_Boton"_s, u"BotonC2"_s, u"BotonD2"_s,
+    u"Boton3b"_s, u"Boton4b"_s, u"TXT_Ayuda"_s, u"TXT_AcercaDe"_s, u"TXT_VerAyuda"_s, u"TXT_VerConfig"_s,
+    u"Flecha2"_s, u"JugarB1"_s, u"Menos2b"_s, u"Boton5b"_s, u"Boton6b"_s, u"TXT_Utilidades"_s, u"TXT_FAQ"_s };
+const QStringList Covered { u"E1"_s, u"Boton1b"_s, u"Boton2b"_s, u"Menos2a"_s, u"WEB2"_s };
+const QStringList Shown { u"Editor"_s, u"FlechaE2"_s, u"Edit2"_s, u"BlocDeNotas2"_s };
+
+class DocumentosTest : public MundoTest {
+protected:
+    DocumentosTest()
+    {
+        qputenv("PATH", files.path(u"tools"_s).toUtf8());
+        for (const char *variable : { "VISUAL", "EDITOR", "TERMINAL", "XDG_CURRENT_DESKTOP" })
+            qunsetenv(variable);
+        qputenv("RECORD", files.path(u"record"_s).toUtf8());
+        files.makeDirectory(u"tools"_s);
+        files.write(u"emu/Emu.exe"_s, "x");
+        systemsOfCatalogue[0].emulators[0].executable = files.path(u"emu/Emu.exe"_s);
+        files.writeCatalogue(systemsOfCatalogue);
+    }
+    ~DocumentosTest() override { qputenv("PATH", m_path); }
+
+    // A tool that writes its arguments and its directory down, each in one go.
+    void install(const QString &name)
+    {
+        const QByteArray record = files.path(u"record"_s).toUtf8();
+        runnable(u"tools/"_s + name,
+            "#!/bin/sh\nprintf '%s|' '" + name.toUtf8() + "' \"$@\" \"$PWD\" > '" + record + ".new'\n"
+                + "/bin/mv '" + record + ".new' '" + record + "'\n");
+    }
+    void runnable(const QString &name, const QByteArray &script)
+    {
+        files.write(name, script);
+        QFile(files.path(name)).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    QString recorded()
+    {
+        EXPECT_TRUE(waitUntil([this] { return files.exists(u"record"_s); }));
+        const QString record = QString::fromUtf8(files.read(u"record"_s));
+        files.remove(u"record"_s);
+        return record;
+    }
+    bool isShown(const QString &name) { return !control(name).isHidden(); }
+    QString text() { return control<forms::TextArea>(u"Editor"_s).Text(); }
+    // What the next message box says, left by the arrow.
+    void expectWarning(const QString &title)
+    {
+        atModal(u"Caja"_s, [this, title](forms::Form &form) {
+            ++warnings;
+            EXPECT_EQ(form.Caption(), title);
+            click(controlOf<QWidget>(form, u"Flecha2"_s));
+        });
+    }
+
+    int warnings = 0;
+
+private:
+    QByteArray m_path = qgetenv("PATH");
+};
+
+} // namespace
+
+TEST_F(DocumentosTest, HelpOpensInTheEditorAndTheArrowClosesIt)
+{
+    files.write(u"emu/readme.txt"_s, "Read \xE9\r\nme  ");
+    startAt(Zeta, 0);
+    click(control(u"BotonC2"_s));
+    EXPECT_EQ(text(), u"Read é\nme"_s);
+    for (const QString &name : Hidden)
+        EXPECT_FALSE(isShown(name)) << name.toStdString();
+    for (const QString &name : Shown)
+        EXPECT_TRUE(isShown(name)) << name.toStdString();
+    EXPECT_EQ(control(u"Editor"_s).geometry(), forms::inPixels({ 120, 1080, 5895, 4035 }));
+    EXPECT_EQ(control(u"FlechaE2"_s).geometry(), QRect(0, 0, 31, 31));
+    EXPECT_EQ(control(u"Edit2"_s).geometry(), QRect(328, 344, 31, 31));
+    EXPECT_EQ(control(u"BlocDeNotas2"_s).geometry(), QRect(368, 344, 31, 31));
+    for (const QString &name : Covered) {
+        EXPECT_TRUE(isShown(name));
+        EXPECT_NE(portada->childAt(control(name).geometry().center()), &control(name));
+    }
+    click(control(u"FlechaE2"_s));
+    for (const QString &name : Hidden)
+        EXPECT_TRUE(isShown(name)) << name.toStdString();
+    for (const QString &name : Shown)
+        EXPECT_FALSE(isShown(name)) << name.toStdString();
+}
+
+TEST_F(DocumentosTest, SettingsOpenTheSameWay)
+{
+    files.write(u"emu/emu.cfg"_s, "key=1");
+    startAt(Zeta, 0);
+    click(control(u"BotonD2"_s));
+    EXPECT_EQ(text(), u"key=1"_s);
+    for (const QString &name : Hidden)
+        EXPECT_FALSE(isShown(name)) << name.toStdString();
+}
+
+TEST_F(DocumentosTest, EditorHasTheColoursOfItsKind)
+{
+    for (const auto &[kind, back, ink] : { std::tuple(u"0"_s, QColor(0, 0, 192), QColor(192, 192, 192)),
+             std::tuple(u"1"_s, QColor(Qt::white), QColor(Qt::black)) }) {
+        Settings settings;
+        settings.LastSisUsed = u"2"_s;
+        settings.TypeOfEditor = kind;
+        files.writeSettings(settings);
+        restart();
+        EXPECT_EQ(control(u"Editor"_s).palette().color(QPalette::Base), back);
+        EXPECT_EQ(control(u"Editor"_s).palette().color(QPalette::Text), ink);
+    }
+}
+
+TEST_F(DocumentosTest, FirstCandidateWins)
+{
+    files.write(u"emu/Emu.txt"_s, "second");
+    files.write(u"emu/ReadMe.TXT"_s, "first");
+    startAt(Zeta, 0);
+    click(control(u"BotonC2"_s));
+    EXPECT_EQ(text(), u"first"_s);
+}
+
+TEST_F(DocumentosTest, WithoutAnyCandidateItIsSaidOnceAndTheScreenStays)
+{
+    startAt(Zeta, 0);
+    M->Msg_AyudaNoEnc0 = u"Ayuda"_s;
+    M->Msg_CFGNoEnc0 = u"Config"_s;
+    for (const auto &[button, title] :
+        { std::pair(u"BotonC2"_s, u"Ayuda"_s), std::pair(u"BotonD2"_s, u"Config"_s) }) {
+        atModal(u"Caja"_s, [&, title](forms::Form &form) {
+            ++warnings;
+            EXPECT_EQ(form.Caption(), title);
+            EXPECT_FALSE(portada->isEnabled());
+            EXPECT_EQ(controlOf<forms::Label>(form, u"TXT_Volver"_s).Caption(), u"Volver"_s);
+            click(controlOf<QWidget>(form, u"Flecha2"_s));
+        });
+        click(control(button));
+        EXPECT_TRUE(portada->isEnabled());
+        EXPECT_EQ(focused(), u"Lista1"_s);
+        for (const QString &name : Hidden)
+            EXPECT_TRUE(isShown(name)) << name.toStdString();
+        EXPECT_FALSE(isShown(u"Editor"_s));
+    }
+    EXPECT_EQ(warnings, 2);
+}
+
+TEST_F(DocumentosTest, TooLongAFileIsToldAndCut)
+{
+    files.write(u"emu/readme.txt"_s, QByteArray(32000, 'a'));
+    startAt(Zeta, 0);
+    M->Msg_ArchGrande0 = u"Grande"_s;
+    click(control(u"BotonC2"_s));
+    EXPECT_EQ(text().size(), 32000);
+    click(control(u"FlechaE2"_s));
+    files.write(u"emu/readme.txt"_s, QByteArray(32000, 'a') + "b");
+    atModal(u"Caja"_s, [&](forms::Form &form) {
+        ++warnings;
+        EXPECT_EQ(form.Caption(), u"Grande"_s);
+        EXPECT_EQ(text(), QString());
+        click(controlOf<QWidget>(form, u"Aceptar2"_s));
+    });
+    click(control(u"BotonC2"_s));
+    EXPECT_EQ(warnings, 1);
+    EXPECT_EQ(text(), QString(32000, u'a'));
+}
+
+TEST_F(DocumentosTest, WhatIsTypedIsNeitherSavedNorAskedAbout)
+{
+    files.write(u"emu/readme.txt"_s, "text");
+    startAt(Zeta, 0);
+    click(control(u"BotonC2"_s));
+    EXPECT_EQ(focused(), u"Editor"_s);
+    type(*portada, u"new "_s);
+    strike(*portada, Qt::Key_Return);
+    EXPECT_EQ(text(), u"new \ntext"_s);
+    click(control(u"FlechaE2"_s));
+    EXPECT_EQ(files.read(u"emu/readme.txt"_s), "text");
+    click(control(u"BotonC2"_s));
+    EXPECT_EQ(text(), u"text"_s);
+}
+
+TEST_F(DocumentosTest, CandidateThatCannotBeReadIsFatal)
+{
+    files.makeDirectory(u"emu/readme.txt"_s);
+    startAt(Zeta, 0);
+    const auto end = endOf([&] { click(control(u"BotonC2"_s)); });
+    ASSERT_TRUE(end);
+    EXPECT_EQ(end->status, 1);
+    EXPECT_TRUE(end->text.contains(u"readme.txt"_s));
+}
+
+TEST_F(DocumentosTest, BothEditorsGetTheFileAsOneArgument)
+{
+    files.write(u"emu/readme.txt"_s, "text");
+    for (const QString &tool : { u"leafpad"_s, u"xterm"_s, u"nano"_s })
+        install(tool);
+    startAt(Zeta, 0);
+    click(control(u"BotonC2"_s));
+    const QString file = files.path(u"emu/readme.txt"_s);
+    EXPECT_THAT(M->OrdenBlocDeNotas, ElementsAre(files.path(u"tools/leafpad"_s), file));
+    EXPECT_THAT(
+        M->OrdenEdit, ElementsAre(files.path(u"tools/xterm"_s), u"-e"_s, files.path(u"tools/nano"_s), file));
+    click(control(u"BlocDeNotas2"_s));
+    EXPECT_TRUE(recorded().startsWith(u"leafpad|"_s + file + u'|'));
+    click(control(u"Edit2"_s));
+    EXPECT_TRUE(recorded().startsWith(u"xterm|-e|"_s + files.path(u"tools/nano|"_s) + file + u'|'));
+    EXPECT_TRUE(isShown(u"Editor"_s));
+}
+
+TEST_F(DocumentosTest, MissingToolsAreToldAndNothingChanges)
+{
+    files.write(u"emu/readme.txt"_s, "text");
+    startAt(Zeta, 0);
+    for (const QString &button : { u"Boton5b"_s, u"Boton6b"_s, u"D1"_s, u"E1"_s }) {
+        expectWarning(u"Falta un programa"_s);
+        click(control(button));
+    }
+    click(control(u"BotonC2"_s));
+    for (const QString &button : { u"Edit2"_s, u"BlocDeNotas2"_s }) {
+        expectWarning(u"Falta un programa"_s);
+        click(control(button));
+    }
+    EXPECT_EQ(warnings, 6);
+    EXPECT_EQ(text(), u"text"_s);
+}
+
+TEST_F(DocumentosTest, ToolThatFailsToStartDoesSoInSilence)
+{
+    files.write(u"emu/readme.txt"_s, "text");
+    for (const QString &tool : { u"leafpad"_s, u"xterm"_s, u"nano"_s, u"thunar"_s })
+        runnable(u"tools/"_s + tool,
+            "\x7f"
+            "ELF of no kind");
+    startAt(Zeta, 0);
+    for (const QString &button :
+        { u"Boton5b"_s, u"D1"_s, u"E1"_s, u"BotonC2"_s, u"Edit2"_s, u"BlocDeNotas2"_s })
+        click(control(button));
+    EXPECT_TRUE(isShown(u"Editor"_s));
+}
+
+TEST_F(DocumentosTest, OwnTextsAreWatchedUntilTheirEditorCloses)
+{
+    install(u"leafpad"_s);
+    startAt(Zeta, 0);
+    for (const auto &[button, name] :
+        { std::pair(u"Boton5b"_s, u"Zembro.txt"_s), std::pair(u"Boton6b"_s, u"Zembro.faq"_s) }) {
+        click(control(button));
+        // The watch has ended, so the tool has.
+        ASSERT_TRUE(files.exists(u"record"_s));
+        EXPECT_TRUE(recorded().startsWith(u"leafpad|"_s + files.path(name) + u'|'));
+        EXPECT_FALSE(control<forms::PictureButton>(button).ShowsPressed());
+    }
+}
+
+TEST_F(DocumentosTest, ConsoleBeginsInTheEmulatorsDirectory)
+{
+    install(u"xterm"_s);
+    startAt(Zeta, 0);
+    click(control(u"D1"_s));
+    EXPECT_EQ(recorded(), u"xterm|"_s + files.path(u"emu"_s) + u'|');
+}
+
+TEST_F(DocumentosTest, ConsoleWhoseDirectoryIsGoneIsFatal)
+{
+    install(u"xterm"_s);
+    startAt(Zeta, 0);
+    files.remove(u"emu"_s);
+    const auto end = endOf([&] { click(control(u"D1"_s)); });
+    ASSERT_TRUE(end);
+    EXPECT_EQ(end->status, 1);
+}
+
+TEST_F(DocumentosTest, FileManagerOpensTheEmulatorsDirectory)
+{
+    install(u"thunar"_s);
+    startAt(Zeta, 0);
+    click(control(u"E1"_s));
+    ASSERT_TRUE(files.exists(u"record"_s));
+    EXPECT_TRUE(recorded().startsWith(u"thunar|"_s + files.path(u"emu/"_s) + u'|'));
+}
+
+TEST_F(DocumentosTest, WithoutAnEmulatorTheButtonsOnlyRelease)
+{
+    startWithoutEmulator(Alfa);
+    for (const QString &button : { u"BotonC2"_s, u"BotonD2"_s, u"D1"_s, u"E1"_s }) {
+        click(control(button));
+        EXPECT_FALSE(control<forms::PictureButton>(button).ShowsPressed());
+    }
+    EXPECT_FALSE(isShown(u"Editor"_s));
+}

@@ -1,0 +1,364 @@
+// The surface: the floating tip, the menus, the web links, and the screen without a mouse.
+
+#include "mundotest.h"
+
+#include "tests/support/browser.h"
+
+#include <QApplication>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+
+namespace {
+
+const QString Long = u"A very long name of a game that no list so narrow could ever show in full"_s;
+
+class SuperficieTest : public MundoTest {
+protected:
+    forms::Image &tip() { return control<forms::Image>(u"IMGDescripcionLarga"_s); }
+    // Rows 0 and 2 are too long for the list.
+    void startWithLongNames()
+    {
+        startAt(Zeta, 0);
+        list().Clear();
+        for (const QString &text : { Long, u"short"_s, u"Another "_s + Long })
+            list().AddItem(text);
+        list().SetListIndex(1);
+    }
+    QPoint pointOfRow(int row)
+    {
+        list().doItemsLayout();
+        const QRect shown = list().visualItemRect(list().item(row));
+        return list().viewport()->mapTo(&list(), QPoint(20, shown.center().y()));
+    }
+    void hover(int row) { moveTo(list(), pointOfRow(row)); }
+    bool dark(const QImage &image, QRect where) const
+    {
+        for (int y = where.top(); y <= where.bottom(); ++y) {
+            for (int x = where.left(); x <= where.right(); ++x) {
+                if (image.pixelColor(x, y).lightness() < 100)
+                    return true;
+            }
+        }
+        return false;
+    }
+};
+
+} // namespace
+
+TEST_F(SuperficieTest, TipShowsALongEntryInFullOverItsRow)
+{
+    startWithLongNames();
+    hover(0);
+    ASSERT_TRUE(tip().isVisible());
+    const QFontMetrics metrics = portada->fontMetrics();
+    const int width = metrics.horizontalAdvance(Long) * 15;
+    const int height = metrics.height() * 15;
+    EXPECT_EQ(tip().geometry(), forms::inPixels({ 170, 1340, width + 50, height + 50 }));
+    hover(2);
+    EXPECT_EQ(tip().y(), forms::inPixels({ 0, 1340 + 2 * height, 0, 0 }).y());
+    EXPECT_EQ(portada->childAt(tip().geometry().topLeft()), &tip());
+}
+
+TEST_F(SuperficieTest, TipIsBlackOnPaleYellow)
+{
+    startWithLongNames();
+    hover(0);
+    const QImage shown = tip().grab().toImage();
+    EXPECT_EQ(shown.pixelColor(shown.width() - 1, shown.height() - 1), QColor(255, 255, 192));
+    EXPECT_TRUE(dark(shown, QRect(0, 0, 40, shown.height() - 1)));
+}
+
+TEST_F(SuperficieTest, TipStandsByTheFirstRowInView)
+{
+    startAt(Zeta, 0);
+    list().Clear();
+    for (int i = 0; i < 60; ++i)
+        list().AddItem(QString::number(i) + Long);
+    list().SetListIndex(59);
+    const int top = list().TopIndex();
+    ASSERT_GT(top, 10);
+    hover(top + 1);
+    EXPECT_EQ(tip().y(), forms::inPixels({ 0, 1340 + portada->fontMetrics().height() * 15, 0, 0 }).y());
+}
+
+TEST_F(SuperficieTest, EntryThatFitsHidesTheTipOfTheOneBefore)
+{
+    startWithLongNames();
+    hover(0);
+    ASSERT_TRUE(tip().isVisible());
+    hover(1);
+    EXPECT_FALSE(tip().isVisible());
+}
+
+TEST_F(SuperficieTest, PointBelowTheLastEntryHidesTheTip)
+{
+    startWithLongNames();
+    hover(2);
+    ASSERT_TRUE(tip().isVisible());
+    moveTo(list(), QPoint(20, list().height() - 10));
+    EXPECT_FALSE(tip().isVisible());
+}
+
+TEST_F(SuperficieTest, TipNeitherMovesNorHidesWhileAButtonIsHeld)
+{
+    startWithLongNames();
+    hover(0);
+    const QRect place = tip().geometry();
+    for (const int row : { 2, 1 }) {
+        list().MouseMove.raise({ forms::MiddleButton, 20 * 15, forms::twips(pointOfRow(row).y()) });
+        EXPECT_EQ(tip().geometry(), place);
+        EXPECT_TRUE(tip().isVisible());
+    }
+}
+
+TEST_F(SuperficieTest, TipStaysWhileThePointerRestsOnIt)
+{
+    startWithLongNames();
+    hover(0);
+    moveTo(tip(), QPoint(5, 5));
+    EXPECT_TRUE(tip().isVisible());
+    moveTo(*portada, QPoint(3, 300));
+    EXPECT_FALSE(tip().isVisible());
+}
+
+TEST_F(SuperficieTest, TipYieldsOnceAndLeavesTheScreenToALaterMove)
+{
+    startWithLongNames();
+    bool later = false;
+    QTimer::singleShot(0, portada.get(), [&] {
+        later = true;
+        list().MouseMove.raise({ 0, 20 * 15, forms::twips(pointOfRow(1).y()) });
+    });
+    list().MouseMove.raise({ 0, 20 * 15, 5 * 15 });
+    EXPECT_TRUE(later);
+    EXPECT_FALSE(tip().isVisible());
+}
+
+TEST_F(SuperficieTest, ClickOnTheTipSelectsItsEntryAndFocusesTheList)
+{
+    startWithLongNames();
+    hover(2);
+    control(u"Combo1"_s).setFocus();
+    click(tip());
+    EXPECT_EQ(list().ListIndex(), 2);
+    EXPECT_EQ(focused(), u"Lista1"_s);
+}
+
+TEST_F(SuperficieTest, ClickOnATipWhoseEntryIsGoneSelectsNothing)
+{
+    startWithLongNames();
+    hover(2);
+    list().Clear();
+    click(tip());
+    EXPECT_EQ(list().ListIndex(), -1);
+}
+
+TEST_F(SuperficieTest, RightButtonOpensTheListsMenuAndSelectsNothing)
+{
+    startAt(Zeta, 0);
+    clickRow(list(), 0);
+    EXPECT_TRUE(popsUp(*portada->Menu_Lista1, [&] { clickRow(list(), 1, Qt::RightButton); }));
+    EXPECT_EQ(list().ListIndex(), 0);
+}
+
+TEST_F(SuperficieTest, RightButtonOnAListWithoutSelectionOpensNoMenuButOnATipItDoes)
+{
+    startWithLongNames();
+    hover(0);
+    list().SetListIndex(-1);
+    EXPECT_FALSE(popsUp(*portada->Menu_Lista1, [&] { clickAt(list(), QPoint(20, 150), Qt::RightButton); }));
+    EXPECT_TRUE(popsUp(*portada->Menu_Lista1, [&] { click(tip(), Qt::RightButton); }));
+}
+
+TEST_F(SuperficieTest, RightButtonOnTheTelevisionOpensTheCapturesMenu)
+{
+    startAt(Zeta, 0);
+    QWidget &set = control(u"Graf_TV"_s);
+    EXPECT_TRUE(popsUp(*portada->Menu_Graf_Imagen, [&] { clickAt(set, QPoint(6, 60), Qt::RightButton); }));
+    EXPECT_FALSE(popsUp(*portada->Menu_Graf_Imagen, [&] { clickAt(set, QPoint(6, 60)); }));
+}
+
+TEST_F(SuperficieTest, MenusHaveTheirEntriesWithAccelerators)
+{
+    startAt(Zeta, 0);
+    const auto captions = [](const QMenu &menu) {
+        QStringList texts;
+        for (const QAction *action : menu.actions())
+            texts << action->text();
+        return texts;
+    };
+    EXPECT_THAT(captions(*portada->Menu_Graf_Imagen),
+        ElementsAre(u"Zoom x&2"_s, u"Zoom x&3"_s, u"Zoom x&4"_s, u"Zoom x&5"_s, u"&OFF"_s));
+    EXPECT_THAT(captions(*portada->Menu_Lista1),
+        ElementsAre(u"Poner una &descripción"_s, u"&Borrar la ROM"_s, u"&Añadir parámetros específicos"_s));
+}
+
+TEST_F(SuperficieTest, WebLinksTurnYellowWhilePressedAndOpenThePage)
+{
+    const Browser browser;
+    startAt(Zeta, 0);
+    M->Cat_WEB1(0) = u"WEB1=www.example.org/zeta"_s;
+    M->Cat_WEB2(0, 1) = u"WEB2=https://example.org/uno"_s;
+    for (const QString &name : { u"WEB1"_s, u"WEB2"_s }) {
+        EXPECT_EQ(colour(name), QColor(255, 0, 0));
+        press(control(name), Qt::MiddleButton);
+        EXPECT_EQ(colour(name), QColor(255, 255, 0));
+        releaseAt(control(name), QPoint(-30, 4), Qt::MiddleButton);
+        EXPECT_EQ(colour(name), QColor(255, 0, 0));
+    }
+    EXPECT_THAT(browser.opened, ElementsAre(u"http://www.example.org/zeta"_s, u"https://example.org/uno"_s));
+}
+
+TEST_F(SuperficieTest, MissingPagesAreTold)
+{
+    const Browser browser;
+    startAt(Zeta, 0);
+    M->Msg_SisNoWeb0 = u"Sistema"_s;
+    M->Msg_SisNoWeb1 = u"no tiene"_s;
+    M->Msg_EmuNoWeb0 = u"Emulador"_s;
+    M->Msg_EmuNoWeb1 = u"tampoco"_s;
+    M->Cat_WEB1(0) = u"WEB1="_s;
+    M->Cat_WEB2(0, 1) = u"WEB2="_s;
+    QStringList told;
+    for (const QString &name : { u"WEB1"_s, u"WEB2"_s }) {
+        atModal(u"Caja"_s, [&](forms::Form &form) {
+            told << form.Caption() << controlOf<forms::Label>(form, u"Texto2"_s).Caption();
+            EXPECT_EQ(controlOf<forms::Label>(form, u"TXT_Aceptar"_s).Caption(), u"Aceptar"_s);
+            click(controlOf<QWidget>(form, u"Aceptar2"_s));
+        });
+        click(control(name));
+    }
+    EXPECT_THAT(told, ElementsAre(u"Sistema"_s, u"no tiene"_s, u"Emulador"_s, u"tampoco"_s));
+    EXPECT_THAT(browser.opened, ElementsAre());
+}
+
+TEST_F(SuperficieTest, WebLinksDoNothingWithoutASelection)
+{
+    const Browser browser;
+    startWithoutEmulator(Alfa);
+    click(control(u"WEB2"_s));
+    systems().SetListIndex(-1);
+    click(control(u"WEB1"_s));
+    EXPECT_EQ(colour(u"WEB1"_s), QColor(255, 0, 0));
+    EXPECT_THAT(browser.opened, ElementsAre());
+}
+
+TEST_F(SuperficieTest, LineOfACatalogueShorterThanItsPrefixIsFatal)
+{
+    startAt(Zeta, 0);
+    M->Cat_WEB1(0) = u"WEB"_s;
+    EXPECT_TRUE(endOf([&] { click(control(u"WEB1"_s)); }));
+}
+
+TEST_F(SuperficieTest, HandPointsAtTitleAndLinks)
+{
+    startAt(Zeta, 0);
+    for (const QString &name : { u"Titulo1"_s, u"WEB1"_s, u"WEB2"_s })
+        EXPECT_EQ(control(name).cursor().shape(), Qt::PointingHandCursor);
+}
+
+TEST_F(SuperficieTest, EveryButtonIsReachedByTab)
+{
+    startAt(Zeta, 0);
+    list().setFocus();
+    QStringList way;
+    for (int i = 0; i < 60 && (way.isEmpty() || focused() != u"Lista1"); ++i) {
+        way << focused();
+        QTest::keyClick(portada->windowHandle(), Qt::Key_Tab);
+    }
+    EXPECT_THAT(way,
+        ElementsAre(u"Lista1"_s, u"BotonA2"_s, u"BotonB2"_s, u"Menos2a"_s, u"Combo1"_s, u"Menos2b"_s,
+            u"Combo2"_s, u"BotonC2"_s, u"BotonD2"_s, u"JugarB1"_s, u"Graf_Imagen"_s, u"Boton1b"_s,
+            u"Boton2b"_s, u"Boton3b"_s, u"Boton5b"_s, u"Boton4b"_s, u"Boton6b"_s, u"Check1"_s, u"E1"_s,
+            u"D1"_s, u"Flecha2"_s));
+}
+
+TEST_F(SuperficieTest, AcceleratorsPressTheirButtons)
+{
+    startAt(Zeta, 0);
+    const std::pair<QString, QKeyCombination> keys[] = { { u"Boton5b"_s, Qt::Key_F1 },
+        { u"Boton6b"_s, Qt::SHIFT | Qt::Key_F1 }, { u"BotonC2"_s, Qt::Key_F2 }, { u"BotonD2"_s, Qt::Key_F3 },
+        { u"Boton1b"_s, Qt::Key_F5 }, { u"Boton2b"_s, Qt::Key_F6 }, { u"Boton3b"_s, Qt::Key_F7 },
+        { u"Boton4b"_s, Qt::Key_F8 }, { u"JugarB1"_s, Qt::Key_F9 }, { u"E1"_s, Qt::CTRL | Qt::Key_E },
+        { u"D1"_s, Qt::CTRL | Qt::Key_T }, { u"Flecha2"_s, Qt::CTRL | Qt::Key_Q } };
+    for (const auto &[name, key] : keys) {
+        auto &button = control<forms::PictureButton>(name);
+        int released = 0;
+        button.Release = [&] { ++released; };
+        strike(*portada, key.key(), key.keyboardModifiers());
+        EXPECT_TRUE(waitUntil([&] { return released == 1; })) << name.toStdString();
+        EXPECT_FALSE(button.ShowsPressed());
+    }
+}
+
+TEST_F(SuperficieTest, KeysOfTheTelevision)
+{
+    startAt(Zeta, 0);
+    for (int zoom = 3; zoom <= 5; ++zoom) {
+        strike(*portada, Qt::Key(Qt::Key_0 + zoom), Qt::ControlModifier);
+        EXPECT_EQ(M->ZoomActual, zoom);
+    }
+    strike(*portada, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(M->ZoomActual, 0);
+    const Browser browser;
+    M->Cat_WEB1(0) = u"WEB1=http://a.example/"_s;
+    M->Cat_WEB2(0, 1) = u"WEB2=http://b.example/"_s;
+    strike(*portada, Qt::Key_1, Qt::ControlModifier);
+    strike(*portada, Qt::Key_1, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_THAT(browser.opened, ElementsAre(u"http://a.example/"_s, u"http://b.example/"_s));
+}
+
+TEST_F(SuperficieTest, MenuKeyOpensTheMenuOfTheControl)
+{
+    startAt(Zeta, 0);
+    const auto askIn = [this](const QString &name) {
+        QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(5, 5), QPoint(5, 5));
+        QApplication::sendEvent(&control(name), &key);
+    };
+    EXPECT_TRUE(popsUp(*portada->Menu_Lista1, [&] { askIn(u"Lista1"_s); }));
+    EXPECT_TRUE(popsUp(*portada->Menu_Graf_Imagen, [&] { askIn(u"Graf_Imagen"_s); }));
+    list().SetListIndex(-1);
+    EXPECT_FALSE(popsUp(*portada->Menu_Lista1, [&] { askIn(u"Lista1"_s); }));
+}
+
+TEST_F(SuperficieTest, LettersTypedInTheListJumpToTheEntry)
+{
+    startAt(Zeta, 0);
+    list().setFocus();
+    type(*portada, u"tw"_s);
+    EXPECT_EQ(list().Text(), u"two.nes"_s);
+    EXPECT_EQ(info(), u"two.nes 2Kb  [NOR]"_s);
+}
+
+TEST_F(SuperficieTest, ControlsAreNamedInTheChosenLanguage)
+{
+    QStringList language = languageLines();
+    language << languageLine(u"Zem_Flecha2"_s, u"Leave"_s) << languageLine(u"TXT_Describir"_s, u"Describe"_s);
+    files.writeLines(u"LNG/ZB-ESP.LNG"_s, language);
+    startAt(Zeta, 0);
+    EXPECT_EQ(control(u"Flecha2"_s).accessibleName(), u"Leave"_s);
+    EXPECT_EQ(control(u"BotonA2"_s).accessibleName(), u"Describe"_s);
+    EXPECT_EQ(control(u"Menos2a"_s).accessibleName(), u"Quitar el sistema"_s);
+    EXPECT_EQ(control(u"JugarB1"_s).accessibleName(), u"Jugar"_s);
+    for (QWidget *widget : portada->findChildren<QWidget *>()) {
+        const bool button = dynamic_cast<forms::PictureButton *>(widget);
+        if (button || (widget->focusPolicy() & Qt::TabFocus)) {
+            EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
+        }
+    }
+}
+
+TEST_F(SuperficieTest, WordsOfTheLastLanguageDoNotStayBehind)
+{
+    files.writeLines(u"LNG/A.LNG"_s, languageLines() << languageLine(u"Zem_Flecha2"_s, u"Leave"_s));
+    files.writeLines(u"LNG/B.LNG"_s, languageLines());
+    startAt(Zeta, 0);
+    M->LanguageFile = u"A.LNG"_s;
+    portada->Textos();
+    EXPECT_EQ(control(u"Flecha2"_s).accessibleName(), u"Leave"_s);
+    M->LanguageFile = u"B.LNG"_s;
+    portada->Textos();
+    EXPECT_EQ(control(u"Flecha2"_s).accessibleName(), u"Salir"_s);
+}
