@@ -57,6 +57,20 @@ void centre(QWidget &form, const QWidget *owner)
     form.setGeometry(place);
 }
 
+Qt::WindowFlags flagsOf(Form::Border border)
+{
+    switch (border) {
+    case Form::Border::None:
+        return Qt::Window | Qt::FramelessWindowHint;
+    case Form::Border::FixedWithCloseBox:
+        return Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
+            | Qt::WindowCloseButtonHint;
+    case Form::Border::FixedSingle:
+        break;
+    }
+    return Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+}
+
 // Returns the window that the form stands over.
 QPointer<QWidget> showOver(QWidget &form, QWidget *owner, Qt::WindowModality modality)
 {
@@ -81,8 +95,7 @@ Form::Form(const QString &name, int clientWidth, int clientHeight, Border border
 {
     m_state->border = border;
     setObjectName(name);
-    setWindowFlags(border == Border::None ? Qt::Window | Qt::FramelessWindowHint
-                                          : Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    setWindowFlags(flagsOf(border));
     setMouseTracking(true);
     SetClientSize(clientWidth, clientHeight);
 }
@@ -110,6 +123,10 @@ void Form::SetClientSize(int width, int height)
 
 void Form::ShowModal(QWidget *owner)
 {
+    if (m_state->modalLoop) {
+        showOver(*this, owner, Qt::ApplicationModal);
+        return;
+    }
     QEventLoop loop;
     const QPointer<Form> self(this);
     const auto closed = qScopeGuard([self] {
@@ -121,9 +138,9 @@ void Form::ShowModal(QWidget *owner)
     hide();
     m_state->modalLoop = &loop;
     const QPointer<QWidget> lower = showOver(*this, owner, Qt::ApplicationModal);
-    // What showing it has raised may have closed it already.
-    if (self && isVisible())
-        loop.exec();
+    // What showing it has raised may have closed it already; and it may have been shown again by the time
+    // that the loop ends.
+    while (self && isVisible() && loop.exec() == 0) { }
     // Not every window system gives the focus back. Where the user has gone on to another program, it stays
     // there.
     if (lower && lower->isVisible() && QApplication::applicationState() == Qt::ApplicationActive)
@@ -196,7 +213,7 @@ void Form::closeEvent(QCloseEvent *event)
         CloseWished.raise();
         return;
     }
-    event->setAccepted(m_state->border == Border::FixedSingle);
+    event->setAccepted(m_state->border != Border::None);
 }
 
 void Form::hideEvent(QHideEvent *event)

@@ -15,10 +15,10 @@ namespace forms {
 
 class Form : public QWidget {
 public:
-    enum class Border { None, FixedSingle };
+    enum class Border { None, FixedSingle, FixedWithCloseBox };
 
     // Name, client size in twips and border; not shown yet. The title bar, where there is one, has no
-    // buttons.
+    // buttons but the box for closing, where there is that.
     Form(const QString &name, int clientWidth, int clientHeight, Border border);
     ~Form() override;
 
@@ -31,7 +31,9 @@ public:
     void SetClientSize(int width, int height);
 
     // Shows the form over its owner (centred over it; on the screen if there is none), and returns when it
-    // has closed. The other screens get no input until then.
+    // has closed. The other screens get no input until then. Where a handler of the form still works after
+    // it was closed, the call that showed it waits for that; another one meanwhile shows the form again for
+    // the waiting one, and returns at once.
     void ShowModal(QWidget *owner);
 
     // Shows the form and returns at once.
@@ -82,10 +84,18 @@ public:
     F *operator->() { return touch(); }
     bool isLoaded() const { return m_form != nullptr; }
 
-    // Shows it modally, and destroys it when it has closed.
+    // Shows it modally, and destroys it when it has closed; within another such call, that one destroys it.
     void ShowModal(QWidget *owner)
     {
-        const auto destroy = qScopeGuard([this] { m_form.reset(); });
+        if (m_shown) {
+            touch()->ShowModal(owner);
+            return;
+        }
+        m_shown = true;
+        const auto destroy = qScopeGuard([this] {
+            m_shown = false;
+            m_form.reset();
+        });
         touch()->ShowModal(owner);
     }
     void Unload() { m_form.reset(); }
@@ -100,6 +110,7 @@ private:
 
     std::function<std::unique_ptr<F>()> m_make;
     std::unique_ptr<F> m_form;
+    bool m_shown = false; // modally
 };
 
 } // namespace forms

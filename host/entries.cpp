@@ -10,6 +10,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -125,6 +126,19 @@ void deleteFiles(const QString &directory, const QStringList &names)
     const Descriptor descriptor = openOwnDirectory(directory);
     for (const QString &name : names)
         deletePlainFile(descriptor, nameToDisk(name));
+}
+
+void deleteFile(const QString &path)
+{
+    const QByteArray found = findOnDisk(path);
+    struct stat status;
+    if (lstat(found.constData(), &status) != 0)
+        throw Failure(FileNotFound, u"delete a file"_s, path);
+    // What a link leads to decides; one that leads nowhere may go.
+    const bool leads = stat(found.constData(), &status) == 0;
+    const bool mayGo = !leads || (!S_ISDIR(status.st_mode) && (status.st_mode & S_IWUSR) != 0);
+    if (!mayGo || unlink(found.constData()) != 0)
+        throw Failure(PathAccess, u"delete a file"_s, path);
 }
 
 } // namespace host

@@ -4,6 +4,9 @@
 #include "host/failure.h"
 #include "host/letters.h"
 
+#include <algorithm>
+#include <initializer_list>
+
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -43,12 +46,14 @@ unsigned char typeOf(const Listing &listing, const Directory::Entry &entry, bool
     return static_cast<unsigned char>(IFTODT(status.st_mode));
 }
 
-QStringList namesOfType(const QString &path, unsigned char type)
+QStringList namesOfTypes(const QString &path, std::initializer_list<unsigned char> types)
 {
     const Listing listing = openListing(path);
     QStringList names;
     for (const Directory::Entry &entry : listing.directory->entries()) {
-        if (!entry.bytes.startsWith('.') && typeOf(listing, entry, true) == type)
+        if (entry.bytes.startsWith('.'))
+            continue;
+        if (std::ranges::find(types, typeOf(listing, entry, true)) != types.end())
             names.append(entry.name);
     }
     return names;
@@ -85,12 +90,17 @@ bool fitsWildcards(QStringView name, QStringView pattern)
 
 QStringList listFiles(const QString &directory)
 {
-    return namesOfType(directory, DT_REG);
+    return namesOfTypes(directory, { DT_REG });
 }
 
 QStringList listDirectories(const QString &directory)
 {
-    return namesOfType(directory, DT_DIR);
+    return namesOfTypes(directory, { DT_DIR });
+}
+
+QStringList listFilesAndDirectories(const QString &directory)
+{
+    return namesOfTypes(directory, { DT_REG, DT_DIR });
 }
 
 QStringList listFiles(const QString &directory, const QString &pattern)

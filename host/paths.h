@@ -66,6 +66,9 @@ QStringList listDirectories(const QString &directory);
 QStringList listFiles(const QString &directory, const QString &pattern);
 bool fitsPattern(QStringView name, const QString &pattern);
 
+// Files and sub-directories together, in the same order; what listFiles leaves out is left out here too.
+QStringList listFilesAndDirectories(const QString &directory);
+
 // The plain files of a directory, hidden ones included and links left out: what deleteFiles takes, but for
 // those that their owner may not write. Fails with 76.
 QStringList listPlainFiles(const QString &directory);
@@ -79,6 +82,10 @@ void removeDirectory(const QString &path); // fails with 75 or 76; only an empty
 // link in its place.
 void deleteFiles(const QString &directory);
 void deleteFiles(const QString &directory, const QStringList &names);
+
+// Deletes one file; of a link to one, the link. Fails with 53 if there is no such path, 75 if it is or leads
+// to a directory, if its owner may not write it, or if it can't be deleted.
+void deleteFile(const QString &path);
 
 void changeDirectory(const QString &path); // fails with 76
 QString currentDirectory(); // empty if it has been deleted

@@ -73,6 +73,19 @@ TEST_F(Forms, WithABorder_ThereIsATitleWithoutButtons)
         Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint | Qt::WindowMinMaxButtonsHint));
 }
 
+TEST_F(Forms, WithACloseBox_ItIsTheOnlyButtonOfTheTitle)
+{
+    Form form(u"Opciones1"_s, 2655, 4620, Form::Border::FixedWithCloseBox);
+    form.ShowModeless(&owner);
+    const Qt::WindowFlags flags = form.windowFlags();
+    EXPECT_TRUE(flags.testFlag(Qt::WindowTitleHint));
+    EXPECT_TRUE(flags.testFlag(Qt::WindowSystemMenuHint));
+    EXPECT_TRUE(flags.testFlag(Qt::WindowCloseButtonHint));
+    EXPECT_FALSE(flags.testAnyFlags(Qt::WindowMinMaxButtonsHint | Qt::FramelessWindowHint));
+    EXPECT_EQ(form.minimumSize(), form.maximumSize());
+    EXPECT_TRUE(form.close());
+}
+
 TEST_F(Forms, ShowModal_ReturnsWhenTheFormIsUnloaded)
 {
     Form form(u"Caja"_s, 2505, 1650, Form::Border::FixedSingle);
@@ -224,6 +237,25 @@ TEST_F(Forms, AModalForm_CanBeShownAgain)
         form.ShowModal(nullptr);
     }
     EXPECT_EQ(shows, 2);
+}
+
+TEST_F(Forms, AFormClosedAndShownAgainByItsOwnHandler_KeepsTheFirstCallWaiting)
+{
+    Form form(u"Utilidades"_s, 1500, 1500, Form::Border::FixedWithCloseBox);
+    std::vector<std::string> log;
+    meanwhile([&] {
+        form.close();
+        form.ShowModal(&owner);
+        log.push_back(form.isVisible() && QApplication::activeModalWidget() == &form ? "modal" : "not modal");
+        QTimer::singleShot(0, qApp, [&] {
+            log.push_back("closed");
+            form.close();
+        });
+    });
+    form.ShowModal(&owner);
+    log.push_back("returned");
+    EXPECT_THAT(log, ElementsAre("modal", "closed", "returned"));
+    EXPECT_FALSE(form.isVisible());
 }
 
 TEST_F(Forms, AFatalEndInsideAModalForm_LeavesNoModalFormBehind)
@@ -379,6 +411,25 @@ TEST_F(Holders, UnloadingTheHolder_EndsTheModalDisplay)
     QTimer::singleShot(0, qApp, [this] { holder.Unload(); });
     holder.ShowModal(nullptr);
     EXPECT_FALSE(holder.isLoaded());
+}
+
+TEST_F(Holders, AFormClosedWhileItsHandlerWorks_IsDestroyedBehindTheHandlerAlone)
+{
+    bool thereAllTheTime = false;
+    QTimer::singleShot(0, qApp, [&] {
+        const QPointer<Form> form(&*holder);
+        form->close();
+        QCoreApplication::processEvents();
+        holder.ShowModal(nullptr);
+        const bool shownAgain = form && form->isVisible();
+        form->close();
+        QCoreApplication::processEvents();
+        thereAllTheTime = shownAgain && form;
+    });
+    holder.ShowModal(nullptr);
+    EXPECT_TRUE(thereAllTheTime);
+    EXPECT_FALSE(holder.isLoaded());
+    EXPECT_EQ(made, 1);
 }
 
 TEST_F(Holders, AFatalEndInsideTheForm_DestroysIt)

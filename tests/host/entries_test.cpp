@@ -223,6 +223,33 @@ TEST_F(Deleting, TakesTheNamedFilesAlone)
     EXPECT_TRUE(exists("outer"));
 }
 
+TEST_F(Deleting, OneFile_TakesItInAnyCaseAndNothingElse)
+{
+    makeFile("One.pcx");
+    makeFile("One.pcx2");
+    makeFile("target");
+    makeLink("target", "link");
+    makeLink("nowhere", "broken");
+    deleteFile(path(u"ONE.PCX"_s));
+    deleteFile(path(u"link"_s));
+    deleteFile(path(u"broken"_s));
+    EXPECT_THAT(names(), ElementsAre("One.pcx2", "target"));
+}
+
+TEST_F(Deleting, OneFile_FailsWhereItIsMissingOrADirectoryOrMayNotBeWritten)
+{
+    makeDirectory("dir.pcx");
+    makeLink("dir.pcx", "to dir");
+    makeFile("locked");
+    setMode("locked", 0444);
+    EXPECT_EQ(failureOf([this] { deleteFile(path(u"none"_s)); }), FileNotFound);
+    EXPECT_EQ(failureOf([] { deleteFile({}); }), FileNotFound);
+    EXPECT_EQ(failureOf([this] { deleteFile(path(u"dir.pcx"_s)); }), PathAccess);
+    EXPECT_EQ(failureOf([this] { deleteFile(path(u"to dir"_s)); }), PathAccess);
+    EXPECT_EQ(failureOf([this] { deleteFile(path(u"locked"_s)); }), PathAccess);
+    EXPECT_THAT(names(), ElementsAre("dir.pcx", "locked", "to dir"));
+}
+
 TEST_F(Deleting, Fails_OfALinkInTheDirectorysPlace)
 {
     makeDirectory("home");

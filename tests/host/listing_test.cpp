@@ -31,6 +31,7 @@ TEST_F(Listings, HiddenNamesAreLeftOut)
     makeDirectory(".dir");
     EXPECT_THAT(listFiles(path()), IsEmpty());
     EXPECT_THAT(listDirectories(path()), IsEmpty());
+    EXPECT_THAT(listFilesAndDirectories(path()), IsEmpty());
 }
 
 TEST_F(Listings, LinksAreWhatTheyLeadTo)
@@ -42,6 +43,7 @@ TEST_F(Listings, LinksAreWhatTheyLeadTo)
     makeLink("nowhere", "to nothing");
     EXPECT_THAT(listFiles(path()), ElementsAre(u"file"_s, u"to file"_s));
     EXPECT_THAT(listDirectories(path()), ElementsAre(u"dir"_s, u"to dir"_s));
+    EXPECT_THAT(listFilesAndDirectories(path()), ElementsAre(u"dir"_s, u"file"_s, u"to dir"_s, u"to file"_s));
 }
 
 TEST_F(Listings, PipesAndSocketsAreLeftOut)
