@@ -34,6 +34,14 @@ struct Palabras {
     QString Zem_OFF = QStringLiteral("Apagar el televisor");
     QString Zem_WEB1 = QStringLiteral("Página web del sistema");
     QString Zem_WEB2 = QStringLiteral("Página web del emulador");
+    QString Zem_Mas1 = QStringLiteral("Añadir un sistema");
+    QString Zem_Boton_Mas2 = QStringLiteral("Añadir un emulador");
+    QString Zem_Boton_E = QStringLiteral("Extensiones del sistema");
+    QString Zem_Casilla4 = QStringLiteral("Parámetros delante de la ROM");
+    QString Zem_Casilla5 = QStringLiteral("Parámetros detrás de la ROM");
+    QString Zem_Discos = QStringLiteral("Unidades");
+    QString Zem_Directorios = QStringLiteral("Directorios");
+    QString Zem_Archivos = QStringLiteral("Archivos");
     QString Zem_D1 = QStringLiteral("Consola en el directorio del emulador");
     QString Zem_E1 = QStringLiteral("Explorar el directorio del emulador");
     QString Zem_Flecha2 = QStringLiteral("Salir");

@@ -12,6 +12,8 @@ namespace forms {
 PictureButton::PictureButton(const QString &atRest, const QString &pressed, QWidget *parent)
     : QAbstractButton(parent)
     , m_pressedName(pressed)
+    , m_artwork(atRest)
+    , m_pressedArtwork(pressed)
 {
     setObjectName(atRest);
     setFocusPolicy(Qt::TabFocus);
@@ -22,6 +24,13 @@ PictureButton::PictureButton(const QString &atRest, const QString &pressed, QWid
             press(By::Other);
     });
     connect(this, &QAbstractButton::clicked, this, [this] { release(); });
+}
+
+void PictureButton::SetArtwork(const QString &atRest, const QString &pressed)
+{
+    m_artwork = atRest;
+    m_pressedArtwork = pressed;
+    update();
 }
 
 void PictureButton::SetPlace(const Place &place, int pressedWidth)
@@ -64,7 +73,7 @@ void PictureButton::cancel()
 
 void PictureButton::paintEvent(QPaintEvent *)
 {
-    const QString name = ShowsPressed() ? m_pressedName : objectName();
+    const QString &name = ShowsPressed() ? m_pressedArtwork : m_artwork;
     QPainter painter(this);
     painter.drawPixmap(0, 0, artwork(name, size(), devicePixelRatioF()));
     if (hasFocus()) {

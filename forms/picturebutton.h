@@ -22,6 +22,7 @@ public:
     Event<> Release; // once the picture at rest shows again
 
     const QString &PressedName() const { return m_pressedName; }
+    void SetArtwork(const QString &atRest, const QString &pressed); // other drawings than those of the names
     bool ShowsPressed() const { return m_pressedBy != By::Nothing; }
     void SetPlace(const Place &place, int pressedWidth = 0); // pressedWidth 0: as at rest
 
@@ -45,6 +46,8 @@ private:
     void showPicture(By pressedBy);
 
     QString m_pressedName;
+    QString m_artwork; // at rest
+    QString m_pressedArtwork;
     int m_growth = 0; // of the width while pressed, in pixels
     By m_pressedBy = By::Nothing;
     Qt::MouseButton m_button = Qt::NoButton; // the button that pressed it

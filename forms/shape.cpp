@@ -1,6 +1,8 @@
 #include "forms/shape.h"
 
+#include <QLabel>
 #include <QPainter>
+#include <QStyle>
 
 namespace forms {
 
@@ -11,9 +13,31 @@ Shape::Shape(const QColor &colour, QWidget *parent)
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
+Shape::~Shape() = default;
+
+void Shape::SetHeading(const QLabel *heading)
+{
+    m_heading = heading;
+    update();
+}
+
+// Where the heading's words stand, with some air beside them; empty if it shows none.
+QRect Shape::headingRect() const
+{
+    constexpr int Air = 3;
+    if (!m_heading || m_heading->isHidden() || m_heading->text().isEmpty())
+        return {};
+    const QFontMetrics letters = m_heading->fontMetrics();
+    const QSize size(letters.horizontalAdvance(m_heading->text()), letters.height());
+    const QRect words =
+        QStyle::alignedRect(Qt::LeftToRight, m_heading->alignment(), size, m_heading->geometry());
+    return words.translated(-pos()).adjusted(-Air, 0, Air, 0);
+}
+
 void Shape::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    painter.setClipRegion(QRegion(rect()) - headingRect());
     // Filled, not stroked: at a fraction of the design size a line between two pixels gets lost.
     painter.fillRect(0, 0, width(), 1, m_colour);
     painter.fillRect(0, height() - 1, width(), 1, m_colour);

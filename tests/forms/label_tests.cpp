@@ -170,6 +170,26 @@ TEST_F(Labels, AShape_LetsTheMouseThroughToTheForm)
     EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(Labels, AHeadingOnAShape_InterruptsItsLineBehindItsWordsAlone)
+{
+    const QColor teal(0, 128, 128);
+    forms::Shape shape(teal, &form);
+    shape.setGeometry(10, 30, 150, 60);
+    forms::Label heading(&form);
+    heading.SetPlace({ 450, 345, 1500, 210 });
+    heading.SetCaption(u"iii"_s);
+    shape.SetHeading(&heading);
+    drive::show(form);
+    const int words = heading.fontMetrics().horizontalAdvance(u"iii"_s);
+    EXPECT_EQ(drive::colourAt(form, { 26, 30 }), teal);
+    EXPECT_NE(drive::colourAt(form, { 27, 30 }), teal);
+    EXPECT_NE(drive::colourAt(form, { 30 + words + 2, 30 }), teal);
+    EXPECT_EQ(drive::colourAt(form, { 30 + words + 3, 30 }), teal);
+    EXPECT_EQ(drive::colourAt(form, { 30, 89 }), teal);
+    heading.hide();
+    EXPECT_EQ(drive::colourAt(form, { 28, 30 }), teal);
+}
+
 TEST_F(Labels, AShape_PaintsItsFrameAlone)
 {
     form.SetBackColour(Qt::black);

@@ -63,6 +63,16 @@ TEST_F(PicturePairs, ThePictureChanges_WhilePressedOnly)
     EXPECT_EQ(drive::colourAt(pair, { 3, 5 }), QColor(Qt::red));
 }
 
+TEST_F(PicturePairs, OtherDrawings_ShowUnderTheNamesOfThePair)
+{
+    pair.SetArtwork(u"Rest1"_s, u"Rest2"_s);
+    drive::show(form);
+    EXPECT_EQ(pair.objectName(), u"Rest2"_s);
+    EXPECT_EQ(drive::colourAt(pair, { 3, 5 }), QColor(Qt::blue));
+    drive::press(pair);
+    EXPECT_EQ(drive::colourAt(pair, { 3, 5 }), QColor(Qt::red));
+}
+
 TEST_F(PicturePairs, EachPictureShows_InItsOwnWidth)
 {
     drive::show(form);
