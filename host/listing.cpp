@@ -1,6 +1,7 @@
 #include "host/paths.h"
 
 #include "host/directory.h"
+#include "host/encoding.h"
 #include "host/failure.h"
 #include "host/letters.h"
 
@@ -10,6 +11,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -107,6 +109,17 @@ QStringList listFiles(const QString &directory, const QString &pattern)
 {
     QStringList names = listFiles(directory);
     names.removeIf([&pattern](const QString &name) { return !fitsPattern(name, pattern); });
+    return names;
+}
+
+QStringList listPrograms(const QString &directory, const QString &pattern)
+{
+    const Listing listing = openListing(directory);
+    QStringList names = listFiles(directory);
+    names.removeIf([&](const QString &name) {
+        const QByteArray path = listing.path + '/' + nameToDisk(name);
+        return !fitsPattern(name, pattern) && faccessat(AT_FDCWD, path.constData(), X_OK, AT_EACCESS) != 0;
+    });
     return names;
 }
 

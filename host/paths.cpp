@@ -182,6 +182,23 @@ QString trueSpelling(const QString &path)
     return nameFromDisk(findOnDisk(path));
 }
 
+QString directoryPath(const QString &path)
+{
+    QByteArray found = findOnDisk(path);
+    if (found.isEmpty() || !isDirectory(found))
+        throw Failure(PathNotFound, u"open a directory"_s, path);
+    if (!found.startsWith('/'))
+        found = joined(nameToDisk(currentDirectory()), found);
+    QByteArrayList names;
+    for (const QByteArray &name : found.split('/')) {
+        if (name == ".." && !names.isEmpty())
+            names.removeLast();
+        else if (!name.isEmpty() && name != "." && name != "..")
+            names.append(name);
+    }
+    return nameFromDisk('/' + names.join('/'));
+}
+
 QString GetShortPathNameA(const QString &path)
 {
     QByteArray found = findOnDisk(path);

@@ -36,6 +36,11 @@ QByteArray findForWriting(const QString &path);
 // As findOnDisk, as text.
 QString trueSpelling(const QString &path);
 
+// The absolute path of an existing directory in its true spelling, without a closing separator but for the
+// root.
+// "." and ".." are resolved, links aren't. Fails with 76 if there is no such directory.
+QString directoryPath(const QString &path);
+
 // The short form of an existing path: absolute, each component in lower case, its blanks and inner points as
 // '_', so without blanks and with at most one point a component. A name that has this form already is its own
 // short form; the others that collide with it get ~2, ~3 ... ahead of the point. Keeps a closing separator.
@@ -65,6 +70,9 @@ QStringList listDirectories(const QString &directory);
 // stands for any characters, '?' for one; several patterns are separated by ';'.
 QStringList listFiles(const QString &directory, const QString &pattern);
 bool fitsPattern(QStringView name, const QString &pattern);
+
+// The plain files of a directory, as listFiles, that fit the pattern or that the user may execute.
+QStringList listPrograms(const QString &directory, const QString &pattern);
 
 // Files and sub-directories together, in the same order; what listFiles leaves out is left out here too.
 QStringList listFilesAndDirectories(const QString &directory);

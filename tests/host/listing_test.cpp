@@ -140,3 +140,28 @@ TEST_F(Listings, PlainFilesAreHiddenOnesTooButNoLinks)
     setMode("locked", 0444);
     EXPECT_THAT(listPlainFiles(path()), ElementsAre(u".hidden"_s, u"file"_s, u"locked"_s));
 }
+
+TEST_F(Listings, ProgramsAreWhatFitsThePatternAndWhatTheUserMayExecute)
+{
+    for (const char *name : { "a.EXE", "b.com", "c.txt", "run", "data" })
+        makeFile(name);
+    makeFile(".hidden");
+    makeDirectory("dir.exe");
+    setMode("run", 0755);
+    setMode(".hidden", 0755);
+    makeLink("run", "link");
+    makeLink("c.txt", "plain link");
+    EXPECT_THAT(listPrograms(path(), u"*.exe;*.com;*.bat"_s),
+        ElementsAre(u"a.EXE"_s, u"b.com"_s, u"link"_s, u"run"_s));
+    EXPECT_EQ(failureOf([this] { listPrograms(path(u"none"_s), u"*"_s); }), PathNotFound);
+}
+
+TEST_F(Listings, ProgramsOfOthersThatTheUserMayNotExecuteAreLeftOut)
+{
+    makeFile("mine");
+    setMode("mine", 0700);
+    setMode("", 0755);
+    const int status =
+        inChildOfOrdinaryUser([this] { return static_cast<int>(listPrograms(path(), u"*.exe"_s).size()); });
+    EXPECT_EQ(status, 0);
+}

@@ -270,3 +270,22 @@ TEST(EndlessPaths, AreNoneAtOnce)
         EXPECT_LT(time.elapsed(), 1000);
     }
 }
+
+TEST_F(Finding, ADirectorysPathIsAbsoluteInItsTrueSpellingWithoutAClosingSeparator)
+{
+    makeDirectory("Games");
+    makeDirectory("Games/Old ones");
+    makeFile("file");
+    makeLink("Games", "link");
+    for (const QString &typed : { u"Games/Old ones"_s, u"games/OLD ONES/"_s, u"Games\\old ones\\"_s,
+             u"Games/./Old ones/../Old ones"_s, u"link/../games/old_ones"_s })
+        EXPECT_EQ(directoryPath(path(typed)), path(u"Games/Old ones"_s)) << typed.toStdString();
+    EXPECT_EQ(directoryPath(path(u"LINK/"_s)), path(u"link"_s));
+    EXPECT_EQ(directoryPath(u"/"_s), u"/"_s);
+    EXPECT_EQ(directoryPath(u"/../"_s), u"/"_s);
+    changeDirectory(path());
+    EXPECT_EQ(directoryPath(u"games"_s), path(u"Games"_s));
+    EXPECT_EQ(directoryPath(u"."_s), path());
+    for (const QString &none : { QString(), path(u"none"_s), path(u"file"_s) })
+        EXPECT_EQ(failureOf([&none] { directoryPath(none); }), PathNotFound) << none.toStdString();
+}
