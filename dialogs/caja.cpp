@@ -1,5 +1,7 @@
 #include "dialogs/caja.h"
 
+#include "dialogs/etiqueta.h"
+
 using namespace Qt::StringLiterals;
 
 namespace dialogs {
@@ -9,21 +11,7 @@ namespace {
 constexpr int Ancho = 2505; // client area, twips
 constexpr int Alto = 1650;
 const QColor AzulNoche(0, 0, 64);
-const QColor VerdeClaro(192, 255, 192);
 const QColor RojoClaro(255, 128, 128);
-
-forms::Label *etiqueta(QWidget *padre, const QString &nombre, const QString &texto, const forms::Place &lugar,
-    const QColor &color, const QFont &letra, Qt::Alignment alineacion)
-{
-    auto *etiqueta = new forms::Label(padre);
-    etiqueta->setObjectName(nombre);
-    etiqueta->setFont(letra);
-    etiqueta->SetForeColor(color);
-    etiqueta->setAlignment(alineacion | Qt::AlignTop);
-    etiqueta->SetPlace(lugar);
-    etiqueta->SetCaption(texto);
-    return etiqueta;
-}
 
 void mueve(forms::PictureButton *boton, int izquierda, int arriba, int ancho, int alto)
 {
@@ -53,10 +41,8 @@ Caja::Caja(core::Modulo &modulo, const Teja &teja)
     mueve(Aceptar2, 180, 960, 465, 405);
     Flecha2 = new forms::PictureButton(u"Flecha2"_s, u"Flecha1"_s, this);
     mueve(Flecha2, 850, 975, 615, 375);
-    TXT_Aceptar = etiqueta(this, u"TXT_Aceptar"_s, u"Aceptar"_s, { 120, 1395, 525, 210 }, VerdeClaro,
-        forms::arial(8.25), Qt::AlignHCenter);
-    TXT_Volver = etiqueta(this, u"TXT_Volver"_s, u"Volver"_s, { 870, 1395, 650, 210 }, VerdeClaro,
-        forms::arial(8.25), Qt::AlignHCenter);
+    TXT_Aceptar = palabra(this, u"TXT_Aceptar"_s, u"Aceptar"_s, { 120, 1395, 525, 210 });
+    TXT_Volver = palabra(this, u"TXT_Volver"_s, u"Volver"_s, { 870, 1395, 650, 210 });
 
     Aceptar2->Release = [this] { Acepta(); };
     Flecha2->Release = [this] {

@@ -3,22 +3,15 @@
 
 #include "core/modulo.h"
 
+#include "dialogs/teja.h"
+
 #include "forms/form.h"
 #include "forms/image.h"
 #include "forms/label.h"
 #include "forms/picturebutton.h"
 #include "forms/textbox.h"
 
-#include <QPixmap>
-
 namespace dialogs {
-
-// The picture that every secondary screen paints over its client area, with its size in twips.
-struct Teja {
-    QPixmap imagen;
-    int ancho = 0;
-    int alto = 0;
-};
 
 class Caja : public forms::Form {
 public:

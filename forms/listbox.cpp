@@ -209,6 +209,12 @@ void ListBox::keyPressEvent(QKeyEvent *event)
         return;
     }
     const int before = ListIndex();
+    const bool arrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (before < 0 && arrow && currentRow() >= 0) {
+        event->accept();
+        select(currentRow());
+        return;
+    }
     {
         const QSignalBlocker quiet(this);
         Control::keyPressEvent(event);

@@ -110,11 +110,11 @@ QStringList volumesIn(const QByteArray &mounts, const QByteArray &table, const Q
         if (userMayMount(mount) && isForUsers(mount.target))
             points += nameFromDisk(mount.target);
     }
-    points.removeAll(home);
-    points.removeDuplicates();
     std::ranges::stable_sort(
         points, [](const QString &a, const QString &b) { return compareNames(a, b) < 0; });
-    return QStringList { u"/"_s, home } + points;
+    QStringList all = QStringList { u"/"_s, home } + points;
+    all.removeDuplicates();
+    return all;
 }
 
 QStringList volumes()

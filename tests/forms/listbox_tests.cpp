@@ -305,6 +305,22 @@ TEST_F(Lists, MovesWithoutAButton_AreToldInPointsOfTheClientArea)
     EXPECT_THAT(rows, ElementsAre(2));
 }
 
+TEST_F(Lists, AnArrowWhereNoneIsSelected_SelectsTheFirstAndThenGoesOn)
+{
+    for (const Qt::Key arrow : { Qt::Key_Down, Qt::Key_Up }) {
+        list.Clear();
+        selected.clear();
+        fill({ u"a"_s, u"b"_s });
+        drive::show(form);
+        list.setFocus();
+        drive::key(form, arrow);
+        EXPECT_THAT(selected, ElementsAre(0));
+        drive::key(form, Qt::Key_Down);
+        EXPECT_THAT(selected, ElementsAre(0, 1));
+        list.clearFocus();
+    }
+}
+
 TEST_F(Lists, AKeyThatMovesTheSelection_RaisesOnce)
 {
     fill({ u"a"_s, u"b"_s, u"c"_s });

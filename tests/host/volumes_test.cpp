@@ -51,6 +51,7 @@ TEST(Volumes, AHomeOfItsOwnFileSystemComesOnce)
 {
     EXPECT_THAT(volumesIn("/dev/sda3 /home/ann ext4 rw 0 0\n", "", u"/home/ann"_s),
         ElementsAre(u"/"_s, u"/home/ann"_s));
+    EXPECT_THAT(volumesIn("", "", u"/"_s), ElementsAre(u"/"_s));
 }
 
 TEST(Volumes, NamesKeepTheirBytesAndTheirBackslashes)

@@ -1,0 +1,172 @@
+#include "drive.h"
+
+#include "forms/directorylist.h"
+#include "forms/form.h"
+
+#include "host/failure.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+
+namespace {
+
+class DirectoryLists : public testing::Test {
+protected:
+    DirectoryLists()
+    {
+        for (const QString &name : { u"Zeta"_s, u"alfa/inner"_s, u".hidden"_s })
+            QDir(path()).mkpath(name);
+        QFile file(path(u"file"_s));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        list.setGeometry(10, 10, 150, 150);
+        list.Change = [this] { ++changes; };
+    }
+
+    QString path(const QString &name = {}) const
+    {
+        return name.isEmpty() ? m_directory.path() : m_directory.filePath(name);
+    }
+    int rowOf(const QString &name) const
+    {
+        int row = list.ListCount() - 1;
+        while (row >= 0 && list.List(row) != name)
+            --row;
+        return row;
+    }
+    void openByMouse(const QString &name)
+    {
+        list.scrollToItem(list.item(rowOf(name)));
+        drive::doubleClick(
+            *list.viewport(), Qt::LeftButton, list.visualItemRect(list.item(rowOf(name))).center());
+    }
+    QStringList below() const // the rows behind the open directory's
+    {
+        QStringList names;
+        for (int row = list.ListIndex() + 1; row < list.ListCount(); ++row)
+            names += list.List(row);
+        return names;
+    }
+    int failureOf(const QString &typed)
+    {
+        try {
+            list.SetPath(typed);
+        } catch (const host::Failure &failure) {
+            return failure.number();
+        }
+        return 0;
+    }
+
+    QTemporaryDir m_directory;
+    forms::Form form { u"Form"_s, 3000, 3000, forms::Form::Border::None };
+    forms::DirectoryList list { &form };
+    int changes = 0;
+};
+
+TEST_F(DirectoryLists, ThePath_ShowsTheWayToItAndWhatLiesInIt)
+{
+    list.SetPath(path() + u'/');
+    EXPECT_EQ(list.Path(), path());
+    EXPECT_EQ(changes, 1);
+    QStringList way = path().split(u'/', Qt::SkipEmptyParts);
+    way.prepend(u"/"_s);
+    for (int row = 0; row < way.size(); ++row)
+        EXPECT_EQ(list.List(row), way[row]);
+    EXPECT_EQ(list.ListIndex(), way.size() - 1);
+    EXPECT_THAT(below(), ElementsAre(u"alfa"_s, u"Zeta"_s));
+}
+
+TEST_F(DirectoryLists, TheSamePathAgain_IsNoChange)
+{
+    list.SetPath(path());
+    list.SetPath(path(u"."_s));
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(DirectoryLists, ADoubleClick_OpensTheDirectoryOfTheRow)
+{
+    list.SetPath(path());
+    drive::show(form);
+    openByMouse(u"alfa"_s);
+    EXPECT_EQ(list.Path(), path(u"alfa"_s));
+    EXPECT_EQ(changes, 2);
+    EXPECT_THAT(below(), ElementsAre(u"inner"_s));
+    openByMouse(QDir(path()).dirName());
+    EXPECT_EQ(list.Path(), path());
+    openByMouse(u"/"_s);
+    EXPECT_EQ(list.Path(), u"/"_s);
+    EXPECT_EQ(list.ListIndex(), 0);
+}
+
+TEST_F(DirectoryLists, ASingleClick_OnlyMarksTheRow)
+{
+    list.SetPath(path());
+    drive::show(form);
+    list.scrollToItem(list.item(rowOf(u"Zeta"_s)));
+    drive::click(*list.viewport(), Qt::LeftButton, list.visualItemRect(list.item(rowOf(u"Zeta"_s))).center());
+    EXPECT_EQ(list.Text(), u"Zeta"_s);
+    EXPECT_EQ(list.Path(), path());
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(DirectoryLists, ADoubleClickOfTheRightButton_OpensNothing)
+{
+    list.SetPath(path());
+    drive::show(form);
+    list.scrollToItem(list.item(rowOf(u"Zeta"_s)));
+    drive::doubleClick(
+        *list.viewport(), Qt::RightButton, list.visualItemRect(list.item(rowOf(u"Zeta"_s))).center());
+    EXPECT_EQ(list.Path(), path());
+}
+
+TEST_F(DirectoryLists, TheKeys_MarkAndEnterOpens)
+{
+    list.SetPath(path());
+    drive::show(form);
+    list.setFocus();
+    drive::key(form, Qt::Key_Down);
+    EXPECT_EQ(list.Text(), u"alfa"_s);
+    drive::key(form, Qt::Key_Return);
+    EXPECT_EQ(list.Path(), path(u"alfa"_s));
+    drive::key(form, Qt::Key_Up);
+    drive::key(form, Qt::Key_Enter);
+    EXPECT_EQ(list.Path(), path());
+    EXPECT_EQ(changes, 3);
+}
+
+TEST_F(DirectoryLists, APathThatIsNoDirectory_FailsAndTheOpenOneStays)
+{
+    list.SetPath(path());
+    for (const QString &none : { path(u"none"_s), path(u"file"_s), QString() })
+        EXPECT_EQ(failureOf(none), 76) << none.toStdString();
+    EXPECT_EQ(list.Path(), path());
+    EXPECT_THAT(below(), ElementsAre(u"alfa"_s, u"Zeta"_s));
+}
+
+TEST_F(DirectoryLists, ADirectoryThatHasGone_StaysClosed)
+{
+    list.SetPath(path());
+    drive::show(form);
+    ASSERT_TRUE(QDir(path()).rmdir(u"Zeta"_s));
+    openByMouse(u"Zeta"_s);
+    EXPECT_EQ(list.Path(), path());
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(DirectoryLists, TheOpenDirectoryIsInView_WhateverLiesInIt)
+{
+    for (int i = 0; i < 50; ++i)
+        QDir(path()).mkpath(u"d%1"_s.arg(i));
+    drive::show(form);
+    list.SetPath(path());
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.currentItem()).center()));
+    list.SetPath(path(u"alfa"_s));
+    EXPECT_TRUE(
+        list.viewport()->rect().contains(list.visualItemRect(list.item(list.ListCount() - 1)).center()));
+}
+
+} // namespace
