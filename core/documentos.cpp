@@ -21,16 +21,6 @@ QString baseDe(const QString &exe)
     return punto >= 0 && nombre[punto] == u'.' ? nombre.left(punto) : nombre;
 }
 
-bool existe(const QString &ruta)
-{
-    try {
-        host::attributes(ruta);
-        return true;
-    } catch (const host::Failure &) {
-        return false;
-    }
-}
-
 // Without the first bytes of a character whose other bytes lie behind the end.
 QByteArray sinCaracterPartido(QByteArray bytes)
 {
@@ -75,7 +65,7 @@ QStringList CandidatosDeConfiguracion(const QString &exe)
 
 std::optional<QString> PrimeroQueExiste(const QStringList &candidatos)
 {
-    const auto encontrado = std::ranges::find_if(candidatos, existe);
+    const auto encontrado = std::ranges::find_if(candidatos, host::exists);
     return encontrado == candidatos.end() ? std::nullopt : std::optional(*encontrado);
 }
 

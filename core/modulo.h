@@ -85,7 +85,7 @@ struct Modulo : TextosIdioma {
 
     QString Nota_CampoClave;
     QString Nota_CampoTexto;
-    QString Combo1Previo;
+    QString Combo1Previo; // a combo's text at its last change by typing: always empty, they are for picking
     QString Combo2Previo;
     int ImagenCambio = 0;
     int Lista1Cambio = 0; // 1 while the black picture shows

@@ -20,14 +20,6 @@ bool pideComillas(const QString &clave)
         || clave.endsWith(u' ');
 }
 
-// Some names would come back from the file as others, and take the records behind them along.
-bool sePuedeEscribir(const QString &clave)
-{
-    const bool enUnaLinea = !clave.contains(u'\n') && !clave.contains(u'\r');
-    const bool conComillas = clave.startsWith(u'"') || (clave.contains(u'"') && pideComillas(clave));
-    return enUnaLinea && !conComillas && clave != u"'";
-}
-
 QString claveEscrita(const QString &clave)
 {
     return pideComillas(clave) ? u'"' + clave + u'"' : clave;
@@ -146,6 +138,14 @@ bool leeNota(Modulo &M, int indice)
 
 } // namespace
 
+// Some names would come back from the file as others, and take the records behind them along.
+bool SePuedeEscribir(const QString &clave)
+{
+    const bool enUnaLinea = !clave.contains(u'\n') && !clave.contains(u'\r');
+    const bool conComillas = clave.startsWith(u'"') || (clave.contains(u'"') && pideComillas(clave));
+    return enUnaLinea && !conComillas && clave != u"'";
+}
+
 QString CampoOVacio(host::TextSource &fuente)
 {
     return fuente.atEnd() ? QString() : fuente.readField();
@@ -185,7 +185,7 @@ int NotaConTexto(const Modulo &M, const QString &texto)
 QString ConDescripcionNueva(
     const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion)
 {
-    if (!sePuedeEscribir(clave))
+    if (!SePuedeEscribir(clave))
         return texto;
     Copia copia;
     bool escrita = false;
@@ -202,7 +202,7 @@ QString ConDescripcionNueva(
 QString ConDescripcionCambiada(
     const QString &texto, const QString &anterior, const QString &clave, const QString &descripcion)
 {
-    if (!sePuedeEscribir(clave))
+    if (!SePuedeEscribir(clave))
         return texto;
     Copia copia;
     bool cambiada = false;
@@ -219,7 +219,7 @@ QString ConDescripcionCambiada(
 
 QString ConParametrosNuevos(const QString &texto, const Parametros &parametros)
 {
-    if (!sePuedeEscribir(parametros.clave))
+    if (!SePuedeEscribir(parametros.clave))
         return texto;
     Copia copia;
     bool escritos = false;
@@ -235,7 +235,7 @@ QString ConParametrosNuevos(const QString &texto, const Parametros &parametros)
 
 QString ConParametrosCambiados(const QString &texto, const Parametros &parametros)
 {
-    if (!sePuedeEscribir(parametros.clave))
+    if (!SePuedeEscribir(parametros.clave))
         return texto;
     Copia copia;
     host::TextSource fuente(copiaHastaParametros(copia, texto).toString());

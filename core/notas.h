@@ -40,6 +40,8 @@ struct Parametros {
 // anchor (one with a comma, one that begins with an apostrophe or a bracket, or with a blank at either end)
 // is written in double quotes. For a key that would not come back as it is the text stays unchanged.
 
+bool SePuedeEscribir(const QString &clave);
+
 // The new record stands first in the system's block, its key in upper case; without a block nothing changes.
 QString ConDescripcionNueva(
     const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion);

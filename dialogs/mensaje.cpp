@@ -36,6 +36,10 @@ void CajaDeMensajes::Mensaje(int Tipo, const QString &mensaje, const QString &Ti
         m_caja->PreparaAviso(mensaje, TituloVentana);
     m_caja->TXT_Aceptar->SetCaption(Boton1);
     m_caja->TXT_Volver->SetCaption(Boton2);
+    m_caja->Aceptar2->setAccessibleName(Boton1);
+    m_caja->Flecha2->setAccessibleName(Boton2);
+    m_caja->Casilla->setAccessibleName(mensaje);
+    m_caja->setAccessibleDescription(mensaje);
     m_caja.ShowModal(m_dueño());
     forms::DoEvents();
 }

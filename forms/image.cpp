@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QPointer>
 
+#include <utility>
+
 namespace forms {
 
 Image::Image(QWidget *parent)
@@ -67,9 +69,9 @@ void Image::keyPressEvent(QKeyEvent *event)
         return;
     }
     event->accept();
-    if (event->isAutoRepeat() || m_held)
+    if (event->isAutoRepeat() || m_held != 0)
         return;
-    m_held = true;
+    m_held = LeftButton;
     MouseDown.raise(Mouse { LeftButton });
 }
 
@@ -80,11 +82,10 @@ void Image::keyReleaseEvent(QKeyEvent *event)
         return;
     }
     event->accept();
-    if (event->isAutoRepeat() || !m_held)
+    if (event->isAutoRepeat() || m_held == 0)
         return;
-    m_held = false;
     const QPointer<QObject> self(this);
-    MouseUp.raise(Mouse { LeftButton });
+    letGo();
     if (self)
         Click.raise();
 }
@@ -92,10 +93,38 @@ void Image::keyReleaseEvent(QKeyEvent *event)
 void Image::focusOutEvent(QFocusEvent *event)
 {
     Control::focusOutEvent(event);
-    if (!m_held)
-        return;
-    m_held = false;
-    MouseUp.raise(Mouse { LeftButton });
+    if (event->reason() != Qt::PopupFocusReason)
+        letGo();
+}
+
+void Image::mousePressEvent(QMouseEvent *event)
+{
+    m_held = mouseOf(*event).button;
+    Control::mousePressEvent(event);
+}
+
+void Image::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_held = 0;
+    Control::mouseReleaseEvent(event);
+}
+
+bool Image::event(QEvent *event)
+{
+    const bool shutOff = event->type() == QEvent::Hide || event->type() == QEvent::WindowBlocked
+        || (event->type() == QEvent::EnabledChange && !isEnabled());
+    const QPointer<QObject> self(this);
+    const bool taken = Control::event(event);
+    if (self && shutOff)
+        letGo();
+    return taken;
+}
+
+void Image::letGo()
+{
+    const int button = std::exchange(m_held, 0);
+    if (button != 0)
+        MouseUp.raise(Mouse { button });
 }
 
 } // namespace forms

@@ -10,7 +10,8 @@ namespace forms {
 
 // Also a container: a television set is an image with controls in it. A click gives it the focus only where
 // the screen sets a focus policy. One that takes the focus by Tab shows it, and Space is the press and the
-// release of the left button.
+// release of the left button. Hidden, disabled or shut off by a modal window under a held button, it raises
+// the release at once: the real one goes elsewhere.
 class Image : public Control<QWidget> {
 public:
     explicit Image(QWidget *parent);
@@ -25,11 +26,15 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
+    void letGo();
     bool isSpace(const QKeyEvent &event) const;
 
-    bool m_held = false; // by Space
+    int m_held = 0; // the button that is pressed on it, by the mouse or by Space; 0: none
     QPixmap m_picture;
     QString m_artwork;
     bool m_border = false;

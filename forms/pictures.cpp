@@ -43,8 +43,10 @@ QPixmap draw(const QString &file, const QSize &size, qreal devicePixelRatio)
 
 QPixmap LoadPicture(const QString &path)
 {
+    constexpr qint64 MostBytes = 64 << 20; // no capture is larger, and a huge file would hold up the screen
     QPixmap picture;
-    if (!picture.loadFromData(host::readBytes(path)))
+    const QByteArray bytes = host::readBytes(path, MostBytes + 1);
+    if (bytes.size() > MostBytes || !picture.loadFromData(bytes))
         throw host::Failure(host::InvalidPicture, u"load a picture"_s, path);
     return picture;
 }

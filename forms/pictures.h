@@ -7,7 +7,7 @@
 namespace forms {
 
 // A picture file, found in any case. Fails with 53 if it is missing, 481 if it is no picture that can be
-// read.
+// read, or one of more than 64 MB.
 QPixmap LoadPicture(const QString &path);
 
 // The artwork of this name (":/artwork/<name>.svg") at the size given in design pixels, drawn for the device

@@ -62,6 +62,13 @@ void deletePlainFile(const Descriptor &directory, const QByteArray &name)
 
 } // namespace
 
+bool exists(const QString &path)
+{
+    struct stat status;
+    const QByteArray found = findOnDisk(path);
+    return !found.isEmpty() && stat(found.constData(), &status) == 0;
+}
+
 int attributes(const QString &path)
 {
     const QByteArray found = withoutClosing(findOnDisk(path));

@@ -48,6 +48,9 @@ QString directoryPath(const QString &path);
 // is the path's own file. A component ".." stays, a "." goes.
 QString GetShortPathNameA(const QString &path);
 
+// Whether there is such a path; a link that leads nowhere is none.
+bool exists(const QString &path);
+
 // Attributes of an existing path: 16 a directory (a link to one is none), 1 added where the owner can't
 // write, 2 added for a hidden name. Fails with 53 if there is no such path, or only a link that leads
 // nowhere.

@@ -128,12 +128,12 @@ void Replacement::makeScratch()
 {
     const int directory = m_directory.number();
     if (unlinkat(directory, m_scratchName.constData(), 0) != 0 && errno != ENOENT)
-        fail(u"remove a left-over scratch file"_s);
+        failIn(u"remove a left-over scratch file"_s);
     const int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     m_scratch =
         Descriptor(openat(directory, m_scratchName.constData(), flags, m_old ? ScratchMode : NewFileMode));
     if (!m_scratch.isOpen())
-        fail(u"make the scratch file"_s);
+        failIn(u"make the scratch file"_s);
     m_scratchStands = true;
 }
 
@@ -164,6 +164,12 @@ void Replacement::keepOwnerAndMode()
     if ((fresh.st_mode & 07777) != (m_old->st_mode & 07777) && fchmod(file, m_old->st_mode & 07777) != 0
         && !isBeyondUs(errno))
         fail(u"keep the mode of a file"_s);
+}
+
+void Replacement::failIn(const QString &operation) const
+{
+    const bool forbidden = errno == EACCES || errno == EPERM || errno == EROFS;
+    fail(forbidden ? u"write beside a file, where writing isn't allowed"_s : operation);
 }
 
 void Replacement::fail(const QString &operation) const

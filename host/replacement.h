@@ -40,6 +40,7 @@ private:
     void writeAll(const QByteArray &bytes);
     void keepOwnerAndMode();
     bool mayBeWritten() const;
+    [[noreturn]] void failIn(const QString &operation) const; // as fail, of the directory in plain words
     [[noreturn]] void fail(const QString &operation) const; // with errno
 
     QString m_path;

@@ -1,9 +1,8 @@
 // The desktop's tools: text editors, terminal, file manager, and what opens a link.
 //
 // Each is found as a command, the program first, by its whole path. A desktop's own tools come ahead of
-// others
-// ($XDG_CURRENT_DESKTOP). An empty command: there is none. Nothing is started here but what openLink hands
-// on.
+// others ($XDG_CURRENT_DESKTOP). An empty command: there is none. Nothing is started here but what openLink
+// hands on.
 #pragma once
 
 #include <QString>

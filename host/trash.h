@@ -6,7 +6,7 @@
 namespace host {
 
 // Moves a file, or a directory with all in it, to the trash of the volume that it lies on (the trash
-// specification of freedesktop.org). The trash directory is made or verified first. False if there is none
+// standard of freedesktop.org). The trash directory is made or verified first. False if there is none
 // for this volume, or the file can't be moved: everything then stays as it was.
 bool moveToTrash(const QString &path);
 

@@ -4,6 +4,7 @@
 
 #include "mainscreen/portada.h"
 
+#include "core/arranque.h"
 #include "core/catalogo.h"
 #include "core/lista.h"
 #include "core/notas.h"
@@ -13,23 +14,11 @@
 #include "host/questions.h"
 #include "host/trash.h"
 
+#include <QFileInfo>
+
 using namespace Qt::StringLiterals;
 
 namespace mainscreen {
-
-namespace {
-
-bool existe(const QString &ruta)
-{
-    try {
-        host::attributes(ruta);
-        return true;
-    } catch (const host::Failure &) {
-        return false;
-    }
-}
-
-} // namespace
 
 void Portada::ConectaAcciones()
 {
@@ -70,8 +59,10 @@ void Portada::Borrar()
     if (M.Nota_CampoTexto.isEmpty())
         return;
     const QString ruta = directorio + M.Nota_CampoTexto;
-    BorrarAPapelera(ruta);
-    if (existe(ruta))
+    const QString enDisco = host::trueSpelling(ruta);
+    BorrarAPapelera(enDisco);
+    // Another file may answer to the name in another case.
+    if (host::exists(ruta) && host::trueSpelling(ruta) == enDisco)
         return;
     Lista1->RemoveItem(indice);
     Lista1->SetListIndex(indice == 0 ? 0 : indice - 1);
@@ -80,8 +71,9 @@ void Portada::Borrar()
 void Portada::BorrarAPapelera(const QString &ruta)
 {
     const core::Palabras &palabras = M.Palabras;
-    const QString pregunta = palabras.Zem_Papelera1 + u"\n\n"_s + M.Nota_CampoTexto;
-    if (!existe(ruta) || !host::questions().askYesNo(palabras.Zem_Papelera0, pregunta))
+    const QString nombre = QFileInfo(ruta).fileName();
+    if (!host::exists(ruta)
+        || !host::questions().askYesNo(palabras.Zem_Papelera0, palabras.Zem_Papelera1 + u"\n\n"_s + nombre))
         return;
     if (!host::moveToTrash(ruta))
         Advierte(palabras.Zem_NoPapelera0, palabras.Zem_NoPapelera1);
@@ -101,6 +93,9 @@ void Portada::Describir()
     M.TipoEmu = core::TipoDe(M.Cat_XDI(Sistema(), Emulador() + 1));
     const int tipo = core::Numero(M.TipoEmu);
     if (!core::FicherosSueltos(tipo) && !core::UnDirectorioPorJuego(tipo) && !core::UnZipPorJuego(tipo))
+        return;
+    // Some names would come back from the file as others.
+    if (!core::SePuedeEscribir(nota < 0 ? core::ClaveNueva(tipo, entrada) : M.Nota_Clave(nota)))
         return;
     GuardaDescripcion(tipo, nota, entrada, descripcion);
 
@@ -128,10 +123,7 @@ void Portada::GuardaDescripcion(int tipo, int nota, const QString &entrada, cons
 void Portada::Menu_Parametros_Click()
 {
     const QString clave = core::ClaveDeParametros(M, Lista1->Text());
-    M.Ficheros.openForInput(1, host::programFile(u"Zembro.rom"_s));
-    host::TextSource notas(M.Ficheros.rest(1));
-    M.Ficheros.closeAll();
-    const QString actuales = core::ParametrosEscritos(notas, clave, Combo1->Text(), Combo2->Text());
+    const QString actuales = LeeParametros(clave);
     Mensaje(1, M.Msg_Parametros1, M.Msg_Parametros0, M.TXT_Aceptar, M.TXT_Volver, actuales);
     if (M.Respuesta_Caja == actuales || M.Respuesta_Opcion == 1)
         return;
@@ -140,6 +132,19 @@ void Portada::Menu_Parametros_Click()
         return actuales.isEmpty() ? core::ConParametrosNuevos(texto, nuevos)
                                   : core::ConParametrosCambiados(texto, nuevos);
     });
+}
+
+QString Portada::LeeParametros(const QString &clave)
+{
+    QString parametros;
+    const QString fichero = host::programFile(u"Zembro.rom"_s);
+    core::LeeFichero(fichero, [&] {
+        M.Ficheros.openForInput(1, fichero);
+        host::TextSource notas(M.Ficheros.rest(1));
+        M.Ficheros.closeAll();
+        parametros = core::ParametrosEscritos(notas, clave, Combo1->Text(), Combo2->Text());
+    });
+    return parametros;
 }
 
 void Portada::ReescribeNotas(const std::function<QString(const QString &)> &cambio)

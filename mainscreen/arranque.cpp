@@ -31,7 +31,7 @@ void Portada::Carga()
     core::CompruebaFicheros();
     LeeConfiguracion();
     Textos();
-    TXT_Boton->SetCaption(u"-----"_s);
+    TXT_Boton->SetCaption(core::SinPalabra);
     if (core::NumeroDeAjuste(M.GuardarUltimo) == 0) {
         M.UltimoSistema = u"0"_s;
         M.UltimoEmulador = QString::number(core::NingunEmulador);
@@ -104,7 +104,7 @@ void Portada::Flecha2_Release()
         M.RestaurarROM = 1;
         Llena_Combos();
         PonInfoRoms(core::ResumenVacio);
-        TXT_Boton->SetCaption(u"-----"_s);
+        TXT_Boton->SetCaption(core::SinPalabra);
         RestauraSeleccion();
         Lista1->SetText(M.ROMGuardada);
     }

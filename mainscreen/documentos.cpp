@@ -24,7 +24,8 @@ namespace {
 // For programs that start in another directory.
 QString absoluta(const QString &ruta)
 {
-    return QFileInfo(host::trueSpelling(ruta)).absoluteFilePath();
+    const QString enDisco = host::trueSpelling(ruta);
+    return QFileInfo(enDisco.isEmpty() ? ruta : enDisco).absoluteFilePath();
 }
 
 // One that is there but fails to start does so in silence.
@@ -106,10 +107,11 @@ void Portada::Edit(const QString &ruta)
 
 void Portada::PrepararEditor()
 {
-    for (QWidget *control : CubiertosPorElEditor())
+    for (QWidget *control : OcultosPorElEditor())
         control->hide();
     forms::move(*Editor, { 120, 1080, 5895, 4035 });
     Editor->raise();
+    DejaElFocoAlEditor(true);
     for (forms::PictureButton *boton : { FlechaE2, Edit2, BlocDeNotas2 })
         boton->show();
 }
@@ -121,18 +123,31 @@ void Portada::RestaurarEditor()
 
 void Portada::FlechaE2_Release()
 {
-    for (QWidget *control : CubiertosPorElEditor())
+    DejaElFocoAlEditor(false);
+    for (QWidget *control : OcultosPorElEditor())
         control->show();
     for (QWidget *control : std::initializer_list<QWidget *> { Editor, FlechaE2, Edit2, BlocDeNotas2 })
         control->hide();
 }
 
-// The frames too, which would stand there cut in half. E1 and what else the Editor lies over stay under it.
-std::vector<QWidget *> Portada::CubiertosPorElEditor() const
+// Labels last: shown again, they grow into the room that the others leave. The frames go too, which would
+// stand there cut in half.
+std::vector<QWidget *> Portada::OcultosPorElEditor() const
 {
-    return { D1, Check1, TXT_dB, TXT_Boton, BotonC2, BotonD2, Boton3b, Boton4b, TXT_Ayuda, TXT_AcercaDe,
-        TXT_VerAyuda, TXT_VerConfig, Flecha2, JugarB1, Menos2b, Boton5b, Boton6b, TXT_Utilidades, TXT_FAQ,
-        Shape1, Shape2 };
+    return { Shape1, Shape2, D1, Check1, BotonC2, BotonD2, Boton3b, Boton4b, Flecha2, JugarB1, Menos2b,
+        Boton5b, Boton6b, TXT_dB, TXT_Boton, TXT_Ayuda, TXT_AcercaDe, TXT_VerAyuda, TXT_VerConfig,
+        TXT_Utilidades, TXT_FAQ };
+}
+
+// What stays under it is out of the keyboard's way meanwhile.
+void Portada::DejaElFocoAlEditor(bool abierto)
+{
+    Lista1->setFocusPolicy(abierto ? Qt::NoFocus : Qt::WheelFocus);
+    for (forms::ComboBox *combo : { Combo1, Combo2 })
+        combo->setFocusPolicy(abierto ? Qt::NoFocus : Qt::StrongFocus);
+    for (QWidget *control :
+        std::initializer_list<QWidget *> { BotonA2, BotonB2, Menos2a, Boton1b, Boton2b, E1, Graf_Imagen })
+        control->setFocusPolicy(abierto ? Qt::NoFocus : Qt::TabFocus);
 }
 
 void Portada::AbreEnEditor(const QStringList &orden, const QString &falta)
@@ -145,7 +160,7 @@ void Portada::AbreEnEditor(const QStringList &orden, const QString &falta)
 
 void Portada::MuestraTextoPropio(const QString &fichero)
 {
-    EsperaHerramienta(host::editorCommand(host::programFile(fichero)), M.Palabras.Zem_FaltaEditor);
+    EsperaHerramienta(host::editorCommand(absoluta(host::programFile(fichero))), M.Palabras.Zem_FaltaEditor);
 }
 
 void Portada::E1_Release()

@@ -30,6 +30,12 @@ Portada::Portada(core::Modulo &modulo)
     ConectaTeclado();
 }
 
+Portada::~Portada()
+{
+    // What its controls raise when they are hidden still finds the members.
+    hide();
+}
+
 void Portada::Mensaje(int Tipo, const QString &mensaje, const QString &TituloVentana, const QString &Boton1,
     const QString &Boton2, const QString &MeterEnCajaDeTexto)
 {

@@ -33,6 +33,7 @@ class Portada : public forms::Form, private launch::Pantalla {
 public:
     // Builds the screen and wires its topics; Carga brings it to life.
     explicit Portada(core::Modulo &modulo);
+    ~Portada() override;
 
     // The start of the program, up to a listed ROM. Has no failure handler: what fails here ends the process.
     void Carga();
@@ -177,6 +178,7 @@ private:
     void BorrarAPapelera(const QString &ruta);
     void GuardaDescripcion(int tipo, int nota, const QString &entrada, const QString &descripcion);
     void Menu_Parametros_Click();
+    QString LeeParametros(const QString &clave);
     void ReescribeNotas(const std::function<QString(const QString &)> &cambio);
 
     // Documents.
@@ -186,7 +188,8 @@ private:
     void NoHayDocumento(const QString &titulo, const QString &texto);
     void MuestraDocumento(const QString &ruta, const std::function<void()> &prepara);
     void FlechaE2_Release();
-    std::vector<QWidget *> CubiertosPorElEditor() const;
+    std::vector<QWidget *> OcultosPorElEditor() const;
+    void DejaElFocoAlEditor(bool abierto);
     void AbreEnEditor(const QStringList &orden, const QString &falta);
     void MuestraTextoPropio(const QString &fichero);
     void E1_Release();

@@ -34,7 +34,7 @@ QPixmap hojaDelConsejo(const QWidget &consejo)
 void Portada::ConectaSuperficie()
 {
     for (forms::PictureButton *boton : { JugarB1, BotonA2, BotonB2, BotonC2, BotonD2, Boton1b, Boton2b,
-             Boton3b, Boton4b, Boton5b, Boton6b, FlechaE2, Edit2, BlocDeNotas2 })
+             Boton3b, Boton4b, Boton5b, Boton6b, FlechaE2 })
         boton->Press = [this] { Lista1->setFocus(); };
     Menos2b->Press = [this] { Combo2->setFocus(); };
 
@@ -43,6 +43,8 @@ void Portada::ConectaSuperficie()
     for (forms::Image *imagen : { Graf_TV, Graf_Imagen })
         imagen->MouseMove = escondeConsejo;
     Lista1->MouseMove = [this](const forms::Mouse &raton) { Lista1_MouseMove(raton); };
+    // The tip stays while the pointer rests on it: the move isn't the screen's.
+    IMGDescripcionLarga->MouseMove = [](const forms::Mouse &) {};
     IMGDescripcionLarga->Click = [this] { IMGDescripcionLarga_Click(); };
 
     Lista1->MouseDown = [this](const forms::Mouse &raton) { Lista1_MouseDown(raton.button); };
@@ -143,6 +145,8 @@ void Portada::WEB2_MouseUp()
 
 void Portada::AbreWeb(const QString &linea, const QString &titulo, const QString &texto)
 {
+    if (linea.size() < core::PrefijoParametro)
+        throw host::Failure(host::InvalidArgument, QStringLiteral("take the address out of a line"), linea);
     const QString direccion = core::Valor(linea, core::PrefijoParametro);
     if (direccion.isEmpty()) {
         Aviso(titulo, texto);

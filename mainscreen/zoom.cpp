@@ -90,6 +90,7 @@ void Portada::Menu_OFF_Click()
 void Portada::ApagaTelevisor()
 {
     M.ZoomActual = 0;
+    Aumento.hide(); // hidden under the held button, the capture would never see the release
     Boton->hide();
     BotonABJ->show();
     BotonARR->show();

@@ -57,6 +57,8 @@ void PrimeraInstalacion::Monta()
     Aceptar2->SetPlace({ 1800, 960, 465, 405 });
     TXT_Aceptar = etiqueta(
         this, u"TXT_Aceptar"_s, { 1875, 1440, 255, 210 }, u"OK"_s, QColor(192, 255, 192), Qt::AlignHCenter);
+    Aceptar2->setAccessibleName(TXT_Aceptar->Caption());
+    List1->setAccessibleName(Label1->Caption());
     Label6 = etiqueta(this, u"Label6"_s, { 170, 1800, 2430, 255 }, u"Lng: Español - Autor: Dorvel"_s,
         QColor(128, 255, 128), Qt::AlignHCenter);
 }

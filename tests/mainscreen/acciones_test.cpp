@@ -127,7 +127,7 @@ TEST_F(AccionesTest, ROMWithANoteIsFoundByItsKeyAndTheNotesStay)
     questions.yesNo = { true };
     clickRow(list(), 0);
     discard();
-    EXPECT_THAT(questions.asked, ElementsAre(u"Papelera"_s, u"¿Mover a la papelera?\n\nONE.NES"_s));
+    EXPECT_THAT(questions.asked, ElementsAre(u"Papelera"_s, u"¿Mover a la papelera?\n\none.nes"_s));
     EXPECT_THAT(trashed(), ElementsAre(u"one.nes"_s));
     EXPECT_EQ(notes(), before);
     EXPECT_EQ(M->Nota_Texto(0), u"Juego uno"_s);
@@ -442,5 +442,95 @@ TEST_F(AccionesTest, ParametersWithoutTheirSectionAreFatal)
     const auto end = endOf([&] { parametersMenu(); });
     ASSERT_TRUE(end);
     EXPECT_EQ(end->status, 1);
+    EXPECT_TRUE(end->text.contains(u"Zembro.rom"_s));
     EXPECT_EQ(files.read(u"Zembro.rom"_s), "Zeta\r\n'\r\n");
+}
+
+TEST_F(AccionesTest, EntryWithoutANameNeverThrowsTheDirectoryAway)
+{
+    startAt(Zeta, 0);
+    list().AddItem({});
+    list().SetText({});
+    ASSERT_EQ(list().ListIndex(), 2);
+    discard();
+    EXPECT_TRUE(files.exists(u"zeta/one.nes"_s));
+    EXPECT_EQ(list().ListCount(), 3);
+}
+
+TEST_F(AccionesTest, OfTwoNamesThatDifferInCaseTheOneAskedAboutGoes)
+{
+    files.write(u"zeta/TWO.NES"_s, "upper");
+    startAt(Zeta, 0);
+    ASSERT_THAT(listed(), ElementsAre(u"Juego uno"_s, u"TWO.NES"_s, u"two.nes"_s));
+    clickRow(list(), 2);
+    questions.yesNo = { true };
+    discard();
+    EXPECT_THAT(questions.asked, ElementsAre(u"Papelera"_s, u"¿Mover a la papelera?\n\ntwo.nes"_s));
+    EXPECT_TRUE(files.exists(u"zeta/TWO.NES"_s));
+    EXPECT_FALSE(files.exists(u"zeta/two.nes"_s));
+    EXPECT_THAT(listed(), ElementsAre(u"Juego uno"_s, u"TWO.NES"_s));
+}
+
+TEST_F(AccionesTest, EntryGoesWhereItsWholeDirectoryIsGone)
+{
+    startAt(Zeta, 0);
+    files.remove(u"zeta"_s);
+    discard();
+    EXPECT_THAT(listed(), ElementsAre(u"two.nes"_s));
+}
+
+TEST_F(AccionesTest, NameThatWouldNotComeBackFromTheFileIsNotDescribed)
+{
+    files.writeSize(u"zeta/\"a\".nes"_s, 10);
+    startAt(Zeta, 0);
+    addWords();
+    const QByteArray before = notes();
+    list().SetText(u"\"a\".nes"_s);
+    answer(
+        u"Text"_s, [&] { describe(); }, u"\"a\".nes"_s);
+    EXPECT_EQ(notes(), before);
+    EXPECT_TRUE(listed().contains(u"\"a\".nes"_s));
+}
+
+TEST_F(AccionesTest, BoxOfTheParametersHasItsWords)
+{
+    startAt(Zeta, 0);
+    addWords();
+    bool shown = false;
+    atModal(u"Caja"_s, [&](forms::Form &form) {
+        shown = true;
+        EXPECT_EQ(form.Caption(), u"Parámetros"_s);
+        EXPECT_EQ(controlOf<forms::Label>(form, u"Texto1"_s).Caption(), u"Añade:"_s);
+        EXPECT_EQ(controlOf<forms::Label>(form, u"TXT_Aceptar"_s).Caption(), u"Aceptar"_s);
+        EXPECT_EQ(controlOf<forms::Label>(form, u"TXT_Volver"_s).Caption(), u"Volver"_s);
+        click(controlOf<QWidget>(form, u"Flecha2"_s));
+    });
+    parametersMenu();
+    EXPECT_TRUE(shown);
+}
+
+TEST_F(AccionesTest, ParametersThatCannotBeWrittenAreFatalAndLoseNothing)
+{
+    startAt(Zeta, 0);
+    addWords();
+    const QByteArray before = notes();
+    files.makeDirectory(u"Zembro.tmp"_s);
+    const auto end = endOf([&] {
+        answer(
+            u"-x"_s, [&] { parametersMenu(); }, u""_s);
+    });
+    ASSERT_TRUE(end);
+    EXPECT_EQ(end->status, 1);
+    EXPECT_TRUE(end->text.contains(u"Zembro.rom"_s));
+    EXPECT_EQ(notes(), before);
+}
+
+TEST_F(AccionesTest, ParametersWithoutASelectionHaveAnEmptyKey)
+{
+    startAt(Zeta, 0);
+    addWords();
+    list().SetListIndex(-1);
+    answer(
+        u"-x"_s, [&] { portada->Menu_Parametros->Click.raise(); }, u""_s);
+    EXPECT_TRUE(notes().contains("Parametros especificos\r\n,Zeta,Uno,-x\r\n"));
 }

@@ -166,10 +166,47 @@ TEST_F(SuperficieTest, RightButtonOpensTheListsMenuAndSelectsNothing)
 TEST_F(SuperficieTest, RightButtonOnAListWithoutSelectionOpensNoMenuButOnATipItDoes)
 {
     startWithLongNames();
-    hover(0);
     list().SetListIndex(-1);
     EXPECT_FALSE(popsUp(*portada->Menu_Lista1, [&] { clickAt(list(), QPoint(20, 150), Qt::RightButton); }));
-    EXPECT_TRUE(popsUp(*portada->Menu_Lista1, [&] { click(tip(), Qt::RightButton); }));
+    hover(0);
+    EXPECT_TRUE(popsUp(*portada->Menu_Lista1, [&] { clickAt(tip(), QPoint(8, 5), Qt::RightButton); }));
+}
+
+TEST_F(SuperficieTest, MenuOpenedOverAnotherEntryActsOnTheSelection)
+{
+    startAt(Zeta, 0);
+    clickRow(list(), 0);
+    questions.yesNo = { false };
+    EXPECT_TRUE(popsUp(
+        *portada->Menu_Lista1, [&] { clickRow(list(), 1, Qt::RightButton); },
+        portada->Menu_Borrar->action()));
+    EXPECT_THAT(questions.asked, ElementsAre(u"Papelera"_s, u"¿Mover a la papelera?\n\none.nes"_s));
+}
+
+TEST_F(SuperficieTest, RightButtonOnWhatStandsInTheSetOpensNoMenu)
+{
+    const Browser browser;
+    startAt(Zeta, 0);
+    M->Cat_WEB1(0) = u"WEB1=http://a.example/"_s;
+    for (const QString &name : { u"WEB1"_s, u"TXT_Info"_s, u"Boton"_s, u"X5"_s })
+        EXPECT_FALSE(popsUp(*portada->Menu_Graf_Imagen, [&] { click(control(name), Qt::RightButton); }))
+            << name.toStdString();
+}
+
+TEST_F(SuperficieTest, WebLinkYieldsOnceAheadOfOpening)
+{
+    const Browser browser;
+    startAt(Zeta, 0);
+    M->Cat_WEB1(0) = u"WEB1=http://a.example/"_s;
+    bool yielded = false;
+    press(control(u"WEB1"_s));
+    QTimer::singleShot(0, portada.get(), [&] {
+        yielded = true;
+        EXPECT_TRUE(browser.opened.isEmpty());
+    });
+    release(control(u"WEB1"_s));
+    EXPECT_TRUE(yielded);
+    EXPECT_EQ(browser.opened.size(), 1);
 }
 
 TEST_F(SuperficieTest, RightButtonOnTheTelevisionOpensTheCapturesMenu)
@@ -344,7 +381,9 @@ TEST_F(SuperficieTest, ControlsAreNamedInTheChosenLanguage)
     EXPECT_EQ(control(u"JugarB1"_s).accessibleName(), u"Jugar"_s);
     for (QWidget *widget : portada->findChildren<QWidget *>()) {
         const bool button = dynamic_cast<forms::PictureButton *>(widget);
-        if (button || (widget->focusPolicy() & Qt::TabFocus)) {
+        const bool child = widget->parentWidget() == portada.get() || widget->objectName() == u"Graf_Imagen";
+        const bool retired = widget->objectName() == u"File1" || widget->objectName() == u"Dir1";
+        if (child && !retired && (button || (widget->focusPolicy() & Qt::TabFocus))) {
             EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
         }
     }

@@ -259,3 +259,40 @@ TEST_F(ZoomTest, GlassGoesWithTheFocusWhileSpaceIsHeld)
     EXPECT_FALSE(zooms());
     QTest::keyRelease(portada->windowHandle(), Qt::Key_Space);
 }
+
+TEST_F(ZoomTest, GlassGoesWhereTheReleaseCannotCome)
+{
+    startWithCapture();
+    press(picture());
+    ASSERT_TRUE(zooms());
+    strike(*portada, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_FALSE(zooms());
+    release(picture());
+
+    click(control(u"X2"_s));
+    for (const auto &away : std::initializer_list<std::function<void()>> {
+             [&] { picture().setEnabled(false); }, [&] { picture().hide(); },
+             [&] {
+                 QEvent blocked(QEvent::WindowBlocked);
+                 QApplication::sendEvent(&picture(), &blocked);
+             } }) {
+        picture().setEnabled(true);
+        picture().show();
+        press(picture());
+        ASSERT_TRUE(zooms());
+        away();
+        EXPECT_FALSE(zooms());
+        release(*portada);
+    }
+}
+
+TEST_F(ZoomTest, FormOfTheGlassHasItsDesign)
+{
+    const forms::Image &image = *portada->Aumento.Imagen;
+    const forms::Image &black = *portada->Aumento.Negro;
+    EXPECT_EQ(portada->Aumento.palette().color(QPalette::Window), QColor(Qt::black));
+    EXPECT_TRUE(portada->Aumento.windowFlags() & Qt::FramelessWindowHint);
+    EXPECT_EQ(image.geometry(), forms::inPixels({ 0, 0, 3135, 2775 }));
+    EXPECT_EQ(black.geometry(), forms::inPixels({ 0, 4560, 3135, 2775 }));
+    EXPECT_EQ(black.Picture().toImage().pixelColor(10, 10), QColor(Qt::black));
+}

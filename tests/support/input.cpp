@@ -138,9 +138,14 @@ bool popsUp(QMenu &menu, const std::function<void()> &open, QAction *entry)
     bool shown = false;
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, &menu, [&] {
-        if (QApplication::activePopupWidget() != &menu)
+        QWidget *popup = QApplication::activePopupWidget();
+        if (!popup)
             return;
         watch.stop();
+        if (popup != &menu) {
+            popup->close();
+            return;
+        }
         shown = true;
         // The press that opened it is over for the user, and so it is for the box that an entry may show.
         QTest::mouseRelease(windowOf(menu), Qt::RightButton, {}, QPoint(-1, -1));
