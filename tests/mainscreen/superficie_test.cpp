@@ -25,6 +25,8 @@ protected:
         for (const QString &text : { Long, u"short"_s, u"Another "_s + Long })
             list().AddItem(text);
         list().SetListIndex(1);
+        // A pointer that stands where the last test left it doesn't move.
+        moveTo(*portada, QPoint(2, 2));
     }
     QPoint pointOfRow(int row)
     {
