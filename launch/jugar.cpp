@@ -55,7 +55,7 @@ private:
 
     QString LeeCatalogo(const Tabla &tabla, int prefijo) const;
     QStringList Extensiones() const;
-    QStringList Desempaqueta(const QString &ArchivoZip, const QString &DirectorioDestino);
+    QStringList Desempaqueta(const Ruta &ArchivoZip, const QString &DirectorioDestino);
     void Corre(Caso caso);
 
     core::Modulo &M;
@@ -161,7 +161,7 @@ std::optional<QString> Lanzamiento::FicheroDelZip(const QString &carpeta)
 {
     if (!EsDirectorioPropio(carpeta))
         return std::nullopt;
-    const QStringList miembros = Desempaqueta(m_piezas.RomDir.texto + m_piezas.RomCorto.texto, carpeta);
+    const QStringList miembros = Desempaqueta(m_piezas.RomDir + m_piezas.RomCorto, carpeta);
     M.RutaTrabajo = carpeta + u'/';
     QStringList enCarpeta;
     Intenta([&] { enCarpeta = host::listPlainFiles(carpeta); });
@@ -171,14 +171,11 @@ std::optional<QString> Lanzamiento::FicheroDelZip(const QString &carpeta)
 
 void Lanzamiento::Tipo2()
 {
-    const bool porNota = m_via == Via::Nota;
-    const QString Carpeta = porNota ? m_piezas.RomCorto.texto : m_piezas.RomBase;
-    const CarpetaDeJuego carpeta(m_piezas.programa.ExeDir, Carpeta);
+    const QString Carpeta = m_via == Via::Nota ? m_piezas.RomCorto.texto : m_piezas.RomBase;
+    const CarpetaDeJuego carpeta(m_piezas.programa.ExeDir.enDisco, Carpeta);
     QStringList desempaquetados;
-    if (!carpeta.Ruta().isEmpty()) {
-        const QString extension = porNota ? u".zip"_s : u".zip "_s;
-        desempaquetados = Desempaqueta(m_piezas.RomDir.texto + Carpeta + extension, carpeta.Ruta());
-    }
+    if (!carpeta.Ruta().isEmpty())
+        desempaquetados = Desempaqueta(ArchivoZipDe(m_via, m_piezas), carpeta.Ruta());
     Corre(Caso::Comprimido);
     carpeta.Limpia(desempaquetados);
 }
@@ -207,17 +204,18 @@ QStringList Lanzamiento::Extensiones() const
     return extensiones;
 }
 
-QStringList Lanzamiento::Desempaqueta(const QString &ArchivoZip, const QString &DirectorioDestino)
+// Read by the disk's own spelling: a short name can't be looked up where the directory can't be listed.
+QStringList Lanzamiento::Desempaqueta(const Ruta &ArchivoZip, const QString &DirectorioDestino)
 {
-    M.ArchivoZip = ArchivoZip;
+    M.ArchivoZip = ArchivoZip.texto;
     M.DirectorioDestino = DirectorioDestino;
-    return Descomprimir(M.ArchivoZip, M.DirectorioDestino).ficheros;
+    return Descomprimir(ArchivoZip.enDisco, M.DirectorioDestino).ficheros;
 }
 
 void Lanzamiento::Corre(Caso caso)
 {
     // From another directory a bare name would lead to another program.
-    if (!Intenta([&] { host::changeDirectory(m_piezas.programa.ExeDir); }))
+    if (!Intenta([&] { host::changeDirectory(m_piezas.programa.ExeDir.enDisco); }))
         m_piezas.programa.ExeNombre.enDisco = m_piezas.programa.ExeCorto.enDisco;
     const LineaDeOrden orden = Compone(caso, m_via, m_piezas);
     if (core::NumeroDeAjuste(M.DebugMode) == 1)
@@ -244,7 +242,9 @@ void Jugar(core::Modulo &M, Pantalla &pantalla)
         return;
     const int sistema = pantalla.Sistema();
     const int fila = pantalla.Emulador() + 1;
-    M.TipoEmu = core::TipoDe(M.Cat_XDI(sistema, fila));
+    // A row that the table doesn't have gives no type, and then nothing starts.
+    M.TipoEmu.clear();
+    Intenta([&] { M.TipoEmu = core::TipoDe(M.Cat_XDI(sistema, fila)); });
     const int tipo = core::Numero(M.TipoEmu);
     if (tipo < 5 && pantalla.EntradasLista1() == 0)
         return;

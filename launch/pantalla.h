@@ -12,7 +12,6 @@ public:
 
     // The selection. The numbers are those that the entries carry: system index, emulator index minus 1;
     // they fail with 380 where nothing is selected.
-    virtual QString TextoCombo1() const = 0;
     virtual QString TextoCombo2() const = 0;
     virtual int Sistema() const = 0;
     virtual int Emulador() const = 0;

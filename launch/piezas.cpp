@@ -23,6 +23,11 @@ QString nombreDe(const QString &ruta)
     return ruta.sliced(ruta.lastIndexOf(u'/') + 1);
 }
 
+QString directorioDe(const QString &ruta)
+{
+    return ruta.first(ruta.lastIndexOf(u'/') + 1);
+}
+
 Ruta nombreDe(const Ruta &ruta)
 {
     return { nombreDe(ruta.texto), nombreDe(ruta.enDisco) };
@@ -98,10 +103,15 @@ LineaDeOrden neoRagePorNota(const Piezas &p)
 
 } // namespace
 
+Ruta operator+(const Ruta &directorio, const Ruta &nombre)
+{
+    return { directorio.texto + nombre.texto, directorio.enDisco + nombre.enDisco };
+}
+
 Programa ProgramaDe(const QString &exe)
 {
     const Ruta corta = rutaCorta(exe);
-    return { corta, nombreDe(corta), corta.texto.first(corta.texto.lastIndexOf(u'/') + 1) };
+    return { corta, nombreDe(corta), { directorioDe(corta.texto), directorioDe(corta.enDisco) } };
 }
 
 QString TituloDe(const QString &ExeNombre)
@@ -125,10 +135,21 @@ QString RomBaseDe(const QString &RomCorto)
     return RomCorto.first(qMax(RomCorto.indexOf(u'.'), 0));
 }
 
+Ruta ArchivoZipDe(Via via, const Piezas &p)
+{
+    const bool porNota = via == Via::Nota;
+    const QString nombre = (porNota ? p.RomCorto.texto : p.RomBase) + u".zip"_s;
+    // By file name the entry may be another file than the archive of its base.
+    const bool deLaEntrada = porNota || nombre == p.RomCorto.texto;
+    const QString final = porNota ? QString() : u" "_s;
+    return { p.RomDir.texto + nombre + final,
+        p.RomDir.enDisco + (deLaEntrada ? p.RomCorto.enDisco : nombre) + final };
+}
+
 LineaDeOrden Compone(Caso caso, Via via, const Piezas &p)
 {
     const bool porNota = via == Via::Nota;
-    const Ruta entera { p.RomDir.texto + p.RomCorto.texto, p.RomDir.enDisco + p.RomCorto.enDisco };
+    const Ruta entera = p.RomDir + p.RomCorto;
     switch (caso) {
     case Caso::SoloExe:
         return soloExe(p);

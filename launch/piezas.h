@@ -15,11 +15,13 @@ struct Ruta {
     QString enDisco;
 };
 
+Ruta operator+(const Ruta &directorio, const Ruta &nombre);
+
 // The emulator's executable. All empty if there is no such file.
 struct Programa {
     Ruta ExeCorto;
     Ruta ExeNombre;
-    QString ExeDir; // with its closing separator
+    Ruta ExeDir; // with its closing separator
 };
 
 Programa ProgramaDe(const QString &exe);
@@ -61,6 +63,9 @@ struct Piezas {
     QString RomBase;
     Ruta Desempaquetada; // the path of the file out of a ZIP
 };
+
+// The archive of a game of type 2; by file name a blank closes its name.
+Ruta ArchivoZipDe(Via via, const Piezas &piezas);
 
 // The uneven blanks, the bare program name and the missing ones are meant: catalogues were written against
 // them.

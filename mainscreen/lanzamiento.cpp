@@ -38,11 +38,6 @@ void Portada::Jugar()
     launch::Jugar(M, *this);
 }
 
-QString Portada::TextoCombo1() const
-{
-    return Combo1->Text();
-}
-
 QString Portada::TextoCombo2() const
 {
     return Combo2->Text();

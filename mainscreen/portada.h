@@ -157,7 +157,6 @@ private:
     void PonLupa();
 
     // Launching: what the pipeline asks of the screen.
-    QString TextoCombo1() const override;
     QString TextoCombo2() const override;
     int Sistema() const override;
     int Emulador() const override;

@@ -37,6 +37,8 @@ host::Questions::Answer Respuestas::askYesNoCancel(const QString &title, const Q
         ADD_FAILURE() << "an unexpected question: " << text.toStdString();
         return Answer::Cancel;
     }
+    if (alDecir)
+        alDecir();
     return sobreescribir.takeFirst();
 }
 

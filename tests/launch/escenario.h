@@ -24,7 +24,7 @@ public:
     QList<Answer> sobreescribir;
     QStringList preguntas; // what was asked: the prompt, or title and text
     QStringList dichos; // what was told, likewise
-    std::function<void()> alDecir; // while the box is up
+    std::function<void()> alDecir; // while a box is up
 
     QString askText(const QString &prompt) override;
     Answer askYesNoCancel(const QString &title, const QString &text) override;
@@ -40,15 +40,15 @@ public:
     QString combo2 = QStringLiteral("Emu");
     QString lista1 = QStringLiteral("mario.nes");
     int entradas = 1;
+    int emulador = 1;
 
     QStringList llamadas;
     int cesiones = 0;
     std::function<void(const QString &llamada)> enLlamada; // runs inside each call
 
-    QString TextoCombo1() const override { return QStringLiteral("Sys"); }
     QString TextoCombo2() const override { return combo2; }
     int Sistema() const override { return 3; }
-    int Emulador() const override { return 1; }
+    int Emulador() const override { return emulador; }
     int EntradasLista1() const override { return entradas; }
     QString TextoLista1() const override { return lista1; }
     void MuestraCargando() override { anota(QStringLiteral("MuestraCargando")); }

@@ -132,31 +132,6 @@ TEST_P(SoloExe, RunsTheExecutableAloneInItsDirectory)
 
 INSTANTIATE_TEST_SUITE_P(Tipos, SoloExe, testing::Range(5, 9));
 
-// The directory's short name leads nowhere where the one above it can't be listed.
-TEST_P(SoloExe, WhereTheDirectoryIsNotReachedTheTrueProgramStarts_AndNoneOfItsNameElsewhere)
-{
-    PonEmulador(GetParam(), u" -x"_s);
-    makeDirectory("closed");
-    makeDirectory("closed/My Emu");
-    ASSERT_EQ(rename(place("emu/emu.sh").constData(), place("closed/My Emu/emu.sh").constData()), 0);
-    makeFile("program/emu.sh", "#!/bin/sh\ntouch '" + place("out") + "/another'\n");
-    setMode("program/emu.sh", 0755);
-    setMode("closed", 0711);
-    setMode("out", 0777);
-    M.Cat_EXE(3, 2) = u"EXE="_s + path(u"closed/My Emu/emu.sh"_s);
-    M.DebugMode = u"1"_s;
-    const int status = inChildOfOrdinaryUser([this] {
-        Juega();
-        return ordenMostrada() == u"Zembrolix: emu.sh -x" ? 0 : 1;
-    });
-    setMode("closed", 0755);
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(Programa(), place("closed/My Emu/emu.sh"));
-    EXPECT_EQ(Argumentos(), QByteArrayList({ "-x" }));
-    EXPECT_EQ(DirectorioDelJuego(), place("program"));
-    EXPECT_FALSE(exists("out/another"));
-}
-
 TEST_F(JugarTest, Type5WithParametersThatBringNoBlankJoinsThemToTheName_AndFindsNoSuchProgram)
 {
     PonEmulador(5, u"-fast"_s);
@@ -426,6 +401,34 @@ TEST_F(JugarTest, TheCommandIsShownOnce_AfterTheChangeOfDirectoryAndBeforeTheSta
     Juega();
     EXPECT_EQ(respuestas.dichos.size(), 1);
     EXPECT_TRUE(HuboJuego());
+}
+
+TEST_F(JugarTest, TheCommandIsShownInDebugMode1Alone)
+{
+    PonEmulador(0);
+    PonROM("mario.nes");
+    for (const QString &modo : { u"0"_s, u"2"_s, u""_s, u"10"_s, u"-1"_s, u"x"_s }) {
+        M.DebugMode = modo;
+        Juega();
+        EXPECT_EQ(respuestas.dichos, QStringList()) << modo.toStdString();
+        EXPECT_TRUE(HuboJuego());
+        ASSERT_EQ(unlink(place("out/arguments").constData()), 0);
+    }
+}
+
+TEST_F(JugarTest, ARowPastTheTablesHasNoType_AndStartsNothing)
+{
+    PonEmulador(0);
+    PonROM("mario.nes");
+    for (const int emulador : { 150, 151, 4000 }) {
+        pantalla.llamadas.clear();
+        pantalla.emulador = emulador; // the row is one more
+        M.TipoEmu = u"0"_s;
+        Juega();
+        EXPECT_EQ(M.TipoEmu, QString());
+        EXPECT_EQ(pantalla.llamadas, FinalDeSiempre);
+        EXPECT_FALSE(HuboJuego());
+    }
 }
 
 TEST_F(JugarTest, TheWorkingDirectoryStaysTheEmulators)

@@ -129,6 +129,25 @@ TEST_F(Tipo0Test, AFileInASubdirectoryIsNoCandidate)
     esperaSinRoms();
 }
 
+TEST_F(Tipo0Test, TheLastNameEnumeratedIsKept)
+{
+    M.DirActual = u"before"_s;
+    juega({ { "b.nes", "the game" }, { "c.txt" }, { "a.txt" } });
+    EXPECT_EQ(M.DirActual, u"c.txt"_s);
+}
+
+TEST_F(Tipo0Test, AnArchivePlayedAgainAsksForWhatLiesInItsSubdirectory_NamingItWithItsPath)
+{
+    const QList<MiembroZip> miembros = { { "a.nes", "the game" }, { "docs/how.txt" } };
+    juega(miembros);
+    ASSERT_TRUE(exists("tmp/ZB-TMP/docs/how.txt"));
+    respuestas.sobreescribir = { Answer::No };
+    juega(miembros);
+    EXPECT_EQ(respuestas.preguntas,
+        QStringList({ u"VBUnZip32 - File Already Exists!: Overwrite docs/how.txt?"_s }));
+    EXPECT_EQ(Abierto(), "the game");
+}
+
 TEST_F(Tipo0Test, WhatIsNoArchiveEndsInTheMessage)
 {
     PonROM("game.zip", "no archive");
@@ -489,6 +508,15 @@ TEST_F(Tipo2Test, AnUncleanNameIsPlayedByItsShortForm)
         EXPECT_EQ(Anotado("unpacked"), "rom.bin\n");
     }
     EXPECT_FALSE(exists("emu/my_game"));
+}
+
+TEST_F(Tipo2Test, AnEntryThatIsNoArchiveIsPlayedWithTheArchiveOfItsBase)
+{
+    PonROM("mario.nes", "plain");
+    juega(u"mario.nes"_s);
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "mario", "-2" }));
+    EXPECT_EQ(Anotado("unpacked"), "rom1.bin\nrom2.bin\n");
+    EXPECT_EQ(M.ArchivoZip, Corta(u"roms/mario.zip "_s));
 }
 
 TEST_F(Tipo2Test, AKeyThatAlreadyEndsInZipFindsNothing_AndDeletesNothing)

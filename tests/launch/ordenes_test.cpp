@@ -14,7 +14,7 @@ launch::Piezas piezas()
     launch::Piezas p;
     p.programa.ExeCorto = { u"/emu/emu.sh"_s, u"/Emu/Emu.sh"_s };
     p.programa.ExeNombre = { u"emu.sh"_s, u"Emu.sh"_s };
-    p.programa.ExeDir = u"/emu/"_s;
+    p.programa.ExeDir = { u"/emu/"_s, u"/Emu/"_s };
     p.Par1 = u"-1"_s;
     p.Par2 = u"-2"_s;
     p.ParRom = u"-R"_s;

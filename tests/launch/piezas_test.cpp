@@ -19,7 +19,8 @@ TEST_F(PiezasTest, TheProgramIsTheShortPathInLowerCase_AndTheDiskSpellingBesideI
     EXPECT_EQ(p.ExeCorto.enDisco, path(u"emu/My Emus/Super Emu.V2.SH"_s));
     EXPECT_EQ(p.ExeNombre.texto, u"super_emu_v2.sh"_s);
     EXPECT_EQ(p.ExeNombre.enDisco, u"Super Emu.V2.SH"_s);
-    EXPECT_EQ(p.ExeDir, Corta(u"emu/my_emus/"_s));
+    EXPECT_EQ(p.ExeDir.texto, Corta(u"emu/my_emus/"_s));
+    EXPECT_EQ(p.ExeDir.enDisco, path(u"emu/My Emus/"_s));
 }
 
 TEST_F(PiezasTest, TheProgramIsFoundWithBackslashesAndInAnyCase)
@@ -34,7 +35,7 @@ TEST_F(PiezasTest, ARelativeProgramGetsAnAbsolutePath)
     makeFile("program/near.sh");
     const launch::Programa p = launch::ProgramaDe(u"near.sh"_s);
     EXPECT_EQ(p.ExeCorto.enDisco, path(u"program/near.sh"_s));
-    EXPECT_EQ(p.ExeDir, Corta(u"program/"_s));
+    EXPECT_EQ(p.ExeDir.texto, Corta(u"program/"_s));
 }
 
 TEST_F(PiezasTest, AMissingProgramLeavesItsPiecesEmpty)
@@ -44,7 +45,8 @@ TEST_F(PiezasTest, AMissingProgramLeavesItsPiecesEmpty)
         EXPECT_EQ(p.ExeCorto.texto, QString());
         EXPECT_EQ(p.ExeCorto.enDisco, QString());
         EXPECT_EQ(p.ExeNombre.texto, QString());
-        EXPECT_EQ(p.ExeDir, QString());
+        EXPECT_EQ(p.ExeDir.texto, QString());
+        EXPECT_EQ(p.ExeDir.enDisco, QString());
     }
 }
 

@@ -336,6 +336,20 @@ TEST_F(DescomprimirTest, APasswordIsTriedAsOlderSystemsWriteItAndAsThisOneDoes)
     EXPECT_EQ(respuestas.preguntas.size(), 2);
 }
 
+TEST_F(DescomprimirTest, OfAPasswordOnlyTheFirst256BytesCount)
+{
+    const QByteArray larga(256, 'p');
+    makeFile("a.zip", ZipCifrado({ { "a.nes", "secret" } }, larga));
+    respuestas.contraseñas = { QString::fromLatin1(larga) + u"beyond"_s };
+    EXPECT_EQ(descomprimeArchivo(), QStringList({ u"a.nes"_s }));
+    EXPECT_EQ(bytes("to/a.nes"), "secret");
+
+    makeFile("b.zip", ZipCifrado({ { "b.nes", "secret" } }, larga.chopped(1)));
+    respuestas.contraseñas = { QString::fromLatin1(larga), QString::fromLatin1(larga.chopped(1)) };
+    EXPECT_EQ(descomprimeArchivo(u"b.zip"_s), QStringList({ u"b.nes"_s }));
+    EXPECT_EQ(respuestas.preguntas.size(), 3);
+}
+
 TEST_F(DescomprimirTest, AfterAPromptLeftEmptyNothingIsUnpacked_AndNoFurtherPromptComes)
 {
     makeFile("a.zip", ZipCifrado({ { "a.nes" }, { "b.nes" } }, "sesame"));
@@ -409,6 +423,7 @@ TEST_F(DescomprimirTest, NamesThatAreTooLongOrTooDeepLeaveTheOthersAlone)
     descomprime({ { larga }, { larga + "/x.nes" }, { "good.nes" }, { honda }, { "last.nes" } });
     EXPECT_TRUE(exists("to/good.nes"));
     EXPECT_TRUE(exists("to/last.nes"));
+    EXPECT_FALSE(exists("to/d"));
 }
 
 TEST_F(DescomprimirTest, UnpacksThousandsOfMembers)

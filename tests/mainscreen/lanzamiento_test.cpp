@@ -258,6 +258,22 @@ TEST_F(LanzamientoTest, EmulatorWithoutROMsSaysSoAtTheEnd)
     EXPECT_EQ(colour(u"TXT_Info"_s), QColor(Qt::black));
 }
 
+TEST_F(LanzamientoTest, WhereNothingStartsTheLineLosesItsRedAndShowsTheFactsAgain)
+{
+    configure(u"0"_s);
+    startAt(Zeta, 0);
+    ASSERT_EQ(info(), u"ONE.NES 1Kb  [NOR]"_s);
+    files.remove(u"bin/emu"_s);
+    QStringList painted;
+    const Witness paints(control(u"TXT_Info"_s), QEvent::Paint,
+        [&] { painted << colour(u"TXT_Info"_s).name() + u' ' + info(); });
+    click(control(u"JugarB1"_s));
+    EXPECT_THAT(painted, testing::Contains(u"#c00000 CARGANDO"_s));
+    EXPECT_EQ(runs(), 0);
+    EXPECT_EQ(info(), u"ONE.NES 1Kb  [NOR]"_s);
+    EXPECT_EQ(colour(u"TXT_Info"_s), QColor(Qt::black));
+}
+
 TEST_F(LanzamientoTest, ScreenLivesWhileTheEmulatorRuns)
 {
     makeEmulator("touch started\nwhile [ ! -e go ]; do sleep 0.01; done\n");
