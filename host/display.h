@@ -3,8 +3,8 @@
 
 namespace host {
 
-// True if the toolkit will find a display: a Wayland one is named, an X server answers, or the user has
-// chosen another platform of the toolkit. Without one the toolkit would abort.
+// True if the toolkit will find a display: the socket of a Wayland one is there, an X server answers, or the
+// user has chosen another platform of the toolkit. Without one the toolkit would abort.
 bool hasDisplay();
 
 } // namespace host

@@ -5,7 +5,7 @@ set -euo pipefail
 declare -A packages=(
     [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6svg6-dev libarchive-dev libxcb1-dev
              libxcb-ewmh-dev libgraphicsmagick++1-dev dasm"
-    [play]="stella fonts-liberation"
+    [play]="stella fonts-liberation qt6-wayland"
     [screen]="xvfb openbox xdotool x11-utils imagemagick"
     [test]="libgtest-dev libgmock-dev zip"
 )

@@ -51,10 +51,19 @@ protected:
 
 TEST_F(ProgramTest, WithoutADisplayItSaysSoOnTheStandardErrorAndEndsWithStatusOne)
 {
-    for (const QString &display : { QString(), u":4711"_s }) {
+    struct Displays {
+        QString x;
+        QString wayland;
+    };
+    const QString noSocket = m_directory.filePath(u"Zembro.txt"_s);
+    for (const Displays &displays : { Displays { {}, {} }, Displays { u":4711"_s, {} },
+             Displays { {}, u"none"_s }, Displays { u":4711"_s, u"none"_s }, Displays { {}, u"Zembro.txt"_s },
+             Displays { {}, u"/no/such/socket"_s }, Displays { {}, noSocket } }) {
+        SCOPED_TRACE((displays.x + u' ' + displays.wayland).toStdString());
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove(u"WAYLAND_DISPLAY"_s);
-        environment.insert(u"DISPLAY"_s, display);
+        environment.insert(u"XDG_RUNTIME_DIR"_s, m_directory.path());
+        environment.insert(u"WAYLAND_DISPLAY"_s, displays.wayland);
+        environment.insert(u"DISPLAY"_s, displays.x);
         m_process.setProcessEnvironment(environment);
         m_process.start();
         ASSERT_TRUE(m_process.waitForFinished(Patience));
@@ -62,6 +71,19 @@ TEST_F(ProgramTest, WithoutADisplayItSaysSoOnTheStandardErrorAndEndsWithStatusOn
         EXPECT_EQ(m_process.exitCode(), 1);
         EXPECT_EQ(standardError(), u"Zembrolix: there is no display to show the screen on.\n"_s);
     }
+}
+
+TEST_F(ProgramTest, AWaylandDisplayThatIsGoneLeavesTheXServerToIt)
+{
+    ASSERT_TRUE(QFile::remove(m_directory.filePath(u"Zembro.rom"_s)));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"WAYLAND_DISPLAY"_s, u"none"_s);
+    m_process.setProcessEnvironment(environment);
+    m_process.start();
+    host::WindowId box = 0;
+    EXPECT_TRUE(QTest::qWaitFor([&box] { return (box = host::findWindow(u"ERROR"_s)) != 0; }, Patience));
+    host::closeWindow(box);
+    EXPECT_TRUE(m_process.waitForFinished(Patience));
 }
 
 TEST_F(ProgramTest, AMissingFileIsNamedInABoxAndOnTheStandardErrorAndTheStatusIsOne)
