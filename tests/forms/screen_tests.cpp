@@ -1,6 +1,8 @@
 // With a window system and a window manager, and input that comes from outside the process.
 #include "drive.h"
 
+#include "tests/support/devices.h"
+
 #include "forms/combobox.h"
 #include "forms/form.h"
 #include "forms/label.h"
@@ -14,11 +16,9 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
-#include <QWindow>
 
 #include <gmock/gmock.h>
 
@@ -28,44 +28,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
-
-QString outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    EXPECT_TRUE(process.waitForFinished());
-    return QString::fromLocal8Bit(process.readAllStandardOutput());
-}
-
-// Input through the window system, as from the devices; the events wait for the event loop.
-void input(const QString &commands)
-{
-    outputOf(u"xdotool"_s, commands.split(u' '));
-}
-
-// The point by the window that the window system knows: while a window manager takes a window into its frame,
-// the toolkit may have it elsewhere for a moment.
-QString at(const QWidget &widget, const QPoint &point)
-{
-    const QPoint inWindow = widget.mapTo(widget.window(), point);
-    return u"mousemove --window %1 %2 %3"_s.arg(widget.window()->winId()).arg(inWindow.x()).arg(inWindow.y());
-}
-
-QString at(const QWidget &widget)
-{
-    return at(widget, widget.rect().center());
-}
-
-bool comes(const std::function<bool()> &condition)
-{
-    return QTest::qWaitFor(condition, 3000);
-}
-
-// Not isActiveWindow: that is true already of a form over the active one.
-bool hasFocus(const QWidget &window)
-{
-    return QGuiApplication::focusWindow() == window.windowHandle();
-}
 
 // Left, right, top and bottom of the manager's frame, as it tells them.
 QString frameOf(const QWidget &window)
@@ -371,7 +333,7 @@ TEST_F(Screen, AnotherWindowUnderTheHeldButton_DoesNotTakeTheRelease)
     Form zoom(u"Aumento"_s, 3000, 3000, Form::Border::None);
     forms::Label capture(&owner);
     capture.setGeometry(180, 60, 100, 100);
-    capture.MouseDown = [&](const forms::Mouse &) { zoom.ShowModeless(&owner); };
+    capture.MouseDown = [&](const forms::Mouse &) { zoom.ShowAside(owner); };
     capture.MouseUp = [&](const forms::Mouse &) {
         zoom.hide();
         log.push_back("hidden");
