@@ -1,5 +1,6 @@
 #include "forms/application.h"
 
+#include "forms/comboaccess.h"
 #include "forms/guard.h"
 #include "forms/units.h"
 
@@ -62,6 +63,7 @@ Application::Application(int &argc, char **argv)
     : QApplication(argc, argv)
 {
     setLook(*this);
+    TellAssistantsOfCombos();
     setQuitOnLastWindowClosed(false);
 }
 

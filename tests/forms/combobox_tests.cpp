@@ -278,9 +278,35 @@ TEST_F(Combos, AComboDestroyedInItsHandler_IsNotTouchedAnyMore)
     EXPECT_TRUE(victim.isNull());
 }
 
-TEST_F(Combos, AssistivePrograms_SeeACombo)
+TEST_F(Combos, AssistivePrograms_SeeAComboWithItsNameAndItsEntryAsValue)
 {
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(&combo)->role(), QAccessible::ComboBox);
+    combo.setAccessibleName(u"Sistema"_s);
+    combo.Clear();
+    combo.AddItem(u"Amiga"_s);
+    combo.AddItem(u"MSX"_s);
+    combo.SetText(u"MSX"_s);
+    QAccessibleInterface *access = QAccessible::queryAccessibleInterface(&combo);
+    EXPECT_EQ(access->role(), QAccessible::ComboBox);
+    EXPECT_EQ(access->text(QAccessible::Name), u"Sistema"_s);
+    EXPECT_EQ(access->text(QAccessible::Value), u"MSX"_s);
+}
+
+TEST_F(Combos, AssistivePrograms_DropTheListDownAndReachItsEntries)
+{
+    drive::show(form);
+    combo.Clear();
+    combo.AddItem(u"Amiga"_s);
+    QAccessibleInterface *access = QAccessible::queryAccessibleInterface(&combo);
+    ASSERT_EQ(access->childCount(), 1);
+    QAccessibleInterface *list = access->child(0);
+    EXPECT_EQ(access->indexOfChild(list), 0);
+    EXPECT_EQ(list->child(0)->text(QAccessible::Name), u"Amiga"_s);
+    EXPECT_FALSE(access->state().expanded);
+    access->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(combo.view()->isVisible());
+    EXPECT_TRUE(access->state().expanded);
+    access->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_FALSE(combo.view()->isVisible());
 }
 
 } // namespace

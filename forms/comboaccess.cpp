@@ -1,0 +1,72 @@
+#include "forms/comboaccess.h"
+
+#include "forms/combobox.h"
+
+#include <QAbstractItemView>
+#include <QAccessibleWidget>
+
+namespace forms {
+
+namespace {
+
+class ComboAccess final : public QAccessibleWidget {
+public:
+    explicit ComboAccess(ComboBox &combo)
+        : QAccessibleWidget(&combo, QAccessible::ComboBox)
+        , m_combo(combo)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? m_combo.Text() : QAccessibleWidget::text(kind);
+    }
+
+    // The list that drops down.
+    int childCount() const override { return 1; }
+    QAccessibleInterface *child(int index) const override
+    {
+        return index == 0 ? QAccessible::queryAccessibleInterface(m_combo.view()) : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        return child && child->object() == m_combo.view() ? 0 : -1;
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.expandable = true;
+        state.expanded = m_combo.view()->isVisible();
+        return state;
+    }
+
+    QStringList actionNames() const override { return { showMenuAction(), pressAction() }; }
+    void doAction(const QString &action) override
+    {
+        if (!m_combo.isEnabled() || !actionNames().contains(action))
+            return;
+        if (m_combo.view()->isVisible())
+            m_combo.hidePopup();
+        else
+            m_combo.showPopup();
+    }
+
+private:
+    ComboBox &m_combo;
+};
+
+QAccessibleInterface *accessOf(const QString &, QObject *object)
+{
+    auto *combo = dynamic_cast<ComboBox *>(object);
+    return combo ? new ComboAccess(*combo) : nullptr;
+}
+
+} // namespace
+
+void TellAssistantsOfCombos()
+{
+    QAccessible::installFactory(&accessOf);
+}
+
+} // namespace forms
