@@ -7,7 +7,7 @@ declare -A packages=(
              libxcb-ewmh-dev libgraphicsmagick++1-dev dasm"
     [play]="stella fonts-liberation qt6-wayland"
     [screen]="xvfb openbox xdotool x11-utils imagemagick"
-    [test]="libgtest-dev libgmock-dev zip"
+    [test]="libgtest-dev libgmock-dev zip dbus at-spi2-core python3-gi gir1.2-atspi-2.0 weston qt6-wayland"
 )
 
 missing=()
