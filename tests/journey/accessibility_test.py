@@ -73,7 +73,7 @@ def assemble(build, directory, language):
     (directory / "emu" / "readme.txt").write_text(HELP)
     (directory / "games" / "one.nes").write_text("x")
     catalogue = [
-        "' configured", "-Console", "WEB1=", "*.NES", "'", "+Player", "WEB2=", f"EXE={directory}/emu/emu",
+        "' configured", "-Atari 2600", "WEB1=", "*.NES", "'", "+Player", "WEB2=", f"EXE={directory}/emu/emu",
         "XDI=0", f"ROM={directory}/games/", "IMG=", "PAR1=", "PAR2=", "'" + "-" * 70, "[EOF]",
     ]
     settings = ["'"] * 9 + [
