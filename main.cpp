@@ -14,6 +14,7 @@
 
 #include "maintenance/bajas.h"
 
+#include "options/pantallas.h"
 #include "options/primerainstalacion.h"
 
 #include <cstdio>
@@ -39,6 +40,7 @@ int main(int argc, char **argv)
     forms::FormHolder<options::PrimeraInstalacion> primera(
         [&M] { return std::make_unique<options::PrimeraInstalacion>(M); });
     maintenance::Bajas bajas(M, portada);
+    options::Pantallas opciones(M, portada);
     portada.MuestraPrimeraInstalacion = [&primera] { primera.ShowModal(nullptr); };
 
     forms::guarded([&portada] { portada.Carga(); });

@@ -6,6 +6,8 @@
 #include "host/letters.h"
 #include "host/paths.h"
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace core {
@@ -13,6 +15,7 @@ namespace core {
 namespace {
 
 constexpr int PrimeraLineaDeFiltros = 20; // counted from 0
+constexpr int MaxFiltrosEscritos = 101;
 
 // Which line, counted from 0, holds which setting.
 struct LineaDeAjuste {
@@ -68,6 +71,11 @@ QString filtrosEnTexto(const Tabla<QString> &filtros)
     if (texto.size() < 2)
         throw host::Failure(host::InvalidArgument, u"read the [Filters] section"_s);
     return texto.chopped(2);
+}
+
+void reescribe(Modulo &M, const std::function<QString(const QString &)> &cambio)
+{
+    M.Ficheros.rewrite(host::programFile(u"Zembro.cfg"_s), u"Zembro.tmp"_s, cambio);
 }
 
 } // namespace
@@ -163,23 +171,27 @@ QString ConAjuste(const QString &texto, Ajuste ajuste, const QStringList &lineas
         Ajuste ajuste;
         QLatin1StringView detras;
         QLatin1StringView hasta;
+        bool repite; // the line to go on at is copied wherever it stands, and so a second time where all is
     };
     static constexpr Anclas anclas[] = {
-        { Ajuste::UltimaSeleccion, "[General]"_L1, "SaveLastE"_L1 },
-        { Ajuste::GuardarUltimo, "LastEmuUs"_L1, "TypeOfEdi"_L1 },
-        { Ajuste::TypeOfEditor, "SaveLastE"_L1, "MsgEndDOS"_L1 },
-        { Ajuste::MsgEndDOS, "TypeOfEdi"_L1, "LanguageF"_L1 },
-        { Ajuste::LanguageFile, "MsgEndDOS"_L1, "DebugMode"_L1 },
+        { Ajuste::UltimaSeleccion, "[General]"_L1, "SaveLastE"_L1, false },
+        { Ajuste::GuardarUltimo, "LastEmuUs"_L1, "TypeOfEdi"_L1, true },
+        { Ajuste::TypeOfEditor, "SaveLastE"_L1, "MsgEndDOS"_L1, true },
+        { Ajuste::MsgEndDOS, "TypeOfEdi"_L1, "LanguageF"_L1, true },
+        { Ajuste::LanguageFile, "MsgEndDOS"_L1, "DebugMode"_L1, true },
     };
     const Anclas &ancla = anclas[static_cast<int>(ajuste)];
 
     Copia copia;
     bool saltando = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
-        if (linea.linea.startsWith(ancla.hasta))
-            saltando = false;
         if (!saltando)
             copia.Copiar(linea);
+        if (linea.linea.startsWith(ancla.hasta)) {
+            if (saltando || ancla.repite)
+                copia.Copiar(linea);
+            saltando = false;
+        }
         if (linea.linea.startsWith(ancla.detras)) {
             for (const QString &nueva : lineasNuevas)
                 copia.Nueva(nueva);
@@ -193,6 +205,42 @@ QStringList LineasDeUltimaSeleccion(int sistema, int emulador)
 {
     return { u"LastSisUsed = "_s + QString::number(sistema),
         u"LastEmuUsed = "_s + QString::number(emulador) };
+}
+
+QString LineaDeGuardarUltimo(int valor)
+{
+    return u"SaveLastEmu&Sis = "_s + QString::number(valor);
+}
+
+QString LineaDeEditor(int tipo)
+{
+    return u"TypeOfEditor = "_s + QString::number(tipo);
+}
+
+QString LineaDeMsgEndDOS(const QString &texto)
+{
+    return u"MsgEndDOS = "_s + texto;
+}
+
+QString LineaDeIdioma(const QString &fichero)
+{
+    return u"LanguageFile = "_s + host::upper(fichero);
+}
+
+QStringList FiltrosDeTexto(const QString &texto)
+{
+    Tabla<QString> nombres { MaxFiltrosEscritos };
+    int indice = 0;
+    for (const QChar letra : texto) {
+        if (letra == u',')
+            ++indice;
+        else
+            nombres(indice) += letra;
+    }
+    QStringList filtros { nombres(0) };
+    for (int i = 1; i < MaxFiltrosEscritos && !nombres(i).isEmpty(); ++i)
+        filtros << nombres(i);
+    return filtros;
 }
 
 QString ConFiltros(const QString &texto, const QStringList &filtros)
@@ -209,6 +257,16 @@ QString ConFiltros(const QString &texto, const QStringList &filtros)
         break;
     }
     return copia.Texto();
+}
+
+void GuardaAjuste(Modulo &M, Ajuste ajuste, const QStringList &lineasNuevas)
+{
+    reescribe(M, [&](const QString &texto) { return ConAjuste(texto, ajuste, lineasNuevas); });
+}
+
+void GuardaFiltros(Modulo &M, const QStringList &filtros)
+{
+    reescribe(M, [&](const QString &texto) { return ConFiltros(texto, filtros); });
 }
 
 } // namespace core

@@ -28,11 +28,24 @@ QString AjustesPorDefecto(const QString &LanguageFile);
 enum class Ajuste { UltimaSeleccion, GuardarUltimo, TypeOfEditor, MsgEndDOS, LanguageFile };
 
 // The file's text with one setting's lines replaced. Lines behind the change are lost if the key that ends
-// the skipping is missing.
+// the skipping is missing. Of the settings other than the last selection, that key's line comes out twice
+// where nothing is being skipped.
 QString ConAjuste(const QString &texto, Ajuste ajuste, const QStringList &lineasNuevas);
 
-// The new lines of a changed last selection.
+// Rewrites Zembro.cfg with one setting's new lines, or with another [Filters] section.
+void GuardaAjuste(Modulo &M, Ajuste ajuste, const QStringList &lineasNuevas);
+void GuardaFiltros(Modulo &M, const QStringList &filtros);
+
+// The new lines of a changed setting.
 QStringList LineasDeUltimaSeleccion(int sistema, int emulador);
+QString LineaDeGuardarUltimo(int valor);
+QString LineaDeEditor(int tipo);
+QString LineaDeMsgEndDOS(const QString &texto);
+QString LineaDeIdioma(const QString &fichero); // the name in upper case
+
+// The filters of a text that separates them by commas, blanks and all: the first one in any case, then those
+// up to the next empty one. Fails with 9 for a text with a name past the 101st.
+QStringList FiltrosDeTexto(const QString &texto);
 
 // The file's text with another [Filters] section: one line a filter, in upper case, and the file ends behind
 // it.

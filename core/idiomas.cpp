@@ -2,15 +2,47 @@
 
 #include "core/arranque.h"
 
+#include "host/letters.h"
 #include "host/paths.h"
 
 using namespace Qt::StringLiterals;
 
 namespace core {
 
+namespace {
+
+QString directorio()
+{
+    return host::programFile(u"LNG"_s);
+}
+
+QStringList todos()
+{
+    return host::listFiles(directorio(), u"*.lng"_s);
+}
+
+} // namespace
+
 QStringList FicherosDeIdioma()
 {
-    return host::listFiles(host::programFile(u"LNG"_s), u"*.lng"_s).mid(0, MaxIdiomas);
+    return todos().mid(0, MaxIdiomas);
+}
+
+QStringList IdiomasEnMayusculas()
+{
+    if (host::findOnDisk(directorio()).isEmpty())
+        return {};
+    QStringList idiomas = todos();
+    if (idiomas.size() > MaxIdiomas)
+        throw host::Failure(host::OutOfRange, u"list the language files"_s, directorio());
+    for (QString &idioma : idiomas)
+        idioma = host::upper(idioma);
+    return idiomas;
+}
+
+int PosicionDeIdioma(const QStringList &idiomas, const QString &LanguageFile)
+{
+    return int(idiomas.mid(0, MaxIdiomas - 1).indexOf(LanguageFile));
 }
 
 QString CreditoDeIdioma(Modulo &M, const QString &fichero)

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace core {
 
 int Numero(const QString &texto)
@@ -28,6 +30,13 @@ QString TipoDe(const QString &lineaXDI)
 QString Valor(const QString &linea, int prefijo)
 {
     return linea.mid(prefijo);
+}
+
+QString ValorExigido(const QString &linea, int prefijo)
+{
+    if (linea.size() < prefijo)
+        throw host::Failure(host::InvalidArgument, u"read a line of the catalogue"_s, linea);
+    return Valor(linea, prefijo);
 }
 
 } // namespace core

@@ -112,11 +112,11 @@ struct Modulo : TextosIdioma {
     int ExtLargo = 0;
 
     // What stood in the option screens when they were opened.
-    QString TypeOfEditorPrevio;
+    int TypeOfEditorPrevio = 0;
     QString IdiomaPrevio;
-    int IdiomaCambiado = 0;
-    QString GuardarUltimoNuevo;
-    QString FiltrosNuevo;
+    int IdiomaCambiado = 0; // 0 while the lists of the options are being filled: their handlers do nothing
+    bool GuardarUltimoNuevo = false;
+    QString FiltrosNuevo; // the message of the end, in spite of its name
 
     Tabla<QString> ListaLNG { MaxIdiomas };
     core::Palabras Palabras; // of the language, as its file gives them or as they are built in
@@ -142,5 +142,8 @@ QString TipoDe(const QString &lineaXDI);
 
 // What a catalogue line holds behind its prefix of so many characters.
 QString Valor(const QString &linea, int prefijo);
+
+// The same; fails with 5 for a line that is shorter than its prefix.
+QString ValorExigido(const QString &linea, int prefijo);
 
 } // namespace core

@@ -45,6 +45,10 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zem_FlechaE2", &P::Zem_FlechaE2 },
         { u"Zem_Edit2", &P::Zem_Edit2 },
         { u"Zem_BlocNotas2", &P::Zem_BlocNotas2 },
+        { u"Zem_Logotipo", &P::Zem_Logotipo },
+        { u"Zem_Correo", &P::Zem_Correo },
+        { u"Zem_Web", &P::Zem_Web },
+        { u"Zem_Redir", &P::Zem_Redir },
     };
     return claves;
 }

@@ -49,6 +49,12 @@ struct Palabras {
     QString Zem_FlechaE2 = QStringLiteral("Cerrar el texto");
     QString Zem_Edit2 = QStringLiteral("Abrir en el editor del terminal");
     QString Zem_BlocNotas2 = QStringLiteral("Abrir en el editor");
+
+    // Who made the program, and where they are reached.
+    QString Zem_Logotipo = QStringLiteral("Logotipo");
+    QString Zem_Correo = QStringLiteral("Correo de los autores:");
+    QString Zem_Web = QStringLiteral("Página web del programa:");
+    QString Zem_Redir = QStringLiteral("La misma, por otra dirección:");
 };
 
 struct ClaveDePalabra {

@@ -2,7 +2,6 @@
 
 #include "launch/ritmo.h"
 
-#include "host/process.h"
 #include "host/windows.h"
 
 using namespace Qt::StringLiterals;
@@ -21,21 +20,31 @@ void cierraConsola(const core::Modulo &M)
 
 } // namespace
 
-void EsperarEmulador(core::Modulo &M, Pantalla &pantalla, const LineaDeOrden &orden)
+void Vigila(core::Modulo &M, host::Process proceso, const std::function<void(int, int)> &cede,
+    const std::function<void()> &pasada)
 {
-    host::Process proceso = host::Process::start(orden.Argumentos());
     RitmoDeBusqueda ritmo;
     bool terminado = false;
     do {
         terminado = proceso.hasEnded();
-        pantalla.Cede(proceso.endDescriptor(), terminado ? 0 : int(RitmoDeBusqueda::Pausa.count()));
-        pantalla.InfoEnNegro();
-        if (pantalla.EntradasLista1() == 0)
-            pantalla.MuestraNingunaROM();
-        pantalla.LLena_INFO();
+        cede(proceso.endDescriptor(), terminado ? 0 : int(RitmoDeBusqueda::Pausa.count()));
+        pasada();
         if (!M.MsgEndDOS.isEmpty() && ritmo.Toca(std::chrono::steady_clock::now(), terminado))
             cierraConsola(M);
     } while (!terminado);
+}
+
+void EsperarEmulador(core::Modulo &M, Pantalla &pantalla, const LineaDeOrden &orden)
+{
+    Vigila(
+        M, host::Process::start(orden.Argumentos()),
+        [&pantalla](int descriptor, int milisegundos) { pantalla.Cede(descriptor, milisegundos); },
+        [&pantalla] {
+            pantalla.InfoEnNegro();
+            if (pantalla.EntradasLista1() == 0)
+                pantalla.MuestraNingunaROM();
+            pantalla.LLena_INFO();
+        });
 }
 
 } // namespace launch

@@ -5,7 +5,16 @@
 #include "launch/lineadeorden.h"
 #include "launch/pantalla.h"
 
+#include "host/process.h"
+
+#include <functional>
+
 namespace launch {
+
+// Stays until the process has ended; meanwhile the window that a console leaves open behind its program is
+// closed. Each pass waits by `cede` (a descriptor that wakes it, milliseconds), and runs `pasada`.
+void Vigila(core::Modulo &M, host::Process proceso, const std::function<void(int, int)> &cede,
+    const std::function<void()> &pasada);
 
 // Starts a command line and stays in the watch until the process has ended; meanwhile the screen stays alive,
 // and the window that a console leaves open behind its program is closed. A start that fails is the caller's:

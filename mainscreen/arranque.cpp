@@ -12,7 +12,6 @@
 #include "forms/yield.h"
 
 #include "host/letters.h"
-#include "host/paths.h"
 #include "host/questions.h"
 
 using namespace Qt::StringLiterals;
@@ -78,11 +77,7 @@ void Portada::MuestraEstado()
     M.IndiceRutas = Combo2->Text().isEmpty() ? 0 : 1;
     if (M.IndiceRutas == 1)
         M.RutasROM(1) = host::upper(M.Cat_ROM(Sistema(), Emulador() + 1));
-    const int editor = core::NumeroDeAjuste(M.TypeOfEditor);
-    if (editor == 0)
-        Editor->SetColours(forms::colourFromNumber(0xC00000), forms::colourFromNumber(0xC0C0C0));
-    else if (editor == 1)
-        Editor->SetColours(forms::colourFromNumber(0x80000005), forms::colourFromNumber(0));
+    ColoresDelEditor(core::NumeroDeAjuste(M.TypeOfEditor));
     M.ZoomActual = 2;
     M.EmuConfigurado = M.CambioConfig1 = M.SoloTablas = M.VerBaseDeDatos = M.RestaurarROM = 0;
     if (!Combo1->Text().isEmpty() && Combo2->Text().isEmpty())
@@ -117,9 +112,8 @@ void Portada::Flecha2_Release()
 void Portada::GuardaSeleccion()
 {
     const core::Posiciones posiciones = core::PosicionesDe(M, Combo1->Text(), Combo2->Text());
-    const QStringList lineas = core::LineasDeUltimaSeleccion(posiciones.sistema, posiciones.emulador);
-    M.Ficheros.rewrite(host::programFile(u"Zembro.cfg"_s), u"Zembro.tmp"_s,
-        [&](const QString &texto) { return core::ConAjuste(texto, core::Ajuste::UltimaSeleccion, lineas); });
+    core::GuardaAjuste(M, core::Ajuste::UltimaSeleccion,
+        core::LineasDeUltimaSeleccion(posiciones.sistema, posiciones.emulador));
 }
 
 } // namespace mainscreen

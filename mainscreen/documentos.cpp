@@ -121,6 +121,14 @@ void Portada::RestaurarEditor()
     PrepararEditor();
 }
 
+void Portada::ColoresDelEditor(int tipo)
+{
+    if (tipo == 0)
+        Editor->SetColours(forms::colourFromNumber(0xC00000), forms::colourFromNumber(0xC0C0C0));
+    else if (tipo == 1)
+        Editor->SetColours(forms::colourFromNumber(0x80000005), forms::colourFromNumber(0));
+}
+
 void Portada::FlechaE2_Release()
 {
     DejaElFocoAlEditor(false);

@@ -52,6 +52,11 @@ public:
     void Edit(const QString &ruta); // loads a text into the Editor; fails with 53 or 75
     void PrepararEditor();
     void RestaurarEditor();
+    void ColoresDelEditor(int tipo); // 0 those of a console, 1 the system's; others change nothing
+    // Starts an outside editor; an empty command shows what is missing.
+    void AbreEnEditor(const QStringList &orden, const QString &falta);
+    // Brings the labels that tell the state into the language that was just read.
+    void EstadoEnIdioma();
     void Mensaje(int Tipo, const QString &mensaje, const QString &TituloVentana, const QString &Boton1,
         const QString &Boton2, const QString &MeterEnCajaDeTexto);
 
@@ -189,7 +194,6 @@ private:
     void FlechaE2_Release();
     std::vector<QWidget *> OcultosPorElEditor() const;
     void DejaElFocoAlEditor(bool abierto);
-    void AbreEnEditor(const QStringList &orden, const QString &falta);
     void MuestraTextoPropio(const QString &fichero);
     void E1_Release();
     void D1_Release();

@@ -164,6 +164,20 @@ void Portada::PalabraDelBoton()
         TXT_Boton->SetCaption(M.TXT_Jugar);
 }
 
+void Portada::EstadoEnIdioma()
+{
+    if (Lista1->ListCount() == 0)
+        PonInfo(M.TXT_NingunaROM);
+    if (Combo2->Text().isEmpty()) {
+        PonInfoRoms(M.TXT_EmuNoSelec);
+        return;
+    }
+    PalabraDelBoton();
+    // Not the entries of the list: a count that every listing sets to 0.
+    if (core::UnDirectorioPorJuego(core::Numero(M.TipoEmu)))
+        PonInfoRoms(QString::number(M.NumROMsBorradas) + u' ' + M.TXT_Directorios);
+}
+
 // True if the emulator's ROM directory is another than that of the one before. The "ROM" line alone decides:
 // two emulators of one directory share the list of the first, whatever their types.
 bool Portada::CambiaDeDirectorio()

@@ -1,7 +1,11 @@
 #include "options/primerainstalacion.h"
 
+#include "options/montaje.h"
+
 #include "core/ajustes.h"
 #include "core/idiomas.h"
+
+#include "dialogs/etiqueta.h"
 
 #include "host/letters.h"
 #include "host/paths.h"
@@ -9,23 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace options {
-
-namespace {
-
-forms::Label *etiqueta(QWidget *padre, const QString &nombre, const forms::Place &lugar, const QString &texto,
-    const QColor &color, Qt::Alignment alineacion)
-{
-    auto *etiqueta = new forms::Label(padre);
-    etiqueta->setObjectName(nombre);
-    etiqueta->setFont(forms::arial(8.25));
-    etiqueta->SetForeColor(color);
-    etiqueta->setAlignment(alineacion | Qt::AlignTop);
-    etiqueta->SetPlace(lugar);
-    etiqueta->SetCaption(texto);
-    return etiqueta;
-}
-
-} // namespace
 
 PrimeraInstalacion::PrimeraInstalacion(core::Modulo &modulo)
     : Form(u"PrimeraInstalacion"_s, 2820, 2310, Border::None)
@@ -50,17 +37,15 @@ void PrimeraInstalacion::Monta()
     forms::move(*File1, { 360, 240, 975, 870 });
     File1->hide();
 
-    Label1 = etiqueta(this, u"Label1"_s, { 1800, 270, 975, 615 }, u"Idioma   Language     Lingua"_s,
-        QColor(128, 255, 255), Qt::AlignLeft);
+    Label1 = montaje::PonEtiqueta(*this, u"Label1"_s, { 1800, 270, 975, 615 },
+        u"Idioma   Language     Lingua"_s, QColor(128, 255, 255));
     Label1->setWordWrap(true);
-    Aceptar2 = new forms::PictureButton(u"Aceptar2"_s, u"Aceptar1"_s, this);
-    Aceptar2->SetPlace({ 1800, 960, 465, 405 });
-    TXT_Aceptar = etiqueta(
-        this, u"TXT_Aceptar"_s, { 1875, 1440, 255, 210 }, u"OK"_s, QColor(192, 255, 192), Qt::AlignHCenter);
+    Aceptar2 = montaje::PonPareja(*this, u"Aceptar2"_s, u"Aceptar1"_s, { 1800, 960, 465, 405 });
+    TXT_Aceptar = dialogs::palabra(this, u"TXT_Aceptar"_s, u"OK"_s, { 1875, 1440, 255, 210 });
     Aceptar2->setAccessibleName(TXT_Aceptar->Caption());
     List1->setAccessibleName(Label1->Caption());
-    Label6 = etiqueta(this, u"Label6"_s, { 170, 1800, 2430, 255 }, u"Lng: Español - Autor: Dorvel"_s,
-        QColor(128, 255, 128), Qt::AlignHCenter);
+    Label6 = montaje::PonEtiqueta(*this, u"Label6"_s, { 170, 1800, 2430, 255 },
+        u"Lng: Español - Autor: Dorvel"_s, QColor(128, 255, 128), Qt::AlignHCenter);
 }
 
 void PrimeraInstalacion::Carga()

@@ -158,6 +158,36 @@ TEST_F(AjustesEscritos, NothingChanges_WithoutTheKeyThatComesAhead)
     EXPECT_EQ(Cambiado(bytes, Ajuste::MsgEndDOS, { u"n"_s }), bytes);
 }
 
+TEST_F(AjustesEscritos, LineOfTheClosingKeyComesTwice_WhereNothingIsSkipped)
+{
+    const struct {
+        Ajuste ajuste;
+        QByteArray bytes;
+        QByteArray esperado;
+    } casos[] = {
+        { Ajuste::TypeOfEditor, "MsgEndDOS = a\r\nSaveLastEmu&Sis = 1\r\nold\r\n",
+            "MsgEndDOS = a\r\nMsgEndDOS = a\r\nSaveLastEmu&Sis = 1\r\nn\r\n" },
+        { Ajuste::LanguageFile, "DebugMode = 0\nMsgEndDOS = a\r\nold\r\nDebugMode = 1\r\nDebugMode = 2",
+            "DebugMode = 0\nDebugMode = 0\nMsgEndDOS = a\r\nn\r\nDebugMode = 1\r\nDebugMode = 2\r\n"
+            "DebugMode = 2" },
+        { Ajuste::GuardarUltimo, "TypeOfEditor = 1\r\n", "TypeOfEditor = 1\r\nTypeOfEditor = 1\r\n" },
+        { Ajuste::MsgEndDOS, "LanguageFile = x\r\n", "LanguageFile = x\r\nLanguageFile = x\r\n" },
+        { Ajuste::UltimaSeleccion, "SaveLastEmu&Sis = 1\r\n[General]\r\nold\r\n",
+            "SaveLastEmu&Sis = 1\r\n[General]\r\nn\r\n" },
+    };
+    for (const auto &caso : casos)
+        EXPECT_EQ(Cambiado(caso.bytes, caso.ajuste, { u"n"_s }), caso.esperado);
+}
+
+TEST_F(AjustesEscritos, NewLinesHoldTheValueBehindTheirKey)
+{
+    EXPECT_EQ(core::LineaDeGuardarUltimo(0), u"SaveLastEmu&Sis = 0");
+    EXPECT_EQ(core::LineaDeEditor(1), u"TypeOfEditor = 1");
+    EXPECT_EQ(core::LineaDeMsgEndDOS(u" Fin = x "_s), u"MsgEndDOS =  Fin = x ");
+    EXPECT_EQ(core::LineaDeMsgEndDOS({}), u"MsgEndDOS = ");
+    EXPECT_EQ(core::LineaDeIdioma(u"zb-españa.lng"_s), u"LanguageFile = ZB-ESPAÑA.LNG");
+}
+
 TEST_F(AjustesEscritos, KeysAreToldByTheirFirstNineCharacters)
 {
     EXPECT_EQ(Cambiado("MsgEndDOSx\r\nold\r\nDebugModex\r\n", Ajuste::LanguageFile, { u"n"_s }),
@@ -195,6 +225,33 @@ TEST_F(AjustesEscritos, FiltersAreWrittenInUpperCaseAndTheFileEndsBehindThem)
         ConFiltros("top\r\n[Filters]\r\nOLD\r\n\r\n[EOF]\r\nmore\r\n", { u"roms"_s, u"Año"_s, u"straße"_s }),
         "top\r\n[Filters]\r\nROMS\r\nA\xD1O\r\nSTRA\xDF"
         "E\r\n\r\n[EOF]\r\n");
+}
+
+TEST_F(AjustesEscritos, FiltersOfATextAreSplitAtItsCommasBlanksAndAll)
+{
+    EXPECT_EQ(core::FiltrosDeTexto(u"CFG,roms"_s), (QStringList { u"CFG"_s, u"roms"_s }));
+    EXPECT_EQ(core::FiltrosDeTexto(u"CFG, roms ,x y"_s), (QStringList { u"CFG"_s, u" roms "_s, u"x y"_s }));
+    EXPECT_EQ(core::FiltrosDeTexto({}), QStringList { QString() });
+}
+
+TEST_F(AjustesEscritos, FiltersOfATextEndAtTheFirstEmptyOne)
+{
+    EXPECT_EQ(core::FiltrosDeTexto(u"CFG,,ROMS"_s), QStringList { u"CFG"_s });
+    EXPECT_EQ(core::FiltrosDeTexto(u"CFG,"_s), QStringList { u"CFG"_s });
+    EXPECT_EQ(core::FiltrosDeTexto(u",CFG,ROMS,,X"_s), (QStringList { QString(), u"CFG"_s, u"ROMS"_s }));
+    EXPECT_EQ(core::FiltrosDeTexto(u","_s), QStringList { QString() });
+}
+
+TEST_F(AjustesEscritos, FiltersOfATextAreAtMostAHundredAndOne)
+{
+    QStringList nombres;
+    for (int i = 0; i < 101; ++i)
+        nombres << u"D%1"_s.arg(i);
+    const QString texto = nombres.join(u',');
+    EXPECT_EQ(core::FiltrosDeTexto(texto), nombres);
+    EXPECT_EQ(core::FiltrosDeTexto(texto + u",,"_s), nombres);
+    EXPECT_EQ(NumeroDeFallo([&] { core::FiltrosDeTexto(texto + u",x"_s); }), host::OutOfRange);
+    EXPECT_EQ(NumeroDeFallo([&] { core::FiltrosDeTexto(QString(101, u',') + u'x'); }), host::OutOfRange);
 }
 
 TEST_F(AjustesEscritos, ReadBackWhatWasWritten)

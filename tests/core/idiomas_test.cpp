@@ -90,3 +90,40 @@ TEST_F(Idiomas, CreditFailsAsNotFound_WithoutTheFile)
 {
     EXPECT_EQ(NumeroDeFallo([this] { core::CreditoDeIdioma(M, u"None.LNG"_s); }), host::FileNotFound);
 }
+
+TEST_F(Idiomas, AreOfferedInCapitals)
+{
+    for (const QString &nombre : { u"zb-esp.lng"_s, u"ZB-ENG.LNG"_s, u"readme.txt"_s })
+        Pon(u"LNG/"_s + nombre, "'\r\n");
+    EXPECT_EQ(core::IdiomasEnMayusculas(), (QStringList { u"ZB-ENG.LNG"_s, u"ZB-ESP.LNG"_s }));
+}
+
+TEST_F(Idiomas, NoneAreOffered_OfADirectoryThatIsEmptyOrMissing)
+{
+    EXPECT_EQ(core::IdiomasEnMayusculas(), QStringList());
+    PonDirectorio(u"LNG"_s);
+    EXPECT_EQ(core::IdiomasEnMayusculas(), QStringList());
+}
+
+TEST_F(Idiomas, MoreThanAHundredAndOneAreAFailure)
+{
+    for (int i = 0; i < 101; ++i)
+        Pon(u"LNG/A%1.LNG"_s.arg(i, 3, 10, QChar(u'0')), "'\r\n");
+    const QStringList idiomas = core::IdiomasEnMayusculas();
+    EXPECT_EQ(idiomas.size(), 101);
+    EXPECT_EQ(idiomas.last(), u"A100.LNG");
+    Pon(u"LNG/A101.LNG"_s, "'\r\n");
+    EXPECT_EQ(NumeroDeFallo([] { core::IdiomasEnMayusculas(); }), host::OutOfRange);
+}
+
+TEST(IdiomaEnUso, IsLookedForByItsExactNameAmongTheFirstHundred)
+{
+    QStringList idiomas;
+    for (int i = 0; i < 101; ++i)
+        idiomas << u"A%1.LNG"_s.arg(i);
+    EXPECT_EQ(core::PosicionDeIdioma(idiomas, u"A0.LNG"_s), 0);
+    EXPECT_EQ(core::PosicionDeIdioma(idiomas, u"A99.LNG"_s), 99);
+    EXPECT_EQ(core::PosicionDeIdioma(idiomas, u"A100.LNG"_s), -1);
+    EXPECT_EQ(core::PosicionDeIdioma(idiomas, u"a0.lng"_s), -1);
+    EXPECT_EQ(core::PosicionDeIdioma({}, u"A0.LNG"_s), -1);
+}

@@ -47,16 +47,16 @@ TEST(Modulo, EverythingIsZeroOrEmpty_AtTheStart)
              M.SoloTablas, M.Combo1Listo, M.Combo2Listo, M.RestaurarROM, M.EmuConfigurado, M.NumLista,
              M.IndiceRutas, M.NumROMsBorradas, M.ZoomActual, M.ImagenCambio, M.Lista1Cambio, M.CambioConfig1,
              M.Respuesta_Opcion, M.BD_Sistema, M.BD_Emulador, M.BD_TotalSistemas, M.Lista1Lista,
-             M.Config_Origen, M.Config2_Cambios, M.ExtLargo, M.IdiomaCambiado })
+             M.Config_Origen, M.Config2_Cambios, M.ExtLargo, M.IdiomaCambiado, M.TypeOfEditorPrevio })
         EXPECT_EQ(numero, 0);
     for (const QString &texto : { M.FiltrosTexto, M.UltimoSistema, M.UltimoEmulador, M.GuardarUltimo,
              M.TypeOfEditor, M.MsgEndDOS, M.LanguageFile, M.DebugMode, M.TipoEmu, M.SistemaGuardado,
              M.EmuladorGuardado, M.ROMGuardada, M.Respuesta_Caja, M.RespuestaMensaje, M.TXT_Jugar,
              M.RutaExaminar, M.ArchivoExaminar, M.EXE_Previo, M.XDI_Previo, M.ROM_Previo, M.IMG_Previo,
-             M.PAR1_Previo, M.PAR2_Previo, M.ExtTexto, M.TypeOfEditorPrevio, M.IdiomaPrevio,
-             M.GuardarUltimoNuevo, M.FiltrosNuevo, M.BD_Nombre(150, 150), M.BD_WEB2(0, 0), M.BD_EXT(0, 0),
+             M.PAR1_Previo, M.PAR2_Previo, M.ExtTexto, M.IdiomaPrevio, M.FiltrosNuevo, M.BD_Nombre(150, 150), M.BD_WEB2(0, 0), M.BD_EXT(0, 0),
              M.BD_WEB1(150), M.Msg_NoEXE0, M.Cat_Nombre(0, 0), M.Nota_Clave(0), M.RutasROM(1) })
         EXPECT_EQ(texto, QString());
+    EXPECT_FALSE(M.GuardarUltimoNuevo);
     EXPECT_FALSE(M.Ficheros.isOpen(1));
     EXPECT_FALSE(M.Ficheros.isOpen(2));
 }
@@ -103,4 +103,7 @@ TEST(Modulo, ValueOfALineIsWhatStandsBehindThePrefix)
     EXPECT_EQ(core::Valor(u"ROM="_s, 4), QString());
     EXPECT_EQ(core::Valor(u"ROM"_s, 4), QString());
     EXPECT_EQ(core::Valor(QString(), 4), QString());
+    EXPECT_EQ(core::ValorExigido(u"IMG=/caps/"_s, 4), u"/caps/");
+    EXPECT_EQ(core::ValorExigido(u"IMG="_s, 4), QString());
+    EXPECT_EQ(NumeroDeFallo([] { core::ValorExigido(u"IMG"_s, 4); }), host::InvalidArgument);
 }

@@ -3,7 +3,7 @@
 
 #include "mundotest.h"
 
-#include <QFile>
+#include "tests/support/desktoptools.h"
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
@@ -20,36 +20,9 @@ class DocumentosTest : public MundoTest {
 protected:
     DocumentosTest()
     {
-        qputenv("PATH", files.path(u"tools"_s).toUtf8());
-        for (const char *variable : { "VISUAL", "EDITOR", "TERMINAL", "XDG_CURRENT_DESKTOP" })
-            qunsetenv(variable);
-        qputenv("RECORD", files.path(u"record"_s).toUtf8());
-        files.makeDirectory(u"tools"_s);
         files.write(u"emu/Emu.exe"_s, "x");
         systemsOfCatalogue[0].emulators[0].executable = files.path(u"emu/Emu.exe"_s);
         files.writeCatalogue(systemsOfCatalogue);
-    }
-    ~DocumentosTest() override { qputenv("PATH", m_path); }
-
-    // A tool that writes its arguments and its directory down, each in one go.
-    void install(const QString &name)
-    {
-        const QByteArray record = files.path(u"record"_s).toUtf8();
-        runnable(u"tools/"_s + name,
-            "#!/bin/sh\nprintf '%s|' '" + name.toUtf8() + "' \"$@\" \"$PWD\" > '" + record + ".new'\n"
-                + "/bin/mv '" + record + ".new' '" + record + "'\n");
-    }
-    void runnable(const QString &name, const QByteArray &script)
-    {
-        files.write(name, script);
-        QFile(files.path(name)).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-    QString recorded()
-    {
-        EXPECT_TRUE(waitUntil([this] { return files.exists(u"record"_s); }));
-        const QString record = QString::fromUtf8(files.read(u"record"_s));
-        files.remove(u"record"_s);
-        return record;
     }
     bool isShown(const QString &name) { return !control(name).isHidden(); }
     QString text() { return control<forms::TextArea>(u"Editor"_s).Text(); }
@@ -63,10 +36,8 @@ protected:
         });
     }
 
+    const DesktopTools tools { files };
     int warnings = 0;
-
-private:
-    QByteArray m_path = qgetenv("PATH");
 };
 
 } // namespace
@@ -202,7 +173,7 @@ TEST_F(DocumentosTest, BothEditorsGetTheFileAsOneArgument)
 {
     files.write(u"emu/readme.txt"_s, "text");
     for (const QString &tool : { u"leafpad"_s, u"xterm"_s, u"nano"_s })
-        install(tool);
+        tools.install(tool);
     startAt(Zeta, 0);
     click(control(u"BotonC2"_s));
     const QString file = files.path(u"emu/readme.txt"_s);
@@ -210,9 +181,9 @@ TEST_F(DocumentosTest, BothEditorsGetTheFileAsOneArgument)
     EXPECT_THAT(
         M->OrdenEdit, ElementsAre(files.path(u"tools/xterm"_s), u"-e"_s, files.path(u"tools/nano"_s), file));
     click(control(u"BlocDeNotas2"_s));
-    EXPECT_TRUE(recorded().startsWith(u"leafpad|"_s + file + u'|'));
+    EXPECT_TRUE(tools.recorded().startsWith(u"leafpad|"_s + file + u'|'));
     click(control(u"Edit2"_s));
-    EXPECT_TRUE(recorded().startsWith(u"xterm|-e|"_s + files.path(u"tools/nano|"_s) + file + u'|'));
+    EXPECT_TRUE(tools.recorded().startsWith(u"xterm|-e|"_s + files.path(u"tools/nano|"_s) + file + u'|'));
     EXPECT_TRUE(isShown(u"Editor"_s));
 }
 
@@ -237,9 +208,7 @@ TEST_F(DocumentosTest, ToolThatFailsToStartDoesSoInSilence)
 {
     files.write(u"emu/readme.txt"_s, "text");
     for (const QString &tool : { u"leafpad"_s, u"xterm"_s, u"nano"_s, u"thunar"_s })
-        runnable(u"tools/"_s + tool,
-            "\x7f"
-            "ELF of no kind");
+        tools.broken(tool);
     startAt(Zeta, 0);
     for (const QString &button :
         { u"Boton5b"_s, u"D1"_s, u"E1"_s, u"BotonC2"_s, u"Edit2"_s, u"BlocDeNotas2"_s })
@@ -249,29 +218,29 @@ TEST_F(DocumentosTest, ToolThatFailsToStartDoesSoInSilence)
 
 TEST_F(DocumentosTest, OwnTextsAreWatchedUntilTheirEditorCloses)
 {
-    install(u"leafpad"_s);
+    tools.install(u"leafpad"_s);
     startAt(Zeta, 0);
     for (const auto &[button, name] :
         { std::pair(u"Boton5b"_s, u"Zembro.txt"_s), std::pair(u"Boton6b"_s, u"Zembro.faq"_s) }) {
         click(control(button));
         // The watch has ended, so the tool has.
         ASSERT_TRUE(files.exists(u"record"_s));
-        EXPECT_TRUE(recorded().startsWith(u"leafpad|"_s + files.path(name) + u'|'));
+        EXPECT_TRUE(tools.recorded().startsWith(u"leafpad|"_s + files.path(name) + u'|'));
         EXPECT_FALSE(control<forms::PictureButton>(button).ShowsPressed());
     }
 }
 
 TEST_F(DocumentosTest, ConsoleBeginsInTheEmulatorsDirectory)
 {
-    install(u"xterm"_s);
+    tools.install(u"xterm"_s);
     startAt(Zeta, 0);
     click(control(u"D1"_s));
-    EXPECT_EQ(recorded(), u"xterm|"_s + files.path(u"emu"_s) + u'|');
+    EXPECT_EQ(tools.recorded(), u"xterm|"_s + files.path(u"emu"_s) + u'|');
 }
 
 TEST_F(DocumentosTest, ConsoleWhoseDirectoryIsGoneIsFatal)
 {
-    install(u"xterm"_s);
+    tools.install(u"xterm"_s);
     startAt(Zeta, 0);
     files.remove(u"emu"_s);
     const auto end = endOf([&] { click(control(u"D1"_s)); });
@@ -281,11 +250,11 @@ TEST_F(DocumentosTest, ConsoleWhoseDirectoryIsGoneIsFatal)
 
 TEST_F(DocumentosTest, FileManagerOpensTheEmulatorsDirectory)
 {
-    install(u"thunar"_s);
+    tools.install(u"thunar"_s);
     startAt(Zeta, 0);
     click(control(u"E1"_s));
     ASSERT_TRUE(files.exists(u"record"_s));
-    EXPECT_TRUE(recorded().startsWith(u"thunar|"_s + files.path(u"emu/"_s) + u'|'));
+    EXPECT_TRUE(tools.recorded().startsWith(u"thunar|"_s + files.path(u"emu/"_s) + u'|'));
 }
 
 TEST_F(DocumentosTest, WithoutAnEmulatorTheButtonsOnlyRelease)
