@@ -13,6 +13,7 @@
 #include "mainscreen/portada.h"
 
 #include "maintenance/bajas.h"
+#include "maintenance/pasos.h"
 
 #include "options/primerainstalacion.h"
 
@@ -39,6 +40,8 @@ int main(int argc, char **argv)
     forms::FormHolder<options::PrimeraInstalacion> primera(
         [&M] { return std::make_unique<options::PrimeraInstalacion>(M); });
     maintenance::Bajas bajas(M, portada);
+    maintenance::Pasos pasos(M, portada);
+    portada.Boton1b->Release = [&pasos] { pasos.Muestra(); };
     portada.MuestraPrimeraInstalacion = [&primera] { primera.ShowModal(nullptr); };
 
     forms::guarded([&portada] { portada.Carga(); });
