@@ -13,6 +13,7 @@
 #include "mainscreen/portada.h"
 
 #include "maintenance/bajas.h"
+#include "maintenance/pasos.h"
 
 #include "options/pantallas.h"
 #include "options/primerainstalacion.h"
@@ -41,6 +42,8 @@ int main(int argc, char **argv)
         [&M] { return std::make_unique<options::PrimeraInstalacion>(M); });
     maintenance::Bajas bajas(M, portada);
     options::Pantallas opciones(M, portada);
+    maintenance::Pasos pasos(M, portada);
+    portada.Boton1b->Release = [&pasos] { pasos.Muestra(); };
     portada.MuestraPrimeraInstalacion = [&primera] { primera.ShowModal(nullptr); };
 
     forms::guarded([&portada] { portada.Carga(); });

@@ -81,6 +81,28 @@ bool SinCambios(const Modulo &M, const Casillas &casillas, const QString &tipo)
         && NumeroDeAjuste(tipo) == NumeroDeAjuste(M.XDI_Previo);
 }
 
+namespace {
+
+// Between a directory for each game and archives the entries of the list are others.
+bool cambiaDeEntradas(int anterior, int nuevo)
+{
+    const auto deArchivos = [](int tipo) { return tipo == 2 || tipo == 3; };
+    return (anterior == 1 && deArchivos(nuevo)) || (deArchivos(anterior) && nuevo == 1);
+}
+
+} // namespace
+
+Renovacion RenovacionTras(const Modulo &M, const Casillas &casillas, const QString &tipo)
+{
+    const bool otraRuta = M.RutasROM(1) != M.RutasROM(2);
+    if (casillas.rom != M.ROM_Previo || cambiaDeEntradas(NumeroDeAjuste(M.XDI_Previo), NumeroDeAjuste(tipo)))
+        return Renovacion::Lista;
+    if (casillas.img != M.IMG_Previo)
+        return otraRuta ? Renovacion::CapturaYLista : Renovacion::Captura;
+    const bool otrosParametros = casillas.par1 != M.PAR1_Previo || casillas.par2 != M.PAR2_Previo;
+    return otrosParametros && otraRuta ? Renovacion::Lista : Renovacion::Nada;
+}
+
 Webs LeeWebs(Modulo &M, const QString &sistema, const QString &emulador)
 {
     Webs webs;

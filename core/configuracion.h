@@ -54,6 +54,11 @@ QString DirectorioDeROMs(const QString &sistema, const QString &casilla2);
 // True if nothing differs from EXE_Previo and its like, the types compared as numbers, an empty one as 0.
 bool SinCambios(const Modulo &M, const Casillas &casillas, const QString &tipo);
 
+// What the main screen shows anew once a changed emulator has been saved, by what differs from EXE_Previo and
+// its like and by whether the two slots of the ROM lines differ.
+enum class Renovacion { Nada, Captura, CapturaYLista, Lista };
+Renovacion RenovacionTras(const Modulo &M, const Casillas &casillas, const QString &tipo);
+
 // The "WEB1" and "WEB2" lines of a pair in the database, whole; empty where they aren't found. Without the
 // emulator under the system, the last "WEB1" line of the file counts.
 struct Webs {

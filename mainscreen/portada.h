@@ -60,6 +60,11 @@ public:
     void Mensaje(int Tipo, const QString &mensaje, const QString &TituloVentana, const QString &Boton1,
         const QString &Boton2, const QString &MeterEnCajaDeTexto);
 
+    int LlenaEmuladores(); // those of the system selected in Combo1 into Combo2; returns their number
+    void PalabraDelBoton(); // by TipoEmu
+    void RecuerdaRutaElegida(); // the selected emulator's "ROM" line, in the next of the two slots
+    void PonNegro(); // in the place of the capture, on both screens
+
     // The tile of the secondary screens.
     dialogs::Teja Teja() const;
 
@@ -136,8 +141,6 @@ private:
     void RellenaCombo1();
     void RellenaCombo2();
     void SistemaSinEmulador();
-    void PalabraDelBoton();
-    int LlenaEmuladores();
     void RecuerdaRuta(const QString &ruta);
     bool CambiaDeDirectorio();
     void ListaElegida();
@@ -151,7 +154,6 @@ private:
     void Lista1_Selection();
     void CargaCaptura();
     void SinCaptura();
-    void PonNegro();
 
     // Zoom.
     void Graf_Imagen_MouseDown(int boton);

@@ -133,6 +133,11 @@ void Portada::RecuerdaRuta(const QString &ruta)
         M.IndiceRutas = 0;
 }
 
+void Portada::RecuerdaRutaElegida()
+{
+    RecuerdaRuta(host::upper(M.Cat_ROM(Sistema(), Emulador() + 1)));
+}
+
 void Portada::Combo2_Selection()
 {
     if (!Combo2->Text().isEmpty())
@@ -182,7 +187,7 @@ void Portada::EstadoEnIdioma()
 // two emulators of one directory share the list of the first, whatever their types.
 bool Portada::CambiaDeDirectorio()
 {
-    RecuerdaRuta(host::upper(M.Cat_ROM(Sistema(), Emulador() + 1)));
+    RecuerdaRutaElegida();
     if (M.RutasROM(2) != M.RutasROM(1))
         return true;
     if (Lista1->ListCount() == 0)

@@ -144,8 +144,7 @@ void Bajas::SinNadaQueJugar()
 void Bajas::PonNegro()
 {
     P.Graf_Imagen->show();
-    for (forms::Image *imagen : { P.Graf_Imagen, P.Aumento.Imagen })
-        imagen->SetPicture(P.Aumento.Negro->Picture());
+    P.PonNegro();
 }
 
 // An empty slot: the next emulator picked compares unequal, and is listed.

@@ -1,18 +1,63 @@
 #include "maintenance/pasos.h"
 
+#include "maintenance/grabacion.h"
+
+#include "core/basededatos.h"
+
 #include "mainscreen/portada.h"
 
 namespace maintenance {
 
 Pasos::Pasos(core::Modulo &modulo, mainscreen::Portada &portada)
-    : m_paso1([&modulo, &portada] { return std::make_unique<Configuracion1>(modulo, portada); })
+    : M(modulo)
+    , P(portada)
+    , m_paso1([this] { return HazPaso1(); })
+    , m_paso2([this] { return HazPaso2(); })
+    , m_examinar([this] { return HazExaminar(); })
 {
+}
+
+std::unique_ptr<Configuracion1> Pasos::HazPaso1()
+{
+    auto paso = std::make_unique<Configuracion1>(M, P);
+    paso->Acepta = [this] { Acepta(); };
+    return paso;
+}
+
+std::unique_ptr<Configuracion2> Pasos::HazPaso2()
+{
+    auto paso = std::make_unique<Configuracion2>(
+        M, P.Teja(), m_examinar, m_paso1->Lista1->Text(), m_paso1->Lista2->Text());
+    paso->Graba = [this] { Grabacion(M, P, *m_paso1, *m_paso2).Graba(); };
+    return paso;
+}
+
+std::unique_ptr<dialogs::Examinar> Pasos::HazExaminar()
+{
+    const auto aviso = [this](const QString &texto, const QString &titulo, const QString &boton1,
+                           const QString &boton2) { P.Mensaje(4, texto, titulo, boton1, boton2, QString()); };
+    return std::make_unique<dialogs::Examinar>(M, P.Teja(), aviso);
 }
 
 void Pasos::Muestra()
 {
     m_paso1->PonTextos();
     m_paso1.ShowModal(nullptr);
+}
+
+// The first touch of the second step loads it, with the pair of the moment, before anything is looked at.
+void Pasos::Acepta()
+{
+    m_paso2->TXT_Grabar->SetCaption(M.TXT_Grabar);
+    m_paso2->TXT_Volver->SetCaption(m_paso1->TXT_Volver->Caption());
+    M.Config_Origen = -1;
+    if (m_paso1->Lista2->ListIndex() < 0) {
+        m_paso1->Mensaje(3, M.Msg_NoEmuLD1, M.Msg_NoEmuLD0);
+        return;
+    }
+    M.Config_Origen = core::OrigenDe(m_paso1->Lista1->Text());
+    m_paso2->Prepara();
+    m_paso2.ShowModal(nullptr);
 }
 
 } // namespace maintenance

@@ -3,9 +3,12 @@
 
 #include "core/modulo.h"
 
+#include "dialogs/examinar.h"
+
 #include "forms/form.h"
 
 #include "maintenance/configuracion1.h"
+#include "maintenance/configuracion2.h"
 
 namespace mainscreen {
 class Portada;
@@ -13,6 +16,8 @@ class Portada;
 
 namespace maintenance {
 
+// Lives as long as the main screen. The second step, once loaded, stays so until it has been shown and
+// closed, also where the first one refuses to go on or is closed and opened anew.
 class Pasos {
 public:
     Pasos(core::Modulo &modulo, mainscreen::Portada &portada);
@@ -21,7 +26,16 @@ public:
     void Muestra();
 
 private:
+    std::unique_ptr<Configuracion1> HazPaso1();
+    std::unique_ptr<Configuracion2> HazPaso2();
+    std::unique_ptr<dialogs::Examinar> HazExaminar();
+    void Acepta();
+
+    core::Modulo &M;
+    mainscreen::Portada &P;
     forms::FormHolder<Configuracion1> m_paso1;
+    forms::FormHolder<Configuracion2> m_paso2;
+    forms::FormHolder<dialogs::Examinar> m_examinar;
 };
 
 } // namespace maintenance

@@ -179,6 +179,45 @@ TEST_F(Configuracion, TypesAreComparedAsNumbers)
     }
 }
 
+TEST_F(Configuracion, WhatIsShownAnewIsTheFirstThatApplies)
+{
+    using core::Renovacion;
+    const auto tras = [this](
+                          const QString &previo, const QString &nuevo, const char *cambios, bool otraRuta) {
+        M.EXE_Previo = Casillas.exe;
+        M.XDI_Previo = previo;
+        M.ROM_Previo = Casillas.rom;
+        M.IMG_Previo = Casillas.img;
+        M.PAR1_Previo = Casillas.par1;
+        M.PAR2_Previo = Casillas.par2;
+        M.RutasROM(1) = u"ROM=/A/"_s;
+        M.RutasROM(2) = otraRuta ? u"ROM=/B/"_s : u"ROM=/A/"_s;
+        core::Casillas nuevas = Casillas;
+        const std::pair<char, QString &> claves[] = { { 'e', nuevas.exe }, { 'r', nuevas.rom },
+            { 'i', nuevas.img }, { '1', nuevas.par1 }, { '2', nuevas.par2 } };
+        for (const auto &[clave, casilla] : claves)
+            casilla += std::strchr(cambios, clave) ? u"x"_s : QString();
+        return core::RenovacionTras(M, nuevas, nuevo);
+    };
+    for (const bool otraRuta : { false, true }) {
+        EXPECT_EQ(tras(u"0"_s, u"0"_s, "r", otraRuta), Renovacion::Lista);
+        EXPECT_EQ(tras(u"0"_s, u"0"_s, "ri12", otraRuta), Renovacion::Lista);
+        EXPECT_EQ(tras(u"0"_s, u"0"_s, "e", otraRuta), Renovacion::Nada);
+        for (const auto &[previo, nuevo] : { std::pair(u"1"_s, u"2"_s), std::pair(u"1"_s, u"3"_s),
+                 std::pair(u"2"_s, u"1"_s), std::pair(u"3"_s, u"1"_s) })
+            EXPECT_EQ(tras(previo, nuevo, "i", otraRuta), Renovacion::Lista);
+        for (const auto &[previo, nuevo] : { std::pair(u"0"_s, u"1"_s), std::pair(u"1"_s, u"0"_s),
+                 std::pair(u"2"_s, u"3"_s), std::pair(u"1"_s, u"7"_s), std::pair(u"6"_s, u"2"_s) })
+            EXPECT_EQ(tras(previo, nuevo, "", otraRuta), Renovacion::Nada);
+    }
+    EXPECT_EQ(tras(u"0"_s, u"0"_s, "i", false), Renovacion::Captura);
+    EXPECT_EQ(tras(u"0"_s, u"0"_s, "i12", true), Renovacion::CapturaYLista);
+    for (const char *parametros : { "1", "2", "12" }) {
+        EXPECT_EQ(tras(u"0"_s, u"0"_s, parametros, false), Renovacion::Nada);
+        EXPECT_EQ(tras(u"0"_s, u"0"_s, parametros, true), Renovacion::Lista);
+    }
+}
+
 TEST_F(Configuracion, TheAddressesAreTheWholeLinesOfThePair)
 {
     const core::Webs webs = Webs(Cabecera + Alfa + Beta + Gamma + Fin, u"Gamma"_s, u"G2"_s);

@@ -55,6 +55,21 @@ void ConfiguracionTest::configure(const std::function<void(forms::Form &)> &act)
     click(control(u"Boton1b"_s));
 }
 
+void ConfiguracionTest::configurePair(
+    const QString &system, const QString &emulator, const std::function<void(forms::Form &)> &act)
+{
+    configure([=, this](forms::Form &first) {
+        select(controlOf<forms::ListBox>(first, u"Lista1"_s), system);
+        select(controlOf<forms::ListBox>(first, u"Lista2"_s), emulator);
+        atModal(u"Configuracion2"_s, [act](forms::Form &second) {
+            act(second);
+            if (second.isVisible())
+                click(controlOf<QWidget>(second, u"Flecha1"_s));
+        });
+        click(controlOf<QWidget>(first, u"Aceptar2"_s));
+    });
+}
+
 std::optional<ProcessEnd> ConfiguracionTest::endOfConfiguring(const std::function<void(forms::Form &)> &act)
 {
     std::optional<ProcessEnd> end;
@@ -77,10 +92,7 @@ void ConfiguracionTest::atInput(const QString &key, const QString &offer, const 
         auto &input = controlOf<forms::TextBox>(box, u"Casilla"_s);
         expectWords(box, key, u"Texto1"_s, key + u'1');
         EXPECT_EQ(input.Text(), offer);
-        strike(box, Qt::Key_A, Qt::ControlModifier);
-        strike(box, Qt::Key_Delete);
-        type(box, typed);
-        EXPECT_EQ(input.Text(), typed);
+        write(box, u"Casilla"_s, typed);
         click(controlOf<QWidget>(box, accepted ? u"Aceptar2"_s : u"Flecha2"_s));
     });
 }
@@ -113,6 +125,16 @@ void ConfiguracionTest::expectFiles(
 void ConfiguracionTest::expectFilesUnchanged()
 {
     expectFiles(database, catalogue, notes);
+}
+
+void ConfiguracionTest::write(forms::Form &form, const QString &box, const QString &text)
+{
+    auto &input = controlOf<forms::TextBox>(form, box);
+    click(input);
+    strike(form, Qt::Key_A, Qt::ControlModifier);
+    strike(form, Qt::Key_Delete);
+    type(form, text);
+    EXPECT_EQ(input.Text(), text);
 }
 
 void ConfiguracionTest::select(forms::ListBox &list, const QString &text)

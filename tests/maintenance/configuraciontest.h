@@ -21,7 +21,11 @@ protected:
 
     // Presses Boton1b, and drives the first step while it stands; left open, it is closed by its arrow.
     void configure(const std::function<void(forms::Form &)> &act);
-    // As that, and the end of the process that comes of it.
+    // Selects a pair in the first step, and drives the second one while it stands; left open, it is closed by
+    // its arrow.
+    void configurePair(
+        const QString &system, const QString &emulator, const std::function<void(forms::Form &)> &act);
+    // As configure, and the end of the process that comes of it.
     std::optional<ProcessEnd> endOfConfiguring(const std::function<void(forms::Form &)> &act);
 
     // Announce a message box, and answer it. An input shows the offer, which the typed text replaces.
@@ -34,6 +38,8 @@ protected:
     void expectFiles(const QByteArray &database, const QByteArray &catalogue, const QByteArray &notes);
     void expectFilesUnchanged();
 
+    static void write(
+        forms::Form &form, const QString &box, const QString &text); // in place of what stands there
     static void select(forms::ListBox &list, const QString &text); // by a click on its row
     static QStringList entriesOf(const forms::ListBox &list);
     static QString captionOf(const forms::Form &form, const QString &label);

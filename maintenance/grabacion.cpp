@@ -1,0 +1,210 @@
+#include "maintenance/grabacion.h"
+
+#include "core/basededatos.h"
+#include "core/catalogo.h"
+
+#include "forms/yield.h"
+
+#include "host/paths.h"
+
+#include "mainscreen/portada.h"
+
+#include "maintenance/configuracion1.h"
+#include "maintenance/configuracion2.h"
+
+using namespace Qt::StringLiterals;
+
+namespace maintenance {
+
+namespace {
+
+constexpr int MaxEmuladores = core::MaxSistemas - 1;
+
+} // namespace
+
+Grabacion::Grabacion(
+    core::Modulo &modulo, mainscreen::Portada &portada, Configuracion1 &paso1, Configuracion2 &paso2)
+    : M(modulo)
+    , P(portada)
+    , m_paso1(paso1)
+    , m_paso2(paso2)
+    , m_sistema(paso1.Lista1->Text())
+    , m_emulador(paso1.Lista2->Text())
+    , m_casillas(paso2.Textos())
+    , m_tipo(core::MarcasATipo(paso2.Marcas()))
+{
+}
+
+void Grabacion::Graba()
+{
+    if (EsRechazada())
+        return;
+    m_paso2.Casilla2->SetText(core::DirectorioDeROMs(m_sistema, m_casillas.rom));
+    switch (M.Config2_Cambios) {
+    case core::SinSistemaConfigurado:
+        GrabaSistema();
+        break;
+    case core::SinEmuladorConfigurado:
+        GrabaEmulador();
+        break;
+    case core::EmuladorYaConfigurado:
+        GrabaCambio();
+        break;
+    }
+}
+
+bool Grabacion::EsRechazada()
+{
+    switch (core::RechazoDe(m_sistema, M.Config_Origen, m_casillas, m_paso2.Marcas())) {
+    case core::Rechazo::SinEXE:
+        Mensaje(3, M.Msg_NoEXE1, M.Msg_NoEXE0);
+        return true;
+    case core::Rechazo::SinDirectorio:
+        Mensaje(3, M.Msg_NoDIR1, M.Msg_NoDIR0);
+        return true;
+    case core::Rechazo::SinMarcas:
+        Mensaje(3, M.Msg_Casillas1, M.Msg_Casillas0);
+        return true;
+    case core::Rechazo::Ninguno:
+        break;
+    }
+    return false;
+}
+
+void Grabacion::GrabaSistema()
+{
+    OcultaPasos();
+    const core::Webs webs = core::LeeWebs(M, m_sistema, m_emulador);
+    const core::SistemaNuevo nuevo { m_sistema, webs.sistema, core::ExtensionesDeBase(M, Fila()),
+        Bloque(webs) };
+    Reescribe([&](const QString &texto) { return core::ConSistemaConfigurado(texto, nuevo); });
+    OcultaPasos();
+    P.Llena_Combos();
+    M.Combo2Listo = 0;
+    RellenaCombos();
+    M.Combo2Listo = 1;
+    P.Llena_Lista();
+    P.RecuerdaRutaElegida();
+    Cierra();
+}
+
+// Combo2 is left as Llena_Combos left it: alive, its event lists the games and remembers the directory.
+void Grabacion::GrabaEmulador()
+{
+    OcultaPasos();
+    const core::EmuladorNuevo nuevo = Bloque(core::LeeWebs(M, m_sistema, m_emulador));
+    const QString lineaDeSistema = M.BD_Nombre(Fila(), 0);
+    Reescribe(
+        [&](const QString &texto) { return core::ConEmuladorConfigurado(texto, lineaDeSistema, nuevo); });
+    OcultaPasos();
+    P.Llena_Combos();
+    RellenaCombos();
+    Cierra();
+}
+
+void Grabacion::GrabaCambio()
+{
+    if (core::SinCambios(M, m_casillas, m_tipo)) {
+        Mensaje(3, M.Msg_SinCambios1, M.Msg_SinCambios0);
+        return;
+    }
+    OcultaPasos();
+    const core::EmuladorNuevo nuevo = Bloque(core::LeeWebs(M, m_sistema, m_emulador));
+    Reescribe([&](const QString &texto) { return core::ConEmuladorCambiado(texto, nuevo); });
+    OcultaPasos();
+    if (M.Config_Origen == core::SistemaRecreativo)
+        M.EmuConfigurado = 1;
+    LeeTablas();
+    M.Combo1Listo = M.Combo2Listo = 1;
+    const int sistema = P.Combo1->ItemData(P.Combo1->ListIndex());
+    const int emulador = P.Combo2->ItemData(P.Combo2->ListIndex()) + 1;
+    M.TipoEmu = core::TipoDe(M.Cat_XDI(sistema, emulador));
+    P.PalabraDelBoton();
+    P.RecuerdaRutaElegida();
+    Renueva(core::RenovacionTras(M, m_casillas, m_tipo));
+    M.EmuConfigurado = 0;
+    if (P.Lista1->ListCount() > 0 && m_casillas.img.isEmpty())
+        P.PonNegro();
+    Cierra();
+}
+
+// The combos keep their contents where they show the pair already.
+void Grabacion::LeeTablas()
+{
+    if (P.Combo1->Text() == m_sistema && P.Combo2->Text() == m_emulador) {
+        M.SoloTablas = 1;
+        P.Llena_Combos();
+        M.SoloTablas = 0;
+        return;
+    }
+    P.Llena_Combos();
+    M.Combo2Listo = 0;
+    RellenaCombos();
+}
+
+void Grabacion::Renueva(core::Renovacion renovacion)
+{
+    using core::Renovacion;
+    if (renovacion == Renovacion::Captura || renovacion == Renovacion::CapturaYLista)
+        P.Lista1->SetListIndex(P.Lista1->ListIndex());
+    if (renovacion == Renovacion::Lista || renovacion == Renovacion::CapturaYLista)
+        P.Llena_Lista();
+}
+
+core::EmuladorNuevo Grabacion::Bloque(const core::Webs &webs) const
+{
+    return { m_emulador, webs.emulador, m_casillas.exe, m_tipo, m_paso2.Casilla2->Text(), m_casillas.img,
+        m_casillas.par1, m_casillas.par2 };
+}
+
+void Grabacion::Reescribe(const std::function<QString(const QString &)> &cambio)
+{
+    M.Ficheros.rewrite(host::programFile(u"Zembro.emu"_s), u"Zembro.tmp"_s, cambio);
+}
+
+// The main screen shows while the work goes on, and takes no input.
+void Grabacion::OcultaPasos()
+{
+    m_paso2.hide();
+    m_paso1.hide();
+    forms::DoEventsWithoutInput();
+}
+
+// Where the system has as many emulators as the table takes, none is selected.
+void Grabacion::RellenaCombos()
+{
+    M.Combo1Listo = 0;
+    P.Combo1->SetText(m_sistema);
+    M.Combo1Listo = 1;
+    P.Combo2->Clear();
+    M.Indice_Emulador = P.LlenaEmuladores();
+    if (M.Indice_Emulador == MaxEmuladores)
+        return;
+    M.Indice_Emulador = 0;
+    P.Combo2->SetText(m_emulador);
+}
+
+void Grabacion::Cierra()
+{
+    if (P.Lista1->ListCount() == 0) {
+        P.TXT_Info->SetCaption(M.TXT_NingunaROM);
+        Mensaje(3, M.Msg_NingunaROM1, M.Msg_NingunaROM0);
+    } else {
+        Mensaje(4, M.Msg_CFGGrabada1, M.Msg_CFGGrabada0);
+    }
+    m_paso1.Unload();
+    m_paso2.Unload();
+    P.Lista1->setFocus();
+}
+
+void Grabacion::Mensaje(int tipo, const QString &mensaje, const QString &titulo)
+{
+    P.Mensaje(tipo, mensaje, titulo, M.TXT_Aceptar, m_paso2.TXT_Volver->Caption(), QString());
+}
+
+int Grabacion::Fila() const
+{
+    return m_paso1.Lista1->ItemData(m_paso1.Lista1->ListIndex());
+}
+
+} // namespace maintenance

@@ -1,0 +1,506 @@
+// Saving: refusals, the three kinds of save, and what the main screen shows then.
+
+#include "configuraciontest.h"
+
+#include "forms/checks.h"
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+const QByteArray Top = "' mine\r\n";
+const QByteArray End = "[EOF]\r\n";
+
+class GrabacionTest : public ConfiguracionTest {
+protected:
+    GrabacionTest()
+    {
+        database = "' all\r\n" + known("NES", "http://nes", { "N1", "N2" })
+            + known("Arcade", "", { "Mame", "Fbn" }) + known("Own", "http://own", { "O1", "N1" })
+            + known("Play Station", "", { "P1" }) + known("PSX", "", { "P2" }) + "[EOF]\r\n";
+        notes = "' notes\r\nNES\r\n'\r\nArcade\r\n'\r\nOwn\r\n'\r\nPlay Station\r\n'\r\n[EOF]\r\nParametros "
+                "especificos\r\n'"
+                "\r\nfin\r\nfin,\"fin\"\r\n";
+        for (const QString &game : { u"a/one.bin"_s, u"b/two.bin"_s, u"b/three.bin"_s })
+            files.writeSize(game, 2048);
+        files.makeDirectory(u"games/Asteroids"_s);
+        files.writeGif(u"red/ONE.GIF"_s, Qt::red);
+        files.writeGif(u"blue/ONE.GIF"_s, Qt::blue);
+    }
+
+    static QByteArray known(const QByteArray &name, const QByteArray &web, const QList<QByteArray> &emulators)
+    {
+        QByteArray block = '-' + name + "\r\nWEB1=" + web + "\r\n*.BIN\r\n*.ZIP\r\n'\r\n";
+        for (const QByteArray &emulator : emulators)
+            block += '+' + emulator + "\r\nWEB2=http://" + emulator.toLower() + "\r\n";
+        return block + Closing;
+    }
+
+    struct Block {
+        QByteArray exe = "/bin/emu";
+        QByteArray type = "0";
+        QByteArray roms = {};
+        QByteArray captures = {};
+        QByteArray before = {};
+        QByteArray behind = {};
+    };
+    static QByteArray emulator(const QByteArray &name, const Block &block)
+    {
+        return "+" + name + "\r\nWEB2=http://" + name.toLower() + "\r\nEXE=" + block.exe
+            + "\r\nXDI=" + block.type + "\r\nROM=" + block.roms + "\r\nIMG=" + block.captures
+            + "\r\nPAR1=" + block.before + "\r\nPAR2=" + block.behind + "\r\n";
+    }
+    static QByteArray configured(const QByteArray &name, const QByteArray &web, const QByteArray &blocks)
+    {
+        return '-' + name + "\r\nWEB1=" + web + "\r\n*.BIN\r\n*.ZIP\r\n'\r\n" + blocks + Closing;
+    }
+    QByteArray at(const QString &name) const { return files.path(name).toUtf8(); }
+
+    // The one emulator N1 of the NES, listed.
+    void withNes(const Block &block)
+    {
+        catalogue = Top + configured("NES", "http://nes", emulator("N1", block)) + End;
+        begin();
+    }
+
+    static void mark(const forms::Form &form, int number)
+    {
+        click(controlOf<forms::CheckBox>(form, u"Check%1"_s.arg(number)));
+    }
+    static void save(const forms::Form &form) { click(controlOf<QWidget>(form, u"Disco1"_s)); }
+
+    // Saves with the notice that all is well, and both steps closed.
+    void saveWell(forms::Form &form)
+    {
+        atNotice(u"Msg_CFGGrabada"_s);
+        save(form);
+        EXPECT_FALSE(form.isVisible());
+    }
+    void saveWithoutGames(forms::Form &form)
+    {
+        atWarning(u"Msg_NingunaROM"_s);
+        save(form);
+        EXPECT_FALSE(form.isVisible());
+        EXPECT_EQ(info(), u"TXT_NingunaROM"_s);
+    }
+    void expectRefused(forms::Form &form, const QString &message)
+    {
+        atWarning(message);
+        save(form);
+        EXPECT_TRUE(form.isVisible());
+        expectFilesUnchanged();
+    }
+
+    // What is saved of the catalogue; nothing else changes.
+    void expectCatalogue(const QByteArray &expected) { expectFiles(database, expected, notes); }
+};
+
+} // namespace
+
+TEST_F(GrabacionTest, WithoutAnExecutableItIsRefused)
+{
+    begin();
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) { expectRefused(form, u"Msg_NoEXE"_s); });
+}
+
+TEST_F(GrabacionTest, WithoutARomDirectoryItIsRefused_ForPSXToo)
+{
+    begin();
+    for (const auto &[system, name] : { std::pair(u"NES"_s, u"N1"_s), std::pair(u"PSX"_s, u"P2"_s) }) {
+        configurePair(system, name, [this](forms::Form &form) {
+            write(form, u"Casilla1"_s, u"/bin/emu"_s);
+            expectRefused(form, u"Msg_NoDIR"_s);
+        });
+    }
+}
+
+TEST_F(GrabacionTest, AnArcadeWithoutAMarkIsRefused_TheFourthIsNone)
+{
+    begin();
+    configurePair(u"Arcade"_s, u"Mame"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/emu"_s);
+        write(form, u"Casilla2"_s, u"/roms"_s);
+        expectRefused(form, u"Msg_Casillas"_s);
+        mark(form, 4);
+        expectRefused(form, u"Msg_Casillas"_s);
+    });
+}
+
+TEST_F(GrabacionTest, AnArcadeStoredAsTypeEightIsRefusedAtOnce)
+{
+    catalogue = Top + configured("Arcade", "", emulator("Mame", { .type = "8", .roms = "/r/" })) + End;
+    begin();
+    configurePair(
+        u"Arcade"_s, u"Mame"_s, [this](forms::Form &form) { expectRefused(form, u"Msg_Casillas"_s); });
+}
+
+TEST_F(GrabacionTest, ThePressShowsThePressedPictureAndTheReleaseSaves)
+{
+    begin();
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        auto &disk = controlOf<forms::PictureButton>(form, u"Disco1"_s);
+        press(disk);
+        EXPECT_TRUE(disk.ShowsPressed());
+        atModal(u"Caja"_s, [&disk](forms::Form &box) {
+            EXPECT_FALSE(disk.ShowsPressed());
+            click(controlOf<QWidget>(box, u"Flecha2"_s));
+        });
+        releaseAt(disk, QPoint(-50, 10));
+    });
+}
+
+TEST_F(GrabacionTest, ANewSystemStandsAheadOfTheBracketAndIsListed)
+{
+    begin();
+    configurePair(u"NES"_s, u"N2"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/My emu"_s);
+        write(form, u"Casilla2"_s, files.path(u"a"_s));
+        write(form, u"Casilla3"_s, files.path(u"red/"_s));
+        write(form, u"Casilla4"_s, u"-f  x"_s);
+        write(form, u"Casilla5"_s, u" -y"_s);
+        saveWell(form);
+    });
+    const Block block { "/bin/My emu", "0", at(u"a/"_s), at(u"red/"_s), "-f  x", " -y" };
+    expectCatalogue(Top + configured("NES", "http://nes", emulator("N2", block)) + End);
+    EXPECT_EQ(systems().Text(), u"NES"_s);
+    EXPECT_EQ(emulators().Text(), u"N2"_s);
+    EXPECT_THAT(listed(), ElementsAre(u"one.bin"_s));
+    EXPECT_EQ(capture(), QColor(Qt::red));
+    EXPECT_EQ(word(), u"TXT_Jugar"_s);
+    EXPECT_EQ(focused(), u"Lista1"_s);
+    EXPECT_EQ(M->IndiceRutas, 1);
+    EXPECT_EQ(M->RutasROM(1), u"ROM="_s + files.path(u"a/"_s).toUpper());
+    EXPECT_EQ(M->Combo1Listo, 1);
+    EXPECT_EQ(M->Combo2Listo, 1);
+}
+
+TEST_F(GrabacionTest, ASecondNewSystemIsSelectedWhateverItsPlace)
+{
+    withNes({ .roms = at(u"a/"_s) });
+    configurePair(u"Arcade"_s, u"Fbn"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/fbn"_s);
+        write(form, u"Casilla2"_s, files.path(u"b"_s));
+        mark(form, 2);
+        mark(form, 3);
+        saveWithoutGames(form); // no archives there
+    });
+    expectCatalogue(catalogue.chopped(End.size())
+        + configured("Arcade", "", emulator("Fbn", { "/bin/fbn", "3", at(u"b/"_s) })) + End);
+    EXPECT_THAT(entries(systems()), ElementsAre(u"Arcade"_s, u"NES"_s));
+    EXPECT_EQ(systems().Text(), u"Arcade"_s);
+    EXPECT_EQ(emulators().Text(), u"Fbn"_s);
+    EXPECT_THAT(listed(), IsEmpty());
+    EXPECT_EQ(focused(), u"Lista1"_s);
+}
+
+TEST_F(GrabacionTest, ANewEmulatorIsTheLastOfItsSystemAndListedByItsSelection)
+{
+    withNes({ .roms = at(u"a/"_s) });
+    configurePair(u"NES"_s, u"N2"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/n2"_s);
+        write(form, u"Casilla2"_s, files.path(u"b"_s));
+        mark(form, 4);
+        saveWell(form);
+    });
+    expectCatalogue(Top
+        + configured("NES", "http://nes",
+            emulator("N1", { .roms = at(u"a/"_s) }) + "'\r\n"
+                + emulator("N2", { .exe = "/bin/n2", .type = "5", .roms = at(u"b/"_s) }))
+        + End);
+    EXPECT_THAT(entries(emulators()), ElementsAre(u"N1"_s, u"N2"_s));
+    EXPECT_EQ(emulators().Text(), u"N2"_s);
+    EXPECT_THAT(listed(), ElementsAre(u"three.bin"_s, u"two.bin"_s));
+    EXPECT_EQ(word(), u"TXT_Cargar"_s);
+    EXPECT_EQ(focused(), u"Lista1"_s);
+}
+
+TEST_F(GrabacionTest, ANewEmulatorStaysUnlistedWhereTheOldSelectionNoLongerFits)
+{
+    // Two systems, the second of which was selected at the start and has gone since.
+    catalogue = Top + configured("NES", "http://nes", emulator("N1", { .roms = at(u"a/"_s) }))
+        + configured("Own", "http://own", emulator("O1", { .roms = at(u"b/"_s) })) + End;
+    Settings settings;
+    settings.LastSisUsed = u"1"_s;
+    files.writeSettings(settings);
+    begin();
+    files.write(u"Zembro.emu"_s,
+        Top + configured("NES", "http://nes", emulator("N1", { .roms = at(u"a/"_s) })) + End);
+    portada->Llena_Combos();
+    configurePair(u"NES"_s, u"N2"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/n2"_s);
+        write(form, u"Casilla2"_s, files.path(u"a"_s));
+        saveWell(form);
+    });
+    EXPECT_EQ(emulators().Text(), u"N2"_s);
+    EXPECT_THAT(listed(), ElementsAre(u"three.bin"_s, u"two.bin"_s)); // the old list
+    EXPECT_EQ(M->Combo2Listo, 0);
+}
+
+TEST_F(GrabacionTest, NothingChangedIsRefusedAndNothingTouched)
+{
+    withNes({ "/bin/emu", "0", at(u"a/"_s), at(u"red/"_s), "-a", "-b" });
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) { expectRefused(form, u"Msg_SinCambios"_s); });
+}
+
+TEST_F(GrabacionTest, ADirectoryWithoutItsSeparatorIsAChange_AndComesOutTheSame)
+{
+    withNes({ .roms = at(u"a/"_s) });
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla2"_s, files.path(u"a"_s));
+        saveWell(form);
+    });
+    expectFilesUnchanged();
+}
+
+TEST_F(GrabacionTest, AChangedEmulatorTakesThePlaceOfItsOldBlock_AndTheCombosStay)
+{
+    catalogue = Top
+        + configured("NES", "http://nes",
+            emulator("N2", { .roms = "/n/" }) + "'\r\n" + emulator("N1", { .roms = at(u"a/"_s) }))
+        + End;
+    begin();
+    pick(emulators(), u"N1"_s);
+    ASSERT_THAT(listed(), ElementsAre(u"one.bin"_s));
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/other"_s);
+        mark(form, 4);
+        saveWell(form);
+    });
+    expectCatalogue(Top
+        + configured("NES", "http://nes",
+            emulator("N2", { .roms = "/n/" }) + "'\r\n"
+                + emulator("N1", { .exe = "/bin/other", .type = "5", .roms = at(u"a/"_s) }))
+        + End);
+    EXPECT_EQ(emulators().Text(), u"N1"_s);
+    EXPECT_EQ(M->TipoEmu, u"5"_s);
+    EXPECT_EQ(word(), u"TXT_Cargar"_s);
+    EXPECT_EQ(M->Cat_EXE(0, 2), u"EXE=/bin/other"_s);
+    EXPECT_EQ(M->Combo1Listo, 1);
+    EXPECT_EQ(M->Combo2Listo, 1);
+    EXPECT_EQ(focused(), u"Lista1"_s);
+}
+
+TEST_F(GrabacionTest, AnotherRomDirectoryIsListedAtOnce)
+{
+    withNes({ .roms = at(u"a/"_s) });
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla2"_s, files.path(u"b/"_s));
+        saveWell(form);
+    });
+    EXPECT_THAT(listed(), ElementsAre(u"three.bin"_s, u"two.bin"_s));
+}
+
+TEST_F(GrabacionTest, AnotherCaptureDirectoryShowsItsCapture)
+{
+    withNes({ .roms = at(u"a/"_s), .captures = at(u"red/"_s) });
+    ASSERT_EQ(capture(), QColor(Qt::red));
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla3"_s, files.path(u"blue"_s));
+        saveWell(form);
+    });
+    EXPECT_EQ(capture(), QColor(Qt::blue));
+}
+
+TEST_F(GrabacionTest, AnEmptyCaptureDirectoryIsNoFailure_AndShowsBlack)
+{
+    withNes({ .roms = at(u"a/"_s), .captures = at(u"red/"_s) });
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla3"_s, {});
+        saveWell(form);
+    });
+    expectCatalogue(Top + configured("NES", "http://nes", emulator("N1", { .roms = at(u"a/"_s) })) + End);
+    EXPECT_EQ(capture(), QColor(Qt::black));
+    EXPECT_EQ(zoomed(), QColor(Qt::black));
+}
+
+TEST_F(GrabacionTest, APairThatIsntSelectedBecomesSo_AndKeepsTheOldListWhereOnlyTheExecutableChanged)
+{
+    catalogue = Top + configured("NES", "http://nes", emulator("N1", { .roms = at(u"a/"_s) }))
+        + configured("Own", "http://own", emulator("O1", { .roms = at(u"b/"_s) })) + End;
+    begin();
+    ASSERT_THAT(listed(), ElementsAre(u"one.bin"_s));
+    configurePair(u"Own"_s, u"O1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/other"_s);
+        saveWell(form);
+    });
+    EXPECT_EQ(systems().Text(), u"Own"_s);
+    EXPECT_EQ(emulators().Text(), u"O1"_s);
+    EXPECT_THAT(listed(), ElementsAre(u"one.bin"_s));
+    EXPECT_EQ(M->Combo1Listo, 1);
+    EXPECT_EQ(M->Combo2Listo, 1);
+}
+
+TEST_F(GrabacionTest, OfTwoEmulatorsOfOneNameTheFirstInTheFileChanges_WithTheAddressOfTheRightSystem)
+{
+    database.replace("+O1\r\nWEB2=http://o1\r\n+N1\r\nWEB2=http://n1",
+        "+O1\r\nWEB2=http://o1\r\n+N1\r\nWEB2=http://own-n1");
+    const QByteArray second =
+        configured("Own", "http://own", emulator("N1", { .exe = "/bin/second", .roms = "/s/" }));
+    catalogue = Top + configured("NES", "http://nes", emulator("N1", { .roms = at(u"a/"_s) })) + second + End;
+    begin();
+    configurePair(u"Own"_s, u"N1"_s, [this](forms::Form &form) {
+        EXPECT_EQ(controlOf<forms::TextBox>(form, u"Casilla1"_s).Text(), u"/bin/emu"_s);
+        write(form, u"Casilla1"_s, u"/bin/new"_s);
+        saveWell(form);
+    });
+    QByteArray changed = emulator("N1", { .exe = "/bin/new", .roms = at(u"a/"_s) });
+    changed.replace("http://n1", "http://own-n1");
+    expectCatalogue(Top + configured("NES", "http://nes", changed) + second + End);
+}
+
+TEST_F(GrabacionTest, AStoredTypeFromFiveOnSavedAtOnceIsAnotherOne)
+{
+    catalogue =
+        Top + configured("Own", "http://own", emulator("O1", { .type = "5", .roms = at(u"games/"_s) })) + End;
+    begin();
+    // The list stays as it was: without files.
+    configurePair(u"Own"_s, u"O1"_s, [this](forms::Form &form) { saveWithoutGames(form); });
+    const QByteArray changed = emulator("O1", { .type = "6", .roms = at(u"games/"_s) });
+    expectCatalogue(Top + configured("Own", "http://own", changed) + End);
+}
+
+TEST_F(GrabacionTest, EveryCombinationOfMarksIsSavedAsItsDigit)
+{
+    const std::pair<QString, QByteArray> types[] = { { u""_s, "0" }, { u"1"_s, "1" }, { u"2"_s, "2" },
+        { u"23"_s, "3" }, { u"4"_s, "5" }, { u"14"_s, "6" }, { u"24"_s, "7" }, { u"234"_s, "8" } };
+    for (const auto &[marks, type] : types) {
+        renew();
+        begin();
+        configurePair(u"Own"_s, u"O1"_s, [&, wanted = marks](forms::Form &form) {
+            write(form, u"Casilla1"_s, u"/bin/emu"_s);
+            write(form, u"Casilla2"_s, u"/none/"_s);
+            for (const QChar number : wanted)
+                mark(form, number.digitValue());
+            saveWithoutGames(form);
+        });
+        expectCatalogue(
+            Top + configured("Own", "http://own", emulator("O1", { .type = type, .roms = "/none/" })) + End);
+    }
+}
+
+TEST_F(GrabacionTest, ASystemOfDiscsMayHaveNoRomDirectory)
+{
+    begin();
+    configurePair(u"Play Station"_s, u"P1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/psx"_s);
+        atModal(u"Caja"_s, [&form](forms::Form &box) {
+            EXPECT_EQ(controlOf<forms::TextBox>(form, u"Casilla2"_s).Text(), u"C:\\NoDir"_s);
+            click(controlOf<QWidget>(box, u"Flecha2"_s));
+        });
+        save(form);
+    });
+    expectCatalogue(Top
+        + configured("Play Station", "", emulator("P1", { .exe = "/bin/psx", .roms = "C:\\NoDir\\" })) + End);
+    // Emptied again it counts as a change.
+    configurePair(u"Play Station"_s, u"P1"_s, [this](forms::Form &form) {
+        EXPECT_EQ(controlOf<forms::TextBox>(form, u"Casilla2"_s).Text(), u"C:\\NoDir\\"_s);
+        write(form, u"Casilla2"_s, {});
+        saveWithoutGames(form);
+    });
+    expectCatalogue(Top
+        + configured("Play Station", "", emulator("P1", { .exe = "/bin/psx", .roms = "C:\\NoDir\\" })) + End);
+}
+
+TEST_F(GrabacionTest, DirectoriesGetTheSeparatorOfTheirOwnKindOnce)
+{
+    begin();
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"emu"_s);
+        write(form, u"Casilla2"_s, u"D:\\ROMS\\"_s);
+        write(form, u"Casilla3"_s, u"C:\\shots"_s);
+        saveWithoutGames(form);
+    });
+    const Block block { "emu", "0", "D:\\ROMS\\", "C:\\shots\\" };
+    expectCatalogue(Top + configured("NES", "http://nes", emulator("N1", block)) + End);
+}
+
+TEST_F(GrabacionTest, APairThatTheDatabaseLacksGetsEmptyLinesForItsPages)
+{
+    begin();
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        database = "' all\r\n" + known("NES", "http://nes", { "N2" }) + "[EOF]\r\n";
+        files.write(u"Zembro.sye"_s, database);
+        write(form, u"Casilla1"_s, u"/bin/emu"_s);
+        write(form, u"Casilla2"_s, files.path(u"a"_s));
+        saveWell(form);
+    });
+    QByteArray block = emulator("N1", { .roms = at(u"a/"_s) });
+    block.replace("WEB2=http://n1", "");
+    expectCatalogue(Top + configured("NES", "http://nes", block) + End);
+}
+
+TEST_F(GrabacionTest, TwoBracketsTakeANewSystemTwice_AndTheFirstIsSelected)
+{
+    catalogue = Top + "[one]\r\n[two]\r\n";
+    begin();
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/emu"_s);
+        write(form, u"Casilla2"_s, files.path(u"a"_s));
+        saveWell(form);
+    });
+    const QByteArray block = configured("NES", "http://nes", emulator("N1", { .roms = at(u"a/"_s) }));
+    expectCatalogue(Top + block + "[one]\r\n" + block + "[two]\r\n");
+    EXPECT_THAT(entries(systems()), ElementsAre(u"NES"_s, u"NES"_s));
+}
+
+TEST_F(GrabacionTest, AStaleSecondStepSavesItsKindForThePairSelectedNow)
+{
+    database = database.chopped(7) + known("Void", "", {}) + "[EOF]\r\n";
+    catalogue = Top + configured("NES", "http://nes", emulator("N1", { .roms = at(u"a/"_s) })) + End;
+    begin();
+    configure([this](forms::Form &first) {
+        select(controlOf<forms::ListBox>(first, u"Lista1"_s), u"Void"_s);
+        atWarning(u"Msg_NoEmuLD"_s);
+        click(controlOf<QWidget>(first, u"Aceptar2"_s));
+    });
+    configurePair(u"NES"_s, u"N2"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/n2"_s);
+        write(form, u"Casilla2"_s, files.path(u"b"_s));
+        EXPECT_EQ(M->Config2_Cambios, 0);
+        const std::optional<ProcessEnd> end = endOf([&form] { save(form); });
+        // A second block of the system: the first one, without this emulator, is the one selected.
+        ASSERT_TRUE(end);
+        EXPECT_THAT(end->text.toStdString(), HasSubstr("(ERR383)"));
+    });
+    EXPECT_EQ(files.read(u"Zembro.emu"_s),
+        catalogue.chopped(End.size())
+            + configured("NES", "http://nes", emulator("N2", { .exe = "/bin/n2", .roms = at(u"b/"_s) }))
+            + End);
+}
+
+TEST_F(GrabacionTest, AMissingCatalogueEndsTheProgramAndTheDatabaseStays)
+{
+    begin();
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        files.remove(u"Zembro.emu"_s);
+        write(form, u"Casilla1"_s, u"/bin/emu"_s);
+        write(form, u"Casilla2"_s, files.path(u"a"_s));
+        const std::optional<ProcessEnd> end = endOf([&form] { save(form); });
+        ASSERT_TRUE(end);
+        EXPECT_THAT(end->text.toStdString(), HasSubstr("(ERR53)"));
+        EXPECT_THAT(end->text.toStdString(), HasSubstr("Zembro.emu"));
+    });
+    EXPECT_EQ(files.read(u"Zembro.sye"_s), database);
+}
+
+TEST_F(GrabacionTest, The152ndSystemIsWritten_AndEndsTheProgramAfterwards)
+{
+    catalogue = Top;
+    for (int s = 0; s < 151; ++s)
+        catalogue += configured("S" + QByteArray::number(s).rightJustified(3, '0'), "", emulator("E", {}));
+    catalogue += End;
+    begin();
+    configurePair(u"Own"_s, u"O1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/emu"_s);
+        write(form, u"Casilla2"_s, files.path(u"a"_s));
+        const std::optional<ProcessEnd> end = endOf([&form] { save(form); });
+        ASSERT_TRUE(end);
+        EXPECT_THAT(end->text.toStdString(), HasSubstr("(ERR383)"));
+    });
+    EXPECT_EQ(files.read(u"Zembro.emu"_s),
+        catalogue.chopped(End.size())
+            + configured("Own", "http://own", emulator("O1", { .roms = at(u"a/"_s) })) + End);
+}
