@@ -41,9 +41,8 @@ int main(int argc, char **argv)
     forms::FormHolder<options::PrimeraInstalacion> primera(
         [&M] { return std::make_unique<options::PrimeraInstalacion>(M); });
     maintenance::Bajas bajas(M, portada);
-    options::Pantallas opciones(M, portada);
     maintenance::Pasos pasos(M, portada);
-    portada.Boton1b->Release = [&pasos] { pasos.Muestra(); };
+    options::Pantallas opciones(M, portada);
     portada.MuestraPrimeraInstalacion = [&primera] { primera.ShowModal(nullptr); };
 
     forms::guarded([&portada] { portada.Carga(); });

@@ -15,6 +15,7 @@ Pasos::Pasos(core::Modulo &modulo, mainscreen::Portada &portada)
     , m_paso2([this] { return HazPaso2(); })
     , m_examinar([this] { return HazExaminar(); })
 {
+    P.Boton1b->Release = [this] { Boton1b_Release(); };
 }
 
 std::unique_ptr<Configuracion1> Pasos::HazPaso1()
@@ -39,7 +40,7 @@ std::unique_ptr<dialogs::Examinar> Pasos::HazExaminar()
     return std::make_unique<dialogs::Examinar>(M, P.Teja(), aviso);
 }
 
-void Pasos::Muestra()
+void Pasos::Boton1b_Release()
 {
     m_paso1->PonTextos();
     m_paso1.ShowModal(nullptr);

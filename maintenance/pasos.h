@@ -1,4 +1,5 @@
-// The two steps of configuring an emulator, and the way from one to the other.
+// The two steps of configuring an emulator, and the way to them and from one to the other: the main screen's
+// button Boton1b.
 #pragma once
 
 #include "core/modulo.h"
@@ -16,16 +17,15 @@ class Portada;
 
 namespace maintenance {
 
-// Lives as long as the main screen. The second step, once loaded, stays so until it has been shown and
-// closed, also where the first one refuses to go on or is closed and opened anew.
+// The second step, once loaded, stays so until it has been shown and closed, also where the first one refuses
+// to go on or is closed and opened anew.
 class Pasos {
 public:
+    // Puts its handler on the button; must live as long as the screen does.
     Pasos(core::Modulo &modulo, mainscreen::Portada &portada);
 
-    // Shows the first step in the language of the moment; returns when both have closed.
-    void Muestra();
-
 private:
+    void Boton1b_Release();
     std::unique_ptr<Configuracion1> HazPaso1();
     std::unique_ptr<Configuracion2> HazPaso2();
     std::unique_ptr<dialogs::Examinar> HazExaminar();

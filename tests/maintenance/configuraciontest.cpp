@@ -41,7 +41,6 @@ void ConfiguracionTest::begin()
     m_settings = files.read(u"Zembro.cfg"_s);
     m_removals = std::make_unique<maintenance::Bajas>(*M, *portada);
     m_steps = std::make_unique<maintenance::Pasos>(*M, *portada);
-    portada->Boton1b->Release = [this] { m_steps->Muestra(); };
     start();
 }
 
