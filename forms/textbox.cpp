@@ -15,6 +15,12 @@ TextBox::TextBox(QWidget *parent)
     });
 }
 
+void TextBox::SetText(const QString &value)
+{
+    setText(value);
+    setCursorPosition(0);
+}
+
 TextArea::TextArea(QWidget *parent)
     : Control(parent)
 {

@@ -8,13 +8,14 @@
 
 namespace forms {
 
-// One line: of a text with line breaks, pasted or set, what stands ahead of the first one stays.
+// One line: of a text with line breaks, pasted or set, what stands ahead of the first one stays. Of a text
+// set that is too long for the box its beginning shows.
 class TextBox : public Control<QLineEdit> {
 public:
     explicit TextBox(QWidget *parent);
 
     QString Text() const { return text(); }
-    void SetText(const QString &value) { setText(value); }
+    void SetText(const QString &value);
 };
 
 class TextArea : public Control<QPlainTextEdit> {

@@ -286,6 +286,12 @@ TEST_F(Controls, ATextAreasColours_AreThoseOfItsPaper)
     EXPECT_EQ(text.palette().color(QPalette::Text), QColor(Qt::yellow));
 }
 
+TEST_F(Controls, OfATextSetTooLongForItsBox_TheBeginningShows)
+{
+    box.SetText(QString(500, u'x'));
+    EXPECT_EQ(box.cursorPosition(), 0);
+}
+
 TEST_F(Controls, OfATextWithLineBreaks_ATextBoxKeepsTheFirstLine)
 {
     box.SetText(u"http://x.example\n-Foo"_s);
