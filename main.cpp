@@ -5,6 +5,7 @@
 
 #include "forms/application.h"
 #include "forms/guard.h"
+#include "forms/pictures.h"
 
 #include "host/desktopquestions.h"
 #include "host/display.h"
@@ -20,6 +21,8 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char **argv)
 {
     host::rememberEnvironment();
@@ -30,6 +33,7 @@ int main(int argc, char **argv)
     host::DesktopQuestions preguntas;
     host::setQuestions(&preguntas);
     forms::Application aplicacion(argc, argv);
+    forms::Application::setWindowIcon(forms::artworkIcon(u"icono"_s));
 
     bool arrancando = true;
     forms::setFatalWords([&arrancando](const host::Failure &fallo) {

@@ -65,4 +65,12 @@ QPixmap artwork(const QString &name, const QSize &size, qreal devicePixelRatio)
     return *found;
 }
 
+QIcon artworkIcon(const QString &name)
+{
+    QIcon icon;
+    for (const int side : { 16, 22, 24, 32, 48, 64, 128 })
+        icon.addPixmap(artwork(name, { side, side }, 1));
+    return icon;
+}
+
 } // namespace forms

@@ -1,6 +1,7 @@
 // Pictures: from files the user brings, and the program's own artwork.
 #pragma once
 
+#include <QIcon>
 #include <QPixmap>
 #include <QString>
 
@@ -13,5 +14,8 @@ QPixmap LoadPicture(const QString &path);
 // The artwork of this name (":/artwork/<name>.svg") at the size given in design pixels, drawn for the device
 // pixel ratio; kept once drawn. A name without a drawing is a fault of the build and gives an empty picture.
 QPixmap artwork(const QString &name, const QSize &size, qreal devicePixelRatio);
+
+// The same artwork as a window's icon, in the sizes that desktops ask for.
+QIcon artworkIcon(const QString &name);
 
 } // namespace forms

@@ -90,6 +90,13 @@ TEST_F(Pictures, ANameWithoutADrawing_GivesAnEmptyPicture)
     EXPECT_TRUE(forms::artwork(u"Nothing"_s, QSize(10, 10), 1).isNull());
 }
 
+TEST_F(Pictures, AnIcon_IsDrawnInTheSizesThatDesktopsAskFor)
+{
+    const QIcon icon = forms::artworkIcon(u"Rest2"_s);
+    for (const int side : { 16, 24, 32, 48, 64 })
+        EXPECT_EQ(icon.actualSize({ side, side }), QSize(side, side));
+}
+
 class Images : public testing::Test {
 protected:
     Images()
