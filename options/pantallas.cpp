@@ -7,14 +7,19 @@ namespace options {
 Pantallas::Pantallas(core::Modulo &modulo, mainscreen::Portada &portada)
     : P(portada)
     , m_opciones1([&modulo, &portada] { return std::make_unique<Opciones1>(modulo, portada); })
+    , m_utilidades(
+          [this, &modulo, &portada] { return std::make_unique<Utilidades>(modulo, portada, m_opciones1); })
+    , m_acercaDe([&modulo, &portada] { return std::make_unique<AcercaDe>(modulo, portada); })
 {
-    P.Boton2b->Release = [this] { Boton2b_Release(); };
+    P.Boton2b->Release = [this] { Abre(m_opciones1); };
+    P.Boton3b->Release = [this] { Abre(m_utilidades); };
+    P.Boton4b->Release = [this] { Abre(m_acercaDe); };
 }
 
-void Pantallas::Boton2b_Release()
+template <class Forma> void Pantallas::Abre(forms::FormHolder<Forma> &forma)
 {
-    m_opciones1->PonTextos();
-    m_opciones1.ShowModal(&P);
+    forma->PonTextos();
+    forma.ShowModal(&P);
 }
 
 } // namespace options

@@ -5,7 +5,9 @@
 
 #include "forms/form.h"
 
+#include "options/acercade.h"
 #include "options/opciones1.h"
+#include "options/utilidades.h"
 
 namespace mainscreen {
 class Portada;
@@ -19,10 +21,13 @@ public:
     Pantallas(core::Modulo &modulo, mainscreen::Portada &portada);
 
 private:
-    void Boton2b_Release();
+    // Writes the language on the form, and shows it.
+    template <class Forma> void Abre(forms::FormHolder<Forma> &forma);
 
     mainscreen::Portada &P;
     forms::FormHolder<Opciones1> m_opciones1;
+    forms::FormHolder<Utilidades> m_utilidades;
+    forms::FormHolder<AcercaDe> m_acercaDe;
 };
 
 } // namespace options

@@ -1,0 +1,67 @@
+#include "options/enlace.h"
+
+#include "host/tools.h"
+
+#include <QPainter>
+
+namespace options {
+
+namespace {
+
+constexpr QRgb Amarillo = qRgb(255, 255, 0);
+constexpr QRgb Rojo = qRgb(255, 0, 0);
+constexpr int Alto = 210; // twips
+
+} // namespace
+
+Enlace::Enlace(QWidget *padre, const QString &nombre, int izquierda, int arriba, const QString &texto,
+    const QString &destino)
+    : Label(padre)
+    , m_destino(destino)
+{
+    setObjectName(nombre);
+    setFont(forms::arial(8.25, true));
+    SetForeColor(QColor(Rojo));
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::TabFocus);
+    SetPlace({ izquierda, arriba, forms::twips(fontMetrics().horizontalAdvance(texto)), Alto });
+    SetCaption(texto);
+    MouseDown = [this](const forms::Mouse &) { Pulsa(); };
+    MouseUp = [this](const forms::Mouse &) { Suelta(); };
+}
+
+void Enlace::Pulsa()
+{
+    SetForeColor(QColor(Amarillo));
+}
+
+void Enlace::Suelta()
+{
+    SetForeColor(QColor(Rojo));
+    host::openLink(m_destino);
+}
+
+void Enlace::paintEvent(QPaintEvent *event)
+{
+    Label::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter pintor(this);
+    pintor.setPen(QPen(Qt::white, 1, Qt::DotLine));
+    pintor.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void Enlace::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Space && forms::keyCodeOf(*event) != forms::EnterKey) {
+        Label::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    if (event->isAutoRepeat())
+        return;
+    Pulsa();
+    Suelta();
+}
+
+} // namespace options
