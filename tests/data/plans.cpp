@@ -1,6 +1,5 @@
 #include "plans.h"
 
-#include "forms/combobox.h"
 #include "forms/label.h"
 #include "forms/shape.h"
 
@@ -94,58 +93,6 @@ Screen configuracion2()
         } };
 }
 
-Screen opciones1()
-{
-    return { "Opciones1", 2655, 4620, u"TXT_TituloOp1"_s,
-        {
-            textOf(u"TXT_Editor"_s, Kind::Label, { 120, 240, 2340, 210 }),
-            { u"Combo1"_s, Kind::Combo, { 120, 480, 2415, 315 }, { u"TXT_EditorDOS"_s, u"TXT_EditorWIN"_s } },
-            textOf(u"TXT_Idioma"_s, Kind::Label, { 120, 1080, 2415, 255 }),
-            without(u"Combo2"_s, { 120, 1320, 2415, 315 }),
-            textOf(u"TXT_InfoLNG"_s, Kind::Centred, { 120, 1800, 2400, 210 }),
-            textOf(u"TXT_EditarLNG"_s, Kind::Label, { 120, 2280, 2415, 495 }),
-            { u"Boton2"_s, Kind::Button, { 120, 2760, 495, 315 }, { u"TXT_Si"_s } },
-            { u"Boton_CFGAv"_s, Kind::Button, { 120, 3360, 2415, 255 }, { u"Boton_CFGAv"_s } },
-            without(u"Disco1"_s, { 120, 3840, 435, 435 }),
-            textOf(u"TXT_Grabar"_s, Kind::Centred, { 90, 4320, 510, 210 }),
-            without(u"Flecha2"_s, { 800, 3880, 615, 375 }),
-            textOf(u"TXT_Volver"_s, Kind::Centred, { 735, 4320, 705, 210 }),
-        } };
-}
-
-Screen opciones2()
-{
-    return { "Opciones2", 2655, 5685, u"TXT_TituloOp2"_s,
-        {
-            textOf(u"TXT_Guardar"_s, Kind::Label, { 120, 120, 2370, 690 }),
-            without(u"Opcion1"_s, { 600, 840, 255, 255 }),
-            textOf(u"TXT_Si"_s, Kind::Label, { 860, 870, 135, 195 }),
-            without(u"Opcion2"_s, { 1320, 840, 255, 255 }),
-            textOf(u"TXT_No"_s, Kind::Label, { 1575, 870, 210, 195 }),
-            textOf(u"TXT_GuardarAviso"_s, Kind::Label, { 120, 1200, 2175, 495 }),
-            textOf(u"TXT_Filtros"_s, Kind::Label, { 120, 1920, 2535, 495 }),
-            without(u"CajaTexto1"_s, { 120, 2400, 2355, 285 }),
-            textOf(u"TXT_FinDOS"_s, Kind::Label, { 120, 3000, 2175, 615 }),
-            without(u"CajaTexto2"_s, { 120, 3720, 2415, 285 }),
-            textOf(u"TXT_FinDOSAviso"_s, Kind::Label, { 120, 4080, 2535, 660 }),
-            without(u"Disco1"_s, { 120, 4900, 435, 435 }),
-            textOf(u"TXT_Grabar"_s, Kind::Centred, { 90, 5385, 510, 210 }),
-            without(u"Flecha2"_s, { 750, 4950, 615, 375 }),
-            textOf(u"TXT_Volver"_s, Kind::Centred, { 735, 5385, 705, 210 }),
-        } };
-}
-
-Screen utilidades()
-{
-    return { "Utilidades", 2130, 2220, u"TXT_TituloUtil"_s,
-        {
-            textOf(u"TXT_Convertir"_s, Kind::Label, { 120, 120, 1935, 615 }),
-            { u"Boton1"_s, Kind::Button, { 120, 840, 495, 315 }, { u"TXT_Si"_s } },
-            without(u"Flecha2"_s, { 200, 1500, 615, 375 }),
-            textOf(u"TXT_Volver"_s, Kind::Centred, { 120, 1920, 720, 210 }),
-        } };
-}
-
 // As wide as it is for picking a directory, without the list of files.
 Screen examinar()
 {
@@ -180,8 +127,6 @@ QWidget *controlOf(Kind kind, QWidget *parent)
         return new forms::Shape(Qt::black, parent);
     case Kind::Button:
         return new QPushButton(parent);
-    case Kind::Combo:
-        return new forms::ComboBox(parent);
     case Kind::Other:
         break;
     }
@@ -197,8 +142,7 @@ void PrintTo(const Screen &screen, std::ostream *out)
 
 const std::vector<Screen> &screens()
 {
-    static const std::vector<Screen> planned { configuracion1(), configuracion2(), opciones1(), opciones2(),
-        utilidades(), examinar() };
+    static const std::vector<Screen> planned { configuracion1(), configuracion2(), examinar() };
     return planned;
 }
 

@@ -13,7 +13,7 @@
 
 namespace plans {
 
-enum class Kind { Label, Centred, Bold, Frame, Button, Combo, Other };
+enum class Kind { Label, Centred, Bold, Frame, Button, Other };
 
 struct Planned {
     QString control;

@@ -1,5 +1,7 @@
 #include "room.h"
 
+#include "forms/combobox.h"
+#include "forms/commandbutton.h"
 #include "forms/shape.h"
 #include "forms/units.h"
 
@@ -100,6 +102,38 @@ testing::AssertionResult titleTakes(const QString &caption, int width, bool boxe
     constexpr int Edge = 300; // twips, both sides together
     constexpr int Boxes = 600;
     return fits(caption, forms::arial(8.25, true), forms::pixels(width - Edge - (boxes ? Boxes : 0)));
+}
+
+QStringList textsOf(const forms::Form &form)
+{
+    QStringList texts { form.Caption() };
+    for (const QWidget *control : form.findChildren<QWidget *>()) {
+        if (const auto *label = dynamic_cast<const forms::Label *>(control))
+            texts += label->Caption();
+        if (const auto *button = dynamic_cast<const forms::CommandButton *>(control))
+            texts += button->Caption();
+        const auto *combo = dynamic_cast<const forms::ComboBox *>(control);
+        for (int i = 0; combo && i < combo->ListCount(); ++i)
+            texts += combo->List(i);
+    }
+    return texts;
+}
+
+void expectWhole(const forms::Form &form)
+{
+    EXPECT_TRUE(titleTakes(form.Caption(), forms::twips(form.width()), true));
+    for (const QWidget *control : form.findChildren<QWidget *>()) {
+        SCOPED_TRACE(control->objectName().toStdString());
+        if (const auto *label = dynamic_cast<const forms::Label *>(control); label && label->isVisible()) {
+            EXPECT_TRUE(showsWhole(*label));
+        }
+        if (const auto *button = dynamic_cast<const forms::CommandButton *>(control)) {
+            EXPECT_TRUE(takes(*button, button->Caption()));
+        }
+        const auto *combo = dynamic_cast<const forms::ComboBox *>(control);
+        for (int i = 0; combo && i < combo->ListCount(); ++i)
+            EXPECT_TRUE(takes(*combo, combo->List(i)));
+    }
 }
 
 } // namespace room

@@ -1,6 +1,7 @@
 // Whether a control shows a text whole.
 #pragma once
 
+#include "forms/form.h"
 #include "forms/label.h"
 
 #include <gtest/gtest.h>
@@ -21,5 +22,11 @@ testing::AssertionResult takes(const QComboBox &combo, const QString &entry);
 // A form of this client width in twips has room for this caption in its title bar, beside an icon and a box
 // for closing if it has them.
 testing::AssertionResult titleTakes(const QString &caption, int width, bool boxes);
+
+// What a form says: its caption, its labels and buttons, and the entries of its drop-down lists.
+QStringList textsOf(const forms::Form &form);
+
+// Expects that a form with a box for closing says all of it whole.
+void expectWhole(const forms::Form &form);
 
 } // namespace room
