@@ -5,13 +5,20 @@
 #include "core/lista.h"
 
 #include "host/letters.h"
-#include "host/paths.h"
 
 #include "mainscreen/portada.h"
+
+#include "maintenance/reescritura.h"
 
 using namespace Qt::StringLiterals;
 
 namespace maintenance {
+
+namespace {
+
+const QString Zembro_emu = u"Zembro.emu"_s;
+
+} // namespace
 
 Bajas::Bajas(core::Modulo &modulo, mainscreen::Portada &portada)
     : M(modulo)
@@ -43,11 +50,6 @@ bool Bajas::Confirma(const QString &titulo, const QString &mensaje)
     return M.Respuesta_Opcion != 1;
 }
 
-void Bajas::Reescribe(const std::function<QString(const QString &)> &cambio)
-{
-    M.Ficheros.rewrite(host::programFile(u"Zembro.emu"_s), u"Zembro.tmp"_s, cambio);
-}
-
 // Reads the catalogue anew, and selects by places in the sorted lists.
 void Bajas::RefrescaCombos(int posicion, int emulador)
 {
@@ -62,7 +64,7 @@ void Bajas::BorraSistema()
     const int posicion = core::PosicionParaBorrar(M, sistema);
     if (!Confirma(M.Msg_BorrarSis0, M.Msg_BorrarSis1 + sistema))
         return;
-    Reescribe([&](const QString &texto) { return core::SinSistema(texto, sistema); });
+    reescribe(M, Zembro_emu, [&](const QString &texto) { return core::SinSistema(texto, sistema); });
     RefrescaCombos(core::PosicionTrasBorrar(posicion, M.TotalSistemas), core::NingunEmulador);
     P.TXT_Info->SetCaption(M.TXT_NingunaROM);
     if (!P.Combo1->Text().isEmpty()) {
@@ -102,7 +104,8 @@ void Bajas::BorraEmulador()
 // The system stays in the catalogue and in Combo1, empty.
 void Bajas::BorraUnico(const Elegido &elegido)
 {
-    Reescribe([&](const QString &texto) { return core::SinUnicoEmulador(texto, elegido.sistema); });
+    reescribe(
+        M, Zembro_emu, [&](const QString &texto) { return core::SinUnicoEmulador(texto, elegido.sistema); });
     RefrescaCombos(elegido.posicion, core::NingunEmulador);
     if (P.Combo2->Text().isEmpty())
         SinNadaQueJugar();
@@ -115,7 +118,7 @@ void Bajas::BorraUnico(const Elegido &elegido)
 // A single one that remains is selected at once, and listed unless the slots of the ROM lines are equal.
 void Bajas::BorraUnoDeVarios(const Elegido &elegido)
 {
-    Reescribe([&](const QString &texto) {
+    reescribe(M, Zembro_emu, [&](const QString &texto) {
         return elegido.esElUltimo ? core::SinUltimoEmulador(texto, elegido.sistema, elegido.total)
                                   : core::SinEmulador(texto, elegido.emulador);
     });

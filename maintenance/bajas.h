@@ -5,8 +5,6 @@
 
 #include "core/modulo.h"
 
-#include <functional>
-
 namespace mainscreen {
 class Portada;
 }
@@ -32,7 +30,6 @@ private:
     void Menos2b_Release();
 
     bool Confirma(const QString &titulo, const QString &mensaje);
-    void Reescribe(const std::function<QString(const QString &)> &cambio);
     void RefrescaCombos(int posicion, int emulador);
 
     void BorraSistema();

@@ -5,8 +5,6 @@
 
 #include "core/basededatos.h"
 
-#include "host/paths.h"
-
 #include "mainscreen/portada.h"
 
 using namespace Qt::StringLiterals;
@@ -15,7 +13,6 @@ namespace maintenance {
 
 namespace {
 
-const QString Zembro_tmp = u"Zembro.tmp"_s;
 constexpr int MaxEmuladores = core::MaxSistemas - 1;
 
 } // namespace
@@ -105,11 +102,6 @@ void Configuracion1::Mensaje(
     int tipo, const QString &mensaje, const QString &titulo, const QString &enLaCasilla)
 {
     P.Mensaje(tipo, mensaje, titulo, TXT_Aceptar->Caption(), TXT_Volver->Caption(), enLaCasilla);
-}
-
-void Configuracion1::Reescribe(const QString &fichero, const Cambio &cambio)
-{
-    M.Ficheros.rewrite(host::programFile(fichero), Zembro_tmp, cambio);
 }
 
 // With CambioConfig1 at 1 the tables alone: the lists keep their entries, and Lista1Lista stays 0, so that

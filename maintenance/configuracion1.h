@@ -79,8 +79,6 @@ private:
     bool Pide(const QString &mensaje, const QString &titulo, const QString &oferta);
     void CambiaEnAmbos(const Cambio &cambio, const std::function<bool()> &enUso);
 
-    void Reescribe(const QString &fichero, const Cambio &cambio);
-
     core::Modulo &M;
     mainscreen::Portada &P;
 };

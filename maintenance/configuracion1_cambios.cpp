@@ -9,6 +9,8 @@
 #include "core/basededatos.h"
 #include "core/notas.h"
 
+#include "maintenance/reescritura.h"
+
 using namespace Qt::StringLiterals;
 
 namespace maintenance {
@@ -45,8 +47,8 @@ void Configuracion1::AñadirSistema()
         Mensaje(3, M.Msg_SisYaAñadido1, M.Msg_SisYaAñadido0);
         return;
     }
-    Reescribe(Zembro_sye, [&](const QString &texto) { return core::ConSistemaEnBase(texto, nuevo); });
-    Reescribe(Zembro_rom, [&](const QString &texto) { return core::ConSistemaNuevo(texto, nuevo); });
+    reescribe(M, Zembro_sye, [&](const QString &texto) { return core::ConSistemaEnBase(texto, nuevo); });
+    reescribe(M, Zembro_rom, [&](const QString &texto) { return core::ConSistemaNuevo(texto, nuevo); });
     Llena_Configuracion1();
     Lista1->SetText(nuevo);
 }
@@ -62,7 +64,7 @@ void Configuracion1::AñadirEmulador()
         Mensaje(3, M.Msg_EmuYaAñadido1, M.Msg_EmuYaAñadido0);
         return;
     }
-    Reescribe(Zembro_sye,
+    reescribe(M, Zembro_sye,
         [&](const QString &texto) { return core::ConEmuladorEnBase(texto, M.BD_Nombre(fila, 0), nuevo); });
     Llena_Configuracion1();
     Lista1->SetText(sistema);
@@ -81,8 +83,8 @@ void Configuracion1::BorrarEmulador()
         Mensaje(3, M.Msg_YaAñadido1, M.Msg_YaAñadido0);
         return;
     }
-    Reescribe(
-        Zembro_sye, [&](const QString &texto) { return core::SinEmuladorEnBase(texto, sistema, emulador); });
+    reescribe(M, Zembro_sye,
+        [&](const QString &texto) { return core::SinEmuladorEnBase(texto, sistema, emulador); });
     Llena_Configuracion1();
     Lista1->SetText(sistema);
     Lista2->SetListIndex(0);
@@ -99,9 +101,10 @@ void Configuracion1::BorrarSistema()
         Mensaje(3, M.Msg_YaAñadido1, M.Msg_YaAñadido0);
         return;
     }
-    Reescribe(Zembro_rom, [&](const QString &texto) { return core::SinParametrosDeSistema(texto, sistema); });
-    Reescribe(Zembro_sye, [&](const QString &texto) { return core::SinSistema(texto, sistema); });
-    Reescribe(Zembro_rom, [&](const QString &texto) { return core::SinNotasDeSistema(texto, sistema); });
+    reescribe(
+        M, Zembro_rom, [&](const QString &texto) { return core::SinParametrosDeSistema(texto, sistema); });
+    reescribe(M, Zembro_sye, [&](const QString &texto) { return core::SinSistema(texto, sistema); });
+    reescribe(M, Zembro_rom, [&](const QString &texto) { return core::SinNotasDeSistema(texto, sistema); });
     Llena_Configuracion1();
 }
 

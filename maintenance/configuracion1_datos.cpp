@@ -9,6 +9,8 @@
 
 #include "mainscreen/portada.h"
 
+#include "maintenance/reescritura.h"
+
 using namespace Qt::StringLiterals;
 
 namespace maintenance {
@@ -23,13 +25,13 @@ bool Configuracion1::Pide(const QString &mensaje, const QString &titulo, const Q
 // enUso: whether the catalogue holds what has changed; asked for once the tables are fresh.
 void Configuracion1::CambiaEnAmbos(const Cambio &cambio, const std::function<bool()> &enUso)
 {
-    Reescribe(u"Zembro.sye"_s, cambio);
+    reescribe(M, u"Zembro.sye"_s, cambio);
     M.CambioConfig1 = 1;
     Llena_Configuracion1();
     M.CambioConfig1 = 0;
     if (!enUso())
         return;
-    Reescribe(u"Zembro.emu"_s, cambio);
+    reescribe(M, u"Zembro.emu"_s, cambio);
     // The combos of the main screen stay as they are, alive or not.
     const std::pair listos(M.Combo1Listo, M.Combo2Listo);
     M.SoloTablas = 1;

@@ -5,12 +5,11 @@
 
 #include "forms/yield.h"
 
-#include "host/paths.h"
-
 #include "mainscreen/portada.h"
 
 #include "maintenance/configuracion1.h"
 #include "maintenance/configuracion2.h"
+#include "maintenance/reescritura.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +17,7 @@ namespace maintenance {
 
 namespace {
 
+const QString Zembro_emu = u"Zembro.emu"_s;
 constexpr int MaxEmuladores = core::MaxSistemas - 1;
 
 } // namespace
@@ -77,7 +77,7 @@ void Grabacion::GrabaSistema()
     const core::Webs webs = core::LeeWebs(M, m_sistema, m_emulador);
     const core::SistemaNuevo nuevo { m_sistema, webs.sistema, core::ExtensionesDeBase(M, Fila()),
         Bloque(webs) };
-    Reescribe([&](const QString &texto) { return core::ConSistemaConfigurado(texto, nuevo); });
+    reescribe(M, Zembro_emu, [&](const QString &texto) { return core::ConSistemaConfigurado(texto, nuevo); });
     OcultaPasos();
     P.Llena_Combos();
     M.Combo2Listo = 0;
@@ -94,7 +94,7 @@ void Grabacion::GrabaEmulador()
     OcultaPasos();
     const core::EmuladorNuevo nuevo = Bloque(core::LeeWebs(M, m_sistema, m_emulador));
     const QString lineaDeSistema = M.BD_Nombre(Fila(), 0);
-    Reescribe(
+    reescribe(M, Zembro_emu,
         [&](const QString &texto) { return core::ConEmuladorConfigurado(texto, lineaDeSistema, nuevo); });
     OcultaPasos();
     P.Llena_Combos();
@@ -110,7 +110,7 @@ void Grabacion::GrabaCambio()
     }
     OcultaPasos();
     const core::EmuladorNuevo nuevo = Bloque(core::LeeWebs(M, m_sistema, m_emulador));
-    Reescribe([&](const QString &texto) { return core::ConEmuladorCambiado(texto, nuevo); });
+    reescribe(M, Zembro_emu, [&](const QString &texto) { return core::ConEmuladorCambiado(texto, nuevo); });
     OcultaPasos();
     if (M.Config_Origen == core::SistemaRecreativo)
         M.EmuConfigurado = 1;
@@ -155,11 +155,6 @@ core::EmuladorNuevo Grabacion::Bloque(const core::Webs &webs) const
 {
     return { m_emulador, webs.emulador, m_casillas.exe, m_tipo, m_paso2.Casilla2->Text(), m_casillas.img,
         m_casillas.par1, m_casillas.par2 };
-}
-
-void Grabacion::Reescribe(const std::function<QString(const QString &)> &cambio)
-{
-    M.Ficheros.rewrite(host::programFile(u"Zembro.emu"_s), u"Zembro.tmp"_s, cambio);
 }
 
 // The main screen shows while the work goes on, and takes no input.

@@ -6,8 +6,6 @@
 #include "core/configuracion.h"
 #include "core/modulo.h"
 
-#include <functional>
-
 namespace mainscreen {
 class Portada;
 }
@@ -34,7 +32,6 @@ private:
     void GrabaCambio();
 
     core::EmuladorNuevo Bloque(const core::Webs &webs) const;
-    void Reescribe(const std::function<QString(const QString &)> &cambio);
     void OcultaPasos();
     void RellenaCombos();
     void LeeTablas();

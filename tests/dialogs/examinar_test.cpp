@@ -148,9 +148,8 @@ TEST_F(ExaminarTest, TheWordsAreTheLanguagesAndTheCallers)
         EXPECT_EQ(controlOf<forms::Label>(form, u"TXT_Aceptar"_s).Caption(), u"OK"_s);
         EXPECT_EQ(controlOf<forms::Label>(form, u"TXT_Volver"_s).Caption(), u"Back"_s);
         EXPECT_EQ(drives(form).accessibleName(), u"Unidades"_s);
-        const std::pair<QString, QString> names[] = {
-            { u"Directorios"_s, u"Directorios"_s }, { u"Archivos"_s, u"Archivos"_s },
-            { u"Aceptar2"_s, u"OK"_s }, { u"Flecha2"_s, u"Back"_s } };
+        const std::pair<QString, QString> names[] = { { u"Directorios"_s, u"Directorios"_s },
+            { u"Archivos"_s, u"Archivos"_s }, { u"Aceptar2"_s, u"OK"_s }, { u"Flecha2"_s, u"Back"_s } };
         for (const auto &[control, name] : names)
             EXPECT_EQ(QAccessible::queryAccessibleInterface(&controlOf<QWidget>(form, control))
                           ->text(QAccessible::Name),
@@ -290,6 +289,21 @@ TEST_F(ExaminarTest, AVolumeThatIsntReadyGivesTheNotice_AndTheOldDirectoryIsStil
     EXPECT_EQ(notices[0].text, u"The drive "_s + files.path(u"cdrom0"_s).toUpper() + u" isn't there."_s);
     EXPECT_THAT(notices[0].buttons, ElementsAre(u"OK"_s, u"Back"_s));
     EXPECT_EQ(M.RutaExaminar, games());
+}
+
+TEST_F(ExaminarTest, BehindTheNoticeAnotherVolumeIsPickedAtOnce_TheOneOfTheStartToo)
+{
+    host::changeDirectory(u"/"_s);
+    browse(games(), [this](forms::Form &form) {
+        drives(form).AddItem(u"/mnt/nowhere"_s);
+        pick(drives(form), u"/mnt/nowhere"_s);
+        ASSERT_EQ(notices.size(), 1u);
+        pick(drives(form), u"/"_s);
+        EXPECT_EQ(tree(form).Path(), u"/"_s);
+        press(form, u"Aceptar2"_s);
+    });
+    EXPECT_EQ(notices.size(), 1u);
+    EXPECT_EQ(M.RutaExaminar, u"/"_s);
 }
 
 TEST_F(ExaminarTest, ItIsDrivenByKeysThroughout)

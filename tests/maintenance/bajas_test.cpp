@@ -385,3 +385,12 @@ TEST_F(BajasTest, ANumberInUseEndsTheProgram_AndTheCatalogueStays)
     EXPECT_THAT(end->text.toStdString(), testing::HasSubstr("Zembro.emu"));
     EXPECT_EQ(catalogue(), Top + Gamma + End);
 }
+
+TEST_F(BajasTest, AnEmptyCatalogueEndsTheProgram)
+{
+    begin(Top + system("One", block("O", u"a/"_s)) + End, 0, 0);
+    files.write(u"Zembro.emu"_s, {});
+    const std::optional<ProcessEnd> end = endOf([this] { removeSystem(); });
+    ASSERT_TRUE(end);
+    EXPECT_THAT(end->text.toStdString(), testing::HasSubstr("(ERR62)"));
+}

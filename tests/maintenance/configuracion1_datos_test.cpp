@@ -168,6 +168,21 @@ TEST_F(Configuracion1DatosTest, AfterAChangeTheSystemsLeadTheEmulatorsNoMore_Unt
     });
 }
 
+TEST_F(Configuracion1DatosTest, AfterAChangeTheSystemPickedIsPairedWithTheEmulatorsOfTheFormerOne)
+{
+    begin();
+    configure([this](forms::Form &form) {
+        atInput(u"Msg_NuevaWWWROMS"_s, u"http://alfa"_s, u"http://new"_s);
+        press(form, u"Boton_W1"_s);
+        select(systemsOf(form), u"beta"_s);
+        atModal(u"Configuracion2"_s, [](forms::Form &second) {
+            EXPECT_EQ(captionOf(second, u"Texto2"_s), u"beta -> a1"_s);
+            press(second, u"Flecha1"_s);
+        });
+        press(form, u"Aceptar2"_s);
+    });
+}
+
 TEST_F(Configuracion1DatosTest, AShorterListKeepsItsOldTailUntilTheNextStart)
 {
     begin();
@@ -199,6 +214,24 @@ TEST_F(Configuracion1DatosTest, ASystemBehindOneWithoutEmulatorsEndsTheProgramTo
     });
     ASSERT_TRUE(end);
     EXPECT_THAT(end->text.toStdString(), HasSubstr("(ERR5)"));
+}
+
+TEST_F(Configuracion1DatosTest, AMissingFileEndsTheProgram_WithTheDatabaseChangedWhereItIsTheCatalogue)
+{
+    for (const QString &missing : { u"Zembro.sye"_s, u"Zembro.emu"_s }) {
+        renew();
+        begin();
+        const std::optional<ProcessEnd> end = endOfConfiguring([&, this](forms::Form &form) {
+            files.remove(missing);
+            atInput(u"Msg_NuevaWWWROMS"_s, u"http://alfa"_s, u"x"_s);
+            press(form, u"Boton_W1"_s);
+        });
+        ASSERT_TRUE(end);
+        EXPECT_THAT(end->text.toStdString(), HasSubstr("(ERR53)"));
+        EXPECT_THAT(end->text.toStdString(), HasSubstr(missing.toStdString()));
+    }
+    EXPECT_EQ(files.read(u"Zembro.sye"_s),
+        databaseOf("-Alfa\r\nWEB1=x\r\n*.ZIP\r\n*.BIN\r\n'\r\n" + Emulators + Closing));
 }
 
 TEST_F(Configuracion1DatosTest, TheMainScreensTablesAreFreshAndItsCombosAndItsListUntouched)

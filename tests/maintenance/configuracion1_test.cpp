@@ -138,6 +138,22 @@ TEST_F(Configuracion1Test, GoingBackClosesItWithNothingChanged)
     EXPECT_TRUE(portada->isActiveWindow());
 }
 
+TEST_F(Configuracion1Test, ThePressOnAcceptShowsThePressedPicture_AndTheReleaseOpensTheSecondStep)
+{
+    begin();
+    configure([this](forms::Form &form) {
+        auto &accept = controlOf<forms::PictureButton>(form, u"Aceptar2"_s);
+        ::press(accept, Qt::RightButton);
+        EXPECT_TRUE(accept.ShowsPressed());
+        atModal(u"Configuracion2"_s, [&](forms::Form &second) {
+            EXPECT_FALSE(accept.ShowsPressed());
+            press(second, u"Flecha1"_s);
+        });
+        releaseAt(accept, QPoint(-30, -30), Qt::RightButton);
+        EXPECT_TRUE(form.isVisible());
+    });
+}
+
 TEST_F(Configuracion1Test, ANewSystemIsOnTheDiskAtOnceAndSelected)
 {
     begin();
@@ -419,6 +435,38 @@ TEST_F(Configuracion1Test, AMissingOrEmptyDatabaseEndsTheProgram)
     ASSERT_TRUE(end);
     EXPECT_THAT(end->text.toStdString(), HasSubstr("(ERR53)"));
     EXPECT_THAT(end->text.toStdString(), HasSubstr("Zembro.sye"));
+}
+
+TEST_F(Configuracion1Test, AFileThatIsMissingOrEmptyWhenItIsToChangeEndsTheProgram)
+{
+    const struct {
+        QString file;
+        QString button;
+        QString question;
+    } changes[] = { { u"Zembro.sye"_s, u"Mas1"_s, u"Msg_AñadirSis"_s },
+        { u"Zembro.rom"_s, u"Mas1"_s, u"Msg_AñadirSis"_s },
+        { u"Zembro.sye"_s, u"Boton_Mas2"_s, u"Msg_AñadirEmu"_s },
+        { u"Zembro.rom"_s, u"Menos1"_s, u"Msg_BorrarSis"_s },
+        { u"Zembro.sye"_s, u"Boton_Menos2"_s, u"Msg_BorrarEmu"_s } };
+    for (const auto &change : changes) {
+        for (const bool empty : { false, true }) {
+            renew();
+            begin();
+            const auto end = endOfConfiguring([&, this](forms::Form &form) {
+                files.remove(change.file);
+                if (empty)
+                    files.write(change.file, {});
+                if (change.question.startsWith(u"Msg_A"))
+                    atInput(change.question, {}, u"New"_s);
+                else
+                    atQuestion(change.question, change.button == u"Menos1" ? u"Alfa"_s : u"a1"_s, true);
+                press(form, change.button);
+            });
+            ASSERT_TRUE(end) << change.file.toStdString() << ' ' << change.button.toStdString();
+            EXPECT_THAT(end->text.toStdString(), HasSubstr(empty ? "(ERR62)" : "(ERR53)"));
+            EXPECT_THAT(end->text.toStdString(), HasSubstr(change.file.toStdString()));
+        }
+    }
 }
 
 TEST_F(Configuracion1Test, The152ndSystemIsOnTheDisk_AndEndsTheProgramThenAndAtEachLaterOpening)

@@ -1,104 +1,11 @@
 // Saving: refusals, the three kinds of save, and what the main screen shows then.
 
-#include "configuraciontest.h"
-
-#include "forms/checks.h"
+#include "grabaciontest.h"
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-namespace {
-
-const QByteArray Top = "' mine\r\n";
-const QByteArray End = "[EOF]\r\n";
-
-class GrabacionTest : public ConfiguracionTest {
-protected:
-    GrabacionTest()
-    {
-        database = "' all\r\n" + known("NES", "http://nes", { "N1", "N2" })
-            + known("Arcade", "", { "Mame", "Fbn" }) + known("Own", "http://own", { "O1", "N1" })
-            + known("Play Station", "", { "P1" }) + known("PSX", "", { "P2" }) + "[EOF]\r\n";
-        notes = "' notes\r\nNES\r\n'\r\nArcade\r\n'\r\nOwn\r\n'\r\nPlay Station\r\n'\r\n[EOF]\r\nParametros "
-                "especificos\r\n'"
-                "\r\nfin\r\nfin,\"fin\"\r\n";
-        for (const QString &game : { u"a/one.bin"_s, u"b/two.bin"_s, u"b/three.bin"_s })
-            files.writeSize(game, 2048);
-        files.makeDirectory(u"games/Asteroids"_s);
-        files.writeGif(u"red/ONE.GIF"_s, Qt::red);
-        files.writeGif(u"blue/ONE.GIF"_s, Qt::blue);
-    }
-
-    static QByteArray known(const QByteArray &name, const QByteArray &web, const QList<QByteArray> &emulators)
-    {
-        QByteArray block = '-' + name + "\r\nWEB1=" + web + "\r\n*.BIN\r\n*.ZIP\r\n'\r\n";
-        for (const QByteArray &emulator : emulators)
-            block += '+' + emulator + "\r\nWEB2=http://" + emulator.toLower() + "\r\n";
-        return block + Closing;
-    }
-
-    struct Block {
-        QByteArray exe = "/bin/emu";
-        QByteArray type = "0";
-        QByteArray roms = {};
-        QByteArray captures = {};
-        QByteArray before = {};
-        QByteArray behind = {};
-    };
-    static QByteArray emulator(const QByteArray &name, const Block &block)
-    {
-        return "+" + name + "\r\nWEB2=http://" + name.toLower() + "\r\nEXE=" + block.exe
-            + "\r\nXDI=" + block.type + "\r\nROM=" + block.roms + "\r\nIMG=" + block.captures
-            + "\r\nPAR1=" + block.before + "\r\nPAR2=" + block.behind + "\r\n";
-    }
-    static QByteArray configured(const QByteArray &name, const QByteArray &web, const QByteArray &blocks)
-    {
-        return '-' + name + "\r\nWEB1=" + web + "\r\n*.BIN\r\n*.ZIP\r\n'\r\n" + blocks + Closing;
-    }
-    QByteArray at(const QString &name) const { return files.path(name).toUtf8(); }
-
-    // The one emulator N1 of the NES, listed.
-    void withNes(const Block &block)
-    {
-        catalogue = Top + configured("NES", "http://nes", emulator("N1", block)) + End;
-        begin();
-    }
-
-    static void mark(const forms::Form &form, int number)
-    {
-        click(controlOf<forms::CheckBox>(form, u"Check%1"_s.arg(number)));
-    }
-    static void save(const forms::Form &form) { click(controlOf<QWidget>(form, u"Disco1"_s)); }
-
-    // Saves with the notice that all is well, and both steps closed.
-    void saveWell(forms::Form &form)
-    {
-        atNotice(u"Msg_CFGGrabada"_s);
-        save(form);
-        EXPECT_FALSE(form.isVisible());
-    }
-    void saveWithoutGames(forms::Form &form)
-    {
-        atWarning(u"Msg_NingunaROM"_s);
-        save(form);
-        EXPECT_FALSE(form.isVisible());
-        EXPECT_EQ(info(), u"TXT_NingunaROM"_s);
-    }
-    void expectRefused(forms::Form &form, const QString &message)
-    {
-        atWarning(message);
-        save(form);
-        EXPECT_TRUE(form.isVisible());
-        expectFilesUnchanged();
-    }
-
-    // What is saved of the catalogue; nothing else changes.
-    void expectCatalogue(const QByteArray &expected) { expectFiles(database, expected, notes); }
-};
-
-} // namespace
 
 TEST_F(GrabacionTest, WithoutAnExecutableItIsRefused)
 {
@@ -175,6 +82,26 @@ TEST_F(GrabacionTest, ANewSystemStandsAheadOfTheBracketAndIsListed)
     EXPECT_EQ(M->RutasROM(1), u"ROM="_s + files.path(u"a/"_s).toUpper());
     EXPECT_EQ(M->Combo1Listo, 1);
     EXPECT_EQ(M->Combo2Listo, 1);
+}
+
+TEST_F(GrabacionTest, BothStepsAreHiddenUnderTheNotice_AndLoadedAnewTheNextTime)
+{
+    begin();
+    configure([this](forms::Form &first) {
+        select(controlOf<forms::ListBox>(first, u"Lista1"_s), u"NES"_s);
+        atModal(u"Configuracion2"_s, [&, this](forms::Form &second) {
+            writeMinimum(second, files.path(u"a"_s));
+            atModal(u"Caja"_s, [&](forms::Form &notice) {
+                EXPECT_FALSE(first.isVisible());
+                EXPECT_FALSE(second.isVisible());
+                EXPECT_TRUE(portada->isVisible());
+                click(controlOf<QWidget>(notice, u"Aceptar2"_s));
+            });
+            save(second);
+        });
+        click(controlOf<QWidget>(first, u"Aceptar2"_s));
+    });
+    configure([](forms::Form &first) { EXPECT_EQ(captionOf(first, u"Texto5"_s), u"Arcade -> Fbn"_s); });
 }
 
 TEST_F(GrabacionTest, ASecondNewSystemIsSelectedWhateverItsPlace)
@@ -469,38 +396,4 @@ TEST_F(GrabacionTest, AStaleSecondStepSavesItsKindForThePairSelectedNow)
         catalogue.chopped(End.size())
             + configured("NES", "http://nes", emulator("N2", { .exe = "/bin/n2", .roms = at(u"b/"_s) }))
             + End);
-}
-
-TEST_F(GrabacionTest, AMissingCatalogueEndsTheProgramAndTheDatabaseStays)
-{
-    begin();
-    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
-        files.remove(u"Zembro.emu"_s);
-        write(form, u"Casilla1"_s, u"/bin/emu"_s);
-        write(form, u"Casilla2"_s, files.path(u"a"_s));
-        const std::optional<ProcessEnd> end = endOf([&form] { save(form); });
-        ASSERT_TRUE(end);
-        EXPECT_THAT(end->text.toStdString(), HasSubstr("(ERR53)"));
-        EXPECT_THAT(end->text.toStdString(), HasSubstr("Zembro.emu"));
-    });
-    EXPECT_EQ(files.read(u"Zembro.sye"_s), database);
-}
-
-TEST_F(GrabacionTest, The152ndSystemIsWritten_AndEndsTheProgramAfterwards)
-{
-    catalogue = Top;
-    for (int s = 0; s < 151; ++s)
-        catalogue += configured("S" + QByteArray::number(s).rightJustified(3, '0'), "", emulator("E", {}));
-    catalogue += End;
-    begin();
-    configurePair(u"Own"_s, u"O1"_s, [this](forms::Form &form) {
-        write(form, u"Casilla1"_s, u"/bin/emu"_s);
-        write(form, u"Casilla2"_s, files.path(u"a"_s));
-        const std::optional<ProcessEnd> end = endOf([&form] { save(form); });
-        ASSERT_TRUE(end);
-        EXPECT_THAT(end->text.toStdString(), HasSubstr("(ERR383)"));
-    });
-    EXPECT_EQ(files.read(u"Zembro.emu"_s),
-        catalogue.chopped(End.size())
-            + configured("Own", "http://own", emulator("O1", { .roms = at(u"a/"_s) })) + End);
 }
