@@ -220,7 +220,10 @@ void ListBox::keyPressEvent(QKeyEvent *event)
         Control::keyPressEvent(event);
     }
     const int after = ListIndex();
-    if (after >= 0 && after != before)
+    const bool toAnEnd = event->key() == Qt::Key_Home || event->key() == Qt::Key_End;
+    if (after < 0 && toAnEnd && currentRow() >= 0)
+        select(currentRow()); // the keyboard stood there already
+    else if (after >= 0 && after != before)
         Selection.raise();
 }
 

@@ -9,9 +9,9 @@ namespace forms {
 
 // Indices count from 0; -1 is no entry. Selecting from code raises Selection, also for the entry selected
 // already; so does a press of the left button on an entry, also on the selected one, and a move by the
-// keyboard; where none is selected, an arrow selects the entry that the keyboard stands on. The right and the
-// middle button never select, and neither does the pointer moved with a button held. Adding, removing and
-// clearing raise nothing.
+// keyboard; where none is selected, an arrow selects the entry that the keyboard stands on, and Home and End
+// select theirs. The right and the middle button never select, and neither does the pointer moved with a
+// button held. Adding, removing and clearing raise nothing.
 class ListBox : public Control<QListWidget> {
 public:
     explicit ListBox(QWidget *parent, bool sorted = false);

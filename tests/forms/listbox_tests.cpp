@@ -321,6 +321,20 @@ TEST_F(Lists, AnArrowWhereNoneIsSelected_SelectsTheFirstAndThenGoesOn)
     }
 }
 
+TEST_F(Lists, HomeAndEndWhereNoneIsSelected_SelectTheirRow)
+{
+    for (const auto &[key, row] : { std::pair(Qt::Key_Home, 0), std::pair(Qt::Key_End, 2) }) {
+        list.Clear();
+        selected.clear();
+        fill({ u"a"_s, u"b"_s, u"c"_s });
+        drive::show(form);
+        list.setFocus();
+        drive::key(form, key);
+        EXPECT_THAT(selected, ElementsAre(row));
+        list.clearFocus();
+    }
+}
+
 TEST_F(Lists, AKeyThatMovesTheSelection_RaisesOnce)
 {
     fill({ u"a"_s, u"b"_s, u"c"_s });
