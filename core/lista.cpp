@@ -36,10 +36,6 @@ bool CargaSoloElEmulador(int tipo)
 
 namespace {
 
-// Only so many filters are walked; with more of them, and none fitting, the walk never meets the empty one at
-// which a directory is taken.
-constexpr int FiltrosMirados = 26;
-
 bool pasaLosFiltros(const Modulo &M, const QString &nombreMayus)
 {
     for (int f = 0; f < FiltrosMirados; ++f) {

@@ -17,6 +17,10 @@ bool FicherosSueltos(int tipo); // 0, 5
 bool UnZipPorJuego(int tipo); // 2, 3, 7, 8
 bool CargaSoloElEmulador(int tipo); // 5 to 8
 
+// Only so many filters are walked; with as many of them, and none fitting, the walk never meets the empty one
+// at which a directory is taken.
+inline constexpr int FiltrosMirados = 26;
+
 // Fills Arch_Nombre and Arch_Mayus with the entries of a ROM directory, and returns their number. A
 // sub-directory that a filter names leaves its entry empty. Fails with 76 for a directory that can't be read,
 // 9 for more entries than the tables take.
