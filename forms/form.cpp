@@ -206,6 +206,16 @@ QWidget *Form::Control(const QString &name) const
     return nullptr;
 }
 
+bool Form::event(QEvent *event)
+{
+    // Taken, the key goes on as a plain one.
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent *>(event)->isAutoRepeat()) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void Form::closeEvent(QCloseEvent *event)
 {
     if (CloseWished.hasHandler()) {

@@ -61,6 +61,7 @@ public:
     Event<> CloseWished;
 
 protected:
+    bool event(QEvent *event) override; // an accelerator held down fires once
     void closeEvent(QCloseEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;

@@ -111,7 +111,7 @@ void Portada::PrepararEditor()
         control->hide();
     forms::move(*Editor, { 120, 1080, 5895, 4035 });
     Editor->raise();
-    DejaElFocoAlEditor(true);
+    DejaElTecladoAlEditor(true);
     for (forms::PictureButton *boton : { FlechaE2, Edit2, BlocDeNotas2 })
         boton->show();
 }
@@ -131,7 +131,8 @@ void Portada::ColoresDelEditor(int tipo)
 
 void Portada::FlechaE2_Release()
 {
-    DejaElFocoAlEditor(false);
+    DejaElTecladoAlEditor(false);
+    Lista1->setFocus();
     for (QWidget *control : OcultosPorElEditor())
         control->show();
     for (QWidget *control : std::initializer_list<QWidget *> { Editor, FlechaE2, Edit2, BlocDeNotas2 })
@@ -145,17 +146,6 @@ std::vector<QWidget *> Portada::OcultosPorElEditor() const
     return { Shape1, Shape2, D1, Check1, BotonC2, BotonD2, Boton3b, Boton4b, Flecha2, JugarB1, Menos2b,
         Boton5b, Boton6b, TXT_dB, TXT_Boton, TXT_Ayuda, TXT_AcercaDe, TXT_VerAyuda, TXT_VerConfig,
         TXT_Utilidades, TXT_FAQ };
-}
-
-// What stays under it is out of the keyboard's way meanwhile.
-void Portada::DejaElFocoAlEditor(bool abierto)
-{
-    Lista1->setFocusPolicy(abierto ? Qt::NoFocus : Qt::WheelFocus);
-    for (forms::ComboBox *combo : { Combo1, Combo2 })
-        combo->setFocusPolicy(abierto ? Qt::NoFocus : Qt::StrongFocus);
-    for (QWidget *control :
-        std::initializer_list<QWidget *> { BotonA2, BotonB2, Menos2a, Boton1b, Boton2b, E1, Graf_Imagen })
-        control->setFocusPolicy(abierto ? Qt::NoFocus : Qt::TabFocus);
 }
 
 void Portada::AbreEnEditor(const QStringList &orden, const QString &falta)

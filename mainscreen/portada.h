@@ -27,6 +27,8 @@
 #include <functional>
 #include <vector>
 
+class QShortcut;
+
 namespace mainscreen {
 
 class Portada : public forms::Form, private launch::Pantalla {
@@ -195,7 +197,6 @@ private:
     void MuestraDocumento(const QString &ruta, const std::function<void()> &prepara);
     void FlechaE2_Release();
     std::vector<QWidget *> OcultosPorElEditor() const;
-    void DejaElFocoAlEditor(bool abierto);
     void MuestraTextoPropio(const QString &fichero);
     void E1_Release();
     void D1_Release();
@@ -212,6 +213,7 @@ private:
     void AbreWeb(const QString &linea, const QString &titulo, const QString &texto);
     void PulsaWeb(forms::Label &web);
     void OrdenaFoco();
+    void DejaElTecladoAlEditor(bool abierto);
     void NombraControles();
     void Advierte(const QString &titulo, const QString &texto); // the message box, type 3
 
@@ -223,6 +225,7 @@ private:
     core::Modulo &M;
     dialogs::CajaDeMensajes m_mensajes;
     int m_recuento = 0; // entries that the running Llena_Lista has looked at
+    std::vector<QShortcut *> m_teclasDelTelevisor; // and of the links
     int ElementoBajoRaton = 0; // the entry of Lista1 last found under the pointer
 };
 

@@ -33,9 +33,13 @@ QPixmap hojaDelConsejo(const QWidget &consejo)
 
 void Portada::ConectaSuperficie()
 {
-    for (forms::PictureButton *boton : { JugarB1, BotonA2, BotonB2, BotonC2, BotonD2, Boton1b, Boton2b,
-             Boton3b, Boton4b, Boton5b, Boton6b, FlechaE2 })
+    for (forms::PictureButton *boton :
+        { JugarB1, BotonA2, BotonB2, BotonC2, BotonD2, Boton1b, Boton2b, Boton3b, Boton4b, Boton5b, Boton6b })
         boton->Press = [this] { Lista1->setFocus(); };
+    FlechaE2->Press = [this] {
+        Lista1->setFocusProxy(nullptr);
+        Lista1->setFocus();
+    };
     Menos2b->Press = [this] { Combo2->setFocus(); };
 
     const auto escondeConsejo = [this](const forms::Mouse &) { IMGDescripcionLarga->hide(); };

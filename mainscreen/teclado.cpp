@@ -14,6 +14,7 @@ namespace {
 struct Acelerador {
     forms::PictureButton *Portada::*boton;
     QKeyCombination tecla;
+    bool tapado = false; // lies under an open text
 };
 
 const Acelerador Aceleradores[] = {
@@ -21,12 +22,12 @@ const Acelerador Aceleradores[] = {
     { &Portada::Boton6b, Qt::SHIFT | Qt::Key_F1 },
     { &Portada::BotonC2, Qt::Key_F2 },
     { &Portada::BotonD2, Qt::Key_F3 },
-    { &Portada::Boton1b, Qt::Key_F5 },
-    { &Portada::Boton2b, Qt::Key_F6 },
+    { &Portada::Boton1b, Qt::Key_F5, true },
+    { &Portada::Boton2b, Qt::Key_F6, true },
     { &Portada::Boton3b, Qt::Key_F7 },
     { &Portada::Boton4b, Qt::Key_F8 },
     { &Portada::JugarB1, Qt::Key_F9 },
-    { &Portada::E1, Qt::CTRL | Qt::Key_E },
+    { &Portada::E1, Qt::CTRL | Qt::Key_E, true },
     { &Portada::D1, Qt::CTRL | Qt::Key_T },
     { &Portada::FlechaE2, Qt::CTRL | Qt::Key_W },
     { &Portada::Flecha2, Qt::CTRL | Qt::Key_Q },
@@ -40,7 +41,8 @@ void Portada::ConectaTeclado()
         (this->*acelerador.boton)->setShortcut(acelerador.tecla);
 
     const auto conTecla = [this](QKeyCombination tecla, auto accion) {
-        connect(new QShortcut(tecla, this), &QShortcut::activated, this, accion);
+        m_teclasDelTelevisor.push_back(new QShortcut(tecla, this));
+        connect(m_teclasDelTelevisor.back(), &QShortcut::activated, this, accion);
     };
     for (const auto &[tecla, punto] : { std::pair(Qt::Key_2, X2), std::pair(Qt::Key_3, X3),
              std::pair(Qt::Key_4, X4), std::pair(Qt::Key_5, X5), std::pair(Qt::Key_0, OFF) })
@@ -76,6 +78,20 @@ void Portada::OrdenaFoco()
     for (size_t i = 1; i < orden.size(); ++i)
         setTabOrder(orden[i - 1], orden[i]);
     setTabOrder(BlocDeNotas2, FlechaE2);
+}
+
+// What lies under an open text neither takes the focus, whoever gives it, nor hears its keys.
+void Portada::DejaElTecladoAlEditor(bool abierto)
+{
+    for (QWidget *control : std::initializer_list<QWidget *> {
+             Lista1, Combo1, Combo2, BotonA2, BotonB2, Menos2a, Boton1b, Boton2b, E1, Graf_Imagen })
+        control->setFocusProxy(abierto ? Editor : nullptr);
+    for (const Acelerador &acelerador : Aceleradores) {
+        if (acelerador.tapado)
+            (this->*acelerador.boton)->setShortcut(abierto ? QKeySequence() : acelerador.tecla);
+    }
+    for (QShortcut *tecla : m_teclasDelTelevisor)
+        tecla->setEnabled(!abierto);
 }
 
 } // namespace mainscreen

@@ -1,64 +1,14 @@
 // The gestures that play, and what the main screen shows of a launch. The emulator is a script that counts
 // its runs.
 
-#include "mundotest.h"
+#include "lanzamientotest.h"
 
 #include "tests/support/witness.h"
 
 #include <QApplication>
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
-
-class LanzamientoTest : public MundoTest {
-protected:
-    LanzamientoTest()
-    {
-        files.makeDirectory(u"tmp"_s);
-        qputenv("TMPDIR", files.path(u"tmp"_s).toUtf8());
-        makeEmulator("echo run >> runs\n");
-        configure(u"5"_s);
-    }
-    ~LanzamientoTest() override
-    {
-        if (m_temporary.isNull())
-            qunsetenv("TMPDIR");
-        else
-            qputenv("TMPDIR", m_temporary);
-    }
-
-    void makeEmulator(const QByteArray &script)
-    {
-        files.write(u"bin/emu"_s, "#!/bin/sh\n" + script);
-        QFile(files.path(u"bin/emu"_s))
-            .setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-    void configure(const QString &type)
-    {
-        systemsOfCatalogue[0].emulators[0].executable = files.path(u"bin/emu"_s);
-        systemsOfCatalogue[0].emulators[0].type = type;
-        files.writeCatalogue(systemsOfCatalogue);
-    }
-    // The runs since the last call.
-    qsizetype runs()
-    {
-        const QString log = u"bin/runs"_s;
-        if (!files.exists(log))
-            return 0;
-        const qsizetype count = files.read(log).count("run");
-        files.remove(log);
-        return count;
-    }
-    void focus(const QString &name)
-    {
-        control(name).setFocus();
-        ASSERT_EQ(focused(), name);
-    }
-
-private:
-    QByteArray m_temporary = qgetenv("TMPDIR");
-};
 
 TEST_F(LanzamientoTest, PlayButtonPlaysOnTheReleaseWhereverThatIs)
 {
