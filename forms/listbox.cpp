@@ -3,6 +3,7 @@
 #include "host/failure.h"
 #include "host/letters.h"
 
+#include <QPainter>
 #include <QPointer>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
@@ -15,7 +16,8 @@ namespace forms {
 
 namespace {
 
-// Rows as high as the font, so that code that reckons with the height of a line meets the rows.
+// Rows as high as the font, so that code that reckons with the height of a line meets the rows. Dots frame
+// the one that the keys would move from, so that of several lists the user sees which one has the focus.
 class Rows final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -23,6 +25,19 @@ public:
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         return { QStyledItemDelegate::sizeHint(option, index).width(), option.fontMetrics.height() };
+    }
+
+    void paint(
+        QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        QStyleOptionViewItem row = option;
+        row.state.setFlag(QStyle::State_HasFocus, false);
+        QStyledItemDelegate::paint(painter, row, index);
+        if (!option.state.testFlag(QStyle::State_HasFocus))
+            return;
+        const bool selected = option.state.testFlag(QStyle::State_Selected);
+        painter->setPen(QPen(selected ? Qt::white : Qt::black, 1, Qt::DotLine));
+        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     }
 };
 

@@ -12,6 +12,8 @@
 
 #include <gmock/gmock.h>
 
+#include <set>
+
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -333,6 +335,27 @@ TEST_F(Lists, HomeAndEndWhereNoneIsSelected_SelectTheirRow)
         EXPECT_THAT(selected, ElementsAre(row));
         list.clearFocus();
     }
+}
+
+TEST_F(Lists, TheRowOfTheFocusIsFramed_WithTheFocusAlone)
+{
+    forms::ListBox other(&form);
+    fill({ u"a"_s, u"b"_s });
+    list.SetListIndex(1);
+    drive::show(form);
+    other.setFocus();
+    const QRect place = list.visualItemRect(list.item(1));
+    const auto edge = [&] {
+        const QImage picture = list.viewport()->grab(place).toImage();
+        std::set<QRgb> colours;
+        for (int x = 0; x < picture.width(); ++x)
+            colours.insert(picture.pixel(x, 0));
+        return colours;
+    };
+    const QRgb marked = list.palette().color(QPalette::Highlight).rgb();
+    EXPECT_THAT(edge(), ElementsAre(marked));
+    list.setFocus();
+    EXPECT_THAT(edge(), testing::UnorderedElementsAre(marked, qRgb(255, 255, 255)));
 }
 
 TEST_F(Lists, AKeyThatMovesTheSelection_RaisesOnce)
