@@ -23,14 +23,14 @@ const FilaEtiqueta<C> Etiquetas[] = {
     { &C::TXT_Volver, u"TXT_Volver", { 855, 4400, 720, 210 }, u"Volver", Verde, Letra::Normal,
         Alineacion::Centro },
     { &C::TXT_Leyenda, u"TXT_Leyenda", { 1920, 3855, 900, 210 }, u"Leyenda", Cian },
-    { &C::Texto8, u"Texto8", { 1860, 4110, 135, 210 }, u"+", Cian, Letra::Normal, Alineacion::Centro },
-    { &C::TXT_Añadir, u"TXT_Añadir", { 2010, 4110, 660, 210 }, u"Añadir", Verde },
-    { &C::Texto10, u"Texto10", { 1860, 4335, 135, 210 }, u"-", Cian, Letra::Normal, Alineacion::Centro },
-    { &C::TXT_Borrar, u"TXT_Borrar", { 2010, 4335, 660, 210 }, u"Borrar", Verde },
+    { &C::Texto8, u"Texto8", { 1830, 4110, 135, 210 }, u"+", Cian, Letra::Normal, Alineacion::Centro },
+    { &C::TXT_Añadir, u"TXT_Añadir", { 1995, 4110, 660, 210 }, u"Añadir", Verde },
+    { &C::Texto10, u"Texto10", { 1830, 4335, 135, 210 }, u"-", Cian, Letra::Normal, Alineacion::Centro },
+    { &C::TXT_Borrar, u"TXT_Borrar", { 1995, 4335, 660, 210 }, u"Borrar", Verde },
     { &C::Texto12, u"Texto12", { 2700, 4110, 195, 210 }, u"E", Cian, Letra::Normal, Alineacion::Centro },
-    { &C::TXT_Extensiones, u"TXT_Extensiones", { 2910, 4110, 660, 210 }, u"Extens.", Verde },
+    { &C::TXT_Extensiones, u"TXT_Extensiones", { 2940, 4110, 645, 210 }, u"Extens.", Verde },
     { &C::Texto14, u"Texto14", { 2700, 4335, 195, 210 }, u"W", Cian, Letra::Normal, Alineacion::Centro },
-    { &C::TXT_Webs, u"TXT_Webs", { 2910, 4335, 660, 210 }, u"Webs", Verde },
+    { &C::TXT_Webs, u"TXT_Webs", { 2940, 4335, 645, 210 }, u"Webs", Verde },
 };
 
 const FilaOrden<C> Ordenes[] = {
