@@ -168,7 +168,6 @@ void Configuracion2::BuscaEjecutable()
 
 void Configuracion2::BuscaDirectorio(forms::TextBox &casilla)
 {
-    constexpr int SinArchivos = 2160; // twips, without the list of files
     try {
         m_examinar->Directorios->SetPath(casilla.Text());
     } catch (const host::Failure &) {

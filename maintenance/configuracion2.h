@@ -21,6 +21,8 @@ namespace maintenance {
 
 class Configuracion2 : public forms::Form {
 public:
+    static constexpr int SinArchivos = 2160; // twips: outer width of the browser without its list of files
+
     // Loading looks the pair up in the catalogue (Config2_Cambios) and fills the form.
     Configuracion2(core::Modulo &modulo, const dialogs::Teja &teja,
         forms::FormHolder<dialogs::Examinar> &examinar, const QString &sistema, const QString &emulador);

@@ -1,7 +1,7 @@
 // Every text is shown whole where the screens show it, in every language.
+#include "configscreens.h"
 #include "languages.h"
 #include "optionscreens.h"
-#include "plans.h"
 #include "room.h"
 #include "sources.h"
 
@@ -178,18 +178,34 @@ QStringList keysOf(const QStringList &messages)
     return keys;
 }
 
-// Shows every text of a planned control, and measures it.
-void expectPlanned(QWidget &form, const plans::Planned &planned, const QString &text)
+// The keys of the language files whose texts these screens show: their texts in a language that says each as
+// its own key.
+template <class Screens> QStringList keysShownBy()
 {
-    auto *control = form.findChild<QWidget *>(planned.control, Qt::FindDirectChildrenOnly);
-    ASSERT_TRUE(control) << planned.control.toStdString();
-    if (auto *label = dynamic_cast<forms::Label *>(control)) {
-        label->SetCaption(text);
-        EXPECT_TRUE(showsWhole(*label)) << planned.control.toStdString();
-    } else if (const auto *button = qobject_cast<QPushButton *>(control)) {
-        EXPECT_TRUE(room::takes(*button, text)) << planned.control.toStdString();
-    } else {
-        ADD_FAILURE() << planned.control.toStdString() << " shows no text";
+    const ProgramDirectory files;
+    QStringList lines;
+    for (const QString &key : languages::knownKeys())
+        lines << languageLine(key, key);
+    files.writeLines(u"LNG/KEYS.LNG"_s, lines);
+    const auto M = std::make_unique<core::Modulo>();
+    const Screens screens(*M, u"KEYS.LNG"_s);
+    QStringList texts;
+    for (const forms::Form *form : screens.all())
+        texts += room::textsOf(*form);
+    texts.removeIf([](const QString &text) { return !languages::knownKeys().contains(text); });
+    return texts;
+}
+
+template <class Screens> void expectWholeInLanguage(core::Modulo &M, const Language &shown)
+{
+    const ProgramDirectory files;
+    for (const Language &language : languages::delivered())
+        files.write(language.file, host::readBytes(QStringLiteral(DELIVERED "/") + language.file));
+    const Screens screens(M, shown.file.section(u'/', 1));
+    for (forms::Form *form : screens.all()) {
+        SCOPED_TRACE(form->objectName().toStdString());
+        form->show();
+        room::expectWhole(*form);
     }
 }
 
@@ -202,12 +218,7 @@ TEST(FitOfTexts, IsMeasuredForEveryKey)
         + QStringList { u"TXT_Cargando"_s, u"TXT_Directorios"_s, MissingTool };
     for (const Shown &shown : ShownByPortada)
         measured += shown.key;
-    for (const plans::Screen &screen : plans::screens()) {
-        measured += screen.caption;
-        for (const plans::Planned &planned : screen.controls)
-            measured += planned.keys;
-    }
-    measured += OptionScreens::keysShown();
+    measured += keysShownBy<ConfigScreens>() + keysShownBy<OptionScreens>();
     for (QString &key : measured)
         key = key.leftJustified(core::AnchoClave, u'.');
     measured.removeDuplicates();
@@ -237,35 +248,14 @@ TEST_P(TextsOfPortada, ShowWholeBehindTheLargestCountOfDirectories)
     expectShown(u"TXT_InfoRoms"_s, u"6667 "_s + text(u"TXT_Directorios"_s) + u"  "_s);
 }
 
-TEST_P(TextsOfLanguage, ShowWholeOnThePlannedScreens)
+TEST_P(TextsOfLanguage, ShowWholeOnTheScreensOfConfiguring)
 {
-    for (const plans::Screen &screen : plans::screens()) {
-        SCOPED_TRACE(screen.name);
-        const std::unique_ptr<QWidget> form = plans::built(screen);
-        for (const plans::Planned &planned : screen.controls) {
-            if (auto *label = dynamic_cast<forms::Label *>(form->findChild<QWidget *>(planned.control)))
-                label->SetCaption(text(planned.keys.first()));
-        }
-        form->show();
-        for (const plans::Planned &planned : screen.controls) {
-            for (const QString &key : planned.keys)
-                expectPlanned(*form, planned, text(key));
-        }
-        EXPECT_TRUE(room::titleTakes(text(screen.caption), screen.width, true));
-    }
+    expectWholeInLanguage<ConfigScreens>(*M, GetParam());
 }
 
 TEST_P(TextsOfLanguage, ShowWholeOnTheScreensOfTheOptions)
 {
-    const ProgramDirectory files;
-    for (const Language &language : languages::delivered())
-        files.write(language.file, host::readBytes(QStringLiteral(DELIVERED "/") + language.file));
-    const OptionScreens screens(*M, GetParam().file.section(u'/', 1));
-    for (forms::Form *form : screens.all()) {
-        SCOPED_TRACE(form->objectName().toStdString());
-        form->show();
-        room::expectWhole(*form);
-    }
+    expectWholeInLanguage<OptionScreens>(*M, GetParam());
 }
 
 TEST_P(TextsOfLanguage, ShowTheirCreditWholeAtTheFirstRun)

@@ -19,9 +19,6 @@ public:
 
     const std::vector<forms::Form *> &all() const { return m_all; }
 
-    // The keys of the language files whose texts these screens show.
-    static QStringList keysShown();
-
 private:
     mainscreen::Portada m_portada;
     forms::FormHolder<options::Opciones1> m_opciones1;
