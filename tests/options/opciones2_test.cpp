@@ -408,3 +408,40 @@ TEST_F(Opciones2Test, WhileItStandsTheOptionsGetNoInput)
         EXPECT_TRUE(first.isVisible());
     });
 }
+
+TEST_F(Opciones2Test, AnyMouseButtonSavesAndGoesBackWhereverItIsReleased)
+{
+    for (const Qt::MouseButton button : { Qt::RightButton, Qt::MiddleButton }) {
+        advanced([&](forms::Form &form) {
+            auto &disk = controlOf<forms::PictureButton>(form, u"Disco1"_s);
+            Box box;
+            announceBox(box);
+            press(disk, button);
+            EXPECT_TRUE(disk.ShowsPressed());
+            EXPECT_EQ(box, Box());
+            releaseAt(disk, QPoint(60, -60), button);
+            EXPECT_FALSE(disk.ShowsPressed());
+            EXPECT_EQ(box, warningOf(u"Msg_SinCambios"_s));
+            auto &arrow = controlOf<forms::PictureButton>(form, u"Flecha2"_s);
+            press(arrow, button);
+            EXPECT_TRUE(arrow.ShowsPressed());
+            EXPECT_TRUE(form.isVisible());
+            releaseAt(arrow, QPoint(-60, -60), button);
+            EXPECT_FALSE(form.isVisible());
+        });
+    }
+}
+
+TEST_F(Opciones2Test, EverythingIsReachedByTabInTheOrderOfTheScreen)
+{
+    advanced([](forms::Form &form) {
+        QStringList order;
+        yes(form).setFocus();
+        do {
+            order << form.focusWidget()->objectName();
+            strike(form, Qt::Key_Tab);
+        } while (form.focusWidget()->objectName() != order.first() && order.size() < 20);
+        EXPECT_THAT(
+            order, ElementsAre(u"Opcion1"_s, u"CajaTexto1"_s, u"CajaTexto2"_s, u"Disco1"_s, u"Flecha2"_s));
+    });
+}
