@@ -2,6 +2,7 @@
 
 #include "forms/pictures.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPointer>
 
@@ -99,14 +100,28 @@ void Image::focusOutEvent(QFocusEvent *event)
 
 void Image::mousePressEvent(QMouseEvent *event)
 {
+    const QPointer<QObject> self(this);
     m_held = mouseOf(*event).button;
     Control::mousePressEvent(event);
+    // A menu that the press has opened took the release.
+    if (self && !QGuiApplication::mouseButtons().testFlag(event->button()))
+        m_held = 0;
 }
 
 void Image::mouseReleaseEvent(QMouseEvent *event)
 {
     m_held = 0;
     Control::mouseReleaseEvent(event);
+}
+
+void Image::wheelEvent(QWheelEvent *event)
+{
+    if (!Wheel.hasHandler()) {
+        Control::wheelEvent(event);
+        return;
+    }
+    event->accept();
+    Wheel.raise(*event);
 }
 
 bool Image::event(QEvent *event)

@@ -4,6 +4,7 @@
 #include "forms/control.h"
 
 #include <QPixmap>
+#include <QWheelEvent>
 #include <QWidget>
 
 namespace forms {
@@ -15,6 +16,8 @@ namespace forms {
 class Image : public Control<QWidget> {
 public:
     explicit Image(QWidget *parent);
+
+    Event<const QWheelEvent &> Wheel; // without a handler the wheel is the parent's
 
     void SetPicture(const QPixmap &picture); // stretched to the image's size
     void SetArtwork(const QString &name); // drawn at the image's size
@@ -28,6 +31,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     bool event(QEvent *event) override;
 
 private:

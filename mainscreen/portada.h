@@ -208,6 +208,7 @@ private:
     void Lista1_MouseMove(const forms::Mouse &raton);
     void EscribeConsejo(const QString &texto);
     void IMGDescripcionLarga_Click();
+    void IMGDescripcionLarga_Wheel(const QWheelEvent &rueda);
     void WEB1_MouseUp();
     void WEB2_MouseUp();
     void AbreWeb(const QString &linea, const QString &titulo, const QString &texto);

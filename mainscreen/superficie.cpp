@@ -11,6 +11,7 @@
 
 #include "host/tools.h"
 
+#include <QApplication>
 #include <QPainter>
 
 namespace mainscreen {
@@ -49,6 +50,7 @@ void Portada::ConectaSuperficie()
     Lista1->MouseMove = [this](const forms::Mouse &raton) { Lista1_MouseMove(raton); };
     // The tip stays while the pointer rests on it: the move isn't the screen's.
     IMGDescripcionLarga->MouseMove = [](const forms::Mouse &) {};
+    IMGDescripcionLarga->Wheel = [this](const QWheelEvent &rueda) { IMGDescripcionLarga_Wheel(rueda); };
     IMGDescripcionLarga->Click = [this] { IMGDescripcionLarga_Click(); };
 
     Lista1->MouseDown = [this](const forms::Mouse &raton) { Lista1_MouseDown(raton.button); };
@@ -129,6 +131,17 @@ void Portada::IMGDescripcionLarga_Click()
     if (ElementoBajoRaton < Lista1->ListCount())
         Lista1->SetListIndex(ElementoBajoRaton);
     Lista1->setFocus();
+}
+
+// The tip lies over the list, which is what the wheel is turned for.
+void Portada::IMGDescripcionLarga_Wheel(const QWheelEvent &rueda)
+{
+    IMGDescripcionLarga->hide();
+    QWidget &filas = *Lista1->viewport();
+    QWheelEvent enLista(filas.mapFromGlobal(rueda.globalPosition()), rueda.globalPosition(),
+        rueda.pixelDelta(), rueda.angleDelta(), rueda.buttons(), rueda.modifiers(), rueda.phase(),
+        rueda.inverted());
+    QApplication::sendEvent(&filas, &enLista);
 }
 
 void Portada::WEB1_MouseUp()

@@ -85,6 +85,21 @@ TEST_F(SuperficieTest, TipStandsByTheFirstRowInView)
     EXPECT_EQ(tip().y(), forms::inPixels({ 0, 1340 + portada->fontMetrics().height() * 15, 0, 0 }).y());
 }
 
+TEST_F(SuperficieTest, WheelOverTheTipHidesItAndTurnsTheList)
+{
+    startAt(Zeta, 0);
+    list().Clear();
+    for (int i = 0; i < 60; ++i)
+        list().AddItem(QString::number(i) + Long);
+    moveTo(*portada, QPoint(2, 2));
+    hover(2);
+    ASSERT_TRUE(tip().isVisible());
+    ASSERT_EQ(list().TopIndex(), 0);
+    turnWheel(tip(), QPoint(8, 5));
+    EXPECT_FALSE(tip().isVisible());
+    EXPECT_GT(list().TopIndex(), 0);
+}
+
 TEST_F(SuperficieTest, EntryThatFitsHidesTheTipOfTheOneBefore)
 {
     startWithLongNames();

@@ -120,8 +120,8 @@ TEST_F(TecladoTest, TabStaysWithTheOpenText)
     const QStringList way = wayOfTab();
     openAText();
     EXPECT_THAT(wayOfTab(), ElementsAre(u"Editor"_s, u"Edit2"_s, u"BlocDeNotas2"_s, u"FlechaE2"_s));
-    EXPECT_THAT(wayOfTab(Qt::ShiftModifier),
-        ElementsAre(u"Editor"_s, u"FlechaE2"_s, u"BlocDeNotas2"_s, u"Edit2"_s));
+    EXPECT_THAT(
+        wayOfTab(Qt::ShiftModifier), ElementsAre(u"Editor"_s, u"FlechaE2"_s, u"BlocDeNotas2"_s, u"Edit2"_s));
     click(control(u"FlechaE2"_s));
     EXPECT_EQ(focused(), u"Lista1"_s);
     EXPECT_EQ(wayOfTab(), way);

@@ -250,6 +250,17 @@ TEST_F(ZoomTest, SpaceHoldsTheGlass)
     EXPECT_FALSE(zooms());
 }
 
+TEST_F(ZoomTest, SpaceHoldsTheGlassAlsoAfterTheMenuHasTakenARelease)
+{
+    startWithCapture();
+    EXPECT_TRUE(popsUp(*portada->Menu_Graf_Imagen, [&] { press(picture(), Qt::RightButton); }));
+    picture().setFocus();
+    QTest::keyPress(portada->windowHandle(), Qt::Key_Space);
+    EXPECT_TRUE(zooms());
+    QTest::keyRelease(portada->windowHandle(), Qt::Key_Space);
+    EXPECT_FALSE(zooms());
+}
+
 TEST_F(ZoomTest, GlassGoesWithTheFocusWhileSpaceIsHeld)
 {
     startWithCapture();

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include <gtest/gtest.h>
@@ -79,6 +80,14 @@ void clickAt(QWidget &widget, QPoint point, Qt::MouseButton button)
 void moveTo(QWidget &widget, QPoint point)
 {
     QTest::mouseMove(windowOf(widget), inWindow(widget, point));
+}
+
+void turnWheel(QWidget &widget, QPoint point)
+{
+    const QPoint place = inWindow(widget, point);
+    QWheelEvent turn(place, widget.mapToGlobal(point), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+        Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(windowOf(widget), &turn);
 }
 
 void strike(QWidget &widget, Qt::Key key, Qt::KeyboardModifiers modifiers)

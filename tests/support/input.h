@@ -18,6 +18,7 @@ void click(QWidget &widget, Qt::MouseButton button = Qt::LeftButton);
 void doubleClick(QWidget &widget);
 void clickAt(QWidget &widget, QPoint point, Qt::MouseButton button = Qt::LeftButton);
 void moveTo(QWidget &widget, QPoint point);
+void turnWheel(QWidget &widget, QPoint point); // one notch towards the user
 
 // A key goes to the control that has the focus in the widget's window.
 void strike(QWidget &widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
