@@ -65,8 +65,12 @@ void ScreenTest::look()
     // Anew each time: a timer doesn't come in a loop that it has opened itself.
     m_watch.start(1);
     QWidget *const window = QApplication::activeModalWidget();
-    if (window && std::find(m_acting.begin(), m_acting.end(), window) != m_acting.end())
+    if (window && std::find(m_acting.begin(), m_acting.end(), window) != m_acting.end()) {
+        // What its action starts may work for long before the next form comes.
+        if (!m_announced.empty())
+            m_announced.front().since.restart();
         return;
+    }
     if (!window) {
         overdue();
         return;
