@@ -36,6 +36,12 @@ picture() { # window, name
     [ "$(identify -format %k "$pictures/$2")" -gt 2 ] || fail "$2 shows nothing"
     echo "tour: saved $pictures/$2"
 }
+# How far two pictures are apart, each seen from afar: 0 alike, 1000 black and white.
+distance() { # picture, picture
+    local rmse
+    rmse=$(compare -metric RMSE \( "$1" -resize '40x30!' \) \( "$2" -resize '40x30!' \) null: 2>&1) || true
+    awk -F '[()]' '{ printf "%d", $2 == "" ? 1000 : $2 * 1000 }' <<<"$rmse"
+}
 
 "$program/Zembrolix" &
 zembrolix=$!
@@ -62,16 +68,24 @@ choose 315 st
 picture "$main" main-screen.png
 click "$main" 184 341
 echo "tour: pressed play"
-game=$(window 'Stella' 15) || fail "no emulator's window"
+# A game's window: of the emulator's others none has a name behind a colon.
+game=$(window '^Stella .*: ' 15) || fail "no emulator's window"
 sleep 4
 picture "$game" running-game.png
-xdotool windowactivate --sync "$game" key alt+F4
+apart=$(distance "$pictures/running-game.png" "$program/demo/hedgerow.gif")
+[ "$apart" -lt 220 ] || fail "the emulator shows something else than the demonstration: $apart"
+timeout 10 xdotool windowactivate --sync "$game" key alt+F4 || fail "the emulator's window doesn't come to the front"
 gone "$game" 10 || fail "the emulator's window stays open"
 echo "tour: closed the emulator"
 sleep 0.5
 picture "$main" back-again.png
 click "$main" 391 359
 gone "$main" 10 || fail "the main screen stays open"
+for _ in $(seq 100); do
+    kill -0 "$zembrolix" 2>/dev/null || break
+    sleep 0.1
+done
+! kill -0 "$zembrolix" 2>/dev/null || fail "the program doesn't end"
 trap - EXIT
 wait "$zembrolix" || fail "the program ended with status $?"
 echo "tour: left the program"

@@ -103,6 +103,7 @@ double difference(const QImage &a, const QImage &b)
 struct Game {
     int row; // in the list, counted from 0
     QString name; // of its capture
+    QByteArrayList parameters; // that are the game's own
 };
 
 void PrintTo(const Game &game, std::ostream *out)
@@ -190,6 +191,16 @@ protected:
             .toUInt();
     }
 
+    // What the emulator was started with, its own name aside.
+    static QByteArrayList argumentsOf(host::WindowId window)
+    {
+        QFile file(u"/proc/"_s
+            + output(u"xdotool"_s, { u"getwindowpid"_s, QString::number(window) }).trimmed() + u"/cmdline"_s);
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        return file.readAll().chopped(1).split('\0').sliced(1);
+    }
+
     // The main screen once two pictures of it are the same, with the pointer on the title.
     QImage atRest(host::WindowId main)
     {
@@ -222,6 +233,9 @@ TEST_P(Journey, ChosenGamePlaysInItsEmulatorAndTheListIsBackWhenItEnds)
     click(main, 184, 341);
     const host::WindowId emulator = waitForWindow([this] { return emulatorWindow(); });
     ASSERT_NE(emulator, 0u) << "the emulator's window didn't come";
+    const QByteArrayList arguments = argumentsOf(emulator);
+    ASSERT_FALSE(arguments.isEmpty());
+    EXPECT_EQ(arguments.sliced(1), GetParam().parameters);
     const QImage own = captureOf(GetParam().name);
     ASSERT_FALSE(own.isNull());
     double distance = 255;
@@ -244,8 +258,9 @@ TEST_P(Journey, ChosenGamePlaysInItsEmulatorAndTheListIsBackWhenItEnds)
     EXPECT_EQ(m_program.exitCode(), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    OutOfAZipAndPlain, Journey, testing::Values(Game { 0, u"hedgerow"_s }, Game { 2, u"Star Catcher"_s }));
+INSTANTIATE_TEST_SUITE_P(OutOfAZipWithParametersAndPlain, Journey,
+    testing::Values(Game { 0, u"hedgerow"_s, {} }, Game { 1, u"prisma"_s, { "-ld", "A" } },
+        Game { 2, u"Star Catcher"_s, {} }));
 
 } // namespace
 
