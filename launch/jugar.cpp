@@ -238,7 +238,8 @@ void Termina(Pantalla &pantalla, const QString &entrada)
 
 void Jugar(core::Modulo &M, Pantalla &pantalla)
 {
-    if (pantalla.TextoCombo2().isEmpty())
+    // The database lists no games, whatever its file may hold of a configuration.
+    if (pantalla.TextoCombo2().isEmpty() || M.VerBaseDeDatos == 1)
         return;
     const int sistema = pantalla.Sistema();
     const int fila = pantalla.Emulador() + 1;

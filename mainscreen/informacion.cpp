@@ -23,7 +23,7 @@ void Portada::LLena_INFO()
         M.TipoEmu = core::TipoDe(M.Cat_XDI(sistema, emulador));
         if (Lista1->ListIndex() < 0)
             return;
-        const QString directorio = core::Valor(M.Cat_ROM(sistema, emulador), core::PrefijoRuta);
+        const QString directorio = core::ValorExigido(M.Cat_ROM(sistema, emulador), core::PrefijoRuta);
         core::BuscaROM(M, Lista1->Text(), [&](const core::FichaDeROM &ficha) {
             const QString linea =
                 core::LineaDeInfo(core::Numero(M.TipoEmu), directorio, ficha, host::fileLength);
@@ -59,7 +59,7 @@ void Portada::Lista1_Selection()
 void Portada::CargaCaptura()
 {
     Graf_Imagen->show();
-    const QString directorio = core::Valor(M.Cat_IMG(Sistema(), Emulador() + 1), core::PrefijoRuta);
+    const QString directorio = core::ValorExigido(M.Cat_IMG(Sistema(), Emulador() + 1), core::PrefijoRuta);
     core::BuscaROM(M, Lista1->Text(), [&](const core::FichaDeROM &ficha) {
         const QString ruta = core::RutaDeCaptura(core::Numero(M.TipoEmu), directorio, ficha);
         if (ruta.isEmpty())

@@ -58,7 +58,7 @@ void Portada::LlenaTablasDeLista()
     const int emulador = Emulador() + 1;
     M.TipoEmu = core::TipoDe(M.Cat_XDI(sistema, emulador));
     const int tipo = core::Numero(M.TipoEmu);
-    const QString directorio = core::Valor(M.Cat_ROM(sistema, emulador), core::PrefijoRuta);
+    const QString directorio = core::ValorExigido(M.Cat_ROM(sistema, emulador), core::PrefijoRuta);
     const int entradas = core::ExploraDirectorio(M, tipo, directorio);
     const int notas = core::CargaNotasEnMayusculas(M, Combo1->Text());
     const int extensiones = core::CargaExtensiones(M, sistema);

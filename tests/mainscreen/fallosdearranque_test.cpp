@@ -200,6 +200,36 @@ TEST_F(FallosDeArranqueTest, EndlessLanguageNameEndsTheProgramAtOnceInAFewWords)
     }
 }
 
+// Whatever the files hold, the screen either ends the process with its words or stands and can be used, and
+// the files stay as they are.
+class FicherosRevueltosTest : public MundoTest, public testing::WithParamInterface<const char *> { };
+
+TEST_P(FicherosRevueltosTest, NeitherCrashNorChange)
+{
+    const QString name = QString::fromLatin1(GetParam());
+    Settings settings;
+    settings.LastSisUsed = u"2"_s;
+    files.writeSettings(settings);
+    const QByteArray good = files.read(name);
+    QByteArray all;
+    for (int byte = 0; byte < 256; ++byte)
+        all += char(byte);
+    for (const QByteArray &bytes : { all, good + all, all + "\r\n" + good, good.first(good.size() / 2) + all,
+             good.first(good.size() / 2), QByteArray(20'000, '\0'), QByteArray(good).replace('e', '\0') }) {
+        files.write(name, bytes);
+        renew();
+        if (!load()) {
+            if (systems().ListCount() > 0)
+                pick(systems(), systems().List(0));
+            click(control(u"Check1"_s));
+        }
+        EXPECT_EQ(files.read(name), bytes);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(AllThatAreRead, FicherosRevueltosTest,
+    testing::Values("Zembro.emu", "Zembro.sye", "Zembro.rom", "Zembro.cfg", "LNG/ZB-ESP.LNG"));
+
 // Fast whatever the lines hold: a line of a million characters costs next to nothing.
 class LineasSinFinTest : public MundoTest {
 protected:

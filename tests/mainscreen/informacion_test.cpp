@@ -247,6 +247,32 @@ TEST_F(InformacionTest, TypeFourLeavesThePicture)
     EXPECT_EQ(portada->cursor().shape(), Qt::ArrowCursor);
 }
 
+TEST_F(InformacionTest, EmulatorWithoutACaptureLineShowsNoneOfTheWorkingDirectory)
+{
+    files.writeSize(u"r/a.bin"_s, 1024);
+    files.writeGif(u"a.gif"_s, Qt::red);
+    startWith(u"0"_s);
+    ASSERT_TRUE(QDir::setCurrent(files.path()));
+    M->Cat_IMG(0, 1) = u"IMG="_s;
+    ASSERT_EQ(captureOf(0), QColor(Qt::red)); // an empty directory is the working one
+    for (const QString &line : { QString(), u"IMG"_s }) {
+        M->Cat_IMG(0, 1) = line;
+        M->Lista1Cambio = 0;
+        EXPECT_EQ(captureOf(0), QColor(Qt::black));
+        EXPECT_EQ(M->Lista1Cambio, 1);
+    }
+}
+
+TEST_F(InformacionTest, EmulatorWithoutADirectoryLineLeavesTheInfo)
+{
+    files.writeSize(u"r/a.bin"_s, 1024);
+    startWith(u"0"_s);
+    for (const QString &line : { QString(), u"ROM"_s }) {
+        M->Cat_ROM(0, 1) = line;
+        EXPECT_EQ(infoOf(0), u"sin tocar"_s);
+    }
+}
+
 TEST_F(InformacionTest, MissingCaptureIsBlack)
 {
     files.writeSize(u"r/a.bin"_s, 1024);

@@ -150,8 +150,8 @@ TEST_F(LanzamientoTest, EnterPlaysNothingInTheDatabaseAlsoWhereItNamesAnExecutab
 {
     files.writeLines(u"Zembro.sye"_s,
         { u"-Nueva"_s, u"WEB1="_s, u"*.NEW"_s, u"'"_s, u"+Solita"_s, u"WEB2="_s,
-            u"EXE="_s + files.path(u"bin/emu"_s), u"'-"_s, u"-Otra"_s, u"WEB1="_s, u"'"_s, u"+Sola"_s,
-            u"WEB2="_s, u"'-"_s, u"[EOF]"_s });
+            u"EXE="_s + files.path(u"bin/emu"_s), u"XDI=5"_s, u"'-"_s, u"-Otra"_s, u"WEB1="_s, u"'"_s,
+            u"+Sola"_s, u"WEB2="_s, u"EXE="_s, u"XDI=9"_s, u"'-"_s, u"[EOF]"_s });
     startAt(Zeta, 0);
     click(control(u"Check1"_s));
     for (const QString &system : { u"Nueva"_s, u"Otra"_s }) {
@@ -226,23 +226,67 @@ TEST_F(LanzamientoTest, WhereNothingStartsTheLineLosesItsRedAndShowsTheFactsAgai
 
 TEST_F(LanzamientoTest, ScreenLivesWhileTheEmulatorRuns)
 {
-    makeEmulator("touch started\nwhile [ ! -e go ]; do sleep 0.01; done\n");
     startAt(Zeta, 0);
-    QTimer watch;
     QStringList seen;
-    QObject::connect(&watch, &QTimer::timeout, portada.get(), [&] {
-        if (!files.exists(u"bin/started"_s) || info() == u"CARGANDO"_s)
-            return;
-        watch.stop();
-        seen << colour(u"TXT_Info"_s).name() + u' ' + info();
-        clickRow(list(), 1);
-        seen << info();
-        files.write(u"bin/go"_s, {});
-    });
-    watch.start(0);
-    click(control(u"JugarB1"_s));
+    duringARun([this] { click(control(u"JugarB1"_s)); },
+        [&] {
+            seen << colour(u"TXT_Info"_s).name() + u' ' + info();
+            clickRow(list(), 1);
+            seen << info();
+        });
     EXPECT_THAT(seen, ElementsAre(u"#000000 ONE.NES 1Kb  [NOR]"_s, u"two.nes 2Kb  [NOR]"_s));
     EXPECT_EQ(list().Text(), u"Juego uno"_s); // what was played is selected again
+}
+
+TEST_F(LanzamientoTest, LeavingWhileTheEmulatorRunsSavesEndsTheProgramAndLetsTheEmulatorLive)
+{
+    startAt(Alfa, 0);
+    pick(systems(), u"Zeta"_s);
+    duringARun([this] { click(control(u"JugarB1"_s)); },
+        [this] {
+            const std::optional<ProcessEnd> end = endOf([this] { click(control(u"Flecha2"_s)); });
+            ASSERT_TRUE(end);
+            EXPECT_EQ(end->status, 0);
+            EXPECT_EQ(end->text, QString());
+            EXPECT_TRUE(files.read(u"Zembro.cfg"_s).contains("LastSisUsed = 2\r\n"));
+            EXPECT_FALSE(files.exists(u"bin/ended"_s));
+        });
+    EXPECT_TRUE(files.exists(u"bin/ended"_s));
+}
+
+TEST_F(LanzamientoTest, EntryIsGoneFromTheListOfAnotherSystemThatWasPickedMeanwhile)
+{
+    startAt(Zeta, 0);
+    duringARun([this] { click(control(u"JugarB1"_s)); },
+        [this] {
+            pick(systems(), u"alfa"_s);
+            pick(emulators(), u"Alto"_s);
+        });
+    EXPECT_THAT(listed(), ElementsAre(u"a.sms"_s, u"b.sms"_s));
+    EXPECT_EQ(list().ListIndex(), -1);
+    EXPECT_EQ(summary(), u"2 ROMS - 0.01MB"_s);
+    EXPECT_EQ(colour(u"TXT_Info"_s), QColor(Qt::black));
+}
+
+TEST_F(LanzamientoTest, DatabaseOpenedMeanwhileStaysEmptyAtTheEnd)
+{
+    startAt(Zeta, 0);
+    duringARun([this] { click(control(u"JugarB1"_s)); }, [this] { click(control(u"Check1"_s)); });
+    EXPECT_EQ(M->VerBaseDeDatos, 1);
+    EXPECT_EQ(list().ListCount(), 0);
+    EXPECT_EQ(info(), u"Ninguna ROM"_s);
+    EXPECT_FALSE(control(u"JugarB1"_s).isEnabled());
+}
+
+TEST_F(LanzamientoTest, OfTwoEntriesOfOneTextTheFirstIsSelectedAtTheEnd)
+{
+    files.writeNotes({ { u"Zeta"_s, { { u"ONE.NES"_s, u"Juego"_s }, { u"TWO.NES"_s, u"Juego"_s } } } });
+    startAt(Zeta, 0);
+    ASSERT_THAT(listed(), ElementsAre(u"Juego"_s, u"Juego"_s));
+    clickRow(list(), 1);
+    click(control(u"JugarB1"_s));
+    EXPECT_EQ(runs(), 1);
+    EXPECT_EQ(list().ListIndex(), 0);
 }
 
 namespace {
@@ -286,7 +330,7 @@ private:
 
 TEST_F(LanzamientoTest, PassOfTheWatchThatChangesNothingPostsNothing)
 {
-    makeEmulator("touch started\nwhile [ ! -e go ]; do sleep 0.01; done\n");
+    makeEmulator("touch started\nfor _ in $(seq 500); do [ -e go ] && break; sleep 0.01; done\n");
     for (const bool withROMs : { true, false }) {
         if (!withROMs)
             files.remove(u"zeta"_s);

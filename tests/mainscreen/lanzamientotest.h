@@ -45,13 +45,15 @@ protected:
         files.remove(log);
         return count;
     }
-    // Starts an emulator that runs until `act` is over.
+    // Starts an emulator that runs until `act`, which comes once the screen is back at rest, is over; then it
+    // makes the file "ended".
     void duringARun(const std::function<void()> &start, const std::function<void()> &act)
     {
-        makeEmulator("echo run >> runs\ntouch started\nwhile [ ! -e go ]; do sleep 0.01; done\n");
+        makeEmulator("echo run >> runs\ntouch started\n"
+                     "for _ in $(seq 1000); do [ -e go ] && break; sleep 0.01; done\ntouch ended\n");
         QTimer watch;
         QObject::connect(&watch, &QTimer::timeout, portada.get(), [&] {
-            if (!files.exists(QStringLiteral("bin/started")))
+            if (!files.exists(QStringLiteral("bin/started")) || info() == QStringLiteral("CARGANDO"))
                 return;
             watch.stop();
             act();

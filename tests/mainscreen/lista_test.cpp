@@ -2,6 +2,7 @@
 
 #include "mundotest.h"
 
+#include "tests/support/ordinaryuser.h"
 #include "tests/support/witness.h"
 
 #include "host/paths.h"
@@ -254,6 +255,18 @@ TEST_F(ListaTest, MissingDirectoryListsNothing)
     startWith(u"0"_s, { u"BIN"_s });
     files.remove(u"r"_s);
     restart();
+    expectNothing();
+}
+
+TEST_F(ListaTest, DirectoryThatTheUserMayNotReadListsNothing)
+{
+    files.writeSize(u"r/a.bin"_s, 1024);
+    startWith(u"0"_s, { u"BIN"_s });
+    ASSERT_THAT(listed(), ElementsAre(u"a.bin"_s));
+    ASSERT_EQ(chmod(files.path().toUtf8().constData(), 0755), 0);
+    const AsOrdinaryUser user(files.path(u"r"_s), 0);
+    renew();
+    start();
     expectNothing();
 }
 

@@ -2,6 +2,8 @@
 
 #include "mundotest.h"
 
+#include "tests/support/ordinaryuser.h"
+
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 
@@ -238,4 +240,39 @@ TEST_F(SalidaTest, FileLeftOpenByAListThatFailedEndsTheExitInError)
     EXPECT_EQ(end->status, 1);
     EXPECT_TRUE(end->text.startsWith(u"An unknown error has occurred. (ERR55)\n")) << end->text.toStdString();
     EXPECT_EQ(files.read(u"Zembro.cfg"_s), written);
+}
+
+TEST_F(SalidaTest, CollectionThatCannotBeWrittenStartsAndEndsWithoutTheSaving)
+{
+    Settings settings;
+    settings.SaveLast = u"0"_s;
+    files.writeSettings(settings);
+    const QByteArray written = files.read(u"Zembro.cfg"_s);
+    {
+        const AsOrdinaryUser user(files.path());
+        start();
+        pick(systems(), u"Zeta"_s);
+        EXPECT_THAT(listed(), ElementsAre(u"Juego uno"_s, u"two.nes"_s));
+        pick(systems(), u"Medio"_s);
+        leave();
+    }
+    EXPECT_EQ(files.read(u"Zembro.cfg"_s), written);
+}
+
+TEST_F(SalidaTest, SavingThatFailsNamesTheFileAndKeepsIt)
+{
+    startAt(Zeta, 0);
+    pick(systems(), u"Medio"_s);
+    const QByteArray written = files.read(u"Zembro.cfg"_s);
+    std::optional<ProcessEnd> end;
+    {
+        const AsOrdinaryUser user(files.path());
+        end = endOf([this] { click(control(Arrow)); });
+    }
+    ASSERT_TRUE(end);
+    EXPECT_EQ(end->status, 1);
+    EXPECT_EQ(end->title, u"ERROR"_s);
+    EXPECT_TRUE(end->text.contains(files.path(u"Zembro.cfg"_s))) << end->text.toStdString();
+    EXPECT_EQ(files.read(u"Zembro.cfg"_s), written);
+    EXPECT_FALSE(files.exists(u"Zembro.tmp"_s));
 }

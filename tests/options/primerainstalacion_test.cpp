@@ -1,13 +1,11 @@
 // The first run: the languages it offers, the settings it writes, and the start around it.
 
+#include "tests/support/ordinaryuser.h"
 #include "tests/support/portadatest.h"
 
 #include "options/primerainstalacion.h"
 
 #include <QFontInfo>
-
-#include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
@@ -54,31 +52,6 @@ QStringList entriesOf(const forms::ListBox &list)
         entries << list.List(i);
     return entries;
 }
-
-// While it lives, the process is bound by permissions, and the directory can't be written.
-class AsOrdinaryUser {
-public:
-    explicit AsOrdinaryUser(const QString &directory)
-        : m_directory(directory.toUtf8())
-    {
-        constexpr uid_t Nobody = 65534;
-        EXPECT_EQ(chmod(m_directory.constData(), 0555), 0);
-        if (m_user == 0) {
-            EXPECT_EQ(seteuid(Nobody), 0);
-        }
-    }
-    ~AsOrdinaryUser()
-    {
-        EXPECT_EQ(seteuid(m_user), 0);
-        EXPECT_EQ(chmod(m_directory.constData(), 0700), 0);
-    }
-    AsOrdinaryUser(const AsOrdinaryUser &) = delete;
-    AsOrdinaryUser &operator=(const AsOrdinaryUser &) = delete;
-
-private:
-    QByteArray m_directory;
-    uid_t m_user = geteuid();
-};
 
 } // namespace
 
