@@ -15,6 +15,10 @@ struct Palabras {
     QString Zem_NoPapelera0 = QStringLiteral("Sin papelera");
     QString Zem_NoPapelera1 = QStringLiteral("La papelera no admite este archivo: se queda donde está.");
 
+    // Describing one, or giving it parameters.
+    QString Zem_NoNota0 = QStringLiteral("Sin anotar");
+    QString Zem_NoNota1 = QStringLiteral("Este nombre de archivo no se puede anotar.");
+
     // What the desktop lacks.
     QString Zem_Falta0 = QStringLiteral("Falta un programa");
     QString Zem_FaltaEditor = QStringLiteral("No hay ningún editor de textos instalado.");

@@ -94,8 +94,7 @@ void Portada::Describir()
     const int tipo = core::Numero(M.TipoEmu);
     if (!core::FicherosSueltos(tipo) && !core::UnDirectorioPorJuego(tipo) && !core::UnZipPorJuego(tipo))
         return;
-    // Some names would come back from the file as others.
-    if (!core::SePuedeEscribir(nota < 0 ? core::ClaveNueva(tipo, entrada) : M.Nota_Clave(nota)))
+    if (!SePuedeAnotar(nota < 0 ? core::ClaveNueva(tipo, entrada) : M.Nota_Clave(nota)))
         return;
     GuardaDescripcion(tipo, nota, entrada, descripcion);
 
@@ -106,6 +105,15 @@ void Portada::Describir()
     Lista1->SetText(descripcion);
     Lista1->setFocus();
     core::RecargaNotas(M, Combo1->Text());
+}
+
+// Some names would come back from the file as others: that is said.
+bool Portada::SePuedeAnotar(const QString &clave)
+{
+    if (core::SePuedeEscribir(clave))
+        return true;
+    Advierte(M.Palabras.Zem_NoNota0, M.Palabras.Zem_NoNota1);
+    return false;
 }
 
 void Portada::GuardaDescripcion(int tipo, int nota, const QString &entrada, const QString &descripcion)
@@ -127,7 +135,10 @@ void Portada::Menu_Parametros_Click()
     Mensaje(1, M.Msg_Parametros1, M.Msg_Parametros0, M.TXT_Aceptar, M.TXT_Volver, actuales);
     if (M.Respuesta_Caja == actuales || M.Respuesta_Opcion == 1)
         return;
-    const core::Parametros nuevos { clave, Combo1->Text(), Combo2->Text(), M.Respuesta_Caja };
+    const QString parametros = M.Respuesta_Caja;
+    if (!SePuedeAnotar(clave))
+        return;
+    const core::Parametros nuevos { clave, Combo1->Text(), Combo2->Text(), parametros };
     ReescribeNotas([&](const QString &texto) {
         return actuales.isEmpty() ? core::ConParametrosNuevos(texto, nuevos)
                                   : core::ConParametrosCambiados(texto, nuevos);

@@ -479,15 +479,28 @@ TEST_F(AccionesTest, EntryGoesWhereItsWholeDirectoryIsGone)
     EXPECT_THAT(listed(), ElementsAre(u"two.nes"_s));
 }
 
-TEST_F(AccionesTest, NameThatWouldNotComeBackFromTheFileIsNotDescribed)
+TEST_F(AccionesTest, NameThatWouldNotComeBackFromTheFileIsRefusedWithAWord)
 {
     files.writeSize(u"zeta/\"a\".nes"_s, 10);
     startAt(Zeta, 0);
     addWords();
     const QByteArray before = notes();
     list().SetText(u"\"a\".nes"_s);
-    answer(
-        u"Text"_s, [&] { describe(); }, u"\"a\".nes"_s);
+    QStringList told;
+    const auto refused = [&](const std::function<void()> &action, const QString &offered) {
+        const auto refuse = [&] {
+            atModal(u"Caja"_s, [&](forms::Form &form) {
+                told << form.Caption() << controlOf<forms::Label>(form, u"Texto2"_s).Caption();
+                click(controlOf<QWidget>(form, u"Flecha2"_s));
+            });
+            action();
+        };
+        answer(u"Text"_s, refuse, offered);
+    };
+    refused([&] { describe(); }, u"\"a\".nes"_s);
+    refused([&] { portada->Menu_Parametros->Click.raise(); }, QString());
+    const QString why = u"Este nombre de archivo no se puede anotar."_s;
+    EXPECT_THAT(told, ElementsAre(u"Sin anotar"_s, why, u"Sin anotar"_s, why));
     EXPECT_EQ(notes(), before);
     EXPECT_TRUE(listed().contains(u"\"a\".nes"_s));
 }
