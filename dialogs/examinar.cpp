@@ -53,7 +53,7 @@ void Examinar::Monta()
     Discos = coloca(new forms::ComboBox(this, false), u"Discos"_s, { 120, 120, 1815, 315 });
     Directorios = coloca(new forms::DirectoryList(this), u"Directorios"_s, { 120, 600, 1815, 1890 });
     Archivos = coloca(new forms::ListBox(this, true), u"Archivos"_s, { 2040, 120, 1815, 3015 });
-    Archivos->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    Archivos->SetHorizontalBar();
     Aceptar2 = new forms::PictureButton(u"Aceptar2"_s, u"Aceptar1"_s, this);
     Aceptar2->SetPlace({ 180, 2620, 465, 405 });
     Flecha2 = new forms::PictureButton(u"Flecha2"_s, u"Flecha1"_s, this);

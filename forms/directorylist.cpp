@@ -40,7 +40,7 @@ QPixmap folder(const QWidget &widget, int depth, bool open)
 DirectoryList::DirectoryList(QWidget *parent)
     : ListBox(parent)
 {
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    SetHorizontalBar();
 }
 
 void DirectoryList::SetPath(const QString &path)

@@ -27,8 +27,7 @@ public:
         return { QStyledItemDelegate::sizeHint(option, index).width(), option.fontMetrics.height() };
     }
 
-    void paint(
-        QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         QStyleOptionViewItem row = option;
         row.state.setFlag(QStyle::State_HasFocus, false);
@@ -73,6 +72,12 @@ ListBox::ListBox(QWidget *parent, bool sorted)
         if (ListIndex() >= 0)
             Selection.raise();
     });
+}
+
+void ListBox::SetHorizontalBar()
+{
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setUniformItemSizes(false); // else all count for as wide as one of them
 }
 
 int ListBox::AddItem(const QString &text, int itemData)

@@ -37,6 +37,9 @@ public:
     void SetText(const QString
             &text); // selects the first entry with exactly this text, else deselects without an event
 
+    // A bar along the bottom where an entry is wider than the list. Without one it is cut off.
+    void SetHorizontalBar();
+
     int TopIndex() const; // the first entry in view
     // The entry at this point of the client area, in pixels; below the last entry ListCount() is given where
     // that is still inside the control, -1 outside.

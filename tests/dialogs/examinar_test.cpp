@@ -13,6 +13,7 @@
 #include <QAccessible>
 #include <QDir>
 #include <QFile>
+#include <QScrollBar>
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
@@ -179,6 +180,23 @@ TEST_F(ExaminarTest, ADoubleClickOnADirectoryMovesTheFiles_ASingleOneDoesNot)
         press(form, u"Aceptar2"_s);
     });
     EXPECT_EQ(M.RutaExaminar, games() + u"/sub"_s);
+}
+
+TEST_F(ExaminarTest, ANameThatIsWiderThanItsListIsReachedByABar)
+{
+    const QString wide = u'c' + QString(60, u'w'); // neither first nor last
+    files.write(u"games/"_s + wide + u".exe"_s, "x");
+    files.makeDirectory(u"games/"_s + wide);
+    browse(games(), [this](forms::Form &form) {
+        for (forms::ListBox *list : { &programs(form), static_cast<forms::ListBox *>(&tree(form)) }) {
+            EXPECT_TRUE(waitUntil([list] { return list->horizontalScrollBar()->isVisible(); }))
+                << list->objectName().toStdString();
+            EXPECT_GT(list->horizontalScrollBar()->maximum(), 200);
+        }
+        doubleClickRow(tree(form), rowOf(tree(form), u"sub"_s));
+        EXPECT_TRUE(waitUntil([&form] { return !programs(form).horizontalScrollBar()->isVisible(); }));
+        press(form, u"Flecha2"_s);
+    });
 }
 
 TEST_F(ExaminarTest, AcceptAnswersTheOpenDirectoryAndTheMarkedFile)

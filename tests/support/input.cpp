@@ -42,7 +42,8 @@ QPoint middleOfRow(QAbstractItemView &view, int row)
 {
     const QModelIndex index = view.model()->index(row, 0);
     view.scrollTo(index);
-    return inWindow(*view.viewport(), view.visualRect(index).center());
+    const QRect seen = view.visualRect(index) & view.viewport()->rect();
+    return inWindow(*view.viewport(), seen.center());
 }
 
 } // namespace
