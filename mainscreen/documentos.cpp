@@ -133,14 +133,14 @@ void Portada::FlechaE2_Release()
 {
     DejaElTecladoAlEditor(false);
     Lista1->setFocus();
-    for (QWidget *control : OcultosPorElEditor())
-        control->show();
     for (QWidget *control : std::initializer_list<QWidget *> { Editor, FlechaE2, Edit2, BlocDeNotas2 })
         control->hide();
+    for (QWidget *control : OcultosPorElEditor())
+        control->show();
 }
 
-// Labels last: shown again, they grow into the room that the others leave. The frames go too, which would
-// stand there cut in half.
+// Labels last: shown again, once the Editor has gone, they grow into the room that the others leave. The
+// frames go too, which would stand there cut in half.
 std::vector<QWidget *> Portada::OcultosPorElEditor() const
 {
     return { Shape1, Shape2, D1, Check1, BotonC2, BotonD2, Boton3b, Boton4b, Flecha2, JugarB1, Menos2b,

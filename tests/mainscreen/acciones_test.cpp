@@ -138,6 +138,7 @@ TEST_F(AccionesTest, ZipWithANoteIsFoundWithItsEnding)
 {
     startAt(Alfa, 1);
     ASSERT_THAT(listed(), ElementsAre(u"Un juego"_s));
+    M->TipoEmu = u"0"_s; // it is read anew
     questions.yesNo = { true };
     discard();
     EXPECT_THAT(trashed(), ElementsAre(u"game.zip"_s));
@@ -176,6 +177,8 @@ TEST_F(AccionesTest, WithoutATrashTheROMStaysAndItIsSaid)
     atModal(u"Caja"_s, [&](forms::Form &form) {
         told = true;
         EXPECT_EQ(form.Caption(), u"Sin papelera"_s);
+        EXPECT_EQ(controlOf<forms::Label>(form, u"Texto2"_s).Caption(),
+            u"La papelera no admite este archivo: se queda donde está."_s);
         click(controlOf<QWidget>(form, u"Flecha2"_s));
     });
     discard();

@@ -5,6 +5,8 @@
 
 #include "tests/support/desktoptools.h"
 
+#include <QDir>
+
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 
@@ -12,7 +14,8 @@ namespace {
 
 const QStringList Hidden { u"D1"_s, u"Check1"_s, u"TXT_dB"_s, u"TXT_Boton"_s, u"BotonC2"_s, u"BotonD2"_s,
     u"Boton3b"_s, u"Boton4b"_s, u"TXT_Ayuda"_s, u"TXT_AcercaDe"_s, u"TXT_VerAyuda"_s, u"TXT_VerConfig"_s,
-    u"Flecha2"_s, u"JugarB1"_s, u"Menos2b"_s, u"Boton5b"_s, u"Boton6b"_s, u"TXT_Utilidades"_s, u"TXT_FAQ"_s };
+    u"Flecha2"_s, u"JugarB1"_s, u"Menos2b"_s, u"Boton5b"_s, u"Boton6b"_s, u"TXT_Utilidades"_s, u"TXT_FAQ"_s,
+    u"Shape1"_s, u"Shape2"_s };
 const QStringList Covered { u"E1"_s, u"Boton1b"_s, u"Boton2b"_s, u"Menos2a"_s, u"WEB2"_s };
 const QStringList Shown { u"Editor"_s, u"FlechaE2"_s, u"Edit2"_s, u"BlocDeNotas2"_s };
 
@@ -27,11 +30,12 @@ protected:
     bool isShown(const QString &name) { return !control(name).isHidden(); }
     QString text() { return control<forms::TextArea>(u"Editor"_s).Text(); }
     // What the next message box says, left by the arrow.
-    void expectWarning(const QString &title)
+    void expectWarning(const QString &title, const QString &text)
     {
-        atModal(u"Caja"_s, [this, title](forms::Form &form) {
+        atModal(u"Caja"_s, [this, title, text](forms::Form &form) {
             ++warnings;
             EXPECT_EQ(form.Caption(), title);
+            EXPECT_EQ(controlOf<forms::Label>(form, u"Texto2"_s).Caption(), text);
             click(controlOf<QWidget>(form, u"Flecha2"_s));
         });
     }
@@ -104,12 +108,15 @@ TEST_F(DocumentosTest, WithoutAnyCandidateItIsSaidOnceAndTheScreenStays)
 {
     startAt(Zeta, 0);
     M->Msg_AyudaNoEnc0 = u"Ayuda"_s;
+    M->Msg_AyudaNoEnc1 = u"no help"_s;
     M->Msg_CFGNoEnc0 = u"Config"_s;
-    for (const auto &[button, title] :
-        { std::pair(u"BotonC2"_s, u"Ayuda"_s), std::pair(u"BotonD2"_s, u"Config"_s) }) {
-        atModal(u"Caja"_s, [&, title](forms::Form &form) {
+    M->Msg_CFGNoEnc1 = u"no settings"_s;
+    for (const auto &[button, title, why] : { std::tuple(u"BotonC2"_s, u"Ayuda"_s, u"no help"_s),
+             std::tuple(u"BotonD2"_s, u"Config"_s, u"no settings"_s) }) {
+        atModal(u"Caja"_s, [&, title, why](forms::Form &form) {
             ++warnings;
             EXPECT_EQ(form.Caption(), title);
+            EXPECT_EQ(controlOf<forms::Label>(form, u"Texto2"_s).Caption(), why);
             EXPECT_FALSE(portada->isEnabled());
             EXPECT_EQ(controlOf<forms::Label>(form, u"TXT_Volver"_s).Caption(), u"Volver"_s);
             click(controlOf<QWidget>(form, u"Flecha2"_s));
@@ -129,6 +136,7 @@ TEST_F(DocumentosTest, TooLongAFileIsToldAndCut)
     files.write(u"emu/readme.txt"_s, QByteArray(32000, 'a'));
     startAt(Zeta, 0);
     M->Msg_ArchGrande0 = u"Grande"_s;
+    M->Msg_ArchGrande1 = u"too long"_s;
     click(control(u"BotonC2"_s));
     EXPECT_EQ(text().size(), 32000);
     click(control(u"FlechaE2"_s));
@@ -136,6 +144,7 @@ TEST_F(DocumentosTest, TooLongAFileIsToldAndCut)
     atModal(u"Caja"_s, [&](forms::Form &form) {
         ++warnings;
         EXPECT_EQ(form.Caption(), u"Grande"_s);
+        EXPECT_EQ(controlOf<forms::Label>(form, u"Texto2"_s).Caption(), u"too long"_s);
         EXPECT_EQ(text(), QString());
         click(controlOf<QWidget>(form, u"Aceptar2"_s));
     });
@@ -185,22 +194,69 @@ TEST_F(DocumentosTest, BothEditorsGetTheFileAsOneArgument)
     click(control(u"Edit2"_s));
     EXPECT_TRUE(tools.recorded().startsWith(u"xterm|-e|"_s + files.path(u"tools/nano|"_s) + file + u'|'));
     EXPECT_TRUE(isShown(u"Editor"_s));
+    const QStringList inEditor = M->OrdenBlocDeNotas;
+    const QStringList inTerminal = M->OrdenEdit;
+    click(control(u"FlechaE2"_s));
+    EXPECT_EQ(M->OrdenBlocDeNotas, inEditor);
+    EXPECT_EQ(M->OrdenEdit, inTerminal);
+}
+
+TEST_F(DocumentosTest, NobodyWaitsForAnOutsideEditor)
+{
+    files.write(u"emu/readme.txt"_s, "text");
+    const QByteArray place = files.path().toUtf8();
+    for (const QString &tool : { u"leafpad"_s, u"xterm"_s })
+        tools.runs(tool, "while [ ! -e '" + place + "/go' ]; do :; done\n: >> '" + place + "/over'\n");
+    tools.install(u"nano"_s);
+    startAt(Zeta, 0);
+    click(control(u"BotonC2"_s));
+    // Lets a watch end that there shouldn't be.
+    QTimer::singleShot(3000, portada.get(), [&] { files.write(u"go"_s, {}); });
+    for (const QString &button : { u"BlocDeNotas2"_s, u"Edit2"_s }) {
+        click(control(button));
+        EXPECT_FALSE(files.exists(u"go"_s)) << button.toStdString();
+    }
+    files.write(u"go"_s, {});
+    EXPECT_TRUE(waitUntil([&] { return files.exists(u"over"_s); }));
+}
+
+TEST_F(DocumentosTest, WordsGrowAgainAsTheyDidWhereATextIsClosed)
+{
+    files.write(u"emu/readme.txt"_s, "text");
+    startAt(Zeta, 0);
+    const QStringList words { u"TXT_Boton"_s, u"TXT_Utilidades"_s, u"TXT_AcercaDe"_s, u"TXT_VerAyuda"_s,
+        u"TXT_VerConfig"_s, u"TXT_Ayuda"_s, u"TXT_FAQ"_s };
+    for (const QString &name : words) {
+        auto &label = control<forms::Label>(name);
+        const QString word = label.Caption();
+        label.SetCaption(word + u" and a long word"_s);
+        const QRect place = label.geometry();
+        click(control(u"BotonC2"_s));
+        click(control(u"FlechaE2"_s));
+        EXPECT_EQ(label.geometry(), place) << name.toStdString();
+        label.SetCaption(word);
+    }
 }
 
 TEST_F(DocumentosTest, MissingToolsAreToldAndNothingChanges)
 {
     files.write(u"emu/readme.txt"_s, "text");
     startAt(Zeta, 0);
-    for (const QString &button : { u"Boton5b"_s, u"Boton6b"_s, u"D1"_s, u"E1"_s }) {
-        expectWarning(u"Falta un programa"_s);
+    const QString directory = QDir::currentPath();
+    const QString noEditor = u"No hay ningún editor de textos instalado."_s;
+    const auto misses = [this](const QString &button, const QString &text) {
+        expectWarning(u"Falta un programa"_s, text);
         click(control(button));
-    }
+    };
+    misses(u"Boton5b"_s, noEditor);
+    misses(u"Boton6b"_s, noEditor);
+    misses(u"D1"_s, u"No hay ningún terminal instalado."_s);
+    misses(u"E1"_s, u"No hay ningún gestor de archivos instalado."_s);
     click(control(u"BotonC2"_s));
-    for (const QString &button : { u"Edit2"_s, u"BlocDeNotas2"_s }) {
-        expectWarning(u"Falta un programa"_s);
-        click(control(button));
-    }
+    misses(u"Edit2"_s, u"No hay ningún editor para el terminal, o ningún terminal."_s);
+    misses(u"BlocDeNotas2"_s, noEditor);
     EXPECT_EQ(warnings, 6);
+    EXPECT_EQ(QDir::currentPath(), directory);
     EXPECT_EQ(text(), u"text"_s);
 }
 
@@ -255,6 +311,20 @@ TEST_F(DocumentosTest, FileManagerOpensTheEmulatorsDirectory)
     click(control(u"E1"_s));
     ASSERT_TRUE(files.exists(u"record"_s));
     EXPECT_TRUE(tools.recorded().startsWith(u"thunar|"_s + files.path(u"emu/"_s) + u'|'));
+}
+
+TEST_F(DocumentosTest, EmulatorWithoutADirectoryMeansTheCurrentOne)
+{
+    for (const QString &tool : { u"xterm"_s, u"thunar"_s })
+        tools.install(tool);
+    startAt(Zeta, 0);
+    M->Cat_EXE(0, 1) = u"EXE=emu"_s;
+    const QString directory = QDir::currentPath();
+    click(control(u"D1"_s));
+    EXPECT_EQ(tools.recorded(), u"xterm|"_s + directory + u'|');
+    click(control(u"E1"_s));
+    EXPECT_EQ(tools.recorded(), u"thunar|"_s + directory + u'|' + directory + u'|');
+    EXPECT_EQ(QDir::currentPath(), directory);
 }
 
 TEST_F(DocumentosTest, WithoutAnEmulatorTheButtonsOnlyRelease)

@@ -41,8 +41,8 @@ TEST_F(LanzamientoTest, PlayButtonGivesWayOnceAheadOfPlaying)
 TEST_F(LanzamientoTest, EnterPlaysOnceFromEveryPlaceThatTakesIt)
 {
     startAt(Zeta, 0);
-    for (const QString &name :
-        { u"Lista1"_s, u"Combo1"_s, u"Combo2"_s, u"Graf_TV"_s, u"Titulo1"_s, u"IMGDescripcionLarga"_s }) {
+    for (const QString &name : { u"Lista1"_s, u"Combo1"_s, u"Combo2"_s, u"Graf_TV"_s, u"Titulo1"_s,
+             u"IMGDescripcionLarga"_s, u"Graf_Imagen"_s, u"BotonA2"_s, u"D1"_s }) {
         for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Enter }) {
             control(name).show();
             focus(name);

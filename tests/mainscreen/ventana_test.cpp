@@ -3,6 +3,7 @@
 #include "mundotest.h"
 
 #include "tests/support/devices.h"
+#include "tests/support/witness.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -172,6 +173,21 @@ TEST_F(VentanaTest, TipComesOverALongEntryAndGoesWithThePointer)
     EXPECT_TRUE(comes([&] { return colourOnScreen(tip, corner) == QColor(255, 255, 192); }));
     input(at(control(u"Graf_TV"_s), QPoint(6, 60)));
     EXPECT_TRUE(comes([&] { return !tip.isVisible(); }));
+}
+
+TEST_F(VentanaTest, TipComesOnlyWhileNoButtonIsHeld)
+{
+    startWithCapture();
+    list().AddItem(Long);
+    QWidget &tip = control(u"IMGDescripcionLarga"_s);
+    QList<Qt::MouseButtons> held;
+    const Witness shown(tip, QEvent::Show, [&] { held << QGuiApplication::mouseButtons(); });
+    input(at(*list().viewport(), row(1)) + u" mousedown 1 "_s + at(*list().viewport(), row(2)));
+    input(at(*list().viewport(), row(2) + QPoint(4, 0)) + u" mouseup 1 "_s
+        + at(*list().viewport(), row(2) + QPoint(9, 0)));
+    EXPECT_TRUE(comes([&] { return tip.isVisible(); }));
+    EXPECT_THAT(held, testing::ElementsAre(Qt::MouseButtons(Qt::NoButton)));
+    EXPECT_EQ(list().ListIndex(), 1);
 }
 
 TEST_F(VentanaTest, ListsMenuOpensAndEscapeGivesTheListTheFocusBack)

@@ -297,6 +297,20 @@ TEST_F(ZoomTest, GlassGoesWhereTheReleaseCannotCome)
     }
 }
 
+TEST_F(ZoomTest, GlassHasASingleBorder)
+{
+    startWithCapture();
+    press(picture());
+    const QImage shown = pictureOf(portada->Aumento);
+    release(picture());
+    const int right = shown.width() - 1;
+    const int bottom = shown.height() - 1;
+    for (const QPoint point : { QPoint(0, 0), QPoint(right, 0), QPoint(0, bottom), QPoint(right, bottom) })
+        EXPECT_EQ(shown.pixelColor(point), QColor(Qt::black)) << point.x() << ',' << point.y();
+    for (const QPoint point : { QPoint(1, 1), QPoint(right - 1, bottom - 1) })
+        EXPECT_EQ(shown.pixelColor(point), QColor(Qt::red)) << point.x() << ',' << point.y();
+}
+
 TEST_F(ZoomTest, FormOfTheGlassHasItsDesign)
 {
     const forms::Image &image = *portada->Aumento.Imagen;

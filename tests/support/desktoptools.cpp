@@ -37,6 +37,11 @@ void DesktopTools::runnable(const QString &name, const QByteArray &content) cons
     QFile(m_files.path(file)).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
+void DesktopTools::runs(const QString &name, const QByteArray &script) const
+{
+    runnable(name, "#!/bin/sh\n" + script);
+}
+
 void DesktopTools::broken(const QString &name) const
 {
     runnable(name,

@@ -16,6 +16,7 @@ public:
 
     // A tool that writes its name, its arguments and its directory down, each in one go.
     void install(const QString &name) const;
+    void runs(const QString &name, const QByteArray &script) const; // one of the test's own, for sh
     void broken(const QString &name) const; // one that doesn't start
 
     // What the last tool wrote, each part closed by a bar; waits for it.
