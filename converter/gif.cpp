@@ -10,10 +10,12 @@ namespace {
 
 constexpr std::size_t MostColours = 256;
 
-// The reduction's tree at a depth of 4 has this many leaves. With more colours than that, the greater depth
-// that it chooses itself finds no better ones, in five times the time.
-constexpr std::size_t LeavesOfShallowTree = 4096;
-constexpr unsigned int ShallowTree = 4;
+// The reduction sorts the colours into a tree, whose cells halve each channel at every level; what shares a
+// cell of the deepest level becomes one colour. The depth that the library chooses itself leaves some twenty
+// colours of a picture of close ones, and the greatest takes seconds where there are many.
+constexpr unsigned int LeastDepth = 4;
+constexpr unsigned int GreatestDepth = 8;
+constexpr std::size_t CellsThatSuffice = 2 * MostColours;
 
 std::uint32_t colourAt(const Picture &picture, std::size_t byte)
 {
@@ -86,14 +88,35 @@ Magick::Image indexedImage(const Picture &picture)
     return image;
 }
 
-Magick::Image reducedImage(const Picture &picture, std::size_t colours)
+std::size_t cellsAt(unsigned int depth, const std::vector<std::uint32_t> &colours)
+{
+    const std::uint32_t channel = 0xFFU << (8 - depth) & 0xFF;
+    const std::uint32_t cell = channel << 16 | channel << 8 | channel;
+    std::vector<bool> seen(std::size_t(1) << 24);
+    std::size_t result = 0;
+    for (const std::uint32_t colour : colours) {
+        result += seen[colour & cell] ? 0 : 1;
+        seen[colour & cell] = true;
+    }
+    return result;
+}
+
+// The least that tells enough of these colours apart.
+unsigned int depthFor(const std::vector<std::uint32_t> &colours)
+{
+    unsigned int depth = LeastDepth;
+    while (depth < GreatestDepth && cellsAt(depth, colours) < CellsThatSuffice)
+        ++depth;
+    return depth;
+}
+
+Magick::Image reducedImage(const Picture &picture, const std::vector<std::uint32_t> &colours)
 {
     Magick::Image image(static_cast<unsigned int>(picture.width), static_cast<unsigned int>(picture.height),
         "RGB", Magick::CharPixel, picture.pixels.data());
     image.quantizeColors(MostColours);
     image.quantizeDither(true);
-    if (colours > LeavesOfShallowTree)
-        image.quantizeTreeDepth(ShallowTree);
+    image.quantizeTreeDepth(depthFor(colours));
     image.quantize();
     return image;
 }
@@ -105,7 +128,7 @@ Magick::Image imageOf(const Picture &picture)
     const std::vector<std::uint32_t> colours = coloursIn(picture);
     if (colours.size() <= MostColours)
         return indexedImage(withPalette(picture, colours));
-    return reducedImage(picture, colours.size());
+    return reducedImage(picture, colours);
 }
 
 } // namespace

@@ -88,8 +88,8 @@ PcxHeader readHeader(Bytes file)
     return header;
 }
 
-// Yields the bytes of the lines one after the other. A run may go on in the next line: some programs packed
-// so.
+// Yields the bytes of the lines one after the other. A run may go on in the next line, as some programs
+// packed so, and the last one behind the last pixel, where nothing is lost.
 class Unpacker {
 public:
     Unpacker(Bytes file, bool packed)
@@ -99,7 +99,6 @@ public:
     }
 
     std::size_t place() const { return m_place; }
-    bool insideRun() const { return m_run > 0; }
 
     void read(std::span<std::uint8_t> line)
     {
@@ -193,8 +192,6 @@ Picture readPcx(Bytes file)
         else
             appendColours(header, line, picture.pixels);
     }
-    if (unpacker.insideRun())
-        throw Unreadable("its last run goes on behind the last pixel");
     if (header.hasPalette())
         picture.palette = paletteOf(header, file, unpacker.place());
     return picture;

@@ -16,8 +16,8 @@ using Bytes = std::span<const std::uint8_t>;
 // An A4 page at 600 dots an inch has 35 million.
 constexpr std::uint64_t MostPixels = 40'000'000;
 
-// Throws Unreadable: no PCX, a kind that isn't known, no pixels or too many, the file cut short, a run that
-// goes on behind the last pixel, or 256 colours without their palette. Its memory is bound by what the file
+// Throws Unreadable: no PCX, a kind that isn't known, no pixels or too many, the file cut short, or 256
+// colours without their palette. Its memory is bound by what the file
 // really holds, whatever the header says.
 Picture readPcx(Bytes file);
 

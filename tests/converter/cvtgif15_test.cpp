@@ -188,13 +188,22 @@ TEST_F(Converter, LeavesNothingBehind_WhateverIsWrongWithTheFile)
         { RedAndBlue.bytes().first(100), "the file ends before the picture does" },
         { eightBits.bytes(), "the palette of 256 colours at its end is missing" },
         { PcxFile { .left = 8 }.bytes(), "its header says that it has no pixels" },
-        { PcxFile { .data = "C300" }.bytes(), "its last run goes on behind the last pixel" },
         { huge.bytes(), "it is too large: 65536 by 65536 pixels" },
     };
     for (const auto &[bytes, why] : files) {
         makeFile("a.pcx", bytes);
         EXPECT_THAT(expectRefused("a.pcx", why), testing::ElementsAre("a.pcx"));
     }
+}
+
+// All pixels are there, and the program removes the source.
+TEST_F(Converter, TakesARunThatGoesOnBehindTheLastPixel)
+{
+    makeFile("a.pcx", PcxFile { .right = 1, .colours = "FF0000 0000FF", .data = "40FF00" }.bytes());
+    const Outcome outcome = run({ "a.pcx" });
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.errors, "");
+    expectRedAndBlue("a.GIF");
 }
 
 TEST_F(Converter, RefusesWhatIsNotThere)

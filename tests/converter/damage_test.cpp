@@ -71,14 +71,6 @@ TEST(PcxDamage, HasLinesShorterThanItsWidth)
     EXPECT_EQ(complaintAbout(PcxFile { .bytesPerLine = 0, .data = "0000" }), shorter);
 }
 
-TEST(PcxDamage, HasARunThatGoesOnBehindTheLastPixel)
-{
-    constexpr auto behind = "its last run goes on behind the last pixel";
-    EXPECT_EQ(complaintAbout(PcxFile { .data = "C300" }), behind);
-    EXPECT_EQ(complaintAbout(PcxFile { .bottom = 1, .data = "C355 C200" }), behind);
-    EXPECT_EQ(complaintAbout(PcxFile { .bits = 8, .right = 1, .data = "01C380" + endPalette() }), behind);
-}
-
 TEST(PcxDamage, IsCutShort_WithinTheHeader)
 {
     for (int length = 1; length < 128; ++length)

@@ -29,6 +29,17 @@ converter::Picture manyColours()
     return picture;
 }
 
+// This many colours that lie close together, at levels of 0 to 31, as in a picture of the night.
+converter::Picture closeColours(int colours)
+{
+    converter::Picture picture { 16, colours / 16, {}, {} };
+    for (int i = 0; i < colours; ++i) {
+        for (const int level : { i % 16 * 2, i / 16 % 16 * 2, i * 32 / colours })
+            picture.pixels.push_back(static_cast<std::uint8_t>(level));
+    }
+    return picture;
+}
+
 // A picture without a palette, with this many greys from left to right.
 converter::Picture ramp(int colours)
 {
@@ -122,7 +133,18 @@ TEST(Gif, ReducesManyColours_NearEnough)
     const converter::Picture picture = manyColours();
     const QImage image = written(picture);
     EXPECT_LE(colourCount(image), 256);
-    EXPECT_LT(meanDifference(image, picture), 20.0);
+    EXPECT_LT(meanDifference(image, picture), 16.0);
+}
+
+TEST(Gif, ReducesColoursThatLieCloseTogether_ToAsManyAsOthers)
+{
+    for (const int colours : { 2000, 8192 }) {
+        const converter::Picture picture = closeColours(colours);
+        const QImage image = written(picture);
+        EXPECT_GT(colourCount(image), 200) << colours;
+        EXPECT_LE(colourCount(image), 256) << colours;
+        EXPECT_LT(meanDifference(image, picture), 2.5) << colours;
+    }
 }
 
 } // namespace
