@@ -62,6 +62,19 @@ std::vector<Directory::Entry> readEntries(DIR *stream)
     return entries;
 }
 
+bool entryExists(const QByteArray &path)
+{
+    struct stat status;
+    return lstat(path.constData(), &status) == 0;
+}
+
+QString withoutTrailingPoints(QString name)
+{
+    while (name.endsWith(u'.') || name.endsWith(u' '))
+        name.chop(1);
+    return name;
+}
+
 } // namespace
 
 std::shared_ptr<const Directory> Directory::of(const Descriptor &descriptor)
@@ -144,6 +157,24 @@ void Directory::nameShortForms() const
     for (auto form = m_shortForms.cbegin(); form != m_shortForms.cend(); ++form)
         m_byShortForm.insert(upper(form.value()), nameToDisk(form.key()));
     m_shortFormsNamed = true;
+}
+
+QByteArray joined(const QByteArray &directory, const QByteArray &name)
+{
+    if (directory.isEmpty() || directory.endsWith('/'))
+        return directory + name;
+    return directory + '/' + name;
+}
+
+QByteArray entryFor(const QByteArray &directory, const QString &name)
+{
+    const QByteArray exact = nameToDisk(name);
+    if (entryExists(joined(directory, exact)))
+        return exact;
+    const auto names = Directory::at(directory.isEmpty() ? QByteArray(".") : directory);
+    const QByteArray found = names ? names->find(name) : QByteArray();
+    const QString bare = found.isEmpty() ? withoutTrailingPoints(name) : name;
+    return bare.isEmpty() || bare.size() == name.size() ? found : entryFor(directory, bare);
 }
 
 } // namespace host

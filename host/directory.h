@@ -53,4 +53,11 @@ private:
     mutable bool m_shortFormsNamed = false;
 };
 
+// A path with the slash between that it needs; none behind no directory at all.
+QByteArray joined(const QByteArray &directory, const QByteArray &name);
+
+// The bytes of a directory's entry that this name stands for; empty if there is none. Points and blanks at
+// the end of a name that isn't there don't count.
+QByteArray entryFor(const QByteArray &directory, const QString &name);
+
 } // namespace host

@@ -22,43 +22,10 @@ bool isSeparator(QChar character)
     return character == u'/' || character == u'\\';
 }
 
-bool entryExists(const QByteArray &path)
-{
-    struct stat status;
-    return lstat(path.constData(), &status) == 0;
-}
-
 bool isDirectory(const QByteArray &path)
 {
     struct stat status;
     return stat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode);
-}
-
-QByteArray joined(const QByteArray &directory, const QByteArray &name)
-{
-    if (directory.isEmpty() || directory.endsWith('/'))
-        return directory + name;
-    return directory + '/' + name;
-}
-
-QString withoutTrailingPoints(QString name)
-{
-    while (name.endsWith(u'.') || name.endsWith(u' '))
-        name.chop(1);
-    return name;
-}
-
-// The bytes of a directory's entry that this name stands for; empty if there is none. Points and blanks at
-// the end of a name that isn't there don't count.
-QByteArray entryFor(const QByteArray &directory, const QString &name)
-{
-    const QByteArray exact = nameToDisk(name);
-    if (entryExists(joined(directory, exact)))
-        return exact;
-    const auto names = Directory::at(directory.isEmpty() ? QByteArray(".") : directory);
-    const QByteArray found = names ? names->find(name) : QByteArray();
-    const QString bare = found.isEmpty() ? withoutTrailingPoints(name) : name;
-    return bare.isEmpty() || bare.size() == name.size() ? found : entryFor(directory, bare);
 }
 
 // Finds a path from left to right. A backslash separates too, unless it belongs to a name that is there.

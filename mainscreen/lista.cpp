@@ -8,7 +8,7 @@
 
 #include "forms/yield.h"
 
-#include "host/paths.h"
+#include "host/lengths.h"
 
 using namespace Qt::StringLiterals;
 
@@ -65,7 +65,7 @@ void Portada::LlenaTablasDeLista()
     PonInfo(M.TXT_Añadiendo);
 
     const core::Recuento recuento =
-        core::Empareja(M, tipo, directorio, entradas, notas, extensiones, host::fileLength);
+        core::Empareja(M, tipo, directorio, entradas, notas, extensiones, host::LengthsIn(directorio));
     for (const QString &entrada : recuento.entradas)
         Lista1->AddItem(entrada);
     m_recuento = recuento.exploradas;

@@ -1,5 +1,6 @@
 #include "disktest.h"
 
+#include "host/lengths.h"
 #include "host/paths.h"
 
 using namespace Qt::StringLiterals;
@@ -113,6 +114,38 @@ TEST_F(Lengths, Fail_WhereThereIsNoFile)
     EXPECT_EQ(failureOf([this] { fileLength(path(u"none"_s)); }), FileNotFound);
     EXPECT_EQ(failureOf([this] { fileLength(path(u"broken"_s)); }), FileNotFound);
     EXPECT_EQ(failureOf([this] { fileLength(path(u"dir"_s)); }), FileNotFound);
+}
+
+TEST_F(Lengths, OfManyFilesOfADirectory_AreThoseOfEach)
+{
+    for (const char *directory : { "Roms", "Roms/deep", "Roms/dir.nes" })
+        makeDirectory(directory);
+    makeFile("Roms/One.nes", QByteArray(1, 'x'));
+    makeFile("Roms/one.NES", QByteArray(2, 'x'));
+    makeFile("Roms/deep/two.nes", QByteArray(3, 'x'));
+    makeFile("Roms/a\\b.nes", QByteArray(4, 'x'));
+    makeFile("Roms/trail", QByteArray(5, 'x'));
+    makeFile("Roms/dir.nes/x", QByteArray(6, 'x'));
+    makeFile("Roms/DIR.NES", QByteArray(7, 'x'));
+    makeFile("Roms/\xE9.nes", QByteArray(8, 'x'));
+    makeFile("Roms/with blank.nes", QByteArray(9, 'x'));
+    makeFile("romsplain", QByteArray(10, 'x'));
+    makeLink("nowhere", "Roms/broken");
+    for (const QString &directory :
+        { path(u"Roms/"_s), path(u"ROMS/"_s), path(u"roms"_s), path(u"none/"_s) }) {
+        const LengthsIn lengths(directory);
+        for (const QString &name : { u"One.nes"_s, u"ONE.NES"_s, u"one.NES"_s, u"oNe.nes"_s,
+                 u"deep/two.nes"_s, u"deep\\TWO.nes"_s, u"a\\b.nes"_s, u"trail. ."_s, u"dir.nes"_s,
+                 u"Dir.Nes"_s, u"deep"_s, u"\uF7E9.nes"_s, u"with_blank.nes"_s, u"broken"_s, u"plain"_s,
+                 u".."_s, u""_s, u"gone"_s, QString(300, u'x'), QString(u"One.nes"_s + QChar::Null) }) {
+            SCOPED_TRACE((directory + name).toStdString());
+            qint64 length = -1;
+            const int failure = failureOf([&] { length = fileLength(directory + name); });
+            qint64 ofMany = -1;
+            EXPECT_EQ(failureOf([&] { ofMany = lengths(directory + name); }), failure);
+            EXPECT_EQ(ofMany, length);
+        }
+    }
 }
 
 using Making = DiskTest;

@@ -1,0 +1,38 @@
+#include "host/lengths.h"
+
+#include "host/directory.h"
+#include "host/encoding.h"
+#include "host/failure.h"
+#include "host/paths.h"
+
+#include <climits>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace host {
+
+LengthsIn::LengthsIn(const QString &directory)
+    : m_directory(directory)
+{
+    if (!directory.isEmpty() && lastSeparator(directory) == directory.size() - 1)
+        m_found = findOnDisk(directory);
+}
+
+qint64 LengthsIn::operator()(const QString &path) const
+{
+    const QString name = path.sliced(m_directory.size());
+    if (m_found.isEmpty() || name.isEmpty() || name.size() > NAME_MAX || lastSeparator(name) >= 0
+        || name.contains(QChar::Null))
+        return fileLength(path);
+    struct stat status;
+    const auto leadsToFile = [&](const QByteArray &entry) {
+        return stat(joined(m_found, entry).constData(), &status) == 0 && !S_ISDIR(status.st_mode);
+    };
+    if (!leadsToFile(nameToDisk(name)) && !leadsToFile(entryFor(m_found, name)))
+        throw Failure(FileNotFound, u"read the length"_s, path);
+    return status.st_size;
+}
+
+} // namespace host
