@@ -75,6 +75,23 @@ QString withoutTrailingPoints(QString name)
     return name;
 }
 
+// False only if this upper-cased name surely has another plain form in any case. Letters beyond ASCII may be
+// written in several ways, so that they prove nothing.
+bool mayShareForm(QStringView name, QStringView form)
+{
+    constexpr char16_t FirstBeyond = 128;
+    if (name.size() != form.size())
+        return false;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        const QChar own = name[i];
+        const QChar wanted = form[i];
+        const bool replaced = wanted == u'_' && (own == u'.' || own.isSpace());
+        if (own != wanted && !replaced && own < QChar(FirstBeyond) && wanted < QChar(FirstBeyond))
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 std::shared_ptr<const Directory> Directory::of(const Descriptor &descriptor)
@@ -140,10 +157,27 @@ QByteArray Directory::find(const QString &name) const
 
 QString Directory::shortForm(const QString &name) const
 {
-    if (plainShortForm(name) == name)
-        return name;
+    const QString plain = plainShortForm(name);
+    if (plain == name || (!m_shortFormsNamed && isAloneWith(name, plain)))
+        return plain;
     nameShortForms();
     return m_shortForms.value(name, name);
+}
+
+// True if the name is an entry's, and no other one can want this form or be found under it. Looked at for one
+// name, this is far quicker than naming all.
+bool Directory::isAloneWith(const QString &name, const QString &plain) const
+{
+    const QString key = upper(plain);
+    bool own = false;
+    for (const Entry &entry : m_entries) {
+        if (!mayShareForm(entry.upper, key))
+            continue;
+        if (entry.name != name)
+            return false;
+        own = true;
+    }
+    return own;
 }
 
 void Directory::nameShortForms() const

@@ -45,6 +45,7 @@ public:
     QString shortForm(const QString &name) const;
 
 private:
+    bool isAloneWith(const QString &name, const QString &plain) const;
     void nameShortForms() const;
 
     std::vector<Entry> m_entries;

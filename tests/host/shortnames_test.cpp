@@ -198,6 +198,30 @@ TEST(ShortNames, LeadBackToTheirOwnNames_WhateverElseLiesInTheDirectory)
     }
 }
 
+TEST(ShortNames, AskedForASingleName_AreThoseOfTheWholeDirectory)
+{
+    std::mt19937 random(19);
+    for (int round = 0; round < 200; ++round) {
+        const QSet<QByteArray> names = randomNames(random, 1 + round % 40);
+        const Directory whole = directoryOf(names);
+        EXPECT_EQ(whole.find(u"none of them"_s), QByteArray()); // names them all
+        for (const QByteArray &bytes : names) {
+            const QString name = nameFromDisk(bytes);
+            ASSERT_EQ(directoryOf(names).shortForm(name), whole.shortForm(name)) << bytes.constData();
+        }
+        ASSERT_EQ(directoryOf(names).shortForm(u"not there.x y"_s), u"not there.x y"_s);
+    }
+}
+
+TEST(ShortNames, OfLettersThatAreWrittenInSeveralWays_Collide)
+{
+    // The Kelvin sign is a K, and both small s are an S.
+    const Directory directory = directoryOf({ "\xE2\x84\xAA b", "K_B", "\xC5\xBF c", "s_c" });
+    EXPECT_EQ(directory.shortForm(u"\u212A b"_s), u"k_b~2"_s);
+    const Directory other = directoryOf({ "\xC5\xBF c", "s_c" });
+    EXPECT_EQ(other.shortForm(u"\u017F c"_s), assignShortForms({ u"s_c"_s, u"\u017F c"_s })[u"\u017F c"_s]);
+}
+
 TEST(ShortNames, DependOnTheNamesAlone_AndNotOnTheOrderInWhichTheyAreRead)
 {
     std::mt19937 random(3);
