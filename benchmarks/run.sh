@@ -34,7 +34,7 @@ world() { # directory, number of files and of notes
     {
         echo 'Atari 2600'
         seq -f '%05.0f' $((count / 10 + 1)) $((count + count / 10)) | shuf --random-source=<(yes) |
-            sed 's/.*/GAME &.A26,"A description of some length, with the number & in it"/'
+            awk '{ printf "GAME %s.A26,\"%s, number %s\"\n", $1, substr("A title of some length as games have it", 1, 8 + $1 % 31), $1 }'
         printf '%s\n' "'" '[' 'Parametros especificos' "'" fin 'fin,"fin"'
     } | crlf >"$program/Zembro.rom"
     {

@@ -6,6 +6,7 @@
 
 #include <xcb/xcb_ewmh.h>
 
+#include <memory>
 #include <vector>
 
 namespace host {
@@ -19,14 +20,11 @@ xcb_connection_t *x11Connection()
     return x11 ? x11->connection() : nullptr;
 }
 
-// The window manager's vocabulary on the toolkit's own connection; false where there is no X11.
+// The window manager's vocabulary on a connection, which takes some hundred questions to learn.
 class WindowManager {
 public:
-    WindowManager()
+    explicit WindowManager(xcb_connection_t *connection)
     {
-        xcb_connection_t *connection = x11Connection();
-        if (!connection)
-            return;
         m_ready = xcb_ewmh_init_atoms_replies(&m_ewmh, xcb_ewmh_init_atoms(connection, &m_ewmh), nullptr);
         if (!m_ready)
             xcb_ewmh_connection_wipe(&m_ewmh);
@@ -39,7 +37,8 @@ public:
     WindowManager(const WindowManager &) = delete;
     WindowManager &operator=(const WindowManager &) = delete;
 
-    explicit operator bool() const { return m_ready; }
+    bool isReady() const { return m_ready; }
+    bool isOn(xcb_connection_t *connection) const { return m_ewmh.connection == connection; }
     std::vector<xcb_window_t> windows();
     std::vector<QString> titles(const std::vector<xcb_window_t> &windows);
     void close(xcb_window_t window);
@@ -118,15 +117,27 @@ void WindowManager::close(xcb_window_t window)
     xcb_flush(m_ewmh.connection);
 }
 
+// On the toolkit's own connection, and kept while that stands; null where there is no X11.
+WindowManager *windowManager()
+{
+    static std::unique_ptr<WindowManager> kept;
+    xcb_connection_t *connection = x11Connection();
+    if (!connection)
+        return nullptr;
+    if (!kept || !kept->isReady() || !kept->isOn(connection))
+        kept = std::make_unique<WindowManager>(connection);
+    return kept->isReady() ? kept.get() : nullptr;
+}
+
 } // namespace
 
 WindowId findWindow(const QString &title)
 {
-    WindowManager manager;
+    WindowManager *manager = windowManager();
     if (!manager)
         return 0;
-    const std::vector<xcb_window_t> windows = manager.windows();
-    const std::vector<QString> titles = manager.titles(windows);
+    const std::vector<xcb_window_t> windows = manager->windows();
+    const std::vector<QString> titles = manager->titles(windows);
     for (size_t i = 0; i < windows.size(); ++i) {
         if (sameName(titles[i], title))
             return windows[i];
@@ -136,9 +147,8 @@ WindowId findWindow(const QString &title)
 
 void closeWindow(WindowId window)
 {
-    WindowManager manager;
-    if (manager)
-        manager.close(window);
+    if (WindowManager *manager = windowManager())
+        manager->close(window);
 }
 
 } // namespace host
