@@ -1,13 +1,14 @@
 #include "forms/pictures.h"
 
+#include "forms/svg.h"
+
 #include "host/failure.h"
 #include "host/numberedfiles.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QHash>
-#include <QPainter>
-#include <QSvgRenderer>
+#include <QImage>
 
 using namespace Qt::StringLiterals;
 
@@ -27,16 +28,18 @@ void forgetAtTheEnd()
     Q_UNUSED(once)
 }
 
-QPixmap draw(const QString &file, const QSize &size, qreal devicePixelRatio)
+// The build has rendered the artwork in its own size at the usual scales; any other one is drawn here.
+QImage imageOf(const QString &name, const QSize &pixels, qreal devicePixelRatio)
 {
-    QImage image((QSizeF(size) * devicePixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    {
-        QPainter painter(&image);
-        QSvgRenderer(file).render(&painter, QRectF(image.rect()));
-    }
-    image.setDevicePixelRatio(devicePixelRatio);
-    return QPixmap::fromImage(image);
+    const QImage rendered(u":/artwork/%1@%2.png"_s.arg(name).arg(devicePixelRatio));
+    return rendered.size() == pixels ? rendered : renderSvg(u":/artwork/%1.svg"_s.arg(name), pixels);
+}
+
+QPixmap draw(const QString &name, const QSize &size, qreal devicePixelRatio)
+{
+    QPixmap picture = QPixmap::fromImage(imageOf(name, pixelsOf(size, devicePixelRatio), devicePixelRatio));
+    picture.setDevicePixelRatio(devicePixelRatio);
+    return picture;
 }
 
 } // namespace
@@ -53,14 +56,13 @@ QPixmap LoadPicture(const QString &path)
 
 QPixmap artwork(const QString &name, const QSize &size, qreal devicePixelRatio)
 {
-    const QString file = u":/artwork/%1.svg"_s.arg(name);
-    if (size.isEmpty() || !QFile::exists(file))
+    if (size.isEmpty() || !QFile::exists(u":/artwork/%1.svg"_s.arg(name)))
         return {};
     const QString key = u"%1 %2 %3 %4"_s.arg(name).arg(size.width()).arg(size.height()).arg(devicePixelRatio);
     auto found = drawn.constFind(key);
     if (found == drawn.constEnd()) {
         forgetAtTheEnd();
-        found = drawn.insert(key, draw(file, size, devicePixelRatio));
+        found = drawn.insert(key, draw(name, size, devicePixelRatio));
     }
     return *found;
 }

@@ -76,6 +76,19 @@ TEST_F(Pictures, Artwork_IsDrawnAtItsSizeAndRatio)
     EXPECT_EQ(drawn.toImage().pixelColor(20, 40), QColor(Qt::white));
 }
 
+TEST_F(Pictures, Artwork_RenderedForItsSizeAndRatio_IsTakenAsItIs)
+{
+    // The rendered one is blue, of 24 by 26 pixels; the drawing is red at its left.
+    const auto left = [](const QSize &size, qreal ratio) {
+        return forms::artwork(u"Rendered"_s, size, ratio).toImage().pixelColor(1, 1);
+    };
+    EXPECT_EQ(left({ 12, 13 }, 2), QColor(Qt::blue));
+    EXPECT_EQ(forms::artwork(u"Rendered"_s, { 12, 13 }, 2).devicePixelRatio(), 2);
+    EXPECT_EQ(left({ 12, 13 }, 1), QColor(Qt::red));
+    EXPECT_EQ(left({ 24, 26 }, 2), QColor(Qt::red));
+    EXPECT_EQ(left({ 24, 26 }, 1), QColor(Qt::red));
+}
+
 TEST_F(Pictures, Artwork_IsDrawnOnceForEachSizeAndRatio)
 {
     const QPixmap first = forms::artwork(u"Rest2"_s, QSize(12, 13), 1);

@@ -2,8 +2,12 @@
 
 #include "tests/support/portadatest.h"
 
+#include "forms/svg.h"
+
+#include <QDir>
 #include <QFontInfo>
 #include <QImage>
+#include <QSvgRenderer>
 
 using namespace Qt::StringLiterals;
 
@@ -394,4 +398,33 @@ TEST_F(FocoTest, PointerOverTheScreenTheTelevisionOrThePictureHidesTheTip)
         moveTo(name == u"Portada" ? *portada : control(name), point);
         EXPECT_FALSE(tip.isVisible()) << name.toStdString();
     }
+}
+
+TEST(Artwork, EveryDrawingIsRenderedForEachScale)
+{
+    const QStringList drawings = QDir(u":/artwork"_s).entryList({ u"*.svg"_s });
+    ASSERT_FALSE(drawings.isEmpty());
+    for (const QString &drawing : drawings) {
+        const QString file = u":/artwork/"_s + drawing;
+        for (const qreal scale : forms::RenderedScales) {
+            const QImage rendered(file.chopped(4) + u"@%1.png"_s.arg(scale));
+            const QSize pixels = forms::pixelsOf(QSvgRenderer(file).defaultSize(), scale);
+            EXPECT_EQ(rendered.convertToFormat(QImage::Format_ARGB32),
+                forms::renderSvg(file, pixels).convertToFormat(QImage::Format_ARGB32))
+                << file.toStdString() << " at " << scale;
+        }
+    }
+}
+
+using ArtworkTest = PortadaTest;
+
+TEST_F(ArtworkTest, ControlsHaveTheSizeThatTheirDrawingWasRenderedIn)
+{
+    start();
+    for (const QString &name :
+        { u"Titulo1"_s, u"Graf_TV"_s, u"JugarB1"_s, u"Flecha2"_s, u"BotonA2"_s, u"BotonD2"_s, u"Boton1b"_s,
+            u"Boton5b"_s, u"Menos2a"_s, u"Menos2b"_s, u"D1"_s, u"E1"_s, u"Edit2"_s, u"FlechaE2"_s })
+        EXPECT_EQ(control(name).size(), QSvgRenderer(u":/artwork/%1.svg"_s.arg(name)).defaultSize())
+            << name.toStdString();
+    EXPECT_EQ(portada->size(), QSvgRenderer(u":/artwork/Portada.svg"_s).defaultSize());
 }
