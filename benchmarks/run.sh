@@ -14,7 +14,7 @@ fi
 build=build/release
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-export BENCH_OUT=$work/times TMPDIR=$work
+export BENCH_OUT=$work/times TMPDIR=$work XDG_RUNTIME_DIR=$work
 chmod 700 "$work"
 
 crlf() { sed 's/$/\r/'; }
@@ -63,5 +63,7 @@ screen=$build/benchmarks/bench_screen
 emulator=$PWD/$build/benchmarks/bench_emulator
 BENCH_LIST_ONLY=1 "$screen" "$work/half/program" "$work/half/roms" "$emulator"
 "$screen" "$work/whole/program" "$work/whole/roms" "$emulator"
-BENCH_SLEEP=5000 "$screen" "$work/whole/program" "$work/whole/roms" "$emulator" | grep 'idle watch'
+for _ in 1 2 3; do
+    BENCH_SLEEP=5000 "$screen" "$work/whole/program" "$work/whole/roms" "$emulator" | sed -n 's/^idle watch: //p'
+done | sort -g | sed -n '2s/^/idle watch: /p'
 echo "load after: $(cut -d' ' -f1-3 /proc/loadavg)"

@@ -4,6 +4,7 @@
 #include "host/failure.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 namespace core {
@@ -33,31 +34,40 @@ private:
     std::vector<Elemento> m_elementos;
 };
 
-// A table of rows: systems by emulators (or by extensions). Both indices count from 0 and are checked.
+// A table of rows: systems by emulators (or by extensions). Both indices count from 0 and are checked. A row
+// takes memory once something was looked for in it, as most systems aren't there.
 template <typename Elemento> class Tabla2 {
 public:
     Tabla2(int filas, int columnas)
-        : m_filas(filas)
-        , m_columnas(columnas)
-        , m_elementos(filas * columnas)
+        : m_vacia(columnas)
+        , m_filas(filas)
     {
     }
 
-    Elemento &operator()(int fila, int columna) { return m_elementos(posicion(fila, columna)); }
-    const Elemento &operator()(int fila, int columna) const { return m_elementos(posicion(fila, columna)); }
-    int columnas() const { return m_columnas; }
-    void vacia() { m_elementos.vacia(); }
+    Elemento &operator()(int fila, int columna)
+    {
+        std::optional<Tabla<Elemento>> &elementos = m_filas(fila);
+        if (!elementos)
+            elementos.emplace(columnas());
+        return (*elementos)(columna);
+    }
+    const Elemento &operator()(int fila, int columna) const
+    {
+        const std::optional<Tabla<Elemento>> &elementos = m_filas(fila);
+        return elementos ? (*elementos)(columna) : m_vacia(columna);
+    }
+    int columnas() const { return m_vacia.tamaño(); }
+    void vacia()
+    {
+        for (int fila = 0; fila < m_filas.tamaño(); ++fila) {
+            if (m_filas(fila))
+                m_filas(fila)->vacia();
+        }
+    }
 
 private:
-    int posicion(int fila, int columna) const
-    {
-        const bool dentro = fila >= 0 && fila < m_filas && columna >= 0 && columna < m_columnas;
-        return dentro ? fila * m_columnas + columna : -1;
-    }
-
-    int m_filas;
-    int m_columnas;
-    Tabla<Elemento> m_elementos;
+    Tabla<Elemento> m_vacia; // a row in which nothing was looked for
+    Tabla<std::optional<Tabla<Elemento>>> m_filas;
 };
 
 } // namespace core

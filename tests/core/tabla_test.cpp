@@ -54,6 +54,19 @@ TEST(Tabla2, EntriesAreToldByBothIndices)
     EXPECT_EQ(tabla(1, 2), 0);
 }
 
+TEST(Tabla2, RowsThatNothingWasPutIntoAreEmptyAndStaySo)
+{
+    Tabla2<int> tabla(3, 2);
+    const Tabla2<int> &fija = tabla;
+    EXPECT_EQ(fija(1, 1), 0);
+    EXPECT_EQ(tabla(2, 0), 0);
+    tabla(0, 1) = 5;
+    EXPECT_EQ(fija(0, 1), 5);
+    EXPECT_EQ(fija(0, 0), 0);
+    EXPECT_EQ(fija(1, 1), 0);
+    EXPECT_EQ(fija(2, 0), 0);
+}
+
 TEST(Tabla2, FailsAsOutOfRange_ForAnyIndexOutsideItsOwnBound)
 {
     Tabla2<int> tabla(2, 3);
