@@ -103,6 +103,21 @@ TEST_F(ProgramTest, AMissingFileIsNamedInABoxAndOnTheStandardErrorAndTheStatusIs
     EXPECT_TRUE(said.contains(u": "_s + m_directory.filePath(u"Zembro.rom"_s) + u'\n')) << said.toStdString();
 }
 
+TEST_F(ProgramTest, ItsWindowsHaveThePictureOfTheProgram)
+{
+    ASSERT_TRUE(QFile::remove(m_directory.filePath(u"Zembro.rom"_s)));
+    m_process.start();
+    host::WindowId box = 0;
+    ASSERT_TRUE(QTest::qWaitFor([&box] { return (box = host::findWindow(u"ERROR"_s)) != 0; }, Patience));
+    QProcess properties;
+    properties.start(u"xprop"_s, { u"-id"_s, QString::number(box), u"_NET_WM_ICON"_s });
+    ASSERT_TRUE(properties.waitForFinished(Patience));
+    const QString told = QString::fromUtf8(properties.readAllStandardOutput());
+    EXPECT_TRUE(told.contains(u"Icon (16 x 16)"_s)) << told.left(200).toStdString();
+    host::closeWindow(box);
+    EXPECT_TRUE(m_process.waitForFinished(Patience));
+}
+
 } // namespace
 
 int main(int argc, char **argv)

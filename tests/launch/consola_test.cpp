@@ -2,43 +2,15 @@
 // manager.
 #include "escenario.h"
 
+#include "tests/support/consola.h"
+
 #include "launch/esperaremulador.h"
 
-#include "host/windows.h"
-
-#include <QCloseEvent>
-#include <QTest>
 #include <QTimer>
-#include <QWidget>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// A console whose program has finished: the process ends when its window is closed.
-class Consola : public QWidget {
-public:
-    explicit Consola(const QString &titulo, std::function<void()> alCerrar = {})
-        : m_alCerrar(std::move(alCerrar))
-    {
-        setWindowTitle(titulo);
-        show();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return host::findWindow(titulo) != 0; }));
-    }
-    int cierres = 0;
-
-protected:
-    void closeEvent(QCloseEvent *evento) override
-    {
-        ++cierres;
-        if (m_alCerrar)
-            m_alCerrar();
-        evento->ignore();
-    }
-
-private:
-    std::function<void()> m_alCerrar;
-};
 
 // Its yield runs the event loop, as the main screen's does.
 class PantallaViva : public PantallaDePrueba {

@@ -46,6 +46,7 @@ TEST_F(AcercaDeTest, ItTellsNameVersionAndLicenceAndShowsTheLogo)
         EXPECT_GT(pictureOf(form).copy(logo.geometry()).pixelColor(48, 42).red(), 0);
         EXPECT_TRUE(form.Control(u"Shape1"_s));
         EXPECT_EQ(form.palette().color(QPalette::Window), QColor(0, 0, 64));
+        expectTiled(form);
         EXPECT_EQ(form.geometry().center(), portada->geometry().center());
         EXPECT_TRUE(form.windowFlags().testFlag(Qt::WindowCloseButtonHint));
         EXPECT_FALSE(form.windowFlags().testAnyFlags(Qt::WindowMinMaxButtonsHint));

@@ -83,6 +83,7 @@ TEST_F(Opciones1Test, ControlsStandInTheirPlaces)
         EXPECT_EQ(form.Control(u"Disco2"_s), form.Control(u"Disco1"_s));
         EXPECT_EQ(form.Control(u"Flecha1"_s), form.Control(u"Flecha2"_s));
         EXPECT_EQ(form.palette().color(QPalette::Window), QColor(0, 0, 64));
+        expectTiled(form);
         EXPECT_EQ(form.geometry().center(), portada->geometry().center());
         const Qt::WindowFlags flags = form.windowFlags();
         EXPECT_TRUE(flags.testFlag(Qt::WindowCloseButtonHint));

@@ -87,6 +87,7 @@ TEST_F(Opciones2Test, ControlsStandInTheirPlaces)
         EXPECT_EQ(form.Control(u"Disco2"_s), form.Control(u"Disco1"_s));
         EXPECT_EQ(form.Control(u"Flecha1"_s), form.Control(u"Flecha2"_s));
         EXPECT_EQ(form.palette().color(QPalette::Window), QColor(0, 0, 64));
+        expectTiled(form);
         EXPECT_FALSE(form.windowFlags().testAnyFlags(Qt::WindowMinMaxButtonsHint));
         EXPECT_EQ(form.geometry().center().x(), portada->geometry().center().x());
     });

@@ -132,6 +132,25 @@ QStringList OpcionesTest::textsOf(const forms::Form &form)
     return texts;
 }
 
+void OpcionesTest::expectTiled(forms::Form &form)
+{
+    constexpr int Bare = 7; // no control lies so far to the left; the word under the arrow grows
+    const QImage tile = portada->Teja().imagen.toImage().convertToFormat(QImage::Format_RGB32);
+    ASSERT_FALSE(tile.isNull());
+    const QImage shown = pictureOf(form);
+    QSet<QRgb> colours;
+    int different = 0;
+    for (int y = 0; y < controlOf<QWidget>(form, u"Flecha2"_s).y(); ++y) {
+        for (int x = 0; x < Bare; ++x) {
+            const QRgb expected = tile.pixel(x % tile.width(), y % tile.height());
+            colours << expected;
+            different += shown.pixel(x, y) == expected ? 0 : 1;
+        }
+    }
+    EXPECT_EQ(different, 0) << form.objectName().toStdString();
+    EXPECT_GT(colours.size(), 1);
+}
+
 std::vector<qint64> OpcionesTest::stampOfSettings()
 {
     struct stat status { };

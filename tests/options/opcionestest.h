@@ -49,6 +49,9 @@ protected:
     // Every text that a form shows, with the names for screen readers, by control.
     static QStringList textsOf(const forms::Form &form);
 
+    // The form has the main screen's tile in rows and columns behind its controls.
+    void expectTiled(forms::Form &form);
+
     QByteArray settings() { return files.read(QStringLiteral("Zembro.cfg")); }
     // What identifies one writing of the settings.
     std::vector<qint64> stampOfSettings();

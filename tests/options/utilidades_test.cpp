@@ -138,6 +138,7 @@ TEST_F(UtilidadesTest, ControlsStandInTheirPlacesWithTheWordsOfTheLanguage)
         EXPECT_EQ(form.Control(u"Flecha1"_s), form.Control(u"Flecha2"_s));
         EXPECT_EQ(form.geometry().center(), portada->geometry().center());
         EXPECT_EQ(form.palette().color(QPalette::Window), QColor(0, 0, 64));
+        expectTiled(form);
         EXPECT_TRUE(form.windowFlags().testFlag(Qt::WindowCloseButtonHint));
         EXPECT_EQ(form.Caption(), u"S:TXT_TituloUtil"_s);
         EXPECT_EQ(captionOf(form, u"TXT_Convertir"_s), u"S:TXT_Convertir"_s);
@@ -239,6 +240,22 @@ TEST_F(UtilidadesTest, ADirectoryNamedLikeACaptureEndsTheRunWithItsName)
     EXPECT_TRUE(files.exists(u"zetacap/c.pcx/kept"_s));
 }
 
+TEST_F(UtilidadesTest, ANewRunGoesOnWithWhatAFatalOneLeft)
+{
+    realConverter();
+    writeCaptures({ u"a.pcx"_s, u"d.pcx"_s, u"e.pcx"_s });
+    files.write(u"zetacap/c.pcx/kept"_s, "x");
+    startAt(Zeta, 0);
+    ASSERT_TRUE(endOfConverting());
+    files.remove(u"zetacap/c.pcx"_s);
+    renewJoined();
+    startAt(Zeta, 0);
+    EXPECT_EQ(converted(), report(u"S:Msg_IMGTransMI 2 S:Msg_IMGTransMD"_s));
+    EXPECT_THAT(captures(), IsEmpty());
+    for (const QString &name : { u"a"_s, u"d"_s, u"e"_s })
+        EXPECT_TRUE(files.exists(u"zetacap/"_s + name + u".GIF"_s)) << name.toStdString();
+}
+
 TEST_F(UtilidadesTest, ACaptureThatMayNotBeWrittenStaysAndEndsTheRun)
 {
     writeCaptures({ u"a.pcx"_s });
@@ -307,6 +324,25 @@ TEST_F(UtilidadesTest, TheNewCaptureShowsOnTheMainScreen)
     converted();
     EXPECT_EQ(capture(), QColor(Qt::green));
     EXPECT_EQ(list().Text(), u"Juego uno"_s);
+}
+
+TEST_F(UtilidadesTest, WhereNoGameIsListedNoneIsSelectedAfterwards)
+{
+    writeCaptures({ u"a.pcx"_s });
+    startAt(Zeta, 0);
+    list().Clear();
+    EXPECT_EQ(converted(), report(u"S:Msg_IMGTrans1I 1 S:Msg_IMGTrans1D"_s));
+    EXPECT_EQ(list().ListIndex(), -1);
+    EXPECT_EQ(list().ListCount(), 0);
+}
+
+TEST_F(UtilidadesTest, WhereNoGameIsSelectedNoneIsAfterwards)
+{
+    writeCaptures({ u"a.pcx"_s });
+    startAt(Zeta, 0);
+    list().SetListIndex(-1);
+    EXPECT_EQ(converted(), report(u"S:Msg_IMGTrans1I 1 S:Msg_IMGTrans1D"_s));
+    EXPECT_EQ(list().ListIndex(), -1);
 }
 
 TEST_F(UtilidadesTest, ClosedDuringTheRunTheScreenIsAliveAndTheRunGoesOn)
