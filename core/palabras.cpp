@@ -48,6 +48,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zem_Edit2", &P::Zem_Edit2 },
         { u"Zem_BlocNotas2", &P::Zem_BlocNotas2 },
         { u"Zem_Logotipo", &P::Zem_Logotipo },
+        { u"Zem_Autores", &P::Zem_Autores },
         { u"Zem_Correo", &P::Zem_Correo },
         { u"Zem_Web", &P::Zem_Web },
         { u"Zem_Redir", &P::Zem_Redir },

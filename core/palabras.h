@@ -56,6 +56,7 @@ struct Palabras {
 
     // Who made the program, and where they are reached.
     QString Zem_Logotipo = QStringLiteral("Logotipo");
+    QString Zem_Autores = QStringLiteral("Los autores de Zembrolix");
     QString Zem_Correo = QStringLiteral("Correo de los autores:");
     QString Zem_Web = QStringLiteral("Página web del programa:");
     QString Zem_Redir = QStringLiteral("La misma, por otra dirección:");

@@ -15,6 +15,7 @@ public:
     Shape(const QColor &colour, QWidget *parent);
     ~Shape() override;
 
+    const QLabel *Heading() const { return m_heading; }
     void SetHeading(const QLabel *heading); // a sibling of one line; null for none
 
 protected:

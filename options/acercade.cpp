@@ -49,7 +49,7 @@ void AcercaDe::Monta()
         forms::arial(15.75, true), Qt::AlignLeft);
     PonEtiqueta(*this, u"Label2"_s, { 1680, 600, 600, 210 }, creditos::Version.toString(), CianClaro);
     PonEtiqueta(*this, u"Label3"_s, { 2280, 600, 1500, 210 }, creditos::Licencia.toString(), CianClaro);
-    PonEtiqueta(*this, u"Label4"_s, { 1680, 930, 2100, 210 }, creditos::Autores.toString(), VerdeClaro);
+    Label4 = PonEtiqueta(*this, u"Label4"_s, { 1680, 930, 2100, 210 }, M.Palabras.Zem_Autores, VerdeClaro);
 }
 
 void AcercaDe::MontaDirecciones()
@@ -81,6 +81,7 @@ void AcercaDe::PonTextos()
 {
     SetCaption(P.TXT_AcercaDe->Caption());
     TXT_Volver->SetCaption(M.TXT_Volver);
+    Label4->SetCaption(M.Palabras.Zem_Autores);
     TXT_Correo1->SetCaption(M.Palabras.Zem_Correo);
     TXT_Web1->SetCaption(M.Palabras.Zem_Web);
     TXT_Redir->SetCaption(M.Palabras.Zem_Redir);

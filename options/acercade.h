@@ -24,6 +24,7 @@ public:
     void PonTextos();
 
     forms::Image *Logotipo;
+    forms::Label *Label4; // who made it
     forms::Label *TXT_Correo1, *TXT_Web1, *TXT_Redir; // above the links
     Enlace *Link_Correo1, *Link_Web1, *Link_Redir;
     forms::PictureButton *Flecha2;

@@ -1,4 +1,4 @@
-// Who made the program, and where they are reached.
+// What the program is, and where its authors are reached.
 #pragma once
 
 #include <QStringView>
@@ -8,7 +8,6 @@ namespace options::creditos {
 inline constexpr QStringView Programa = u"Zembrolix";
 inline constexpr QStringView Version = u"V2.0";
 inline constexpr QStringView Licencia = u"(FreeWare)";
-inline constexpr QStringView Autores = u"The Zembrolix authors";
 
 // What a link shows, and what it opens.
 struct Direccion {

@@ -37,12 +37,19 @@ testing::AssertionResult failure(
         << " against " << testing::PrintToString(room);
 }
 
-// A frame has room within, and so has a picture that the label lies on. Of another label only its text
-// counts.
-QRect takenBy(const QWidget &sibling, const QWidget &label)
+// What the text must keep off. A frame has room within, for its heading on its upper line too, and so has a
+// picture that the label lies on. Of another label only its text counts.
+QRect takenBy(const QWidget &sibling, const QWidget &label, const QRect &text)
 {
-    if (sibling.isHidden() || sibling.isWindow() || dynamic_cast<const forms::Shape *>(&sibling)
-        || sibling.geometry().contains(label.geometry()))
+    if (sibling.isHidden() || sibling.isWindow())
+        return {};
+    if (const auto *frame = dynamic_cast<const forms::Shape *>(&sibling)) {
+        QRect within = frame->geometry().adjusted(1, 1, -1, -1);
+        if (frame->Heading() == &label)
+            within.setTop(text.top());
+        return within.contains(text) ? QRect() : frame->geometry();
+    }
+    if (sibling.geometry().contains(label.geometry()))
         return {};
     const auto *other = qobject_cast<const QLabel *>(&sibling);
     return other && !other->text().isEmpty() ? textRect(*other) : sibling.geometry();
@@ -70,7 +77,7 @@ testing::AssertionResult showsWhole(const forms::Label &label, const QWidget *be
     for (const QWidget *sibling : siblings) {
         if (sibling == &label || sibling == beneath)
             continue;
-        const QRect taken = takenBy(*sibling, label);
+        const QRect taken = takenBy(*sibling, label, text);
         if (taken.intersects(text))
             return failure(label.text(), qPrintable(u"covers "_s + sibling->objectName()), text, taken);
     }

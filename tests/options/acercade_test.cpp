@@ -40,6 +40,7 @@ TEST_F(AcercaDeTest, ItTellsNameVersionAndLicenceAndShowsTheLogo)
         for (const QString &text : { u"Zembrolix"_s, u"V2.0"_s, u"(FreeWare)"_s })
             EXPECT_THAT(shown, Contains(text));
         EXPECT_EQ(form.Caption(), u"S:TXT_AcercaDe"_s);
+        EXPECT_EQ(captionOf(form, u"Label4"_s), u"S:Zem_Autores"_s);
         EXPECT_EQ(captionOf(form, u"TXT_Volver"_s), u"S:TXT_Volver"_s);
         auto &logo = controlOf<forms::Image>(form, u"Logotipo"_s);
         EXPECT_EQ(logo.accessibleName(), u"S:Zem_Logotipo"_s);
