@@ -42,9 +42,10 @@ READ = {
 }
 EVENTS = ("Release|Press|Click|DblClick|Selection|Change|KeyDown|KeyEnter|MenuKey|MouseDown|MouseUp|MouseMove|GotFocus"
           "|Scroll")
-# Where controls are looked at, not worked: their places and looks, and lists of many.
+# Where controls are looked at, not worked: their places, looks and names for screen readers, and lists of many.
 LOOKING = {"disposicion_test.cpp", "retratos_test.cpp"}
-LOOKED_AT = re.compile(r"designPlace|captionOf|placeOf|(?:u\"\w+\"_s.*){4}")
+LOOKED_AT = re.compile(r"designPlace|captionOf|placeOf|accessibleName|std::pair\(u\"\w+\"_s, u\"[SE]:|EXPECT_EQ\(form\.Control\("
+                       r"|(?:u\"\w+\"_s.*){4}")
 
 
 class Source:
@@ -85,6 +86,13 @@ def controls_of(screen, sources):
             if made:
                 found.setdefault(name, made.group(1))
     return found
+
+
+def shown_names(control, sources):
+    """The name of a control, with that of its picture held down where it is a pair."""
+    pair = re.compile(rf'u"{control}"(?:_s)?, u"(\w+)"(?:_s)?,')
+    pressed = next((match.group(1) for match in (pair.search(source.text) for source in sources) if match), None)
+    return f"{control} / {pressed}" if pressed else control
 
 
 def called_at(source, position):
@@ -186,15 +194,18 @@ def rows_of(screen, source_patterns, test_patterns, complaints):
         if told and kind in DECORATIVE and not acts:
             complaints.append(f"{screen}.{control}: it has a handler, and is told to only show")
         shows = "kept for its name" if (screen, control) in IDLE else "only shows"
-        yield control, kind, told if acts else [shows], working if acts else []
+        names = shown_names(control, sources) if kind == "PictureButton" else control
+        if kind == "PictureButton" and names == control:
+            complaints.append(f"{screen}.{control}: no name for its picture held down")
+        yield names, kind, told if acts else [shows], working if acts else []
 
 
 INTRODUCTION = """# The controls
 
 Every named control of every screen, made from the sources by `tests/controls.py`, which the tests run too: one that
-acts needs a handler and a test that works it. A picture pair stands under its name at rest. A handler is told by its
-event, its function and the file of that; one that is more than a call, by the function that sets it. Of many tests
-four are told.
+acts needs a handler and a test that works it. A picture pair stands under both its names, the one at rest first. A
+handler is told by its event, its function and the file of that; one that is more than a call, by the function that
+sets it. Of many tests four are told.
 """
 
 
