@@ -88,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(Pcx, Fixture, testing::ValuesIn(fixtures()),
 
 TEST(Fixtures, AreThere)
 {
-    EXPECT_EQ(fixtures().size(), 32);
+    EXPECT_EQ(fixtures().size(), 34);
 }
 
 } // namespace

@@ -1,7 +1,9 @@
 #!/usr/bin/python3
 """Makes the pictures of tests/converter/fixtures anew: NAME.ppm is a picture, NAME-TOOL.pcx what a program made of it.
 
-Needs Debian's netpbm, imagemagick, graphicsmagick, ffmpeg and python3-pil; the tests need none of them.
+Needs Debian's netpbm, imagemagick, graphicsmagick, ffmpeg, ghostscript and python3-pil; the tests need none of them.
+Two and three planes of 1 bit and one plane of 2 bits come from netpbm alone: no other of Debian's programs was found
+that writes them.
 """
 import pathlib
 import subprocess
@@ -27,18 +29,29 @@ def spread(index, count):
     return ((index * 97 + 13) % 256, 255 - index * 255 // (count - 1), (index * 181 + 200) % 256)
 
 
+# What Ghostscript can paint on its devices of 16 colours, as PostScript asks for them, with what comes of it: light of
+# red, green and blue, and ink of cyan, magenta, yellow and black.
+BRIGHT = {f"{i >> 2 & 1} {i >> 1 & 1} {i & 1} setrgbcolor":
+          tuple(255 if i >> bit & 1 else 85 for bit in (2, 1, 0)) if i else (0, 0, 0) for i in range(8)}
+INKS = {f"{i >> 3 & 1} {i >> 2 & 1} {i >> 1 & 1} {i & 1} setcmykcolor": colour for i, colour in enumerate((
+    (255, 255, 255), (0, 0, 0), (255, 255, 0), (15, 15, 0), (255, 0, 255), (15, 0, 15), (255, 0, 0), (15, 0, 0),
+    (0, 255, 255), (0, 15, 15), (0, 255, 0), (0, 15, 0), (0, 0, 255), (0, 0, 15), (31, 31, 31), (15, 15, 15)))}
+
+
 def write_sources():
     write("mono", lambda x, y: (255 * (pattern(x, y) % 2),) * 3)
     for name, count in (("two", 2), ("four", 4), ("eight", 8), ("sixteen", 16), ("all256", 256)):
         write(name, lambda x, y, count=count: spread(pattern(x, y) % count, count))
     write("grey", lambda x, y: (pattern(x, y) % 256,) * 3)
+    for name, colours in (("bright", BRIGHT), ("inks", INKS)):
+        write(name, lambda x, y, colours=list(colours.values()): colours[pattern(x, y) % len(colours)])
     write("true", lambda x, y: (x * 255 // (width - 1), y * 31 % 256, (x * 3 + y * 17) % 256))
 
 
-def run(*command, output=None):
+def run(*command, output=None, given=None):
     stdout = open(fixtures / output, "wb") if output else None
     subprocess.run([str(part) for part in command], check=True, cwd=fixtures, stdout=stdout,
-                   stderr=subprocess.DEVNULL)
+                   stderr=subprocess.DEVNULL, input=given)
 
 
 def write_pcx():
@@ -62,6 +75,11 @@ def write_pcx():
         if mode == "P":
             picture = picture.quantize(256, dither=Image.Dither.NONE)
         picture.convert(mode, dither=Image.Dither.NONE).save(fixtures / f"{name}-pillow.pcx")
+    for name, colours, device in (("bright", list(BRIGHT), "pcx16"), ("inks", list(INKS), "pcxcmyk")):
+        page = "".join(f"{colours[pattern(x, y) % len(colours)]} {x} {height - 1 - y} 1 1 rectfill\n"
+                       for y in range(height) for x in range(width))
+        run("gs", "-q", "-dNOPAUSE", "-dBATCH", f"-sDEVICE={device}", f"-g{width}x{height}", "-r72",
+            f"-sOutputFile={name}-ghostscript.pcx", "-", given=page.encode() + b"showpage\n")
 
 
 fixtures.mkdir(exist_ok=True)
