@@ -16,6 +16,7 @@
 using namespace Qt::StringLiterals;
 using testing::Contains;
 using testing::IsSupersetOf;
+using testing::UnorderedElementsAreArray;
 
 namespace {
 
@@ -108,6 +109,25 @@ TEST(Database, HasNamesThatTheNotesCanHold)
     }
 }
 
+// A user who installs one emulator of a system takes the first that he sees.
+TEST(Database, HasEmulatorsForWindowsAloneBehindAllOthersOfTheirSystem)
+{
+    const QStringList windowsOnly { u"Altirra"_s, u"AppleWin"_s, u"blueMSX"_s, u"CCS64"_s, u"Cxbx-Reloaded"_s,
+        u"CD-i Emulator"_s, u"Spectaculator"_s, u"WinAPE"_s, u"WinUAE"_s };
+    QStringList found;
+    for (const sources::System &system : sources::systems(Database)) {
+        bool behind = false;
+        for (const QString &emulator : system.emulators) {
+            const bool forWindows = windowsOnly.contains(emulator);
+            EXPECT_TRUE(forWindows || !behind) << system.name.toStdString() << ' ' << emulator.toStdString();
+            behind = behind || forWindows;
+            if (forWindows)
+                found += emulator;
+        }
+    }
+    EXPECT_THAT(found, UnorderedElementsAreArray(windowsOnly));
+}
+
 // A system without emulators would give its count of extensions to the one behind it.
 TEST(Database, HasAnEmulatorForEverySystem)
 {
@@ -160,14 +180,15 @@ TEST(Database, HasAWebAddressForEverySystemAndEveryEmulator)
 }
 
 // In a ZIP the first extension is tried on the first file alone, so one that no unpacked ROM has comes first.
-// Longer ones never fit, nor do small letters.
+// Longer ones never fit, nor do small letters; a single letter, without the point ahead of it, fits every
+// name that ends in it.
 TEST(Database, HasZipFirstAndShortExtensionsInCapitals)
 {
     for (const sources::System &system : sources::systems(Database)) {
         ASSERT_FALSE(system.extensions.isEmpty()) << system.name.toStdString();
         EXPECT_EQ(system.extensions.first(), u"ZIP") << system.name.toStdString();
         for (const QString &extension : system.extensions) {
-            EXPECT_TRUE(extension.size() >= 1 && extension.size() <= 3) << extension.toStdString();
+            EXPECT_TRUE(extension.size() >= 2 && extension.size() <= 3) << extension.toStdString();
             EXPECT_EQ(extension, host::upper(extension).trimmed()) << system.name.toStdString();
         }
     }
