@@ -1,5 +1,6 @@
 #include "core/configuracion.h"
 
+#include "core/basededatos.h"
 #include "core/catalogo.h"
 
 #include "host/paths.h"
@@ -63,7 +64,7 @@ Rechazo RechazoDe(const QString &sistema, int origen, const Casillas &casillas, 
         return Rechazo::SinEXE;
     if (casillas.rom.isEmpty() && sistema != SistemaDeDiscos)
         return Rechazo::SinDirectorio;
-    if (origen == 1 && !marcas.check1 && !marcas.check2 && !marcas.check3)
+    if (origen == SistemaRecreativo && !marcas.check1 && !marcas.check2 && !marcas.check3)
         return Rechazo::SinMarcas;
     return Rechazo::Ninguno;
 }

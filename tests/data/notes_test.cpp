@@ -53,7 +53,7 @@ TEST(Notes, HoldTheBlocksOfTheDatabaseInItsOrderAndNoOther)
     EXPECT_EQ(headers, names);
 }
 
-// New blocks go ahead of every such line.
+// New blocks go ahead of every line with a bracket, and the parameters are found by their header.
 TEST(Notes, HoldOneEndOfTheBlocksAheadOfTheParameters)
 {
     const QStringList lines = sources::lines(Notes);
