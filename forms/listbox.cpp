@@ -80,6 +80,24 @@ void ListBox::SetHorizontalBar()
     setUniformItemSizes(false); // else all count for as wide as one of them
 }
 
+void ListBox::SetWholeRows()
+{
+    m_wholeRows = true;
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Base);
+    updateGeometries();
+}
+
+void ListBox::updateGeometries()
+{
+    if (m_wholeRows) {
+        const int rest = (viewport()->height() + viewportMargins().bottom()) % fontMetrics().height();
+        if (rest != viewportMargins().bottom())
+            setViewportMargins(0, 0, 0, rest);
+    }
+    Control::updateGeometries();
+}
+
 int ListBox::AddItem(const QString &text, int itemData)
 {
     int first = 0;

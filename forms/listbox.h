@@ -40,12 +40,15 @@ public:
     // A bar along the bottom where an entry is wider than the list. Without one it is cut off.
     void SetHorizontalBar();
 
+    void SetWholeRows(); // no row is cut off at the bottom: what is left of the height stays blank
+
     int TopIndex() const; // the first entry in view
     // The entry at this point of the client area, in pixels; below the last entry ListCount() is given where
     // that is still inside the control, -1 outside.
     int ItemFromPoint(int x, int y) const;
 
 protected:
+    void updateGeometries() override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -60,6 +63,7 @@ private:
     bool press(const QMouseEvent &event);
 
     bool m_sorted;
+    bool m_wholeRows = false;
 };
 
 } // namespace forms

@@ -1,6 +1,8 @@
 #include "forms/textbox.h"
 
 #include <QRegularExpression>
+#include <QStyle>
+#include <QStyleOptionFrame>
 
 namespace forms {
 
@@ -19,6 +21,21 @@ void TextBox::SetText(const QString &value)
 {
     setText(value);
     setCursorPosition(0);
+}
+
+void TextBox::SetTip()
+{
+    connect(this, &QLineEdit::textChanged, this,
+        [this](const QString &text) { setToolTip(fits(text) ? QString() : text); });
+}
+
+bool TextBox::fits(const QString &text) const
+{
+    constexpr int inset = 2; // pixels that a line leaves free at each end
+    QStyleOptionFrame frame;
+    initStyleOption(&frame);
+    const QRect room = style()->subElementRect(QStyle::SE_LineEditContents, &frame, this);
+    return fontMetrics().horizontalAdvance(text) <= room.width() - 2 * inset;
 }
 
 TextArea::TextArea(QWidget *parent)

@@ -16,6 +16,10 @@ public:
 
     QString Text() const { return text(); }
     void SetText(const QString &value);
+    void SetTip(); // from now on a text too wide for the box shows in full under the pointer
+
+private:
+    bool fits(const QString &text) const;
 };
 
 class TextArea : public Control<QPlainTextEdit> {

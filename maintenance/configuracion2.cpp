@@ -57,6 +57,8 @@ void Configuracion2::Conecta()
     Boton1->Click = [this] { BuscaEjecutable(); };
     Boton2->Click = [this] { BuscaDirectorio(*Casilla2); };
     Boton3->Click = [this] { BuscaDirectorio(*Casilla3); };
+    for (forms::TextBox *ruta : { Casilla1, Casilla2, Casilla3 })
+        ruta->SetTip();
     for (forms::CheckBox *marca : { Check1, Check2, Check4 })
         marca->Click = [this] { AplicaCerrojos(); };
     for (forms::CheckBox *marca : { Check1, Check2, Check3 }) {

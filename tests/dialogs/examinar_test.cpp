@@ -124,8 +124,14 @@ TEST_F(ExaminarTest, ControlsStandInTheirPlaces)
     EXPECT_EQ(holder->Caption(), u"Examinar..."_s);
     EXPECT_TRUE(holder->windowFlags().testFlag(Qt::WindowCloseButtonHint));
     EXPECT_FALSE(holder->windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
-    for (const QString &label : { u"TXT_Aceptar"_s, u"TXT_Volver"_s })
-        EXPECT_EQ(controlOf<forms::Label>(*holder, label).ForeColor(), QColor(192, 255, 192));
+    for (const auto &[name, caption] :
+        { std::pair(u"TXT_Aceptar"_s, u"Aceptar"_s), std::pair(u"TXT_Volver"_s, u"Volver"_s) }) {
+        const auto &label = controlOf<forms::Label>(*holder, name);
+        EXPECT_EQ(label.Caption(), caption);
+        EXPECT_EQ(label.ForeColor(), QColor(192, 255, 192));
+        EXPECT_EQ(label.alignment(), Qt::AlignHCenter | Qt::AlignTop);
+        EXPECT_FALSE(label.font().bold());
+    }
 }
 
 TEST_F(ExaminarTest, ItLoadsOnTheProgramsOwnDirectory)

@@ -314,3 +314,24 @@ TEST_F(Controls, EnterInATextAreaThatTakesNoTyping_StaysThere)
 }
 
 } // namespace
+
+TEST(TextBoxes, ATextTooWideForTheBoxShowsAsItsTip)
+{
+    forms::TextBox box(nullptr);
+    box.resize(100, 19);
+    box.SetTip();
+    const QString wide(60, u'm');
+    box.SetText(wide);
+    EXPECT_EQ(box.toolTip(), wide);
+    box.SetText(u"/games"_s);
+    EXPECT_EQ(box.toolTip(), QString());
+
+    // Wider dot by dot: it comes with the first that doesn't fit any more.
+    box.SetText({});
+    QString text;
+    while (box.toolTip().isEmpty() && text.size() < 200)
+        box.SetText(text += u'.');
+    const int room = box.width() - box.fontMetrics().horizontalAdvance(text);
+    EXPECT_LT(room, 10); // frame and insets
+    EXPECT_GE(room, 0);
+}

@@ -526,3 +526,24 @@ TEST_F(Lists, ADoubleClickOfAnotherButtonThanTheLeft_IsNone)
 }
 
 } // namespace
+
+TEST_F(Lists, WithWholeRowsNoneIsCutOffAtTheBottom_AndWhatIsLeftStaysBlank)
+{
+    const int high = list.fontMetrics().height();
+    list.setFrameShape(QFrame::NoFrame);
+    list.SetWholeRows();
+    form.show();
+    for (const int rest : { 0, 1, high - 1 }) {
+        list.resize(153, 5 * high + rest);
+        EXPECT_EQ(list.viewport()->height(), 5 * high) << rest;
+    }
+    for (int i = 0; i < 20; ++i)
+        list.AddItem(QString::number(i));
+    EXPECT_EQ(list.ItemFromPoint(5, 5 * high - 1), 4);
+    EXPECT_EQ(list.ItemFromPoint(5, 5 * high), -1);
+    const QImage picture = list.grab().toImage();
+    for (int y = 5 * high; y < picture.height(); ++y)
+        EXPECT_EQ(picture.pixelColor(5, y), list.palette().color(QPalette::Base)) << y;
+    list.SetListIndex(19);
+    EXPECT_EQ(list.TopIndex(), 15);
+}
