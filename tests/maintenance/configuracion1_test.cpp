@@ -51,37 +51,6 @@ protected:
 
 } // namespace
 
-TEST_F(Configuracion1Test, ControlsStandInTheirPlaces)
-{
-    begin();
-    configure([](forms::Form &form) {
-        const struct {
-            QString name;
-            QRect place;
-        } controls[] = {
-            { u"Texto5"_s, designPlace(120, 3480, 3120, 225) },
-            { u"Mas1"_s, designPlace(120, 720, 255, 255) },
-            { u"Menos1"_s, designPlace(380, 720, 255, 255) },
-            { u"Boton_E"_s, designPlace(630, 720, 255, 255) },
-            { u"Boton_W1"_s, designPlace(890, 720, 255, 255) },
-            { u"Boton_Mas2"_s, designPlace(1920, 720, 255, 255) },
-            { u"Boton_Menos2"_s, designPlace(2180, 720, 255, 255) },
-            { u"Boton_W2"_s, designPlace(2430, 720, 255, 255) },
-            { u"Lista1"_s, designPlace(120, 1080, 1695, 2010) },
-            { u"Lista2"_s, designPlace(1920, 1080, 1695, 2010) },
-            { u"Aceptar2"_s, designPlace(180, 3960, 465, 405) },
-            { u"Flecha2"_s, designPlace(900, 3960, 615, 375) },
-            { u"Shape1"_s, designPlace(1800, 3960, 1815, 615) },
-        };
-        for (const auto &expected : controls)
-            EXPECT_EQ(controlOf<QWidget>(form, expected.name).geometry(), expected.place)
-                << expected.name.toStdString();
-        EXPECT_EQ(form.size(), QSize(249, 313));
-        EXPECT_EQ(form.Control(u"Aceptar1"_s), form.Control(u"Aceptar2"_s));
-        EXPECT_EQ(form.Control(u"Flecha1"_s), form.Control(u"Flecha2"_s));
-    });
-}
-
 TEST_F(Configuracion1Test, TheWordsAreThoseOfTheLanguage)
 {
     begin();

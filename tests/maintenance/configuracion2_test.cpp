@@ -101,42 +101,6 @@ protected:
 
 } // namespace
 
-TEST_F(Configuracion2Test, ControlsStandInTheirPlaces)
-{
-    begin();
-    configurePair(u"Own"_s, u"Mame"_s, [](forms::Form &form) {
-        const struct {
-            QString name;
-            QRect place;
-        } controls[] = {
-            { u"Texto2"_s, designPlace(120, 360, 3120, 225) },
-            { u"Shape1"_s, designPlace(120, 840, 3495, 2895) },
-            { u"Casilla1"_s, designPlace(240, 1320, 2175, 285) },
-            { u"Boton1"_s, designPlace(2520, 1320, 975, 300) },
-            { u"Casilla2"_s, designPlace(240, 2000, 2175, 285) },
-            { u"Boton2"_s, designPlace(2520, 2000, 975, 300) },
-            { u"Casilla3"_s, designPlace(240, 2710, 2175, 285) },
-            { u"Boton3"_s, designPlace(2520, 2710, 975, 300) },
-            { u"Casilla4"_s, designPlace(580, 3360, 1215, 285) },
-            { u"Casilla5"_s, designPlace(2280, 3360, 1215, 285) },
-            { u"Check4"_s, designPlace(120, 3840, 255, 255) },
-            { u"Shape2"_s, designPlace(120, 4320, 3495, 1455) },
-            { u"Check1"_s, designPlace(3240, 4520, 255, 255) },
-            { u"Check2"_s, designPlace(3240, 4920, 255, 195) },
-            { u"Check3"_s, designPlace(3240, 5280, 255, 255) },
-            { u"Disco1"_s, designPlace(120, 5930, 435, 435) },
-            { u"Flecha1"_s, designPlace(750, 5970, 615, 375) },
-            { u"Shape3"_s, designPlace(1560, 5880, 2055, 735) },
-            { u"TXT_Aviso"_s, designPlace(1640, 5880, 1935, 735) },
-        };
-        for (const auto &expected : controls)
-            EXPECT_EQ(placeOf(form, expected.name), expected.place) << expected.name.toStdString();
-        EXPECT_EQ(form.size(), QSize(248, 448));
-        EXPECT_EQ(form.Control(u"Disco2"_s), form.Control(u"Disco1"_s));
-        EXPECT_EQ(form.Control(u"Flecha2"_s), form.Control(u"Flecha1"_s));
-    });
-}
-
 TEST_F(Configuracion2Test, TheWordsAreThoseOfTheLanguage)
 {
     begin();
@@ -197,6 +161,37 @@ TEST_F(Configuracion2Test, OfAKnownSystemTheSpecialCasesAreGone)
         EXPECT_EQ(marks(form), QString());
         EXPECT_EQ(enabled(form), u"124"_s);
         EXPECT_EQ(box(form, u"Casilla1"_s), u"/bin/mame"_s);
+    });
+}
+
+TEST_F(Configuracion2Test, OfAKnownSystemAStoredFiveComesBackAsItself)
+{
+    setCatalogue("5", "NES");
+    database.replace("+Nes1", "+Mame");
+    begin();
+    configurePair(u"NES"_s, u"Mame"_s, [this](forms::Form &form) {
+        EXPECT_EQ(marks(form), u"4"_s);
+        EXPECT_EQ(enabled(form), u"124"_s);
+        atWarning(u"Msg_SinCambios"_s);
+        click(controlOf<QWidget>(form, u"Disco1"_s));
+        EXPECT_TRUE(form.isVisible());
+    });
+    expectFilesUnchanged();
+}
+
+TEST_F(Configuracion2Test, PathsThatAreCutOffShowInFullAsTips)
+{
+    const QByteArray deep = "/" + QByteArray(60, 'x') + "/";
+    catalogue.replace("/bin/mame", deep + "mame").replace("/roms/", deep).replace("-a b", deep);
+    begin();
+    configurePair(u"Arcade"_s, u"Mame"_s, [&deep](forms::Form &form) {
+        const auto tip = [&form](const QString &name) { return controlOf<QWidget>(form, name).toolTip(); };
+        EXPECT_EQ(tip(u"Casilla1"_s), QString::fromLatin1(deep) + u"mame"_s);
+        EXPECT_EQ(tip(u"Casilla2"_s), QString::fromLatin1(deep));
+        EXPECT_EQ(tip(u"Casilla3"_s), QString()); // it fits
+        EXPECT_EQ(tip(u"Casilla4"_s), QString());
+        write(form, u"Casilla3"_s, QString(60, u'i'));
+        EXPECT_EQ(tip(u"Casilla3"_s), QString(60, u'i'));
     });
 }
 

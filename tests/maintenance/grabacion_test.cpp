@@ -243,6 +243,152 @@ TEST_F(GrabacionTest, AnEmptyCaptureDirectoryIsNoFailure_AndShowsBlack)
     EXPECT_EQ(zoomed(), QColor(Qt::black));
 }
 
+// Nothing asks for the capture or the list anew: the black picture is the saving's own.
+TEST_F(GrabacionTest, WithoutACaptureDirectoryItShowsBlackAheadOfTheNotice_WhateverStoodThere)
+{
+    withNes({ .roms = at(u"a/"_s) });
+    showRed();
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/other"_s);
+        atModal(u"Caja"_s, [this](forms::Form &notice) {
+            EXPECT_EQ(notice.Caption(), u"Msg_CFGGrabada0"_s);
+            EXPECT_EQ(capture(), QColor(Qt::black));
+            EXPECT_EQ(zoomed(), QColor(Qt::black));
+            click(controlOf<QWidget>(notice, u"Aceptar2"_s));
+        });
+        save(form);
+    });
+}
+
+TEST_F(GrabacionTest, WithoutACaptureDirectoryAnEmptyListLeavesThePictures)
+{
+    files.makeDirectory(u"none"_s);
+    withNes({ .roms = at(u"none/"_s) });
+    showRed();
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/other"_s);
+        saveWithoutGames(form);
+    });
+    EXPECT_THAT(listed(), IsEmpty());
+    EXPECT_EQ(capture(), QColor(Qt::red));
+    EXPECT_EQ(zoomed(), QColor(Qt::red));
+}
+
+TEST_F(GrabacionTest, WithACaptureDirectoryThePicturesStay)
+{
+    withNes({ .roms = at(u"a/"_s), .captures = at(u"blue/"_s) });
+    showRed();
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/other"_s);
+        saveWell(form);
+    });
+    EXPECT_EQ(capture(), QColor(Qt::red));
+    EXPECT_EQ(zoomed(), QColor(Qt::red));
+}
+
+TEST_F(GrabacionTest, EverySaveOfAChangeRemembersTheDirectoryInTheNextOfTwoSlots)
+{
+    withNes({ .roms = at(u"a/"_s) });
+    const QString first = u"ROM="_s + files.path(u"a/"_s).toUpper();
+    const QString second = u"ROM="_s + files.path(u"b/"_s).toUpper();
+    ASSERT_EQ(M->IndiceRutas, 1);
+    ASSERT_EQ(M->RutasROM(1), first);
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla2"_s, files.path(u"b"_s));
+        saveWell(form);
+    });
+    EXPECT_EQ(M->IndiceRutas, 0); // behind the second
+    EXPECT_EQ(M->RutasROM(1), first);
+    EXPECT_EQ(M->RutasROM(2), second);
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/other"_s);
+        saveWell(form);
+    });
+    EXPECT_EQ(M->IndiceRutas, 1);
+    EXPECT_EQ(M->RutasROM(1), second);
+    EXPECT_EQ(M->RutasROM(2), second);
+}
+
+// Another pair than the selected one, so that the two directories differ.
+TEST_F(GrabacionTest, OtherParametersBehindAnotherDirectoryReadTheListAnew)
+{
+    for (const QString &box : { u"Casilla4"_s, u"Casilla5"_s }) {
+        renew();
+        catalogue = Top
+            + configured("NES", "http://nes",
+                emulator("N1", { .roms = at(u"a/"_s) }) + "'\r\n" + emulator("N2", { .roms = at(u"b/"_s) }))
+            + End;
+        begin();
+        pick(emulators(), u"N1"_s);
+        ASSERT_THAT(listed(), ElementsAre(u"one.bin"_s));
+        configurePair(u"NES"_s, u"N2"_s, [this, &box](forms::Form &form) {
+            write(form, box, u"-z"_s);
+            saveWell(form);
+        });
+        EXPECT_EQ(emulators().Text(), u"N2"_s);
+        EXPECT_THAT(listed(), ElementsAre(u"three.bin"_s, u"two.bin"_s)) << box.toStdString();
+    }
+}
+
+TEST_F(GrabacionTest, OtherParametersOfTheSameDirectoryLeaveTheListAsItIs)
+{
+    withNes({ .roms = at(u"a/"_s) });
+    files.writeSize(u"a/later.bin"_s, 2048);
+    for (const QString &box : { u"Casilla4"_s, u"Casilla5"_s }) {
+        configurePair(u"NES"_s, u"N1"_s, [this, &box](forms::Form &form) {
+            write(form, box, u"-z"_s);
+            saveWell(form);
+        });
+        EXPECT_EQ(M->RutasROM(1), M->RutasROM(2));
+        EXPECT_THAT(listed(), ElementsAre(u"one.bin"_s)) << box.toStdString();
+    }
+}
+
+// A mark left behind would list the games at the next pick, though the directory is the same.
+TEST_F(GrabacionTest, AChangedArcadeLeavesNoMarkOfHavingBeenConfigured)
+{
+    catalogue = Top + configured("Arcade", "", emulator("Mame", { .type = "3", .roms = at(u"b/"_s) })) + End;
+    files.writeSize(u"b/game.zip"_s, 2048);
+    begin();
+    configurePair(u"Arcade"_s, u"Mame"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/other"_s);
+        saveWell(form);
+    });
+    expectCatalogue(
+        Top + configured("Arcade", "", emulator("Mame", { "/bin/other", "3", at(u"b/"_s) })) + End);
+    EXPECT_EQ(M->EmuConfigurado, 0);
+}
+
+TEST_F(GrabacionTest, TheGreyedParametersAreSavedAsTheyStand)
+{
+    withNes({ .roms = at(u"a/"_s) });
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla5"_s, u"-z"_s);
+        mark(form, 4);
+        saveWell(form);
+    });
+    expectCatalogue(Top
+        + configured(
+            "NES", "http://nes", emulator("N1", { .type = "5", .roms = at(u"a/"_s), .behind = "-z" }))
+        + End);
+}
+
+TEST_F(GrabacionTest, AnEmulatorThatGetsItsGameAgainHasTheWordForPlaying)
+{
+    catalogue =
+        Top + configured("Own", "http://own", emulator("O1", { .type = "6", .roms = at(u"games/"_s) })) + End;
+    begin();
+    ASSERT_EQ(word(), u"TXT_Cargar"_s);
+    configurePair(u"Own"_s, u"O1"_s, [this](forms::Form &form) {
+        mark(form, 4);
+        saveWell(form);
+    });
+    const QByteArray changed = emulator("O1", { .type = "2", .roms = at(u"games/"_s) });
+    expectCatalogue(Top + configured("Own", "http://own", changed) + End);
+    EXPECT_EQ(M->TipoEmu, u"2"_s);
+    EXPECT_EQ(word(), u"TXT_Jugar"_s);
+}
+
 TEST_F(GrabacionTest, APairThatIsntSelectedBecomesSo_AndKeepsTheOldListWhereOnlyTheExecutableChanged)
 {
     catalogue = Top + configured("NES", "http://nes", emulator("N1", { .roms = at(u"a/"_s) }))

@@ -100,3 +100,11 @@ void GrabacionTest::expectEnd(const forms::Form &form, const char *number)
     ASSERT_TRUE(end);
     EXPECT_THAT(end->text.toStdString(), HasSubstr(number));
 }
+
+void GrabacionTest::showRed()
+{
+    QPixmap red(4, 4);
+    red.fill(Qt::red);
+    control<forms::Image>(u"Graf_Imagen"_s).SetPicture(red);
+    controlOf<forms::Image>(portada->Aumento, u"Imagen"_s).SetPicture(red);
+}

@@ -46,6 +46,9 @@ protected:
     // Saves, and the process ends of this classic number.
     void expectEnd(const forms::Form &form, const char *number);
 
+    // Puts red pictures in the place of the capture and of the enlarged one.
+    void showRed();
+
     // What is saved of the catalogue; nothing else changes.
     void expectCatalogue(const QByteArray &expected) { expectFiles(database, expected, notes); }
 };
