@@ -146,6 +146,12 @@ bool SePuedeEscribir(const QString &clave)
     return enUnaLinea && !conComillas && clave != u"'";
 }
 
+bool SonParametrosEnteros(const QString &texto)
+{
+    return !texto.contains(u',') && !texto.contains(u'\n') && !texto.contains(u'\r')
+        && !texto.trimmed().startsWith(u'"');
+}
+
 QString CampoOVacio(host::TextSource &fuente)
 {
     return fuente.atEnd() ? QString() : fuente.readField();

@@ -42,6 +42,10 @@ struct Parametros {
 
 bool SePuedeEscribir(const QString &clave);
 
+// False for parameters of a game that would come back cut, their rest as a field of another record: they are
+// written bare.
+bool SonParametrosEnteros(const QString &texto);
+
 // The new record stands first in the system's block, its key in upper case; without a block nothing changes.
 QString ConDescripcionNueva(
     const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion);

@@ -16,6 +16,8 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zem_NoPapelera1", &P::Zem_NoPapelera1 },
         { u"Zem_NoNota0", &P::Zem_NoNota0 },
         { u"Zem_NoNota1", &P::Zem_NoNota1 },
+        { u"Zem_NoParam0", &P::Zem_NoParam0 },
+        { u"Zem_NoParam1", &P::Zem_NoParam1 },
         { u"Zem_Falta0", &P::Zem_Falta0 },
         { u"Zem_FaltaEditor", &P::Zem_FaltaEditor },
         { u"Zem_FaltaEdit", &P::Zem_FaltaEdit },

@@ -18,6 +18,8 @@ struct Palabras {
     // Describing one, or giving it parameters.
     QString Zem_NoNota0 = QStringLiteral("Sin anotar");
     QString Zem_NoNota1 = QStringLiteral("Este nombre de archivo no se puede anotar.");
+    QString Zem_NoParam0 = QStringLiteral("Sin grabar");
+    QString Zem_NoParam1 = QStringLiteral("Sin comas, y sin comillas al principio.");
 
     // What the desktop lacks.
     QString Zem_Falta0 = QStringLiteral("Falta un programa");

@@ -138,6 +138,10 @@ void Portada::Menu_Parametros_Click()
     const QString parametros = M.Respuesta_Caja;
     if (!SePuedeAnotar(clave))
         return;
+    if (!core::SonParametrosEnteros(parametros)) {
+        Advierte(M.Palabras.Zem_NoParam0, M.Palabras.Zem_NoParam1);
+        return;
+    }
     const core::Parametros nuevos { clave, Combo1->Text(), Combo2->Text(), parametros };
     ReescribeNotas([&](const QString &texto) {
         return actuales.isEmpty() ? core::ConParametrosNuevos(texto, nuevos)

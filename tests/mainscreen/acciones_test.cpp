@@ -541,6 +541,32 @@ TEST_F(AccionesTest, ParametersThatCannotBeWrittenAreFatalAndLoseNothing)
     EXPECT_EQ(notes(), before);
 }
 
+TEST_F(AccionesTest, ParametersThatWouldComeBackCutAreRefusedWithAWord)
+{
+    startAt(Zeta, 0);
+    addWords();
+    const QByteArray before = notes();
+    clickRow(list(), 0);
+    for (const QString &text : { u"-res 640,480"_s, u" \"-config\" x"_s }) {
+        QStringList told;
+        answer(
+            text,
+            [&] {
+                atModal(u"Caja"_s, [&](forms::Form &form) {
+                    told << form.Caption() << controlOf<forms::Label>(form, u"Texto2"_s).Caption();
+                    click(controlOf<QWidget>(form, u"Flecha2"_s));
+                });
+                parametersMenu();
+            },
+            u""_s);
+        EXPECT_THAT(told, ElementsAre(u"Sin grabar"_s, u"Sin comas, y sin comillas al principio."_s));
+        EXPECT_EQ(notes(), before);
+    }
+    answer(
+        u"-config \"x y\""_s, [&] { parametersMenu(); }, u""_s);
+    EXPECT_TRUE(notes().contains("ONE.NES,Zeta,Uno,-config \"x y\"\r\n"));
+}
+
 TEST_F(AccionesTest, ParametersWithoutASelectionHaveAnEmptyKey)
 {
     startAt(Zeta, 0);
