@@ -40,6 +40,33 @@ public:
     }
 };
 
+// Fills what lies between the rows and the frame, or the bar along the bottom.
+class Blank final : public QWidget {
+public:
+    explicit Blank(ListBox *list)
+        : QWidget(list)
+        , m_list(*list)
+    {
+        setAutoFillBackground(true);
+        setBackgroundRole(QPalette::Base);
+        lower();
+        m_list.viewport()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Resize || event->type() == QEvent::Move) {
+            const QRect rows = m_list.viewport()->geometry();
+            setGeometry(QRect(
+                rows.bottomLeft() + QPoint(0, 1), QPoint(rows.right(), m_list.contentsRect().bottom())));
+        }
+        return false;
+    }
+
+private:
+    ListBox &m_list;
+};
+
 bool isMouseEvent(const QEvent &event)
 {
     switch (event.type()) {
@@ -83,8 +110,7 @@ void ListBox::SetHorizontalBar()
 void ListBox::SetWholeRows()
 {
     m_wholeRows = true;
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::Base);
+    new Blank(this);
     updateGeometries();
 }
 
