@@ -3,7 +3,7 @@
 set -euo pipefail
 
 declare -A packages=(
-    [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6svg6-dev libarchive-dev libxcb1-dev
+    [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libarchive-dev libxcb1-dev
              libxcb-ewmh-dev libgraphicsmagick++1-dev dasm"
     [play]="stella fonts-liberation qt6-wayland"
     [screen]="xvfb openbox xdotool x11-utils imagemagick"
