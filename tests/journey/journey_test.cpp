@@ -141,7 +141,7 @@ void PrintTo(const Game &game, std::ostream *out)
 }
 
 // A program directory as the user gets it, and the program running in it.
-class Journey : public testing::TestWithParam<Game> {
+class StartedProgram : public testing::Test {
 protected:
     void SetUp() override
     {
@@ -159,13 +159,13 @@ protected:
 
     QString directory() const { return m_home.filePath(u"program"_s); }
 
-    void start()
+    void start(QProcess::ProcessChannelMode channels = QProcess::ForwardedChannels)
     {
         // What the emulator keeps of its own stays out of the user's home.
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"HOME"_s, m_home.path());
         m_program.setProcessEnvironment(environment);
-        m_program.setProcessChannelMode(QProcess::ForwardedChannels);
+        m_program.setProcessChannelMode(channels);
         m_program.start(directory() + u"/Zembrolix"_s, QStringList());
         ASSERT_TRUE(m_program.waitForStarted());
     }
@@ -244,6 +244,12 @@ protected:
         return last;
     }
 
+    QTemporaryDir m_home;
+    QProcess m_program;
+};
+
+class Journey : public StartedProgram, public testing::WithParamInterface<Game> {
+protected:
     static void expectPicture(host::WindowId emulator, const QImage &own)
     {
         double distance = 255;
@@ -267,9 +273,6 @@ protected:
         names.removeOne(game);
         return names;
     }
-
-    QTemporaryDir m_home;
-    QProcess m_program;
 };
 
 TEST_P(Journey, ChosenGamePlaysInItsEmulatorAndTheListIsBackWhenItEnds)
@@ -304,6 +307,24 @@ TEST_P(Journey, ChosenGamePlaysInItsEmulatorAndTheListIsBackWhenItEnds)
     ASSERT_TRUE(m_program.waitForFinished(Patience));
     EXPECT_EQ(m_program.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(m_program.exitCode(), 0);
+}
+
+TEST_F(StartedProgram, AFileThatGoesMissingLaterIsNoFaultOfTheStart)
+{
+    start(QProcess::SeparateChannels);
+    const host::WindowId main = acceptFirstRun();
+    ASSERT_NE(main, 0u);
+    atRest(main);
+    ASSERT_TRUE(QFile::remove(directory() + u"/Zembro.sye"_s));
+    click(main, 383, 305); // the database
+    const host::WindowId box = waitForWindow([] { return host::findWindow(u"ERROR"_s); });
+    ASSERT_NE(box, 0u);
+    host::closeWindow(box);
+    ASSERT_TRUE(m_program.waitForFinished(Patience));
+    EXPECT_EQ(m_program.exitCode(), 1);
+    const QString said = QString::fromUtf8(m_program.readAllStandardError());
+    EXPECT_TRUE(said.contains(u"ERROR: An unknown error has occurred. (ERR53)\n"_s)) << said.toStdString();
+    EXPECT_TRUE(said.contains(directory() + u"/Zembro.sye\n"_s)) << said.toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(OutOfAZipWithParametersAndPlain, Journey,
