@@ -1,5 +1,5 @@
-// BuscaEmuladores TABLE DIRECTORY CATALOGUE: adds the emulators of this machine that a catalogue of the program
-// directory hasn't yet, and makes the directories of their games. Says on the standard output what it has
+// BuscaEmuladores TABLE DIRECTORY CATALOGUE: configures the emulators of this machine in the catalogue of a
+// new program directory, and makes the directories of their games. Says on the standard output what it has
 // configured.
 
 #include "finder/preparacion.h"

@@ -2,9 +2,7 @@
 # Assembles the portable program directory: assemble.sh BUILD DIRECTORY.
 # The programs are renewed. So is every other file that is still one of those that were delivered, whose sums stand in
 # .delivered; one that the user has changed, or put a link in the place of, stays. The catalogue is the user's from the
-# beginning: it is written only where there is none, with the emulators of this machine. Later runs add those that came
-# to the machine since, ahead of the end of their system, and change nothing else in it. Whatever was found or configured
-# at an earlier run stands in .found, so that what the user has removed stays removed.
+# beginning: it is written only where there is none, with the emulators of this machine.
 set -euo pipefail
 
 build=$1
@@ -70,47 +68,15 @@ for game in "$build"/data/demo/games/* "$sources"/demo/captures/*; do
     deliver "$game" "demo/$(basename "$game")"
 done
 
-found=$directory/.found # names of emulators, one a line
-# Configures in a catalogue what was never found before, and keeps what is said of it.
-find_emulators() { # catalogue
-    awk -F'\t' -v list="$found" 'FILENAME == list { known[$0]; next } !($1 in known)' "$found" "$sources/emuladores.tsv" \
-        >"$work/emuladores.tsv"
-    "$build/finder/BuscaEmuladores" "$work/emuladores.tsv" "$directory" "$1" >"$work/said" ||
-        echo "The emulators of this machine aren't configured." >&2
-}
-# What was found now, and what stands in the catalogue.
-remember() {
-    {
-        cat "$found"
-        sed -n 's/^[^:]*: \([^,]*\), .*/\1/p' "$work/said"
-        LC_ALL=C sed -n 's/\r$//; s/^+//p' "$directory/Zembro.emu"
-    } | LC_ALL=C sort -u >"$work/known"
-    cmp -s "$work/known" "$found" || place 644 "$work/known" .found
-}
-
-if missing Zembro.emu; then
-    # The catalogue as delivered lists the demonstration games, and needs to know where they and their emulator are.
-    stella=$(command -v stella || true)
-    [ -n "$stella" ] || stella=/usr/games/stella
-    escaped() { printf '%s' "$1" | sed 's/[&\\|]/\\&/g'; }
-    sed -e "s|@STELLA@|$(escaped "$stella")|" -e "s|@DEMO@|$(escaped "$directory/demo")|" "$beside/Zembro.emu" \
-        >"$work/Zembro.emu"
-    mkdir -p "$directory/roms/Atari 2600"
-    : >"$found"
-    find_emulators "$work/Zembro.emu"
-    place 644 "$work/Zembro.emu" Zembro.emu
-elif [ -e "$found" ]; then
-    # On a copy first: the user's is written only if there is something to add.
-    cat "$directory/Zembro.emu" >"$work/Zembro.emu"
-    find_emulators "$work/Zembro.emu"
-    [ ! -s "$work/said" ] || find_emulators "$directory/Zembro.emu"
-else
-    # From the time before the list was kept: what the machine has by now counts as found, and stays as it is.
-    : >"$found"
-    printf '[EOF]\r\n' >"$work/Zembro.emu"
-    find_emulators "$work/Zembro.emu"
-    remember
-    : >"$work/said"
-fi
-remember
-[ ! -s "$work/said" ] || sed 's/^/Configured /' "$work/said"
+missing Zembro.emu || exit 0
+# The catalogue as delivered lists the demonstration games, and needs to know where they and their emulator are.
+stella=$(command -v stella || true)
+[ -n "$stella" ] || stella=/usr/games/stella
+escaped() { printf '%s' "$1" | sed 's/[&\\|]/\\&/g'; }
+sed -e "s|@STELLA@|$(escaped "$stella")|" -e "s|@DEMO@|$(escaped "$directory/demo")|" "$beside/Zembro.emu" \
+    >"$work/Zembro.emu"
+"$build/finder/BuscaEmuladores" "$sources/emuladores.tsv" "$directory" "$work/Zembro.emu" >"$work/found" ||
+    echo "The emulators of this machine aren't configured." >&2
+[ ! -s "$work/found" ] || sed 's/^/Configured /' "$work/found"
+mkdir -p "$directory/roms/Atari 2600"
+place 644 "$work/Zembro.emu" Zembro.emu
