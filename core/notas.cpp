@@ -30,10 +30,16 @@ QString registroDeNota(const QString &clave, const QString &descripcion)
     return claveEscrita(host::upper(clave)) + u",\""_s + descripcion + u'"';
 }
 
+// A system's or an emulator's, which a comma would split.
+QString nombreEscrito(const QString &nombre)
+{
+    return nombre.contains(u',') ? u'"' + nombre + u'"' : nombre;
+}
+
 QString registroDeParametros(const Parametros &parametros)
 {
-    return claveEscrita(parametros.clave) + u',' + parametros.sistema + u',' + parametros.emulador + u','
-        + parametros.texto;
+    return claveEscrita(parametros.clave) + u',' + nombreEscrito(parametros.sistema) + u','
+        + nombreEscrito(parametros.emulador) + u',' + parametros.texto;
 }
 
 // The description is what lies behind the first comma, or behind the one after a quoted key, without the

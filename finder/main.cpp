@@ -26,19 +26,20 @@ void configura(const QString &tabla, const QString &directorio, const QString &c
     const std::vector<finder::Ficha> fichas = finder::LeeFichas(textoDe(tabla));
     const auto base = std::make_unique<core::Modulo>();
     finder::LeeTablas(*base, textoDe(directorio + u"/Zembro.sye"_s));
+    std::vector<finder::Hallazgo> hallazgos;
     host::NumberedFiles ficheros;
     ficheros.rewrite(catalogo, u"Zembro.tmp"_s, [&](const QString &texto) {
         const auto configurado = std::make_unique<core::Modulo>();
         finder::LeeTablas(*configurado, texto);
-        const std::vector<finder::Hallazgo> hallazgos =
-            finder::Busca(*base, *configurado, fichas, finder::LugaresDeLaMaquina(), directorio);
-        for (const finder::Hallazgo &hallazgo : hallazgos) {
+        hallazgos = finder::Busca(*base, *configurado, fichas, finder::LugaresDeLaMaquina(), directorio);
+        for (const finder::Hallazgo &hallazgo : hallazgos)
             finder::Prepara(hallazgo);
-            std::printf("%s: %s, %s\n", qPrintable(hallazgo.sistema), qPrintable(hallazgo.emulador.nombre),
-                qPrintable(hallazgo.programa));
-        }
         return finder::CatalogoCon(texto, *base, hallazgos);
     });
+    // Only now does the catalogue hold them: who is told of one takes it for done.
+    for (const finder::Hallazgo &hallazgo : hallazgos)
+        std::printf("%s: %s, %s\n", qPrintable(hallazgo.sistema), qPrintable(hallazgo.emulador.nombre),
+            qPrintable(hallazgo.programa));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "host/process.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -12,12 +13,26 @@ namespace host {
 
 namespace {
 
+AnswerWords &words()
+{
+    static AnswerWords words;
+    return words;
+}
+
+void name(QAbstractButton *button, const QString &word)
+{
+    if (!word.isEmpty())
+        button->setText(word);
+}
+
 QMessageBox::StandardButton ask(
     const QString &title, const QString &text, QMessageBox::StandardButtons buttons)
 {
     QMessageBox box(QMessageBox::Question, title, text, buttons, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);
+    name(box.button(QMessageBox::Yes), words().yes);
+    name(box.button(QMessageBox::No), words().no);
     return QMessageBox::StandardButton(box.exec());
 }
 
@@ -27,6 +42,16 @@ bool hasDisplay()
 }
 
 } // namespace
+
+void setAnswerWords(const AnswerWords &answers)
+{
+    words() = answers;
+}
+
+const AnswerWords &answerWords()
+{
+    return words();
+}
 
 QString DesktopQuestions::askText(const QString &prompt)
 {

@@ -5,6 +5,14 @@
 
 namespace host {
 
+// The words on the buttons of yes and no, from then on; an empty one leaves the toolkit's.
+struct AnswerWords {
+    QString yes;
+    QString no;
+};
+void setAnswerWords(const AnswerWords &words);
+const AnswerWords &answerWords();
+
 class DesktopQuestions final : public Questions {
 public:
     QString askText(const QString &prompt) override;

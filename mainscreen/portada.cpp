@@ -6,6 +6,7 @@
 
 #include "forms/pictures.h"
 
+#include "host/desktopquestions.h"
 #include "host/paths.h"
 
 using namespace Qt::StringLiterals;
@@ -72,6 +73,7 @@ void Portada::Textos()
     });
     M.Ficheros.closeAll();
     NombraControles();
+    host::setAnswerWords({ M.TXT_Si, M.TXT_No });
 }
 
 } // namespace mainscreen

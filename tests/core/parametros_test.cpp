@@ -132,6 +132,15 @@ TEST_F(Parametros, RecordsComeOutOneToALineWithBareFields)
         Cabecera + "A,s,e,-a\r\nB,s,e,-b\r\nC,s,e,-c\r\n" + Cierre);
 }
 
+TEST_F(Parametros, ANameWithACommaStaysOneField)
+{
+    const QByteArray uno = ConCambiados(
+        Cabecera + "X,s,e,-a\r\nB,s,e,-b\r\n" + Cierre, { u"X"_s, u"Uno, dos"_s, u"Emu, tres"_s, u"-x"_s });
+    EXPECT_EQ(uno, Cabecera + "X,\"Uno, dos\",\"Emu, tres\",-x\r\nB,s,e,-b\r\n" + Cierre);
+    EXPECT_EQ(ConCambiados(uno, { u"B"_s, u"s"_s, u"e"_s, u"-c"_s }),
+        Cabecera + "X,\"Uno, dos\",\"Emu, tres\",-x\r\nB,s,e,-c\r\n" + Cierre);
+}
+
 TEST_F(Parametros, ACommaInTheParametersMovesTheirRestIntoTheNextField)
 {
     EXPECT_EQ(

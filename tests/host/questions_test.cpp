@@ -85,6 +85,20 @@ TEST_F(QuestionsTest, YesOrNoIsYes_ByItsButton)
     EXPECT_TRUE(m_questions.askYesNo(u"T"_s, u"x"_s));
 }
 
+TEST_F(QuestionsTest, YesAndNoHaveTheWordsThatWereSet_OrElseTheToolkits)
+{
+    QStringList words;
+    const auto read = [&words](QMessageBox *box) {
+        words << box->button(QMessageBox::Yes)->text() << box->button(QMessageBox::No)->text();
+        box->close();
+    };
+    whenUp<QMessageBox>(read);
+    setAnswerWords({ u"Ja"_s, QString() });
+    m_questions.askYesNo(u"T"_s, u"x"_s);
+    setAnswerWords({});
+    EXPECT_EQ(words, QStringList({ u"Ja"_s, u"&No"_s }));
+}
+
 TEST_F(QuestionsTest, MarkupInTheOverwriteBoxIsText)
 {
     whenUp<QMessageBox>([](QMessageBox *box) {

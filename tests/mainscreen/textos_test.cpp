@@ -2,6 +2,8 @@
 
 #include "mundotest.h"
 
+#include "host/desktopquestions.h"
+
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -30,6 +32,13 @@ TEST_F(TextosTest, LabelsAndMenuEntriesTakeTheirTextsDirectly)
     EXPECT_EQ(portada->Menu_Describir->Caption(), u"&Uno"_s);
     EXPECT_EQ(portada->Menu_Borrar->Caption(), u"&Dos"_s);
     EXPECT_EQ(portada->Menu_Parametros->Caption(), u"T&res"_s);
+}
+
+TEST_F(TextosTest, QuestionsAreAnsweredInTheLanguage)
+{
+    startWith(languageLines() << languageLine(u"TXT_Si"_s, u"Oui"_s) << languageLine(u"TXT_No"_s, u"Non"_s));
+    EXPECT_EQ(host::answerWords().yes, u"Oui"_s);
+    EXPECT_EQ(host::answerWords().no, u"Non"_s);
 }
 
 TEST_F(TextosTest, MissingKeysLeaveTheWordsOfTheDesign)

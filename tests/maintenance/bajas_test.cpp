@@ -244,6 +244,16 @@ TEST_F(BajasTest, TheOnlyEmulatorLeavesAnEmptySystem)
     EXPECT_EQ(M->UltimoEmulador, u"696969"_s);
 }
 
+TEST_F(BajasTest, TheOnlyEmulatorTakesTheFirstSlotOfTheRomLines_WhereNoneWasInUse)
+{
+    begin(Top + Beta + Gamma + End, 0, 0);
+    M->IndiceRutas = 0;
+    M->RutasROM(1) = u"ROM=/OLD/"_s;
+    removeEmulator();
+    EXPECT_EQ(M->IndiceRutas, 1);
+    EXPECT_EQ(M->RutasROM(1), QString());
+}
+
 TEST_F(BajasTest, TheNextEmulatorIsListed_AfterTheOnlyOneOfTheSameDirectoryHasGone)
 {
     const QByteArray delta = system("Delta", block("D1", u"b/"_s));

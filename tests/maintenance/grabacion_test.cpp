@@ -406,6 +406,24 @@ TEST_F(GrabacionTest, APairThatIsntSelectedBecomesSo_AndKeepsTheOldListWhereOnly
     EXPECT_EQ(M->Combo2Listo, 1);
 }
 
+TEST_F(GrabacionTest, APairThatIsntSelected_IsListedWithItsCapture_WhereItsCaptureDirectoryChanged)
+{
+    catalogue = Top + configured("NES", "http://nes", emulator("N1", { .roms = at(u"a/"_s) }))
+        + configured("Own", "http://own", emulator("O1", { .roms = at(u"a/"_s), .captures = at(u"red/"_s) }))
+        + End;
+    begin();
+    files.writeSize(u"a/late.bin"_s, 1024);
+    M->RutasROM(2) = u"ROM=/ELSEWHERE/"_s;
+    configurePair(u"Own"_s, u"O1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla3"_s, files.path(u"blue"_s));
+        saveWell(form);
+    });
+    EXPECT_EQ(systems().Text(), u"Own"_s);
+    EXPECT_TRUE(listed().contains(u"late.bin"_s));
+    list().SetText(u"one.bin"_s);
+    EXPECT_EQ(capture(), QColor(Qt::blue));
+}
+
 TEST_F(GrabacionTest, OfTwoEmulatorsOfOneNameTheFirstInTheFileChanges_WithTheAddressOfTheRightSystem)
 {
     database.replace("+O1\r\nWEB2=http://o1\r\n+N1\r\nWEB2=http://n1",
