@@ -93,9 +93,9 @@ TEST_F(QuestionsTest, YesAndNoHaveTheWordsThatWereSet_OrElseTheToolkits)
         box->close();
     };
     whenUp<QMessageBox>(read);
-    setAnswerWords({ u"Ja"_s, QString() });
+    host::setAnswerWords({ u"Ja"_s, QString() });
     m_questions.askYesNo(u"T"_s, u"x"_s);
-    setAnswerWords({});
+    host::setAnswerWords({});
     EXPECT_EQ(words, QStringList({ u"Ja"_s, u"&No"_s }));
 }
 
