@@ -315,8 +315,8 @@ TEST_F(StartedProgram, AFileThatGoesMissingLaterIsNoFaultOfTheStart)
     const host::WindowId main = acceptFirstRun();
     ASSERT_NE(main, 0u);
     atRest(main);
-    ASSERT_TRUE(QFile::remove(directory() + u"/Zembro.sye"_s));
-    click(main, 383, 305); // the database
+    ASSERT_TRUE(QFile::remove(directory() + u"/Zembro.cfg"_s));
+    click(main, 391, 359); // the way out, which saves
     const host::WindowId box = waitForWindow([] { return host::findWindow(u"ERROR"_s); });
     ASSERT_NE(box, 0u);
     host::closeWindow(box);
@@ -324,7 +324,7 @@ TEST_F(StartedProgram, AFileThatGoesMissingLaterIsNoFaultOfTheStart)
     EXPECT_EQ(m_program.exitCode(), 1);
     const QString said = QString::fromUtf8(m_program.readAllStandardError());
     EXPECT_TRUE(said.contains(u"ERROR: An unknown error has occurred. (ERR53)\n"_s)) << said.toStdString();
-    EXPECT_TRUE(said.contains(directory() + u"/Zembro.sye\n"_s)) << said.toStdString();
+    EXPECT_TRUE(said.contains(directory() + u"/Zembro.cfg\n"_s)) << said.toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(OutOfAZipWithParametersAndPlain, Journey,

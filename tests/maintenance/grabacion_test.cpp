@@ -409,18 +409,19 @@ TEST_F(GrabacionTest, APairThatIsntSelectedBecomesSo_AndKeepsTheOldListWhereOnly
 TEST_F(GrabacionTest, APairThatIsntSelected_IsListedWithItsCapture_WhereItsCaptureDirectoryChanged)
 {
     catalogue = Top + configured("NES", "http://nes", emulator("N1", { .roms = at(u"a/"_s) }))
-        + configured("Own", "http://own", emulator("O1", { .roms = at(u"a/"_s), .captures = at(u"red/"_s) }))
+        + configured("Own", "http://own", emulator("O1", { .roms = at(u"b/"_s), .captures = at(u"red/"_s) }))
         + End;
+    files.writeSize(u"b/late.bin"_s, 1024);
+    files.writeGif(u"blue/late.gif"_s, Qt::blue);
     begin();
-    files.writeSize(u"a/late.bin"_s, 1024);
-    M->RutasROM(2) = u"ROM=/ELSEWHERE/"_s;
+    ASSERT_THAT(listed(), ElementsAre(u"one.bin"_s));
     configurePair(u"Own"_s, u"O1"_s, [this](forms::Form &form) {
         write(form, u"Casilla3"_s, files.path(u"blue"_s));
         saveWell(form);
     });
     EXPECT_EQ(systems().Text(), u"Own"_s);
-    EXPECT_TRUE(listed().contains(u"late.bin"_s));
-    list().SetText(u"one.bin"_s);
+    ASSERT_TRUE(listed().contains(u"late.bin"_s));
+    list().SetText(u"late.bin"_s);
     EXPECT_EQ(capture(), QColor(Qt::blue));
 }
 
