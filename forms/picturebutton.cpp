@@ -4,6 +4,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QApplication>
 #include <QPainter>
 #include <QPointer>
 
@@ -76,7 +77,8 @@ void PictureButton::paintEvent(QPaintEvent *)
     const QString &name = ShowsPressed() ? m_pressedArtwork : m_artwork;
     QPainter painter(this);
     painter.drawPixmap(0, 0, artwork(name, size(), devicePixelRatioF()));
-    if (hasFocus()) {
+    // Not hasFocus, which is also true where another widget takes the focus for this one.
+    if (QApplication::focusWidget() == this) {
         painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }

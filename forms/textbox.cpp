@@ -41,6 +41,8 @@ bool TextBox::fits(const QString &text) const
 TextArea::TextArea(QWidget *parent)
     : Control(parent)
 {
+    // On a dense screen the frame's line is thinner than the frame, and what lies below would show.
+    setAutoFillBackground(true);
     viewport()->setMouseTracking(true);
 }
 

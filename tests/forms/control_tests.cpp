@@ -286,6 +286,11 @@ TEST_F(Controls, ATextAreasColours_AreThoseOfItsPaper)
     EXPECT_EQ(text.palette().color(QPalette::Text), QColor(Qt::yellow));
 }
 
+TEST_F(Controls, ATextAreaIsPaintedToItsEdge)
+{
+    EXPECT_TRUE(text.autoFillBackground());
+}
+
 TEST_F(Controls, OfATextSetTooLongForItsBox_TheBeginningShows)
 {
     box.SetText(QString(500, u'x'));
