@@ -13,9 +13,48 @@ if(ZEMBROLIX_SANITIZE)
     target_link_options(zembrolix_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
-# One folder of the house, or a part of one: a static library that sees only what it links.
+# The headers that nearly every file includes, compiled once. A file still includes what it uses: the release is built
+# without them.
+set(precompiled_files
+    <algorithm> <array> <functional> <memory> <optional> <string> <utility> <vector>
+    <QByteArray> <QDir> <QFile> <QFileInfo> <QHash> <QPointer> <QSet> <QString> <QStringList> <QTimer>)
+set(precompiled_screens ${precompiled_files}
+    <QAccessible> <QApplication> <QImage> <QKeyEvent> <QMouseEvent> <QPainter> <QPixmap> <QWidget>)
+set(precompiled_tests <gmock/gmock.h> <QTest>)
+
+# Compiles a set of headers for the targets that reuse it; they are compiled with the same options.
+function(zembrolix_precompiled name)
+    cmake_parse_arguments(arg "" "" "HEADERS;LINK;OPTIONS" ${ARGN})
+    if(NOT ZEMBROLIX_PRECOMPILED)
+        return()
+    endif()
+    set(empty ${PROJECT_BINARY_DIR}/precompiled.cpp)
+    file(CONFIGURE OUTPUT ${empty} CONTENT "")
+    add_library(${name} OBJECT ${empty})
+    target_link_libraries(${name} PRIVATE zembrolix_flags ${arg_LINK})
+    target_compile_options(${name} PRIVATE ${arg_OPTIONS})
+    target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
+endfunction()
+
+# Lets a target use what zembrolix_precompiled has made.
+function(zembrolix_reuse_precompiled target name)
+    if(ZEMBROLIX_PRECOMPILED)
+        target_precompile_headers(${target} REUSE_FROM ${name})
+    endif()
+endfunction()
+
+zembrolix_precompiled(precompiled_files HEADERS ${precompiled_files} LINK Qt6::Core)
+zembrolix_precompiled(precompiled_screens HEADERS ${precompiled_screens} LINK Qt6::Widgets)
+
+# One folder of the house, or a part of one: a static library that sees only what it links. SCREENS where it draws,
+# PLAIN where it does without the toolkit.
 function(zembrolix_library name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(arg "SCREENS;PLAIN" "" "SOURCES;LINK" ${ARGN})
     add_library(${name} STATIC ${arg_SOURCES})
     target_link_libraries(${name} PUBLIC zembrolix_flags ${arg_LINK})
+    if(arg_SCREENS)
+        zembrolix_reuse_precompiled(${name} precompiled_screens)
+    elseif(NOT arg_PLAIN)
+        zembrolix_reuse_precompiled(${name} precompiled_files)
+    endif()
 endfunction()

@@ -1,5 +1,6 @@
 #include "dialogs/examinar.h"
 
+#include "dialogs/coloca.h"
 #include "dialogs/etiqueta.h"
 
 #include "host/failure.h"
@@ -16,13 +17,6 @@ namespace dialogs {
 namespace {
 
 const QString Patron = u"*.exe;*.com;*.bat"_s; // of program files, besides those that the user may execute
-
-template <class Control> Control *coloca(Control *control, const QString &nombre, const forms::Place &lugar)
-{
-    control->setObjectName(nombre);
-    forms::move(*control, lugar);
-    return control;
-}
 
 } // namespace
 

@@ -1,9 +1,9 @@
 #include "forms/image.h"
 
+#include "forms/focusframe.h"
 #include "forms/pictures.h"
 
 #include <QGuiApplication>
-#include <QApplication>
 #include <QPainter>
 #include <QPointer>
 
@@ -53,11 +53,8 @@ void Image::paintEvent(QPaintEvent *)
         painter.setPen(Qt::black);
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
-    // Not hasFocus, which is also true where another widget takes the focus for this one.
-    if (QApplication::focusWidget() == this && (focusPolicy() & Qt::TabFocus)) {
-        painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
+    if (focusPolicy() & Qt::TabFocus)
+        drawFocusFrame(painter, *this);
 }
 
 bool Image::isSpace(const QKeyEvent &event) const

@@ -1,10 +1,10 @@
 #include "forms/picturebutton.h"
 
+#include "forms/focusframe.h"
 #include "forms/pictures.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QApplication>
 #include <QPainter>
 #include <QPointer>
 
@@ -77,11 +77,7 @@ void PictureButton::paintEvent(QPaintEvent *)
     const QString &name = ShowsPressed() ? m_pressedArtwork : m_artwork;
     QPainter painter(this);
     painter.drawPixmap(0, 0, artwork(name, size(), devicePixelRatioF()));
-    // Not hasFocus, which is also true where another widget takes the focus for this one.
-    if (QApplication::focusWidget() == this) {
-        painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
+    drawFocusFrame(painter, *this);
 }
 
 void PictureButton::mousePressEvent(QMouseEvent *event)

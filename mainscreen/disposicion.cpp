@@ -4,6 +4,8 @@
 
 #include "mainscreen/portada.h"
 
+#include "dialogs/coloca.h"
+
 using namespace Qt::StringLiterals;
 
 namespace mainscreen {
@@ -172,17 +174,9 @@ void montaBoton(Portada &portada, const FilaBoton &fila)
     portada.*fila.control = boton;
 }
 
-template <typename ControlDeForma>
-ControlDeForma *coloca(ControlDeForma *control, const QString &nombre, const forms::Place &lugar)
-{
-    control->setObjectName(nombre);
-    forms::move(*control, lugar);
-    return control;
-}
-
 void montaCasillaDB(Portada &portada)
 {
-    portada.Check1 = coloca(new forms::CheckBox(&portada), u"Check1"_s, { 5640, 4460, 200, 255 });
+    portada.Check1 = dialogs::coloca(new forms::CheckBox(&portada), u"Check1"_s, { 5640, 4460, 200, 255 });
     portada.Check1->setText(u"DB"_s);
     portada.Check1->setFont(forms::arial(6, true));
     QPalette colores = portada.Check1->palette();
@@ -195,17 +189,17 @@ void montaCasillaDB(Portada &portada)
 
 void montaSeleccionYLista(Portada &portada)
 {
-    portada.Lista1 = coloca(new forms::ListBox(&portada), u"Lista1"_s, { 120, 1320, 2295, 2580 });
-    portada.Combo1 = coloca(new forms::ComboBox(&portada), u"Combo1"_s, { 480, 4200, 1935, 330 });
-    portada.Combo2 = coloca(new forms::ComboBox(&portada), u"Combo2"_s, { 480, 4560, 1935, 330 });
+    portada.Lista1 = dialogs::coloca(new forms::ListBox(&portada), u"Lista1"_s, { 120, 1320, 2295, 2580 });
+    portada.Combo1 = dialogs::coloca(new forms::ComboBox(&portada), u"Combo1"_s, { 480, 4200, 1935, 330 });
+    portada.Combo2 = dialogs::coloca(new forms::ComboBox(&portada), u"Combo2"_s, { 480, 4560, 1935, 330 });
     montaCasillaDB(portada);
 
-    portada.File1 = coloca(new forms::ListBox(&portada), u"File1"_s, {});
-    portada.Dir1 = coloca(new forms::ListBox(&portada), u"Dir1"_s, {});
+    portada.File1 = dialogs::coloca(new forms::ListBox(&portada), u"File1"_s, {});
+    portada.Dir1 = dialogs::coloca(new forms::ListBox(&portada), u"Dir1"_s, {});
     portada.File1->hide();
     portada.Dir1->hide();
 
-    portada.Editor = coloca(new forms::TextArea(&portada), u"Editor"_s, { 120, 1080, 5895, 4035 });
+    portada.Editor = dialogs::coloca(new forms::TextArea(&portada), u"Editor"_s, { 120, 1080, 5895, 4035 });
     portada.Editor->hide();
 }
 
@@ -240,8 +234,10 @@ void Disposicion::Monta(Portada &portada)
     portada.setFont(forms::arial(8.25));
 
     const QColor verdeMarco(0, 128, 128);
-    portada.Shape1 = coloca(new forms::Shape(verdeMarco, &portada), u"Shape1"_s, { 3100, 4485, 2415, 1095 });
-    portada.Shape2 = coloca(new forms::Shape(verdeMarco, &portada), u"Shape2"_s, { 150, 4980, 2280, 600 });
+    portada.Shape1 =
+        dialogs::coloca(new forms::Shape(verdeMarco, &portada), u"Shape1"_s, { 3100, 4485, 2415, 1095 });
+    portada.Shape2 =
+        dialogs::coloca(new forms::Shape(verdeMarco, &portada), u"Shape2"_s, { 150, 4980, 2280, 600 });
     for (const FilaImagen &fila : Imagenes)
         montaImagen(portada, fila);
     montaSeleccionYLista(portada);

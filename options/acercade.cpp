@@ -3,6 +3,7 @@
 #include "options/creditos.h"
 #include "options/montaje.h"
 
+#include "dialogs/coloca.h"
 #include "dialogs/etiqueta.h"
 
 #include "forms/shape.h"
@@ -40,9 +41,7 @@ void AcercaDe::Monta()
     using namespace montaje;
 
     SetCaption(u"Acerca de..."_s);
-    Logotipo = new forms::Image(this);
-    Logotipo->setObjectName(u"Logotipo"_s);
-    forms::move(*Logotipo, { 120, 120, 1440, 1260 });
+    Logotipo = dialogs::coloca(new forms::Image(this), u"Logotipo"_s, { 120, 120, 1440, 1260 });
     Logotipo->SetArtwork(u"Logotipo"_s);
 
     dialogs::etiqueta(this, u"Label1"_s, creditos::Programa.toString(), { 1680, 180, 2100, 375 }, Qt::white,
@@ -58,9 +57,7 @@ void AcercaDe::MontaDirecciones()
 
     const QColor verdeMarco(0, 128, 128);
     constexpr int Margen = 270;
-    auto *marco = new forms::Shape(verdeMarco, this);
-    marco->setObjectName(u"Shape1"_s);
-    forms::move(*marco, { 120, 1530, Ancho - 240, 1740 });
+    dialogs::coloca(new forms::Shape(verdeMarco, this), u"Shape1"_s, { 120, 1530, Ancho - 240, 1740 });
 
     const auto rotulo = [this](const QString &nombre, int arriba, const QString &texto) {
         return PonEtiqueta(*this, nombre, { Margen, arriba, 3360, 210 }, texto, VerdeClaro);

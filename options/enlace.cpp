@@ -1,5 +1,7 @@
 #include "options/enlace.h"
 
+#include "forms/focusframe.h"
+
 #include "host/tools.h"
 
 #include <QPainter>
@@ -44,11 +46,8 @@ void Enlace::Suelta()
 void Enlace::paintEvent(QPaintEvent *event)
 {
     Label::paintEvent(event);
-    if (!hasFocus())
-        return;
     QPainter pintor(this);
-    pintor.setPen(QPen(Qt::white, 1, Qt::DotLine));
-    pintor.drawRect(rect().adjusted(0, 0, -1, -1));
+    forms::drawFocusFrame(pintor, *this);
 }
 
 void Enlace::keyPressEvent(QKeyEvent *event)

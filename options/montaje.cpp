@@ -1,5 +1,6 @@
 #include "options/montaje.h"
 
+#include "dialogs/coloca.h"
 #include "dialogs/etiqueta.h"
 
 #include "forms/shape.h"
@@ -9,12 +10,10 @@ namespace options::montaje {
 namespace {
 
 template <typename Control>
-Control *coloca(Control *control, const QString &nombre, const forms::Place &lugar)
+Control *conLetra(Control *control, const QString &nombre, const forms::Place &lugar)
 {
-    control->setObjectName(nombre);
     control->setFont(forms::arial(8.25));
-    forms::move(*control, lugar);
-    return control;
+    return dialogs::coloca(control, nombre, lugar);
 }
 
 } // namespace
@@ -34,7 +33,7 @@ forms::Label *PonEtiqueta(forms::Form &forma, const QString &nombre, const forms
 forms::CommandButton *PonBoton(
     forms::Form &forma, const QString &nombre, const forms::Place &lugar, const QString &texto)
 {
-    auto *boton = coloca(new forms::CommandButton(&forma), nombre, lugar);
+    auto *boton = conLetra(new forms::CommandButton(&forma), nombre, lugar);
     boton->SetCaption(texto);
     return boton;
 }
@@ -49,14 +48,14 @@ forms::PictureButton *PonPareja(
 
 forms::ComboBox *PonCombo(forms::Form &forma, const QString &nombre, const forms::Place &lugar)
 {
-    return coloca(new forms::ComboBox(&forma, false), nombre, lugar);
+    return conLetra(new forms::ComboBox(&forma, false), nombre, lugar);
 }
 
 void PonSeparador(forms::Form &forma, const QString &nombre, int arriba, int ancho)
 {
     constexpr int Margen = 120;
     const QColor verdeMarco(0, 128, 128);
-    coloca(new forms::Shape(verdeMarco, &forma), nombre,
+    dialogs::coloca(new forms::Shape(verdeMarco, &forma), nombre,
         { Margen, arriba, ancho - 2 * Margen, forms::TwipsPerPixel });
 }
 

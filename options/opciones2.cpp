@@ -4,6 +4,7 @@
 
 #include "core/ajustes.h"
 
+#include "dialogs/coloca.h"
 #include "dialogs/etiqueta.h"
 
 #include "mainscreen/portada.h"
@@ -16,14 +17,6 @@ namespace {
 
 constexpr int Ancho = 2655; // client area, twips
 constexpr int Alto = 5685;
-
-template <typename Control> Control *pon(forms::Form &forma, const QString &nombre, const forms::Place &lugar)
-{
-    auto *control = new Control(&forma);
-    control->setObjectName(nombre);
-    forms::move(*control, lugar);
-    return control;
-}
 
 } // namespace
 
@@ -58,18 +51,18 @@ void Opciones2::MontaAjustes()
     TXT_Guardar = PonEtiqueta(*this, u"TXT_Guardar"_s, { 120, 120, 2370, 690 },
         u"¿Quieres comenzar siempre el programa con el último emulador  y sistema que hayas escogido?"_s,
         CianClaro);
-    Opcion1 = pon<forms::OptionButton>(*this, u"Opcion1"_s, { 600, 840, 255, 255 });
+    Opcion1 = dialogs::coloca(new forms::OptionButton(this), u"Opcion1"_s, { 600, 840, 255, 255 });
     TXT_Si = PonEtiqueta(*this, u"TXT_Si"_s, { 860, 870, 135, 195 }, u"Si"_s, VerdeClaro);
-    Opcion2 = pon<forms::OptionButton>(*this, u"Opcion2"_s, { 1320, 840, 255, 255 });
+    Opcion2 = dialogs::coloca(new forms::OptionButton(this), u"Opcion2"_s, { 1320, 840, 255, 255 });
     TXT_No = PonEtiqueta(*this, u"TXT_No"_s, { 1575, 870, 210, 195 }, u"No"_s, VerdeClaro);
     TXT_GuardarAviso = PonEtiqueta(*this, u"TXT_GuardarAviso"_s, { 120, 1200, 2175, 495 },
         u"(Escoge NO si quieres usar el programa desde CD-ROM)"_s, CianClaro);
     TXT_Filtros = PonEtiqueta(*this, u"TXT_Filtros"_s, { 120, 1920, 2535, 495 },
         u"Directorios para ser filtrados, en emuladores que funcionan x DIRs"_s, CianClaro);
-    CajaTexto1 = pon<forms::TextBox>(*this, u"CajaTexto1"_s, { 120, 2400, 2355, 285 });
+    CajaTexto1 = dialogs::coloca(new forms::TextBox(this), u"CajaTexto1"_s, { 120, 2400, 2355, 285 });
     TXT_FinDOS = PonEtiqueta(*this, u"TXT_FinDOS"_s, { 120, 3000, 2175, 615 },
         u"¿Que mensaje pone en la ventana del DOS al acabar un programa?"_s, CianClaro);
-    CajaTexto2 = pon<forms::TextBox>(*this, u"CajaTexto2"_s, { 120, 3720, 2415, 285 });
+    CajaTexto2 = dialogs::coloca(new forms::TextBox(this), u"CajaTexto2"_s, { 120, 3720, 2415, 285 });
     CajaTexto2->SetText(u"Finalizado"_s);
     TXT_FinDOSAviso = PonEtiqueta(*this, u"TXT_FinDOSAviso"_s, { 120, 4080, 2535, 660 },
         u"(Si no pones este mensaje en el idioma de tu windows, la ventana del DOS no se cerrará)"_s,

@@ -286,9 +286,20 @@ TEST_F(Controls, ATextAreasColours_AreThoseOfItsPaper)
     EXPECT_EQ(text.palette().color(QPalette::Text), QColor(Qt::yellow));
 }
 
-TEST_F(Controls, ATextAreaIsPaintedToItsEdge)
+TEST_F(Controls, ATextAreaIsPaintedToItsEdge_OnADenseScreenToo)
 {
-    EXPECT_TRUE(text.autoFillBackground());
+    const QColor below(1, 254, 3);
+    form.SetBackColour(below);
+    QPixmap picture(form.size() * 2);
+    picture.setDevicePixelRatio(2);
+    form.render(&picture);
+    const QImage image = picture.toImage();
+    const QRect area(text.geometry().topLeft() * 2, text.size() * 2);
+    for (int x = area.left(); x <= area.right(); ++x)
+        ASSERT_NE(image.pixelColor(x, area.top() + 1), below) << x;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        ASSERT_NE(image.pixelColor(area.left() + 1, y), below) << y;
+    EXPECT_EQ(image.pixelColor(area.left() - 1, area.top()), below);
 }
 
 TEST_F(Controls, OfATextSetTooLongForItsBox_TheBeginningShows)

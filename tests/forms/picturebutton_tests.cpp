@@ -177,6 +177,27 @@ TEST_F(PicturePairs, Tab_BringsTheFocus)
     EXPECT_TRUE(pair.hasFocus());
 }
 
+TEST_F(PicturePairs, DotsFrameTheOneThatHasTheFocus_NotOneWhoseFocusAnotherTakes)
+{
+    drive::show(form);
+    const auto framed = [this] {
+        const QImage picture = pair.grab().toImage();
+        for (int x = 0; x < 6; ++x) { // over the red half
+            if (picture.pixelColor(x, 0) == QColor(Qt::white))
+                return true;
+        }
+        return false;
+    };
+    neighbour.setFocus();
+    EXPECT_FALSE(framed());
+    pair.setFocus();
+    EXPECT_TRUE(framed());
+    pair.setFocusProxy(&neighbour);
+    neighbour.setFocus();
+    ASSERT_TRUE(pair.hasFocus());
+    EXPECT_FALSE(framed());
+}
+
 TEST_F(PicturePairs, Space_IsPressAndRelease)
 {
     drive::show(form);

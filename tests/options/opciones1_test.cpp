@@ -60,23 +60,18 @@ TEST_F(Opciones1Test, ControlsStandInTheirPlaces)
 {
     begin();
     options([this](forms::Form &form) {
-        const struct {
-            QString name;
-            QRect place;
-        } controls[] = {
-            { u"TXT_Idioma"_s, designPlace(120, 1080, 2415, 255) },
-            { u"Combo1"_s, designPlace(120, 480, 2415, 315) },
-            { u"Combo2"_s, designPlace(120, 1320, 2415, 315) },
-            { u"TXT_InfoLNG"_s, designPlace(120, 1800, 2400, 210) },
-            { u"TXT_EditarLNG"_s, designPlace(120, 2280, 2415, 495) },
-            { u"Boton2"_s, designPlace(120, 2760, 495, 315) },
-            { u"Boton_CFGAv"_s, designPlace(120, 3360, 2415, 255) },
-            { u"Disco1"_s, designPlace(120, 3840, 435, 435) },
-            { u"Flecha2"_s, designPlace(800, 3880, 615, 375) },
-        };
-        for (const auto &expected : controls)
-            EXPECT_EQ(controlOf<QWidget>(form, expected.name).geometry(), expected.place)
-                << expected.name.toStdString();
+        expectPlaces(form,
+            {
+                { u"TXT_Idioma"_s, designPlace(120, 1080, 2415, 255) },
+                { u"Combo1"_s, designPlace(120, 480, 2415, 315) },
+                { u"Combo2"_s, designPlace(120, 1320, 2415, 315) },
+                { u"TXT_InfoLNG"_s, designPlace(120, 1800, 2400, 210) },
+                { u"TXT_EditarLNG"_s, designPlace(120, 2280, 2415, 495) },
+                { u"Boton2"_s, designPlace(120, 2760, 495, 315) },
+                { u"Boton_CFGAv"_s, designPlace(120, 3360, 2415, 255) },
+                { u"Disco1"_s, designPlace(120, 3840, 435, 435) },
+                { u"Flecha2"_s, designPlace(800, 3880, 615, 375) },
+            });
         for (const QString &line : { u"Line1"_s, u"Linea1"_s, u"Linea3"_s })
             EXPECT_EQ(controlOf<QWidget>(form, line).height(), 1);
         EXPECT_EQ(form.size(), QSize(177, 308));

@@ -66,21 +66,16 @@ private:
 TEST_F(Opciones2Test, ControlsStandInTheirPlaces)
 {
     advanced([this](forms::Form &form) {
-        const struct {
-            QString name;
-            QRect place;
-        } controls[] = {
-            { u"TXT_Guardar"_s, designPlace(120, 120, 2370, 690) },
-            { u"Opcion1"_s, designPlace(600, 840, 255, 255) },
-            { u"Opcion2"_s, designPlace(1320, 840, 255, 255) },
-            { u"CajaTexto1"_s, designPlace(120, 2400, 2355, 285) },
-            { u"CajaTexto2"_s, designPlace(120, 3720, 2415, 285) },
-            { u"Disco1"_s, designPlace(120, 4900, 435, 435) },
-            { u"Flecha2"_s, designPlace(750, 4950, 615, 375) },
-        };
-        for (const auto &expected : controls)
-            EXPECT_EQ(controlOf<QWidget>(form, expected.name).geometry(), expected.place)
-                << expected.name.toStdString();
+        expectPlaces(form,
+            {
+                { u"TXT_Guardar"_s, designPlace(120, 120, 2370, 690) },
+                { u"Opcion1"_s, designPlace(600, 840, 255, 255) },
+                { u"Opcion2"_s, designPlace(1320, 840, 255, 255) },
+                { u"CajaTexto1"_s, designPlace(120, 2400, 2355, 285) },
+                { u"CajaTexto2"_s, designPlace(120, 3720, 2415, 285) },
+                { u"Disco1"_s, designPlace(120, 4900, 435, 435) },
+                { u"Flecha2"_s, designPlace(750, 4950, 615, 375) },
+            });
         for (const QString &line : { u"Line1"_s, u"Linea3"_s })
             EXPECT_EQ(controlOf<QWidget>(form, line).height(), 1);
         EXPECT_EQ(form.size(), QSize(177, 379));

@@ -132,6 +132,13 @@ QStringList OpcionesTest::textsOf(const forms::Form &form)
     return texts;
 }
 
+void OpcionesTest::expectPlaces(const forms::Form &form, const std::vector<Stands> &controls)
+{
+    for (const Stands &expected : controls)
+        EXPECT_EQ(controlOf<QWidget>(form, expected.name).geometry(), expected.place)
+            << expected.name.toStdString();
+}
+
 void OpcionesTest::expectTiled(forms::Form &form)
 {
     constexpr int Bare = 7; // no control lies so far to the left; the word under the arrow grows

@@ -49,6 +49,13 @@ protected:
     // Every text that a form shows, with the names for screen readers, by control.
     static QStringList textsOf(const forms::Form &form);
 
+    // Where controls stand, in pixels (designPlace).
+    struct Stands {
+        QString name;
+        QRect place;
+    };
+    static void expectPlaces(const forms::Form &form, const std::vector<Stands> &controls);
+
     // The form has the main screen's tile in rows and columns behind its controls.
     void expectTiled(forms::Form &form);
 

@@ -122,17 +122,12 @@ TEST_F(UtilidadesTest, ControlsStandInTheirPlacesWithTheWordsOfTheLanguage)
 {
     startAt(Zeta, 0);
     utilities([this](forms::Form &form) {
-        const struct {
-            QString name;
-            QRect place;
-        } controls[] = {
-            { u"TXT_Convertir"_s, designPlace(120, 120, 1935, 615) },
-            { u"Boton1"_s, designPlace(120, 840, 495, 315) },
-            { u"Flecha2"_s, designPlace(200, 1500, 615, 375) },
-        };
-        for (const auto &expected : controls)
-            EXPECT_EQ(controlOf<QWidget>(form, expected.name).geometry(), expected.place)
-                << expected.name.toStdString();
+        expectPlaces(form,
+            {
+                { u"TXT_Convertir"_s, designPlace(120, 120, 1935, 615) },
+                { u"Boton1"_s, designPlace(120, 840, 495, 315) },
+                { u"Flecha2"_s, designPlace(200, 1500, 615, 375) },
+            });
         EXPECT_EQ(controlOf<QWidget>(form, u"Linea1"_s).height(), 1);
         EXPECT_EQ(form.size(), QSize(142, 148));
         EXPECT_EQ(form.Control(u"Flecha1"_s), form.Control(u"Flecha2"_s));
