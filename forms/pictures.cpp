@@ -1,5 +1,6 @@
 #include "forms/pictures.h"
 
+#include "forms/rasters.h"
 #include "forms/svg.h"
 
 #include "host/failure.h"
@@ -9,6 +10,8 @@
 #include <QFile>
 #include <QHash>
 #include <QImage>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -46,12 +49,10 @@ QPixmap draw(const QString &name, const QSize &size, qreal devicePixelRatio)
 
 QPixmap LoadPicture(const QString &path)
 {
-    constexpr qint64 MostBytes = 64 << 20; // no capture is larger, and a huge file would hold up the screen
-    QPixmap picture;
-    const QByteArray bytes = host::readBytes(path, MostBytes + 1);
-    if (bytes.size() > MostBytes || !picture.loadFromData(bytes))
+    QImage image = decodeRaster(host::readBytes(path, MostRasterBytes + 1));
+    if (image.isNull())
         throw host::Failure(host::InvalidPicture, u"load a picture"_s, path);
-    return picture;
+    return QPixmap::fromImage(std::move(image));
 }
 
 QPixmap artwork(const QString &name, const QSize &size, qreal devicePixelRatio)

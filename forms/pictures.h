@@ -7,8 +7,8 @@
 
 namespace forms {
 
-// A picture file, found in any case. Fails with 53 if it is missing, 481 if it is no picture that can be
-// read, or one of more than 64 MB.
+// A picture file, found in any case, read as decodeRaster tells. Fails with 53 if it is missing, 75 if it is
+// no plain file, 481 if it is no picture that can be read or one beyond the limits.
 QPixmap LoadPicture(const QString &path);
 
 // The artwork of this name (":/artwork/<name>.svg") at the size given in design pixels, drawn for the device

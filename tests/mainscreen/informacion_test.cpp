@@ -2,9 +2,12 @@
 
 #include "mundotest.h"
 
+#include "tests/support/opens.h"
 #include "tests/support/witness.h"
 
 #include "host/paths.h"
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
@@ -296,6 +299,39 @@ TEST_F(InformacionTest, UnreadableCaptureIsBlack)
     startWith(u"0"_s);
     EXPECT_EQ(captureOf(0), QColor(Qt::black));
     EXPECT_EQ(M->Lista1Cambio, 1);
+}
+
+TEST_F(InformacionTest, CaptureThatIsADrawingIsBlackAndOpensNothing)
+{
+    files.writeSize(u"r/a.bin"_s, 1024);
+    files.writeGif(u"named.gif"_s, Qt::red);
+    const OpensOf named(files.path(u"named.gif"_s));
+    files.write(u"c/a.gif"_s,
+        "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' width='9' "
+        "height='9'>"
+        "<rect width='9' height='9' fill='red'/><image width='9' height='9' xlink:href='"
+            + files.path(u"named.gif"_s).toUtf8() + "'/></svg>");
+    startWith(u"0"_s);
+    EXPECT_EQ(capture(), QColor(Qt::black));
+    EXPECT_EQ(captureOf(0), QColor(Qt::black));
+    EXPECT_EQ(M->Lista1Cambio, 1);
+    EXPECT_EQ(named.count(), 0);
+}
+
+TEST_F(InformacionTest, CaptureThatIsNoPlainFileIsBlack)
+{
+    files.writeSize(u"r/a.bin"_s, 1024);
+    files.writeSize(u"r/b.bin"_s, 1024);
+    files.writeSize(u"r/c.bin"_s, 1024);
+    files.makeDirectory(u"c/c.gif"_s);
+    ASSERT_EQ(mkfifo(files.path(u"c/a.gif"_s).toUtf8().constData(), 0600), 0);
+    ASSERT_EQ(symlink("/dev/zero", files.path(u"c/b.gif"_s).toUtf8().constData()), 0);
+    startWith(u"0"_s);
+    ASSERT_EQ(list().ListCount(), 3);
+    for (const int row : { 0, 1, 2 }) {
+        EXPECT_EQ(captureOf(row), QColor(Qt::black));
+        EXPECT_EQ(M->Lista1Cambio, 1);
+    }
 }
 
 TEST_F(InformacionTest, NoOtherFormatNameOrDirectoryIsTried)
