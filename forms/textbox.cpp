@@ -43,6 +43,7 @@ TextArea::TextArea(QWidget *parent)
 {
     // On a dense screen the frame's line is thinner than the frame, and what lies below would show.
     setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Base);
     viewport()->setMouseTracking(true);
 }
 
