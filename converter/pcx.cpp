@@ -2,6 +2,7 @@
 
 #include "converter/pcxpalette.h"
 
+#include <algorithm>
 #include <string>
 
 namespace converter {
@@ -54,7 +55,8 @@ void checkSize(const PcxHeader &header)
 {
     if (header.width <= 0 || header.height <= 0)
         throw Unreadable("its header says that it has no pixels");
-    if (std::uint64_t(header.width) * std::uint64_t(header.height) > MostPixels) {
+    if (std::max(header.width, header.height) > MostSide
+        || std::uint64_t(header.width) * std::uint64_t(header.height) > MostPixels) {
         throw Unreadable("it is too large: " + std::to_string(header.width) + " by "
             + std::to_string(header.height) + " pixels");
     }

@@ -16,6 +16,9 @@ using Bytes = std::span<const std::uint8_t>;
 // An A4 page at 600 dots an inch has 35 million.
 constexpr std::uint64_t MostPixels = 40'000'000;
 
+// As many as a GIF can have; a PCX can have one more.
+constexpr int MostSide = 65'535;
+
 // Throws Unreadable: no PCX, a kind that isn't known, no pixels or too many, the file cut short, or 256
 // colours without their palette. Its memory is bound by what the file
 // really holds, whatever the header says.

@@ -7,8 +7,8 @@
 namespace forms {
 
 constexpr qint64 MostRasterBytes = 64 << 20; // no capture is larger, and a huge file would hold up the screen
-constexpr int MostRasterSide = 32'767; // pixels; what is longer can't be painted
-constexpr qint64 MostRasterPixels = 4096 * 4096;
+constexpr int MostRasterSide = 65'535; // pixels, as many as a GIF can have
+constexpr qint64 MostRasterPixels = 8192 * 4096; // 128 MB once decoded
 
 // The first bytes tell which it is of GIF, PNG, JPEG, BMP and WebP (where the toolkit has a reader for that),
 // and it is read as that alone. Null for anything else, also for a drawing, which may name other files and be

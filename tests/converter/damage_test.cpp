@@ -62,6 +62,15 @@ TEST(PcxDamage, IsTooLarge)
     EXPECT_EQ(complaintAbout(PcxFile { .right = 7999, .bottom = 4999, .bytesPerLine = 1000 }), CutShort);
 }
 
+TEST(PcxDamage, HasASideThatNoGifCanHave)
+{
+    EXPECT_EQ(complaintAbout(PcxFile { .right = 65535, .bytesPerLine = 8192 }),
+        "it is too large: 65536 by 1 pixels");
+    EXPECT_EQ(complaintAbout(PcxFile { .right = 0, .bottom = 65535 }), "it is too large: 1 by 65536 pixels");
+    EXPECT_EQ(complaintAbout(PcxFile { .right = 65534, .bytesPerLine = 8192 }), CutShort);
+    EXPECT_EQ(complaintAbout(PcxFile { .right = 0, .bottom = 65534 }), CutShort);
+}
+
 TEST(PcxDamage, HasLinesShorterThanItsWidth)
 {
     constexpr auto shorter = "its lines are shorter than its width";

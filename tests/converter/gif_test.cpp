@@ -1,6 +1,7 @@
 // The GIF holds what the picture held, as another program reads it.
 
 #include "converter/gif.h"
+#include "converter/pcx.h"
 #include "pcxfile.h"
 
 #include <QImage>
@@ -73,6 +74,18 @@ int colourCount(const QImage &image)
             colours.insert(image.pixel(x, y));
     }
     return int(colours.size());
+}
+
+TEST(Gif, TakesTheLongestSidesThatAPictureCanHave)
+{
+    using converter::MostSide;
+    const std::vector<std::uint8_t> pixels(MostSide, 1);
+    const std::vector<converter::Colour> palette { {}, { 0, 128, 255 } };
+    for (const QSize size : { QSize(MostSide, 1), QSize(1, MostSide) }) {
+        const QImage image = written({ size.width(), size.height(), palette, pixels });
+        ASSERT_EQ(image.size(), size);
+        EXPECT_EQ(image.pixelColor(size.width() - 1, size.height() - 1), QColor(0, 128, 255));
+    }
 }
 
 TEST(Gif, KeepsEveryLevelOfEveryChannel)
