@@ -108,11 +108,10 @@ void LeeAjustes(Modulo &M)
 
 QString ValorDeAjuste(const QString &linea)
 {
-    const qsizetype igual = linea.lastIndexOf(u'=') + 1; // counted from 1, 0 if there is none
-    const qsizetype largo = linea.size() - igual - 1;
-    if (largo < 0)
+    const QStringView detras = QStringView(linea).sliced(linea.lastIndexOf(u'=') + 1);
+    if (detras.isEmpty())
         throw host::Failure(host::InvalidArgument, u"read a setting"_s, linea);
-    return linea.right(largo);
+    return detras.sliced(host::behindFirst(detras, 1)).toString();
 }
 
 QString AjustesPorDefecto(const QString &LanguageFile)

@@ -1,5 +1,6 @@
 #include "core/arranque.h"
 
+#include "host/letters.h"
 #include "host/paths.h"
 
 #include <QStringList>
@@ -14,7 +15,7 @@ namespace {
 QString acortado(const QString &texto)
 {
     constexpr qsizetype largo = 300;
-    return texto.size() > largo ? texto.left(largo) + u"..."_s : texto;
+    return texto.size() > largo ? texto.first(host::behindFirst(texto, largo)) + u"..."_s : texto;
 }
 
 bool hayIdiomas()

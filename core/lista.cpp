@@ -8,6 +8,7 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -82,15 +83,13 @@ int CargaExtensiones(Modulo &M, int sistema)
 
 int VecesQueEncaja(const Modulo &M, const QString &nombreMayus, int extensiones)
 {
+    const auto final = [&](int letras) {
+        return QStringView(nombreMayus).sliced(host::startOfLast(nombreMayus, letras));
+    };
+    const QStringView finales[] = { final(1), final(2), final(3) };
     int veces = 0;
-    for (int e = 0; e < extensiones; ++e) {
-        for (int letras = 1; letras <= 3; ++letras) {
-            if (nombreMayus.right(letras) == M.ExtActivas(e)) {
-                ++veces;
-                break;
-            }
-        }
-    }
+    for (int e = 0; e < extensiones; ++e)
+        veces += std::ranges::count(finales, M.ExtActivas(e)) > 0;
     return veces;
 }
 

@@ -1,5 +1,7 @@
 #include "core/modulo.h"
 
+#include "host/letters.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -15,16 +17,20 @@ int NumeroDeAjuste(const QString &texto)
 {
     const QString recortado = texto.trimmed();
     const bool negativo = recortado.startsWith(u'-');
-    qsizetype final = negativo ? 1 : 0;
+    qsizetype inicio = negativo ? 1 : 0;
+    while (inicio < recortado.size() && recortado[inicio] == u'0')
+        ++inicio;
+    qsizetype final = inicio;
     while (final < recortado.size() && recortado[final] >= u'0' && recortado[final] <= u'9')
         ++final;
-    constexpr int cifrasSeguras = 9; // more can't be a position, and would not fit
-    return recortado.left(std::min<qsizetype>(final, cifrasSeguras + negativo)).toInt();
+    constexpr qsizetype cifrasSeguras = 9; // more can't be a position, and would not fit
+    const int valor = QStringView(recortado).sliced(inicio, std::min(final - inicio, cifrasSeguras)).toInt();
+    return negativo ? -valor : valor;
 }
 
 QString TipoDe(const QString &lineaXDI)
 {
-    return lineaXDI.right(1);
+    return lineaXDI.sliced(host::startOfLast(lineaXDI, 1));
 }
 
 QString Valor(const QString &linea, int prefijo)

@@ -26,7 +26,7 @@ QString FicheroDeEntrada(const Modulo &M, int tipo, const QString &entrada)
 QString ClaveNueva(int tipo, const QString &entrada)
 {
     const QString clave = host::upper(entrada);
-    return UnZipPorJuego(tipo) ? clave.chopped(std::min<qsizetype>(LargoDeTerminacion, clave.size())) : clave;
+    return UnZipPorJuego(tipo) ? clave.first(host::startOfLast(clave, LargoDeTerminacion)) : clave;
 }
 
 QString ClaveDeParametros(const Modulo &M, const QString &entrada)

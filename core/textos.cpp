@@ -1,6 +1,7 @@
 #include "core/textos.h"
 
 #include "host/failure.h"
+#include "host/letters.h"
 
 #include <QHash>
 
@@ -160,9 +161,10 @@ QHash<QString, const ClaveDeTexto *> porClaveRellena()
 
 QString TextoDeLinea(const QString &linea)
 {
-    if (linea.size() <= AnchoPrefijo)
+    const QStringView texto = QStringView(linea).sliced(host::behindFirst(linea, AnchoPrefijo));
+    if (texto.isEmpty())
         throw host::Failure(host::InvalidArgument, u"read a text of the language"_s, linea);
-    return linea.sliced(AnchoPrefijo).chopped(1);
+    return texto.first(host::startOfLast(texto, 1)).toString();
 }
 
 LectorDeTextos::LectorDeTextos(TextosIdioma &textos, Directo directo)

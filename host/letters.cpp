@@ -13,6 +13,7 @@ public:
     }
 
     bool atEnd() const { return m_position == m_text.size(); }
+    qsizetype position() const { return m_position; }
 
     char32_t next()
     {
@@ -91,6 +92,25 @@ int compareNames(QStringView a, QStringView b)
 bool sameName(QStringView a, QStringView b)
 {
     return compareNames(a, b) == 0;
+}
+
+qsizetype behindFirst(QStringView text, qsizetype characters)
+{
+    CodePoints points(text);
+    for (qsizetype passed = 0; passed < characters && !points.atEnd(); ++passed)
+        points.next();
+    return points.position();
+}
+
+qsizetype startOfLast(QStringView text, qsizetype characters)
+{
+    qsizetype start = text.size();
+    for (qsizetype passed = 0; passed < characters && start > 0; ++passed) {
+        const bool halves =
+            start > 1 && text[start - 1].isLowSurrogate() && text[start - 2].isHighSurrogate();
+        start -= halves ? 2 : 1;
+    }
+    return start;
 }
 
 } // namespace host

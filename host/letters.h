@@ -20,4 +20,10 @@ int compareNames(QStringView a, QStringView b);
 // True where the upper-cased texts are equal.
 bool sameName(QStringView a, QStringView b);
 
+// Where columns are counted, a character counts once, also one that the text keeps in two halves. Both are
+// indices of the text: behind its first characters (its end where it has fewer), and where its last ones
+// begin (0 where it has fewer).
+qsizetype behindFirst(QStringView text, qsizetype characters);
+qsizetype startOfLast(QStringView text, qsizetype characters);
+
 } // namespace host

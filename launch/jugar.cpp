@@ -100,7 +100,7 @@ void Lanzamiento::BuscaPorNota(const Busqueda &busqueda)
 {
     m_piezas.RomCorto = RomCortoDe(m_piezas.RomDir, busqueda.nombre);
     if (m_seleccion.tipo == 2 || m_seleccion.tipo == 3)
-        m_piezas.RomCorto.texto.chop(4);
+        m_piezas.RomCorto.texto.truncate(host::startOfLast(m_piezas.RomCorto.texto, 4));
     M.Nota_Clave(busqueda.nota) = host::lower(busqueda.clave);
     ReunePiezasDelEmulador();
     LeeParRom(busqueda.clave);

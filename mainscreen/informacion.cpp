@@ -9,7 +9,11 @@
 
 #include "forms/pictures.h"
 
-#include "host/paths.h"
+#include "host/lengths.h"
+
+#include <QSet>
+
+#include <utility>
 
 namespace mainscreen {
 
@@ -17,6 +21,7 @@ void Portada::LLena_INFO()
 {
     if (Combo2->Text().isEmpty())
         return;
+    QString linea; // of the last note whose file could be looked at
     try {
         const int sistema = Sistema();
         const int emulador = Emulador() + 1;
@@ -24,15 +29,15 @@ void Portada::LLena_INFO()
         if (Lista1->ListIndex() < 0)
             return;
         const QString directorio = core::ValorExigido(M.Cat_ROM(sistema, emulador), core::PrefijoRuta);
+        const core::LargoDeFichero largo = host::LengthsIn(directorio);
         core::BuscaROM(M, Lista1->Text(), [&](const core::FichaDeROM &ficha) {
-            const QString linea =
-                core::LineaDeInfo(core::Numero(M.TipoEmu), directorio, ficha, host::fileLength);
-            if (!linea.isEmpty())
-                PonInfo(linea);
+            linea = core::LineaDeInfo(core::Numero(M.TipoEmu), directorio, ficha, largo);
         });
     } catch (const host::Failure &) {
-        // The line keeps its text.
+        // Without a line so far the label keeps its text.
     }
+    if (!linea.isEmpty())
+        PonInfo(linea);
 }
 
 void Portada::Lista1_Selection()
@@ -60,14 +65,22 @@ void Portada::CargaCaptura()
 {
     Graf_Imagen->show();
     const QString directorio = core::ValorExigido(M.Cat_IMG(Sistema(), Emulador() + 1), core::PrefijoRuta);
+    // Every note with this text has a capture of its own, unless their names are alike up to the point. The
+    // last one's shows, and black where a single one can't be read.
+    QSet<QString> otras;
+    QString ruta;
     core::BuscaROM(M, Lista1->Text(), [&](const core::FichaDeROM &ficha) {
-        const QString ruta = core::RutaDeCaptura(core::Numero(M.TipoEmu), directorio, ficha);
-        if (ruta.isEmpty())
-            return;
-        const QPixmap captura = forms::LoadPicture(ruta);
-        Graf_Imagen->SetPicture(captura);
-        Aumento.Imagen->SetPicture(captura);
+        ruta = core::RutaDeCaptura(core::Numero(M.TipoEmu), directorio, ficha);
+        otras.insert(ruta);
     });
+    if (ruta.isEmpty())
+        return;
+    otras.remove(ruta);
+    for (const QString &otra : std::as_const(otras))
+        forms::LoadPicture(otra);
+    const QPixmap captura = forms::LoadPicture(ruta);
+    Graf_Imagen->SetPicture(captura);
+    Aumento.Imagen->SetPicture(captura);
 }
 
 void Portada::SinCaptura()

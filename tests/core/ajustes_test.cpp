@@ -149,7 +149,8 @@ INSTANTIATE_TEST_SUITE_P(Lineas, ValorDeAjuste,
         Linea { "x = \xF1"
                 "and\xFA",
             u"ñandú"_s },
-        Linea { "x = a, \"b\"", u"a, \"b\""_s }));
+        Linea { "x = a, \"b\"", u"a, \"b\""_s }, Linea { "x =😀b", u"b"_s }, Linea { "😀b", u"b"_s },
+        Linea { "x =😀", QString() }, Linea { "x = 😀", u"😀"_s }));
 
 TEST_F(Ajustes, ALineWithoutBlankReadsAsZero)
 {

@@ -122,6 +122,14 @@ TEST_F(Lista, PlainFilesThatFitNoExtensionAreNotListed_NotedOrNot)
     }
 }
 
+TEST_F(Lista, AnExtensionFitsTheLastThreeCharacters_AlsoThoseThatAreKeptInTwoHalves)
+{
+    PonEntradas({ u"one.😀X😀"_s, u"two.😀"_s, u"four.😀😀😀😀"_s });
+    PonExtensiones({ u"😀X😀"_s, u"😀"_s, u"😀😀😀😀"_s });
+    m_largos = { { u"R/one.😀X😀"_s, 1 }, { u"R/two.😀"_s, 1 }, { u"R/four.😀😀😀😀"_s, 1 } };
+    EXPECT_EQ(Empareja(0).entradas, (QStringList { u"one.😀X😀"_s, u"one.😀X😀"_s, u"two.😀"_s, u"four.😀😀😀😀"_s }));
+}
+
 TEST_F(Lista, AnEmptyDescriptionGivesAnEmptyLine_ForAFileOrAZip)
 {
     PonEntradas({ u"A.ZIP"_s });

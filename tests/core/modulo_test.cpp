@@ -49,12 +49,13 @@ TEST(Modulo, EverythingIsZeroOrEmpty_AtTheStart)
              M.Respuesta_Opcion, M.BD_Sistema, M.BD_Emulador, M.BD_TotalSistemas, M.Lista1Lista,
              M.Config_Origen, M.Config2_Cambios, M.ExtLargo, M.IdiomaCambiado, M.TypeOfEditorPrevio })
         EXPECT_EQ(numero, 0);
-    for (const QString &texto : { M.FiltrosTexto, M.UltimoSistema, M.UltimoEmulador, M.GuardarUltimo,
-             M.TypeOfEditor, M.MsgEndDOS, M.LanguageFile, M.DebugMode, M.TipoEmu, M.SistemaGuardado,
-             M.EmuladorGuardado, M.ROMGuardada, M.Respuesta_Caja, M.RespuestaMensaje, M.TXT_Jugar,
-             M.RutaExaminar, M.ArchivoExaminar, M.EXE_Previo, M.XDI_Previo, M.ROM_Previo, M.IMG_Previo,
-             M.PAR1_Previo, M.PAR2_Previo, M.ExtTexto, M.IdiomaPrevio, M.FiltrosNuevo, M.BD_Nombre(150, 150), M.BD_WEB2(0, 0), M.BD_EXT(0, 0),
-             M.BD_WEB1(150), M.Msg_NoEXE0, M.Cat_Nombre(0, 0), M.Nota_Clave(0), M.RutasROM(1) })
+    for (const QString &texto :
+        { M.FiltrosTexto, M.UltimoSistema, M.UltimoEmulador, M.GuardarUltimo, M.TypeOfEditor, M.MsgEndDOS,
+            M.LanguageFile, M.DebugMode, M.TipoEmu, M.SistemaGuardado, M.EmuladorGuardado, M.ROMGuardada,
+            M.Respuesta_Caja, M.RespuestaMensaje, M.TXT_Jugar, M.RutaExaminar, M.ArchivoExaminar,
+            M.EXE_Previo, M.XDI_Previo, M.ROM_Previo, M.IMG_Previo, M.PAR1_Previo, M.PAR2_Previo, M.ExtTexto,
+            M.IdiomaPrevio, M.FiltrosNuevo, M.BD_Nombre(150, 150), M.BD_WEB2(0, 0), M.BD_EXT(0, 0),
+            M.BD_WEB1(150), M.Msg_NoEXE0, M.Cat_Nombre(0, 0), M.Nota_Clave(0), M.RutasROM(1) })
         EXPECT_EQ(texto, QString());
     EXPECT_FALSE(M.GuardarUltimoNuevo);
     EXPECT_FALSE(M.Ficheros.isOpen(1));
@@ -93,8 +94,10 @@ TEST_P(AjusteComoNumero, LeadingDigitsCount)
 INSTANTIATE_TEST_SUITE_P(Textos, AjusteComoNumero,
     testing::Values(Texto { u"0"_s, 0 }, Texto { u"1"_s, 1 }, Texto { u"12"_s, 12 },
         Texto { u"696969"_s, 696969 }, Texto { QString(), 0 }, Texto { u" 5 "_s, 5 }, Texto { u"-3"_s, -3 },
-        Texto { u"3x"_s, 3 }, Texto { u"x3"_s, 0 }, Texto { u"-"_s, 0 },
-        Texto { u"99999999999999999999"_s, 999999999 }, Texto { u"-99999999999999999999"_s, -999999999 }));
+        Texto { u"3x"_s, 3 }, Texto { u"x3"_s, 0 }, Texto { u"-"_s, 0 }, Texto { u"0000000001"_s, 1 },
+        Texto { u"-00000000000000000000012"_s, -12 }, Texto { u"0000000000000000"_s, 0 },
+        Texto { u"0000000000696969x"_s, 696969 }, Texto { u"99999999999999999999"_s, 999999999 },
+        Texto { u"-99999999999999999999"_s, -999999999 }));
 
 TEST(Modulo, ValueOfALineIsWhatStandsBehindThePrefix)
 {
@@ -106,4 +109,11 @@ TEST(Modulo, ValueOfALineIsWhatStandsBehindThePrefix)
     EXPECT_EQ(core::ValorExigido(u"IMG=/caps/"_s, 4), u"/caps/");
     EXPECT_EQ(core::ValorExigido(u"IMG="_s, 4), QString());
     EXPECT_EQ(NumeroDeFallo([] { core::ValorExigido(u"IMG"_s, 4); }), host::InvalidArgument);
+}
+
+TEST(Modulo, TypeIsTheLastCharacter_NeverAHalfOfOne)
+{
+    EXPECT_EQ(core::TipoDe(u"XDI=3"_s), u"3"_s);
+    EXPECT_EQ(core::TipoDe(u"XDI=😀"_s), u"😀"_s);
+    EXPECT_EQ(core::TipoDe(QString()), QString());
 }

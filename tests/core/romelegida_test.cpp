@@ -64,6 +64,9 @@ TEST_F(RomElegida, NewKeyIsTheEntryInUpperCaseWithoutTheEndingOfTheTypesWithZips
         EXPECT_EQ(core::ClaveNueva(tipo, u"game.zip"_s), u"GAME"_s);
         EXPECT_EQ(core::ClaveNueva(tipo, u"no ending"_s), u"NO EN"_s);
         EXPECT_EQ(core::ClaveNueva(tipo, u"abc"_s), QString());
+        EXPECT_EQ(core::ClaveNueva(tipo, u"game 😀zip"_s), u"GAME "_s);
+        EXPECT_EQ(core::ClaveNueva(tipo, u"😀😀😀😀😀"_s), u"😀"_s);
+        EXPECT_EQ(core::ClaveNueva(tipo, u"😀😀😀"_s), QString());
     }
 }
 

@@ -250,12 +250,15 @@ INSTANTIATE_TEST_SUITE_P(Lineas, TextoDeLinea,
                        u"123"_s,
             QString() },
         LineaDeTexto { u"TXT_Jugar.........=\"a \"b\", c=d 'e'\""_s, u"a \"b\", c=d 'e'"_s },
-        LineaDeTexto { u"TXT_Jugar.........=\"¡Jugar, ñandú!\""_s, u"¡Jugar, ñandú!"_s }));
+        LineaDeTexto { u"TXT_Jugar.........=\"¡Jugar, ñandú!\""_s, u"¡Jugar, ñandú!"_s },
+        LineaDeTexto { u"TXT_Jugar.........😀😀Play"_s, u"Pla"_s },
+        LineaDeTexto { u"TXT_Jugar.........=\"😀 Play 😀"_s, u"😀 Play "_s },
+        LineaDeTexto { u"TXT_Jugar.........=\"😀"_s, QString() }));
 
 TEST_F(Textos, FailAsInvalid_OnALineOfFewerThanTwentyOneCharacters)
 {
     for (const QString &linea : { u"TXT_Jugar.........=\""_s, u"TXT_Jugar........."_s, u"x"_s, u""_s, u" '"_s,
-             u"12345678901234567890"_s })
+             u"12345678901234567890"_s, u"1234567890😀😀😀😀😀😀😀😀😀😀"_s })
         EXPECT_EQ(NumeroDeFallo([&] { Lee(linea); }), host::InvalidArgument) << linea.toStdString();
     EXPECT_EQ(VariablesLlenas(), 0);
 }

@@ -60,3 +60,25 @@ TEST(Letters, SameNameIsTheSameInAnyCase)
     EXPECT_FALSE(sameName(u"Zembro.cfg", u"Zembro.cf"));
     EXPECT_FALSE(sameName(u"straße", u"STRASSE"));
 }
+
+TEST(Letters, ColumnsCountCharacters)
+{
+    const QString text = u"a😀ñ"_s;
+    EXPECT_EQ(host::behindFirst(text, 0), 0);
+    EXPECT_EQ(host::behindFirst(text, 1), 1);
+    EXPECT_EQ(host::behindFirst(text, 2), 3);
+    EXPECT_EQ(host::behindFirst(text, 9), 4);
+    EXPECT_EQ(host::startOfLast(text, 0), 4);
+    EXPECT_EQ(host::startOfLast(text, 1), 3);
+    EXPECT_EQ(host::startOfLast(text, 2), 1);
+    EXPECT_EQ(host::startOfLast(text, 9), 0);
+    EXPECT_EQ(host::startOfLast(QString(), 1), 0);
+}
+
+TEST(Letters, AHalfOnItsOwnCountsAsACharacter)
+{
+    const QString text = QString(QChar(0xDE00)) + QChar(0xDE00) + QChar(0xD83D);
+    EXPECT_EQ(host::behindFirst(text, 1), 1);
+    EXPECT_EQ(host::startOfLast(text, 2), 1);
+    EXPECT_EQ(host::startOfLast(text, 3), 0);
+}

@@ -7,6 +7,8 @@
 
 #include "host/paths.h"
 
+#include <ctime>
+
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -132,6 +134,34 @@ TEST_F(InformacionTest, LastOfTheRecordsWithoutACaptureIsBlack)
     startWith(u"0"_s, { { u"A.BIN"_s, u"Gemelo"_s }, { u"B.BIN"_s, u"Gemelo"_s } });
     EXPECT_EQ(captureOf(0), QColor(Qt::black));
     EXPECT_EQ(M->Lista1Cambio, 1);
+}
+
+TEST_F(InformacionTest, AnyOfTheRecordsWithOneDescriptionThatHasNoCaptureMakesItBlack)
+{
+    files.writeSize(u"r/a.bin"_s, 1024);
+    files.writeGif(u"c/B.GIF"_s, Qt::green);
+    startWith(u"0"_s, { { u"A.BIN"_s, u"Gemelo"_s }, { u"B.BIN"_s, u"Gemelo"_s } });
+    EXPECT_EQ(captureOf(0), QColor(Qt::black));
+}
+
+TEST_F(InformacionTest, AThousandRecordsWithOneDescriptionAreSoonHandled)
+{
+    std::vector<NoteEntry> notes;
+    for (int i = 0; i < 2000; ++i) {
+        files.writeSize(u"r/game.%1"_s.arg(i), 512);
+        notes.push_back({ u"GAME.%1"_s.arg(i), u"Gemelo"_s });
+    }
+    files.writeSize(u"r/game.bin"_s, 1024);
+    notes.push_back({ u"GAME.BIN"_s, u"Gemelo"_s });
+    files.writeGif(u"c/GAME.GIF"_s, Qt::green);
+    startWith(u"0"_s, notes);
+    ASSERT_EQ(list().ListCount(), 1);
+    EXPECT_EQ(captureOf(0), QColor(Qt::green));
+    const std::clock_t before = std::clock();
+    for (int turn = 0; turn < 5; ++turn)
+        EXPECT_EQ(infoOf(0), u"GAME.BIN 1Kb  [NOR]"_s);
+    const auto milliseconds = (std::clock() - before) * 1000 / CLOCKS_PER_SEC / 5;
+    EXPECT_LT(milliseconds, 60);
 }
 
 TEST_F(InformacionTest, RecordWithoutItsFileKeepsWhatStoodBefore)
