@@ -1,5 +1,6 @@
 #include "forms/textbox.h"
 
+#include <QMimeData>
 #include <QRegularExpression>
 #include <QStyle>
 #include <QStyleOptionFrame>
@@ -52,6 +53,17 @@ void TextArea::keyPressEvent(QKeyEvent *event)
     Control::keyPressEvent(event);
     if (keyCodeOf(*event) == EnterKey)
         event->accept();
+}
+
+// The toolkit's own looks at the first of the source's formats, also where there is none, and would take rich
+// text from another of its programs.
+void TextArea::insertFromMimeData(const QMimeData *source)
+{
+    if (!source || !source->hasText())
+        return;
+    QMimeData plain;
+    plain.setText(source->text());
+    Control::insertFromMimeData(&plain);
 }
 
 void TextArea::SetColours(const QColor &back, const QColor &text)

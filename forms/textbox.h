@@ -22,6 +22,7 @@ private:
     bool fits(const QString &text) const;
 };
 
+// Many lines. Of what is pasted or dropped it takes the plain text.
 class TextArea : public Control<QPlainTextEdit> {
 public:
     explicit TextArea(QWidget *parent);
@@ -33,6 +34,7 @@ public:
 protected:
     void keyPressEvent(
         QKeyEvent *event) override; // Enter never travels to the form, also if nothing can be typed
+    void insertFromMimeData(const QMimeData *source) override;
 };
 
 } // namespace forms

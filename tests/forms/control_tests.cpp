@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QMimeData>
 #include <QPointer>
 #include <QTest>
 
@@ -316,6 +317,42 @@ TEST_F(Controls, OfATextWithLineBreaks_ATextBoxKeepsTheFirstLine)
     box.SetText({});
     box.paste();
     EXPECT_EQ(box.Text(), u"-x"_s);
+}
+
+TEST_F(Controls, AnEmptyClipboardPasted_ChangesNothing)
+{
+    text.SetText(u"text"_s);
+    box.SetText(u"box"_s);
+    drive::show(form);
+    for (const bool cleared : { true, false }) {
+        if (cleared)
+            QApplication::clipboard()->clear();
+        else
+            QApplication::clipboard()->setMimeData(new QMimeData);
+        for (QWidget *control : { static_cast<QWidget *>(&text), static_cast<QWidget *>(&box) }) {
+            control->setFocus();
+            QTest::keyClick(form.windowHandle(), Qt::Key_V, Qt::ControlModifier);
+            QTest::keyClick(form.windowHandle(), Qt::Key_Insert, Qt::ShiftModifier);
+        }
+    }
+    EXPECT_EQ(text.Text(), u"text"_s);
+    EXPECT_EQ(box.Text(), u"box"_s);
+}
+
+TEST_F(Controls, OfWhatIsPasted_ATextAreaTakesThePlainTextAlone)
+{
+    auto *marked = new QMimeData;
+    marked->setData(u"application/x-qrichtext"_s, "<b>bold</b>");
+    marked->setText(u"<b>plain</b>"_s);
+    QApplication::clipboard()->setMimeData(marked);
+    text.paste();
+    EXPECT_EQ(text.Text(), u"<b>plain</b>"_s);
+
+    auto *picture = new QMimeData;
+    picture->setData(u"image/png"_s, "\x89PNG");
+    QApplication::clipboard()->setMimeData(picture);
+    text.paste();
+    EXPECT_EQ(text.Text(), u"<b>plain</b>"_s);
 }
 
 TEST_F(Controls, EnterInATextAreaThatTakesNoTyping_StaysThere)

@@ -16,6 +16,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QClipboard>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
@@ -254,6 +255,23 @@ TEST_F(Screen, Enter_GoesToTheKeyHandlerOfTheControlWithTheFocus)
     input(u"key Return"_s);
     EXPECT_TRUE(comes([&] { return log.size() == 3; }));
     EXPECT_THAT(log, ElementsAre("list key 13", "combo key 13", "enter"));
+}
+
+TEST_F(Screen, TheMiddleButtonWithNothingSelectedAnywhere_PastesNothing)
+{
+    forms::TextArea text(&owner);
+    text.setGeometry(170, 60, 120, 60);
+    text.SetText(u"text"_s);
+    forms::TextBox box(&owner);
+    box.setGeometry(170, 130, 120, 20);
+    QApplication::clipboard()->clear(QClipboard::Selection);
+    show();
+    input(at(*text.viewport()) + u" click 2"_s);
+    input(at(box) + u" click 2"_s);
+    input(at(pair) + u" click 1"_s);
+    EXPECT_TRUE(comes([&] { return log.size() == 2; }));
+    EXPECT_EQ(text.Text(), u"text"_s);
+    EXPECT_EQ(box.Text(), QString());
 }
 
 TEST_F(Screen, AnEntryPickedWithTheMouse_RaisesSelectionOnce)
