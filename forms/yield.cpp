@@ -2,6 +2,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QScopeGuard>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <QWidget>
@@ -45,10 +46,23 @@ void handlePending(QEventLoop::ProcessEventsFlags flags)
     }
 }
 
+bool yielding = false;
+
 } // namespace
+
+bool IsYielding()
+{
+    return yielding;
+}
 
 void DoEvents()
 {
+    if (yielding) {
+        DoEventsWithoutInput();
+        return;
+    }
+    yielding = true;
+    const auto over = qScopeGuard([] { yielding = false; });
     handlePending(QEventLoop::AllEvents);
 }
 

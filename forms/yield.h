@@ -3,8 +3,10 @@
 
 namespace forms {
 
-// Runs the event loop once: all that is pending on all screens.
+// Runs the event loop once: all that is pending on all screens. Within another such call it leaves the user's
+// keys and mouse to the outer one: coming in faster than they are handled, they would nest without end.
 void DoEvents();
+bool IsYielding(); // a DoEvents is under way
 
 // The same, with the user's keys and mouse left in the queue for later.
 void DoEventsWithoutInput();

@@ -112,7 +112,9 @@ void Portada::EscribeConsejo(const QString &texto)
     IMGDescripcionLarga->show();
     QPixmap hoja = hojaDelConsejo(*IMGDescripcionLarga);
     IMGDescripcionLarga->SetPicture(hoja);
-    forms::DoEvents();
+    // Moves that come faster than they are drawn would nest without end.
+    if (!forms::IsYielding())
+        forms::DoEvents();
     // A further move may have come meanwhile: what it left stands.
     if (ElementoBajoRaton != elemento || IMGDescripcionLarga->isHidden())
         return;

@@ -346,6 +346,26 @@ TEST_F(Screen, WithoutInput_TheYieldLeavesAKeyForLater)
     EXPECT_THAT(log, ElementsAre("key 46"));
 }
 
+TEST_F(Screen, AYieldWithinAnother_LeavesTheKeysToTheOuterOne)
+{
+    int depth = 0;
+    int deepest = 0;
+    int keys = 0;
+    list.KeyDown = [&](int) {
+        ++keys;
+        deepest = std::max(deepest, ++depth);
+        QTest::qSleep(50); // the next keys are there by then
+        forms::DoEvents();
+        --depth;
+    };
+    show();
+    list.setFocus();
+    forms::DoEvents();
+    input(u"key --delay 1 Delete Insert Delete Insert Delete Insert"_s);
+    EXPECT_TRUE(comes([&] { return keys == 6; }));
+    EXPECT_LE(deepest, 2);
+}
+
 TEST_F(Screen, AnotherWindowUnderTheHeldButton_DoesNotTakeTheRelease)
 {
     Form zoom(u"Aumento"_s, 3000, 3000, Form::Border::None);

@@ -94,6 +94,31 @@ TEST(Yield, WhatWasToBePainted_IsPainted)
     EXPECT_EQ(counter.paints, 1);
 }
 
+TEST(Yield, OneUnderWay_IsKnownAsSuch)
+{
+    bool within = false;
+    QMetaObject::invokeMethod(
+        qApp, [&] { within = forms::IsYielding(); }, Qt::QueuedConnection);
+    EXPECT_FALSE(forms::IsYielding());
+    forms::DoEvents();
+    EXPECT_TRUE(within);
+    EXPECT_FALSE(forms::IsYielding());
+}
+
+TEST(Yield, WithinAnother_StillDoesWhatIsPosted)
+{
+    std::vector<int> order;
+    const auto post = [](auto work) { QMetaObject::invokeMethod(qApp, work, Qt::QueuedConnection); };
+    post([&] {
+        post([&] { order.push_back(1); });
+        forms::DoEvents();
+        order.push_back(2);
+        EXPECT_TRUE(forms::IsYielding());
+    });
+    forms::DoEvents();
+    EXPECT_EQ(order, (std::vector<int> { 1, 2 }));
+}
+
 TEST(Waiting, WhenNothingHappens_EndsWithTheTime)
 {
     settle();

@@ -3,9 +3,15 @@
 #include "mundotest.h"
 
 #include "tests/support/browser.h"
+#include "tests/support/witness.h"
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QTest>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstddef>
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
@@ -151,6 +157,59 @@ TEST_F(SuperficieTest, TipYieldsOnceAndLeavesTheScreenToALaterMove)
     list().MouseMove.raise({ 0, 20 * 15, 5 * 15 });
     EXPECT_TRUE(later);
     EXPECT_FALSE(tip().isVisible());
+}
+
+TEST_F(SuperficieTest, MoveHandledInTheYieldOfAnotherYieldsNoMore)
+{
+    startWithLongNames();
+    bool drawn = false;
+    bool yieldedWithin = false;
+    QTimer::singleShot(0, portada.get(), [&] {
+        QMetaObject::invokeMethod(
+            portada.get(), [&] { yieldedWithin = !drawn; }, Qt::QueuedConnection);
+        list().MouseMove.raise({ 0, 20 * 15, forms::twips(pointOfRow(2).y()) });
+        drawn = true;
+    });
+    list().MouseMove.raise({ 0, 20 * 15, 5 * 15 });
+    EXPECT_TRUE(drawn);
+    EXPECT_FALSE(yieldedWithin);
+    EXPECT_TRUE(tip().isVisible());
+    EXPECT_EQ(tip().y(), forms::inPixels({ 0, 1340 + 2 * portada->fontMetrics().height() * 15, 0, 0 }).y());
+    EXPECT_TRUE(dark(tip().grab().toImage(), QRect(0, 0, 40, tip().height() - 1)));
+}
+
+TEST_F(SuperficieTest, FloodOfMovesDoesNotPileUp)
+{
+    constexpr int Moves = 30'000;
+    constexpr std::ptrdiff_t Deepest = 1 << 20; // bytes of the stack
+    startWithLongNames();
+    const char here = 0;
+    std::ptrdiff_t deepest = 0;
+    int seen = 0;
+    const Witness witness(*list().viewport(), QEvent::MouseMove, [&] {
+        const char there = 0;
+        deepest = std::max(deepest, &here - &there);
+        ++seen;
+        if (deepest > Deepest) // before it ends the process
+            QCoreApplication::removePostedEvents(portada->windowHandle(), QEvent::MouseMove);
+    });
+    const auto place = [this](
+                           int row) { return list().mapTo(portada.get(), pointOfRow(row)) + QPoint(row, 0); };
+    const QPointF first = place(0);
+    const QPointF second = place(2);
+    for (int i = 0; i < Moves; ++i) {
+        const QPointF &point = i % 2 == 0 ? first : second;
+        QCoreApplication::postEvent(portada->windowHandle(),
+            new QMouseEvent(QEvent::MouseMove, point, portada->mapToGlobal(point), Qt::NoButton, Qt::NoButton,
+                Qt::NoModifier));
+    }
+    bool done = false;
+    QMetaObject::invokeMethod(
+        portada.get(), [&] { done = true; }, Qt::QueuedConnection);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return done; }, 60'000));
+    EXPECT_GE(seen, Moves / 3); // the others find the tip on their way
+    EXPECT_LT(deepest, Deepest);
+    EXPECT_TRUE(tip().isVisible());
 }
 
 TEST_F(SuperficieTest, ClickOnTheTipSelectsItsEntryAndFocusesTheList)
