@@ -4,6 +4,8 @@
 #include "forms/guard.h"
 #include "forms/units.h"
 
+#include <QDialog>
+#include <QKeyEvent>
 #include <QPalette>
 #include <QProxyStyle>
 
@@ -57,6 +59,26 @@ QPalette ownPalette()
     return palette;
 }
 
+class Press final : public QKeyEvent {
+public:
+    Press(const QKeyEvent &event, bool repeat)
+        : QKeyEvent(event)
+    {
+        m_autoRepeat = repeat;
+    }
+};
+
+bool isEnter(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+bool isInDialog(const QObject *receiver)
+{
+    const auto *control = qobject_cast<const QWidget *>(receiver);
+    return control && qobject_cast<const QDialog *>(control->window());
+}
+
 } // namespace
 
 Application::Application(int &argc, char **argv)
@@ -70,9 +92,54 @@ Application::Application(int &argc, char **argv)
 bool Application::notify(QObject *receiver, QEvent *event)
 {
     bool taken = false;
-    auto deliver = [&] { taken = QApplication::notify(receiver, event); };
-    guarded(std::ref(deliver));
+    auto deliverIt = [&] { taken = deliver(receiver, event); };
+    guarded(std::ref(deliverIt));
     return taken;
+}
+
+bool Application::deliver(QObject *receiver, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+        return deliverKey(receiver, static_cast<QKeyEvent *>(event));
+    default:
+        return QApplication::notify(receiver, event);
+    }
+}
+
+// X tells of a key held down by releases and presses in pairs of one time. The toolkit takes a press for a
+// repeat only if the pair lay in its queue together, which on a busy machine it often doesn't; and after such
+// a pair it takes the next press for one as well where another program's window got the key's last release.
+bool Application::isRepeat(const QKeyEvent &press) const
+{
+    if (press.nativeScanCode() == 0)
+        return press.isAutoRepeat();
+    const bool ofAPair = press.nativeScanCode() == m_releasedCode && press.timestamp() == m_released;
+    return ofAPair || (press.isAutoRepeat() && platformName() != u"xcb");
+}
+
+bool Application::deliverKey(QObject *receiver, QKeyEvent *event)
+{
+    if (event->type() == QEvent::KeyRelease) {
+        m_released = event->timestamp();
+        m_releasedCode = event->nativeScanCode();
+        return QApplication::notify(receiver, event);
+    }
+    const bool repeat = isRepeat(*event);
+    if (repeat != event->isAutoRepeat()) {
+        Press press(*event, repeat);
+        const bool taken = deliverKey(receiver, &press);
+        event->setAccepted(press.isAccepted());
+        return taken;
+    }
+    // Enter that has opened a box of the desktop must not answer it.
+    if (event->type() == QEvent::KeyPress && repeat && isEnter(*event) && isInDialog(receiver)) {
+        event->accept();
+        return true;
+    }
+    return QApplication::notify(receiver, event);
 }
 
 void setLook(QApplication &application)

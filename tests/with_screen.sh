@@ -1,11 +1,18 @@
 #!/bin/bash
-# Runs one command under an X server and a window manager of its own, and passes its exit status on.
+# Runs one command under an X server and a window manager of its own, and passes its exit status on. With ONE_PROCESSOR
+# in the environment all of them share one.
 # Server, manager and command are bound to the life of this script, so that nothing is left when it is interrupted.
 set -u
 
 if [ $# -eq 0 ]; then
     echo "usage: $0 command [argument...]" >&2
     exit 2
+fi
+
+if [ -n "${ONE_PROCESSOR-}" ]; then
+    allowed=$(taskset -cp $$)
+    allowed=${allowed##*: }
+    taskset -cp "${allowed%%[,-]*}" $$ >/dev/null || exit 2
 fi
 
 bound() { exec setpriv --pdeathsig "$@"; }
