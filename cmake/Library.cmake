@@ -12,6 +12,9 @@ if(ZEMBROLIX_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(zembrolix_flags INTERFACE -fsanitize=address,undefined)
 endif()
+if(ZEMBROLIX_FUZZ)
+    target_compile_options(zembrolix_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # The headers that nearly every file includes, compiled once. A file still includes what it uses: the release is built
 # without them.

@@ -1,5 +1,5 @@
 #!/bin/bash
-# Installs the Debian packages that are missing for the purposes named: build, play, screen, test.
+# Installs the Debian packages that are missing for the purposes named: build, play, screen, test, fuzz.
 set -euo pipefail
 
 declare -A packages=(
@@ -8,6 +8,7 @@ declare -A packages=(
     [play]="stella fonts-liberation qt6-wayland"
     [screen]="xvfb openbox xdotool x11-utils imagemagick"
     [test]="libgtest-dev libgmock-dev zip dbus at-spi2-core python3-gi gir1.2-atspi-2.0 weston qt6-wayland"
+    [fuzz]="clang-14 libclang-rt-14-dev"
 )
 
 missing=()

@@ -1,0 +1,20 @@
+// One function a topic, each in the file of its name.
+#pragma once
+
+#include "tema.h"
+
+namespace pelusa {
+
+void probarCodificacion(Bytes bytes); // bytes and text, names on the disk, upper and lower case
+void probarCampos(Bytes bytes); // lines and fields of a text
+void probarCatalogo(Bytes bytes); // reading the catalogue and the database
+void probarAjustes(Bytes bytes); // reading the settings, and changing them
+void probarIdiomas(Bytes bytes); // language files
+void probarNotas(Bytes bytes); // reading notes and parameters
+void probarNombresCortos(Bytes bytes); // short forms of names
+void probarRutas(Bytes bytes); // paths and what they lead to
+void probarOrdenes(Bytes bytes); // command lines, and the file chosen out of an archive
+void probarArchivos(Bytes bytes); // unpacking
+void probarPcx(Bytes bytes); // pictures for the converter
+
+} // namespace pelusa
