@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -54,7 +55,7 @@ QByteArray searchPath()
 bool isFile(const QByteArray &path)
 {
     struct stat status { };
-    return !path.isEmpty() && stat(path.constData(), &status) == 0 && S_ISREG(status.st_mode);
+    return stat(path.constData(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
 bool mayRun(const QByteArray &path)
@@ -67,8 +68,8 @@ bool mayRun(const QByteArray &path)
 std::vector<QByteArray> candidates(const QString &name)
 {
     QByteArray found = findOnDisk(name);
-    if (!found.isEmpty() && !found.contains('/'))
-        found.prepend("./");
+    if (!found.contains('/'))
+        found.prepend("./"); // of nothing it makes the directory itself, which is no file
     // A file of that name in the working directory decides, also if it may not run.
     if (lastSeparator(name) >= 0 || isFile(found))
         return { found };
@@ -194,55 +195,45 @@ QStringList splitArguments(QStringView text)
 Process::Process(pid_t id)
     : m_id(id)
     , m_ended(false)
-    , m_endDescriptor(pidfd_open(id, 0))
+    , m_end(pidfd_open(id, 0))
 {
 }
 
 Process::Process(Process &&other) noexcept
-    : m_id(std::exchange(other.m_id, -1))
-    , m_ended(std::exchange(other.m_ended, true))
-    , m_endDescriptor(std::exchange(other.m_endDescriptor, -1))
 {
+    *this = std::move(other);
 }
 
 Process &Process::operator=(Process &&other) noexcept
 {
-    if (this != &other) {
-        abandon();
-        m_id = std::exchange(other.m_id, -1);
-        m_ended = std::exchange(other.m_ended, true);
-        m_endDescriptor = std::exchange(other.m_endDescriptor, -1);
-    }
+    std::swap(m_id, other.m_id);
+    std::swap(m_ended, other.m_ended);
+    m_end = std::move(other.m_end);
     return *this;
 }
 
+// Somebody has to take the end of a child that runs on.
 Process::~Process()
 {
-    abandon();
-}
-
-// Somebody has to take the end of a child that runs on.
-void Process::abandon()
-{
-    if (m_endDescriptor >= 0)
-        close(m_endDescriptor);
-    if (!hasEnded())
+    if (hasEnded())
+        return;
+    try {
         std::thread([id = m_id] { waitpid(id, nullptr, 0); }).detach();
+    } catch (const std::system_error &) {
+        // There are too many threads already: the child stays a zombie until our own end.
+    }
 }
 
 Process Process::start(const QStringList &arguments)
 {
     const QString name = arguments.value(0);
-    if (name.isEmpty())
-        throw Failure(FileNotFound, QStringLiteral("start a program"), name);
-
     const QByteArray program = findProgram(name);
     std::vector<std::string> words { program.toStdString() };
     for (qsizetype i = 1; i < arguments.size(); ++i)
         words.push_back(nameToDisk(arguments[i]).toStdString());
 
     const StartSettings settings;
-    pid_t id = -1;
+    pid_t id {};
     const int error = posix_spawn(&id, program.constData(), &settings.actions, &settings.attributes,
         pointers(words).data(), pointers(environment()).data());
     if (error != 0)
@@ -252,10 +243,9 @@ Process Process::start(const QStringList &arguments)
 
 bool Process::hasEnded()
 {
-    if (!m_ended) {
-        const pid_t result = waitpid(m_id, nullptr, WNOHANG);
-        m_ended = result == m_id || (result < 0 && errno != EINTR);
-    }
+    // It yields 0 while the child runs, and fails where somebody else has taken its end.
+    if (!m_ended)
+        m_ended = waitpid(m_id, nullptr, WNOHANG) != 0;
     return m_ended;
 }
 

@@ -1,6 +1,8 @@
 // Starting a program and watching it to its end, without a shell in between.
 #pragma once
 
+#include "host/descriptor.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -51,16 +53,15 @@ public:
 
     bool hasEnded(); // never waits; after the end it leaves no zombie
     // Becomes readable at the end of the process; -1 if the system offers none.
-    int endDescriptor() const { return m_endDescriptor; }
+    int endDescriptor() const { return m_end.number(); }
     pid_t id() const { return m_id; }
 
 private:
     explicit Process(pid_t id);
-    void abandon();
 
     pid_t m_id = -1;
     bool m_ended = true;
-    int m_endDescriptor = -1;
+    Descriptor m_end;
 };
 
 // Ends the process at once, with the buffers of the standard streams written: no event loop can hold it.

@@ -10,10 +10,13 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <filesystem>
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -53,10 +56,37 @@ char stateOf(pid_t id)
     return behindName < 0 ? ' ' : line[behindName + 2];
 }
 
+std::ptrdiff_t entriesOf(const char *directory)
+{
+    return std::distance(std::filesystem::directory_iterator(directory), {});
+}
+
+std::ptrdiff_t threads()
+{
+    return entriesOf("/proc/self/task");
+}
+
+std::ptrdiff_t openFiles()
+{
+    return entriesOf("/proc/self/fd");
+}
+
 class ProcessTest : public DiskTest {
 protected:
     ProcessTest() { EXPECT_EQ(chdir(place().constData()), 0); }
-    ~ProcessTest() override { host::rememberEnvironment(); }
+    ~ProcessTest() override
+    {
+        qputenv("PATH", m_searchPath);
+        host::rememberEnvironment();
+    }
+
+    // What the next programs are looked for in; what they are started with keeps the usual one.
+    void setSearchPath(const QByteArray &path) const
+    {
+        qputenv("PATH", path);
+        host::rememberEnvironment();
+        qputenv("PATH", m_searchPath);
+    }
 
     void makeProgram(const QByteArray &name, const QByteArray &script) const
     {
@@ -92,12 +122,22 @@ protected:
         return bytes("output").value_or("no output");
     }
 
+    void makeWaiter() const
+    {
+        makeProgram("waiter",
+            "while [ -e '" + place("waiter") + "' ] && [ ! -e '" + place("go")
+                + "' ]; do sleep 0.01; done\n");
+    }
+
     // Runs until the file "go" is there.
     host::Process startWaiting() const
     {
-        makeProgram("waiter", "while [ ! -e '" + place("go") + "' ]; do sleep 0.01; done\n");
+        makeWaiter();
         return host::Process::start({ u"./waiter"_s });
     }
+
+private:
+    QByteArray m_searchPath = qgetenv("PATH");
 };
 
 TEST(SplitArguments, SplitsAtBlanksAndTabs)
@@ -167,11 +207,77 @@ TEST_F(ProcessTest, FindsABareNameInThePath_WhereTheWorkingDirectoryHasNone)
 {
     makeDirectory("bin");
     makeRecorder("bin/tool");
-    qputenv("PATH", "/nowhere::" + place("bin"));
-    host::rememberEnvironment();
+    for (const QByteArray &path : { place("bin"), "/nowhere::" + place("bin") }) {
+        setSearchPath(path);
+        run({ u"tool"_s });
+        EXPECT_EQ(recorded(), QList<QByteArray>({ place("bin/tool") })) << path.constData();
+        ASSERT_EQ(unlink(place("arguments").constData()), 0);
+    }
+}
+
+TEST_F(ProcessTest, TakesTheFirstOfThePathThatMayRun)
+{
+    for (const char *directory : { "no", "directory", "directory/tool", "forbidden", "first", "second" })
+        makeDirectory(directory);
+    makeFile("forbidden/tool");
+    makeRecorder("first/tool");
+    makeRecorder("second/tool");
+    const auto path = [this](const QByteArrayList &directories) {
+        QByteArrayList places;
+        for (const QByteArray &directory : directories)
+            places << place(directory);
+        return places.join(':');
+    };
+    setSearchPath(path({ "no", "directory", "forbidden", "first", "second" }));
     run({ u"tool"_s });
-    EXPECT_EQ(recorded(), QList<QByteArray>({ place("bin/tool") }));
-    qputenv("PATH", "/usr/bin:/bin");
+    EXPECT_EQ(recorded(), QList<QByteArray>({ place("first/tool") }));
+    setSearchPath(path({ "no", "forbidden", "directory" }));
+    EXPECT_EQ(failureOf([] { host::Process::start({ u"tool"_s }); }), host::PermissionDenied);
+    setSearchPath(path({ "no", "directory" }));
+    EXPECT_EQ(failureOf([] { host::Process::start({ u"tool"_s }); }), host::FileNotFound);
+}
+
+TEST_F(ProcessTest, LooksInTheUsualDirectories_WhereTheEnvironmentHasNoPath)
+{
+    qunsetenv("PATH");
+    host::rememberEnvironment();
+    run({ u"true"_s });
+    EXPECT_EQ(inChild([this] {
+        clearenv();
+        host::rememberEnvironment();
+        run({ u"true"_s });
+        return HasFailure() ? 1 : 0;
+    }),
+        0);
+}
+
+TEST_F(ProcessTest, DoesNotLookInThePathForANameWithASeparator)
+{
+    makeDirectory("bin");
+    makeDirectory("bin/sub");
+    makeRecorder("bin/tool");
+    makeRecorder("bin/sub/tool");
+    setSearchPath(place("bin"));
+    for (const QString &name : { u"sub/tool"_s, u"sub\\tool"_s, u"/tool"_s, u"./tool"_s })
+        EXPECT_EQ(failureOf([&] { host::Process::start({ name }); }), host::FileNotFound)
+            << name.toStdString();
+    EXPECT_FALSE(exists("arguments"));
+}
+
+TEST_F(ProcessTest, DoesNotTakeAnEmptyEntryOfThePathForTheRootDirectory)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only the administrator may change the root directory";
+    makeDirectory("root");
+    makeDirectory("root/work");
+    makeFile("root/tool");
+    setSearchPath(":");
+    const int failure = inChild([this] {
+        if (chroot(place("root").constData()) != 0 || chdir("/work") != 0)
+            return -1;
+        return failureOf([] { host::Process::start({ u"tool"_s }); });
+    });
+    EXPECT_EQ(failure, host::FileNotFound);
 }
 
 TEST_F(ProcessTest, FailsAsForbidden_WhereABareNameInTheWorkingDirectoryMayNotRun_WhateverThePathHolds)
@@ -179,9 +285,7 @@ TEST_F(ProcessTest, FailsAsForbidden_WhereABareNameInTheWorkingDirectoryMayNotRu
     makeDirectory("bin");
     makeRecorder("bin/tool");
     makeFile("tool");
-    qputenv("PATH", place("bin"));
-    host::rememberEnvironment();
-    qputenv("PATH", "/usr/bin:/bin");
+    setSearchPath(place("bin"));
     EXPECT_EQ(failureOf([] { host::Process::start({ u"tool"_s }); }), host::PermissionDenied);
 }
 
@@ -328,6 +432,54 @@ TEST_F(ProcessTest, GoingOutOfScopeLeavesTheProcessRunning_AndNoZombieAtItsEnd)
     EXPECT_NE(stateOf(id), 'Z');
     makeFile("go");
     EXPECT_TRUE(becomesTrue([id] { return stateOf(id) == ' '; })) << stateOf(id);
+}
+
+TEST_F(ProcessTest, GoingOutOfScopeTakesNoThread_WhereThereIsNothingToWaitFor)
+{
+    const host::Process other = startWaiting();
+    const std::ptrdiff_t before = threads();
+    {
+        // A wait for just any child would take the end of the other one.
+        const host::Process none;
+        host::Process moved = startWaiting();
+        const host::Process takesOver(std::move(moved));
+        makeFile("go");
+        ASSERT_TRUE(endComes(takesOver));
+    }
+    EXPECT_EQ(threads(), before);
+}
+
+TEST_F(ProcessTest, GoingOutOfScopeEndsNothing_WhereNoThreadCanBeMade)
+{
+    makeWaiter();
+    const int status = inChildOfOrdinaryUser([] {
+        const host::Process process = host::Process::start({ u"./waiter"_s });
+        const rlimit none { 0, 0 };
+        return setrlimit(RLIMIT_NPROC, &none) == 0 && process.id() > 0 ? 0 : 1;
+    });
+    makeFile("go");
+    EXPECT_EQ(status, 0);
+}
+
+TEST_F(ProcessTest, GoingOutOfScopeClosesTheDescriptorOfTheEnd)
+{
+    const std::ptrdiff_t before = openFiles();
+    run({ u"true"_s });
+    {
+        const host::Process process = startWaiting();
+        EXPECT_EQ(openFiles(), before + 1);
+        EXPECT_GE(process.endDescriptor(), 0);
+    }
+    EXPECT_EQ(openFiles(), before);
+    makeFile("go");
+}
+
+TEST_F(ProcessTest, AProcessWhoseEndWasTakenByAnotherHasEnded)
+{
+    host::Process process = startWaiting();
+    makeFile("go");
+    EXPECT_EQ(waitpid(process.id(), nullptr, 0), process.id());
+    EXPECT_TRUE(process.hasEnded());
 }
 
 TEST_F(ProcessTest, MovingHandsTheProcessOn)
