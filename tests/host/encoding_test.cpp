@@ -2,6 +2,9 @@
 
 #include "host/encoding.h"
 
+#include <QStringDecoder>
+
+#include <map>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -108,6 +111,43 @@ TEST(TextEncoding, OverlongFormsSurrogatesAndCodesPastTheLastAreNoUtf8)
         EXPECT_EQ(decodeText(bytes).encoding, Encoding::Utf8) << bytes.toHex().constData();
 }
 
+TEST(TextEncoding, CodesOfEachLengthAreReadToTheirBorders)
+{
+    const std::map<QByteArray, char32_t> codes { { "\xC2\x80", 0x80 }, { "\xDF\xBF", 0x7FF },
+        { "\xE0\xA0\x80", 0x800 }, { "\xE1\x80\x80", 0x1000 }, { "\xEF\xBF\xBD", 0xFFFD },
+        { "\xF0\x90\x80\x80", 0x10000 }, { "\xF1\x80\x80\x80", 0x40000 }, { "\xF4\x8F\xBF\xBD", 0x10FFFD } };
+    for (const auto &[bytes, code] : codes) {
+        const QString text = QString::fromUcs4(&code, 1);
+        EXPECT_EQ(decodeText("<" + bytes + ">").text, u'<' + text + u'>') << bytes.toHex().constData();
+        EXPECT_EQ(recoded(bytes), bytes) << bytes.toHex().constData();
+        EXPECT_EQ(nameFromDisk(bytes), text) << bytes.toHex().constData();
+        EXPECT_EQ(nameToDisk(text), bytes) << bytes.toHex().constData();
+    }
+}
+
+TEST(TextEncoding, WhatIsUtf8IsDecidedAsTheToolkitDoes)
+{
+    const QByteArray leads(
+        "a\x7F\x80\xBF\xC0\xC1\xC2\xDF\xE0\xE1\xEC\xED\xEE\xEF\xF0\xF1\xF3\xF4\xF5\xF7\xF8\xFF");
+    const QByteArray others("a\x7F\x80\x8F\x90\x9F\xA0\xBF\xC0\xFF");
+    QByteArrayList starts { QByteArray() };
+    for (int length = 1; length <= 4; ++length) {
+        QByteArrayList longer;
+        for (const QByteArray &start : starts) {
+            for (const char byte : length == 1 ? leads : others)
+                longer += start + byte;
+        }
+        for (const QByteArray &bytes : longer) {
+            QStringDecoder toolkit(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+            const QString read = toolkit("\xC3\xB1" + bytes);
+            const DecodedText text = decodeText("\xC3\xB1" + bytes);
+            ASSERT_EQ(text.encoding == Encoding::Utf8, !toolkit.hasError()) << bytes.toHex().constData();
+            ASSERT_TRUE(toolkit.hasError() || text.text == read) << bytes.toHex().constData();
+        }
+        starts = longer;
+    }
+}
+
 TEST(TextEncoding, EveryByteComesBack)
 {
     for (int value = 0; value < 256; ++value) {
@@ -141,6 +181,15 @@ TEST(TextEncoding, UndefinedBytesStandForThemselves)
     EXPECT_EQ(decodeText("\x81\x8D\x8F\x90\x9D").text, u"\u0081\u008D\u008F\u0090\u009D"_s);
 }
 
+TEST(TextEncoding, OtherBytesOf1252StandForTheirOwnCode)
+{
+    for (int value = 0; value < 256; ++value) {
+        if ((value < 0x80 || value >= 0xA0) && value != 26) {
+            EXPECT_EQ(decodeText(QByteArray(1, byteOf(value))).text, QString(QChar(value))) << value;
+        }
+    }
+}
+
 TEST(TextEncoding, FileKeepsItsOwn)
 {
     EXPECT_EQ(encoded(u"ñ€"_s, Encoding::Windows1252), "\xF1\x80");
@@ -153,6 +202,9 @@ TEST(TextEncoding, MovesToUtf8_WhenACharacterIsNotInWindows1252)
     EXPECT_EQ(encoded(u"ñ Ω"_s, Encoding::Windows1252), "\xC3\xB1 \xCE\xA9");
     EXPECT_EQ(encoded(u"\uF7F1"_s, Encoding::Windows1252), "\xEF\x9F\xB1");
     EXPECT_EQ(encoded(u"\u0080"_s, Encoding::Windows1252), "\xC2\x80");
+    EXPECT_EQ(encoded(u"\u009F"_s, Encoding::Windows1252), "\xC2\x9F");
+    EXPECT_EQ(encoded(u"\u00A0ÿ"_s, Encoding::Windows1252), "\xA0\xFF");
+    EXPECT_EQ(encoded(u"\u0100"_s, Encoding::Windows1252), "\xC4\x80");
 }
 
 TEST(TextEncoding, MovesToUtf8_WhenTheBytesWouldReadAsUtf8)
@@ -202,9 +254,21 @@ TEST(NameEncoding, BytesOfThePrivateCharactersThemselvesAreTakenOneByOne)
     const QByteArray bytes("\xEF\x9F\xB1"); // U+F7F1
     EXPECT_EQ(nameFromDisk(bytes), u"\uF7EF\uF79F\uF7B1"_s);
     EXPECT_EQ(nameToDisk(nameFromDisk(bytes)), bytes);
-    // Below the range nothing is special.
+    EXPECT_EQ(nameFromDisk("\x80\xFF"), u"\uF780\uF7FF"_s);
+    EXPECT_EQ(nameToDisk(u"\uF780\uF7FF"_s), "\x80\xFF");
+    for (const QByteArray own : { "\xEF\x9E\x80", "\xEF\x9F\xBF" })
+        EXPECT_EQ(nameFromDisk(own).size(), 3) << own.toHex().constData();
+    // Below and above the range nothing is special.
     EXPECT_EQ(nameFromDisk("\xEF\x9D\xBF"), u"\uF77F"_s);
     EXPECT_EQ(nameToDisk(u"\uF77F"_s), "\xEF\x9D\xBF");
+    EXPECT_EQ(nameFromDisk("\xEF\xA0\x80"), u"\uF800"_s);
+    EXPECT_EQ(nameToDisk(u"\uF800"_s), "\xEF\xA0\x80");
+}
+
+TEST(NameEncoding, CharactersBeyondTheFirstPlaneAreOneCode)
+{
+    EXPECT_EQ(nameFromDisk("a\xF0\x9F\x8E\xAE\xFF.zip"), u"a\U0001F3AE\uF7FF.zip"_s);
+    EXPECT_EQ(nameToDisk(u"a\U0001F3AE\uF7FF.zip"_s), "a\xF0\x9F\x8E\xAE\xFF.zip");
 }
 
 TEST(NameEncoding, EveryNameComesBack)

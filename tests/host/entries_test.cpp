@@ -1,5 +1,7 @@
 #include "disktest.h"
 
+#include "systemcalls.h"
+
 #include "host/lengths.h"
 #include "host/paths.h"
 
@@ -146,6 +148,18 @@ TEST_F(Lengths, OfManyFilesOfADirectory_AreThoseOfEach)
             EXPECT_EQ(ofMany, length);
         }
     }
+}
+
+// Thousands of them are asked for at once.
+TEST_F(Lengths, OfManyFilesOfADirectory_TakeASingleLookEach_WhereTheNameIsSpelledAsOnTheDisk)
+{
+    makeFile("One.nes", "abc");
+    const LengthsIn lengths(path(u""_s) + u'/');
+    const int before = systemcalls::looks();
+    EXPECT_EQ(lengths(path(u"One.nes"_s)), 3);
+    EXPECT_EQ(systemcalls::looks(), before + 1);
+    EXPECT_EQ(lengths(path(u"ONE.NES"_s)), 3);
+    EXPECT_GT(systemcalls::looks(), before + 2) << "the looks aren't counted";
 }
 
 using Making = DiskTest;

@@ -65,6 +65,15 @@ TEST(Numbers, HalvesOfHundredthsAreRoundedAwayFromZero)
     EXPECT_EQ(formatTwoDecimals(9.999, English), u"10.0"_s);
 }
 
+TEST(Numbers, ANumberOfOnlyNinesGainsADigit)
+{
+    EXPECT_EQ(formatGrouped(9.5, English), u"10"_s);
+    EXPECT_EQ(formatGrouped(99.5, English), u"100"_s);
+    EXPECT_EQ(formatGrouped(-999.5, Spanish), u"-1.000"_s);
+    EXPECT_EQ(formatTwoDecimals(99.999, Spanish), u"100,0"_s);
+    EXPECT_EQ(formatTwoDecimals(-9.996, English), u"-10.0"_s);
+}
+
 TEST(Numbers, RoundingGoesByTheDecimalDigits_WhereTheBitsLieBelowTheHalf)
 {
     EXPECT_EQ(formatTwoDecimals(1.005, English), u"1.01"_s);

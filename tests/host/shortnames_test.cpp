@@ -158,6 +158,36 @@ TEST_F(ShortPaths, NumberStandsAtTheEnd_WhereThereIsNoPoint)
     EXPECT_EQ(form(u"a b"_s), u"a_b~2"_s);
 }
 
+TEST_F(ShortPaths, NumberStandsInFront_WhereThePointBeginsTheName)
+{
+    makeFile(".a b");
+    makeFile(".a_b");
+    EXPECT_EQ(form(u".a b"_s), u"~2.a_b"_s);
+    EXPECT_EQ(form(u".a_b"_s), u".a_b"_s);
+}
+
+// The plain form of "A B" would be found as "A_B" in any case, and is itself the name of another file.
+TEST_F(ShortPaths, PlainFormIsNotGivenAway_WhereAFileHasThatVeryName)
+{
+    makeFile("A_B");
+    makeFile("a_b");
+    makeFile("A B");
+    EXPECT_EQ(form(u"a_b"_s), u"a_b"_s);
+    EXPECT_EQ(form(u"A_B"_s), u"a_b~2"_s);
+    EXPECT_EQ(form(u"A B"_s), u"a_b~3"_s);
+}
+
+// "a b~2" has its plain form, also where another one is to be numbered that comes ahead of it.
+TEST_F(ShortPaths, PlainFormsAreGivenAheadOfNumberedOnes)
+{
+    makeFile("A B");
+    makeFile("a b");
+    makeFile("a b~2");
+    EXPECT_EQ(form(u"A B"_s), u"a_b"_s);
+    EXPECT_EQ(form(u"a b~2"_s), u"a_b~2"_s);
+    EXPECT_EQ(form(u"a b"_s), u"a_b~3"_s);
+}
+
 TEST_F(ShortPaths, FormIsFoundInAnyCase)
 {
     makeFile("The Game.ZIP");

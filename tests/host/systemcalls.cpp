@@ -28,6 +28,7 @@ Plan plan;
 std::size_t mostWritten = std::numeric_limits<std::size_t>::max();
 
 long tickOfChanges = 0;
+int looksAtPaths = 0;
 
 int withTicks(int result, struct stat *status)
 {
@@ -104,7 +105,14 @@ int fstat(int file, struct stat *status) noexcept
 
 int stat(const char *path, struct stat *status) noexcept
 {
+    ++looksAtPaths;
     return withTicks(next<int(const char *, struct stat *)>("stat")(path, status), status);
+}
+
+int lstat(const char *path, struct stat *status) noexcept
+{
+    ++looksAtPaths;
+    return next<int(const char *, struct stat *)>("lstat")(path, status);
 }
 
 int unlinkat(int directory, const char *path, int flags) noexcept
@@ -194,6 +202,11 @@ CoarseClock::CoarseClock(long tick)
 CoarseClock::~CoarseClock()
 {
     tickOfChanges = 0;
+}
+
+int looks()
+{
+    return looksAtPaths;
 }
 
 void setMostWritten(std::size_t bytes)

@@ -47,6 +47,9 @@ public:
     static constexpr long WholeSeconds = 1'000'000'000;
 };
 
+// How many looks at a path, by stat or lstat, there have been so far.
+int looks();
+
 // From now on a write takes no more than this many bytes at once.
 void setMostWritten(std::size_t bytes);
 
