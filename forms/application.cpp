@@ -2,12 +2,14 @@
 
 #include "forms/comboaccess.h"
 #include "forms/guard.h"
+#include "forms/shownpart.h"
 #include "forms/units.h"
 
 #include <QDialog>
 #include <QKeyEvent>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyleOption>
 
 using namespace Qt::StringLiterals;
 
@@ -29,6 +31,42 @@ public:
         if (hint == SH_ComboBox_Popup)
             return 0;
         return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+
+    // Of texts without end only what can be seen is measured and painted.
+    void drawItemText(QPainter *painter, const QRect &place, int flags, const QPalette &palette, bool enabled,
+        const QString &text, QPalette::ColorRole role) const override
+    {
+        QProxyStyle::drawItemText(painter, place, flags, palette, enabled, shownPart(text), role);
+    }
+
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+        const QWidget *widget) const override
+    {
+        if (const auto *row = qstyleoption_cast<const QStyleOptionViewItem *>(option)) {
+            const QStyleOptionViewItem shown = shownRow(*row);
+            QProxyStyle::drawControl(element, &shown, painter, widget);
+        } else {
+            QProxyStyle::drawControl(element, option, painter, widget);
+        }
+    }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+        const QWidget *widget) const override
+    {
+        if (const auto *row = qstyleoption_cast<const QStyleOptionViewItem *>(option)) {
+            const QStyleOptionViewItem shown = shownRow(*row);
+            return QProxyStyle::sizeFromContents(type, &shown, size, widget);
+        }
+        return QProxyStyle::sizeFromContents(type, option, size, widget);
+    }
+
+private:
+    static QStyleOptionViewItem shownRow(const QStyleOptionViewItem &row)
+    {
+        QStyleOptionViewItem shown = row;
+        shown.text = shownPart(row.text);
+        return shown;
     }
 };
 

@@ -2,6 +2,7 @@
 
 #include "forms/growth.h"
 #include "forms/shape.h"
+#include "forms/shownpart.h"
 
 #include <QEvent>
 
@@ -13,8 +14,9 @@ namespace forms {
 
 namespace {
 
-int widestPart(const QString &text, const QFontMetrics &metrics, const QString &separators)
+int widestPart(const QString &whole, const QFontMetrics &metrics, const QString &separators)
 {
+    const QString text = shownPart(whole);
     int widest = 0;
     qsizetype start = 0;
     for (qsizetype i = 0; i <= text.size(); ++i) {

@@ -6,6 +6,7 @@
 
 #include "core/catalogo.h"
 
+#include "forms/shownpart.h"
 #include "forms/windowmove.h"
 #include "forms/yield.h"
 
@@ -91,7 +92,7 @@ void Portada::Lista1_MouseMove(const forms::Mouse &raton)
     if (raton.button != 0)
         return;
     ElementoBajoRaton = Lista1->ItemFromPoint(forms::pixels(raton.x), forms::pixels(raton.y));
-    const QString texto = Lista1->List(ElementoBajoRaton);
+    const QString texto = forms::shownPart(Lista1->List(ElementoBajoRaton));
     const int ancho = forms::twips(fontMetrics().horizontalAdvance(texto));
     const forms::Place lista = forms::placeOf(*Lista1);
     if (ElementoBajoRaton < 0 || ElementoBajoRaton > Lista1->ListCount() || ancho <= lista.width) {

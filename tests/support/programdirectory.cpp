@@ -1,5 +1,6 @@
 #include "tests/support/programdirectory.h"
 
+#include "host/encoding.h"
 #include "host/paths.h"
 
 #include <QDir>
@@ -12,13 +13,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The texts used here are in Latin-1, which that part of Windows-1252 agrees with.
 QByteArray bytesOf(const QStringList &lines)
 {
-    QByteArray bytes;
+    QString text;
     for (const QString &line : lines)
-        bytes += line.toLatin1() + "\r\n";
-    return bytes;
+        text += line + u"\r\n"_s;
+    return host::encodeText({ text });
 }
 
 const QString EndOfSystem = u"'"_s + QString(70, u'-');
