@@ -17,7 +17,8 @@ QString LineaDeCierre();
 // A system with no web page, "*.ZIP" and no emulators ahead of each line that begins with "[".
 QString ConSistemaEnBase(const QString &texto, const QString &sistema);
 
-// An emulator with no web page, the last of the system that this "-" line opens.
+// An emulator with no web page, the last of the system that this "-" line opens. A system without a closing
+// line gets one.
 QString ConEmuladorEnBase(const QString &texto, const QString &lineaDeSistema, const QString &emulador);
 
 // Zembro.emu.
@@ -52,21 +53,22 @@ QString ConEmuladorConfigurado(
     const QString &texto, const QString &lineaDeSistema, const EmuladorNuevo &emulador);
 
 // The block in the place of the first one of that name in the file, whichever system that belongs to. The old
-// block runs up to the next line that begins with an apostrophe, and goes whole, unknown lines too.
+// block runs up to the next line that begins with an apostrophe, or with what opens another emulator or
+// system or ends the data, and goes whole, unknown lines too.
 QString ConEmuladorCambiado(const QString &texto, const EmuladorNuevo &emulador);
 
 // Both files: the same change keeps them equal.
 
 // The extensions in upper case, up to the first empty one, behind the system's "WEB1" line, and a closing
-// apostrophe, in the place of all up to the next line that begins with an apostrophe. 151 extensions leave no
-// room for the closing line.
+// apostrophe, in the place of all up to the next line that begins with an apostrophe. The line that closes
+// the system stays, and so does an emulator. 151 extensions leave no room for the closing apostrophe.
 QString ConExtensiones(const QString &texto, const QString &sistema, const QStringList &extensiones);
 
-// The address behind the "-" line in the place of all up to the next "WEB1" line.
+// The address behind the "-" line in the place of all up to the block's "WEB1" line, if it has one.
 QString ConWebDeSistema(const QString &texto, const QString &sistema, const QString &direccion);
 
-// The address behind the first "+" line of that name behind the system's "-" line, in the place of all up to
-// the next "WEB2" line.
+// The address behind the emulator's "+" line in the block of its system, in the place of all up to its "WEB2"
+// line, if it has one.
 QString ConWebDeEmulador(
     const QString &texto, const QString &sistema, const QString &emulador, const QString &direccion);
 

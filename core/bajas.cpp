@@ -1,8 +1,10 @@
 #include "core/bajas.h"
 
 #include "core/altas.h"
+#include "core/bloques.h"
 #include "core/catalogo.h"
-#include "core/lineas.h"
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -10,97 +12,176 @@ namespace core {
 
 QString SinSistema(const QString &texto, const QString &sistema)
 {
-    const QString lineaDeSistema = u'-' + sistema;
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
     Copia copia;
-    bool dentro = false;
-    for (const LineaConFin &linea : EnLineas(texto)) {
-        if (linea.linea == lineaDeSistema)
-            dentro = true;
-        if (!dentro)
-            copia.Copiar(linea);
-        if (linea.linea.startsWith(u"'-"))
-            dentro = false;
+    size_t copiadas = 0;
+    for (const Bloque &bloque : BloquesDe(lineas, u'-' + sistema)) {
+        copia.Copiar(lineas, copiadas, bloque.inicio);
+        copiadas = bloque.fin;
     }
+    copia.Copiar(lineas, copiadas, lineas.size());
     return copia.Texto();
 }
 
 QString SinEmuladorEnBase(const QString &texto, const QString &sistema, const QString &emulador)
 {
-    const QString lineaDeSistema = u'-' + sistema;
-    const QString lineaDeEmulador = u'+' + emulador;
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
     Copia copia;
-    bool enSistema = false;
-    bool corta = false;
-    for (const LineaConFin &linea : EnLineas(texto)) {
-        if (linea.linea == lineaDeSistema)
-            enSistema = true;
-        if (enSistema && linea.linea == lineaDeEmulador)
-            corta = true;
-        if (!corta)
-            copia.Copiar(linea);
-        else if (linea.linea.startsWith(u"WEB2"))
-            enSistema = corta = false;
+    size_t copiadas = 0;
+    for (const Bloque &bloque : BloquesDe(lineas, u'-' + sistema)) {
+        const std::optional<size_t> suya = LineaDeEmulador(lineas, bloque, emulador);
+        if (!suya)
+            continue;
+        const size_t fin = PrimeraConInicio(lineas, *suya + 1, bloque.cierre(), u"+");
+        const size_t web = PrimeraConInicio(lineas, *suya + 1, fin, u"WEB2");
+        copia.Copiar(lineas, copiadas, *suya);
+        copiadas = (web < fin ? web : *suya) + 1;
     }
+    copia.Copiar(lineas, copiadas, lineas.size());
     return copia.Texto();
 }
 
+namespace {
+
+QString sinUnico(const std::vector<LineaConFin> &lineas, const Bloque &bloque)
+{
+    const size_t apostrofo = PrimeraConInicio(lineas, bloque.inicio, bloque.fin, u"'");
+    Copia copia;
+    copia.Copiar(lineas, 0, apostrofo);
+    if (apostrofo < bloque.fin)
+        copia.Nueva(LineaDeCierre());
+    copia.Copiar(lineas, bloque.fin, lineas.size());
+    return copia.Texto();
+}
+
+// Where the last emulator's lines begin: at the block's apostrophe of the number told, counted from 1, or, if
+// that stands elsewhere than between the emulator ahead and its own line, at the apostrophe next to that; at
+// its own line where it has none. The end of the block where that has too few.
+size_t inicioDelUltimo(
+    const std::vector<LineaConFin> &lineas, const Bloque &bloque, size_t suya, int apostrofos)
+{
+    size_t contado = bloque.inicio;
+    for (int i = 0; i < apostrofos && contado < bloque.cierre(); ++i)
+        contado = PrimeraConInicio(lineas, contado + 1, bloque.cierre(), u"'");
+    if (contado >= bloque.cierre())
+        return bloque.cierre();
+    size_t cercano = suya;
+    for (size_t i = suya - 1; !EsDelCatalogo(lineas[i].linea); --i) {
+        if (i == contado)
+            return contado;
+        if (cercano == suya && lineas[i].linea.startsWith(u'\''))
+            cercano = i;
+    }
+    return cercano;
+}
+
+QString sinUltimo(const std::vector<LineaConFin> &lineas, const Bloque &bloque, int total)
+{
+    size_t suya = bloque.cierre();
+    while (suya > bloque.inicio && !lineas[suya - 1].linea.startsWith(u'+'))
+        --suya;
+    Copia copia;
+    const bool hay = suya > bloque.inicio;
+    copia.Copiar(lineas, 0, hay ? inicioDelUltimo(lineas, bloque, suya - 1, total) : bloque.cierre());
+    copia.Copiar(lineas, bloque.cierre(), lineas.size());
+    return copia.Texto();
+}
+
+} // namespace
+
 QString SinUnicoEmulador(const QString &texto, const QString &sistema)
 {
-    const QString lineaDeSistema = u'-' + sistema;
-    Copia copia;
-    bool enCabeza = false;
-    bool corta = false;
-    for (const LineaConFin &linea : EnLineas(texto)) {
-        if (linea.linea == lineaDeSistema)
-            enCabeza = true;
-        if (enCabeza && linea.linea.startsWith(u'\'')) {
-            copia.Nueva(LineaDeCierre());
-            corta = true;
-            enCabeza = false;
-        }
-        if (!corta)
-            copia.Copiar(linea);
-        if (corta && linea.linea.startsWith(u"'-"))
-            corta = enCabeza = false;
-    }
-    return copia.Texto();
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    const std::vector<Bloque> bloques = BloquesDe(lineas, u'-' + sistema);
+    return bloques.empty() ? texto : sinUnico(lineas, bloques.front());
+}
+
+QString SinUltimoEmulador(const QString &texto, const QString &sistema, int total)
+{
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    const std::vector<Bloque> bloques = BloquesDe(lineas, u'-' + sistema);
+    return bloques.empty() ? texto : sinUltimo(lineas, bloques.front(), total);
 }
 
 QString SinEmulador(const QString &texto, const QString &emulador)
 {
     const QString lineaDeEmulador = u'+' + emulador;
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    size_t suya = 0;
+    while (suya < lineas.size() && lineas[suya].linea != lineaDeEmulador)
+        ++suya;
+    if (suya == lineas.size())
+        return texto;
     Copia copia;
-    bool cortado = false;
-    bool corta = false;
-    for (const LineaConFin &linea : EnLineas(texto)) {
-        if (!cortado && linea.linea == lineaDeEmulador)
-            corta = cortado = true;
-        if (!corta)
-            copia.Copiar(linea);
-        if (linea.linea.startsWith(u'\''))
-            corta = false;
-    }
+    copia.Copiar(lineas, 0, suya);
+    size_t detras = FinDeEmulador(lineas, suya);
+    const bool apostrofo = detras < lineas.size() && lineas[detras].linea.startsWith(u'\'');
+    if (apostrofo && !lineas[detras].linea.startsWith(u"'-"))
+        detras = CopiaSinRestos(copia, lineas, detras + 1);
+    copia.Copiar(lineas, detras, lineas.size());
     return copia.Texto();
 }
 
-QString SinUltimoEmulador(const QString &texto, const QString &sistema, int total)
+namespace {
+
+// True if both hold the same of a system, line for line.
+bool mismaFila(const Modulo &M, int fila, const Modulo &N, int otra)
 {
-    const QString lineaDeSistema = u'-' + sistema;
-    Copia copia;
-    bool enSistema = false;
-    bool corta = false;
-    int apostrofos = 0;
-    for (const LineaConFin &linea : EnLineas(texto)) {
-        if (linea.linea == lineaDeSistema)
-            enSistema = true;
-        if (enSistema && linea.linea.startsWith(u'\'') && ++apostrofos == total)
-            corta = true;
-        if (linea.linea.startsWith(u"'-"))
-            corta = false;
-        if (!corta)
-            copia.Copiar(linea);
+    static constexpr Tabla2<QString> Modulo::*tablas[] = { &Modulo::Cat_Nombre, &Modulo::Cat_EXE,
+        &Modulo::Cat_XDI, &Modulo::Cat_ROM, &Modulo::Cat_IMG, &Modulo::Cat_PAR1, &Modulo::Cat_PAR2,
+        &Modulo::Cat_EXT, &Modulo::Cat_WEB2 };
+    for (const auto tabla : tablas) {
+        for (int e = 0; e < MaxSistemas; ++e) {
+            if ((M.*tabla)(fila, e) != (N.*tabla)(otra, e))
+                return false;
+        }
     }
-    return copia.Texto();
+    return M.Cat_WEB1(fila) == N.Cat_WEB1(otra);
+}
+
+} // namespace
+
+std::optional<int> BloqueDeLaFila(const Modulo &M, int fila, const QString &texto)
+{
+    const auto leido = std::make_unique<Modulo>();
+    try {
+        LectorDeCatalogo lector(*leido);
+        for (const LineaConFin &linea : EnLineas(texto))
+            lector.Linea(linea.linea.toString());
+    } catch (const host::Failure &) {
+        return {}; // it no longer fits the tables
+    }
+    int homonimo = 0;
+    for (int s = 0; s <= leido->Indice_Sistema; ++s) {
+        if (leido->Cat_Nombre(s, 0) != M.Cat_Nombre(fila, 0))
+            continue;
+        if (mismaFila(M, fila, *leido, s))
+            return homonimo;
+        ++homonimo;
+    }
+    return {};
+}
+
+std::optional<QString> SinSistemaDeLaFila(const Modulo &M, int fila, const QString &texto)
+{
+    if (!BloqueDeLaFila(M, fila, texto))
+        return {};
+    return SinSistema(texto, Valor(M.Cat_Nombre(fila, 0), 1));
+}
+
+std::optional<QString> SinEmuladorDeLaFila(const Modulo &M, int fila, int columna, const QString &texto)
+{
+    const std::optional<int> cual = BloqueDeLaFila(M, fila, texto);
+    if (!cual)
+        return {};
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    const Bloque bloque = BloquesDe(lineas, M.Cat_Nombre(fila, 0)).at(static_cast<size_t>(*cual));
+    const int total = TotalEmuladores(M, fila);
+    if (total == 1)
+        return sinUnico(lineas, bloque);
+    if (columna == total)
+        return sinUltimo(lineas, bloque, total);
+    return SinEmulador(texto, Valor(M.Cat_Nombre(fila, columna), 1));
 }
 
 int PosicionParaBorrar(const Modulo &M, const QString &sistema)

@@ -35,6 +35,12 @@ void Copia::Copiar(const LineaConFin &linea)
     m_texto += linea.fin;
 }
 
+void Copia::Copiar(const std::vector<LineaConFin> &lineas, size_t desde, size_t hasta)
+{
+    for (size_t i = desde; i < hasta; ++i)
+        Copiar(lineas[i]);
+}
+
 void Copia::Nueva(const QString &linea)
 {
     cierraLinea();

@@ -20,6 +20,7 @@ std::vector<LineaConFin> EnLineas(QStringView texto);
 class Copia {
 public:
     void Copiar(const LineaConFin &linea);
+    void Copiar(const std::vector<LineaConFin> &lineas, size_t desde, size_t hasta); // `hasta` not included
     void Nueva(const QString &linea);
 
     const QString &Texto() const { return m_texto; }

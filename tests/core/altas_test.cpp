@@ -212,3 +212,26 @@ TEST_F(Altas, OtherLinesKeepTheirEndsAndBytes_InAFileOfLineFeedsWithoutALastEnd)
         "' \xF1\n-S\n+E\n'\r\n" + BloqueNuevo + "'-\n[");
     EXPECT_EQ(ConCambiado("-S\n+New\nEXE=\xF1\n'", nuevo(u"New"_s)), "-S\n" + BloqueNuevo + "'");
 }
+
+TEST_F(Altas, ASystemWithoutAClosingLineGetsOne_AndTheNextOneNoEmulator)
+{
+    for (const QByteArray resto : { "-T\n+F\n'-\n[EOF]\n", "[EOF]\n'-\n", "" }) {
+        EXPECT_EQ(
+            ConEmuladorEnBase("-S\n'\n" + resto, u"-S"_s, u"E"_s), "-S\n'\n+E\r\nWEB2=\r\n" + Cierre + resto);
+        EXPECT_EQ(ConEmulador("-S\n'\n+E\n" + resto, u"-S"_s, nuevo(u"New"_s)),
+            "-S\n'\n+E\n'\r\n" + BloqueNuevo + Cierre + resto);
+    }
+}
+
+TEST_F(Altas, AChangedEmulatorTakesNoOtherAlong_WhereNoApostropheEndsIt)
+{
+    for (const QByteArray resto : { "+F\nEXE=f\n'-\n", "-T\n'\n+F\n'-\n", "[EOF]\n'\n", "" })
+        EXPECT_EQ(
+            ConCambiado("-S\n'\n+New\nEXE=old\n" + resto, nuevo(u"New"_s)), "-S\n'\n" + BloqueNuevo + resto);
+}
+
+TEST_F(Altas, AChangedEmulatorHasNoOldValuesBehindAnApostropheOfTheUsersOwn)
+{
+    EXPECT_EQ(ConCambiado("+New\nEXE=old\n' mine\nROM=old\nmine\n'\n+F\nROM=f\n'-\n", nuevo(u"New"_s)),
+        BloqueNuevo + "' mine\nmine\n'\n+F\nROM=f\n'-\n");
+}

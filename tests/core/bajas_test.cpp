@@ -142,9 +142,9 @@ TEST_F(Bajas, OfTwoEmulatorsOfOneNameTheFirstInTheFileGoes_EvenFromAnotherSystem
         SistemaDe(CabezaAlfa, { "E", "A2" }) + SistemaDe(CabezaBeta, { "E", "B2" }) + Fin;
     EXPECT_EQ(SinEmulador(bytes, u"E"_s),
         SistemaDe(CabezaAlfa, { "A2" }) + SistemaDe(CabezaBeta, { "E", "B2" }) + Fin);
-    // The last of its system takes the closing line along.
+    // The closing line of the other system stays.
     EXPECT_EQ(SinEmulador(SistemaDe(CabezaAlfa, { "E" }) + SistemaDe(CabezaBeta, { "E", "B2" }), u"E"_s),
-        CabezaAlfa + "'\r\n" + SistemaDe(CabezaBeta, { "E", "B2" }));
+        CabezaAlfa + "'\r\n" + Cierre + SistemaDe(CabezaBeta, { "E", "B2" }));
 }
 
 TEST_F(Bajas, TheLastEmulatorGoesWithTheApostropheAheadOfIt_AndTheClosingLineStays)
@@ -157,9 +157,53 @@ TEST_F(Bajas, TheLastEmulatorGoesWithTheApostropheAheadOfIt_AndTheClosingLineSta
     EXPECT_EQ(SinUltimo(dos, u"Alfa"_s, 2), Cabecera + SistemaDe(CabezaAlfa, { "A1" }) + gamma + Fin);
 }
 
-TEST_F(Bajas, AnApostropheOfTheUsersOwnCountsAsOneOfTheBlocks)
+TEST_F(Bajas, AnApostropheOfTheUsersOwnTakesNoOtherEmulatorAlong)
 {
-    EXPECT_EQ(SinUltimo("-S\n' mine\n'\n+E\n'\n+F\n'-\nx\n", u"S"_s, 2), "-S\n' mine\n'-\nx\n");
+    const struct {
+        QByteArray antes;
+        QByteArray despues;
+    } casos[] = {
+        { "-S\n' mine\n'\n+E\n'\n+F\n'-\nx\n", "-S\n' mine\n'\n+E\n'-\nx\n" },
+        { "-S\n'\n'\n+E\nEXE=e\n'\n+F\n'-\n", "-S\n'\n'\n+E\nEXE=e\n'-\n" },
+        { "-S\n'\n+E\n' mine\nEXE=e\n'\n+F\n'-\n", "-S\n'\n+E\n' mine\nEXE=e\n'-\n" },
+        { "-S\n'\n+E\nEXE=e\n' mine\nmine\n'\n+F\n'-\n", "-S\n'\n+E\nEXE=e\n'-\n" },
+        { "-S\n+E\n'\n+F\nEXE=f\n' mine\nROM=f\n'-\n", "-S\n+E\n'-\n" },
+        { "-S\n'\n+E\n+F\n' mine\n'-\n", "-S\n'\n+E\n'-\n" },
+    };
+    for (const auto &caso : casos)
+        EXPECT_EQ(SinUltimo(caso.antes, u"S"_s, 2), caso.despues) << caso.antes.toStdString();
+}
+
+TEST_F(Bajas, AnApostropheOfTheUsersOwnGivesNoValuesToTheEmulatorAhead)
+{
+    EXPECT_EQ(SinEmulador("-S\n'\n+E\nEXE=e\n'\n+F\nEXE=f\n' mine\nROM=f\nmine\n'\n+G\nROM=g\n'-\n", u"F"_s),
+        "-S\n'\n+E\nEXE=e\n'\nmine\n'\n+G\nROM=g\n'-\n");
+}
+
+TEST_F(Bajas, WithoutAClosingLineNothingOfTheNextSystemGoes)
+{
+    const QByteArray resto = "-T\nWEB1=t\n'\n+F\nWEB2=f\nEXE=f\n'-\n[EOF]\nlast";
+    const QByteArray sistema = "-S\nWEB1=s\n'\n+E\nEXE=e\n'\n+F\nEXE=f\n";
+    EXPECT_EQ(SinSistema(sistema + resto, u"S"_s), resto);
+    EXPECT_EQ(SinSistema(sistema + "[EOF]\nlast", u"S"_s), "[EOF]\nlast");
+    EXPECT_EQ(SinSistema(sistema, u"S"_s), "");
+    EXPECT_EQ(SinUltimo(sistema + resto, u"S"_s, 2), "-S\nWEB1=s\n'\n+E\nEXE=e\n" + resto);
+    EXPECT_EQ(SinEmulador(sistema + resto, u"F"_s), "-S\nWEB1=s\n'\n+E\nEXE=e\n'\n" + resto);
+    EXPECT_EQ(SinUnico("-S\nWEB1=s\n'\n+E\nEXE=e\n" + resto, u"S"_s), "-S\nWEB1=s\n" + Cierre + resto);
+    EXPECT_EQ(SinUnico("-S\nWEB1=s\n" + resto, u"S"_s), "-S\nWEB1=s\n" + resto);
+}
+
+TEST_F(Bajas, AnEmulatorOfTheDatabaseWithoutAnAddressTakesNoOtherAlong)
+{
+    for (const QByteArray resto : { "+F\nWEB2=f\n'-\n-T\n+E\nWEB2=t\n'-\n[", "'-\n-T\n+E\nWEB2=t\n'-\n[",
+             "-T\n+E\nWEB2=t\n", "[\n", "" })
+        EXPECT_EQ(SinEmuladorEnBase("-S\n'\n+E\n" + resto, u"S"_s, u"E"_s), "-S\n'\n" + resto);
+}
+
+TEST_F(Bajas, AnEmulatorOfTheDatabaseIsLookedForInItsSystemAlone)
+{
+    const QByteArray bytes = Cabecera + Alfa + Gamma + Fin;
+    EXPECT_EQ(SinEmuladorEnBase(bytes, u"Alfa"_s, u"G1"_s), bytes);
 }
 
 TEST_F(Bajas, NothingGoes_WhereTheBlocksAreFewerThanTold)
@@ -177,6 +221,85 @@ TEST_F(Bajas, RemovedInTurnASystemsEmulatorsLeaveItEmpty)
     bytes = SinUltimo(bytes, u"Gamma"_s, 2);
     bytes = SinUnico(bytes, u"Gamma"_s);
     EXPECT_EQ(bytes, Cabecera + CabezaGamma + Cierre + beta + Fin);
+}
+
+// What the tables of an earlier moment take out of the file as it is now.
+class BajasDeLaFila : public CatalogosDePrueba {
+protected:
+    void Lee(const QByteArray &bytes)
+    {
+        Pon(u"Zembro.emu"_s, bytes);
+        core::LeeCatalogo(M);
+    }
+    static QString Texto(const QByteArray &bytes) { return QString::fromLatin1(bytes); }
+    std::optional<QString> SinEmulador(int fila, int columna, const QByteArray &bytes) const
+    {
+        return core::SinEmuladorDeLaFila(M, fila, columna, Texto(bytes));
+    }
+    std::optional<QString> SinSistema(int fila, const QByteArray &bytes) const
+    {
+        return core::SinSistemaDeLaFila(M, fila, Texto(bytes));
+    }
+
+    const QByteArray alfa = SistemaDe(CabezaAlfa, { "A1", "A2", "A3" });
+    const QByteArray beta = SistemaDe(CabezaBeta, { "B1" });
+    const QByteArray gamma = SistemaDe(CabezaGamma, { "G1", "G2" });
+};
+
+TEST_F(BajasDeLaFila, TheFileAsTheTablesHaveItLosesWhatWasNamed)
+{
+    const QByteArray bytes = Cabecera + alfa + beta + gamma + Fin;
+    Lee(bytes);
+    EXPECT_EQ(SinSistema(1, bytes), Texto(Cabecera + alfa + gamma + Fin));
+    EXPECT_EQ(SinEmulador(0, 2, bytes),
+        Texto(Cabecera + SistemaDe(CabezaAlfa, { "A1", "A3" }) + beta + gamma + Fin));
+    EXPECT_EQ(SinEmulador(0, 3, bytes),
+        Texto(Cabecera + SistemaDe(CabezaAlfa, { "A1", "A2" }) + beta + gamma + Fin));
+    EXPECT_EQ(SinEmulador(1, 1, bytes), Texto(Cabecera + alfa + CabezaBeta + Cierre + gamma + Fin));
+}
+
+TEST_F(BajasDeLaFila, NothingIsTakenOutOfASystemThatHasChanged)
+{
+    Lee(Cabecera + alfa + beta + gamma + Fin);
+    const QByteArray cambiados[] = { SistemaDe(CabezaAlfa, { "A1", "A2", "A3", "A4" }),
+        SistemaDe(CabezaAlfa, { "A1", "A2" }), SistemaDe(CabezaAlfa, { "A2", "A1", "A3" }),
+        SistemaDe(CabezaAlfa, { "A0", "A1", "A2", "A3" }), CabezaAlfa + Cierre, "",
+        QByteArray(alfa).replace("EXE=/bin/A2", "EXE=/bin/other"),
+        QByteArray(alfa).replace("PAR2=\r\n'-", "PAR2=x\r\n'-"), QByteArray(alfa).replace("*.BIN", "*.C"),
+        QByteArray(alfa).replace("WEB1=", "WEB1=x"), QByteArray(alfa).replace("-Alfa", "-ALFA") };
+    for (const QByteArray &cambiado : cambiados) {
+        const QByteArray bytes = Cabecera + cambiado + beta + gamma + Fin;
+        for (int columna = 1; columna <= 3; ++columna)
+            EXPECT_EQ(SinEmulador(0, columna, bytes), std::nullopt) << cambiado.toStdString();
+        EXPECT_EQ(SinSistema(0, bytes), std::nullopt) << cambiado.toStdString();
+    }
+}
+
+TEST_F(BajasDeLaFila, OtherSystemsMayHaveChanged)
+{
+    Lee(Cabecera + alfa + beta + gamma + Fin);
+    EXPECT_EQ(SinEmulador(2, 2, Cabecera + gamma + SistemaDe(CabezaAlfa, { "A9" }) + Fin),
+        Texto(Cabecera + SistemaDe(CabezaGamma, { "G1" }) + SistemaDe(CabezaAlfa, { "A9" }) + Fin));
+    EXPECT_EQ(SinSistema(2, Cabecera + gamma + Fin), Texto(Cabecera + Fin));
+}
+
+TEST_F(BajasDeLaFila, OfTwoSystemsOfOneNameTheOneOfTheTablesLosesItsEmulator)
+{
+    const QByteArray otra = SistemaDe(CabezaAlfa, { "B1" });
+    Lee(alfa + otra + Fin);
+    EXPECT_EQ(SinEmulador(1, 1, alfa + otra + Fin), Texto(alfa + CabezaAlfa + Cierre + Fin));
+    EXPECT_EQ(
+        SinEmulador(0, 3, alfa + otra + Fin), Texto(SistemaDe(CabezaAlfa, { "A1", "A2" }) + otra + Fin));
+}
+
+TEST_F(BajasDeLaFila, NothingIsTakenOutOfAFileThatNoLongerFitsTheTables)
+{
+    Lee(alfa + Fin);
+    QByteArray bytes = alfa;
+    for (int i = 0; i < 151; ++i)
+        bytes += "-S\r\n'-\r\n";
+    EXPECT_EQ(SinEmulador(0, 1, bytes), std::nullopt);
+    EXPECT_EQ(SinEmulador(0, 1, "EXE=\r\n" + alfa), std::nullopt);
 }
 
 TEST_F(Bajas, ThePlaceOfASystemIsTheOneAmongTheSortedNames)

@@ -2,6 +2,7 @@
 #include "catalogosdeprueba.h"
 
 #include "core/altas.h"
+#include "core/bajas.h"
 #include "core/basededatos.h"
 
 using namespace Qt::StringLiterals;
@@ -92,18 +93,47 @@ TEST_F(Cambios, The151stExtensionIsWritten_WithoutAClosingApostrophe)
         Sustituido(Base, "*.ROM\r\n'\r\n", lineas + "*.LAST\r\n"));
 }
 
-TEST_F(Cambios, ASystemLeftWithoutEmulatorsLosesItsClosingLine_AndTheNextEmulatorGoesToAnotherSystem)
+TEST_F(Cambios, ASystemLeftWithoutEmulatorsKeepsItsClosingLine_AndTakesTheNextEmulator)
 {
     const QByteArray beta = SistemaDe(CabezaBeta, { "B1" });
+    const QByteArray cabeza = "-Alfa\r\nWEB1=http://alfa\r\n*.X\r\n'\r\n";
     const QByteArray cambiado = ConExtensiones(CabezaAlfa + Cierre + beta + Fin, u"Alfa"_s, u"x"_s);
-    EXPECT_EQ(cambiado, "-Alfa\r\nWEB1=http://alfa\r\n*.X\r\n'\r\n" + beta + Fin);
+    EXPECT_EQ(cambiado, cabeza + Cierre + beta + Fin);
+    EXPECT_EQ(ConExtensiones(cambiado, u"Alfa"_s, u"x"_s), cambiado);
+    EXPECT_EQ(
+        Cambiado(cambiado, [](const QString &t) { return core::SinSistema(t, u"Alfa"_s); }), beta + Fin);
 
     const core::EmuladorNuevo nuevo { u"A1"_s, {}, {}, {}, {}, {}, {}, {} };
     const QByteArray bloque = "+A1\r\n\r\nEXE=\r\nXDI=\r\nROM=\r\nIMG=\r\nPAR1=\r\nPAR2=\r\n";
     EXPECT_EQ(Cambiado(cambiado,
                   [&](const QString &t) { return core::ConEmuladorConfigurado(t, u"-Alfa"_s, nuevo); }),
-        "-Alfa\r\nWEB1=http://alfa\r\n*.X\r\n'\r\n" + CabezaBeta + "'\r\n" + BloqueDe("B1") + "'\r\n" + bloque
-            + Cierre + Fin);
+        cabeza + "'\r\n" + bloque + Cierre + beta + Fin);
+}
+
+TEST_F(Cambios, ExtensionsKeepEmulatorsAndTheEndOfTheirSystem_WhateverTheBlockLacks)
+{
+    const QByteArray restos[] = { "'-\n+F\n", "'- x\n-T\nWEB1=t\n*.T\n'\n", "-T\nWEB1=t\n*.T\n'\n",
+        "[EOF]\n'\n", "+E\nEXE=e\n'\n+F\n'-\n", "WEB1=late\n'-\n" };
+    for (const QByteArray &resto : restos) {
+        const QByteArray conWeb = resto.startsWith("WEB1") ? resto.first(10) : QByteArray();
+        EXPECT_EQ(ConExtensiones("-S\nWEB1=w\n*.A\nmine\n" + resto, u"S"_s, u"x"_s),
+            "-S\nWEB1=w\n" + (conWeb.isEmpty() ? QByteArray() : "*.A\nmine\n" + conWeb) + "*.X\r\n'\r\n"
+                + resto.sliced(conWeb.size()))
+            << resto.toStdString();
+    }
+}
+
+TEST_F(Cambios, WithoutAnAddressOfTheSystemExtensionsChangeNothing)
+{
+    for (const QByteArray bytes : { "-S\n\n'\n+E\nWEB1=late\n*.A\n'-\n", "-S\n*.A\n-T\nWEB1=t\n*.A\n'\n'-\n",
+             "-S\n[\nWEB1=\n*.A\n'\n" })
+        EXPECT_EQ(ConExtensiones(bytes, u"S"_s, u"x"_s), bytes);
+}
+
+TEST_F(Cambios, ExtensionsGoIntoEachBlockOfTheSystem)
+{
+    EXPECT_EQ(ConExtensiones("-S\nWEB1=\n*.A\n'-\n-T\n'-\n-S\nWEB1=\n'\n'-\n", u"S"_s, u"x"_s),
+        "-S\nWEB1=\n*.X\r\n'\r\n'-\n-T\n'-\n-S\nWEB1=\n*.X\r\n'\r\n'-\n");
 }
 
 TEST_F(Cambios, TheAddressOfASystemChangesInBothFiles_AndNoOther)
@@ -145,9 +175,34 @@ TEST_F(Cambios, AnEmulatorsAddressIsLookedForBehindItsSystem)
     const QByteArray bytes = "-One\n+E\nWEB2=1\n'-\n-Two\n+E\nWEB2=2\n+E\nWEB2=3\n";
     EXPECT_EQ(
         ConWeb2(bytes, u"Two"_s, u"E"_s, u"x"_s), "-One\n+E\nWEB2=1\n'-\n-Two\n+E\nWEB2=x\r\n+E\nWEB2=3\n");
-    // It isn't held back at the end of the system.
-    EXPECT_EQ(
-        ConWeb2("-One\n'-\n-Two\n+E\nWEB2=2\n", u"One"_s, u"E"_s, u"x"_s), "-One\n'-\n-Two\n+E\nWEB2=x\r\n");
+    const QByteArray ajeno = "-One\n+F\nWEB2=\n'-\n-Two\n+E\nWEB2=2\n";
+    EXPECT_EQ(ConWeb2(ajeno, u"One"_s, u"E"_s, u"x"_s), ajeno);
+}
+
+TEST_F(Cambios, AnEmulatorWithoutAnAddressGetsOne_AndNoOtherLosesIts)
+{
+    const QByteArray restos[] = { "\r\nEXE=e\n'\n+F\nWEB2=f\n'-\n", "\n'-\n-T\n+E\nWEB2=t\n'-\n[EOF]\n",
+        "+F\nWEB2=f\n'-\n", "-T\n+E\nWEB2=t\n", "[EOF]\nWEB2=\n", "" };
+    for (const QByteArray &resto : restos)
+        EXPECT_EQ(ConWeb2("-S\n'\n+E\n" + resto, u"S"_s, u"E"_s, u"x"_s), "-S\n'\n+E\nWEB2=x\r\n" + resto)
+            << resto.toStdString();
+}
+
+TEST_F(Cambios, WhatTheReaderKeepsStays_AheadOfAnAddress)
+{
+    EXPECT_EQ(ConWeb2("-S\n+E\nmine\nEXE=e\n' c\nWEB2=w\nROM=r\n'-\n", u"S"_s, u"E"_s, u"x"_s),
+        "-S\n+E\nWEB2=x\r\nEXE=e\nROM=r\n'-\n");
+    EXPECT_EQ(ConWeb1("-S\nmine\n*.A\nWEB1=w\n'-\n", u"S"_s, u"x"_s), "-S\nWEB1=x\r\n*.A\n'-\n");
+    EXPECT_EQ(ConWeb1("-S\n*.A\n'\n+E\nmine\nWEB1=w\n'\n+F\n'-\n", u"S"_s, u"x"_s),
+        "-S\nWEB1=x\r\n*.A\n'\n+E\nmine\n'\n+F\n'-\n");
+}
+
+TEST_F(Cambios, ASystemWithoutAnAddressGetsOne_AndNoOtherLosesIts)
+{
+    const QByteArray restos[] = { "\r\n*.A\n'\n+E\n'-\n-T\nWEB1=t\n", "*.A\n'-\n-T\nWEB1=t\n'-\n[\n",
+        "-T\nWEB1=t\n", "[EOF]\nWEB1=\n", "" };
+    for (const QByteArray &resto : restos)
+        EXPECT_EQ(ConWeb1("-S\n" + resto, u"S"_s, u"x"_s), "-S\nWEB1=x\r\n" + resto) << resto.toStdString();
 }
 
 TEST_F(Cambios, AnEmulatorThatIsntConfiguredChangesNothing)

@@ -116,8 +116,8 @@ private:
 // A line of the user's own that is no anchor of any operation.
 QString Paseo::Propia()
 {
-    static const QString lineas[] = { QString(), u"mine"_s, u" -S"_s, u"; +E"_s, u"EXEC=1"_s, u"WEB3=1"_s,
-        u"*"_s, u"\"'\""_s, u"ñ\x81"_s, u"ROM"_s };
+    static const QString lineas[] = { QString(), u"mine"_s, u" -S"_s, u"; +E"_s, u"exe=1"_s, u"WEB3=1"_s,
+        u"*"_s, u"\"'\""_s, u"ñ\x81"_s, u"Rom"_s };
     return ConFin(lineas[Azar(std::size(lineas))]);
 }
 
