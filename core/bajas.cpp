@@ -4,8 +4,6 @@
 #include "core/bloques.h"
 #include "core/catalogo.h"
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 
 namespace core {
@@ -143,16 +141,9 @@ bool mismaFila(const Modulo &M, int fila, const Modulo &N, int otra)
 
 std::optional<int> BloqueDeLaFila(const Modulo &M, int fila, const QString &texto)
 {
-    const auto leido = std::make_unique<Modulo>();
-    try {
-        LectorDeCatalogo lector(*leido);
-        for (const LineaConFin &linea : EnLineas(texto))
-            lector.Linea(linea.linea.toString());
-    } catch (const host::Failure &) {
-        return {}; // it no longer fits the tables
-    }
+    const std::unique_ptr<Modulo> leido = CatalogoDe(texto);
     int homonimo = 0;
-    for (int s = 0; s <= leido->Indice_Sistema; ++s) {
+    for (int s = 0; s < MaxSistemas && !leido->Cat_Nombre(s, 0).isEmpty(); ++s) {
         if (leido->Cat_Nombre(s, 0) != M.Cat_Nombre(fila, 0))
             continue;
         if (mismaFila(M, fila, *leido, s))

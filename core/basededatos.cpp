@@ -1,5 +1,6 @@
 #include "core/basededatos.h"
 
+#include "core/bloques.h"
 #include "core/catalogo.h"
 
 #include "host/letters.h"
@@ -58,6 +59,36 @@ bool EmuladorEnBase(const Modulo &M, int sistema, const QString &nombre)
             return true;
     }
     return false;
+}
+
+int FilaEnBase(const Modulo &M, const QString &sistema)
+{
+    for (int s = 0; s < MaxSistemas; ++s) {
+        if (M.BD_Nombre(s, 0) == u'-' + sistema)
+            return s;
+    }
+    return -1;
+}
+
+bool SistemaEnTexto(const QString &texto, const QString &nombre)
+{
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    return std::any_of(lineas.begin(), lineas.end(), [&](const LineaConFin &linea) {
+        return linea.linea.startsWith(u'-') && host::sameName(linea.linea.sliced(1).toString(), nombre);
+    });
+}
+
+Hueco HuecoParaEmulador(const QString &texto, const QString &sistema, const QString &nombre)
+{
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    const std::vector<Bloque> bloques = BloquesDe(lineas, u'-' + sistema);
+    for (const Bloque &bloque : bloques) {
+        for (size_t i = bloque.inicio; i < bloque.fin; ++i) {
+            if (host::sameName(lineas[i].linea.toString(), u'+' + nombre))
+                return Hueco::Ocupado;
+        }
+    }
+    return bloques.empty() ? Hueco::SinSistema : Hueco::Libre;
 }
 
 bool SistemaEnCatalogo(const Modulo &M, const QString &nombre)

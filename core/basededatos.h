@@ -22,6 +22,16 @@ bool SistemaEnBase(const Modulo &M, const QString &nombre);
 // True if this row of the database has an emulator of this name, case apart.
 bool EmuladorEnBase(const Modulo &M, int sistema, const QString &nombre);
 
+// The row of the system of exactly this name, -1 if there is none.
+int FilaEnBase(const Modulo &M, const QString &sistema);
+
+// What the text of Zembro.sye says, whatever the tables held when they were read: whether it has a system of
+// this name, case apart, and whether a new emulator finds its system, spelled exactly so, and its name free
+// there, case apart.
+bool SistemaEnTexto(const QString &texto, const QString &nombre);
+enum class Hueco { SinSistema, Ocupado, Libre };
+Hueco HuecoParaEmulador(const QString &texto, const QString &sistema, const QString &nombre);
+
 // True if the catalogue has configured this system, or this emulator under any system, spelled exactly so.
 // The search for an emulator takes 150 steps in all, an empty column being one, and one that stands further
 // back isn't found. The search for a system fails with 9 where all 151 rows are others.

@@ -50,6 +50,19 @@ std::optional<size_t> LineaDeEmulador(
     return {};
 }
 
+bool TieneSistema(const QString &texto, const QString &sistema)
+{
+    return !BloquesDe(EnLineas(texto), u'-' + sistema).empty();
+}
+
+bool TieneEmulador(const QString &texto, const QString &sistema, const QString &emulador)
+{
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    const std::vector<Bloque> bloques = BloquesDe(lineas, u'-' + sistema);
+    return std::any_of(bloques.begin(), bloques.end(),
+        [&](const Bloque &bloque) { return LineaDeEmulador(lineas, bloque, emulador).has_value(); });
+}
+
 size_t PrimeraConInicio(
     const std::vector<LineaConFin> &lineas, size_t desde, size_t hasta, QStringView inicio)
 {

@@ -28,6 +28,10 @@ std::vector<Bloque> BloquesDe(const std::vector<LineaConFin> &lineas, QStringVie
 std::optional<size_t> LineaDeEmulador(
     const std::vector<LineaConFin> &lineas, const Bloque &bloque, const QString &emulador);
 
+// True if the text has a block of this system, or of this emulator in one of its system.
+bool TieneSistema(const QString &texto, const QString &sistema);
+bool TieneEmulador(const QString &texto, const QString &sistema, const QString &emulador);
+
 // The first index from `desde` to `hasta` (not included) of a line that begins so, else `hasta`.
 size_t PrimeraConInicio(
     const std::vector<LineaConFin> &lineas, size_t desde, size_t hasta, QStringView inicio);

@@ -71,6 +71,20 @@ void LeeCatalogo(Modulo &M)
     M.Ficheros.close(1);
 }
 
+std::unique_ptr<Modulo> CatalogoDe(const QString &texto)
+{
+    auto M = std::make_unique<Modulo>();
+    LectorDeCatalogo lector(*M);
+    host::TextSource fuente(texto);
+    try {
+        while (!fuente.atEnd())
+            lector.Linea(fuente.readLine());
+    } catch (const host::Failure &) {
+        // What fits is there.
+    }
+    return M;
+}
+
 int TotalEmuladores(const Modulo &M, int sistema)
 {
     int total = 0;

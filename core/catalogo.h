@@ -7,6 +7,8 @@
 
 #include "core/modulo.h"
 
+#include <memory>
+
 namespace core {
 
 inline constexpr int PrefijoRuta = 4; // "EXE=", "ROM=", "IMG="
@@ -54,6 +56,9 @@ private:
 // Reads Zembro.sye in the view of the database, else Zembro.emu, under number 1; a failure leaves the number
 // open.
 void LeeCatalogo(Modulo &M);
+
+// A state whose tables hold the catalogue of this text, as far as it fits them.
+std::unique_ptr<Modulo> CatalogoDe(const QString &texto);
 
 // Number of emulators of a system.
 int TotalEmuladores(const Modulo &M, int sistema);

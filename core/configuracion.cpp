@@ -104,14 +104,14 @@ Renovacion RenovacionTras(const Modulo &M, const Casillas &casillas, const QStri
     return otrosParametros && otraRuta ? Renovacion::Lista : Renovacion::Nada;
 }
 
-Webs LeeWebs(Modulo &M, const QString &sistema, const QString &emulador)
+Webs LeeWebs(Modulo &M, const QString &sistema, const QString &emulador, int numero)
 {
     Webs webs;
     bool enSistema = false;
     bool enEmulador = false;
-    M.Ficheros.openForInput(1, host::programFile(u"Zembro.sye"_s));
+    M.Ficheros.openForInput(numero, host::programFile(u"Zembro.sye"_s));
     do {
-        const QString linea = M.Ficheros.readLine(1);
+        const QString linea = M.Ficheros.readLine(numero);
         if (linea == u'-' + sistema)
             enSistema = true;
         if (enSistema && linea.startsWith(u"WEB1"))
@@ -122,8 +122,8 @@ Webs LeeWebs(Modulo &M, const QString &sistema, const QString &emulador)
             webs.emulador = linea;
             enSistema = enEmulador = false;
         }
-    } while (!M.Ficheros.atEnd(1));
-    M.Ficheros.close(1);
+    } while (!M.Ficheros.atEnd(numero));
+    M.Ficheros.close(numero);
     return webs;
 }
 

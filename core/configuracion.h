@@ -66,8 +66,8 @@ struct Webs {
     QString emulador;
 };
 
-// Reads Zembro.sye under number 1. Fails with 62 for an empty file.
-Webs LeeWebs(Modulo &M, const QString &sistema, const QString &emulador);
+// Reads Zembro.sye under this number. Fails with 62 for an empty file.
+Webs LeeWebs(Modulo &M, const QString &sistema, const QString &emulador, int numero = 1);
 
 // Config2_Cambios: what the catalogue's tables hold of a pair.
 enum Situacion : int { SinSistemaConfigurado = 0, SinEmuladorConfigurado = 1, EmuladorYaConfigurado = 2 };

@@ -21,6 +21,12 @@ struct Palabras {
     QString Zem_NoParam0 = QStringLiteral("Sin grabar");
     QString Zem_NoParam1 = QStringLiteral("Sin comas, y sin comillas al principio.");
 
+    // Adding a system or an emulator, and what another program has changed meanwhile.
+    QString Zem_NoNombre0 = QStringLiteral("Sin añadir");
+    QString Zem_NoNombre1 = QStringLiteral("Este nombre no se puede usar: pon otro.");
+    QString Zem_Cambiado0 = QStringLiteral("Nada ha cambiado");
+    QString Zem_Cambiado1 = QStringLiteral("Otro programa ha cambiado el archivo entretanto.");
+
     // What the desktop lacks.
     QString Zem_Falta0 = QStringLiteral("Falta un programa");
     QString Zem_FaltaEditor = QStringLiteral("No hay ningún editor de textos instalado.");

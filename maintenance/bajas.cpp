@@ -9,6 +9,9 @@
 #include "mainscreen/portada.h"
 
 #include "maintenance/reescritura.h"
+#include "maintenance/relectura.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -50,6 +53,17 @@ bool Bajas::Confirma(const QString &titulo, const QString &mensaje)
     return M.Respuesta_Opcion != 1;
 }
 
+// Takes out of the catalogue what the tables say. Where it isn't what they hold any more, nothing goes: the
+// user is told so, and sees what it is now.
+bool Bajas::Quita(const std::function<std::optional<QString>(const QString &)> &baja)
+{
+    if (reescribeSi(M, Zembro_emu, baja))
+        return true;
+    releeTodo(M, P);
+    avisaDeCambio(M, P);
+    return false;
+}
+
 // Reads the catalogue anew, and selects by places in the sorted lists.
 void Bajas::RefrescaCombos(int posicion, int emulador)
 {
@@ -61,11 +75,16 @@ void Bajas::RefrescaCombos(int posicion, int emulador)
 void Bajas::BorraSistema()
 {
     const QString sistema = P.Combo1->Text();
+    const int fila = Sistema();
     const int posicion = core::PosicionParaBorrar(M, sistema);
     if (!Confirma(M.Msg_BorrarSis0, M.Msg_BorrarSis1 + sistema))
         return;
-    reescribe(M, Zembro_emu, [&](const QString &texto) { return core::SinSistema(texto, sistema); });
-    RefrescaCombos(core::PosicionTrasBorrar(posicion, M.TotalSistemas), core::NingunEmulador);
+    if (!Quita([&](const QString &texto) { return core::SinSistemaDeLaFila(M, fila, texto); }))
+        return;
+    const int antes = M.TotalSistemas;
+    const int quedan = leeSoloTablas(M, P);
+    RefrescaCombos(
+        std::min(core::PosicionTrasBorrar(posicion, antes), std::max(quedan - 1, 0)), core::NingunEmulador);
     P.TXT_Info->SetCaption(M.TXT_NingunaROM);
     if (!P.Combo1->Text().isEmpty()) {
         QuedanOtrosSistemas();
@@ -91,10 +110,16 @@ void Bajas::QuedanOtrosSistemas()
 void Bajas::BorraEmulador()
 {
     const int total = core::TotalEmuladores(M, Sistema());
-    const Elegido elegido { P.Combo1->Text(), P.Combo2->Text(), core::PosicionParaBorrar(M, P.Combo1->Text()),
-        total, Emulador() == total };
+    const Elegido elegido { P.Combo1->Text(), P.Combo2->Text(), Sistema(), Emulador(), total };
+    core::PosicionParaBorrar(M, elegido.sistema); // fails where the table is full
     if (!Confirma(M.Msg_BorrarEmu0, M.Msg_BorrarEmu1 + elegido.emulador))
         return;
+    const auto baja = [&](const QString &texto) {
+        return core::SinEmuladorDeLaFila(M, elegido.fila, elegido.columna, texto);
+    };
+    if (!Quita(baja))
+        return;
+    leeSoloTablas(M, P);
     if (total == 1)
         BorraUnico(elegido);
     else
@@ -104,9 +129,7 @@ void Bajas::BorraEmulador()
 // The system stays in the catalogue and in Combo1, empty.
 void Bajas::BorraUnico(const Elegido &elegido)
 {
-    reescribe(
-        M, Zembro_emu, [&](const QString &texto) { return core::SinUnicoEmulador(texto, elegido.sistema); });
-    RefrescaCombos(elegido.posicion, core::NingunEmulador);
+    RefrescaCombos(core::PosicionDeSistema(M, elegido.sistema), core::NingunEmulador);
     if (P.Combo2->Text().isEmpty())
         SinNadaQueJugar();
     P.Lista1->Clear();
@@ -118,13 +141,10 @@ void Bajas::BorraUnico(const Elegido &elegido)
 // A single one that remains is selected at once, and listed unless the slots of the ROM lines are equal.
 void Bajas::BorraUnoDeVarios(const Elegido &elegido)
 {
-    reescribe(M, Zembro_emu, [&](const QString &texto) {
-        return elegido.esElUltimo ? core::SinUltimoEmulador(texto, elegido.sistema, elegido.total)
-                                  : core::SinEmulador(texto, elegido.emulador);
-    });
     if (M.IndiceRutas == 0)
         M.IndiceRutas = 1;
-    RefrescaCombos(elegido.posicion, elegido.total == 2 ? 0 : core::NingunEmulador);
+    RefrescaCombos(
+        core::PosicionDeSistema(M, elegido.sistema), elegido.total == 2 ? 0 : core::NingunEmulador);
     const bool hayEmulador = !P.Combo2->Text().isEmpty();
     if (hayEmulador)
         M.RutasROM(M.IndiceRutas) = host::upper(M.Cat_ROM(Sistema(), Emulador()));

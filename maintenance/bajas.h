@@ -5,6 +5,9 @@
 
 #include "core/modulo.h"
 
+#include <functional>
+#include <optional>
+
 namespace mainscreen {
 class Portada;
 }
@@ -21,15 +24,16 @@ private:
     struct Elegido {
         QString sistema;
         QString emulador;
-        int posicion; // of the system in Combo1
+        int fila; // of the system in the tables
+        int columna; // in the file's order
         int total; // emulators of the system
-        bool esElUltimo; // in the file's order
     };
 
     void Menos2a_Release();
     void Menos2b_Release();
 
     bool Confirma(const QString &titulo, const QString &mensaje);
+    bool Quita(const std::function<std::optional<QString>(const QString &)> &baja);
     void RefrescaCombos(int posicion, int emulador);
 
     void BorraSistema();

@@ -123,6 +123,25 @@ void Configuracion1::Llena_Configuracion1()
     M.Lista1Lista = 1;
 }
 
+// What stood selected may have gone.
+void Configuracion1::LlenaYElige(const QString &sistema)
+{
+    Llena_Configuracion1();
+    Lista1->SetText(sistema);
+}
+
+// True if each entry of Lista1 still leads to its own name in the tables, and none is missing.
+bool Configuracion1::ListasAlDia() const
+{
+    if (Lista1->ListCount() != M.BD_Sistema + 1)
+        return false;
+    for (int i = 0; i < Lista1->ListCount(); ++i) {
+        if (M.BD_Nombre(Lista1->ItemData(i), 0) != u'-' + Lista1->List(i))
+            return false;
+    }
+    return true;
+}
+
 // A system of as many emulators as the table takes shows them with none selected.
 void Configuracion1::LlenaLista2()
 {

@@ -54,13 +54,22 @@ public:
 private:
     using Cambio = std::function<QString(const QString &)>;
 
+    // Whose data change: a system's, or an emulator's of it.
+    struct Pareja {
+        QString sistema;
+        QString emulador;
+        bool deEmulador = false;
+    };
+
     void Monta();
     void ConectaListas();
     void ConectaBotones();
     void NombraControles();
 
     void Llena_Configuracion1();
+    void LlenaYElige(const QString &sistema);
     void LlenaLista2();
+    bool ListasAlDia() const;
     void Lista1_Selection();
     void PonPareja();
     int Sistema() const; // row of the selected system in the tables; fails with 380 if none is
@@ -72,12 +81,14 @@ private:
     void BorrarEmulador();
     QString PideNombre(const QString &mensaje, const QString &titulo);
     bool Confirma(const QString &mensaje, const QString &titulo);
+    bool BorraDeLosFicheros(const QString &sistema);
 
     void Boton_E_Click();
     void Boton_W1_Click();
     void Boton_W2_Click();
     bool Pide(const QString &mensaje, const QString &titulo, const QString &oferta);
-    void CambiaEnAmbos(const Cambio &cambio, const std::function<bool()> &enUso);
+    void CambiaEnAmbos(const Cambio &cambio, const Pareja &pareja);
+    bool EstaEnUso(const Pareja &pareja);
 
     core::Modulo &M;
     mainscreen::Portada &P;

@@ -7,6 +7,9 @@
 #include "core/altas.h"
 #include "core/bajas.h"
 #include "core/basededatos.h"
+#include "core/bloques.h"
+#include "core/catalogo.h"
+#include "core/nombres.h"
 #include "core/notas.h"
 
 #include "maintenance/reescritura.h"
@@ -19,6 +22,7 @@ namespace {
 
 const QString Zembro_sye = u"Zembro.sye"_s;
 const QString Zembro_rom = u"Zembro.rom"_s;
+const QString Zembro_emu = u"Zembro.emu"_s;
 
 } // namespace
 
@@ -43,14 +47,29 @@ void Configuracion1::AñadirSistema()
     const QString nuevo = PideNombre(M.Msg_AñadirSis1, M.Msg_AñadirSis0);
     if (nuevo.isEmpty())
         return;
+    if (!core::SirveDeSistema(nuevo)) {
+        Mensaje(3, M.Palabras.Zem_NoNombre1, M.Palabras.Zem_NoNombre0);
+        return;
+    }
     if (core::SistemaEnBase(M, nuevo)) {
         Mensaje(3, M.Msg_SisYaAñadido1, M.Msg_SisYaAñadido0);
         return;
     }
-    reescribe(M, Zembro_sye, [&](const QString &texto) { return core::ConSistemaEnBase(texto, nuevo); });
-    reescribe(M, Zembro_rom, [&](const QString &texto) { return core::ConSistemaNuevo(texto, nuevo); });
+    bool repetido = false;
+    const bool escrito = reescribeSi(M, Zembro_sye, [&](const QString &texto) -> std::optional<QString> {
+        repetido = core::SistemaEnTexto(texto, nuevo); // added by another copy since the tables were read
+        if (repetido || core::EsRegistroDeNotas(textoDe(M, Zembro_rom), nuevo))
+            return {};
+        return core::ConSistemaEnBase(texto, nuevo);
+    });
+    if (escrito)
+        reescribe(M, Zembro_rom, [&](const QString &texto) { return core::ConSistemaNuevo(texto, nuevo); });
     Llena_Configuracion1();
     Lista1->SetText(nuevo);
+    if (repetido)
+        Mensaje(3, M.Msg_SisYaAñadido1, M.Msg_SisYaAñadido0);
+    else if (!escrito)
+        Mensaje(3, M.Palabras.Zem_NoNombre1, M.Palabras.Zem_NoNombre0);
 }
 
 void Configuracion1::AñadirEmulador()
@@ -60,17 +79,31 @@ void Configuracion1::AñadirEmulador()
         return;
     const QString sistema = Lista1->Text();
     const int fila = Sistema();
+    if (!core::SirveDeEmulador(nuevo)) {
+        Mensaje(3, M.Palabras.Zem_NoNombre1, M.Palabras.Zem_NoNombre0);
+        return;
+    }
     if (core::EmuladorEnBase(M, fila, nuevo)) {
         Mensaje(3, M.Msg_EmuYaAñadido1, M.Msg_EmuYaAñadido0);
         return;
     }
-    reescribe(M, Zembro_sye,
-        [&](const QString &texto) { return core::ConEmuladorEnBase(texto, M.BD_Nombre(fila, 0), nuevo); });
-    Llena_Configuracion1();
-    Lista1->SetText(sistema);
+    core::Hueco hueco = core::Hueco::Libre;
+    reescribeSi(M, Zembro_sye, [&](const QString &texto) -> std::optional<QString> {
+        hueco = core::HuecoParaEmulador(texto, sistema, nuevo);
+        if (hueco != core::Hueco::Libre)
+            return {};
+        return core::ConEmuladorEnBase(texto, u'-' + sistema, nuevo);
+    });
+    LlenaYElige(sistema);
     Lista2->SetText(nuevo);
+    if (hueco == core::Hueco::Ocupado)
+        Mensaje(3, M.Msg_EmuYaAñadido1, M.Msg_EmuYaAñadido0);
+    else if (hueco == core::Hueco::SinSistema)
+        Mensaje(3, M.Palabras.Zem_Cambiado1, M.Palabras.Zem_Cambiado0);
 }
 
+// What the catalogue uses is refused by the tables, and once more by the file as it is when the change is
+// written, as another copy may have configured it meanwhile.
 void Configuracion1::BorrarEmulador()
 {
     if (Lista2->ListIndex() < 0)
@@ -79,14 +112,19 @@ void Configuracion1::BorrarEmulador()
     if (!Confirma(M.Msg_BorrarEmu1 + emulador + u'?', M.Msg_BorrarEmu0))
         return;
     const QString sistema = Lista1->Text();
-    if (core::EmuladorEnCatalogo(M, emulador)) {
+    bool enUso = core::EmuladorEnCatalogo(M, emulador);
+    if (!enUso)
+        reescribeSi(M, Zembro_sye, [&](const QString &texto) -> std::optional<QString> {
+            enUso = core::EmuladorEnCatalogo(*core::CatalogoDe(textoSiHay(M, Zembro_emu)), emulador);
+            if (enUso)
+                return {};
+            return core::SinEmuladorEnBase(texto, sistema, emulador);
+        });
+    if (enUso) {
         Mensaje(3, M.Msg_YaAñadido1, M.Msg_YaAñadido0);
         return;
     }
-    reescribe(M, Zembro_sye,
-        [&](const QString &texto) { return core::SinEmuladorEnBase(texto, sistema, emulador); });
-    Llena_Configuracion1();
-    Lista1->SetText(sistema);
+    LlenaYElige(sistema);
     Lista2->SetListIndex(0);
 }
 
@@ -97,15 +135,32 @@ void Configuracion1::BorrarSistema()
     const QString sistema = Lista1->Text();
     if (!Confirma(M.Msg_BorrarSis1 + sistema + u'?', M.Msg_BorrarSis0))
         return;
-    if (core::SistemaEnCatalogo(M, sistema)) {
+    if (core::SistemaEnCatalogo(M, sistema) || !BorraDeLosFicheros(sistema)) {
         Mensaje(3, M.Msg_YaAñadido1, M.Msg_YaAñadido0);
         return;
     }
-    reescribe(
-        M, Zembro_rom, [&](const QString &texto) { return core::SinParametrosDeSistema(texto, sistema); });
-    reescribe(M, Zembro_sye, [&](const QString &texto) { return core::SinSistema(texto, sistema); });
-    reescribe(M, Zembro_rom, [&](const QString &texto) { return core::SinNotasDeSistema(texto, sistema); });
     Llena_Configuracion1();
+}
+
+// False where the catalogue uses the system, by its file. The notes stay where the system's name can't be
+// told from their own lines.
+bool Configuracion1::BorraDeLosFicheros(const QString &sistema)
+{
+    const auto siNoEstaEnUso = [&](const QString &fichero, const auto &baja) {
+        return reescribeSi(M, fichero, [&](const QString &texto) -> std::optional<QString> {
+            if (core::TieneSistema(textoSiHay(M, Zembro_emu), sistema))
+                return {};
+            return baja(texto, sistema);
+        });
+    };
+    const bool conNotas = !core::EsLineaDeNotas(sistema);
+    if (conNotas && !siNoEstaEnUso(Zembro_rom, core::SinParametrosDeSistema))
+        return false;
+    if (!siNoEstaEnUso(Zembro_sye, core::SinSistema))
+        return false;
+    if (conNotas)
+        siNoEstaEnUso(Zembro_rom, core::SinNotasDeSistema);
+    return true;
 }
 
 } // namespace maintenance

@@ -5,11 +5,11 @@
 
 #include "core/altas.h"
 #include "core/basededatos.h"
+#include "core/bloques.h"
 #include "core/catalogo.h"
 
-#include "mainscreen/portada.h"
-
 #include "maintenance/reescritura.h"
+#include "maintenance/relectura.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,22 +22,47 @@ bool Configuracion1::Pide(const QString &mensaje, const QString &titulo, const Q
     return M.Respuesta_Caja != oferta && M.Respuesta_Opcion != 1;
 }
 
-// enUso: whether the catalogue holds what has changed; asked for once the tables are fresh.
-void Configuracion1::CambiaEnAmbos(const Cambio &cambio, const std::function<bool()> &enUso)
+// The lists keep their entries, unless another program has changed the database so that these no longer lead
+// to what they name. Where what is to change has gone meanwhile, nothing changes.
+void Configuracion1::CambiaEnAmbos(const Cambio &cambio, const Pareja &pareja)
 {
-    reescribe(M, u"Zembro.sye"_s, cambio);
+    const bool conocida = pareja.deEmulador && core::EmuladorEnBase(M, Sistema(), pareja.emulador);
+    const bool escrito = reescribeSi(M, u"Zembro.sye"_s, [&](const QString &texto) -> std::optional<QString> {
+        const bool queda = conocida ? core::TieneEmulador(texto, pareja.sistema, pareja.emulador)
+                                    : core::TieneSistema(texto, pareja.sistema);
+        if (!queda)
+            return {};
+        return cambio(texto);
+    });
+    if (!escrito) {
+        LlenaYElige(pareja.sistema);
+        Mensaje(3, M.Palabras.Zem_Cambiado1, M.Palabras.Zem_Cambiado0);
+        return;
+    }
     M.CambioConfig1 = 1;
     Llena_Configuracion1();
     M.CambioConfig1 = 0;
-    if (!enUso())
-        return;
-    reescribe(M, u"Zembro.emu"_s, cambio);
-    // The combos of the main screen stay as they are, alive or not.
-    const std::pair listos(M.Combo1Listo, M.Combo2Listo);
-    M.SoloTablas = 1;
-    P.Llena_Combos();
-    M.SoloTablas = 0;
-    std::tie(M.Combo1Listo, M.Combo2Listo) = listos;
+    if (EstaEnUso(pareja)) {
+        reescribe(M, u"Zembro.emu"_s, cambio);
+        releeTablas(M, P);
+    }
+    if (!ListasAlDia()) {
+        LlenaYElige(pareja.sistema);
+        Lista2->SetText(pareja.emulador);
+    }
+}
+
+// Whether the catalogue holds what has changed: by its tables, or by its file, as another copy may have
+// configured it since they were read. Of an emulator the database decides: where the pair isn't configured,
+// nothing changes in the catalogue.
+bool Configuracion1::EstaEnUso(const Pareja &pareja)
+{
+    if (pareja.deEmulador) {
+        const int fila = core::FilaEnBase(M, pareja.sistema);
+        return fila >= 0 && core::EmuladorEnBase(M, fila, pareja.emulador);
+    }
+    return core::SistemaEnCatalogo(M, pareja.sistema)
+        || core::TieneSistema(textoSiHay(M, u"Zembro.emu"_s), pareja.sistema);
 }
 
 void Configuracion1::Boton_E_Click()
@@ -49,7 +74,7 @@ void Configuracion1::Boton_E_Click()
         return;
     const QStringList extensiones = core::PartirExtensiones(M.Respuesta_Caja);
     CambiaEnAmbos([&](const QString &texto) { return core::ConExtensiones(texto, sistema, extensiones); },
-        [&] { return core::SistemaEnCatalogo(M, sistema); });
+        { sistema, Lista2->Text() });
 }
 
 void Configuracion1::Boton_W1_Click()
@@ -62,11 +87,9 @@ void Configuracion1::Boton_W1_Click()
         return;
     const QString direccion = M.Respuesta_Caja;
     CambiaEnAmbos([&](const QString &texto) { return core::ConWebDeSistema(texto, sistema, direccion); },
-        [&] { return core::SistemaEnCatalogo(M, sistema); });
+        { sistema, Lista2->Text() });
 }
 
-// The database decides whether the catalogue is gone through too: where the pair isn't configured, nothing
-// changes in it.
 void Configuracion1::Boton_W2_Click()
 {
     if (Lista2->ListIndex() < 0)
@@ -80,7 +103,7 @@ void Configuracion1::Boton_W2_Click()
     const QString direccion = M.Respuesta_Caja;
     CambiaEnAmbos(
         [&](const QString &texto) { return core::ConWebDeEmulador(texto, sistema, emulador, direccion); },
-        [&] { return core::EmuladorEnBase(M, fila, emulador); });
+        { sistema, emulador, true });
 }
 
 } // namespace maintenance

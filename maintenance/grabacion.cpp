@@ -10,6 +10,9 @@
 #include "maintenance/configuracion1.h"
 #include "maintenance/configuracion2.h"
 #include "maintenance/reescritura.h"
+#include "maintenance/relectura.h"
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -35,22 +38,65 @@ Grabacion::Grabacion(
 {
 }
 
+// Another kind of save than these three saves nothing.
 void Grabacion::Graba()
 {
     if (EsRechazada())
         return;
     m_paso2.Casilla2->SetText(core::DirectorioDeROMs(m_sistema, m_casillas.rom));
+    if (M.Config2_Cambios < core::SinSistemaConfigurado || M.Config2_Cambios > core::EmuladorYaConfigurado)
+        return;
+    MiraSituacion();
+    if (M.Config2_Cambios == core::EmuladorYaConfigurado && core::SinCambios(M, m_casillas, m_tipo)) {
+        Mensaje(3, M.Msg_SinCambios1, M.Msg_SinCambios0);
+        return;
+    }
+    OcultaPasos();
+    Escribe();
+    OcultaPasos();
     switch (M.Config2_Cambios) {
     case core::SinSistemaConfigurado:
-        GrabaSistema();
+        MuestraSistema();
         break;
     case core::SinEmuladorConfigurado:
-        GrabaEmulador();
+        MuestraEmulador();
         break;
-    case core::EmuladorYaConfigurado:
-        GrabaCambio();
+    default:
+        MuestraCambio();
         break;
     }
+    Cierra();
+}
+
+// The catalogue as it is now decides of which kind the save is: another copy may have added the pair, or
+// taken it out, since the form was filled.
+void Grabacion::MiraSituacion()
+{
+    const int antes = std::exchange(M.Config2_Cambios, SituacionEn(textoDe(M, Zembro_emu)));
+    if (M.Config2_Cambios != antes && M.Config2_Cambios == core::EmuladorYaConfigurado)
+        core::LeePrevios(M, m_emulador);
+}
+
+core::Situacion Grabacion::SituacionEn(const QString &texto) const
+{
+    return core::SituacionDe(*core::CatalogoDe(texto), m_sistema, m_emulador);
+}
+
+// The kind and the addresses are those of the files as they are under the lock of the rewrite.
+void Grabacion::Escribe()
+{
+    reescribe(M, Zembro_emu, [this](const QString &texto) {
+        const core::Webs webs = core::LeeWebs(M, m_sistema, m_emulador, NumeroDeLectura);
+        const core::EmuladorNuevo nuevo = Bloque(webs);
+        const core::Situacion situacion = SituacionEn(texto);
+        M.Config2_Cambios = situacion;
+        if (situacion == core::SinSistemaConfigurado)
+            return core::ConSistemaConfigurado(
+                texto, { m_sistema, webs.sistema, core::ExtensionesDeBase(M, Fila()), nuevo });
+        if (situacion == core::SinEmuladorConfigurado)
+            return core::ConEmuladorConfigurado(texto, u'-' + m_sistema, nuevo);
+        return core::ConEmuladorCambiado(texto, nuevo);
+    });
 }
 
 bool Grabacion::EsRechazada()
@@ -71,47 +117,25 @@ bool Grabacion::EsRechazada()
     return false;
 }
 
-void Grabacion::GrabaSistema()
+void Grabacion::MuestraSistema()
 {
-    OcultaPasos();
-    const core::Webs webs = core::LeeWebs(M, m_sistema, m_emulador);
-    const core::SistemaNuevo nuevo { m_sistema, webs.sistema, core::ExtensionesDeBase(M, Fila()),
-        Bloque(webs) };
-    reescribe(M, Zembro_emu, [&](const QString &texto) { return core::ConSistemaConfigurado(texto, nuevo); });
-    OcultaPasos();
     P.Llena_Combos();
     M.Combo2Listo = 0;
     RellenaCombos();
     M.Combo2Listo = 1;
     P.Llena_Lista();
     P.RecuerdaRutaElegida();
-    Cierra();
 }
 
 // Combo2 is left as Llena_Combos left it: alive, its event lists the games and remembers the directory.
-void Grabacion::GrabaEmulador()
+void Grabacion::MuestraEmulador()
 {
-    OcultaPasos();
-    const core::EmuladorNuevo nuevo = Bloque(core::LeeWebs(M, m_sistema, m_emulador));
-    const QString lineaDeSistema = M.BD_Nombre(Fila(), 0);
-    reescribe(M, Zembro_emu,
-        [&](const QString &texto) { return core::ConEmuladorConfigurado(texto, lineaDeSistema, nuevo); });
-    OcultaPasos();
     P.Llena_Combos();
     RellenaCombos();
-    Cierra();
 }
 
-void Grabacion::GrabaCambio()
+void Grabacion::MuestraCambio()
 {
-    if (core::SinCambios(M, m_casillas, m_tipo)) {
-        Mensaje(3, M.Msg_SinCambios1, M.Msg_SinCambios0);
-        return;
-    }
-    OcultaPasos();
-    const core::EmuladorNuevo nuevo = Bloque(core::LeeWebs(M, m_sistema, m_emulador));
-    reescribe(M, Zembro_emu, [&](const QString &texto) { return core::ConEmuladorCambiado(texto, nuevo); });
-    OcultaPasos();
     if (M.Config_Origen == core::SistemaRecreativo)
         M.EmuConfigurado = 1;
     LeeTablas();
@@ -125,17 +149,15 @@ void Grabacion::GrabaCambio()
     M.EmuConfigurado = 0;
     if (P.Lista1->ListCount() > 0 && m_casillas.img.isEmpty())
         P.PonNegro();
-    Cierra();
 }
 
-// The combos keep their contents where they show the pair already.
+// The combos keep their contents where they show the pair already, and still lead to what they name.
 void Grabacion::LeeTablas()
 {
     if (P.Combo1->Text() == m_sistema && P.Combo2->Text() == m_emulador) {
-        M.SoloTablas = 1;
-        P.Llena_Combos();
-        M.SoloTablas = 0;
-        return;
+        leeSoloTablas(M, P);
+        if (combosAlDia(M, P))
+            return;
     }
     P.Llena_Combos();
     M.Combo2Listo = 0;

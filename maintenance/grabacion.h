@@ -27,9 +27,12 @@ public:
 
 private:
     bool EsRechazada();
-    void GrabaSistema();
-    void GrabaEmulador();
-    void GrabaCambio();
+    void MiraSituacion();
+    core::Situacion SituacionEn(const QString &texto) const;
+    void Escribe();
+    void MuestraSistema();
+    void MuestraEmulador();
+    void MuestraCambio();
 
     core::EmuladorNuevo Bloque(const core::Webs &webs) const;
     void OcultaPasos();

@@ -27,8 +27,8 @@ std::unique_ptr<Configuracion1> Pasos::HazPaso1()
 
 std::unique_ptr<Configuracion2> Pasos::HazPaso2()
 {
-    auto paso = std::make_unique<Configuracion2>(
-        M, P.Teja(), m_examinar, m_paso1->Lista1->Text(), m_paso1->Lista2->Text());
+    m_pareja = ParejaElegida();
+    auto paso = std::make_unique<Configuracion2>(M, P.Teja(), m_examinar, m_pareja.first, m_pareja.second);
     paso->Graba = [this] { Grabacion(M, P, *m_paso1, *m_paso2).Graba(); };
     return paso;
 }
@@ -46,19 +46,34 @@ void Pasos::Boton1b_Release()
     m_paso1.ShowModal(nullptr);
 }
 
-// The first touch of the second step loads it, with the pair of the moment, before anything is looked at.
+// The first touch of the second step loads it, with the pair of the moment, before anything is looked at. It
+// is loaded anew where it is to be shown for another pair.
 void Pasos::Acepta()
 {
-    m_paso2->TXT_Grabar->SetCaption(M.TXT_Grabar);
-    m_paso2->TXT_Volver->SetCaption(m_paso1->TXT_Volver->Caption());
+    TocaPaso2();
     M.Config_Origen = -1;
     if (m_paso1->Lista2->ListIndex() < 0) {
         m_paso1->Mensaje(3, M.Msg_NoEmuLD1, M.Msg_NoEmuLD0);
         return;
     }
+    if (m_pareja != ParejaElegida()) {
+        m_paso2.Unload();
+        TocaPaso2();
+    }
     M.Config_Origen = core::OrigenDe(m_paso1->Lista1->Text());
     m_paso2->Prepara();
     m_paso2.ShowModal(nullptr);
+}
+
+void Pasos::TocaPaso2()
+{
+    m_paso2->TXT_Grabar->SetCaption(M.TXT_Grabar);
+    m_paso2->TXT_Volver->SetCaption(m_paso1->TXT_Volver->Caption());
+}
+
+std::pair<QString, QString> Pasos::ParejaElegida()
+{
+    return { m_paso1->Lista1->Text(), m_paso1->Lista2->Text() };
 }
 
 } // namespace maintenance

@@ -11,6 +11,8 @@
 #include "maintenance/configuracion1.h"
 #include "maintenance/configuracion2.h"
 
+#include <utility>
+
 namespace mainscreen {
 class Portada;
 }
@@ -18,7 +20,7 @@ class Portada;
 namespace maintenance {
 
 // The second step, once loaded, stays so until it has been shown and closed, also where the first one refuses
-// to go on or is closed and opened anew.
+// to go on or is closed and opened anew; for another pair it is loaded anew.
 class Pasos {
 public:
     // Puts its handler on the button; must live as long as the screen does.
@@ -30,12 +32,15 @@ private:
     std::unique_ptr<Configuracion2> HazPaso2();
     std::unique_ptr<dialogs::Examinar> HazExaminar();
     void Acepta();
+    void TocaPaso2();
+    std::pair<QString, QString> ParejaElegida(); // in the first step
 
     core::Modulo &M;
     mainscreen::Portada &P;
     forms::FormHolder<Configuracion1> m_paso1;
     forms::FormHolder<Configuracion2> m_paso2;
     forms::FormHolder<dialogs::Examinar> m_examinar;
+    std::pair<QString, QString> m_pareja; // that the second step was loaded for
 };
 
 } // namespace maintenance

@@ -292,13 +292,14 @@ TEST_F(BajasDeLaFila, OfTwoSystemsOfOneNameTheOneOfTheTablesLosesItsEmulator)
         SinEmulador(0, 3, alfa + otra + Fin), Texto(SistemaDe(CabezaAlfa, { "A1", "A2" }) + otra + Fin));
 }
 
-TEST_F(BajasDeLaFila, NothingIsTakenOutOfAFileThatNoLongerFitsTheTables)
+TEST_F(BajasDeLaFila, OfAFileThatNoLongerFitsTheTablesWhatFitsCounts)
 {
     Lee(alfa + Fin);
-    QByteArray bytes = alfa;
+    QByteArray otros;
     for (int i = 0; i < 151; ++i)
-        bytes += "-S\r\n'-\r\n";
-    EXPECT_EQ(SinEmulador(0, 1, bytes), std::nullopt);
+        otros += "-S\r\n'-\r\n";
+    EXPECT_EQ(SinEmulador(0, 1, alfa + otros), Texto(SistemaDe(CabezaAlfa, { "A2", "A3" }) + otros));
+    EXPECT_EQ(SinEmulador(0, 1, otros + alfa), std::nullopt);
     EXPECT_EQ(SinEmulador(0, 1, "EXE=\r\n" + alfa), std::nullopt);
 }
 

@@ -537,28 +537,3 @@ TEST_F(GrabacionTest, TwoBracketsTakeANewSystemTwice_AndTheFirstIsSelected)
     expectCatalogue(Top + block + "[one]\r\n" + block + "[two]\r\n");
     EXPECT_THAT(entries(systems()), ElementsAre(u"NES"_s, u"NES"_s));
 }
-
-TEST_F(GrabacionTest, AStaleSecondStepSavesItsKindForThePairSelectedNow)
-{
-    database = database.chopped(7) + known("Void", "", {}) + "[EOF]\r\n";
-    catalogue = Top + configured("NES", "http://nes", emulator("N1", { .roms = at(u"a/"_s) })) + End;
-    begin();
-    configure([this](forms::Form &first) {
-        select(controlOf<forms::ListBox>(first, u"Lista1"_s), u"Void"_s);
-        atWarning(u"Msg_NoEmuLD"_s);
-        click(controlOf<QWidget>(first, u"Aceptar2"_s));
-    });
-    configurePair(u"NES"_s, u"N2"_s, [this](forms::Form &form) {
-        write(form, u"Casilla1"_s, u"/bin/n2"_s);
-        write(form, u"Casilla2"_s, files.path(u"b"_s));
-        EXPECT_EQ(M->Config2_Cambios, 0);
-        const std::optional<ProcessEnd> end = endOf([&form] { save(form); });
-        // A second block of the system: the first one, without this emulator, is the one selected.
-        ASSERT_TRUE(end);
-        EXPECT_THAT(end->text.toStdString(), HasSubstr("(ERR383)"));
-    });
-    EXPECT_EQ(files.read(u"Zembro.emu"_s),
-        catalogue.chopped(End.size())
-            + configured("NES", "http://nes", emulator("N2", { .exe = "/bin/n2", .roms = at(u"b/"_s) }))
-            + End);
-}
