@@ -65,6 +65,17 @@ qint64 scansOf(const QByteArray &jpeg)
     return scans;
 }
 
+// A GIF's reader tells the size of the first picture, and decodes the whole screen that this is a part of.
+QSize sizeOf(const QImageReader &reader, const QByteArray &bytes)
+{
+    constexpr qsizetype ScreenPlace = 6;
+    const QSize size = reader.size();
+    if (reader.format() != "gif" || !size.isValid())
+        return size;
+    const char *screen = bytes.constData() + ScreenPlace;
+    return size.expandedTo({ qFromLittleEndian<quint16>(screen), qFromLittleEndian<quint16>(screen + 2) });
+}
+
 bool isWithinLimits(const QSize &size, qint64 passes)
 {
     constexpr qint64 MostPasses = 1000;
@@ -89,7 +100,7 @@ QImage decodeRaster(QByteArray bytes)
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, format);
     reader.setAutoDetectImageFormat(false);
-    if (!isWithinLimits(reader.size(), format == "jpeg" ? scansOf(bytes) : 1))
+    if (!isWithinLimits(sizeOf(reader, bytes), format == "jpeg" ? scansOf(bytes) : 1))
         return {};
     return reader.read();
 }

@@ -45,12 +45,17 @@ QByteArray little(int value)
     return bytes;
 }
 
-// Whose only picture has no pixels in the file.
+// Whose only picture has no pixels in the file, and is a part of the screen.
+QByteArray gifOf(QSize screen, QSize picture)
+{
+    return "GIF89a" + little(screen.width()) + little(screen.height())
+        + QByteArray::fromHex("800000000000FFFFFF") + QByteArray::fromHex("2C00000000")
+        + little(picture.width()) + little(picture.height()) + QByteArray::fromHex("000202440100") + ';';
+}
+
 QByteArray gifOf(int width, int height)
 {
-    const QByteArray size = little(width) + little(height);
-    return "GIF89a" + size + QByteArray::fromHex("800000000000FFFFFF") + QByteArray::fromHex("2C00000000")
-        + size + QByteArray::fromHex("000202440100") + ';';
+    return gifOf({ width, height }, { width, height });
 }
 
 } // namespace
@@ -110,6 +115,16 @@ TEST(Rasters, TooManyPixels_AreRefused)
     EXPECT_FALSE(decodeRaster(gifOf(8192, 4096)).isNull());
     EXPECT_TRUE(decodeRaster(gifOf(8192, 4097)).isNull());
     EXPECT_TRUE(decodeRaster(gifOf(65'535, 65'535)).isNull());
+}
+
+TEST(Rasters, OfAGif_TheWholeScreenIsMeasured)
+{
+    // Which the environment may set too.
+    const int usual = QImageReader::allocationLimit();
+    QImageReader::setAllocationLimit(4 * usual);
+    EXPECT_EQ(decodeRaster(gifOf({ 8192, 4096 }, { 2, 2 })).size(), QSize(8192, 4096));
+    EXPECT_TRUE(decodeRaster(gifOf({ 8192, 4097 }, { 2, 2 })).isNull());
+    QImageReader::setAllocationLimit(usual);
 }
 
 TEST(Rasters, ABmpFromTheTop_IsMeasuredByTheSizeOfItsHeight)
