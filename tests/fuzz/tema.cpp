@@ -18,6 +18,10 @@ std::span<const Tema> Temas()
         { "ordenes", probarOrdenes },
         { "archivos", probarArchivos },
         { "pcx", probarPcx },
+        { "altas", probarAltas },
+        { "bajas", probarBajas },
+        { "cambios", probarCambios },
+        { "capturas", probarCapturas },
     };
     return temas;
 }

@@ -16,5 +16,9 @@ void probarRutas(Bytes bytes); // paths and what they lead to
 void probarOrdenes(Bytes bytes); // command lines, and the file chosen out of an archive
 void probarArchivos(Bytes bytes); // unpacking
 void probarPcx(Bytes bytes); // pictures for the converter
+void probarAltas(Bytes bytes); // additions to the catalogue and the database
+void probarBajas(Bytes bytes); // removals from them
+void probarCambios(Bytes bytes); // changes in them
+void probarCapturas(Bytes bytes); // pictures for the screen
 
 } // namespace pelusa
