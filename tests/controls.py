@@ -85,6 +85,8 @@ def controls_of(screen, sources):
             made = re.search(rf"\b{variable} = new forms::(\w+)", source.text)
             if made:
                 found.setdefault(name, made.group(1))
+        for kind, name in re.findall(r"\bcoloca\(new forms::(\w+)\([^()]*\), u\"(\w+)\"_s", source.text):
+            found.setdefault(name, kind)
     return found
 
 
