@@ -1,8 +1,7 @@
 #include "forms/commandbutton.h"
 
 #include "forms/control.h"
-
-using namespace Qt::StringLiterals;
+#include "forms/plaintext.h"
 
 namespace forms {
 
@@ -16,7 +15,7 @@ CommandButton::CommandButton(QWidget *parent)
 void CommandButton::SetCaption(const QString &caption)
 {
     m_caption = caption;
-    setText(QString(caption).replace(u'&', u"&&"_s));
+    setText(asCaption(caption));
 }
 
 void CommandButton::keyPressEvent(QKeyEvent *event)

@@ -1,5 +1,7 @@
 #include "forms/directorylist.h"
 
+#include "forms/plaintext.h"
+
 #include "host/failure.h"
 #include "host/paths.h"
 
@@ -75,7 +77,7 @@ void DirectoryList::addRow(const QString &path, const QString &name, int depth, 
     m_paths += path;
     QListWidgetItem *row = item(AddItem(name));
     row->setData(Qt::DecorationRole, folder(*this, depth, open));
-    row->setToolTip(path);
+    row->setToolTip(asTip(path));
 }
 
 void DirectoryList::openRow(int row)

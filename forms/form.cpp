@@ -3,6 +3,7 @@
 #include "forms/control.h"
 #include "forms/picturebutton.h"
 #include "forms/pictures.h"
+#include "forms/plaintext.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -18,6 +19,7 @@ namespace forms {
 
 struct Form::State {
     Border border;
+    QString caption;
     QPixmap tile;
     int tileWidth = 0; // twips
     int tileHeight = 0; // twips
@@ -104,6 +106,17 @@ Form::~Form()
 {
     if (m_state->modalLoop)
         m_state->modalLoop->quit();
+}
+
+QString Form::Caption() const
+{
+    return m_state->caption;
+}
+
+void Form::SetCaption(const QString &caption)
+{
+    m_state->caption = caption;
+    setWindowTitle(asTitle(caption));
 }
 
 void Form::SetOuterHeight(int height)

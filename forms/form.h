@@ -22,8 +22,8 @@ public:
     Form(const QString &name, int clientWidth, int clientHeight, Border border);
     ~Form() override;
 
-    QString Caption() const { return windowTitle(); }
-    void SetCaption(const QString &caption) { setWindowTitle(caption); }
+    QString Caption() const;
+    void SetCaption(const QString &caption);
 
     // Height and width with the frame, in twips: 375 more than the client's height, 90 more than its width.
     void SetOuterHeight(int height);

@@ -17,7 +17,8 @@ QString MenuEntry::Caption() const
 
 void MenuEntry::SetCaption(const QString &caption)
 {
-    m_action->setText(caption);
+    // What stands behind a tab would be shown as the entry's key.
+    m_action->setText(QString(caption).replace(u'\t', u' '));
 }
 
 PopupMenu::PopupMenu(const QString &name, QWidget *parent)

@@ -1,5 +1,8 @@
 #include "forms/textbox.h"
 
+#include "forms/plaintext.h"
+#include "forms/shownpart.h"
+
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QStyle>
@@ -27,7 +30,7 @@ void TextBox::SetText(const QString &value)
 void TextBox::SetTip()
 {
     connect(this, &QLineEdit::textChanged, this,
-        [this](const QString &text) { setToolTip(fits(text) ? QString() : text); });
+        [this](const QString &text) { forms::SetTip(*this, fits(text) ? QString() : text); });
 }
 
 bool TextBox::fits(const QString &text) const
@@ -36,7 +39,7 @@ bool TextBox::fits(const QString &text) const
     QStyleOptionFrame frame;
     initStyleOption(&frame);
     const QRect room = style()->subElementRect(QStyle::SE_LineEditContents, &frame, this);
-    return fontMetrics().horizontalAdvance(text) <= room.width() - 2 * inset;
+    return fontMetrics().horizontalAdvance(shownPart(text)) <= room.width() - 2 * inset;
 }
 
 TextArea::TextArea(QWidget *parent)

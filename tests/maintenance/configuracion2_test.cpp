@@ -185,7 +185,9 @@ TEST_F(Configuracion2Test, PathsThatAreCutOffShowInFullAsTips)
     catalogue.replace("/bin/mame", deep + "mame").replace("/roms/", deep).replace("-a b", deep);
     begin();
     configurePair(u"Arcade"_s, u"Mame"_s, [&deep](forms::Form &form) {
-        const auto tip = [&form](const QString &name) { return controlOf<QWidget>(form, name).toolTip(); };
+        const auto tip = [&form](const QString &name) {
+            return controlOf<QWidget>(form, name).accessibleDescription();
+        };
         EXPECT_EQ(tip(u"Casilla1"_s), QString::fromLatin1(deep) + u"mame"_s);
         EXPECT_EQ(tip(u"Casilla2"_s), QString::fromLatin1(deep));
         EXPECT_EQ(tip(u"Casilla3"_s), QString()); // it fits

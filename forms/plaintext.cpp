@@ -1,0 +1,35 @@
+#include "forms/plaintext.h"
+
+#include "forms/shownpart.h"
+
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace forms {
+
+QString asTip(const QString &text)
+{
+    if (text.isEmpty())
+        return {};
+    const QString letters = shownPart(text).toHtmlEscaped().replace(u'\n', u"<br>"_s);
+    return u"<p style=\"white-space:pre\">"_s + letters + u"</p>"_s;
+}
+
+QString asCaption(const QString &text)
+{
+    return QString(text).replace(u'&', u"&&"_s);
+}
+
+QString asTitle(const QString &text)
+{
+    return QString(text).replace(u"[*]"_s, u"[*][*]"_s);
+}
+
+void SetTip(QWidget &control, const QString &text)
+{
+    control.setToolTip(asTip(text));
+    control.setAccessibleDescription(text);
+}
+
+} // namespace forms

@@ -1,0 +1,20 @@
+// Texts from outside, where the toolkit would read marks in them: they show letter by letter as they are.
+// Labels, lists and text boxes read none.
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace forms {
+
+// Of a control or of a row: it would be taken for HTML, which loads files. Of one without end it is the
+// beginning.
+QString asTip(const QString &text);
+QString asCaption(const QString &text); // of a button: '&' would mark an accelerator
+QString asTitle(const QString &text); // of a window: "[*]" would be the place of a mark
+
+// The tip of a control, which assistive programs are told as its description; an empty text takes both away.
+void SetTip(QWidget &control, const QString &text);
+
+} // namespace forms
