@@ -5,9 +5,13 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 
 #include <cstdio>
+
+using namespace Qt::StringLiterals;
 
 namespace host {
 
@@ -19,21 +23,47 @@ AnswerWords &words()
     return words;
 }
 
+// Of a button, or of a label beside what it names: '&' would mark an accelerator.
+QString caption(const QString &text)
+{
+    return QString(text).replace(u'&', u"&&"_s);
+}
+
 void name(QAbstractButton *button, const QString &word)
 {
     if (!word.isEmpty())
-        button->setText(word);
+        button->setText(caption(word));
 }
+
+// All texts come from outside: the toolkit reads no marks in them.
+class PlainBox final : public QMessageBox {
+public:
+    PlainBox(Icon icon, const QString &title, const QString &text, StandardButtons buttons, QWidget *parent)
+        : QMessageBox(icon, QString(title).replace(u"[*]"_s, u"[*][*]"_s), QString(), buttons, parent)
+    {
+        setTextFormat(Qt::PlainText);
+        setText(text);
+    }
+};
 
 QMessageBox::StandardButton ask(
     const QString &title, const QString &text, QMessageBox::StandardButtons buttons)
 {
-    QMessageBox box(QMessageBox::Question, title, text, buttons, QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
+    PlainBox box(QMessageBox::Question, title, text, buttons, QApplication::activeWindow());
     box.setDefaultButton(QMessageBox::No);
     name(box.button(QMessageBox::Yes), words().yes);
     name(box.button(QMessageBox::No), words().no);
     return QMessageBox::StandardButton(box.exec());
+}
+
+// Without what a terminal would obey.
+QString forTerminal(QString text)
+{
+    for (QChar &character : text) {
+        if (character.category() == QChar::Other_Control && character != u'\n')
+            character = u'?';
+    }
+    return text;
 }
 
 bool hasDisplay()
@@ -55,8 +85,12 @@ const AnswerWords &answerWords()
 
 QString DesktopQuestions::askText(const QString &prompt)
 {
-    return QInputDialog::getText(
-        QApplication::activeWindow(), QGuiApplication::applicationDisplayName(), prompt, QLineEdit::Password);
+    QInputDialog box(QApplication::activeWindow());
+    box.setWindowTitle(QGuiApplication::applicationDisplayName());
+    box.setTextEchoMode(QLineEdit::Password);
+    box.setLabelText(caption(prompt));
+    box.findChild<QLabel *>()->setTextFormat(Qt::PlainText);
+    return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 
 Questions::Answer DesktopQuestions::askYesNoCancel(const QString &title, const QString &text)
@@ -78,23 +112,20 @@ bool DesktopQuestions::askYesNo(const QString &title, const QString &text)
 
 void DesktopQuestions::tell(const QString &title, const QString &text)
 {
-    QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok, QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    PlainBox(QMessageBox::NoIcon, title, text, QMessageBox::Ok, QApplication::activeWindow()).exec();
 }
 
 void DesktopQuestions::endWithError(const QString &title, const QString &text)
 {
-    std::fprintf(stderr, "%s: %s\n", title.toLocal8Bit().constData(), text.toLocal8Bit().constData());
+    const QString line = forTerminal(title + u": "_s + text);
+    std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
     std::fflush(stderr);
 
     // A second failure, raised by what runs under the box, must not open a second box.
     static bool ending = false;
     if (hasDisplay() && !ending) {
         ending = true;
-        QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok);
-        box.setTextFormat(Qt::PlainText);
-        box.exec();
+        PlainBox(QMessageBox::Critical, title, text, QMessageBox::Ok, nullptr).exec();
     }
     endProcess(1);
 }

@@ -1,13 +1,16 @@
 // The plain system boxes on a screen: what they show, which answer each button and key gives.
 #include "host/desktopquestions.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <gmock/gmock.h>
 
@@ -21,6 +24,12 @@ namespace {
 inline void PrintTo(host::Questions::Answer answer, std::ostream *out)
 {
     *out << int(answer);
+}
+
+// What assistive programs are told.
+QString told(QObject &object)
+{
+    return QAccessible::queryAccessibleInterface(&object)->text(QAccessible::Name);
 }
 
 class QuestionsTest : public testing::Test {
@@ -130,6 +139,39 @@ TEST(QuestionsDeathTest, MarkupInTheBoxOfAFatalEndIsText)
             host::DesktopQuestions().endWithError(u"ERROR"_s, u"<b>file</b>"_s);
         },
         testing::ExitedWithCode(1), "ERROR: <b>file</b>\nplain");
+}
+
+TEST_F(QuestionsTest, MarksInTitlesAndWordsStandForThemselves)
+{
+    host::setAnswerWords({ u"R&D"_s, u"&&"_s });
+    whenUp<QMessageBox>([](QMessageBox *box) {
+        EXPECT_EQ(box->windowHandle()->title(), u"Title [*]"_s);
+        EXPECT_EQ(told(*box->button(QMessageBox::Yes)), u"R&D"_s);
+        EXPECT_EQ(told(*box->button(QMessageBox::No)), u"&&"_s);
+        EXPECT_TRUE(box->button(QMessageBox::Yes)->shortcut().isEmpty());
+        box->close();
+    });
+    m_questions.askYesNo(u"Title [*]"_s, u"x"_s);
+    host::setAnswerWords({});
+}
+
+TEST_F(QuestionsTest, MarkupInThePromptOfThePasswordIsText)
+{
+    whenUp<QInputDialog>([](QInputDialog *box) {
+        EXPECT_EQ(told(*box->findChild<QLabel *>()), u"<b>a</b> & [*]"_s);
+        box->close();
+    });
+    m_questions.askText(u"<b>a</b> & [*]"_s);
+}
+
+TEST(QuestionsDeathTest, AFatalEndTellsTheTerminalNothingButText)
+{
+    EXPECT_EXIT(
+        {
+            QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+            host::DesktopQuestions().endWithError(u"ERROR"_s, u"one\ntwo\x1B[2J\x07\u009B.\x7F"_s);
+        },
+        testing::ExitedWithCode(1), "ERROR: one\ntwo\\?\\[2J\\?\\?\\.\\?\n");
 }
 
 TEST_F(QuestionsTest, ThePasswordIsHiddenAndHandedOver)
