@@ -22,6 +22,8 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zem_NoNombre1", &P::Zem_NoNombre1 },
         { u"Zem_Cambiado0", &P::Zem_Cambiado0 },
         { u"Zem_Cambiado1", &P::Zem_Cambiado1 },
+        { u"Zem_NoZip0", &P::Zem_NoZip0 },
+        { u"Zem_NoZip1", &P::Zem_NoZip1 },
         { u"Zem_Falta0", &P::Zem_Falta0 },
         { u"Zem_FaltaEditor", &P::Zem_FaltaEditor },
         { u"Zem_FaltaEdit", &P::Zem_FaltaEdit },

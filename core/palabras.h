@@ -27,6 +27,10 @@ struct Palabras {
     QString Zem_Cambiado0 = QStringLiteral("Nada ha cambiado");
     QString Zem_Cambiado1 = QStringLiteral("Otro programa ha cambiado el archivo entretanto.");
 
+    // Playing one out of an archive.
+    QString Zem_NoZip0 = QStringLiteral("ZIP ilegible");
+    QString Zem_NoZip1 = QStringLiteral("El ZIP está dañado, o es demasiado antiguo.");
+
     // What the desktop lacks.
     QString Zem_Falta0 = QStringLiteral("Falta un programa");
     QString Zem_FaltaEditor = QStringLiteral("No hay ningún editor de textos instalado.");

@@ -49,13 +49,18 @@ private:
 
     void Tipo0();
     void Tipo0Zip();
-    std::optional<QString> FicheroDelZip(const QString &carpeta);
+    struct FicheroDelZip {
+        std::optional<QString> elegido;
+        bool ilegible = false; // there is one to be chosen, but it can't be unpacked
+    };
+    FicheroDelZip BuscaEnElZip(const QString &carpeta);
     void Tipo2();
     void Tipo3();
 
     QString LeeCatalogo(const Tabla &tabla, int prefijo) const;
     QStringList Extensiones() const;
-    QStringList Desempaqueta(const Ruta &ArchivoZip, const QString &DirectorioDestino);
+    Desempaquetado Desempaqueta(const Ruta &ArchivoZip, const QString &DirectorioDestino);
+    void AvisaDeIlegible();
     void Corre(Caso caso);
 
     core::Modulo &M;
@@ -147,37 +152,45 @@ void Lanzamiento::Tipo0Zip()
 {
     const QString carpeta = RutaZBTMP();
     HazZBTMP(carpeta);
-    if (const std::optional<QString> elegido = FicheroDelZip(carpeta)) {
-        m_piezas.Desempaquetada = { DirectorioTemporal() + u"ZB-TMP/"_s + host::lower(*elegido),
-            carpeta + u'/' + *elegido };
+    const FicheroDelZip fichero = BuscaEnElZip(carpeta);
+    if (fichero.elegido) {
+        m_piezas.Desempaquetada = { DirectorioTemporal() + u"ZB-TMP/"_s + host::lower(*fichero.elegido),
+            carpeta + u'/' + *fichero.elegido };
         Corre(Caso::Desempaquetado);
+    } else if (fichero.ilegible) {
+        AvisaDeIlegible();
     } else {
         Intenta([&] { m_pantalla.Aviso(M.Msg_ZipSinRoms0, M.Msg_ZipSinRoms1); });
     }
     VaciaZBTMP(carpeta);
 }
 
-std::optional<QString> Lanzamiento::FicheroDelZip(const QString &carpeta)
+Lanzamiento::FicheroDelZip Lanzamiento::BuscaEnElZip(const QString &carpeta)
 {
     if (!EsDirectorioPropio(carpeta))
-        return std::nullopt;
-    const QStringList miembros = Desempaqueta(m_piezas.RomDir + m_piezas.RomCorto, carpeta);
+        return {};
+    const Desempaquetado miembros = Desempaqueta(m_piezas.RomDir + m_piezas.RomCorto, carpeta);
     M.RutaTrabajo = carpeta + u'/';
     QStringList enCarpeta;
     Intenta([&] { enCarpeta = host::listPlainFiles(carpeta); });
     M.DirActual = enCarpeta.value(enCarpeta.size() - 1);
-    return EligeFichero(Candidatos(enCarpeta, miembros), Extensiones());
+    // A search that ran past the last name chose nothing.
+    const QString ilegible = EligeFichero(miembros.ilegibles, Extensiones()).value_or(QString());
+    return { EligeFichero(Candidatos(enCarpeta, miembros.ficheros), Extensiones()),
+        miembros.nadaLegible || !ilegible.isEmpty() };
 }
 
 void Lanzamiento::Tipo2()
 {
     const QString Carpeta = m_via == Via::Nota ? m_piezas.RomCorto.texto : m_piezas.RomBase;
     const CarpetaDeJuego carpeta(m_piezas.programa.ExeDir.enDisco, Carpeta);
-    QStringList desempaquetados;
+    Desempaquetado miembros;
     if (!carpeta.Ruta().isEmpty())
-        desempaquetados = Desempaqueta(ArchivoZipDe(m_via, m_piezas), carpeta.Ruta());
+        miembros = Desempaqueta(ArchivoZipDe(m_via, m_piezas), carpeta.Ruta());
+    if (miembros.nadaLegible)
+        AvisaDeIlegible();
     Corre(Caso::Comprimido);
-    carpeta.Limpia(desempaquetados);
+    carpeta.Limpia(miembros.ficheros);
 }
 
 void Lanzamiento::Tipo3()
@@ -205,11 +218,16 @@ QStringList Lanzamiento::Extensiones() const
 }
 
 // Read by the disk's own spelling: a short name can't be looked up where the directory can't be listed.
-QStringList Lanzamiento::Desempaqueta(const Ruta &ArchivoZip, const QString &DirectorioDestino)
+Desempaquetado Lanzamiento::Desempaqueta(const Ruta &ArchivoZip, const QString &DirectorioDestino)
 {
     M.ArchivoZip = ArchivoZip.texto;
     M.DirectorioDestino = DirectorioDestino;
-    return Descomprimir(ArchivoZip.enDisco, M.DirectorioDestino).ficheros;
+    return Descomprimir(ArchivoZip.enDisco, M.DirectorioDestino);
+}
+
+void Lanzamiento::AvisaDeIlegible()
+{
+    Intenta([&] { m_pantalla.Aviso(M.Palabras.Zem_NoZip0, M.Palabras.Zem_NoZip1); });
 }
 
 void Lanzamiento::Corre(Caso caso)

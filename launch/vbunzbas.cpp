@@ -1,6 +1,7 @@
 #include "launch/vbunzbas.h"
 
 #include "launch/destino.h"
+#include "launch/fuentezip.h"
 
 #include "host/encoding.h"
 #include "host/failure.h"
@@ -35,9 +36,13 @@ public:
     void NuevoMiembro();
     const char *Otra();
 
+    // Whether the member asked for one more than there was.
+    bool Falto() const { return m_falto; }
+
 private:
     void Pregunta();
 
+    bool m_falto = false;
     int m_intentos = 0;
     QByteArrayList m_porProbar;
     QByteArray m_actual;
@@ -45,6 +50,7 @@ private:
 
 void Contraseñas::NuevoMiembro()
 {
+    m_falto = false;
     m_intentos = 0;
     m_porProbar.clear();
 }
@@ -53,7 +59,8 @@ const char *Contraseñas::Otra()
 {
     if (m_porProbar.isEmpty())
         Pregunta();
-    if (m_porProbar.isEmpty())
+    m_falto = m_porProbar.isEmpty();
+    if (m_falto)
         return nullptr;
     m_actual = m_porProbar.takeFirst();
     return m_actual.constData();
@@ -101,13 +108,13 @@ struct Cierra {
 };
 using Archivo = std::unique_ptr<archive, Cierra>;
 
-Archivo leeZip(const host::Descriptor &fichero, Contraseñas &contraseñas)
+Archivo leeZip(FuenteZip &fuente, Contraseñas &contraseñas)
 {
     Archivo archivo(archive_read_new());
     archive_read_support_format_zip(archivo.get());
     archive_read_set_options(archivo.get(), "zip:hdrcharset=CP437"); // of names that aren't marked as UTF-8
     archive_read_set_passphrase_callback(archivo.get(), &contraseñas, otraContraseña);
-    if (archive_read_open_fd(archivo.get(), fichero.number(), Bloque) != ARCHIVE_OK)
+    if (!fuente.AbrePara(archivo.get()))
         archivo.reset();
     return archivo;
 }
@@ -124,18 +131,21 @@ public:
     Desempaquetado Todo();
 
 private:
-    enum class Lectura { Entera, Dañada, DiscoLleno };
+    enum class Lectura { Entera, Dañada, Desconocida, DiscoLleno };
 
     void Miembro(archive_entry *miembro);
     void Fichero(archive_entry *miembro, QList<QByteArray> partes);
     bool PuedeOcupar(
         const host::Descriptor &directorio, const QByteArray &nombre, const QByteArray &enArchivo);
     Lectura Copia(FicheroNuevo &fichero);
+    bool EsIlegible(archive_entry *miembro, Lectura lectura) const;
 
     archive *m_archivo;
     const Destino &m_destino;
     Contraseñas &m_contraseñas;
     Desempaquetado m_resultado;
+    int m_enteros = 0;
+    int m_ilegibles = 0;
     bool m_ningunoMas = false; // existing files are not to be replaced, and not to be asked about
     bool m_discoLleno = false;
 };
@@ -151,6 +161,7 @@ Desempaquetado Extraccion::Todo()
         if (estado >= ARCHIVE_WARN)
             Miembro(miembro);
     }
+    m_resultado.nadaLegible = m_ilegibles > 0 && m_enteros == 0;
     return m_resultado;
 }
 
@@ -184,6 +195,12 @@ void Extraccion::Fichero(archive_entry *miembro, QList<QByteArray> partes)
         return;
     const Lectura lectura = Copia(fichero);
     m_discoLleno = lectura == Lectura::DiscoLleno;
+    m_enteros += lectura == Lectura::Entera ? 1 : 0;
+    if (EsIlegible(miembro, lectura)) {
+        ++m_ilegibles;
+        if (directamente)
+            m_resultado.ilegibles << host::nameFromDisk(nombre);
+    }
     const bool soloLectura = (archive_entry_perm(miembro) & 0200) == 0;
     if (lectura == Lectura::Entera && fichero.Termina(nombre, soloLectura) && directamente)
         m_resultado.ficheros << host::nameFromDisk(nombre);
@@ -204,7 +221,15 @@ bool Extraccion::PuedeOcupar(
     return respuesta == Answer::Yes;
 }
 
-// A warning at the end of the data means that it doesn't agree with its checksum.
+// Of an encrypted member wrong data may as well mean a wrong password, which its user knows of.
+bool Extraccion::EsIlegible(archive_entry *miembro, Lectura lectura) const
+{
+    const bool dañada = lectura == Lectura::Dañada && archive_entry_is_data_encrypted(miembro) == 0;
+    return (dañada || lectura == Lectura::Desconocida) && !m_contraseñas.Falto();
+}
+
+// A warning at the end of the data means that it doesn't agree with its checksum; a member that fails alone
+// is compressed in a way that the library doesn't know.
 Extraccion::Lectura Extraccion::Copia(FicheroNuevo &fichero)
 {
     std::array<char, Bloque> bloque;
@@ -213,7 +238,7 @@ Extraccion::Lectura Extraccion::Copia(FicheroNuevo &fichero)
         if (leidos == 0)
             return Lectura::Entera;
         if (leidos < 0)
-            return Lectura::Dañada;
+            return leidos == ARCHIVE_FAILED ? Lectura::Desconocida : Lectura::Dañada;
         if (!fichero.Escribe(bloque.data(), leidos))
             return Lectura::DiscoLleno;
     }
@@ -223,12 +248,12 @@ Extraccion::Lectura Extraccion::Copia(FicheroNuevo &fichero)
 
 Desempaquetado Descomprimir(const QString &ArchivoZip, const QString &DirectorioDestino)
 {
-    const host::Descriptor fichero = abre(ArchivoZip);
+    FuenteZip fuente(abre(ArchivoZip));
     const Destino destino(host::findOnDisk(DirectorioDestino));
-    if (!fichero.isOpen() || !destino.Abierto())
+    if (!fuente.Abierta() || !destino.Abierto())
         return {};
     Contraseñas contraseñas;
-    const Archivo archivo = leeZip(fichero, contraseñas);
+    const Archivo archivo = leeZip(fuente, contraseñas);
     return archivo ? Extraccion(archivo.get(), destino, contraseñas).Todo() : Desempaquetado();
 }
 

@@ -8,6 +8,8 @@ namespace launch {
 
 struct Desempaquetado {
     QStringList ficheros; // plain files written directly into the destination, in the archive's order
+    QStringList ilegibles; // those that would lie there, but are damaged or compressed in an unknown way
+    bool nadaLegible = false; // there are such members, in subdirectories too, and no other plain file
 };
 
 // Unpacks the whole archive into a directory that exists. Reports no failure: whatever is wrong with the

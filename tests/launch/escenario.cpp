@@ -110,6 +110,8 @@ Escenario::Escenario()
     launch::OlvidaSaltarContraseña();
     M.Msg_ZipSinRoms0 = u"Zip0"_s;
     M.Msg_ZipSinRoms1 = u"Zip1"_s;
+    M.Palabras.Zem_NoZip0 = u"No0"_s;
+    M.Palabras.Zem_NoZip1 = u"No1"_s;
     M.DebugMode = u"0"_s;
     M.MsgEndDOS = u"Finalizado"_s;
     EXPECT_EQ(chdir(place("program").constData()), 0);

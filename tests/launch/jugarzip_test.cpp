@@ -17,6 +17,7 @@ using Answer = host::Questions::Answer;
 namespace {
 
 const QString SinRoms = u"Aviso Zip0: Zip1"_s;
+const QString Ilegible = u"Aviso No0: No1"_s;
 
 class Tipo0Test : public Escenario {
 protected:
@@ -154,6 +155,45 @@ TEST_F(Tipo0Test, WhatIsNoArchiveEndsInTheMessage)
     Juega();
     esperaSinRoms();
     EXPECT_TRUE(temporalVacio());
+}
+
+TEST_F(Tipo0Test, WhereNoMemberCanBeReadTheUserIsToldThatInstead)
+{
+    for (const int metodo : { 1, 2, 3, 4, 5, 6 }) {
+        pantalla.llamadas.clear();
+        juega({ { .nombre = "a.nes", .metodo = metodo } });
+        EXPECT_EQ(avisos(), QStringList({ Ilegible })) << metodo;
+        EXPECT_FALSE(HuboJuego());
+        EXPECT_TRUE(temporalVacio());
+        EXPECT_EQ(pantalla.llamadas.last(), u"EnfocaLista1"_s);
+    }
+}
+
+TEST_F(Tipo0Test, WhereOnlyTheGameCanNotBeReadTheUserIsToldSoToo)
+{
+    juega({ { .nombre = "a.nes", .metodo = 6 }, { "read.me" } });
+    EXPECT_EQ(avisos(), QStringList({ Ilegible }));
+    EXPECT_TRUE(temporalVacio());
+}
+
+TEST_F(Tipo0Test, WithoutAGameTheOldMessageStays_WhateverElseCanNotBeRead)
+{
+    juega({ { .nombre = "a.txt", .metodo = 6 }, { "read.me" } });
+    esperaSinRoms();
+}
+
+TEST_F(Tipo0Test, AnEmptyArchiveOfASystemOfFilesWithoutExtensionHasNoUnreadableGame)
+{
+    PonExtensiones({ u"*.NES"_s, u"*."_s });
+    juega({ { "only/", "" } });
+    EXPECT_FALSE(avisos().contains(Ilegible));
+}
+
+TEST_F(Tipo0Test, AGameThatCanBeReadIsPlayed_WhateverElseCanNot)
+{
+    juega({ { .nombre = "a.txt", .metodo = 6 }, { "b.fds", "the game" } });
+    EXPECT_EQ(avisos(), QStringList());
+    EXPECT_EQ(Abierto(), "the game");
 }
 
 TEST_F(Tipo0Test, TheMessageComesWhileTheUnpackedFilesAreStillThere)
@@ -413,6 +453,27 @@ TEST_P(PorLasDosVias, ADamagedArchiveStartsTheEmulatorAnyway)
     EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "mario", "-2" }));
     EXPECT_EQ(Anotado("unpacked"), "");
     EXPECT_FALSE(exists("emu/mario"));
+}
+
+TEST_P(PorLasDosVias, WhereNoMemberCanBeReadTheUserIsTold_AndThenTheEmulatorStarts)
+{
+    bool antes = false;
+    pantalla.enLlamada = [&](const QString &llamada) { antes |= llamada == Ilegible && !HuboJuego(); };
+    PonROM(
+        "mario.zip", Zip({ { .nombre = "rom1.bin", .metodo = 6 }, { .nombre = "rom2.bin", .metodo = 1 } }));
+    juega(GetParam());
+    EXPECT_TRUE(antes);
+    EXPECT_EQ(pantalla.llamadas.filter(u"Aviso"_s), QStringList({ Ilegible }));
+    EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "mario", "-2" }));
+    EXPECT_FALSE(exists("emu/mario"));
+}
+
+TEST_P(PorLasDosVias, WhereSomeMembersCanBeReadNothingIsSaid)
+{
+    PonROM("mario.zip", Zip({ { .nombre = "rom1.bin", .metodo = 6 }, { "sub/rom2.bin" } }));
+    juega(GetParam());
+    EXPECT_EQ(pantalla.llamadas.filter(u"Aviso"_s), QStringList());
+    EXPECT_TRUE(HuboJuego());
 }
 
 TEST_P(PorLasDosVias, WhereTheDirectoryCanNotBeMadeTheEmulatorStartsAnyway)

@@ -91,7 +91,7 @@ TEST_F(DescomprimirTest, ABackslashInAMembersNameIsASeparator)
 
 TEST_F(DescomprimirTest, ABackslashSeparatesAlsoInAnArchiveMadeOnAUnix)
 {
-    descomprime({ { .nombre = "sub\\in.nes", .atributos = 0100644U << 16, .enUnix = true } });
+    descomprime({ { .nombre = "sub\\in.nes", .atributos = 0100644U << 16, .sistema = EnUnix } });
     EXPECT_EQ(desempaquetado(), QByteArrayList({ "sub/", "sub/in.nes" }));
 }
 
@@ -144,7 +144,7 @@ TEST_F(DescomprimirTest, LinksInTheArchiveAreSkipped_AndWhatWouldGoThroughThem)
 {
     makeDirectory("outside");
     const MiembroZip enlace {
-        .nombre = "link", .datos = "../outside", .atributos = 0120777U << 16, .enUnix = true
+        .nombre = "link", .datos = "../outside", .atributos = 0120777U << 16, .sistema = EnUnix
     };
     descomprime({ enlace, { "link/in.nes" } });
     EXPECT_EQ(desempaquetado(), QByteArrayList({ "link/", "link/in.nes" }));
@@ -153,8 +153,8 @@ TEST_F(DescomprimirTest, LinksInTheArchiveAreSkipped_AndWhatWouldGoThroughThem)
 
 TEST_F(DescomprimirTest, OtherThingsThanFilesAndDirectoriesAreSkipped)
 {
-    const MiembroZip zocalo { .nombre = "socket", .atributos = 0140644U << 16, .enUnix = true };
-    const MiembroZip aparato { .nombre = "device", .atributos = 0020644U << 16, .enUnix = true };
+    const MiembroZip zocalo { .nombre = "socket", .atributos = 0140644U << 16, .sistema = EnUnix };
+    const MiembroZip aparato { .nombre = "device", .atributos = 0020644U << 16, .sistema = EnUnix };
     descomprime({ zocalo, aparato, { "a.nes" } });
     EXPECT_EQ(desempaquetado(), QByteArrayList({ "a.nes" }));
 }
@@ -162,14 +162,114 @@ TEST_F(DescomprimirTest, OtherThingsThanFilesAndDirectoriesAreSkipped)
 TEST_F(DescomprimirTest, TheReadOnlyMarkIsRestored_AndNoOtherMode)
 {
     const MiembroZip enDos { .nombre = "dos.nes", .atributos = 1 };
-    const MiembroZip enUnix { .nombre = "unix.nes", .atributos = 0100444U << 16, .enUnix = true };
-    const MiembroZip ejecutable { .nombre = "run.nes", .atributos = 0104777U << 16, .enUnix = true };
+    const MiembroZip enUnix { .nombre = "unix.nes", .atributos = 0100444U << 16, .sistema = EnUnix };
+    const MiembroZip ejecutable { .nombre = "run.nes", .atributos = 0104777U << 16, .sistema = EnUnix };
     descomprime({ enDos, enUnix, ejecutable, { "plain.nes" } });
     EXPECT_EQ(mode("to/dos.nes") & 0222, 0U);
     EXPECT_EQ(mode("to/unix.nes") & 0222, 0U);
     EXPECT_EQ(mode("to/run.nes"), mode("to/plain.nes"));
     EXPECT_EQ(mode("to/plain.nes") & 0600, 0600U);
     EXPECT_EQ(mode("to/plain.nes") & 07111, 0U);
+}
+
+class MarcaDeSoloLectura : public DescomprimirTest, public testing::WithParamInterface<int> { };
+
+INSTANTIATE_TEST_SUITE_P(
+    Sistemas, MarcaDeSoloLectura, testing::Values(EnFat, EnHpfs, EnNtfs, EnNtfsDeInfoZip, EnVfat));
+
+TEST_P(MarcaDeSoloLectura, IsRestored_OfMembersOfEverySystemThatHasIt)
+{
+    const int sistema = GetParam();
+    descomprime({ { .nombre = "marked.nes", .atributos = 1, .sistema = sistema },
+        { .nombre = "free.nes", .atributos = 0x20, .sistema = sistema } });
+    EXPECT_EQ(mode("to/marked.nes") & 0222, 0U);
+    EXPECT_EQ(mode("to/free.nes") & 0600, 0600U);
+}
+
+TEST_P(MarcaDeSoloLectura, IsRestored_BehindOtherBytesAndAheadOfAComment)
+{
+    const QList<MiembroZip> miembros { { "first.nes" },
+        { .nombre = "marked.nes", .atributos = 1, .sistema = GetParam() } };
+    makeFile("a.zip", ZipTrasOtrosBytes(miembros, "MZ and a program that unpacks itself", "PK\5\6 no end"));
+    EXPECT_EQ(descomprimeArchivo(), QStringList({ u"first.nes"_s, u"marked.nes"_s }));
+    EXPECT_EQ(mode("to/first.nes") & 0600, 0600U);
+    EXPECT_EQ(mode("to/marked.nes") & 0222, 0U);
+}
+
+TEST_P(MarcaDeSoloLectura, IsRestored_WhereverTheReadingsOfTheArchiveBreak)
+{
+    // The directory's record begins at another place of the blocks each time.
+    for (int resto = 0; resto < 8; ++resto) {
+        descomprime({ { "big.nes", QByteArray(65536 - 143 + resto, 'b') },
+            { .nombre = "marked.nes", .atributos = 1, .sistema = GetParam() } });
+        EXPECT_EQ(mode("to/marked.nes") & 0222, 0U) << resto;
+        ASSERT_EQ(unlink(place("to/marked.nes").constData()), 0);
+        ASSERT_EQ(unlink(place("to/big.nes").constData()), 0);
+    }
+}
+
+TEST_F(DescomprimirTest, OnOtherSystemsTheSameBitIsNoReadOnlyMark)
+{
+    for (const int sistema : { 1, 2, 4, 5, 7, 8, 9, 12, 13, 15, 16, 17, 18, 19, 255 }) {
+        const QByteArray nombre = QByteArray::number(sistema);
+        descomprime({ { .nombre = nombre, .atributos = 1, .sistema = sistema } });
+        EXPECT_EQ(mode("to/" + nombre) & 0600, 0600U) << sistema;
+    }
+}
+
+class MetodoDeOtroTiempo : public DescomprimirTest, public testing::WithParamInterface<int> {
+protected:
+    launch::Desempaquetado resultadoDe(const QList<MiembroZip> &miembros) const
+    {
+        makeFile("a.zip", Zip(miembros));
+        return launch::Descomprimir(path(u"a.zip"_s), path(u"to"_s));
+    }
+};
+
+// Shrunk, reduced by four degrees, imploded.
+INSTANTIATE_TEST_SUITE_P(Metodos, MetodoDeOtroTiempo, testing::Values(1, 2, 3, 4, 5, 6));
+
+TEST_P(MetodoDeOtroTiempo, MembersThatCanNotBeReadAreNamed_InTheArchivesOrder)
+{
+    const launch::Desempaquetado d =
+        resultadoDe({ { .nombre = "b.nes", .metodo = GetParam() }, { "plain.nes" },
+            { .nombre = "a.nes", .metodo = GetParam() }, { .nombre = "sub/c.nes", .metodo = GetParam() } });
+    EXPECT_EQ(d.ficheros, QStringList({ u"plain.nes"_s }));
+    EXPECT_EQ(d.ilegibles, QStringList({ u"b.nes"_s, u"a.nes"_s }));
+    EXPECT_FALSE(d.nadaLegible);
+    EXPECT_EQ(desempaquetado(), QByteArrayList({ "plain.nes", "sub/" }));
+}
+
+TEST_P(MetodoDeOtroTiempo, WhereNoMemberCanBeReadThatIsTold)
+{
+    EXPECT_TRUE(resultadoDe({ { .nombre = "a.nes", .metodo = GetParam() } }).nadaLegible);
+    EXPECT_TRUE(resultadoDe({ { "sub/", "" }, { .nombre = "sub/a.nes", .metodo = GetParam() } }).nadaLegible);
+    EXPECT_FALSE(resultadoDe({ { .nombre = "a.nes", .metodo = GetParam() }, { "sub/read.me" } }).nadaLegible);
+}
+
+TEST_F(DescomprimirTest, DamagedMembersAloneAreNothingReadable)
+{
+    makeFile("a.zip", Zip({ { .nombre = "a.nes", .sumaFalsa = true } }));
+    EXPECT_TRUE(launch::Descomprimir(path(u"a.zip"_s), path(u"to"_s)).nadaLegible);
+}
+
+TEST_F(DescomprimirTest, WhatTheUserOrTheDiskKeptOutIsNotCalledUnreadable)
+{
+    const auto nadaLegible = [this](const QByteArray &archivo) {
+        makeFile("a.zip", archivo);
+        const launch::Desempaquetado d = launch::Descomprimir(path(u"a.zip"_s), path(u"to"_s));
+        return d.nadaLegible || !d.ilegibles.isEmpty();
+    };
+    EXPECT_FALSE(nadaLegible("no archive"));
+    EXPECT_FALSE(nadaLegible(Zip({})));
+    EXPECT_FALSE(nadaLegible(Zip({ { "only/", "" } })));
+    makeFile("to/a.nes", "old");
+    respuestas.sobreescribir = { Answer::No };
+    EXPECT_FALSE(nadaLegible(Zip({ { "a.nes" } })));
+    respuestas.contraseñas = { u"one"_s, u"two"_s, u"three"_s, u""_s };
+    EXPECT_FALSE(nadaLegible(ZipCifrado({ { "b.nes" }, { "c.nes" } }, "sesame")));
+    launch::PonEspacioLibre([](int) { return 1000; });
+    EXPECT_FALSE(nadaLegible(Zip({ { "d.nes" } })));
 }
 
 TEST_F(DescomprimirTest, AMemberThatDoesNotAgreeWithItsChecksumLeavesNothing)

@@ -75,7 +75,7 @@ private:
 void comun(Bytes &salida, const MiembroZip &miembro, const QByteArray &guardado, bool cifrado)
 {
     salida.dos(20).dos((miembro.utf8 ? 0x800 : 0) | (cifrado ? 1 : 0));
-    salida.dos(miembro.comprimido ? 8 : 0).dos(0).dos(0x21);
+    salida.dos(quint32(miembro.comprimido ? 8 : miembro.metodo)).dos(0).dos(0x21);
     salida.cuatro(suma(miembro.datos) + (miembro.sumaFalsa ? 1 : 0));
     salida.cuatro(quint32(guardado.size())).cuatro(quint32(miembro.datos.size()));
     salida.dos(quint32(miembro.nombre.size())).dos(0);
@@ -101,7 +101,8 @@ QByteArray cifrados(const MiembroZip &miembro, const QByteArray &contraseña)
     return Cifra(contraseña).de(QByteArray(11, 'z') + char(suma(miembro.datos) >> 24) + guardados(miembro));
 }
 
-QByteArray hazZip(const QList<MiembroZip> &miembros, const QByteArray &contraseña)
+QByteArray hazZip(
+    const QList<MiembroZip> &miembros, const QByteArray &contraseña, const QByteArray &comentario = {})
 {
     const bool cifrado = !contraseña.isEmpty();
     Bytes cuerpo;
@@ -112,7 +113,7 @@ QByteArray hazZip(const QList<MiembroZip> &miembros, const QByteArray &contrase�
         comun(cuerpo.texto("PK\3\4"), miembro, guardado, cifrado);
         cuerpo.texto(miembro.nombre).texto(guardado);
         comun(
-            directorio.texto("PK\1\2").dos(miembro.enUnix ? 20 | (3 << 8) : 20), miembro, guardado, cifrado);
+            directorio.texto("PK\1\2").dos(quint32(20 | (miembro.sistema << 8))), miembro, guardado, cifrado);
         directorio.dos(0).dos(0).dos(0).cuatro(miembro.atributos).cuatro(lugar).texto(miembro.nombre);
     }
     const quint32 total = quint32(miembros.size());
@@ -124,7 +125,8 @@ QByteArray hazZip(const QList<MiembroZip> &miembros, const QByteArray &contrase�
         .dos(total)
         .cuatro(directorio.total())
         .cuatro(cuerpo.total())
-        .dos(0);
+        .dos(quint32(comentario.size()))
+        .texto(comentario);
     return cuerpo.bytes() + directorio.bytes() + fin.bytes();
 }
 
@@ -133,6 +135,12 @@ QByteArray hazZip(const QList<MiembroZip> &miembros, const QByteArray &contrase�
 QByteArray Zip(const QList<MiembroZip> &miembros)
 {
     return hazZip(miembros, {});
+}
+
+QByteArray ZipTrasOtrosBytes(
+    const QList<MiembroZip> &miembros, const QByteArray &otros, const QByteArray &comentario)
+{
+    return otros + hazZip(miembros, {}, comentario);
 }
 
 QByteArray ZipCifrado(const QList<MiembroZip> &miembros, const QByteArray &contraseña)
