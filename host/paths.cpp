@@ -169,7 +169,8 @@ QString directoryPath(const QString &path)
 QString GetShortPathNameA(const QString &path)
 {
     QByteArray found = findOnDisk(path);
-    if (found.isEmpty())
+    struct stat status;
+    if (found.isEmpty() || stat(found.constData(), &status) != 0)
         return {};
     if (!found.startsWith('/'))
         found = joined(nameToDisk(currentDirectory()), found);

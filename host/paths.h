@@ -44,8 +44,8 @@ QString directoryPath(const QString &path);
 // The short form of an existing path: absolute, each component in lower case, its blanks and inner points as
 // '_', so without blanks and with at most one point a component. A name that has this form already is its own
 // short form; the others that collide with it get ~2, ~3 ... ahead of the point. Keeps a closing separator.
-// Empty if there is no such path. A pure function of what lies in the directories; findOnDisk of a short form
-// is the path's own file. A component ".." stays, a "." goes.
+// Empty if there is no such path, or only a link that leads nowhere. A pure function of what lies in the
+// directories; findOnDisk of a short form is the path's own file. A component ".." stays, a "." goes.
 QString GetShortPathNameA(const QString &path);
 
 // Whether there is such a path; a link that leads nowhere is none.

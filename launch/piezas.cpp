@@ -11,10 +11,12 @@ namespace {
 
 Ruta rutaCorta(const QString &ruta)
 {
+    const QString corta = host::GetShortPathNameA(ruta);
+    if (corta.isEmpty())
+        return {};
     const QString enDisco = host::trueSpelling(ruta);
-    const bool relativa = !enDisco.isEmpty() && !enDisco.startsWith(u'/');
-    return { host::lower(host::GetShortPathNameA(ruta)),
-        relativa ? host::currentDirectory() + u'/' + enDisco : enDisco };
+    return { host::lower(corta),
+        enDisco.startsWith(u'/') ? enDisco : host::currentDirectory() + u'/' + enDisco };
 }
 
 // Found paths are cut at the slash alone: a backslash in one belongs to a name.

@@ -120,6 +120,17 @@ TEST_F(ShortPaths, LinksAreNotFollowed)
     EXPECT_EQ(form(u"My Link/a b"_s), u"my_link/a_b"_s);
 }
 
+TEST_F(ShortPaths, LinkThatLeadsNowhereHasNone)
+{
+    makeFile("target");
+    makeLink("target", "a b");
+    makeLink("nowhere", "c d");
+    makeLink("e f", "e f");
+    EXPECT_EQ(form(u"a b"_s), u"a_b"_s);
+    EXPECT_EQ(GetShortPathNameA(path(u"c d"_s)), QString());
+    EXPECT_EQ(GetShortPathNameA(path(u"e f"_s)), QString());
+}
+
 TEST_F(ShortPaths, NameThatHasTheFormKeepsIt)
 {
     makeFile("a_b.zip");

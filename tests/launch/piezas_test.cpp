@@ -104,6 +104,18 @@ TEST_F(PiezasTest, AMissingRomIsEmpty_AndSoIsAnEmptyName)
     EXPECT_EQ(launch::RomCortoDe(dir, QString()).texto, QString());
 }
 
+TEST_F(PiezasTest, ALinkThatLeadsNowhereIsNeitherARomNorAProgram)
+{
+    makeLink("nowhere", "roms/game.nes");
+    makeLink("nowhere", "emu/gone.sh");
+    const Ruta rom = launch::RomCortoDe(launch::RomDirDe(path(u"roms/"_s)), u"game.nes"_s);
+    EXPECT_EQ(rom.texto, QString());
+    EXPECT_EQ(rom.enDisco, QString());
+    const launch::Programa programa = launch::ProgramaDe(path(u"emu/gone.sh"_s));
+    EXPECT_EQ(programa.ExeCorto.texto, QString());
+    EXPECT_EQ(programa.ExeCorto.enDisco, QString());
+}
+
 TEST_F(PiezasTest, ABackslashInARomsNameBelongsToTheName)
 {
     PonROM("a\\b.nes");
