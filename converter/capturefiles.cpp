@@ -2,6 +2,7 @@
 
 #include "converter/picture.h"
 #include "host/descriptor.h"
+#include "host/scratch.h"
 
 #include <array>
 #include <cerrno>
@@ -16,8 +17,7 @@ namespace converter {
 
 namespace {
 
-constexpr mode_t NewFileMode = 0666; // less the process's mask
-constexpr int MostScratchNames = 100;
+const std::string Unfinished = "cvtgif15";
 
 [[noreturn]] void failWith(int systemError, const std::string &what)
 {
@@ -36,44 +36,38 @@ std::string nameWithin(const std::string &name)
 }
 
 // A file that is not there any more when this ends, unless it was given its real name.
-class ScratchFile {
+class NewGif {
 public:
-    explicit ScratchFile(int directory)
+    explicit NewGif(int directory)
         : m_directory(directory)
+        , m_scratch(host::openScratchFile(directory, Unfinished))
     {
-        const int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
-        for (int i = 0; i < MostScratchNames && !m_file.isOpen(); ++i) {
-            m_name = ".cvtgif15-" + std::to_string(getpid()) + '-' + std::to_string(i);
-            m_file = host::Descriptor(openat(directory, m_name.c_str(), flags, NewFileMode));
-            if (!m_file.isOpen() && errno != EEXIST)
-                break;
-        }
-        if (!m_file.isOpen())
+        if (!m_scratch.file.isOpen())
             failWith(errno, "no file can be made beside it");
     }
-    ScratchFile(const ScratchFile &) = delete;
-    ScratchFile &operator=(const ScratchFile &) = delete;
-    ~ScratchFile()
+    NewGif(const NewGif &) = delete;
+    NewGif &operator=(const NewGif &) = delete;
+    ~NewGif()
     {
         if (!m_renamed)
-            unlinkat(m_directory, m_name.c_str(), 0);
+            unlinkat(m_directory, m_scratch.name.c_str(), 0);
     }
 
     void write(const std::string &bytes)
     {
         for (std::size_t done = 0; done < bytes.size();) {
-            const ssize_t count = ::write(m_file.number(), bytes.data() + done, bytes.size() - done);
+            const ssize_t count = ::write(m_scratch.file.number(), bytes.data() + done, bytes.size() - done);
             if (count < 0 && errno != EINTR)
                 failWith(errno, "the GIF can't be written");
             done += count > 0 ? std::size_t(count) : 0;
         }
-        if (fsync(m_file.number()) != 0)
+        if (fsync(m_scratch.file.number()) != 0)
             failWith(errno, "the GIF can't be written to the disk");
     }
 
     void rename(const std::string &name)
     {
-        if (renameat(m_directory, m_name.c_str(), m_directory, name.c_str()) != 0)
+        if (renameat(m_directory, m_scratch.name.c_str(), m_directory, name.c_str()) != 0)
             failWith(errno, "the GIF can't be put in its place");
         m_renamed = true;
         // The GIF is in its place whatever this says.
@@ -82,8 +76,7 @@ public:
 
 private:
     int m_directory;
-    std::string m_name;
-    host::Descriptor m_file;
+    host::ScratchFile m_scratch;
     bool m_renamed = false;
 };
 
@@ -139,9 +132,10 @@ void replaceFile(const std::string &name, const std::string &bytes)
     const host::Descriptor directory(open(directoryOf(name).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!directory.isOpen())
         failWith(errno, "its directory can't be opened");
-    ScratchFile scratch(directory.number());
-    scratch.write(bytes);
-    scratch.rename(nameWithin(name));
+    host::sweepScratchFiles(directory.number(), Unfinished);
+    NewGif gif(directory.number());
+    gif.write(bytes);
+    gif.rename(nameWithin(name));
 }
 
 } // namespace converter

@@ -19,8 +19,8 @@ std::vector<std::uint8_t> readCapture(const std::string &name);
 std::string gifNameFor(const std::string &name);
 
 // Writes under a name of its own beside it, flushes that to the disk, and puts it in the old file's place in
-// one step. A link in that place is replaced, not followed. Throws std::system_error, and then the old file
-// is as it was.
+// one step. What killed runs left unfinished there goes. A link in that place is replaced, not followed.
+// Throws std::system_error, and then the old file is as it was.
 void replaceFile(const std::string &name, const std::string &bytes);
 
 } // namespace converter

@@ -1,10 +1,8 @@
 // Attributes, lengths, making and deleting.
 #include "host/paths.h"
 
-#include "host/descriptor.h"
-#include "host/directory.h"
-#include "host/encoding.h"
 #include "host/failure.h"
+#include "host/helddirectory.h"
 
 #include <cerrno>
 
@@ -38,28 +36,6 @@ bool isHidden(const QByteArray &path)
     throw Failure(missing ? PathNotFound : PathAccess, operation, path);
 }
 
-// The directory itself: a link in its place is not it.
-Descriptor openOwnDirectory(const QString &path)
-{
-    if (!path.startsWith(u'/') && !path.startsWith(u'\\'))
-        throw Failure(InvalidArgument, u"delete files by a path that isn't absolute"_s, path);
-    const QByteArray found = withoutClosing(findOnDisk(path));
-    Descriptor directory(open(found.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-    if (!directory.isOpen())
-        throw Failure(PathNotFound, u"delete files"_s, path);
-    return directory;
-}
-
-void deletePlainFile(const Descriptor &directory, const QByteArray &name)
-{
-    struct stat status;
-    if (name.contains('/')
-        || fstatat(directory.number(), name.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0)
-        return;
-    if (S_ISREG(status.st_mode) && (status.st_mode & S_IWUSR) != 0)
-        unlinkat(directory.number(), name.constData(), 0);
-}
-
 } // namespace
 
 bool exists(const QString &path)
@@ -91,8 +67,9 @@ void clearAttributes(const QString &path)
     struct stat status;
     if (lstat(found.constData(), &status) != 0)
         throw Failure(FileNotFound, u"clear the attributes"_s, path);
-    // A link itself has no mode: there this does nothing.
-    fchmodat(AT_FDCWD, found.constData(), (status.st_mode & 07777) | S_IWUSR, AT_SYMLINK_NOFOLLOW);
+    // What can't be changed stays as it is; a link itself has no mode.
+    static_cast<void>(
+        fchmodat(AT_FDCWD, found.constData(), (status.st_mode & 07777) | S_IWUSR, AT_SYMLINK_NOFOLLOW));
 }
 
 qint64 fileLength(const QString &path)
@@ -120,19 +97,12 @@ void removeDirectory(const QString &path)
 
 void deleteFiles(const QString &directory)
 {
-    const Descriptor descriptor = openOwnDirectory(directory);
-    const auto names = Directory::of(descriptor);
-    if (!names)
-        return;
-    for (const Directory::Entry &entry : names->entries())
-        deletePlainFile(descriptor, entry.bytes);
+    HeldDirectory(directory).deleteFiles();
 }
 
 void deleteFiles(const QString &directory, const QStringList &names)
 {
-    const Descriptor descriptor = openOwnDirectory(directory);
-    for (const QString &name : names)
-        deletePlainFile(descriptor, nameToDisk(name));
+    HeldDirectory(directory).deleteFiles(names);
 }
 
 void deleteFile(const QString &path)

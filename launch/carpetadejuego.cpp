@@ -6,27 +6,36 @@
 
 namespace launch {
 
+namespace {
+
+// A separator in a game's name would lead somewhere else.
+bool esNombrePropio(const QString &nombre)
+{
+    return !nombre.isEmpty() && nombre != u"." && nombre != u".." && host::lastSeparator(nombre) < 0;
+}
+
+} // namespace
+
 CarpetaDeJuego::CarpetaDeJuego(const QString &ExeDir, const QString &Carpeta)
 {
-    // A separator in a game's name would lead somewhere else.
-    if (ExeDir.isEmpty() || Carpeta.isEmpty() || host::lastSeparator(Carpeta) >= 0)
+    if (ExeDir.isEmpty() || !esNombrePropio(Carpeta))
         return;
     m_nueva = Intenta([&] { host::makeDirectory(ExeDir + Carpeta); });
     // Nothing is unpacked through a link: what lies behind it isn't ours to clean up.
     Intenta([&] {
-        if (host::attributes(ExeDir + Carpeta) & host::DirectoryAttribute)
-            m_ruta = host::trueSpelling(ExeDir + Carpeta);
+        m_directorio.emplace(ExeDir + Carpeta);
+        m_ruta = host::trueSpelling(ExeDir + Carpeta);
     });
 }
 
 void CarpetaDeJuego::Limpia(const QStringList &desempaquetados) const
 {
-    if (m_ruta.isEmpty())
+    if (!m_directorio || !m_directorio->isAt(m_ruta))
         return;
     if (m_nueva)
-        Intenta([&] { host::deleteFiles(m_ruta); });
+        m_directorio->deleteFiles();
     else
-        Intenta([&] { host::deleteFiles(m_ruta, desempaquetados); });
+        m_directorio->deleteFiles(desempaquetados);
     Intenta([&] { host::removeDirectory(m_ruta); });
 }
 

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <string>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -13,6 +14,7 @@ namespace launch {
 namespace {
 
 constexpr std::int64_t MinimoLibre = 100 * 1024 * 1024;
+const std::string EnCurso = "unpacking";
 constexpr int EnDirectorio = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
 std::int64_t espacioDelSistema(int descriptor)
@@ -48,20 +50,14 @@ QList<QByteArray> PartesDe(const QByteArray &nombre)
 
 FicheroNuevo::FicheroNuevo(const host::Descriptor &directorio)
     : m_directorio(directorio)
+    , m_provisional(host::openScratchFile(directorio.number(), EnCurso))
 {
-    for (int intento = 0; intento < 100 && !Abierto(); ++intento) {
-        m_provisional = ".unpacking-" + QByteArray::number(getpid()) + '-' + QByteArray::number(intento);
-        m_fichero = host::Descriptor(openat(directorio.number(), m_provisional.constData(),
-            O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
-        if (!Abierto() && errno != EEXIST)
-            break;
-    }
 }
 
 FicheroNuevo::~FicheroNuevo()
 {
-    if (Abierto() && !m_provisional.isEmpty())
-        unlinkat(m_directorio.number(), m_provisional.constData(), 0);
+    if (Abierto() && !m_provisional.name.empty())
+        unlinkat(m_directorio.number(), m_provisional.name.c_str(), 0);
 }
 
 bool FicheroNuevo::Escribe(const char *bytes, std::int64_t total)
@@ -69,7 +65,7 @@ bool FicheroNuevo::Escribe(const char *bytes, std::int64_t total)
     if (espacioLibre()(m_directorio.number()) - total < MinimoLibre)
         return false;
     while (total > 0) {
-        const ssize_t escritos = write(m_fichero.number(), bytes, size_t(total));
+        const ssize_t escritos = write(m_provisional.file.number(), bytes, size_t(total));
         if (escritos < 0 && errno != EINTR)
             return false;
         bytes += std::max<ssize_t>(escritos, 0);
@@ -81,18 +77,27 @@ bool FicheroNuevo::Escribe(const char *bytes, std::int64_t total)
 bool FicheroNuevo::Termina(const QByteArray &nombre, bool soloLectura)
 {
     struct stat estado;
-    if (soloLectura && fstat(m_fichero.number(), &estado) == 0)
-        fchmod(m_fichero.number(), estado.st_mode & 0555);
-    if (renameat(m_directorio.number(), m_provisional.constData(), m_directorio.number(), nombre.constData())
-        != 0)
+    if (soloLectura && fstat(m_provisional.file.number(), &estado) == 0)
+        fchmod(m_provisional.file.number(), estado.st_mode & 0555);
+    const int directorio = m_directorio.number();
+    if (renameat(directorio, m_provisional.name.c_str(), directorio, nombre.constData()) != 0)
         return false;
-    m_provisional.clear();
+    m_provisional.name.clear();
     return true;
 }
 
 Destino::Destino(const QByteArray &ruta)
-    : m_descriptor(open(ruta.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    : m_descriptor(open(ruta.constData(), EnDirectorio))
 {
+    barre(m_descriptor, {});
+}
+
+void Destino::barre(const host::Descriptor &directorio, const QByteArray &lugar) const
+{
+    if (!directorio.isOpen() || m_barridos.contains(lugar))
+        return;
+    m_barridos.insert(lugar);
+    host::sweepScratchFiles(directorio.number(), EnCurso);
 }
 
 bool Destino::QuedaSitio() const
@@ -109,6 +114,7 @@ host::Descriptor Destino::Directorio(const QList<QByteArray> &partes) const
         if (!directorio.isOpen())
             break;
     }
+    barre(directorio, partes.join('/'));
     return directorio;
 }
 

@@ -3,9 +3,11 @@
 #pragma once
 
 #include "host/descriptor.h"
+#include "host/scratch.h"
 
 #include <QByteArray>
 #include <QList>
+#include <QSet>
 
 #include <cstdint>
 #include <functional>
@@ -29,7 +31,7 @@ public:
     FicheroNuevo(const FicheroNuevo &) = delete;
     FicheroNuevo &operator=(const FicheroNuevo &) = delete;
 
-    bool Abierto() const { return m_fichero.isOpen(); }
+    bool Abierto() const { return m_provisional.file.isOpen(); }
 
     // False if it can't be written, or would leave too little of the disk.
     bool Escribe(const char *bytes, std::int64_t total);
@@ -39,10 +41,11 @@ public:
 
 private:
     const host::Descriptor &m_directorio;
-    QByteArray m_provisional;
-    host::Descriptor m_fichero;
+    host::ScratchFile m_provisional; // without a name once it has its own
 };
 
+// A directory, not a link to one. What a killed run left unfinished in it, and in those below that are asked
+// for, goes.
 class Destino {
 public:
     explicit Destino(const QByteArray &ruta);
@@ -60,7 +63,10 @@ public:
     static Ocupante QuienOcupa(const host::Descriptor &directorio, const QByteArray &nombre);
 
 private:
+    void barre(const host::Descriptor &directorio, const QByteArray &lugar) const;
+
     host::Descriptor m_descriptor;
+    mutable QSet<QByteArray> m_barridos;
 };
 
 } // namespace launch

@@ -154,6 +154,24 @@ TEST_F(Converter, GivesTheGifTheModeOfANewFile)
     EXPECT_EQ(mode("a.GIF"), 0640u);
 }
 
+TEST_F(Converter, TakesAwayWhatAKilledRunLeft)
+{
+    makeFile("a.pcx", RedAndBlue.bytes());
+    const Outcome killed = run({ "a.pcx" }, [] {
+        const rlimit none { 0, 0 };
+        const rlimit few { 10, 10 };
+        signal(SIGXFSZ, SIG_DFL);
+        setrlimit(RLIMIT_CORE, &none);
+        setrlimit(RLIMIT_FSIZE, &few);
+    });
+    ASSERT_EQ(killed.status, 256);
+    ASSERT_EQ(names().size(), 2);
+    EXPECT_TRUE(names().first().startsWith(".cvtgif15-"));
+    makeFile(".cvtgif15-1-0", "of a process that lives");
+    EXPECT_EQ(run({ "a.pcx" }).status, 0);
+    EXPECT_THAT(names(), testing::ElementsAre(".cvtgif15-1-0", "a.GIF", "a.pcx"));
+}
+
 TEST_F(Converter, ReplacesALinkAndNotWhereItLeads)
 {
     makeFile("elsewhere", "kept");

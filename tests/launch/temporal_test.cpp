@@ -1,8 +1,6 @@
 // The directory for unpacked games: where it is, what the sweep takes, what it leaves.
 #include "launch/temporal.h"
 
-#include "launch/carpetadejuego.h"
-
 #include "escenario.h"
 
 #include <unistd.h>
@@ -136,80 +134,6 @@ TEST_F(TemporalTest, EmptyingAfterARunDoesNotClearAttributes)
     launch::VaciaZBTMP(path(u"tmp/ZB-TMP"_s));
     EXPECT_FALSE(exists("tmp/ZB-TMP/left.nes"));
     EXPECT_TRUE(exists("tmp/ZB-TMP/readonly.nes"));
-}
-
-class CarpetaTest : public Escenario { };
-
-TEST_F(CarpetaTest, ANewDirectoryGoesWithAllThatLiesInIt)
-{
-    const launch::CarpetaDeJuego carpeta(path(u"emu/"_s), u"mario"_s);
-    EXPECT_EQ(carpeta.Ruta(), path(u"emu/mario"_s));
-    makeFile("emu/mario/rom.bin");
-    makeFile("emu/mario/written by the emulator");
-    carpeta.Limpia({});
-    EXPECT_FALSE(exists("emu/mario"));
-    EXPECT_TRUE(exists("emu"));
-}
-
-TEST_F(CarpetaTest, InADirectoryThatWasThereOnlyWhatWasUnpackedGoes)
-{
-    makeDirectory("emu/mario");
-    makeFile("emu/mario/save.sav");
-    const launch::CarpetaDeJuego carpeta(path(u"emu/"_s), u"mario"_s);
-    EXPECT_EQ(carpeta.Ruta(), path(u"emu/mario"_s));
-    makeFile("emu/mario/rom.bin");
-    makeFile("emu/mario/other.bin");
-    carpeta.Limpia({ u"rom.bin"_s });
-    EXPECT_FALSE(exists("emu/mario/rom.bin"));
-    EXPECT_TRUE(exists("emu/mario/save.sav"));
-    EXPECT_TRUE(exists("emu/mario/other.bin"));
-}
-
-TEST_F(CarpetaTest, ADirectoryThatWasThereInAnotherCaseIsTheSame)
-{
-    makeDirectory("emu/Mario");
-    makeFile("emu/Mario/save.sav");
-    const launch::CarpetaDeJuego carpeta(path(u"emu/"_s), u"mario"_s);
-    EXPECT_EQ(carpeta.Ruta(), path(u"emu/Mario"_s));
-    carpeta.Limpia({});
-    EXPECT_TRUE(exists("emu/Mario/save.sav"));
-}
-
-TEST_F(CarpetaTest, SubdirectoriesStay_AndThenTheDirectory)
-{
-    const launch::CarpetaDeJuego carpeta(path(u"emu/"_s), u"mario"_s);
-    makeDirectory("emu/mario/sub");
-    makeFile("emu/mario/rom.bin");
-    carpeta.Limpia({ u"rom.bin"_s });
-    EXPECT_TRUE(exists("emu/mario/sub"));
-    EXPECT_FALSE(exists("emu/mario/rom.bin"));
-}
-
-TEST_F(CarpetaTest, WithoutANameOrAnEmulatorsDirectoryThereIsNone)
-{
-    makeFile("emu/kept");
-    for (const auto &[directorio, nombre] :
-        { std::pair(path(u"emu/"_s), QString()), std::pair(QString(), u"mario"_s) }) {
-        const launch::CarpetaDeJuego carpeta(directorio, nombre);
-        EXPECT_EQ(carpeta.Ruta(), QString());
-        carpeta.Limpia({ u"kept"_s });
-    }
-    EXPECT_TRUE(exists("emu/kept"));
-    EXPECT_FALSE(exists("program/mario"));
-}
-
-TEST_F(CarpetaTest, ItStaysTheSameDirectory_WhateverComesBesideIt)
-{
-    makeDirectory("emu/My Emus");
-    const launch::CarpetaDeJuego carpeta(Corta(u"emu/my_emus/"_s), u"mario"_s);
-    EXPECT_EQ(carpeta.Ruta(), path(u"emu/My Emus/mario"_s));
-    makeDirectory("emu/my_emus");
-    makeDirectory("emu/my_emus/mario");
-    makeFile("emu/my_emus/mario/kept");
-    makeFile("emu/My Emus/mario/rom.bin");
-    carpeta.Limpia({});
-    EXPECT_TRUE(exists("emu/my_emus/mario/kept"));
-    EXPECT_FALSE(exists("emu/My Emus/mario"));
 }
 
 } // namespace

@@ -1,0 +1,79 @@
+#include "host/helddirectory.h"
+
+#include "host/directory.h"
+#include "host/encoding.h"
+#include "host/failure.h"
+#include "host/paths.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace host {
+
+namespace {
+
+// A directory's own entry, also where the path is closed: behind a slash the system would follow a link.
+QByteArray withoutClosing(QByteArray path)
+{
+    while (path.size() > 1 && path.endsWith('/'))
+        path.chop(1);
+    return path;
+}
+
+Descriptor openItself(const QString &path)
+{
+    const QByteArray found = withoutClosing(findOnDisk(path));
+    return Descriptor(open(found.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+}
+
+void deletePlainFile(const Descriptor &directory, const QByteArray &name)
+{
+    struct stat status;
+    if (name.contains('/')
+        || fstatat(directory.number(), name.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return;
+    if (S_ISREG(status.st_mode) && (status.st_mode & S_IWUSR) != 0)
+        unlinkat(directory.number(), name.constData(), 0);
+}
+
+} // namespace
+
+HeldDirectory::HeldDirectory(const QString &path)
+{
+    if (!path.startsWith(u'/') && !path.startsWith(u'\\'))
+        throw Failure(InvalidArgument, u"delete files by a path that isn't absolute"_s, path);
+    m_descriptor = openItself(path);
+    if (!m_descriptor.isOpen())
+        throw Failure(PathNotFound, u"delete files"_s, path);
+}
+
+bool HeldDirectory::isAt(const QString &path) const
+{
+    const Descriptor other = openItself(path);
+    struct stat own;
+    struct stat there;
+    return fstat(m_descriptor.number(), &own) == 0 && fstat(other.number(), &there) == 0
+        && own.st_dev == there.st_dev && own.st_ino == there.st_ino;
+}
+
+void HeldDirectory::deleteFiles() const
+{
+    // An earlier reading has left it at its end.
+    lseek(m_descriptor.number(), 0, SEEK_SET);
+    const auto names = Directory::of(m_descriptor);
+    if (!names)
+        return;
+    for (const Directory::Entry &entry : names->entries())
+        deletePlainFile(m_descriptor, entry.bytes);
+}
+
+void HeldDirectory::deleteFiles(const QStringList &names) const
+{
+    for (const QString &name : names)
+        deletePlainFile(m_descriptor, nameToDisk(name));
+}
+
+} // namespace host
