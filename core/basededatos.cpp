@@ -91,6 +91,19 @@ Hueco HuecoParaEmulador(const QString &texto, const QString &sistema, const QStr
     return bloques.empty() ? Hueco::SinSistema : Hueco::Libre;
 }
 
+bool EsComoEnBase(const Modulo &M, int fila, const QString &texto)
+{
+    const std::unique_ptr<const Modulo> leido = CatalogoDe(texto);
+    for (int s = 0; s < MaxSistemas && !leido->Cat_Nombre(s, 0).isEmpty(); ++s) {
+        int e = 0;
+        while (e < MaxSistemas && leido->Cat_Nombre(s, e) == M.BD_Nombre(fila, e))
+            ++e;
+        if (e == MaxSistemas)
+            return true;
+    }
+    return false;
+}
+
 bool SistemaEnCatalogo(const Modulo &M, const QString &nombre)
 {
     for (int s = 0; !M.Cat_Nombre(s, 0).isEmpty(); ++s) {

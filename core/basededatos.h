@@ -32,6 +32,9 @@ bool SistemaEnTexto(const QString &texto, const QString &nombre);
 enum class Hueco { SinSistema, Ocupado, Libre };
 Hueco HuecoParaEmulador(const QString &texto, const QString &sistema, const QString &nombre);
 
+// True if the text has the system of a row of the database, with its emulators, as the row does.
+bool EsComoEnBase(const Modulo &M, int fila, const QString &texto);
+
 // True if the catalogue has configured this system, or this emulator under any system, spelled exactly so.
 // The search for an emulator takes 150 steps in all, an empty column being one, and one that stands further
 // back isn't found. The search for a system fails with 9 where all 151 rows are others.

@@ -81,7 +81,8 @@ private:
     void BorrarEmulador();
     QString PideNombre(const QString &mensaje, const QString &titulo);
     bool Confirma(const QString &mensaje, const QString &titulo);
-    bool BorraDeLosFicheros(const QString &sistema);
+    enum class Baja { Hecha, EnUso, Cambiado };
+    Baja BorraDeLosFicheros(const QString &sistema, int fila);
 
     void Boton_E_Click();
     void Boton_W1_Click();

@@ -133,34 +133,46 @@ void Configuracion1::BorrarSistema()
     if (Lista1->ListIndex() < 0)
         return;
     const QString sistema = Lista1->Text();
+    const int fila = Sistema();
     if (!Confirma(M.Msg_BorrarSis1 + sistema + u'?', M.Msg_BorrarSis0))
         return;
-    if (core::SistemaEnCatalogo(M, sistema) || !BorraDeLosFicheros(sistema)) {
+    const Baja baja = core::SistemaEnCatalogo(M, sistema) ? Baja::EnUso : BorraDeLosFicheros(sistema, fila);
+    if (baja == Baja::EnUso) {
         Mensaje(3, M.Msg_YaAñadido1, M.Msg_YaAñadido0);
         return;
     }
     Llena_Configuracion1();
+    if (baja == Baja::Cambiado) {
+        Lista1->SetText(sistema);
+        Mensaje(3, M.Palabras.Zem_Cambiado1, M.Palabras.Zem_Cambiado0);
+    }
 }
 
-// False where the catalogue uses the system, by its file. The notes stay where the system's name can't be
-// told from their own lines.
-bool Configuracion1::BorraDeLosFicheros(const QString &sistema)
+// The files decide as they are at each of the rewrites. The notes stay where the system's name can't be told
+// from their own lines.
+Configuracion1::Baja Configuracion1::BorraDeLosFicheros(const QString &sistema, int fila)
 {
-    const auto siNoEstaEnUso = [&](const QString &fichero, const auto &baja) {
+    Baja baja = Baja::Hecha;
+    const auto quita = [&](const QString &fichero, const auto &sinSistema) {
         return reescribeSi(M, fichero, [&](const QString &texto) -> std::optional<QString> {
             if (core::TieneSistema(textoSiHay(M, Zembro_emu), sistema))
+                baja = Baja::EnUso;
+            else if (!core::EsComoEnBase(M, fila, fichero == Zembro_sye ? texto : textoDe(M, Zembro_sye)))
+                baja = Baja::Cambiado;
+            if (baja != Baja::Hecha)
                 return {};
-            return baja(texto, sistema);
+            return sinSistema(texto, sistema);
         });
     };
     const bool conNotas = !core::EsLineaDeNotas(sistema);
-    if (conNotas && !siNoEstaEnUso(Zembro_rom, core::SinParametrosDeSistema))
-        return false;
-    if (!siNoEstaEnUso(Zembro_sye, core::SinSistema))
-        return false;
+    if (conNotas && !quita(Zembro_rom, core::SinParametrosDeSistema))
+        return baja;
+    if (!quita(Zembro_sye, core::SinSistema))
+        return baja;
     if (conNotas)
-        siNoEstaEnUso(Zembro_rom, core::SinNotasDeSistema);
-    return true;
+        reescribe(
+            M, Zembro_rom, [&](const QString &texto) { return core::SinNotasDeSistema(texto, sistema); });
+    return baja;
 }
 
 } // namespace maintenance

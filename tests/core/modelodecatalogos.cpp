@@ -40,7 +40,8 @@ QString texto(const SistemaDeBase &sistema)
 QString texto(const SistemaDeCatalogo &sistema)
 {
     return sistema.linea + unidas(sistema.antesDeWeb) + sistema.web + unidas(sistema.extensiones)
-        + textoDeTodos(sistema.emuladores) + sistema.cierre + unidas(sistema.detras);
+        + sistema.apostrofoSuelto + textoDeTodos(sistema.emuladores) + sistema.cierre
+        + unidas(sistema.detras);
 }
 
 QString texto(const NotasDeUnSistema &sistema)
@@ -49,6 +50,11 @@ QString texto(const NotasDeUnSistema &sistema)
 }
 
 } // namespace
+
+QString TextoDe(const SistemaDeCatalogo &sistema)
+{
+    return texto(sistema);
+}
 
 QString TextoDe(const Fichero<SistemaDeBase> &fichero)
 {

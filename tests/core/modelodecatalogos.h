@@ -44,6 +44,7 @@ struct SistemaDeCatalogo {
     QStringList antesDeWeb;
     QString web;
     QStringList extensiones;
+    QString apostrofoSuelto; // behind the extensions, of a system that had no emulators when they changed
     std::vector<EmuladorDeCatalogo> emuladores;
     QString cierre;
     QStringList detras;
@@ -76,6 +77,7 @@ struct FicheroDeNotas {
     QStringList detras;
 };
 
+QString TextoDe(const SistemaDeCatalogo &sistema);
 QString TextoDe(const Fichero<SistemaDeBase> &fichero);
 QString TextoDe(const Fichero<SistemaDeCatalogo> &fichero);
 QString TextoDe(const FicheroDeNotas &fichero);

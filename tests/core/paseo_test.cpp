@@ -1,18 +1,22 @@
 // A random walk through the operations on the catalogues and the notes, step by step against the model: no
 // line is lost or mixed that an operation doesn't mean to change. Names are unique, as those that the program
-// matches are. The walk is the same for a seed.
+// matches are, and as odd as they are let in. What is removed from the catalogue is what another copy of the
+// program has seen in it some steps ago. The walk is the same for a seed.
 #include "modelodecatalogos.h"
 
 #include "directoriodeprograma.h"
 
 #include "core/altas.h"
 #include "core/bajas.h"
+#include "core/catalogo.h"
+#include "core/nombres.h"
 #include "core/notas.h"
 
 #include "host/letters.h"
 
 #include <iostream>
 #include <iterator>
+#include <memory>
 #include <random>
 #include <string>
 
@@ -66,6 +70,10 @@ protected:
     size_t Azar(size_t total) { return m_azar() % total; }
     QString Textos() const { return m_textoSye + m_textoEmu + m_textoRom; }
 
+    int m_rechazados = 0; // names that weren't let in
+    int m_cambiados = 0; // removals from what had changed since
+    int m_atrasados = 0; // removals from another file than the one that was read
+
 private:
     QString ConFin(const QString &linea) { return linea + (Azar(3) == 0 ? u"\n"_s : u"\r\n"_s); }
     QString Propia();
@@ -82,7 +90,9 @@ private:
     void GuardaSistema(const SistemaDeBase &sistema, const EmuladorDeBase &emulador);
     void GuardaEmulador(SistemaDeCatalogo &sistema, const EmuladorDeBase &emulador);
     void GuardaCambios(EmuladorDeCatalogo &configurado, const EmuladorDeBase &emulador);
-    void QuitaUnoDeVarios(SistemaDeCatalogo &sistema, size_t cual);
+    void QuitaDelModelo(SistemaDeCatalogo &sistema, size_t cual);
+    void LeeTablas();
+    bool EsElLeido(size_t fila);
     void QuitaDeNotas(const QString &sistema);
 
     SistemaDeBase *SistemaConEmuladores();
@@ -111,6 +121,10 @@ private:
     QString m_textoSye;
     QString m_textoEmu;
     QString m_textoRom;
+
+    // What the other copy has read.
+    std::unique_ptr<core::Modulo> m_tablas;
+    Fichero<SistemaDeCatalogo> m_leido;
 };
 
 // A line of the user's own that is no anchor of any operation.
@@ -131,8 +145,17 @@ QStringList Paseo::Propias()
 
 QString Paseo::NombreNuevo(const QString &clase)
 {
-    static const QString adornos[] = { QString(), u" ñ"_s, u"/b"_s, u" \"q\""_s, u" '"_s };
-    return clase + QString::number(++m_nombres) + adornos[Azar(std::size(adornos))];
+    static const QString principios[] = { QString(), QString(), u"-"_s, u"+"_s, u"'"_s, u"["_s, u" "_s,
+        u"*."_s, u"WEB1="_s, u"EXE"_s, u"\""_s, u"Parametros "_s };
+    static const QString finales[] = { QString(), u" ñ"_s, u"/b"_s, u" \"q\""_s, u" '"_s, u", c"_s, u" "_s,
+        u",\"q\""_s, u",a,b,c"_s, u"\n-x"_s };
+    for (;;) {
+        const QString nombre = principios[Azar(std::size(principios))] + clase + QString::number(++m_nombres)
+            + finales[Azar(std::size(finales))];
+        if (clase == u"S" ? core::SirveDeSistema(nombre) : core::SirveDeEmulador(nombre))
+            return nombre;
+        ++m_rechazados;
+    }
 }
 
 QStringList Paseo::Extensiones()
@@ -181,7 +204,7 @@ void Paseo::MontaCatalogo()
     m_emu.fin = { u"[EOF]"_s };
     const SistemaDeBase &base = m_sye.sistemas.front();
     SistemaDeCatalogo sistema { base.nombre, ConFin(u'-' + base.nombre), Propias(), ConFin(u"WEB1=w"_s),
-        { ConFin(u"*.Z"_s) }, {}, ConFin(u"'----"_s), Propias() };
+        { ConFin(u"*.Z"_s) }, {}, {}, ConFin(u"'----"_s), Propias() };
     for (const EmuladorDeBase &emulador : base.emuladores)
         sistema.emuladores.push_back({ emulador.nombre, ConFin(u"'"_s), Propias(),
             ConFin(u'+' + emulador.nombre), Propias(), ConFin(u"WEB2=w"_s), Propias() });
@@ -205,8 +228,8 @@ void Paseo::MontaNotas()
 core::EmuladorNuevo Paseo::Configurado(const QString &nombre, const QString &web2)
 {
     const QString numero = QString::number(Azar(1000));
-    return { nombre, web2.trimmed(), u"/bin/"_s + numero, QString::number(Azar(4)), u"/roms/"_s + numero,
-        u"/img/"_s, u"-p "_s + numero, QString() };
+    return { nombre, Azar(4) == 0 ? QString() : web2.trimmed(), u"/bin/"_s + numero, QString::number(Azar(4)),
+        u"/roms/"_s + numero, u"/img/"_s, u"-p "_s + numero, QString() };
 }
 
 SistemaDeBase *Paseo::SistemaConEmuladores()
@@ -297,35 +320,41 @@ void Paseo::QuitaDeNotas(const QString &sistema)
 void Paseo::CambiaExtensiones()
 {
     SistemaDeBase &sistema = m_sye.sistemas[Azar(m_sye.sistemas.size())];
-    SistemaDeCatalogo *configurado = busca(m_emu, sistema.nombre);
-    // Without emulators the closing line would be taken for the end of the extensions.
-    if (configurado && configurado->emuladores.empty())
-        return;
     const QStringList extensiones = Extensiones();
     sistema.extensiones.clear();
     for (const QString &extension : extensiones)
         sistema.extensiones += nueva(u"*."_s + extension);
     sistema.apostrofo = nueva(u"'"_s);
     PonSye(core::ConExtensiones(m_textoSye, sistema.nombre, extensiones));
-    if (!configurado)
-        return;
-    configurado->extensiones = sistema.extensiones;
-    configurado->emuladores.front().apostrofo = nueva(u"'"_s);
+    SistemaDeCatalogo *configurado = busca(m_emu, sistema.nombre);
+    // A system saved without an address has no place for them.
+    if (configurado && configurado->web.startsWith(u"WEB1")) {
+        configurado->extensiones = sistema.extensiones;
+        const bool suelto = configurado->emuladores.empty() || !configurado->apostrofoSuelto.isEmpty();
+        (suelto ? configurado->apostrofoSuelto : configurado->emuladores.front().apostrofo) = nueva(u"'"_s);
+    }
     PonEmu(core::ConExtensiones(m_textoEmu, sistema.nombre, extensiones));
+}
+
+// In the place of the old address and of what stands ahead of it; a line that is none stays.
+void ponWeb(
+    QStringList &antes, QString &web, QStringList &detras, const QString &clave, const QString &direccion)
+{
+    if (!web.startsWith(clave))
+        detras = antes + QStringList { web } + detras;
+    antes.clear();
+    web = nueva(clave + u'=' + direccion);
 }
 
 void Paseo::CambiaWebDeSistema()
 {
     SistemaDeBase &sistema = m_sye.sistemas[Azar(m_sye.sistemas.size())];
     const QString direccion = u"http://%1"_s.arg(Azar(1000));
-    sistema.antesDeWeb.clear();
-    sistema.web = nueva(u"WEB1="_s + direccion);
+    ponWeb(sistema.antesDeWeb, sistema.web, sistema.extensiones, u"WEB1"_s, direccion);
     PonSye(core::ConWebDeSistema(m_textoSye, sistema.nombre, direccion));
-    if (SistemaDeCatalogo *configurado = busca(m_emu, sistema.nombre)) {
-        configurado->antesDeWeb.clear();
-        configurado->web = sistema.web;
-        PonEmu(core::ConWebDeSistema(m_textoEmu, sistema.nombre, direccion));
-    }
+    if (SistemaDeCatalogo *configurado = busca(m_emu, sistema.nombre))
+        ponWeb(configurado->antesDeWeb, configurado->web, configurado->extensiones, u"WEB1"_s, direccion);
+    PonEmu(core::ConWebDeSistema(m_textoEmu, sistema.nombre, direccion));
 }
 
 void Paseo::CambiaWebDeEmulador()
@@ -335,14 +364,11 @@ void Paseo::CambiaWebDeEmulador()
         return;
     EmuladorDeBase &emulador = sistema->emuladores[Azar(sistema->emuladores.size())];
     const QString direccion = u"http://%1"_s.arg(Azar(1000));
-    emulador.antesDeWeb.clear();
-    emulador.web = nueva(u"WEB2="_s + direccion);
+    ponWeb(emulador.antesDeWeb, emulador.web, emulador.detras, u"WEB2"_s, direccion);
     PonSye(core::ConWebDeEmulador(m_textoSye, sistema->nombre, emulador.nombre, direccion));
     // The rewrite follows also where the pair isn't configured.
-    if (EmuladorDeCatalogo *configurado = EmuladorConfigurado(emulador.nombre)) {
-        configurado->antesDeWeb.clear();
-        configurado->web = emulador.web;
-    }
+    if (EmuladorDeCatalogo *configurado = EmuladorConfigurado(emulador.nombre))
+        ponWeb(configurado->antesDeWeb, configurado->web, configurado->resto, u"WEB2"_s, direccion);
     PonEmu(core::ConWebDeEmulador(m_textoEmu, sistema->nombre, emulador.nombre, direccion));
 }
 
@@ -372,11 +398,11 @@ void Paseo::GuardaSistema(const SistemaDeBase &sistema, const EmuladorDeBase &em
 {
     const core::EmuladorNuevo nuevo = Configurado(emulador.nombre, emulador.web);
     const QStringList extensiones { u"*.ZIP"_s, u"*.n"_s };
-    m_emu.sistemas.push_back({ sistema.nombre, nueva(u'-' + sistema.nombre), {}, nueva(sistema.web.trimmed()),
-        { nueva(extensiones[0]), nueva(extensiones[1]) }, { escrito(nuevo) }, nueva(core::LineaDeCierre()),
-        {} });
-    PonEmu(core::ConSistemaConfigurado(
-        m_textoEmu, { sistema.nombre, sistema.web.trimmed(), extensiones, nuevo }));
+    const QString web = Azar(4) == 0 ? QString() : sistema.web.trimmed();
+    m_emu.sistemas.push_back({ sistema.nombre, nueva(u'-' + sistema.nombre), {}, nueva(web),
+        { nueva(extensiones[0]), nueva(extensiones[1]) }, {}, { escrito(nuevo) },
+        nueva(core::LineaDeCierre()), {} });
+    PonEmu(core::ConSistemaConfigurado(m_textoEmu, { sistema.nombre, web, extensiones, nuevo }));
 }
 
 void Paseo::GuardaEmulador(SistemaDeCatalogo &sistema, const EmuladorDeBase &emulador)
@@ -396,46 +422,89 @@ void Paseo::GuardaCambios(EmuladorDeCatalogo &configurado, const EmuladorDeBase 
     PonEmu(core::ConEmuladorCambiado(m_textoEmu, nuevo));
 }
 
+void Paseo::LeeTablas()
+{
+    m_tablas = core::CatalogoDe(m_textoEmu);
+    m_leido = m_emu;
+}
+
+// True if the file, the system and all ahead of it alike, is what was read.
+bool Paseo::EsElLeido(size_t fila)
+{
+    if (m_emu.sistemas.size() <= fila)
+        return false;
+    for (size_t i = 0; i <= fila; ++i) {
+        if (TextoDe(m_emu.sistemas[i]) != TextoDe(m_leido.sistemas[i]))
+            return false;
+    }
+    return true;
+}
+
 void Paseo::QuitaSistema()
 {
-    if (m_emu.sistemas.empty())
+    if (!m_tablas || Azar(2) == 0)
+        LeeTablas();
+    if (m_leido.sistemas.empty())
         return;
-    const size_t cual = Azar(m_emu.sistemas.size());
-    const QString nombre = m_emu.sistemas[cual].nombre;
+    const size_t fila = Azar(m_leido.sistemas.size());
+    const std::optional<QString> sin =
+        core::SinSistemaDeLaFila(*m_tablas, static_cast<int>(fila), m_textoEmu);
+    if (!sin) {
+        ASSERT_FALSE(EsElLeido(fila));
+        ++m_cambiados;
+        return;
+    }
+    m_atrasados += !EsElLeido(fila);
+    const QString &nombre = m_leido.sistemas[fila].nombre;
+    ASSERT_TRUE(busca(m_emu, nombre));
+    const size_t cual = static_cast<size_t>(busca(m_emu, nombre) - m_emu.sistemas.data());
     QStringList &delante = cual == 0 ? m_emu.cabecera : m_emu.sistemas[cual - 1].detras;
     delante += m_emu.sistemas[cual].detras;
     m_emu.sistemas.erase(m_emu.sistemas.begin() + static_cast<std::ptrdiff_t>(cual));
-    PonEmu(core::SinSistema(m_textoEmu, nombre));
+    PonEmu(*sin);
 }
 
 void Paseo::QuitaEmulador()
 {
-    if (m_emu.sistemas.empty())
+    if (!m_tablas || Azar(2) == 0)
+        LeeTablas();
+    if (m_leido.sistemas.empty())
         return;
-    SistemaDeCatalogo &sistema = m_emu.sistemas[Azar(m_emu.sistemas.size())];
-    if (sistema.emuladores.size() > 1) {
-        QuitaUnoDeVarios(sistema, Azar(sistema.emuladores.size()));
-    } else if (!sistema.emuladores.empty()) {
-        sistema.emuladores.clear();
-        sistema.cierre = nueva(core::LineaDeCierre());
-        PonEmu(core::SinUnicoEmulador(m_textoEmu, sistema.nombre));
+    const size_t fila = Azar(m_leido.sistemas.size());
+    const SistemaDeCatalogo &visto = m_leido.sistemas[fila];
+    if (visto.emuladores.empty())
+        return;
+    const size_t cual = Azar(visto.emuladores.size());
+    const std::optional<QString> sin =
+        core::SinEmuladorDeLaFila(*m_tablas, static_cast<int>(fila), static_cast<int>(cual) + 1, m_textoEmu);
+    if (!sin) {
+        ASSERT_FALSE(EsElLeido(fila));
+        ++m_cambiados;
+        return;
     }
+    m_atrasados += !EsElLeido(fila);
+    SistemaDeCatalogo *sistema = busca(m_emu, visto.nombre);
+    ASSERT_TRUE(sistema);
+    ASSERT_EQ(sistema->emuladores.size(), visto.emuladores.size());
+    ASSERT_EQ(sistema->emuladores[cual].nombre, visto.emuladores[cual].nombre);
+    QuitaDelModelo(*sistema, cual);
+    PonEmu(*sin);
 }
 
-void Paseo::QuitaUnoDeVarios(SistemaDeCatalogo &sistema, size_t cual)
+void Paseo::QuitaDelModelo(SistemaDeCatalogo &sistema, size_t cual)
 {
     const size_t total = sistema.emuladores.size();
     const EmuladorDeCatalogo quitado = sistema.emuladores[cual];
     sistema.emuladores.erase(sistema.emuladores.begin() + static_cast<std::ptrdiff_t>(cual));
-    if (cual == total - 1) {
-        PonEmu(core::SinUltimoEmulador(m_textoEmu, sistema.nombre, static_cast<int>(total)));
-        return;
+    if (total == 1) {
+        sistema.apostrofoSuelto.clear();
+        sistema.cierre = nueva(core::LineaDeCierre());
+    } else if (cual < total - 1) {
+        // Its own apostrophe stays, and the one behind it goes.
+        EmuladorDeCatalogo &siguiente = sistema.emuladores[cual];
+        siguiente.apostrofo = quitado.apostrofo;
+        siguiente.antes = quitado.antes + siguiente.antes;
     }
-    // Its own apostrophe stays, and the one behind it goes.
-    EmuladorDeCatalogo &siguiente = sistema.emuladores[cual];
-    siguiente.apostrofo = quitado.apostrofo;
-    siguiente.antes = quitado.antes + siguiente.antes;
-    PonEmu(core::SinEmulador(m_textoEmu, quitado.nombre));
 }
 
 void Paseo::Describe()
@@ -449,8 +518,15 @@ void Paseo::Describe()
 void Paseo::DaParametros()
 {
     const QString sistema = m_rom.sistemas[Azar(m_rom.sistemas.size())].nombre;
-    m_rom.parametros.insert(m_rom.parametros.begin(), { sistema, nueva(u"K,"_s + sistema + u",E,-p"_s) });
-    PonRom(core::ConParametrosNuevos(m_textoRom, { u"K"_s, sistema, u"E"_s, u"-p"_s }));
+    const core::Parametros parametros { u"K"_s, sistema, u"E"_s, u"-p"_s };
+    const QString cabecera = u"Parametros especificos\r\n"_s;
+    const QString linea = core::ConParametrosNuevos(cabecera, parametros).sliced(cabecera.size());
+    host::TextSource fuente(linea);
+    fuente.readField();
+    if (fuente.readField() != sistema)
+        return;
+    m_rom.parametros.insert(m_rom.parametros.begin(), { sistema, linea });
+    PonRom(core::ConParametrosNuevos(m_textoRom, parametros));
 }
 
 // Lines of the user's own wherever they may stand, and other line ends.
@@ -490,7 +566,7 @@ constexpr struct {
     { "delete a system", &Paseo::BorraSistema, 8 }, { "extensions", &Paseo::CambiaExtensiones, 2 },
     { "address of a system", &Paseo::CambiaWebDeSistema, 2 },
     { "address of an emulator", &Paseo::CambiaWebDeEmulador, 2 }, { "save", &Paseo::Guarda, 8 },
-    { "remove a system", &Paseo::QuitaSistema, 1 }, { "remove an emulator", &Paseo::QuitaEmulador, 3 },
+    { "remove a system", &Paseo::QuitaSistema, 2 }, { "remove an emulator", &Paseo::QuitaEmulador, 5 },
     { "describe", &Paseo::Describe, 2 }, { "parameters", &Paseo::DaParametros, 2 },
     { "lines of the user's own", &Paseo::EscribeAMano, 4 } };
 
@@ -516,6 +592,9 @@ TEST_P(Paseo, ChangesNoLineThatItDoesntMeanTo)
     }
     for (size_t i = 0; i < std::size(Operaciones); ++i)
         EXPECT_GT(cambios[i], 20) << Operaciones[i].nombre;
+    EXPECT_GT(m_rechazados, 20);
+    EXPECT_GT(m_cambiados, 20);
+    EXPECT_GT(m_atrasados, 5);
 }
 
 INSTANTIATE_TEST_SUITE_P(Semillas, Paseo, testing::Range(1u, 8u),

@@ -259,6 +259,21 @@ TEST_F(OtraCopiaTest, WhatTheOtherCopyHasConfiguredMeanwhileStaysInTheDatabase)
     });
 }
 
+TEST_F(OtraCopiaTest, ASystemThatHasGotAnEmulatorMeanwhileStaysInTheDatabase)
+{
+    catalogue = Top + End;
+    begin();
+    configure([this](forms::Form &form) {
+        select(listOf(form, u"Lista1"_s), u"NES"_s);
+        writeDatabase(database.replace("+N2", "+N3\r\nWEB2=\r\n+N2"));
+        atQuestion(u"Msg_BorrarSis"_s, u"NES"_s, true);
+        atChanged();
+        press(form, u"Menos1"_s);
+        expectFilesUnchanged();
+        EXPECT_THAT(entriesOf(listOf(form, u"Lista2"_s)), ElementsAre(u"N1"_s, u"N2"_s, u"N3"_s));
+    });
+}
+
 TEST_F(OtraCopiaTest, WhatTheOtherCopyHasConfiguredMeanwhileGetsTheNewExtensionsAndAddress)
 {
     catalogue = Top + End;

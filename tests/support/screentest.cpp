@@ -50,6 +50,23 @@ void ScreenTest::atModal(const QString &formName, std::function<void(forms::Form
     m_announced.back().since.start();
 }
 
+void ScreenTest::whenever(const QString &formName, std::function<void(forms::Form &)> act)
+{
+    m_always[formName] = std::move(act);
+}
+
+// Nothing for a form that nobody expects.
+std::optional<std::function<void(forms::Form &)>> ScreenTest::takeActFor(const QString &formName)
+{
+    if (!m_announced.empty() && m_announced.front().formName == formName) {
+        const std::function<void(forms::Form &)> act = std::move(m_announced.front().act);
+        m_announced.pop_front();
+        return act;
+    }
+    const auto always = m_always.find(formName);
+    return always == m_always.end() ? std::nullopt : std::optional(always->second);
+}
+
 std::optional<ProcessEnd> ScreenTest::endOf(const std::function<void()> &action)
 {
     try {
@@ -75,7 +92,8 @@ void ScreenTest::look()
         overdue();
         return;
     }
-    if (m_announced.empty() || m_announced.front().formName != window->objectName()) {
+    const bool announced = !m_announced.empty() && m_announced.front().formName == window->objectName();
+    if (!announced && !m_always.contains(window->objectName())) {
         ADD_FAILURE() << "unexpected modal form: " << window->objectName().toStdString();
         closeModal(window);
         return;
@@ -85,11 +103,10 @@ void ScreenTest::look()
         overdue();
         return;
     }
-    const std::function<void(forms::Form &)> act = std::move(m_announced.front().act);
-    m_announced.pop_front();
+    const auto act = takeActFor(window->objectName());
     m_acting.push_back(window);
     try {
-        act(*form);
+        (*act)(*form);
     } catch (const std::exception &failure) {
         ADD_FAILURE() << failure.what();
     }

@@ -14,6 +14,7 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -26,6 +27,9 @@ protected:
     // order in which they were announced. A modal form that wasn't, or that the last `act` for it left open,
     // fails the test and is closed; one that doesn't come within seconds fails it too.
     void atModal(const QString &formName, std::function<void(forms::Form &)> act);
+
+    // Runs `act` for each form of this name that comes up unannounced.
+    void whenever(const QString &formName, std::function<void(forms::Form &)> act);
 
     // How the process ended in this action; nothing if it goes on.
     std::optional<ProcessEnd> endOf(const std::function<void()> &action);
@@ -40,8 +44,10 @@ private:
     };
     void look();
     void overdue();
+    std::optional<std::function<void(forms::Form &)>> takeActFor(const QString &formName);
 
     std::deque<Announced> m_announced;
+    std::map<QString, std::function<void(forms::Form &)>> m_always;
     QTimer m_watch;
     std::vector<QWidget *> m_acting; // forms whose action runs, the innermost last
     QByteArray m_workingDirectory;
