@@ -21,14 +21,13 @@ QString baseDe(const QString &exe)
     return punto >= 0 && nombre[punto] == u'.' ? nombre.left(punto) : nombre;
 }
 
-// Without the first bytes of a character whose other bytes lie behind the end.
+// Without the first bytes of a character whose other bytes lie behind the end. For texts of four bytes or
+// more.
 QByteArray sinCaracterPartido(QByteArray bytes)
 {
     qsizetype desde = bytes.size();
-    while (desde > 0 && bytes.size() - desde < 3 && (uchar(bytes[desde - 1]) & 0xC0) == 0x80)
+    while (bytes.size() - desde < 3 && (uchar(bytes[desde - 1]) & 0xC0) == 0x80)
         --desde;
-    if (desde == 0)
-        return bytes;
     const uchar cabeza = uchar(bytes[desde - 1]);
     const int largo = cabeza >= 0xF0 ? 4 : cabeza >= 0xE0 ? 3 : cabeza >= 0xC0 ? 2 : 1;
     const bool partido = bytes.size() - (desde - 1) < largo;
