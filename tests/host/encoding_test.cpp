@@ -181,6 +181,16 @@ TEST(TextEncoding, UndefinedBytesStandForThemselves)
     EXPECT_EQ(decodeText("\x81\x8D\x8F\x90\x9D").text, u"\u0081\u008D\u008F\u0090\u009D"_s);
 }
 
+TEST(TextEncoding, BytesOf1252FromHex80To9FHaveCharactersOfTheirOwn)
+{
+    QByteArray bytes;
+    for (int value = 0x80; value < 0xA0; ++value)
+        bytes += byteOf(value);
+    const QString text = u"€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ"_s;
+    EXPECT_EQ(decodeText(bytes).text, text);
+    EXPECT_EQ(encoded(text, Encoding::Windows1252), bytes);
+}
+
 TEST(TextEncoding, OtherBytesOf1252StandForTheirOwnCode)
 {
     for (int value = 0; value < 256; ++value) {
