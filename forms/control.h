@@ -2,12 +2,15 @@
 #pragma once
 
 #include "forms/event.h"
+#include "forms/hold.h"
 #include "forms/units.h"
 
 #include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+
+#include <memory>
 
 namespace forms {
 
@@ -30,13 +33,15 @@ int keyCodeOf(const QKeyEvent &event); // a KeyCode (both Enter keys give EnterK
 // a double click is a press too. Click follows the release of any button but the right one; DblClick the
 // second press of one. An event that has a handler isn't passed on to the parent; one without is treated by
 // the toolkit's class. A key held down raises KeyDown once. The focus that comes back from a menu or a
-// drop-down list is no GotFocus.
+// drop-down list is no GotFocus. A held button whose release goes elsewhere, as a modal window or a menu has
+// opened, raises MouseLost; should that release come after all, it raises nothing.
 template <class Base> class Control : public Base {
 public:
     using Base::Base;
 
     Event<const Mouse &> MouseDown;
     Event<const Mouse &> MouseUp;
+    Event<> MouseLost;
     Event<const Mouse &> MouseMove;
     Event<> Click;
     Event<> DblClick;
@@ -52,9 +57,14 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    virtual void loseMouse() { MouseLost.raise(); }
 
 private:
     bool takesButtons() const;
+    void hold();
+
+    std::unique_ptr<Hold> m_hold; // from the press to the release
+    bool m_lost = false; // the release of the last press
 };
 
 } // namespace forms

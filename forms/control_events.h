@@ -6,11 +6,25 @@
 
 #include <QPointer>
 
+#include <utility>
+
 namespace forms {
 
 template <class Base> bool Control<Base>::takesButtons() const
 {
     return MouseDown.hasHandler() || MouseUp.hasHandler() || Click.hasHandler() || DblClick.hasHandler();
+}
+
+template <class Base> void Control<Base>::hold()
+{
+    m_lost = false;
+    if (!takesButtons())
+        return;
+    m_hold = std::make_unique<Hold>(*this, [this] {
+        m_lost = true;
+        m_hold.reset();
+        loseMouse();
+    });
 }
 
 template <class Base> void Control<Base>::mousePressEvent(QMouseEvent *event)
@@ -21,6 +35,7 @@ template <class Base> void Control<Base>::mousePressEvent(QMouseEvent *event)
         return;
     }
     const QPointer<QObject> self(this);
+    hold();
     MouseDown.raise(mouseOf(*event));
     if (self)
         Base::mousePressEvent(event);
@@ -31,6 +46,7 @@ template <class Base> void Control<Base>::mousePressEvent(QMouseEvent *event)
 template <class Base> void Control<Base>::mouseDoubleClickEvent(QMouseEvent *event)
 {
     const QPointer<QObject> self(this);
+    hold();
     MouseDown.raise(mouseOf(*event));
     if (self)
         Base::mouseDoubleClickEvent(event);
@@ -43,10 +59,12 @@ template <class Base> void Control<Base>::mouseDoubleClickEvent(QMouseEvent *eve
 template <class Base> void Control<Base>::mouseReleaseEvent(QMouseEvent *event)
 {
     const QPointer<QObject> self(this);
+    const bool lost = std::exchange(m_lost, false);
+    m_hold.reset();
     Base::mouseReleaseEvent(event);
-    if (self)
+    if (self && !lost)
         MouseUp.raise(mouseOf(*event));
-    if (self && event->button() != Qt::RightButton)
+    if (self && !lost && event->button() != Qt::RightButton)
         Click.raise();
     if (!self || takesButtons())
         event->accept();

@@ -134,6 +134,12 @@ bool Image::event(QEvent *event)
     return taken;
 }
 
+void Image::loseMouse()
+{
+    letGo();
+    Control::loseMouse();
+}
+
 void Image::letGo()
 {
     const int button = std::exchange(m_held, 0);

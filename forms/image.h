@@ -11,8 +11,8 @@ namespace forms {
 
 // Also a container: a television set is an image with controls in it. A click gives it the focus only where
 // the screen sets a focus policy. One that takes the focus by Tab shows it, and Space is the press and the
-// release of the left button. Hidden, disabled or shut off by a modal window under a held button, it raises
-// the release at once: the real one goes elsewhere.
+// release of the left button. Hidden, disabled or shut off by a modal window under a held button, or where a
+// menu takes the mouse, it raises the release at once: the real one goes elsewhere.
 class Image : public Control<QWidget> {
 public:
     explicit Image(QWidget *parent);
@@ -33,6 +33,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     bool event(QEvent *event) override;
+    void loseMouse() override;
 
 private:
     void letGo();

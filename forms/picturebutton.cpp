@@ -59,6 +59,7 @@ void PictureButton::press(By means)
 
 void PictureButton::release()
 {
+    m_hold.reset();
     if (!ShowsPressed())
         return;
     showPicture(By::Nothing);
@@ -68,6 +69,7 @@ void PictureButton::release()
 void PictureButton::cancel()
 {
     m_keyHeld = false;
+    m_hold.reset();
     if (ShowsPressed())
         showPicture(By::Nothing);
 }
@@ -89,6 +91,7 @@ void PictureButton::mousePressEvent(QMouseEvent *event)
     if (held || m_pressedBy == By::Other)
         return;
     m_button = event->button();
+    m_hold = std::make_unique<Hold>(*this, [this] { cancel(); });
     press(By::Mouse);
 }
 
@@ -148,6 +151,14 @@ void PictureButton::changeEvent(QEvent *event)
     QAbstractButton::changeEvent(event);
     if (event->type() == QEvent::EnabledChange && !isEnabled())
         cancel();
+}
+
+bool PictureButton::event(QEvent *event)
+{
+    // A press by the keyboard would act when its time is over.
+    if (event->type() == QEvent::WindowBlocked)
+        cancel();
+    return QAbstractButton::event(event);
 }
 
 void PictureButton::hideEvent(QHideEvent *event)

@@ -2,9 +2,12 @@
 #pragma once
 
 #include "forms/event.h"
+#include "forms/hold.h"
 #include "forms/units.h"
 
 #include <QAbstractButton>
+
+#include <memory>
 
 namespace forms {
 
@@ -12,7 +15,8 @@ namespace forms {
 // release shows the picture at rest and only then acts, wherever the pointer stands. The second press of a
 // double click is a press. The focus comes by Tab, never by a click; Space is press and release, and so is
 // the press action of assistive programs. Enter is left to the form. While one button holds it, another has
-// no effect. Disabled or hidden while pressed it goes back to rest and doesn't act.
+// no effect. Disabled, hidden or shut off by a modal window while pressed, or held by the mouse that a menu
+// takes, it goes back to rest and doesn't act.
 class PictureButton : public QAbstractButton {
 public:
     // Names of the artwork at rest and pressed; they are the names of the pair's two pictures.
@@ -35,6 +39,7 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void changeEvent(QEvent *event) override;
+    bool event(QEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
@@ -52,6 +57,7 @@ private:
     By m_pressedBy = By::Nothing;
     Qt::MouseButton m_button = Qt::NoButton; // the button that pressed it
     bool m_keyHeld = false;
+    std::unique_ptr<Hold> m_hold; // by the mouse
 };
 
 } // namespace forms

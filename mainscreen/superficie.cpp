@@ -67,6 +67,8 @@ void Portada::ConectaSuperficie()
 
     WEB1->MouseDown = [this](const forms::Mouse &) { WEB1->SetForeColor(Amarillo); };
     WEB2->MouseDown = [this](const forms::Mouse &) { WEB2->SetForeColor(Amarillo); };
+    WEB1->MouseLost = [this] { WEB1->SetForeColor(Rojo); };
+    WEB2->MouseLost = [this] { WEB2->SetForeColor(Rojo); };
     WEB1->MouseUp = [this](const forms::Mouse &) { WEB1_MouseUp(); };
     WEB2->MouseUp = [this](const forms::Mouse &) { WEB2_MouseUp(); };
     for (QWidget *control : std::initializer_list<QWidget *> { Titulo1, WEB1, WEB2 })

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QMenu>
 #include <QMimeData>
 #include <QPointer>
 #include <QTest>
@@ -69,6 +70,51 @@ TEST_F(Controls, TheRightButton_RaisesPressAndReleaseOnly)
     drive::show(form);
     drive::click(inner, Qt::RightButton);
     EXPECT_THAT(log, ElementsAre("down 2", "up 2"));
+}
+
+TEST_F(Controls, AReleaseThatGoesElsewhere_IsTold_AndRaisesNothing)
+{
+    logButtons(inner);
+    inner.MouseLost = [this] { log.push_back("lost"); };
+    drive::show(form);
+    QMenu menu;
+    menu.addAction(u"entry"_s);
+    drive::press(inner);
+    menu.popup(QPoint(400, 400));
+    EXPECT_THAT(log, ElementsAre("down 1", "lost"));
+    menu.close();
+    drive::release(inner);
+    EXPECT_THAT(log, ElementsAre("down 1", "lost"));
+
+    log.clear();
+    drive::press(inner);
+    inner.hide();
+    inner.show();
+    drive::press(inner, Qt::MiddleButton);
+    inner.setEnabled(false);
+    inner.setEnabled(true);
+    EXPECT_THAT(log, ElementsAre("down 1", "lost", "down 4", "lost"));
+    drive::release(inner, Qt::MiddleButton);
+
+    log.clear();
+    drive::click(inner);
+    menu.popup(QPoint(400, 400));
+    menu.close();
+    EXPECT_THAT(log, ElementsAre("down 1", "up 1", "click"));
+}
+
+TEST_F(Controls, AMenuUnderAHeldImage_RaisesItsRelease)
+{
+    logButtons(outer);
+    drive::show(form);
+    QMenu menu;
+    menu.addAction(u"entry"_s);
+    drive::press(outer, Qt::LeftButton, { 5, 5 });
+    menu.popup(QPoint(400, 400));
+    EXPECT_THAT(log, ElementsAre("down 1", "up 1"));
+    menu.close();
+    drive::release(outer, Qt::LeftButton, { 5, 5 });
+    EXPECT_THAT(log, ElementsAre("down 1", "up 1"));
 }
 
 TEST_F(Controls, TheSecondPressOfADoubleClick_IsAPressToo)

@@ -5,9 +5,11 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTest>
+#include <QTimer>
 
 #include <gmock/gmock.h>
 
@@ -264,6 +266,55 @@ TEST_F(PicturePairs, DisabledOrHiddenWhilePressed_ItGoesBackToRestWithoutActing)
     EXPECT_FALSE(pair.ShowsPressed());
     drive::release(pair);
     EXPECT_THAT(log, ElementsAre("press", "press"));
+}
+
+TEST_F(PicturePairs, AModalWindowUnderTheHeldButton_TakesThePressBack)
+{
+    drive::show(form);
+    forms::Form box(u"Caja"_s, 1500, 1500, forms::Form::Border::FixedSingle);
+    for (const bool releasedThere : { true, false }) {
+        log.clear();
+        drive::press(pair);
+        QTimer::singleShot(0, qApp, [&] {
+            EXPECT_FALSE(pair.ShowsPressed());
+            if (releasedThere)
+                drive::release(pair);
+            box.Unload();
+        });
+        box.ShowModal(&form);
+        EXPECT_FALSE(pair.ShowsPressed());
+        drive::release(pair);
+        EXPECT_THAT(log, ElementsAre("press"));
+        drive::click(pair);
+        EXPECT_THAT(log, ElementsAre("press", "press", "release"));
+    }
+}
+
+TEST_F(PicturePairs, AMenuUnderTheHeldButton_TakesThePressBack)
+{
+    drive::show(form);
+    QMenu menu;
+    menu.addAction(u"entry"_s);
+    drive::press(pair);
+    menu.popup(QPoint(300, 300));
+    EXPECT_FALSE(pair.ShowsPressed());
+    drive::release(menu);
+    menu.close();
+    EXPECT_THAT(log, ElementsAre("press"));
+    drive::click(pair);
+    EXPECT_THAT(log, ElementsAre("press", "press", "release"));
+}
+
+TEST_F(PicturePairs, AnAcceleratorWhoseFormAModalWindowShutsOff_DoesNotAct)
+{
+    drive::show(form);
+    forms::Form box(u"Caja"_s, 1500, 1500, forms::Form::Border::FixedSingle);
+    QAccessible::queryAccessibleInterface(&pair)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+    QTimer::singleShot(200, qApp, [&] { box.Unload(); });
+    box.ShowModal(&form);
+    EXPECT_FALSE(pair.ShowsPressed());
+    EXPECT_THAT(log, ElementsAre("press"));
 }
 
 TEST_F(PicturePairs, ThePressActionOfAssistivePrograms_IsPressAndRelease)

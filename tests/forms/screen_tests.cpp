@@ -202,6 +202,29 @@ TEST_F(Screen, TheWindowManagersWish_ClosesAFormWithATitleOnly)
     EXPECT_TRUE(owner.isVisible());
 }
 
+TEST_F(Screen, AModalFormUnderAHeldPair_LeavesItAtRest_AndItsReleaseWithoutEffect)
+{
+    show();
+    list.setFocus();
+    Form form(u"Caja"_s, 1500, 1500, Form::Border::FixedSingle);
+    list.KeyDown = [&](int) {
+        whenActive(form, [&] {
+            EXPECT_FALSE(pair.ShowsPressed());
+            input(u"mouseup 1"_s);
+        });
+        form.ShowModal(&owner);
+        log.push_back("closed");
+    };
+    input(at(pair) + u" mousedown 1"_s);
+    ASSERT_TRUE(comes([&] { return pair.ShowsPressed(); }));
+    input(u"key Return"_s);
+    EXPECT_TRUE(comes([&] { return log.size() == 2; }));
+    EXPECT_THAT(log, ElementsAre("press", "closed"));
+    input(at(pair) + u" click 1"_s);
+    EXPECT_TRUE(comes([&] { return log.size() == 4; }));
+    EXPECT_THAT(log, ElementsAre("press", "closed", "press", "release"));
+}
+
 TEST_F(Screen, ARelease_ActsOutsideTheWindowToo)
 {
     show();

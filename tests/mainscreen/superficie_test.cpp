@@ -358,6 +358,49 @@ TEST_F(SuperficieTest, WebLinksDoNothingWithoutASelection)
     EXPECT_THAT(browser.opened, ElementsAre());
 }
 
+TEST_F(SuperficieTest, BoxOrMenuUnderAHeldLinkTurnsItRedAndOpensNothing)
+{
+    const Browser browser;
+    startAt(Zeta, 0);
+    M->Cat_WEB1(0) = u"WEB1=http://a.example/"_s;
+    M->Cat_WEB2(0, 1) = u"WEB2=http://b.example/"_s;
+    for (const QString &name : { u"WEB1"_s, u"WEB2"_s }) {
+        QWidget &link = control(name);
+        press(link);
+        EXPECT_EQ(colour(name), QColor(255, 255, 0));
+        atModal(u"Caja"_s, [&](forms::Form &form) {
+            EXPECT_EQ(colour(name), QColor(255, 0, 0));
+            click(controlOf<QWidget>(form, u"Aceptar2"_s));
+        });
+        portada->Mensaje(4, u"text"_s, u"title"_s, u"a"_s, u"b"_s, {});
+        release(link);
+        EXPECT_EQ(colour(name), QColor(255, 0, 0));
+
+        press(link);
+        EXPECT_TRUE(popsUp(*portada->Menu_Lista1, [&] { list().MenuKey.raise(); }));
+        EXPECT_EQ(colour(name), QColor(255, 0, 0));
+        release(link);
+    }
+    EXPECT_THAT(browser.opened, ElementsAre());
+}
+
+TEST_F(SuperficieTest, BoxUnderAHeldPictureLeavesItAtRest)
+{
+    startAt(Zeta, 0);
+    auto &play = control<forms::PictureButton>(u"JugarB1"_s);
+    int released = 0;
+    play.Release = [&] { ++released; };
+    press(play);
+    EXPECT_TRUE(play.ShowsPressed());
+    atModal(u"Caja"_s, [&](forms::Form &form) {
+        EXPECT_FALSE(play.ShowsPressed());
+        click(controlOf<QWidget>(form, u"Aceptar2"_s));
+    });
+    portada->Mensaje(4, u"text"_s, u"title"_s, u"a"_s, u"b"_s, {});
+    release(play);
+    EXPECT_EQ(released, 0);
+}
+
 TEST_F(SuperficieTest, LineOfACatalogueShorterThanItsPrefixIsFatal)
 {
     startAt(Zeta, 0);
