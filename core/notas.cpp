@@ -152,6 +152,11 @@ bool SePuedeEscribir(const QString &clave)
     return enUnaLinea && !conComillas && clave != u"'";
 }
 
+bool SePuedeDescribir(const QString &clave)
+{
+    return !clave.isEmpty() && SePuedeEscribir(clave);
+}
+
 bool SonParametrosEnteros(const QString &texto)
 {
     return !texto.contains(u',') && !texto.contains(u'\n') && !texto.contains(u'\r')
@@ -187,17 +192,19 @@ int RecargaNotas(Modulo &M, const QString &sistema)
 
 int NotaConTexto(const Modulo &M, const QString &texto)
 {
-    for (int i = 0; i < M.Nota_Clave.tamaño() && !M.Nota_Clave(i).isEmpty(); ++i) {
+    int i = 0;
+    do {
         if (M.Nota_Texto(i) == texto)
             return i;
-    }
+        ++i;
+    } while (i < M.Nota_Clave.tamaño() && !M.Nota_Clave(i).isEmpty());
     return -1;
 }
 
 QString ConDescripcionNueva(
     const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion)
 {
-    if (!SePuedeEscribir(clave))
+    if (!SePuedeDescribir(clave))
         return texto;
     Copia copia;
     bool escrita = false;
@@ -214,7 +221,7 @@ QString ConDescripcionNueva(
 QString ConDescripcionCambiada(
     const QString &texto, const QString &anterior, const QString &clave, const QString &descripcion)
 {
-    if (!SePuedeEscribir(clave))
+    if (!SePuedeDescribir(clave))
         return texto;
     Copia copia;
     bool cambiada = false;

@@ -26,7 +26,8 @@ int CargaNotas(Modulo &M, const QString &sistema);
 // The same after a change of the file: its end, wherever it comes, ends the load in silence.
 int RecargaNotas(Modulo &M, const QString &sistema);
 
-// The index of the first note with this text, -1 if there is none. The notes end at the first empty key.
+// The index of the first note with this text, -1 if there is none. The notes end at the first empty key
+// behind the first note, which is always tried: without any the empty text is found there.
 int NotaConTexto(const Modulo &M, const QString &texto);
 
 struct Parametros {
@@ -41,6 +42,9 @@ struct Parametros {
 // is written in double quotes. For a key that would not come back as it is the text stays unchanged.
 
 bool SePuedeEscribir(const QString &clave);
+
+// The same for the key of a description, which needs one: an empty key ends the search through the notes.
+bool SePuedeDescribir(const QString &clave);
 
 // False for parameters of a game that would come back cut, their rest as a field of another record: they are
 // written bare.

@@ -94,8 +94,10 @@ void Portada::Describir()
     const int tipo = core::Numero(M.TipoEmu);
     if (!core::FicherosSueltos(tipo) && !core::UnDirectorioPorJuego(tipo) && !core::UnZipPorJuego(tipo))
         return;
-    if (!SePuedeAnotar(nota < 0 ? core::ClaveNueva(tipo, entrada) : M.Nota_Clave(nota)))
+    if (!core::SePuedeDescribir(nota < 0 ? core::ClaveNueva(tipo, entrada) : M.Nota_Clave(nota))) {
+        NoSeAnota();
         return;
+    }
     GuardaDescripcion(tipo, nota, entrada, descripcion);
 
     JugarB1->setFocus();
@@ -107,13 +109,10 @@ void Portada::Describir()
     core::RecargaNotas(M, Combo1->Text());
 }
 
-// Some names would come back from the file as others: that is said.
-bool Portada::SePuedeAnotar(const QString &clave)
+// Some names would come back from the file as others, or leave no key.
+void Portada::NoSeAnota()
 {
-    if (core::SePuedeEscribir(clave))
-        return true;
     Advierte(M.Palabras.Zem_NoNota0, M.Palabras.Zem_NoNota1);
-    return false;
 }
 
 void Portada::GuardaDescripcion(int tipo, int nota, const QString &entrada, const QString &descripcion)
@@ -136,8 +135,10 @@ void Portada::Menu_Parametros_Click()
     if (M.Respuesta_Caja == actuales || M.Respuesta_Opcion == 1)
         return;
     const QString parametros = M.Respuesta_Caja;
-    if (!SePuedeAnotar(clave))
+    if (!core::SePuedeEscribir(clave)) {
+        NoSeAnota();
         return;
+    }
     if (!core::SonParametrosEnteros(parametros)) {
         Advierte(M.Palabras.Zem_NoParam0, M.Palabras.Zem_NoParam1);
         return;

@@ -184,7 +184,7 @@ private:
     void Lista1_KeyDown(int tecla);
     bool HayROMElegida() const;
     void BorrarAPapelera(const QString &ruta);
-    bool SePuedeAnotar(const QString &clave);
+    void NoSeAnota();
     void GuardaDescripcion(int tipo, int nota, const QString &entrada, const QString &descripcion);
     void Menu_Parametros_Click();
     QString LeeParametros(const QString &clave);

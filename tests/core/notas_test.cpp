@@ -244,3 +244,21 @@ TEST_F(Notas, NoteOfATextIsLookedForInAFullTable)
     EXPECT_EQ(core::NotaConTexto(M, u"Game 6666"_s), 6666);
     EXPECT_EQ(core::NotaConTexto(M, u"none"_s), -1);
 }
+
+// A record without a key at the top of a block is a note, and hides none behind it.
+TEST_F(Notas, FirstNoteIsAlwaysTried_AlsoWithoutAKey)
+{
+    Carga(Bloque(",\"x\"\r\nMARIO.NES,\"Super Mario\"\r\n,\"y\"\r\nZELDA.NES,\"Zelda\"\r\n"));
+    EXPECT_EQ(core::NotaConTexto(M, u"x"_s), 0);
+    EXPECT_EQ(core::NotaConTexto(M, u"Super Mario"_s), 1);
+    EXPECT_EQ(core::NotaConTexto(M, u"y"_s), -1);
+    EXPECT_EQ(core::NotaConTexto(M, u"Zelda"_s), -1);
+}
+
+TEST_F(Notas, WithoutAnyNoteAnEmptyTextIsTheEmptyFirstOnes)
+{
+    EXPECT_EQ(core::NotaConTexto(M, QString()), 0);
+    EXPECT_EQ(core::NotaConTexto(M, u"x"_s), -1);
+    Carga(Bloque("A,\"one\"\r\n"));
+    EXPECT_EQ(core::NotaConTexto(M, QString()), -1);
+}

@@ -251,3 +251,11 @@ TEST_F(NotasEscritas, ALineBreakInADescriptionBecomesABlank)
     EXPECT_EQ(
         ConNueva("Console\r\n'\r\n", u"A.BIN"_s, u"one\r\ntwo"_s), "Console\r\nA.BIN,\"one  two\"\r\n'\r\n");
 }
+
+TEST_F(NotasEscritas, NoDescriptionIsWrittenWithoutAKey)
+{
+    const QByteArray antes = "Console\r\n,\"Old\"\r\n'\r\n[\r\n";
+    EXPECT_FALSE(core::SePuedeDescribir(QString()));
+    EXPECT_EQ(ConNueva(antes, QString(), u"d"_s), antes);
+    EXPECT_EQ(ConCambiada(antes, u"Old"_s, QString(), u"d"_s), antes);
+}

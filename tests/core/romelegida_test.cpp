@@ -111,3 +111,13 @@ TEST_F(RomElegida, LastRecordMayBeCutShort)
     host::TextSource fuente(u"Parametros especificos\nPONG,s,e"_s);
     EXPECT_EQ(core::ParametrosEscritos(fuente, u"PONG"_s, u"s"_s, u"e"_s), QString());
 }
+
+TEST_F(RomElegida, ANoteBehindAFirstOneWithoutAKeyIsFound)
+{
+    M.Nota_Clave(0) = QString();
+    EXPECT_EQ(core::FicheroDeEntrada(M, 0, u"Twins"_s), u"FIRST"_s);
+    EXPECT_EQ(core::ClaveDeParametros(M, u"Twins"_s), u"first"_s);
+    EXPECT_EQ(core::FicheroDeEntrada(M, 0, u"Tennis for two"_s), QString());
+    EXPECT_EQ(core::FicheroDeEntrada(M, 2, u"Tennis for two"_s), u".zip"_s);
+    EXPECT_EQ(core::ClaveDeParametros(M, u"Tennis for two"_s), QString());
+}

@@ -62,6 +62,31 @@ TEST_F(BusquedaTest, TheNotesEndAtTheFirstEmptyKey)
     EXPECT_EQ(launch::BuscaROM(M, 0, u"left from another system"_s).via, Via::Fichero);
 }
 
+TEST_F(BusquedaTest, TheFirstNoteIsTriedAlsoWithoutAKey_AndHidesNoneBehindIt)
+{
+    nota(0, QString(), u"x"_s);
+    nota(1, u"MARIO.NES"_s, u"Super Mario"_s);
+    EXPECT_EQ(launch::BuscaROM(M, 0, u"Super Mario"_s).nombre, u"MARIO.NES"_s);
+    const Busqueda primera = launch::BuscaROM(M, 0, u"x"_s);
+    EXPECT_EQ(primera.via, Via::Nota);
+    EXPECT_EQ(primera.nota, 0);
+    EXPECT_EQ(primera.nombre, QString());
+}
+
+TEST_F(BusquedaTest, NothingSelectedIsTheEmptyNoteOfASystemWithoutNotes)
+{
+    const QString nombres[] = { {}, {}, u".ZIP"_s, u".ZIP"_s };
+    for (int tipo = 0; tipo < 4; ++tipo) {
+        const Busqueda busqueda = launch::BuscaROM(M, tipo, {});
+        EXPECT_EQ(busqueda.via, Via::Nota) << tipo;
+        EXPECT_EQ(busqueda.nota, 0) << tipo;
+        EXPECT_EQ(busqueda.clave, QString()) << tipo;
+        EXPECT_EQ(busqueda.nombre, nombres[tipo]) << tipo;
+    }
+    nota(0, u"MARIO.NES"_s, u"The plumber"_s);
+    EXPECT_EQ(launch::BuscaROM(M, 0, {}).via, Via::Fichero);
+}
+
 TEST_F(BusquedaTest, AFullTableWithoutAMatchFallsBackToTheFileName)
 {
     for (int i = 0; i < core::MaxROMs; ++i)

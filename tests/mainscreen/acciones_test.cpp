@@ -303,11 +303,6 @@ TEST_F(AccionesTest, KeyOfAZipLosesFourCharactersAlsoWhereTheyAreNoEnding)
     answer(
         u"Otro"_s, [&] { describe(); }, u"other.zip"_s);
     EXPECT_TRUE(notes().contains("alfa\r\nOTHER,\"Otro\"\r\n"));
-    list().AddItem(u"sin"_s);
-    list().SetText(u"sin"_s);
-    answer(
-        u"Tercero"_s, [&] { describe(); }, u"sin"_s);
-    EXPECT_TRUE(notes().contains("alfa\r\n,\"Tercero\"\r\n"));
 }
 
 TEST_F(AccionesTest, TypesFiveToEightShareTheKeysOfZeroToThree)
@@ -506,6 +501,46 @@ TEST_F(AccionesTest, NameThatWouldNotComeBackFromTheFileIsRefusedWithAWord)
     EXPECT_THAT(told, ElementsAre(u"Sin anotar"_s, why, u"Sin anotar"_s, why));
     EXPECT_EQ(notes(), before);
     EXPECT_TRUE(listed().contains(u"\"a\".nes"_s));
+}
+
+TEST_F(AccionesTest, AnEntryWithoutAKeyIsNotDescribed_AndItIsSaid)
+{
+    files.writeSize(u"alfazip/azip"_s, 10);
+    startAt(Alfa, 1);
+    addWords();
+    const QByteArray before = notes();
+    list().SetText(u"azip"_s);
+    QStringList told;
+    answer(
+        u"Text"_s,
+        [&] {
+            atModal(u"Caja"_s, [&](forms::Form &form) {
+                told << form.Caption() << controlOf<forms::Label>(form, u"Texto2"_s).Caption();
+                click(controlOf<QWidget>(form, u"Flecha2"_s));
+            });
+            describe();
+        },
+        u"azip"_s);
+    EXPECT_THAT(told, ElementsAre(u"Sin anotar"_s, u"Este nombre de archivo no se puede anotar."_s));
+    EXPECT_EQ(notes(), before);
+    EXPECT_THAT(listed(), ElementsAre(u"azip"_s, u"Un juego"_s));
+}
+
+TEST_F(AccionesTest, ANoteBehindAFirstOneWithoutAKeyIsChangedAndGivenParametersAndThrownAway)
+{
+    files.writeNotes({ { u"Zeta"_s, { { QString(), u"x"_s }, { u"TWO.NES"_s, u"Dos"_s } } } });
+    startAt(Zeta, 0);
+    addWords();
+    list().SetText(u"Dos"_s);
+    answer(
+        u"-x"_s, [&] { portada->Menu_Parametros->Click.raise(); }, u""_s);
+    EXPECT_TRUE(notes().contains("TWO.NES,Zeta,Uno,-x\r\n"));
+    answer(
+        u"Otro"_s, [&] { describe(); }, u"Dos"_s);
+    EXPECT_TRUE(notes().contains("\r\n,\"x\"\r\nTWO.NES,\"Otro\"\r\n"));
+    questions.yesNo = { true };
+    discard();
+    EXPECT_THAT(trashed(), ElementsAre(u"two.nes"_s));
 }
 
 TEST_F(AccionesTest, BoxOfTheParametersHasItsWords)
