@@ -1,6 +1,6 @@
 #include "core/notas.h"
 
-#include "core/lineas.h"
+#include "core/campos.h"
 
 #include "host/letters.h"
 #include "host/paths.h"
@@ -14,32 +14,26 @@ namespace {
 constexpr char16_t CabeceraParametros[] = u"Parametros especificos";
 constexpr char16_t InicioParametros[] = u"Parametros";
 
-bool pideComillas(const QString &clave)
+QString registroDeNota(const QString &campoClave, const QString &descripcion)
 {
-    return clave.contains(u',') || clave.startsWith(u'\'') || clave.startsWith(u'[') || clave.startsWith(u' ')
-        || clave.endsWith(u' ');
+    return campoClave + u",\""_s + descripcion + u'"';
 }
 
-QString claveEscrita(const QString &clave)
+QString sinBlancosEnLosExtremos(QStringView texto)
 {
-    return pideComillas(clave) ? u'"' + clave + u'"' : clave;
+    while (texto.startsWith(u' '))
+        texto = texto.sliced(1);
+    while (texto.endsWith(u' '))
+        texto.chop(1);
+    return texto.toString();
 }
 
-QString registroDeNota(const QString &clave, const QString &descripcion)
+// With double quotes in them the blanks at their ends would take others around them, which don't come back.
+std::optional<QString> registroNuevo(Parametros parametros)
 {
-    return claveEscrita(host::upper(clave)) + u",\""_s + descripcion + u'"';
-}
-
-// A system's or an emulator's, which a comma would split.
-QString nombreEscrito(const QString &nombre)
-{
-    return nombre.contains(u',') ? u'"' + nombre + u'"' : nombre;
-}
-
-QString registroDeParametros(const Parametros &parametros)
-{
-    return claveEscrita(parametros.clave) + u',' + nombreEscrito(parametros.sistema) + u','
-        + nombreEscrito(parametros.emulador) + u',' + parametros.texto;
+    if (!CabeEnUnCampo(parametros.texto))
+        parametros.texto = sinBlancosEnLosExtremos(parametros.texto);
+    return RegistroDeParametros(parametros);
 }
 
 // The description is what lies behind the first comma, or behind the one after a quoted key, without the
@@ -56,46 +50,17 @@ bool llevaDescripcion(QStringView linea, const QString &descripcion)
     return coma + 2 < linea.size() ? linea.sliced(coma + 2).chopped(1) == descripcion : descripcion.isEmpty();
 }
 
-Parametros leeParametros(host::TextSource &fuente)
-{
-    Parametros leidos;
-    leidos.clave = fuente.readField();
-    leidos.sistema = CampoOVacio(fuente);
-    leidos.emulador = CampoOVacio(fuente);
-    leidos.texto = CampoOVacio(fuente);
-    return leidos;
-}
-
-// The closing record on three lines. Where a system follows the section, they are its header and its first
-// note.
-void copiaCierre(Copia &copia, const Parametros &cierre)
-{
-    copia.Nueva(cierre.clave);
-    copia.Nueva(cierre.sistema);
-    copia.Nueva(cierre.emulador + u",\""_s + cierre.texto + u'"');
-}
-
-// The same where that system has no notes: its closing apostrophe and the header behind it were read along.
-void copiaCierreConSistemaVacio(Copia &copia, const Parametros &cierre)
-{
-    for (const QString &campo : { cierre.clave, cierre.sistema, cierre.emulador, cierre.texto })
-        copia.Nueva(campo);
-}
-
 // The records up to the closing one, or to the end of the text, without those of a system.
 void copiaParametrosDeOtros(Copia &copia, host::TextSource &fuente, const QString &sistema)
 {
     while (!fuente.atEnd()) {
-        const Parametros leidos = leeParametros(fuente);
-        if (leidos.clave == u"'") {
-            if (leidos.emulador == u"'")
-                copiaCierreConSistemaVacio(copia, leidos);
-            else
-                copiaCierre(copia, leidos);
+        const RegistroLeido leido = LeeRegistro(fuente);
+        if (leido.EsCierre()) {
+            CopiaCierre(copia, leido);
             return;
         }
-        if (!host::sameName(leidos.sistema, sistema))
-            copia.Nueva(registroDeParametros(leidos));
+        if (!host::sameName(leido.campos.sistema, sistema))
+            CopiaRegistro(copia, leido);
     }
 }
 
@@ -144,12 +109,9 @@ bool leeNota(Modulo &M, int indice)
 
 } // namespace
 
-// Some names would come back from the file as others, and take the records behind them along.
 bool SePuedeEscribir(const QString &clave)
 {
-    const bool enUnaLinea = !clave.contains(u'\n') && !clave.contains(u'\r');
-    const bool conComillas = clave.startsWith(u'"') || (clave.contains(u'"') && pideComillas(clave));
-    return enUnaLinea && !conComillas && clave != u"'";
+    return ClaveEscrita(clave).has_value();
 }
 
 bool SePuedeDescribir(const QString &clave)
@@ -159,13 +121,7 @@ bool SePuedeDescribir(const QString &clave)
 
 bool SonParametrosEnteros(const QString &texto)
 {
-    return !texto.contains(u',') && !texto.contains(u'\n') && !texto.contains(u'\r')
-        && !texto.trimmed().startsWith(u'"');
-}
-
-QString CampoOVacio(host::TextSource &fuente)
-{
-    return fuente.atEnd() ? QString() : fuente.readField();
+    return !texto.contains(u',') && CabeEnUnCampo(sinBlancosEnLosExtremos(texto));
 }
 
 int CargaNotas(Modulo &M, const QString &sistema)
@@ -204,14 +160,15 @@ int NotaConTexto(const Modulo &M, const QString &texto)
 QString ConDescripcionNueva(
     const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion)
 {
-    if (!SePuedeDescribir(clave))
+    const std::optional<QString> campo = ClaveEscrita(host::upper(clave));
+    if (!SePuedeDescribir(clave) || !campo)
         return texto;
     Copia copia;
     bool escrita = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
         copia.Copiar(linea);
         if (!escrita && linea.linea == sistema) {
-            copia.Nueva(registroDeNota(clave, descripcion));
+            copia.Nueva(registroDeNota(*campo, descripcion));
             escrita = true;
         }
     }
@@ -221,13 +178,14 @@ QString ConDescripcionNueva(
 QString ConDescripcionCambiada(
     const QString &texto, const QString &anterior, const QString &clave, const QString &descripcion)
 {
-    if (!SePuedeDescribir(clave))
+    const std::optional<QString> campo = ClaveEscrita(host::upper(clave));
+    if (!SePuedeDescribir(clave) || !campo)
         return texto;
     Copia copia;
     bool cambiada = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
         if (!cambiada && llevaDescripcion(linea.linea, anterior)) {
-            copia.Nueva(registroDeNota(clave, descripcion));
+            copia.Nueva(registroDeNota(*campo, descripcion));
             cambiada = true;
         } else {
             copia.Copiar(linea);
@@ -238,14 +196,15 @@ QString ConDescripcionCambiada(
 
 QString ConParametrosNuevos(const QString &texto, const Parametros &parametros)
 {
-    if (!SePuedeEscribir(parametros.clave))
+    const std::optional<QString> registro = registroNuevo(parametros);
+    if (!registro)
         return texto;
     Copia copia;
     bool escritos = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
         copia.Copiar(linea);
         if (!escritos && linea.linea.startsWith(CabeceraParametros)) {
-            copia.Nueva(registroDeParametros(parametros));
+            copia.Nueva(*registro);
             escritos = true;
         }
     }
@@ -254,23 +213,23 @@ QString ConParametrosNuevos(const QString &texto, const Parametros &parametros)
 
 QString ConParametrosCambiados(const QString &texto, const Parametros &parametros)
 {
-    if (!SePuedeEscribir(parametros.clave))
+    const std::optional<QString> registro = registroNuevo(parametros);
+    if (!registro)
         return texto;
     Copia copia;
     host::TextSource fuente(copiaHastaParametros(copia, texto).toString());
-    const QString buscada = host::upper(parametros.clave);
     for (;;) {
         if (fuente.atEnd())
             throw host::Failure(host::PastEndOfFile, u"find the end of the parameters"_s, u"Zembro.rom"_s);
-        const Parametros leidos = leeParametros(fuente);
-        if (leidos.clave == u"'") {
-            copiaCierre(copia, leidos);
+        const RegistroLeido leido = LeeRegistro(fuente);
+        if (leido.EsCierre()) {
+            CopiaCierre(copia, leido);
             break;
         }
-        const bool propio = host::upper(leidos.clave) == buscada;
-        if (propio && parametros.texto.isEmpty())
-            continue;
-        copia.Nueva(registroDeParametros(propio ? parametros : leidos));
+        if (!host::sameName(leido.campos.clave, parametros.clave))
+            CopiaRegistro(copia, leido);
+        else if (!parametros.texto.isEmpty())
+            copia.Nueva(*registro);
     }
     if (!fuente.atEnd())
         copiaSinVacias(copia, fuente.rest());

@@ -7,15 +7,11 @@
 #pragma once
 
 #include "core/modulo.h"
-
-#include "host/textsource.h"
+#include "core/seccion.h"
 
 #include <QString>
 
 namespace core {
-
-// A field that may be missing at the end of the file, and then is empty.
-QString CampoOVacio(host::TextSource &fuente);
 
 // Loads the notes of a system from index 0 of Nota_Clave (as the file has them) and Nota_Texto; what the
 // tables held behind the last record stays. Returns the number of records. Reads under number 1. Fails with
@@ -30,24 +26,17 @@ int RecargaNotas(Modulo &M, const QString &sistema);
 // behind the first note, which is always tried: without any the empty text is found there.
 int NotaConTexto(const Modulo &M, const QString &texto);
 
-struct Parametros {
-    QString clave;
-    QString sistema;
-    QString emulador;
-    QString texto;
-};
-
-// Changes of the file, from text to text. A key that the field reader would split or that would pass for an
-// anchor (one with a comma, one that begins with an apostrophe or a bracket, or with a blank at either end)
-// is written in double quotes. For a key that would not come back as it is the text stays unchanged.
+// Changes of the file, from text to text. A field that the field reader would split, and a key that would
+// pass for an anchor, is written in double quotes. With a key, a system or an emulator that would not come
+// back as it is the text stays unchanged.
 
 bool SePuedeEscribir(const QString &clave);
 
 // The same for the key of a description, which needs one: an empty key ends the search through the notes.
 bool SePuedeDescribir(const QString &clave);
 
-// False for parameters of a game that would come back cut, their rest as a field of another record: they are
-// written bare.
+// False for parameters of a game that are not kept whole: a comma would cut them for other readers of the
+// file, double quotes at their start anywhere. Blanks at the ends of a text with double quotes are dropped.
 bool SonParametrosEnteros(const QString &texto);
 
 // The new record stands first in the system's block, its key in upper case; without a block nothing changes.
@@ -62,18 +51,16 @@ QString ConDescripcionCambiada(
 QString ConParametrosNuevos(const QString &texto, const Parametros &parametros);
 
 // Every record of this key becomes the new one, whatever its system and emulator, or goes if the new
-// parameters are empty. Empty lines of the file are dropped. Fails with 62 where the section or its closing
-// record is missing.
+// parameters are empty. The other records come out on one line each, with quotes only where they need them,
+// and empty lines outside the section are dropped. Fails with 62 where the section or its closing record is
+// missing.
 QString ConParametrosCambiados(const QString &texto, const Parametros &parametros);
 
 // An empty block for a system ahead of the first line that begins with "["; without such a line nothing
 // changes.
 QString ConSistemaNuevo(const QString &texto, const QString &sistema);
 
-// Without the parameter records whose second field is the system, case apart. The other records of the
-// section come out bare on one line each, and empty lines outside it are dropped. Where systems follow the
-// section, the four fields of its closing record reach into the first of them; its lines are put together
-// again.
+// Without the parameter records whose second field is the system, case apart. The rest as above.
 QString SinParametrosDeSistema(const QString &texto, const QString &sistema);
 
 // Without the system's block, header and closing apostrophe included.

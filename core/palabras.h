@@ -20,6 +20,14 @@ struct Palabras {
     QString Zem_NoNota1 = QStringLiteral("Este nombre de archivo no se puede anotar.");
     QString Zem_NoParam0 = QStringLiteral("Sin grabar");
     QString Zem_NoParam1 = QStringLiteral("Sin comas, y sin comillas al principio.");
+    QString Zem_NoCampo0 = QStringLiteral("Sin anotar");
+    QString Zem_NoCampo1 = QStringLiteral("El nombre de sistema o emulador no se puede anotar.");
+
+    // Saving the advanced options.
+    QString Zem_NoFiltro0 = QStringLiteral("Sin grabar");
+    QString Zem_NoFiltro1 = QStringLiteral("Sin coma delante, ni nombres en blanco, ni VACIO.");
+    QString Zem_NoFinal0 = QStringLiteral("Sin grabar");
+    QString Zem_NoFinal1 = QStringLiteral("La palabra no admite el signo =, ni VACIO tras una coma.");
 
     // Adding a system or an emulator, and what another program has changed meanwhile.
     QString Zem_NoNombre0 = QStringLiteral("Sin añadir");

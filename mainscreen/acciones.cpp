@@ -5,6 +5,7 @@
 #include "mainscreen/portada.h"
 
 #include "core/arranque.h"
+#include "core/campos.h"
 #include "core/catalogo.h"
 #include "core/lista.h"
 #include "core/notas.h"
@@ -134,20 +135,28 @@ void Portada::Menu_Parametros_Click()
     Mensaje(1, M.Msg_Parametros1, M.Msg_Parametros0, M.TXT_Aceptar, M.TXT_Volver, actuales);
     if (M.Respuesta_Caja == actuales || M.Respuesta_Opcion == 1)
         return;
-    const QString parametros = M.Respuesta_Caja;
-    if (!core::SePuedeEscribir(clave)) {
-        NoSeAnota();
+    const core::Parametros nuevos { clave, Combo1->Text(), Combo2->Text(), M.Respuesta_Caja };
+    if (!SePuedenAnotar(nuevos))
         return;
-    }
-    if (!core::SonParametrosEnteros(parametros)) {
-        Advierte(M.Palabras.Zem_NoParam0, M.Palabras.Zem_NoParam1);
-        return;
-    }
-    const core::Parametros nuevos { clave, Combo1->Text(), Combo2->Text(), parametros };
     ReescribeNotas([&](const QString &texto) {
         return actuales.isEmpty() ? core::ConParametrosNuevos(texto, nuevos)
                                   : core::ConParametrosCambiados(texto, nuevos);
     });
+}
+
+// What would not come back from the file is refused with a word.
+bool Portada::SePuedenAnotar(const core::Parametros &parametros)
+{
+    const core::Palabras &palabras = M.Palabras;
+    if (!core::SePuedeEscribir(parametros.clave))
+        NoSeAnota();
+    else if (!core::CabeEnUnCampo(parametros.sistema) || !core::CabeEnUnCampo(parametros.emulador))
+        Advierte(palabras.Zem_NoCampo0, palabras.Zem_NoCampo1);
+    else if (!core::SonParametrosEnteros(parametros.texto))
+        Advierte(palabras.Zem_NoParam0, palabras.Zem_NoParam1);
+    else
+        return true;
+    return false;
 }
 
 QString Portada::LeeParametros(const QString &clave)

@@ -29,6 +29,10 @@
 
 class QShortcut;
 
+namespace core {
+struct Parametros;
+}
+
 namespace mainscreen {
 
 class Portada : public forms::Form, private launch::Pantalla {
@@ -185,6 +189,7 @@ private:
     bool HayROMElegida() const;
     void BorrarAPapelera(const QString &ruta);
     void NoSeAnota();
+    bool SePuedenAnotar(const core::Parametros &parametros);
     void GuardaDescripcion(int tipo, int nota, const QString &entrada, const QString &descripcion);
     void Menu_Parametros_Click();
     QString LeeParametros(const QString &clave);

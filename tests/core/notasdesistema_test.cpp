@@ -55,7 +55,7 @@ TEST_F(NotasDeSistema, AnEmptyStoreComesOutAsItIs)
     EXPECT_EQ(SinNotas(vacio, u"One"_s), vacio);
 }
 
-TEST_F(NotasDeSistema, QuotesAroundFieldsAreNotRestored)
+TEST_F(NotasDeSistema, QuotesAroundFieldsAreNotRestored_WhereTheyDoNothing)
 {
     EXPECT_EQ(SinParametros(Seccion + "\"A.BIN\",\"Two\", \"E\" ,\"-b\"\r\n" + Cierre, u"One"_s),
         Seccion + "A.BIN,Two,E,-b\r\n" + Cierre);
@@ -78,8 +78,8 @@ TEST_F(NotasDeSistema, LinesOutsideTheSectionKeepTheirEndsAndBytes)
     EXPECT_EQ(SinParametros("\x81 \xF1\nOne\nA,\"a, \"b\"\"\n'\n[\nParametros especificos\nA,Two,e,-\xE9\n'\n"
                             "fin\nfin,\"fin\"\nlast\n",
                   u"One"_s),
-        "\x81 \xF1\nOne\nA,\"a, \"b\"\"\n'\n[\nParametros especificos\nA,Two,e,-\xE9\r\n" + Cierre
-            + "last\n");
+        "\x81 \xF1\nOne\nA,\"a, \"b\"\"\n'\n[\nParametros especificos\nA,Two,e,-\xE9\r\n'\n"
+        "fin\nfin,\"fin\"\nlast\n");
 }
 
 TEST_F(NotasDeSistema, ASystemBehindTheSectionKeepsItsFirstNote)

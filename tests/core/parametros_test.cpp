@@ -3,6 +3,7 @@
 
 #include "core/notas.h"
 #include "core/parrom.h"
+#include "core/romelegida.h"
 
 using namespace Qt::StringLiterals;
 
@@ -141,6 +142,21 @@ TEST_F(Parametros, ANameWithACommaStaysOneField)
         Cabecera + "X,\"Uno, dos\",\"Emu, tres\",-x\r\nB,s,e,-c\r\n" + Cierre);
 }
 
+TEST_F(Parametros, ANameWithQuotesOrABlankAtAnEndFindsItsRecordAgain)
+{
+    const std::pair<QString, QByteArray> nombres[] = { { u"Amiga \"AGA\""_s, "Amiga \"AGA\"" },
+        { u" Amiga"_s, "\" Amiga\"" }, { u"Amiga "_s, "\"Amiga \"" },
+        { u" Amiga, CD32 "_s, "\" Amiga, CD32 \"" }, { u"'"_s, "'" } };
+    for (const auto &[nombre, escrito] : nombres) {
+        const QByteArray bytes =
+            ConNuevos(Cabecera + "B,s,e,-b\r\n" + Cierre, { u"A"_s, nombre, nombre, u"-a"_s });
+        EXPECT_EQ(bytes, Cabecera + "A," + escrito + ',' + escrito + ",-a\r\nB,s,e,-b\r\n" + Cierre);
+        host::TextSource fuente(QString::fromLatin1(bytes));
+        EXPECT_EQ(core::ParametrosEscritos(fuente, u"A"_s, nombre, nombre), u"-a"_s);
+        EXPECT_EQ(ConCambiados(bytes, { u"B"_s, u"s"_s, u"e"_s, u"-b"_s }), bytes);
+    }
+}
+
 TEST_F(Parametros, ACommaInTheParametersMovesTheirRestIntoTheNextField)
 {
     EXPECT_EQ(
@@ -250,8 +266,35 @@ TEST_F(Parametros, OfAKeyThatWouldNotComeBackAsItIsAreNotWritten)
     }
 }
 
-TEST_F(Parametros, WithALineBreakStayOnOneLine)
+TEST_F(Parametros, ThatWouldNotComeBackAreNotWritten)
 {
-    EXPECT_EQ(ConNuevos(Cabecera + Cierre, { u"A"_s, u"s"_s, u"e"_s, u"-x\n-y"_s }),
-        Cabecera + "A,s,e,-x -y\r\n" + Cierre);
+    const QByteArray antes = Cabecera + "OLD,s,e,-x\r\n" + Cierre;
+    for (const QString &texto : { u"-x\n-y"_s, u"\"-x\" y"_s, u" \"x"_s }) {
+        EXPECT_FALSE(core::SonParametrosEnteros(texto)) << texto.toStdString();
+        EXPECT_EQ(ConNuevos(antes, { u"A"_s, u"s"_s, u"e"_s, texto }), antes) << texto.toStdString();
+        EXPECT_EQ(ConCambiados(antes, { u"OLD"_s, u"s"_s, u"e"_s, texto }), antes) << texto.toStdString();
+    }
+    EXPECT_FALSE(core::SonParametrosEnteros(u"-a,-b"_s));
+}
+
+TEST_F(Parametros, BlanksAtTheirEndsComeBack_ButNotAroundDoubleQuotes)
+{
+    const std::pair<QString, QByteArray> textos[] = { { u" -x "_s, "\" -x \"" }, { u"  "_s, "\"  \"" },
+        { u" -a \"b c\" "_s, "-a \"b c\"" } };
+    for (const auto &[texto, escrito] : textos) {
+        EXPECT_TRUE(core::SonParametrosEnteros(texto));
+        EXPECT_EQ(ConNuevos(Cabecera + Cierre, { u"A"_s, u"s"_s, u"e"_s, texto }),
+            Cabecera + "A,s,e," + escrito + "\r\n" + Cierre);
+    }
+}
+
+TEST_F(Parametros, OfANameThatWouldNotComeBackAreNotWritten)
+{
+    const QByteArray antes = Cabecera + "OLD,s,e,-x\r\n" + Cierre;
+    for (const QString &nombre : { u"Amiga \"AGA\", CD32"_s, u"\"Amiga"_s, u" \"x\""_s, u"A\rB"_s }) {
+        EXPECT_EQ(ConNuevos(antes, { u"A"_s, nombre, u"e"_s, u"-y"_s }), antes) << nombre.toStdString();
+        EXPECT_EQ(ConNuevos(antes, { u"A"_s, u"s"_s, nombre, u"-y"_s }), antes) << nombre.toStdString();
+        EXPECT_EQ(ConCambiados(antes, { u"OLD"_s, nombre, u"e"_s, u"-y"_s }), antes) << nombre.toStdString();
+        EXPECT_EQ(ConCambiados(antes, { u"OLD"_s, u"s"_s, nombre, {} }), antes) << nombre.toStdString();
+    }
 }

@@ -311,7 +311,6 @@ void Paseo::QuitaDeNotas(const QString &sistema)
         sinVacias(notas.notas);
     std::erase_if(
         m_rom.parametros, [&](const RegistroDeParametros &registro) { return registro.sistema == sistema; });
-    m_rom.cierre = { nueva(u"'"_s), nueva(u"fin"_s), nueva(u"fin,\"fin\""_s) };
     PonRom(core::SinParametrosDeSistema(m_textoRom, host::upper(sistema)));
     std::erase_if(m_rom.sistemas, [&](const NotasDeUnSistema &notas) { return notas.nombre == sistema; });
     PonRom(core::SinNotasDeSistema(m_textoRom, sistema));

@@ -54,7 +54,8 @@ const QStringList Questions { u"Msg_BorrarEmu"_s, u"Msg_BorrarSis"_s };
 const QStringList Warnings { u"Msg_EmuYaAñadido"_s, u"Msg_SisYaAñadido"_s, u"Msg_NoEXE"_s, u"Msg_NoDIR"_s,
     u"Msg_Casillas"_s, u"Msg_NingunaROM"_s, u"Msg_SinCambios"_s, u"Msg_NingunPCX"_s, u"Msg_NoEmuLD"_s,
     u"Msg_YaAñadido"_s, u"Msg_AyudaNoEnc"_s, u"Msg_CFGNoEnc"_s, u"Zem_NoPapelera"_s, u"Zem_NoNota"_s,
-    u"Zem_NoParam"_s, u"Zem_NoNombre"_s, u"Zem_Cambiado"_s };
+    u"Zem_NoParam"_s, u"Zem_NoNombre"_s, u"Zem_Cambiado"_s, u"Zem_NoCampo"_s, u"Zem_NoFiltro"_s,
+    u"Zem_NoFinal"_s };
 const QStringList Notices { u"Msg_EmuNoWeb"_s, u"Msg_SisNoWeb"_s, u"Msg_ZipSinRoms"_s, u"Msg_CFGGrabada"_s,
     u"Msg_GrabacionOK"_s, u"Msg_ArchGrande"_s, u"Zem_NoZip"_s };
 

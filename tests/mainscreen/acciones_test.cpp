@@ -503,6 +503,56 @@ TEST_F(AccionesTest, NameThatWouldNotComeBackFromTheFileIsRefusedWithAWord)
     EXPECT_TRUE(listed().contains(u"\"a\".nes"_s));
 }
 
+// Names of a catalogue written by hand, too.
+TEST_F(AccionesTest, ParametersUnderANameThatWouldNotComeBackAreRefusedWithAWord)
+{
+    for (const bool emulator : { false, true }) {
+        auto &system = systemsOfCatalogue[ZetaSystem];
+        (emulator ? system.emulators[0].name : system.name) = u"Zeta \"AGA\", CD32"_s;
+        files.writeCatalogue(systemsOfCatalogue);
+        files.writeNotes({ { system.name, {} }, { u"alfa"_s, {} } });
+        renew();
+        start();
+        systems().SetText(system.name);
+        emulators().SetText(system.emulators[0].name);
+        addWords();
+        const QByteArray before = notes();
+        QStringList told;
+        answer(
+            u"-x"_s,
+            [&] {
+                atModal(u"Caja"_s, [&](forms::Form &form) {
+                    told << form.Caption() << controlOf<forms::Label>(form, u"Texto2"_s).Caption();
+                    click(controlOf<QWidget>(form, u"Flecha2"_s));
+                });
+                portada->Menu_Parametros->Click.raise();
+            },
+            u""_s);
+        EXPECT_THAT(
+            told, ElementsAre(u"Sin anotar"_s, u"El nombre de sistema o emulador no se puede anotar."_s));
+        EXPECT_EQ(notes(), before);
+        system.name = u"Zeta"_s;
+    }
+}
+
+TEST_F(AccionesTest, ParametersUnderANameWithACommaOrQuotesComeBack)
+{
+    systemsOfCatalogue[ZetaSystem].emulators[0].name = u"Uno \"AGA\""_s;
+    systemsOfCatalogue[ZetaSystem].name = u"Zeta, CD32 "_s;
+    files.writeCatalogue(systemsOfCatalogue);
+    files.writeNotes({ { u"Zeta, CD32 "_s, {} }, { u"alfa"_s, {} } });
+    renew();
+    start();
+    systems().SetText(u"Zeta, CD32 "_s);
+    emulators().SetText(u"Uno \"AGA\""_s);
+    addWords();
+    answer(
+        u"-x"_s, [&] { portada->Menu_Parametros->Click.raise(); }, u""_s);
+    EXPECT_TRUE(notes().contains(",\"Zeta, CD32 \",Uno \"AGA\",-x\r\n"));
+    answer(
+        u"-x"_s, [&] { portada->Menu_Parametros->Click.raise(); }, u"-x"_s);
+}
+
 TEST_F(AccionesTest, AnEntryWithoutAKeyIsNotDescribed_AndItIsSaid)
 {
     files.writeSize(u"alfazip/azip"_s, 10);
