@@ -5,7 +5,9 @@
 
 #include "host/letters.h"
 #include "host/paths.h"
+#include "host/textsource.h"
 
+#include <algorithm>
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -71,6 +73,27 @@ QString filtrosEnTexto(const Tabla<QString> &filtros)
     if (texto.size() < 2)
         throw host::Failure(host::InvalidArgument, u"read the [Filters] section"_s);
     return texto.chopped(2);
+}
+
+// Whether the start would take a field of this line for the first-run mark.
+bool llevaMarca(const QString &linea)
+{
+    host::TextSource fuente(linea);
+    while (!fuente.atEnd()) {
+        if (fuente.readField() == MarcaVacio)
+            return true;
+    }
+    return false;
+}
+
+bool quedaEnSuLinea(const QString &linea)
+{
+    return !linea.contains(u'\n') && !linea.contains(u'\r') && linea.isValidUtf16() && !llevaMarca(linea);
+}
+
+bool vuelveFiltro(const QString &nombre)
+{
+    return !sinBlancosFinales(nombre).isEmpty() && quedaEnSuLinea(host::upper(nombre));
 }
 
 void reescribe(Modulo &M, const std::function<QString(const QString &)> &cambio)
@@ -240,6 +263,20 @@ QStringList FiltrosDeTexto(const QString &texto)
     for (int i = 1; i < MaxFiltrosEscritos && !nombres(i).isEmpty(); ++i)
         filtros << nombres(i);
     return filtros;
+}
+
+bool VuelveMsgEndDOS(const QString &texto)
+{
+    // The value begins behind the line's last equal sign.
+    return !texto.contains(u'=') && quedaEnSuLinea(LineaDeMsgEndDOS(texto));
+}
+
+bool VuelvenFiltros(const QString &texto)
+{
+    const QStringList nombres = texto.split(u',');
+    const auto escritos = std::find(nombres.begin(), nombres.end(), QString());
+    return texto.isEmpty()
+        || (escritos != nombres.begin() && std::all_of(nombres.begin(), escritos, vuelveFiltro));
 }
 
 QString ConFiltros(const QString &texto, const QStringList &filtros)

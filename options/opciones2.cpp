@@ -134,10 +134,27 @@ void Opciones2::Disco1_Release()
         P.Mensaje(3, M.Msg_SinCambios1, M.Msg_SinCambios0, M.TXT_Aceptar, TXT_Volver->Caption(), QString());
         return;
     }
+    if (Rechaza())
+        return;
     Graba();
     M.MsgEndDOS = CajaTexto2->Text();
     P.Mensaje(4, M.Msg_GrabacionOK1, M.Msg_GrabacionOK0, M.TXT_Aceptar, TXT_Volver->Caption(), QString());
     TomaPrevios();
+}
+
+// What the next start would read otherwise, or end on, is refused with a word, and the boxes keep it.
+bool Opciones2::Rechaza()
+{
+    const auto advierte = [this](const QString &titulo, const QString &texto) {
+        P.Mensaje(3, texto, titulo, M.TXT_Aceptar, TXT_Volver->Caption(), QString());
+        return true;
+    };
+    const core::Palabras &palabras = M.Palabras;
+    if (CajaTexto1->Text() != M.FiltrosTexto && !core::VuelvenFiltros(CajaTexto1->Text()))
+        return advierte(palabras.Zem_NoFiltro0, palabras.Zem_NoFiltro1);
+    if (CajaTexto2->Text() != M.FiltrosNuevo && !core::VuelveMsgEndDOS(CajaTexto2->Text()))
+        return advierte(palabras.Zem_NoFinal0, palabras.Zem_NoFinal1);
+    return false;
 }
 
 // Each change is a rewrite of its own.

@@ -51,6 +51,7 @@ private:
     void NombraControles();
     bool HayCambios() const;
     void Disco1_Release();
+    bool Rechaza();
     void Graba();
     void GrabaFiltros();
 

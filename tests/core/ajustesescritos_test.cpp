@@ -282,3 +282,39 @@ TEST_F(AjustesEscritos, FiltersFollow_ALastLineWithoutEnd)
 {
     EXPECT_EQ(ConFiltros("[Filters]", { u"x"_s }), "[Filters]\r\nX\r\n\r\n[EOF]\r\n");
 }
+
+TEST_F(AjustesEscritos, AWordComesBackAtTheNextStart_OrIsRefused)
+{
+    for (const QString &palabra : { u""_s, u"Fin"_s, u"  "_s, u" Fin "_s, u"[Filters]"_s, u"Fin, VACIOS"_s,
+             u"VACIO"_s, u"\"Fin\""_s, u"\tFin\x01\x1A"_s, u"ñ ゼルダ"_s, u"'"_s, u","_s }) {
+        EXPECT_TRUE(core::VuelveMsgEndDOS(palabra)) << palabra.toStdString();
+        Pon(u"Zembro.cfg"_s, PorDefecto);
+        Cambia(Ajuste::MsgEndDOS, { core::LineaDeMsgEndDOS(palabra) });
+        EXPECT_FALSE(core::EsPrimeraVez(M)) << palabra.toStdString();
+        core::LeeAjustes(M);
+        EXPECT_EQ(M.MsgEndDOS, palabra);
+    }
+    for (const QString &palabra : { u"Fin="_s, u"="_s, u"a=b"_s, u"= "_s, u"x,VACIO"_s, u", VACIO ,x"_s,
+             u"x,\"VACIO\"y"_s, u"Fin\nx"_s, u"Fin\r"_s, QString(QChar(0xD800)) })
+        EXPECT_FALSE(core::VuelveMsgEndDOS(palabra)) << palabra.toStdString();
+}
+
+TEST_F(AjustesEscritos, FiltersComeBackAtTheNextStart_OrAreRefused)
+{
+    const std::pair<QString, QString> listas[] = { { u"roms,Snap"_s, u"ROMS,SNAP"_s },
+        { u"CFG, roms ,x"_s, u"CFG, ROMS,X"_s }, { u"CFG,,VACIO"_s, u"CFG"_s }, { u"CFG,"_s, u"CFG"_s },
+        { u"[EOF],[Filters],a=b"_s, u"[EOF],[FILTERS],A=B"_s }, { u"VACIO2,X VACIO"_s, u"VACIO2,X VACIO"_s },
+        { u"\"x,ゼ\t"_s, u"\"X,ゼ\t"_s } };
+    for (const auto &[texto, leidos] : listas) {
+        EXPECT_TRUE(core::VuelvenFiltros(texto)) << texto.toStdString();
+        ConFiltros(PorDefecto, core::FiltrosDeTexto(texto));
+        EXPECT_FALSE(core::EsPrimeraVez(M)) << texto.toStdString();
+        M.Filtros = core::Tabla<QString> { core::MaxSistemas };
+        core::LeeAjustes(M);
+        EXPECT_EQ(M.FiltrosTexto, leidos);
+    }
+    for (const QString &texto : { u"VACIO"_s, u"x, vacio "_s, u"x,\"VACIO\"y"_s, u",CFG"_s, u","_s, u" "_s,
+             u"  ,x"_s, u"x,  ,y"_s, u"x, "_s, u"a\nb"_s, u"a,b\r"_s, QString(QChar(0xDC00)) })
+        EXPECT_FALSE(core::VuelvenFiltros(texto)) << texto.toStdString();
+    EXPECT_TRUE(core::VuelvenFiltros({})); // ends the next start, as it always did
+}

@@ -247,14 +247,14 @@ TEST_F(Opciones2Test, SavingTheOptionWritesItsLineAlone)
 TEST_F(Opciones2Test, SavingTheWordWritesItAsTypedAndItCountsAtOnce)
 {
     advanced([this](forms::Form &form) {
-        write(wordOf(form), u" Done = x "_s);
+        write(wordOf(form), u" Done, x "_s);
         EXPECT_EQ(M->MsgEndDOS, u"Finalizado"_s);
         EXPECT_EQ(save(form), noticeOf(u"Msg_GrabacionOK"_s));
-        EXPECT_EQ(M->MsgEndDOS, u" Done = x "_s);
+        EXPECT_EQ(M->MsgEndDOS, u" Done, x "_s);
         EXPECT_EQ(save(form), warningOf(u"Msg_SinCambios"_s));
     });
     EXPECT_EQ(
-        settings(), QByteArray(m_first).replace("MsgEndDOS = Finalizado\r\n", "MsgEndDOS =  Done = x \r\n"));
+        settings(), QByteArray(m_first).replace("MsgEndDOS = Finalizado\r\n", "MsgEndDOS =  Done, x \r\n"));
 }
 
 TEST_F(Opciones2Test, AnEmptyWordIsWrittenWithNothingBehindTheKey)
@@ -301,6 +301,53 @@ TEST_F(Opciones2Test, NoFilterIsWrittenAsAnEmptyLine_AndTheNextStartEnds)
     ASSERT_TRUE(end);
     EXPECT_EQ(end->status, 1);
     EXPECT_TRUE(end->text.contains(files.path(u"Zembro.cfg"_s))) << end->text.toStdString();
+}
+
+TEST_F(Opciones2Test, FiltersThatStopTheNextStartAreRefused_AndStayInTheBox)
+{
+    for (const QString &text : { u"VACIO"_s, u"cfg, vacio"_s, u",CFG"_s, u"  "_s }) {
+        advanced([&](forms::Form &form) {
+            click(no(form));
+            write(wordOf(form), u"Fin"_s);
+            write(filtersOf(form), text);
+            EXPECT_EQ(save(form), warningOf(u"Zem_NoFiltro"_s));
+            EXPECT_EQ(filtersOf(form).Text(), text);
+            EXPECT_EQ(wordOf(form).Text(), u"Fin"_s);
+            EXPECT_EQ(save(form), warningOf(u"Zem_NoFiltro"_s));
+            click(yes(form));
+        });
+        EXPECT_EQ(settings(), m_first) << text.toStdString();
+        EXPECT_EQ(M->FiltrosTexto, u"CFG,ROMS"_s);
+        EXPECT_EQ(M->MsgEndDOS, u"Finalizado"_s);
+    }
+}
+
+TEST_F(Opciones2Test, AWordThatWouldNotComeBackIsRefused_AndStaysInTheBox)
+{
+    for (const QString &text : { u"Fin="_s, u"a=b"_s, u"x,VACIO"_s }) {
+        advanced([&](forms::Form &form) {
+            write(filtersOf(form), u"Snap"_s);
+            write(wordOf(form), text);
+            EXPECT_EQ(save(form), warningOf(u"Zem_NoFinal"_s));
+            EXPECT_EQ(filtersOf(form).Text(), u"Snap"_s);
+            EXPECT_EQ(wordOf(form).Text(), text);
+        });
+        EXPECT_EQ(settings(), m_first) << text.toStdString();
+        EXPECT_EQ(M->FiltrosTexto, u"CFG,ROMS"_s);
+        EXPECT_EQ(M->MsgEndDOS, u"Finalizado"_s);
+    }
+}
+
+// A file written by hand may hold such a word; another change is saved beside it.
+TEST_F(Opciones2Test, ARefusedTextThatStandsAlreadyDoesNotHinderAnotherChange)
+{
+    M->FiltrosTexto = u",CFG"_s;
+    M->MsgEndDOS = u"a=b"_s;
+    advanced([this](forms::Form &form) {
+        click(no(form));
+        EXPECT_EQ(save(form), noticeOf(u"Msg_GrabacionOK"_s));
+    });
+    EXPECT_EQ(settings(), QByteArray(m_first).replace("SaveLastEmu&Sis = 1", "SaveLastEmu&Sis = 0"));
 }
 
 TEST_F(Opciones2Test, TwoCommasEndTheListOfFilters)
@@ -352,7 +399,7 @@ TEST_F(Opciones2Test, OneFilterMoreEndsTheProgram_WithTheOptionWrittenBefore)
     std::optional<ProcessEnd> end;
     advanced([&](forms::Form &form) {
         click(no(form));
-        filtersOf(form).SetText(QString(101, u',') + u'x');
+        filtersOf(form).SetText(u'a' + QString(101, u',') + u'x');
         end = endOf([&] { controlOf<forms::PictureButton>(form, u"Disco1"_s).Release.raise(); });
         form.Unload(); // the process would be gone
     });
