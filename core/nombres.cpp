@@ -1,8 +1,7 @@
 #include "core/nombres.h"
 
+#include "core/campos.h"
 #include "core/lineas.h"
-
-#include "host/textsource.h"
 
 #include <algorithm>
 
@@ -18,17 +17,7 @@ constexpr int LineasDeCierre = 3; // of its section, the apostrophe included
 bool esDeUnaLinea(const QString &nombre)
 {
     const bool sinControles = std::none_of(nombre.begin(), nombre.end(), [](QChar c) { return c < u' '; });
-    return sinControles && !nombre.trimmed().isEmpty() && nombre.isValidUtf16();
-}
-
-// A field of a record comes back from the file, bare or in quotes.
-bool vuelveDeUnCampo(const QString &nombre)
-{
-    const auto vuelve = [&](const QString &escrito) {
-        host::TextSource fuente(escrito + u",x\n"_s);
-        return fuente.readField() == nombre && fuente.rest() == u"x\n";
-    };
-    return vuelve(nombre) || vuelve(u'"' + nombre + u'"');
+    return sinControles && !nombre.trimmed().isEmpty();
 }
 
 bool empiezaPorUno(const QString &nombre, QStringView signos)
@@ -40,12 +29,12 @@ bool empiezaPorUno(const QString &nombre, QStringView signos)
 
 bool SirveDeSistema(const QString &nombre)
 {
-    return esDeUnaLinea(nombre) && vuelveDeUnCampo(nombre) && !EsLineaDeNotas(nombre);
+    return esDeUnaLinea(nombre) && CabeEnUnCampo(nombre) && !EsLineaDeNotas(nombre);
 }
 
 bool SirveDeEmulador(const QString &nombre)
 {
-    return esDeUnaLinea(nombre) && vuelveDeUnCampo(nombre) && !empiezaPorUno(nombre, u"'[-+");
+    return esDeUnaLinea(nombre) && CabeEnUnCampo(nombre) && !empiezaPorUno(nombre, u"'[-+");
 }
 
 bool EsLineaDeNotas(const QString &nombre)
