@@ -3,10 +3,13 @@
 #include "host/descriptor.h"
 #include "host/encoding.h"
 #include "host/letters.h"
+#include "host/retried.h"
 #include "host/shortnames.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <map>
+#include <optional>
 #include <utility>
 
 #include <dirent.h>
@@ -48,24 +51,38 @@ bool canBeKept(const timespec &changed)
     return nanoseconds(now) - nanoseconds(changed) > (changed.tv_nsec == 0 ? SureAfterCoarse : SureAfter);
 }
 
-std::vector<Directory::Entry> readEntries(DIR *stream)
+// The next entry; null at the end, and then errno is 0, or where it can't be read.
+const dirent *nextEntry(DIR *stream)
+{
+    const dirent *entry = nullptr;
+    do {
+        errno = 0;
+        entry = readdir(stream);
+    } while (!entry && errno == EINTR);
+    return entry;
+}
+
+// None if it can't be read to its end: names that are missing would pass for free ones.
+std::optional<std::vector<Directory::Entry>> readEntries(DIR *stream)
 {
     ++readingCount;
     std::vector<Directory::Entry> entries;
-    while (const dirent *entry = readdir(stream)) {
+    while (const dirent *entry = nextEntry(stream)) {
         const QByteArray bytes(entry->d_name);
         if (bytes == "." || bytes == "..")
             continue;
         const QString name = nameFromDisk(bytes);
         entries.push_back({ bytes, name, upper(name), entry->d_type });
     }
+    if (errno != 0)
+        return std::nullopt;
     return entries;
 }
 
 bool entryExists(const QByteArray &path)
 {
     struct stat status;
-    return lstat(path.constData(), &status) == 0;
+    return retried([&] { return lstat(path.constData(), &status); }) == 0;
 }
 
 QString withoutTrailingPoints(QString name)
@@ -97,19 +114,22 @@ bool mayShareForm(QStringView name, QStringView form)
 std::shared_ptr<const Directory> Directory::of(const Descriptor &descriptor)
 {
     // The stream closes what it is given.
-    DIR *stream = fdopendir(fcntl(descriptor.number(), F_DUPFD_CLOEXEC, 0));
-    if (!stream)
+    const int own = fcntl(descriptor.number(), F_DUPFD_CLOEXEC, 0);
+    DIR *stream = fdopendir(own);
+    if (!stream) {
+        close(own);
         return nullptr;
-    auto directory = std::make_shared<const Directory>(readEntries(stream));
+    }
+    std::optional<std::vector<Entry>> entries = readEntries(stream);
     closedir(stream);
-    return directory;
+    return entries ? std::make_shared<const Directory>(std::move(*entries)) : nullptr;
 }
 
 std::shared_ptr<const Directory> Directory::at(const QByteArray &path)
 {
     static std::map<Place, Reading> readings;
     struct stat status;
-    if (stat(path.constData(), &status) != 0)
+    if (retried([&] { return stat(path.constData(), &status); }) != 0)
         return nullptr;
     const Place place(status.st_dev, status.st_ino);
     const auto kept = readings.find(place);
@@ -117,8 +137,9 @@ std::shared_ptr<const Directory> Directory::at(const QByteArray &path)
         return kept->second.directory;
 
     readings.erase(place);
-    const Descriptor descriptor(open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!descriptor.isOpen() || fstat(descriptor.number(), &status) != 0)
+    const Descriptor descriptor(
+        retried([&] { return open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
+    if (!descriptor.isOpen() || retried([&] { return fstat(descriptor.number(), &status); }) != 0)
         return nullptr;
     const bool keep = canBeKept(status.st_ctim);
     std::shared_ptr<const Directory> directory = of(descriptor);

@@ -3,6 +3,7 @@
 #include "host/directory.h"
 #include "host/encoding.h"
 #include "host/failure.h"
+#include "host/retried.h"
 #include "host/shortnames.h"
 
 #include <array>
@@ -25,7 +26,7 @@ bool isSeparator(QChar character)
 bool isDirectory(const QByteArray &path)
 {
     struct stat status;
-    return stat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode);
+    return retried([&] { return stat(path.constData(), &status); }) == 0 && S_ISDIR(status.st_mode);
 }
 
 // Finds a path from left to right. A backslash separates too, unless it belongs to a name that is there.

@@ -1,6 +1,6 @@
 #include "host/plainfile.h"
 
-#include "host/descriptor.h"
+#include "host/retried.h"
 
 #include <algorithm>
 #include <array>
@@ -17,13 +17,10 @@ bool readBegin(const Descriptor &file, qint64 most, QByteArray &bytes)
     std::array<char, 65536> buffer;
     while (bytes.size() < most) {
         const size_t wanted = size_t(std::min<qint64>(most - bytes.size(), buffer.size()));
-        const ssize_t count = ::read(file.number(), buffer.data(), wanted);
-        if (count == 0)
-            return true;
-        if (count > 0)
-            bytes.append(buffer.data(), count);
-        else if (errno != EINTR)
-            return false;
+        const ssize_t count = retried([&] { return ::read(file.number(), buffer.data(), wanted); });
+        if (count <= 0)
+            return count == 0;
+        bytes.append(buffer.data(), count);
     }
     return true;
 }
@@ -33,17 +30,33 @@ bool readBegin(const Descriptor &file, qint64 most, QByteArray &bytes)
 std::optional<PlainFile> readPlainFile(int directory, const QByteArray &name, int openFlags, qint64 most)
 {
     // Not blocking: a pipe in the file's place would never open.
-    const Descriptor file(openat(directory, name.constData(), openFlags | O_NONBLOCK | O_CLOEXEC));
-    PlainFile result;
-    if (!file.isOpen() || fstat(file.number(), &result.status) != 0)
+    const int flags = openFlags | O_NONBLOCK | O_CLOEXEC;
+    PlainFile result { {}, {},
+        Descriptor(retried([&] { return openat(directory, name.constData(), flags); })) };
+    if (!result.descriptor.isOpen()
+        || retried([&] { return fstat(result.descriptor.number(), &result.status); }) != 0)
         return std::nullopt;
     if (!S_ISREG(result.status.st_mode)) {
         errno = EISDIR;
         return std::nullopt;
     }
-    if (!readBegin(file, most, result.bytes))
+    if (!readBegin(result.descriptor, most, result.bytes))
         return std::nullopt;
     return result;
+}
+
+bool writeBytes(int file, const QByteArray &bytes)
+{
+    for (qsizetype written = 0; written < bytes.size();) {
+        const ssize_t count = retried(
+            [&] { return ::write(file, bytes.constData() + written, size_t(bytes.size() - written)); });
+        if (count == 0)
+            errno = EIO;
+        if (count <= 0)
+            return false;
+        written += count;
+    }
+    return true;
 }
 
 } // namespace host

@@ -1,9 +1,11 @@
 #include "host/replacement.h"
 
+#include "host/directorylock.h"
 #include "host/encoding.h"
 #include "host/failure.h"
+#include "host/likeness.h"
 #include "host/paths.h"
-#include "host/plainfile.h"
+#include "host/retried.h"
 
 #include <array>
 #include <cerrno>
@@ -11,7 +13,7 @@
 
 #include <fcntl.h>
 #include <stdio.h>
-#include <sys/file.h>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -22,13 +24,6 @@ namespace {
 constexpr int MostLinks = 40;
 constexpr mode_t NewFileMode = 0666; // less the process's mask
 constexpr mode_t ScratchMode = 0600; // until it has the old file's
-
-// Owners that this system can't name, and file systems without owners or modes: nothing to keep there.
-bool isBeyondUs(int systemError)
-{
-    return systemError == EPERM || systemError == EINVAL || systemError == ENOSYS
-        || systemError == EOPNOTSUPP;
-}
 
 QByteArray directoryOf(const QByteArray &path)
 {
@@ -41,13 +36,25 @@ QByteArray followLinks(QByteArray path, const QString &typed)
 {
     std::array<char, PATH_MAX> target;
     for (int links = 0; links < MostLinks; ++links) {
-        const ssize_t length = readlink(path.constData(), target.data(), target.size());
+        const ssize_t length =
+            retried([&] { return readlink(path.constData(), target.data(), target.size()); });
         if (length < 0)
             return path;
         const QByteArray next(target.data(), length);
         path = next.startsWith('/') ? next : directoryOf(path) + next;
     }
     throw systemFailure(ELOOP, u"follow a link"_s, typed);
+}
+
+bool isSameFile(const struct stat &one, const struct stat &other)
+{
+    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
+bool isUnchanged(const struct stat &before, const struct stat &now)
+{
+    return isSameFile(before, now) && before.st_size == now.st_size
+        && before.st_mtim.tv_sec == now.st_mtim.tv_sec && before.st_mtim.tv_nsec == now.st_mtim.tv_nsec;
 }
 
 } // namespace
@@ -63,7 +70,8 @@ Replacement::Replacement(const QString &path, const QString &scratchName)
     m_name = target.sliced(target.lastIndexOf('/') + 1);
     if (m_scratchName.isEmpty() || m_scratchName.contains('/') || m_scratchName == m_name)
         throw Failure(InvalidArgument, u"rewrite a file by way of "_s + scratchName, path);
-    m_directory = Descriptor(open(directoryOf(target).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    m_directory = Descriptor(
+        retried([&] { return open(directoryOf(target).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
     if (!m_directory.isOpen())
         fail(u"open the directory of a file"_s);
     lock();
@@ -71,28 +79,33 @@ Replacement::Replacement(const QString &path, const QString &scratchName)
 
 Replacement::~Replacement()
 {
-    if (m_scratchStands)
+    struct stat written { };
+    struct stat named { };
+    // Not another copy's.
+    if (m_scratchStands && fstat(m_scratch.number(), &written) == 0 && look(m_scratchName, named)
+        && isSameFile(written, named))
         unlinkat(m_directory.number(), m_scratchName.constData(), 0);
 }
 
-// Some network file systems can't lock a directory. There, rewriting without a lock is better than never.
 void Replacement::lock()
 {
-    int result = 0;
-    do {
-        result = flock(m_directory.number(), LOCK_EX);
-    } while (result != 0 && errno == EINTR);
+    if (lockDirectory(m_directory.number()))
+        return;
+    const QString holder = lockHolder(m_directory.number());
+    throw Failure(PermissionDenied,
+        u"rewrite a file, as another program"_s + (holder.isEmpty() ? QString() : u" ("_s + holder + u')')
+            + u" has kept its directory locked for 10 seconds"_s,
+        m_path);
 }
 
 std::optional<QByteArray> Replacement::read()
 {
-    const std::optional<PlainFile> file = readPlainFile(m_directory.number(), m_name, O_RDONLY | O_NOFOLLOW);
-    if (!file && errno == ENOENT)
+    m_old = readPlainFile(m_directory.number(), m_name, O_RDONLY | O_NOFOLLOW);
+    if (!m_old && errno == ENOENT)
         return std::nullopt;
-    if (!file)
+    if (!m_old)
         throw Failure(PathAccess, u"read a file that is to be rewritten"_s, m_path);
-    m_old = file->status;
-    return file->bytes;
+    return std::exchange(m_old->bytes, {});
 }
 
 void Replacement::write(const QByteArray &bytes)
@@ -100,70 +113,81 @@ void Replacement::write(const QByteArray &bytes)
     if (m_old && !mayBeWritten())
         throw Failure(PathAccess, u"rewrite a file that may not be written"_s, m_path);
     makeScratch();
-    writeAll(bytes);
-    keepOwnerAndMode();
-    if (fsync(m_scratch.number()) != 0)
+    if (!writeBytes(m_scratch.number(), bytes))
+        fail(u"write a file"_s);
+    const QString unkept = m_old ? makeAlike(*m_old, m_scratch.number()) : QString();
+    if (!unkept.isEmpty())
+        fail(unkept);
+    if (retried([this] { return fsync(m_scratch.number()); }) != 0)
         fail(u"write a file to the disk"_s);
 }
 
 void Replacement::commit()
 {
+    mustBeAsRead();
+    mustBeAsWritten();
     const int directory = m_directory.number();
-    if (renameat(directory, m_scratchName.constData(), directory, m_name.constData()) != 0)
+    const auto rename = [&] {
+        return renameat(directory, m_scratchName.constData(), directory, m_name.constData());
+    };
+    if (retried(rename) != 0)
         fail(u"put the new file in the place of the old one"_s);
     m_scratchStands = false;
     // The new file is in place whatever this says: file systems that can't flush a directory need no
     // flushing.
-    fsync(directory);
+    retried([&] { return fsync(directory); });
+}
+
+bool Replacement::look(const QByteArray &name, struct stat &status) const
+{
+    const auto ask = [&] {
+        return fstatat(m_directory.number(), name.constData(), &status, AT_SYMLINK_NOFOLLOW);
+    };
+    return retried(ask) == 0;
+}
+
+// A change that came between the reading and now would be lost.
+void Replacement::mustBeAsRead() const
+{
+    struct stat now { };
+    const bool stands = look(m_name, now);
+    if (!stands && errno != ENOENT)
+        fail(u"look at a file that is to be rewritten"_s);
+    if (stands != m_old.has_value() || (stands && !isUnchanged(m_old->status, now)))
+        throw Failure(PathAccess, u"rewrite a file that another program has changed meanwhile"_s, m_path);
+}
+
+void Replacement::mustBeAsWritten() const
+{
+    struct stat written { };
+    struct stat named { };
+    if (retried([&] { return fstat(m_scratch.number(), &written); }) != 0
+        || (!look(m_scratchName, named) && errno != ENOENT))
+        fail(u"look at the scratch file"_s);
+    if (!isSameFile(written, named))
+        throw Failure(
+            PathAccess, u"rewrite a file, as another program has taken the scratch file meanwhile"_s, m_path);
 }
 
 bool Replacement::mayBeWritten() const
 {
-    return (m_old->st_mode & S_IWUSR) != 0
-        && faccessat(m_directory.number(), m_name.constData(), W_OK, AT_EACCESS) == 0;
+    const auto ask = [this] { return faccessat(m_directory.number(), m_name.constData(), W_OK, AT_EACCESS); };
+    return (m_old->status.st_mode & S_IWUSR) != 0 && retried(ask) == 0;
 }
 
 // What lies under the scratch name goes first, so that nothing is ever written through it.
 void Replacement::makeScratch()
 {
     const int directory = m_directory.number();
-    if (unlinkat(directory, m_scratchName.constData(), 0) != 0 && errno != ENOENT)
+    const char *name = m_scratchName.constData();
+    if (retried([&] { return unlinkat(directory, name, 0); }) != 0 && errno != ENOENT)
         failIn(u"remove a left-over scratch file"_s);
     const int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
-    m_scratch =
-        Descriptor(openat(directory, m_scratchName.constData(), flags, m_old ? ScratchMode : NewFileMode));
+    const mode_t mode = m_old ? ScratchMode : NewFileMode;
+    m_scratch = Descriptor(retried([&] { return openat(directory, name, flags, mode); }));
     if (!m_scratch.isOpen())
         failIn(u"make the scratch file"_s);
     m_scratchStands = true;
-}
-
-void Replacement::writeAll(const QByteArray &bytes)
-{
-    for (qsizetype written = 0; written < bytes.size();) {
-        const ssize_t count =
-            ::write(m_scratch.number(), bytes.constData() + written, bytes.size() - written);
-        if (count < 0 && errno != EINTR)
-            fail(u"write a file"_s);
-        written += std::max<ssize_t>(count, 0);
-    }
-}
-
-// Only the system's administrator can give a file away; for others the group is kept where they belong to it.
-void Replacement::keepOwnerAndMode()
-{
-    if (!m_old)
-        return;
-    const int file = m_scratch.number();
-    struct stat fresh { };
-    if (fstat(file, &fresh) != 0)
-        fail(u"keep the owner of a file"_s);
-    const bool sameOwner = fresh.st_uid == m_old->st_uid && fresh.st_gid == m_old->st_gid;
-    if (!sameOwner && fchown(file, m_old->st_uid, m_old->st_gid) != 0
-        && fchown(file, uid_t(-1), m_old->st_gid) != 0 && !isBeyondUs(errno))
-        fail(u"keep the owner of a file"_s);
-    if ((fresh.st_mode & 07777) != (m_old->st_mode & 07777) && fchmod(file, m_old->st_mode & 07777) != 0
-        && !isBeyondUs(errno))
-        fail(u"keep the mode of a file"_s);
 }
 
 void Replacement::failIn(const QString &operation) const

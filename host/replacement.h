@@ -1,14 +1,12 @@
 // The one routine that replaces a file. At any moment the old or the new file stands in its place, whole.
 #pragma once
 
-#include "host/descriptor.h"
+#include "host/plainfile.h"
 
 #include <QByteArray>
 #include <QString>
 
 #include <optional>
-
-#include <sys/stat.h>
 
 namespace host {
 
@@ -18,7 +16,7 @@ class Replacement {
 public:
     // A link in the file's place is followed: the lock, the scratch file and the last step are all in the
     // directory of what it leads to. Fails with 76 if there is no such directory, 5 if the scratch name is no
-    // name beside it.
+    // name beside it, 70 if another keeps the lock for more than ten seconds.
     Replacement(const QString &path, const QString &scratchName);
     Replacement(const Replacement &) = delete;
     Replacement &operator=(const Replacement &) = delete;
@@ -31,14 +29,16 @@ public:
     // if the old file may not be written, else with what the system says.
     void write(const QByteArray &bytes);
 
-    // Puts the scratch file in the place of the old one.
+    // Puts the scratch file in the place of the old one. Fails with 75 if either isn't the one any more that
+    // was written or read: where a directory can't be locked, another copy may be at work on them.
     void commit();
 
 private:
     void lock();
     void makeScratch();
-    void writeAll(const QByteArray &bytes);
-    void keepOwnerAndMode();
+    void mustBeAsRead() const;
+    void mustBeAsWritten() const;
+    bool look(const QByteArray &name, struct stat &status) const; // false, with errno
     bool mayBeWritten() const;
     [[noreturn]] void failIn(const QString &operation) const; // as fail, of the directory in plain words
     [[noreturn]] void fail(const QString &operation) const; // with errno
@@ -48,7 +48,7 @@ private:
     QByteArray m_scratchName;
     Descriptor m_directory;
     Descriptor m_scratch;
-    std::optional<struct stat> m_old;
+    std::optional<PlainFile> m_old; // without its bytes
     bool m_scratchStands = false;
 };
 

@@ -1,22 +1,26 @@
 #include "host/trash.h"
 
 #include "host/descriptor.h"
-#include "host/encoding.h"
+#include "host/directory.h"
 #include "host/paths.h"
+#include "host/plainfile.h"
+#include "host/retried.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QStandardPaths>
-#include <QStorageInfo>
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
+#include <cstdlib>
+#include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -28,64 +32,136 @@ namespace {
 constexpr qsizetype LongestName = 230; // bytes; the system's limit less a number and ".trashinfo"
 
 struct Trash {
-    QString directory; // with "files" and "info" in it; empty: there is none
-    QByteArray top; // of the volume, which the origins leave out; empty where they are absolute
+    QByteArray directory; // with "files" and "info" in it; empty: there is none
+    QByteArray
+        top; // of the volume, closed by a slash, which the origins leave out; empty where they are absolute
 };
 
-bool isOwnDirectory(const QString &path)
+enum class Links { Refused, OfTheUser };
+
+// A directory of the user's, or a link that the user made to one.
+bool isOwnDirectory(const QByteArray &path, Links links)
 {
+    struct stat named { };
     struct stat status { };
-    return lstat(QFile::encodeName(path).constData(), &status) == 0 && S_ISDIR(status.st_mode)
-        && status.st_uid == geteuid() && access(QFile::encodeName(path).constData(), W_OK | X_OK) == 0;
+    return retried([&] { return lstat(path.constData(), &named); }) == 0 && named.st_uid == geteuid()
+        && (links == Links::OfTheUser || S_ISDIR(named.st_mode))
+        && retried([&] { return stat(path.constData(), &status); }) == 0 && S_ISDIR(status.st_mode)
+        && status.st_uid == geteuid() && retried([&] { return access(path.constData(), W_OK | X_OK); }) == 0;
 }
 
-bool haveOwnDirectory(const QString &path)
+bool haveOwnDirectory(const QByteArray &path, Links links)
 {
-    mkdir(QFile::encodeName(path).constData(), 0700);
-    return isOwnDirectory(path);
+    retried([&] { return mkdir(path.constData(), 0700); });
+    return isOwnDirectory(path, links);
 }
 
-bool haveTrash(const QString &trash)
+bool haveTrash(const QByteArray &trash, Links links)
 {
-    return haveOwnDirectory(trash) && haveOwnDirectory(trash + u"/files"_s)
-        && haveOwnDirectory(trash + u"/info"_s);
+    return haveOwnDirectory(trash, links) && haveOwnDirectory(trash + "/files", links)
+        && haveOwnDirectory(trash + "/info", links);
 }
 
 // The volume's administrator has made it for all users: a real directory with the sticky bit.
-bool isSharedTrash(const QString &path)
+bool isSharedTrash(const QByteArray &path)
 {
     struct stat status { };
-    return lstat(QFile::encodeName(path).constData(), &status) == 0 && S_ISDIR(status.st_mode)
+    return retried([&] { return lstat(path.constData(), &status); }) == 0 && S_ISDIR(status.st_mode)
         && (status.st_mode & S_ISVTX);
 }
 
-Trash trashOfVolume(const QString &root)
+Trash trashOfVolume(const QByteArray &top)
 {
-    const QString user = QString::number(getuid());
-    const QString top = root.endsWith(u'/') ? root : root + u'/';
-    const QString shared = top + u".Trash"_s;
-    for (const QString &trash : { shared + u'/' + user, top + u".Trash-"_s + user }) {
-        if ((!trash.startsWith(shared + u'/') || isSharedTrash(shared)) && haveTrash(trash))
-            return { trash, QFile::encodeName(top) };
+    const QByteArray user = QByteArray::number(getuid());
+    const QByteArray shared = top + ".Trash";
+    for (const QByteArray &trash : { shared + '/' + user, top + ".Trash-" + user }) {
+        if ((!trash.startsWith(shared + '/') || isSharedTrash(shared)) && haveTrash(trash, Links::Refused))
+            return { trash, top };
     }
     return {};
 }
 
-Trash trashAtHome()
+QByteArray dataDirectory()
 {
-    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    const QString trash = data + u"/Trash"_s;
-    return QDir().mkpath(data) && haveTrash(trash) ? Trash { trash, {} } : Trash {};
+    return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
 }
 
-// Of the volume of this directory.
-Trash trashFor(QString directory)
+Trash trashAtHome()
 {
-    // The toolkit doesn't see names that aren't UTF-8; no volume begins at one.
-    while (!QFileInfo::exists(directory))
-        directory.truncate(std::max(directory.lastIndexOf(u'/'), qsizetype(1)));
-    const QStorageInfo volume(directory);
-    return volume == QStorageInfo(QDir::homePath()) ? trashAtHome() : trashOfVolume(volume.rootPath());
+    const QByteArray data = dataDirectory();
+    const QByteArray trash = data + "/Trash";
+    return QDir().mkpath(QFile::decodeName(data)) && haveTrash(trash, Links::OfTheUser) ? Trash { trash, {} }
+                                                                                        : Trash {};
+}
+
+// Where an existing path really lies; empty if that can't be seen.
+QByteArray realPath(const QByteArray &path)
+{
+    char *found = nullptr;
+    do
+        found = realpath(path.constData(), nullptr);
+    while (!found && errno == EINTR);
+    const QByteArray real(found);
+    free(found);
+    return real;
+}
+
+QByteArray directoryAbove(const QByteArray &path)
+{
+    return path.first(std::max<qsizetype>(path.lastIndexOf('/'), 1));
+}
+
+// What a real path is mounted by: within one mount, and nowhere else, a file can be moved. None if that can't
+// be seen.
+std::optional<std::uint64_t> mountOf(const QByteArray &path)
+{
+    struct statx status { };
+    const auto ask = [&] { return statx(AT_FDCWD, path.constData(), 0, STATX_MNT_ID, &status); };
+    if (retried(ask) != 0)
+        return std::nullopt;
+    const bool told = (status.stx_mask & STATX_MNT_ID) != 0;
+    return told ? status.stx_mnt_id : makedev(status.stx_dev_major, status.stx_dev_minor);
+}
+
+// The topmost directory of the volume that a real directory lies on, closed by a slash. Empty if it can't be
+// seen.
+QByteArray topOf(QByteArray directory, std::uint64_t mount)
+{
+    while (directory != "/") {
+        const QByteArray above = directoryAbove(directory);
+        const auto other = mountOf(above);
+        if (!other)
+            return {};
+        if (*other != mount)
+            return directory + '/';
+        directory = above;
+    }
+    return directory;
+}
+
+// The mount of the user's own trash, or of where it is going to be made.
+std::optional<std::uint64_t> mountOfTrashAtHome()
+{
+    QByteArray place = dataDirectory() + "/Trash";
+    QByteArray real = realPath(place);
+    while (real.isEmpty() && place != "/") {
+        place = directoryAbove(place);
+        real = realPath(place);
+    }
+    return real.isEmpty() ? std::nullopt : mountOf(real);
+}
+
+// For what lies in this real directory.
+Trash trashFor(const QByteArray &directory)
+{
+    const auto mount = mountOf(directory);
+    const auto home = mountOfTrashAtHome();
+    if (!mount || !home)
+        return {};
+    if (*mount == *home)
+        return trashAtHome();
+    const QByteArray top = topOf(directory, *mount);
+    return top.isEmpty() ? Trash {} : trashOfVolume(top);
 }
 
 // Names in the trash: "a.bin", "a.2.bin", "a.3.bin" ...
@@ -105,13 +181,13 @@ QByteArray nameInTrash(const QByteArray &name, int number)
 // False, with errno, if it can't be made, or is there already.
 bool writeOrigin(const Descriptor &info, const QByteArray &name, const QByteArray &origin)
 {
-    const Descriptor file(
-        openat(info.number(), name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+    constexpr int Flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    const Descriptor file(retried([&] { return openat(info.number(), name.constData(), Flags, 0600); }));
     if (!file.isOpen())
         return false;
     const QByteArray text = "[Trash Info]\nPath=" + origin.toPercentEncoding("/") + "\nDeletionDate="
         + QDateTime::currentDateTime().toString(u"yyyy-MM-ddTHH:mm:ss"_s).toLatin1() + '\n';
-    if (write(file.number(), text.constData(), size_t(text.size())) == text.size())
+    if (writeBytes(file.number(), text))
         return true;
     unlinkat(info.number(), name.constData(), 0);
     errno = ENOSPC;
@@ -121,26 +197,33 @@ bool writeOrigin(const Descriptor &info, const QByteArray &name, const QByteArra
 // Overwrites nothing. False, with errno.
 bool moveInto(const Descriptor &files, const QByteArray &name, const QByteArray &file)
 {
-    if (renameat2(AT_FDCWD, file.constData(), files.number(), name.constData(), RENAME_NOREPLACE) == 0)
+    const auto move = [&] {
+        return renameat2(AT_FDCWD, file.constData(), files.number(), name.constData(), RENAME_NOREPLACE);
+    };
+    if (retried(move) == 0)
         return true;
     if (errno != EINVAL && errno != ENOSYS)
         return false;
     // A file system without that kind of renaming. The name is ours: its origin was written by us.
     struct stat status { };
-    if (fstatat(files.number(), name.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0) {
+    const auto look = [&] { return fstatat(files.number(), name.constData(), &status, AT_SYMLINK_NOFOLLOW); };
+    const bool isFree = retried(look) != 0 && errno == ENOENT;
+    if (!isFree)
         errno = EEXIST;
-        return false;
-    }
-    return renameat(AT_FDCWD, file.constData(), files.number(), name.constData()) == 0;
+    return isFree && retried([&] {
+        return renameat(AT_FDCWD, file.constData(), files.number(), name.constData());
+    }) == 0;
 }
 
 // The origin stands there first, as the standard asks: a file without one can't be put back.
 bool moveWithOrigin(const Trash &trash, const QByteArray &file, const QByteArray &origin)
 {
-    const QByteArray directory = QFile::encodeName(trash.directory);
-    constexpr int Flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-    const Descriptor files(open((directory + "/files").constData(), Flags));
-    const Descriptor info(open((directory + "/info").constData(), Flags));
+    const auto openPart = [&trash](const char *part) {
+        const QByteArray path = trash.directory + part;
+        return retried([&] { return open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
+    };
+    const Descriptor files(openPart("/files"));
+    const Descriptor info(openPart("/info"));
     const QByteArray name = file.sliced(file.lastIndexOf('/') + 1);
     for (int number = 1; files.isOpen() && info.isOpen(); ++number) {
         const QByteArray candidate = nameInTrash(name, number);
@@ -169,14 +252,12 @@ bool moveToTrash(const QString &path)
     const QByteArray name = spelling.sliced(cut);
     if (name.isEmpty() || name == "." || name == "..")
         return false;
-    const QString directory = directoryPath(cut == 0 ? u"."_s : nameFromDisk(spelling.first(cut)));
-    const Trash trash = trashFor(directory);
+    const QByteArray directory = realPath(cut == 0 ? QByteArray(".") : spelling.first(cut));
+    const Trash trash = directory.isEmpty() ? Trash {} : trashFor(directory);
     if (trash.directory.isEmpty())
         return false;
-    const QByteArray parent = nameToDisk(directory);
-    const QByteArray file = (parent == "/" ? QByteArray() : parent) + '/' + name;
-    const bool belowTop = !trash.top.isEmpty() && file.startsWith(trash.top);
-    return moveWithOrigin(trash, file, belowTop ? file.sliced(trash.top.size()) : file);
+    const QByteArray file = joined(directory, name);
+    return moveWithOrigin(trash, file, file.sliced(trash.top.size()));
 }
 
 } // namespace host

@@ -134,7 +134,7 @@ int failureOf(const std::function<void()> &operation)
     return 0;
 }
 
-int inChild(const std::function<int()> &operation)
+pid_t startChild(const std::function<int()> &operation)
 {
     const pid_t child = fork();
     if (child == 0) {
@@ -146,9 +146,19 @@ int inChild(const std::function<int()> &operation)
         }
         _exit(result);
     }
+    return child;
+}
+
+int endOf(pid_t child)
+{
     int status = 0;
     EXPECT_EQ(waitpid(child, &status, 0), child);
     return WIFEXITED(status) ? WEXITSTATUS(status) : EndedBySignal;
+}
+
+int inChild(const std::function<int()> &operation)
+{
+    return endOf(startChild(operation));
 }
 
 int inChildOfOrdinaryUser(const std::function<int()> &operation)

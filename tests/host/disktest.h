@@ -54,7 +54,12 @@ private:
 // The number of the failure that the operation ends with; 0 if it ends without one.
 int failureOf(const std::function<void()> &operation);
 
-// Runs it in a process of its own and yields what it returns, or 255 after a failure, 254 after a signal.
+// Starts it in a process of its own; endOf waits for that and yields what it returned, or 255 after a
+// failure, 254 after a signal.
+pid_t startChild(const std::function<int()> &operation);
+int endOf(pid_t child);
+
+// Both in one.
 int inChild(const std::function<int()> &operation);
 
 // As inChild, as a user whom permissions bind.

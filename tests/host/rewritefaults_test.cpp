@@ -1,31 +1,23 @@
-// A rewrite that goes wrong at every single step, and two at once.
+// A rewrite that goes wrong: on the disk, by its rights, and by what others do meanwhile.
 #include "disktest.h"
 #include "systemcalls.h"
 
 #include "host/numberedfiles.h"
-
-#include <QFile>
+#include "host/replacement.h"
 
 #include <cerrno>
 #include <csignal>
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using host::NumberedFiles;
-using systemcalls::Fault;
-using systemcalls::FaultAt;
-using testing::AnyOf;
 using testing::ElementsAre;
 
 namespace {
-
-// Far above the calls that one rewrite makes.
-constexpr int ManyCalls = 200;
 
 QString changed(const QString &text)
 {
@@ -38,107 +30,11 @@ protected:
 
     void rewrite() const { NumberedFiles().rewrite(path(u"Zembro.cfg"_s), u"Zembro.tmp"_s, changed); }
 
-    // Fails one call after the other with this error, until a rewrite comes through without reaching the
-    // fault.
-    void failAtEachCall(int error);
-
     const QByteArray Old = "old line\r\n";
     const QByteArray New = "old line\r\nnew line\r\n";
 };
 
-void RewriteFaults::failAtEachCall(int error)
-{
-    for (int index = 0; index < ManyCalls; ++index) {
-        makeFile("Zembro.cfg", Old);
-        bool happened = false;
-        int failure = 0;
-        {
-            const FaultAt fault(index, Fault::Fail, error);
-            failure = failureOf([this] { rewrite(); });
-            happened = fault.happened();
-        }
-        EXPECT_EQ(bytes("Zembro.cfg"), failure == 0 ? New : Old) << "call " << index;
-        EXPECT_THAT(names(), ElementsAre("Zembro.cfg")) << "call " << index;
-        if (!happened) {
-            EXPECT_EQ(failure, 0);
-            EXPECT_GT(index, 10) << "the calls aren't watched";
-            return;
-        }
-    }
-    FAIL() << "the rewrite never came to its end";
-}
-
-// Adds one to the number in the file, so and so often.
-int countUp(const QString &path, int times)
-{
-    for (int i = 0; i < times; ++i)
-        NumberedFiles().rewrite(
-            path, u"Zembro.tmp"_s, [](const QString &text) { return QString::number(text.toInt() + 1); });
-    return 0;
-}
-
-pid_t startChild(const std::function<int()> &operation)
-{
-    const pid_t child = fork();
-    if (child == 0) {
-        int status = 1;
-        try {
-            status = operation();
-        } catch (const std::exception &failure) {
-            fprintf(stderr, "%s\n", failure.what());
-        }
-        _exit(status);
-    }
-    return child;
-}
-
-int endOf(pid_t child)
-{
-    int status = -1;
-    waitpid(child, &status, 0);
-    return status;
-}
-
-// True as soon as the kernel lists this process as waiting for a lock; false if it ends instead.
-bool comesToWaitForALock(pid_t child)
-{
-    const QByteArray waiting = " " + QByteArray::number(child) + " ";
-    siginfo_t end {};
-    while (waitid(P_PID, id_t(child), &end, WEXITED | WNOHANG | WNOWAIT) == 0 && end.si_pid == 0) {
-        QFile locks(u"/proc/locks"_s);
-        EXPECT_TRUE(locks.open(QIODevice::ReadOnly));
-        for (const QByteArray &line : locks.readAll().split('\n')) {
-            if (line.contains("->") && line.contains(waiting))
-                return true;
-        }
-        usleep(1000);
-    }
-    return false;
-}
-
 } // namespace
-
-TEST_F(RewriteFaults, OldFileStandsWhole_WhenAnyCallFindsTheDiskFull)
-{
-    failAtEachCall(ENOSPC);
-}
-
-TEST_F(RewriteFaults, OldFileStandsWhole_WhenAnyCallIsRefused)
-{
-    failAtEachCall(EACCES);
-}
-
-TEST_F(RewriteFaults, OldFileStandsWhole_WhenTheDeviceFailsAtAnyCall)
-{
-    failAtEachCall(EIO);
-}
-
-TEST_F(RewriteFaults, NewFileStandsWhole_WhenTheWritingIsInterrupted)
-{
-    const systemcalls::FaultOf interruptions("write", EINTR, 2);
-    rewrite();
-    EXPECT_EQ(bytes("Zembro.cfg"), New);
-}
 
 TEST_F(RewriteFaults, NewFileStandsWhole_WhenTheSystemTakesFewBytesAtOnce)
 {
@@ -151,40 +47,16 @@ TEST_F(RewriteFaults, NewFileStandsWhole_WhenTheSystemTakesFewBytesAtOnce)
     EXPECT_EQ(bytes("Zembro.cfg"), New);
 }
 
-TEST_F(RewriteFaults, OldOrNewFileStandsWhole_WhenTheProcessIsKilledAtAnyCall)
+TEST_F(RewriteFaults, NewFileStandsWhole_WhenAnyOfItsCallsIsInterrupted)
 {
-    int status = systemcalls::EndStatus;
-    int index = 0;
-    for (; status == systemcalls::EndStatus && index < ManyCalls; ++index) {
+    for (const char *call : { "open", "openat", "fstat", "fstatat", "read", "faccessat", "unlinkat", "write",
+             "fchown", "fchmod", "fsync", "renameat", "flock" }) {
         makeFile("Zembro.cfg", Old);
-        status = inChild([this, index] {
-            const FaultAt fault(index, Fault::End);
-            rewrite();
-            return 0;
-        });
-        EXPECT_THAT(bytes("Zembro.cfg"), AnyOf(Old, New)) << "call " << index;
+        const systemcalls::FaultOf interruptions(call, EINTR, 2);
+        EXPECT_EQ(failureOf([this] { rewrite(); }), 0) << call;
+        EXPECT_EQ(bytes("Zembro.cfg"), New) << call;
+        EXPECT_THAT(names(), ElementsAre("Zembro.cfg")) << call;
     }
-    EXPECT_EQ(status, 0);
-    EXPECT_GT(index, 10) << "the calls aren't watched";
-}
-
-TEST_F(RewriteFaults, NextRewriteComesThrough_WhenTheLastOneWasKilledAtAnyCall)
-{
-    for (int index = 0; index < ManyCalls; ++index) {
-        makeFile("Zembro.cfg", Old);
-        const int status = inChild([this, index] {
-            const FaultAt fault(index, Fault::End);
-            rewrite();
-            return 0;
-        });
-        makeFile("Zembro.cfg", Old);
-        rewrite();
-        EXPECT_EQ(bytes("Zembro.cfg"), New) << "call " << index;
-        EXPECT_THAT(names(), ElementsAre("Zembro.cfg")) << "call " << index;
-        if (status == 0)
-            return;
-    }
-    FAIL() << "the rewrite never came to its end";
 }
 
 TEST_F(RewriteFaults, OldFileStands_WhenTheNewOneDoesNotReachTheDisk)
@@ -203,6 +75,107 @@ TEST_F(RewriteFaults, NothingIsWrittenThroughALink_ThatComesUnderTheScratchNameA
     EXPECT_EQ(failureOf([this] { rewrite(); }), host::PathAccess);
     EXPECT_EQ(bytes("precious"), "precious");
     EXPECT_EQ(bytes("Zembro.cfg"), Old);
+}
+
+TEST_F(RewriteFaults, ScratchFileThatAnotherProgramMadeIsNeitherPutInPlaceNorRemoved)
+{
+    QString words;
+    try {
+        host::Replacement replacement(path(u"Zembro.cfg"_s), u"Zembro.tmp"_s);
+        replacement.read();
+        replacement.write(New);
+        makeFile("another's", "the text of another file");
+        ASSERT_EQ(rename(place("another's").constData(), place("Zembro.tmp").constData()), 0);
+        replacement.commit();
+    } catch (const host::Failure &failure) {
+        words = QString::fromUtf8(failure.what());
+    }
+    EXPECT_EQ(words,
+        u"failure 75: rewrite a file, as another program has taken the scratch file meanwhile: "_s
+            + path(u"Zembro.cfg"_s));
+    EXPECT_EQ(bytes("Zembro.cfg"), Old);
+    EXPECT_EQ(bytes("Zembro.tmp"), "the text of another file");
+}
+
+TEST_F(RewriteFaults, OldFileStands_WhereTheScratchFileIsGone)
+{
+    const auto rewriteWithoutScratch = [this] {
+        host::Replacement replacement(path(u"Zembro.cfg"_s), u"Zembro.tmp"_s);
+        replacement.read();
+        replacement.write(New);
+        ASSERT_EQ(unlink(place("Zembro.tmp").constData()), 0);
+        replacement.commit();
+    };
+    EXPECT_EQ(failureOf(rewriteWithoutScratch), host::PathAccess);
+    EXPECT_EQ(bytes("Zembro.cfg"), Old);
+    EXPECT_THAT(names(), ElementsAre("Zembro.cfg"));
+}
+
+TEST_F(RewriteFaults, ChangeThatAnotherProgramMakesMeanwhileIsNotLost)
+{
+    const auto rewriteAfter = [this](const std::function<void()> &another) {
+        NumberedFiles().rewrite(path(u"Zembro.cfg"_s), u"Zembro.tmp"_s, [&another](const QString &text) {
+            another();
+            return changed(text);
+        });
+    };
+    for (const QByteArray &another : { QByteArray("another text"), QByteArray("OLD LINE\r\n") }) {
+        makeFile("Zembro.cfg", Old);
+        usleep(20000); // the file system's clock ticks coarsely
+        EXPECT_EQ(
+            failureOf([&] { rewriteAfter([&] { makeFile("Zembro.cfg", another); }); }), host::PathAccess);
+        EXPECT_EQ(bytes("Zembro.cfg"), another);
+        makeFile("Zembro.cfg", Old);
+        makeFile("beside", another);
+        EXPECT_EQ(failureOf([&] {
+            rewriteAfter([this] { rename(place("beside").constData(), place("Zembro.cfg").constData()); });
+        }),
+            host::PathAccess);
+        EXPECT_EQ(bytes("Zembro.cfg"), another);
+    }
+    EXPECT_THAT(names(), ElementsAre("Zembro.cfg"));
+}
+
+TEST_F(RewriteFaults, ChangeOfTheLengthIsSeen_WhereTheTimeHasBeenSetBack)
+{
+    struct stat before { };
+    ASSERT_EQ(stat(place("Zembro.cfg").constData(), &before), 0);
+    const auto another = [&](const QString &text) {
+        makeFile("Zembro.cfg", "longer than the old line");
+        const timespec times[] = { before.st_atim, before.st_mtim };
+        EXPECT_EQ(utimensat(AT_FDCWD, place("Zembro.cfg").constData(), times, 0), 0);
+        return changed(text);
+    };
+    EXPECT_EQ(failureOf([&] { NumberedFiles().rewrite(path(u"Zembro.cfg"_s), u"Zembro.tmp"_s, another); }),
+        host::PathAccess);
+    EXPECT_EQ(bytes("Zembro.cfg"), "longer than the old line");
+}
+
+TEST_F(RewriteFaults, FileThatAnotherProgramRemovesMeanwhileDoesNotComeBack)
+{
+    const auto rewriteTheGone = [this] {
+        host::Replacement replacement(path(u"Zembro.cfg"_s), u"Zembro.tmp"_s);
+        replacement.read();
+        replacement.write(New);
+        ASSERT_EQ(unlink(place("Zembro.cfg").constData()), 0);
+        replacement.commit();
+    };
+    EXPECT_EQ(failureOf(rewriteTheGone), host::PathAccess);
+    EXPECT_THAT(names(), ElementsAre());
+}
+
+TEST_F(RewriteFaults, FileThatAnotherProgramMakesMeanwhileIsNotReplaced)
+{
+    const auto make = [this] {
+        host::Replacement replacement(path(u"new"_s), u"Zembro.tmp"_s);
+        EXPECT_FALSE(replacement.read());
+        replacement.write(New);
+        makeFile("new", "another's");
+        replacement.commit();
+    };
+    EXPECT_EQ(failureOf(make), host::PathAccess);
+    EXPECT_EQ(bytes("new"), "another's");
+    EXPECT_THAT(names(), ElementsAre("Zembro.cfg", "new"));
 }
 
 TEST_F(RewriteFaults, FailureNamesTheFileAndIsOfAFullDisk_WhenTheNewFileDoesNotFit)
@@ -245,6 +218,22 @@ TEST_F(RewriteFaults, ScratchFileCannotBeMade_WhereTheUserMayWriteTheFileButNotT
     EXPECT_EQ(bytes("Zembro.cfg"), Old);
 }
 
+TEST_F(RewriteFaults, FailureSaysThatWritingIsNotAllowedThere_AndOnlyThen)
+{
+    const auto wordsOf = [this](const char *call, int error) {
+        const systemcalls::FaultOf fault(call, error);
+        try {
+            rewrite();
+        } catch (const host::Failure &failure) {
+            return failure.operation().section(u" ("_s, 0, 0);
+        }
+        return QString();
+    };
+    for (const int error : { EACCES, EPERM, EROFS })
+        EXPECT_EQ(wordsOf("unlinkat", error), u"write beside a file, where writing isn't allowed"_s) << error;
+    EXPECT_EQ(wordsOf("unlinkat", EIO), u"remove a left-over scratch file"_s);
+}
+
 TEST_F(RewriteFaults, RewriteFails_OfAFileThatOthersMayWriteButNotTheUser)
 {
     if (geteuid() != 0)
@@ -261,59 +250,6 @@ TEST_F(RewriteFaults, RewriteFails_OfAFileThatItsOwnerMayNotWrite)
     setMode("Zembro.cfg", 0444);
     EXPECT_EQ(failureOf([this] { rewrite(); }), host::PathAccess);
     EXPECT_EQ(bytes("Zembro.cfg"), Old);
-}
-
-TEST_F(RewriteFaults, FileIsRewritten_WhereTheFileSystemCannotLockADirectory)
-{
-    const systemcalls::FaultOf locking("flock", EBADF);
-    rewrite();
-    EXPECT_EQ(bytes("Zembro.cfg"), New);
-}
-
-TEST_F(RewriteFaults, LockIsWaitedForAgain_WhenASignalInterruptsTheWaiting)
-{
-    const int directory = open(place().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    ASSERT_EQ(flock(directory, LOCK_EX), 0);
-    const pid_t child = startChild([this, directory] {
-        close(directory);
-        const systemcalls::FaultOf interruptions("flock", EINTR, 3);
-        rewrite();
-        return 0;
-    });
-    EXPECT_TRUE(comesToWaitForALock(child));
-    close(directory);
-    EXPECT_EQ(endOf(child), 0);
-    EXPECT_EQ(bytes("Zembro.cfg"), New);
-}
-
-TEST_F(RewriteFaults, NoChangeIsLost_WhenProcessesRewriteAtOnce)
-{
-    makeFile("count", "0");
-    QList<pid_t> children;
-    for (int i = 0; i < 4; ++i)
-        children.append(startChild([this] { return countUp(path(u"count"_s), 15); }));
-    for (const pid_t child : children)
-        EXPECT_EQ(endOf(child), 0);
-    EXPECT_EQ(bytes("count"), "60");
-    EXPECT_THAT(names(), ElementsAre("Zembro.cfg", "count"));
-}
-
-TEST_F(RewriteFaults, SecondProcessWaits_UntilTheDirectoryIsUnlocked)
-{
-    makeFile("Zembro.tmp", "half of another's work");
-    const int directory = open(place().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    ASSERT_EQ(flock(directory, LOCK_EX), 0);
-    const pid_t child = startChild([this, directory] {
-        close(directory);
-        rewrite();
-        return 0;
-    });
-    EXPECT_TRUE(comesToWaitForALock(child));
-    EXPECT_EQ(bytes("Zembro.cfg"), Old);
-    EXPECT_EQ(bytes("Zembro.tmp"), "half of another's work");
-    close(directory);
-    EXPECT_EQ(endOf(child), 0);
-    EXPECT_EQ(bytes("Zembro.cfg"), New);
 }
 
 class RewriteOfAnothersFile : public RewriteFaults {

@@ -4,23 +4,21 @@
 #include <cerrno>
 #include <cstdarg>
 #include <cstring>
+#include <type_traits>
 
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
+#include <time.h>
 #include <unistd.h>
 
 namespace {
 
-using systemcalls::Fault;
-
 struct Plan {
-    int faultAt = -1;
-    Fault fault = Fault::Fail;
-    int error = 0;
-    int calls = 0;
     const char *failing = nullptr;
+    int error = 0;
     int times = 0;
 };
 
@@ -29,6 +27,18 @@ std::size_t mostWritten = std::numeric_limits<std::size_t>::max();
 
 long tickOfChanges = 0;
 int looksAtPaths = 0;
+
+bool pausesAreQuick = false;
+timespec pausedFor {};
+int toldOfPauses = -1;
+
+constexpr long NanosecondsPerSecond = 1'000'000'000;
+
+void add(timespec &time, const timespec &more)
+{
+    time.tv_sec += more.tv_sec + (time.tv_nsec + more.tv_nsec) / NanosecondsPerSecond;
+    time.tv_nsec = (time.tv_nsec + more.tv_nsec) % NanosecondsPerSecond;
+}
 
 int withTicks(int result, struct stat *status)
 {
@@ -44,26 +54,19 @@ template <typename Function> Function *next(const char *name)
     return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
 }
 
-// True if this call is to fail, with errno set. If the process is to end here, `lastAct` is done before.
-template <typename Act> bool goesWrong(const char *name, Act lastAct)
+// True if this call is to fail, with errno set.
+bool goesWrong(const char *name)
 {
-    if (plan.failing) {
-        errno = plan.error;
-        return std::strcmp(plan.failing, name) == 0 && plan.times-- > 0;
-    }
-    if (plan.faultAt < 0 || plan.calls++ != plan.faultAt)
+    if (!plan.failing || std::strcmp(plan.failing, name) != 0 || plan.times-- <= 0)
         return false;
-    if (plan.fault == Fault::End) {
-        lastAct();
-        _exit(systemcalls::EndStatus);
-    }
     errno = plan.error;
     return true;
 }
 
-template <typename Function, typename... Arguments> int passed(const char *name, Arguments... arguments)
+template <typename Function, typename... Arguments> auto passed(const char *name, Arguments... arguments)
 {
-    return goesWrong(name, [] {}) ? -1 : next<Function>(name)(arguments...);
+    using Result = std::invoke_result_t<Function, Arguments...>;
+    return goesWrong(name) ? Result(-1) : next<Function>(name)(arguments...);
 }
 
 mode_t modeOf(int flags, va_list list)
@@ -115,6 +118,11 @@ int lstat(const char *path, struct stat *status) noexcept
     return next<int(const char *, struct stat *)>("lstat")(path, status);
 }
 
+int fstatat(int directory, const char *path, struct stat *status, int flags) noexcept
+{
+    return passed<int(int, const char *, struct stat *, int)>("fstatat", directory, path, status, flags);
+}
+
 int unlinkat(int directory, const char *path, int flags) noexcept
 {
     return passed<int(int, const char *, int)>("unlinkat", directory, path, flags);
@@ -135,6 +143,27 @@ int fchmod(int file, mode_t mode) noexcept
     return passed<int(int, mode_t)>("fchmod", file, mode);
 }
 
+ssize_t flistxattr(int file, char *names, std::size_t size) noexcept
+{
+    return passed<ssize_t(int, char *, std::size_t)>("flistxattr", file, names, size);
+}
+
+ssize_t fgetxattr(int file, const char *name, void *value, std::size_t size) noexcept
+{
+    return passed<ssize_t(int, const char *, void *, std::size_t)>("fgetxattr", file, name, value, size);
+}
+
+int fsetxattr(int file, const char *name, const void *value, std::size_t size, int flags) noexcept
+{
+    return passed<int(int, const char *, const void *, std::size_t, int)>(
+        "fsetxattr", file, name, value, size, flags);
+}
+
+int fremovexattr(int file, const char *name) noexcept
+{
+    return passed<int(int, const char *)>("fremovexattr", file, name);
+}
+
 int fsync(int file)
 {
     return passed<int(int)>("fsync", file);
@@ -148,45 +177,40 @@ int renameat(int oldDirectory, const char *oldPath, int newDirectory, const char
 
 ssize_t read(int file, void *buffer, std::size_t size)
 {
-    return goesWrong("read", [] {}) ? -1
-                                    : next<ssize_t(int, void *, std::size_t)>("read")(file, buffer, size);
+    return passed<ssize_t(int, void *, std::size_t)>("read", file, buffer, size);
 }
 
 ssize_t write(int file, const void *buffer, std::size_t size)
 {
-    auto *const real = next<ssize_t(int, const void *, std::size_t)>("write");
-    const auto writeHalf = [&] { real(file, buffer, size / 2); };
-    return goesWrong("write", writeHalf) ? -1 : real(file, buffer, std::min(size, mostWritten));
+    return passed<ssize_t(int, const void *, std::size_t)>(
+        "write", file, buffer, std::min(size, mostWritten));
+}
+
+int nanosleep(const timespec *time, timespec *rest)
+{
+    if (toldOfPauses >= 0 && write(toldOfPauses, "", 1) != 1)
+        return -1;
+    if (!pausesAreQuick)
+        return next<int(const timespec *, timespec *)>("nanosleep")(time, rest);
+    add(pausedFor, *time);
+    return 0;
+}
+
+int clock_gettime(clockid_t clock, timespec *time) noexcept
+{
+    const int result = next<int(clockid_t, timespec *)>("clock_gettime")(clock, time);
+    if (result == 0 && pausesAreQuick)
+        add(*time, pausedFor);
+    return result;
 }
 
 } // extern "C"
 
 namespace systemcalls {
 
-FaultAt::FaultAt(int index, Fault fault, int error)
-{
-    plan = {};
-    plan.faultAt = index;
-    plan.fault = fault;
-    plan.error = error;
-}
-
-FaultAt::~FaultAt()
-{
-    plan = {};
-}
-
-bool FaultAt::happened() const
-{
-    return plan.calls > plan.faultAt;
-}
-
 FaultOf::FaultOf(const char *name, int error, int times)
 {
-    plan = {};
-    plan.failing = name;
-    plan.error = error;
-    plan.times = times;
+    plan = { name, error, times };
 }
 
 FaultOf::~FaultOf()
@@ -207,6 +231,27 @@ CoarseClock::~CoarseClock()
 int looks()
 {
     return looksAtPaths;
+}
+
+QuickTime::QuickTime()
+{
+    pausedFor = {};
+    pausesAreQuick = true;
+}
+
+QuickTime::~QuickTime()
+{
+    pausesAreQuick = false;
+}
+
+double QuickTime::seconds() const
+{
+    return double(pausedFor.tv_sec) + double(pausedFor.tv_nsec) / NanosecondsPerSecond;
+}
+
+void tellOfPauses(int descriptor)
+{
+    toldOfPauses = descriptor;
 }
 
 void setMostWritten(std::size_t bytes)

@@ -7,25 +7,6 @@
 
 namespace systemcalls {
 
-enum class Fault {
-    Fail, // the call does nothing and fails with the given error
-    End, // the process ends in the place of the call; a write has written half by then
-};
-
-// The status with which Fault::End ends a process.
-constexpr int EndStatus = 77;
-
-// While it lives, the call with this index (from 0, of all the calls watched) goes wrong. One at a time.
-class FaultAt {
-public:
-    FaultAt(int index, Fault fault, int error = 0);
-    ~FaultAt();
-    FaultAt(const FaultAt &) = delete;
-    FaultAt &operator=(const FaultAt &) = delete;
-
-    bool happened() const;
-};
-
 // While it lives, the calls of this name fail with this error, the first few or all of them. One at a time.
 class FaultOf {
 public:
@@ -49,6 +30,20 @@ public:
 
 // How many looks at a path, by stat or lstat, there have been so far.
 int looks();
+
+// While it lives, pausing takes no time, but time has passed behind it. One at a time.
+class QuickTime {
+public:
+    QuickTime();
+    ~QuickTime();
+    QuickTime(const QuickTime &) = delete;
+    QuickTime &operator=(const QuickTime &) = delete;
+
+    double seconds() const; // that have passed in pauses
+};
+
+// From now on each pause writes a byte to this descriptor as it begins.
+void tellOfPauses(int descriptor);
 
 // From now on a write takes no more than this many bytes at once.
 void setMostWritten(std::size_t bytes);

@@ -1,4 +1,4 @@
-// The trash of the home's volume, and of another volume where the machine has one.
+// The trash of the home's volume and of others, which the tests mount where they may.
 #include "tests/host/disktest.h"
 
 #include "host/encoding.h"
@@ -6,9 +6,11 @@
 
 #include <QDir>
 #include <QFile>
-#include <QStorageInfo>
-#include <QTemporaryDir>
 
+#include <algorithm>
+
+#include <sched.h>
+#include <sys/mount.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -30,8 +32,64 @@ protected:
         qunsetenv("XDG_DATA_HOME");
     }
 
+    // Runs it in a process of its own, in which each of these directories is a volume. 0 if it returns true;
+    // Skipped where this user can't mount anything.
+    int onVolumes(const QList<QByteArray> &directories, const std::function<bool()> &operation) const
+    {
+        return inChild([&] {
+            if (!mountOwnVolumes(directories))
+                return Skipped;
+            return operation() ? 0 : 1;
+        });
+    }
+    static constexpr int Skipped = 100;
+
 private:
+    bool mountOwnVolumes(const QList<QByteArray> &directories) const
+    {
+        return mayMount() && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0
+            && std::ranges::all_of(directories, [this](const QByteArray &directory) {
+                   return mount("none", place(directory).constData(), "tmpfs", 0, nullptr) == 0;
+               });
+    }
+    // An ordinary user may in a namespace where they are alone.
+    static bool mayMount()
+    {
+        const QByteArray user = QByteArray::number(getuid());
+        const QByteArray group = QByteArray::number(getgid());
+        if (user == "0")
+            return unshare(CLONE_NEWNS) == 0;
+        return unshare(CLONE_NEWNS | CLONE_NEWUSER) == 0 && tell("setgroups", "deny")
+            && tell("uid_map", user + ' ' + user + " 1") && tell("gid_map", group + ' ' + group + " 1");
+    }
+    static bool tell(const char *file, const QByteArray &text)
+    {
+        QFile own(u"/proc/self/"_s + QLatin1StringView(file));
+        return own.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && own.write(text) == text.size();
+    }
+
     const QByteArray m_home = qgetenv("HOME");
+};
+
+class TrashOfVolumes : public TrashTest {
+protected:
+    TrashOfVolumes() { makeDirectory("disk"); }
+
+    void expectOn(const QList<QByteArray> &volumes, const std::function<bool()> &operation) const
+    {
+        const int status = onVolumes(volumes, operation);
+        if (status == Skipped)
+            GTEST_SKIP() << "nothing can be mounted here";
+        EXPECT_EQ(status, 0);
+    }
+    bool move(const QString &name) const { return host::moveToTrash(path(name)); }
+    bool hasOrigin(const QByteArray &trash, const QByteArray &name, const QByteArray &origin) const
+    {
+        const auto info = bytes(trash + "/info/" + name + ".trashinfo");
+        return info && info->startsWith("[Trash Info]\nPath=" + origin + '\n');
+    }
+
+    const QByteArray User = QByteArray::number(getuid());
 };
 
 } // namespace
@@ -162,21 +220,92 @@ TEST_F(TrashTest, FileStaysWhereTheTrashCannotBeMade)
     EXPECT_EQ(bytes("games/a.bin"), "A");
 }
 
+TEST_F(TrashTest, FileGoesThroughALinkOfTheUsersOwnToo)
+{
+    for (const QByteArray &part :
+        { QByteArray(), QByteArray("/Trash"), QByteArray("/Trash/files"), QByteArray("/Trash/info") }) {
+        QDir(path(u"home/data"_s)).removeRecursively();
+        QDir(path(u"elsewhere"_s)).removeRecursively();
+        unlink(place("home/data").constData());
+        makeDirectory("elsewhere");
+        if (!part.isEmpty())
+            makeDirectory("home/data");
+        if (part.size() > 6)
+            makeDirectory("home/data/Trash");
+        makeLink(place("elsewhere"), "home/data" + part);
+        makeFile("games/a.bin", "A");
+        EXPECT_TRUE(host::moveToTrash(path(u"games/a.bin"_s))) << part.toStdString();
+        EXPECT_FALSE(exists("games/a.bin"));
+        EXPECT_EQ(bytes("home/data/Trash/files/a.bin"), "A");
+        EXPECT_TRUE(exists("home/data/Trash/info/a.bin.trashinfo"));
+        EXPECT_FALSE(QDir(path(u"elsewhere"_s)).isEmpty());
+    }
+}
+
 TEST_F(TrashTest, FileStaysWhereATrashDirectoryIsAStrangeThing)
 {
     makeFile("games/a.bin", "A");
-    makeDirectory("elsewhere");
+    makeFile("a file");
     for (const QByteArray &part :
         { QByteArray("Trash"), QByteArray("Trash/files"), QByteArray("Trash/info") }) {
-        QDir(path(u"home/data"_s)).removeRecursively();
-        ASSERT_TRUE(QDir().mkpath(path(u"home/data"_s)));
-        if (part != "Trash")
-            makeDirectory("home/data/Trash");
-        makeLink(place("elsewhere"), "home/data/" + part);
-        EXPECT_FALSE(host::moveToTrash(path(u"games/a.bin"_s))) << part.toStdString();
-        EXPECT_EQ(bytes("games/a.bin"), "A");
+        for (const QByteArray &target : { place("a file"), place("nowhere") }) {
+            QDir(path(u"home/data"_s)).removeRecursively();
+            ASSERT_TRUE(QDir().mkpath(path(u"home/data"_s)));
+            if (part != "Trash")
+                makeDirectory("home/data/Trash");
+            makeLink(target, "home/data/" + part);
+            EXPECT_FALSE(host::moveToTrash(path(u"games/a.bin"_s))) << (part + ' ' + target).toStdString();
+            EXPECT_EQ(bytes("games/a.bin"), "A");
+        }
     }
+}
+
+TEST_F(TrashTest, FileStaysWhereATrashDirectoryIsAnotherUsers)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only the administrator can give a directory away";
+    makeFile("games/a.bin", "A");
+    makeDirectory("home/data");
+    makeDirectory("elsewhere");
+    makeLink(place("elsewhere"), "home/data/Trash");
+    constexpr uid_t Another = 12345;
+    ASSERT_EQ(lchown(place("home/data/Trash").constData(), Another, Another), 0);
+    EXPECT_FALSE(host::moveToTrash(path(u"games/a.bin"_s))) << "another's link";
+    ASSERT_EQ(lchown(place("home/data/Trash").constData(), 0, 0), 0);
+    ASSERT_EQ(chown(place("elsewhere").constData(), Another, Another), 0);
+    EXPECT_FALSE(host::moveToTrash(path(u"games/a.bin"_s))) << "a link to another's";
+    EXPECT_EQ(bytes("games/a.bin"), "A");
     EXPECT_TRUE(QDir(path(u"elsewhere"_s)).isEmpty());
+}
+
+TEST_F(TrashTest, FileIsNamedByWhereItReallyLies)
+{
+    makeDirectory("games/in");
+    makeFile("games/in/a.bin", "A");
+    makeLink("games/in", "link");
+    EXPECT_TRUE(host::moveToTrash(path(u"link/a.bin"_s)));
+    const auto info = bytes("home/data/Trash/info/a.bin.trashinfo");
+    ASSERT_TRUE(info);
+    EXPECT_TRUE(info->contains("\nPath=" + place("games/in/a.bin") + '\n')) << info->toStdString();
+}
+
+TEST_F(TrashTest, AnswersWhereTheDirectoryCannotBeLookedAt)
+{
+    makeFile("games/a.bin", "A");
+    setMode("games", 0444);
+    const int moved = inChildOfOrdinaryUser(
+        [&] { return failureOf([&] { EXPECT_FALSE(host::moveToTrash(path(u"games/a.bin"_s))); }); });
+    setMode("games", 0755);
+    EXPECT_EQ(moved, 0);
+    EXPECT_EQ(bytes("games/a.bin"), "A");
+    // A directory that has been removed under the program's feet.
+    const int inTheGone = inChild([&] {
+        makeDirectory("gone");
+        if (chdir(place("gone").constData()) != 0 || rmdir(place("gone").constData()) != 0)
+            return 1;
+        return host::moveToTrash(u"./a.bin"_s) ? 1 : 0;
+    });
+    EXPECT_EQ(inTheGone, 0);
 }
 
 TEST_F(TrashTest, FileThatMayNotBeTakenOutOfItsDirectoryStays)
@@ -192,28 +321,94 @@ TEST_F(TrashTest, FileThatMayNotBeTakenOutOfItsDirectoryStays)
     EXPECT_TRUE(QDir(path(u"home/data/Trash/info"_s)).isEmpty());
 }
 
-// Needs a second volume that this user may write to at its root: /dev/shm is one on most machines.
-TEST_F(TrashTest, OtherVolumeHasATrashOfItsOwn)
+TEST_F(TrashOfVolumes, FileGoesToTheTrashOfItsOwnVolume)
 {
-    const QStorageInfo shared(u"/dev/shm"_s);
-    if (!shared.isValid() || shared == QStorageInfo(QDir::homePath()) || access("/dev/shm", W_OK) != 0)
-        GTEST_SKIP() << "there is no second volume here";
-    QTemporaryDir games(u"/dev/shm/zembrolix-XXXXXX"_s);
-    const QString trash = shared.rootPath() + u"/.Trash-"_s + QString::number(getuid());
-    const bool wasThere = QFile::exists(trash);
-    const QString name = QFileInfo(games.path()).fileName() + u".bin"_s;
-    const QString file = games.filePath(name);
-    ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
+    expectOn({ "disk" }, [this] {
+        makeDirectory("disk/games");
+        makeFile("disk/games/a.bin", "A");
+        makeFile("disk/b.bin", "B");
+        const QByteArray trash = "disk/.Trash-" + User;
+        return move(u"disk/games/a.bin"_s) && move(u"disk/b.bin"_s) && !exists("disk/games/a.bin")
+            && bytes(trash + "/files/a.bin") == "A" && hasOrigin(trash, "a.bin", "games/a.bin")
+            && bytes(trash + "/files/b.bin") == "B" && hasOrigin(trash, "b.bin", "b.bin")
+            && mode(trash) == 0700 && !exists("home/data");
+    });
+}
 
-    EXPECT_TRUE(host::moveToTrash(file));
-    EXPECT_FALSE(QFile::exists(file));
-    EXPECT_TRUE(QFile::remove(trash + u"/files/"_s + name));
-    QFile info(trash + u"/info/"_s + name + u".trashinfo"_s);
-    ASSERT_TRUE(info.open(QIODevice::ReadOnly));
-    const QString origin = shared.rootPath() == u"/dev/shm" ? file.sliced(9) : file;
-    EXPECT_TRUE(info.readAll().contains("\nPath=" + origin.toUtf8() + '\n'));
-    EXPECT_TRUE(info.remove());
-    EXPECT_FALSE(exists("home/data"));
-    if (!wasThere)
-        QDir(trash).removeRecursively();
+TEST_F(TrashOfVolumes, FileOfTheHomesVolumeGoesToTheTrashAtHome)
+{
+    expectOn({ "home", "disk" }, [this] {
+        makeFile("home/a.bin", "A");
+        return move(u"home/a.bin"_s) && bytes("home/data/Trash/files/a.bin") == "A"
+            && hasOrigin("home/data/Trash", "a.bin", place("home/a.bin")) && !exists("home/.Trash-" + User);
+    });
+}
+
+TEST_F(TrashOfVolumes, TrashAtHomeOnAnotherVolumeIsThatVolumes)
+{
+    expectOn({ "disk" }, [this] {
+        makeDirectory("home/data");
+        makeDirectory("disk/Trash");
+        makeFile("disk/a.bin", "A");
+        makeLink(place("disk/Trash"), "home/data/Trash");
+        return move(u"disk/a.bin"_s) && bytes("disk/Trash/files/a.bin") == "A"
+            && hasOrigin("home/data/Trash", "a.bin", place("disk/a.bin"));
+    });
+}
+
+TEST_F(TrashOfVolumes, FileBehindALinkIsNamedFromTheTopOfItsVolume)
+{
+    expectOn({ "disk" }, [this] {
+        makeDirectory("disk/games");
+        makeFile("disk/games/a.bin", "A");
+        makeLink(place("disk/games"), "home/link");
+        return move(u"home/link/a.bin"_s) && hasOrigin("disk/.Trash-" + User, "a.bin", "games/a.bin");
+    });
+}
+
+TEST_F(TrashOfVolumes, VolumeWithinAnotherHasItsOwn)
+{
+    expectOn({ "disk" }, [this] {
+        makeDirectory("disk/inner");
+        if (mount("none", place("disk/inner").constData(), "tmpfs", 0, nullptr) != 0)
+            return false;
+        makeFile("disk/inner/a.bin", "A");
+        return move(u"disk/inner/a.bin"_s) && exists("disk/inner/.Trash-" + User + "/files/a.bin")
+            && !exists("disk/.Trash-" + User) && !move(u"disk/inner"_s) && exists("disk/inner");
+    });
+}
+
+// The administrator of the volume has made it for all.
+TEST_F(TrashOfVolumes, SharedTrashIsTakenOnlyWithItsStickyBit)
+{
+    expectOn({ "disk" }, [this] {
+        makeDirectory("disk/.Trash");
+        setMode("disk/.Trash", 01777);
+        makeFile("disk/a.bin", "A");
+        const bool taken = move(u"disk/a.bin"_s) && exists("disk/.Trash/" + User + "/files/a.bin")
+            && hasOrigin("disk/.Trash/" + User, "a.bin", "a.bin");
+        setMode("disk/.Trash", 0777);
+        makeFile("disk/b.bin", "B");
+        return taken && move(u"disk/b.bin"_s) && exists("disk/.Trash-" + User + "/files/b.bin");
+    });
+}
+
+TEST_F(TrashOfVolumes, LinkIsNoTrashOfAVolume)
+{
+    expectOn({ "disk" }, [this] {
+        makeFile("disk/a.bin", "A");
+        makeDirectory("disk/elsewhere");
+        makeLink("elsewhere", "disk/.Trash-" + User);
+        return !move(u"disk/a.bin"_s) && bytes("disk/a.bin") == "A"
+            && QDir(path(u"disk/elsewhere"_s)).isEmpty();
+    });
+}
+
+TEST_F(TrashOfVolumes, FileStaysWhereItsVolumeHasNoRoomForATrash)
+{
+    expectOn({ "disk" }, [this] {
+        makeFile("disk/a.bin", "A");
+        makeFile("disk/.Trash-" + User, "in the way");
+        return !move(u"disk/a.bin"_s) && bytes("disk/a.bin") == "A" && !exists("home/data");
+    });
 }

@@ -54,6 +54,37 @@ TEST(Volumes, AHomeOfItsOwnFileSystemComesOnce)
     EXPECT_THAT(volumesIn("", "", u"/"_s), ElementsAre(u"/"_s));
 }
 
+TEST(Volumes, OfTheUserAreThoseWhoseSourceHoldsFiles)
+{
+    const auto isOne = [](const QByteArray &sourceAndType) {
+        const QList<QByteArray> words = sourceAndType.split(' ');
+        return volumesIn(words[0] + " /mnt/x " + words[1] + " rw 0 0\n", "", u"/h"_s).contains(u"/mnt/x"_s);
+    };
+    for (const char *own : { "/dev/sdb1 ext4", "server:/export nfs", "UUID=1-2 vfat", "LABEL=Games ext4",
+             "portal fuse.portal", "tank/games zfs" })
+        EXPECT_TRUE(isOne(own)) << own;
+    for (const char *kernels :
+        { "tmpfs tmpfs", "none overlay", "fusectl fusectl", "fuse fuse", "zfsctl ramfs", "systemd-1 autofs" })
+        EXPECT_FALSE(isOne(kernels)) << kernels;
+}
+
+TEST(Volumes, OfTheSystemAreItsDirectoriesAndAllBelow_NotThoseThatBeginAlike)
+{
+    const auto isOne = [](const QString &place) {
+        return volumesIn("/dev/sdb1 " + place.toUtf8() + " ext4 rw 0 0\n", "", u"/h"_s).contains(place);
+    };
+    for (const QString &own :
+        { u"/boot"_s, u"/boot/efi"_s, u"/run"_s, u"/run/user/1000"_s, u"/var/lib/x"_s, u"/usr/local"_s,
+            u"/snap"_s, u"/efi"_s, u"/dev/x"_s, u"/sys/x"_s, u"/proc/x"_s, u"/etc/hosts"_s })
+        EXPECT_FALSE(isOne(own)) << own.toStdString();
+    for (const QString &users :
+        { u"/bootleg"_s, u"/running"_s, u"/var/games"_s, u"/var/library"_s, u"/usr2"_s, u"/snapshots"_s,
+            u"/run/media"_s, u"/run/media/ann/x"_s, u"/development"_s, u"/media"_s })
+        EXPECT_TRUE(isOne(users)) << users.toStdString();
+    EXPECT_FALSE(isOne(u"/run/mediation"_s));
+    EXPECT_FALSE(isOne(u"none"_s)) << "no place at all";
+}
+
 TEST(Volumes, NamesKeepTheirBytesAndTheirBackslashes)
 {
     EXPECT_THAT(volumesIn("/dev/a /mnt/\xE1\\134b\\ ext4 rw 0 0\n", "", u"/h"_s),
