@@ -120,6 +120,8 @@ private:
     fs::path m_raiz;
 };
 
+constexpr int Unix = 3; // as the format numbers it
+
 QList<MiembroZip> miembros(Entrada &entrada)
 {
     QList<MiembroZip> miembros;
@@ -130,7 +132,7 @@ QList<MiembroZip> miembros(Entrada &entrada)
         miembro.comprimido = (marcas & 2) != 0;
         miembro.sumaFalsa = (marcas & 4) != 0;
         miembro.datosRotos = (marcas & 8) != 0;
-        miembro.enUnix = (marcas & 64) != 0;
+        miembro.sistema = (marcas & 64) != 0 ? Unix : 0;
         miembro.atributos = quint32(entrada.Numero(256)) | quint32(entrada.Numero(256)) << 24;
         miembro.nombre = entrada.Campo();
         miembro.datos = entrada.Campo();
@@ -143,7 +145,7 @@ bool esLlano(const MiembroZip &miembro)
 {
     const auto letra = [](char c) { return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9'); };
     return !miembro.nombre.isEmpty() && std::ranges::all_of(miembro.nombre, letra) && !miembro.sumaFalsa
-        && !miembro.datosRotos && !miembro.enUnix && (miembro.atributos & 0x10) == 0;
+        && !miembro.datosRotos && miembro.sistema != Unix && (miembro.atributos & 0x10) == 0;
 }
 
 // Members with plain names, nothing wrong with any, none twice: all lie there in their order.
