@@ -3,7 +3,7 @@
 #include "host/plainfile.h"
 #include "host/retried.h"
 
-#include <QByteArray>
+#include <QByteArrayList>
 #include <QtEndian>
 
 #include <cerrno>
