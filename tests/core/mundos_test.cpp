@@ -1,0 +1,335 @@
+// Random worlds against a model of their own: which entries a directory and its notes list, what is said of
+// each, and where its capture lies. The model counts whole characters and walks as plainly as it can.
+#include "directoriodeprograma.h"
+
+#include "core/info.h"
+#include "core/lista.h"
+
+#include "host/lengths.h"
+
+#include <algorithm>
+#include <optional>
+#include <random>
+#include <string>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Texto = std::u32string;
+
+struct Fichero {
+    Texto nombre;
+    int kilobytes; // none for a directory
+};
+
+struct Nota {
+    Texto clave;
+    Texto texto;
+};
+
+struct Mundo {
+    int tipo = 0;
+    std::vector<Fichero> ficheros; // in the order of their upper-cased names, each of which stands once
+    std::vector<Nota> notas;
+    std::vector<Texto> extensiones;
+};
+
+enum class Clase { Corriente, MasAllaDelPlanoBasico, DescripcionesIguales, LineasSinFin };
+
+void PrintTo(Clase clase, std::ostream *salida)
+{
+    static constexpr const char *nombres[] = { "plain", "beyond the basic plane", "equal descriptions",
+        "endless lines" };
+    *salida << nombres[size_t(clase)];
+}
+
+Texto mayus(Texto texto)
+{
+    for (char32_t &letra : texto) {
+        if (letra >= U'a' && letra <= U'z')
+            letra -= 32;
+        else if (letra == U'ñ')
+            letra = U'Ñ';
+        else if (letra == U'𐐨')
+            letra = U'𐐀';
+    }
+    return texto;
+}
+
+bool acaba(const Texto &texto, const Texto &final)
+{
+    return texto.ends_with(final);
+}
+
+bool deDirectorios(int tipo)
+{
+    return tipo == 1 || tipo == 6;
+}
+
+bool deFicheros(int tipo)
+{
+    return tipo == 0 || tipo == 5;
+}
+
+// What the list shows, and how many kilobytes that is.
+struct Listado {
+    std::vector<Texto> entradas;
+    int kilobytes = 0;
+};
+
+int vecesQueEncaja(const Mundo &mundo, const Texto &nombre)
+{
+    int veces = 0;
+    for (const Texto &extension : mundo.extensiones)
+        veces += extension.size() <= 3 && !extension.empty() && acaba(mayus(nombre), extension);
+    return veces;
+}
+
+Listado listado(const Mundo &mundo)
+{
+    Listado lista;
+    for (const Fichero &fichero : mundo.ficheros) {
+        const Texto nombre = mayus(fichero.nombre);
+        const bool zips = !deDirectorios(mundo.tipo) && !deFicheros(mundo.tipo);
+        const auto nota = std::ranges::find_if(mundo.notas,
+            [&](const Nota &una) { return mayus(una.clave) + (zips ? U".ZIP" : U"") == nombre; });
+        const bool hay = nota != mundo.notas.end();
+        int veces = 1;
+        if (mundo.tipo == 4 || (zips && !hay && !acaba(nombre, U"ZIP")))
+            veces = 0;
+        else if (deFicheros(mundo.tipo))
+            veces = vecesQueEncaja(mundo, fichero.nombre);
+        const Texto sinNota = deDirectorios(mundo.tipo) ? nombre : fichero.nombre;
+        for (int vez = 0; vez < veces; ++vez) {
+            lista.entradas.push_back(hay ? nota->texto : sinNota);
+            lista.kilobytes += fichero.kilobytes;
+        }
+    }
+    return lista;
+}
+
+std::optional<int> kilobytesDe(const Mundo &mundo, const Texto &nombre)
+{
+    for (const Fichero &fichero : mundo.ficheros) {
+        if (mayus(fichero.nombre) == mayus(nombre))
+            return fichero.kilobytes;
+    }
+    return std::nullopt;
+}
+
+Texto enCifras(int numero)
+{
+    return numero == 0 ? Texto() : Texto(1, U'0' + char32_t(numero));
+}
+
+// The line of one hit; none where its file is gone, or where a size of nothing is read as a number.
+std::optional<Texto> linea(const Mundo &mundo, const Texto &nombre, bool conNota)
+{
+    if (mundo.tipo == 4)
+        return Texto();
+    if (deDirectorios(mundo.tipo))
+        return mayus(nombre) + U" [DIR]";
+    const bool sueltos = deFicheros(mundo.tipo);
+    const std::optional<int> tamaño = kilobytesDe(mundo, nombre + (!sueltos && conNota ? U".ZIP" : U""));
+    if (!tamaño || (!sueltos && conNota && *tamaño == 0))
+        return std::nullopt;
+    if (sueltos)
+        return nombre + U' ' + enCifras(*tamaño) + U"Kb "
+            + (acaba(mayus(nombre), U"ZIP") ? U" [ZIP]" : U" [NOR]");
+    return mayus(nombre) + (conNota ? U".ZIP  " : U" ") + enCifras(*tamaño) + U"Kb [ZIP]";
+}
+
+std::optional<Texto> captura(const Mundo &mundo, const Texto &nombre, bool conNota)
+{
+    if (mundo.tipo == 4)
+        return Texto();
+    if (deDirectorios(mundo.tipo) || (conNota && !deFicheros(mundo.tipo)))
+        return nombre + U".GIF";
+    const size_t punto = nombre.find(U'.');
+    return punto == Texto::npos ? std::nullopt : std::optional(nombre.substr(0, punto) + U".GIF");
+}
+
+// What is known of an entry: of every note with this text in its turn, up to the first that fails.
+struct Sabido {
+    std::vector<Texto> lineas;
+    std::vector<Texto> capturas;
+};
+
+Sabido sabido(const Mundo &mundo, const Texto &entrada)
+{
+    std::vector<Texto> claves;
+    for (const Nota &nota : mundo.notas) {
+        if (nota.texto == entrada)
+            claves.push_back(mayus(nota.clave));
+    }
+    const bool conNota = !claves.empty();
+    if (!conNota)
+        claves.push_back(entrada);
+    Sabido todo;
+    for (const Texto &clave : claves) {
+        const std::optional<Texto> una = linea(mundo, clave, conNota);
+        if (!una)
+            break;
+        todo.lineas.push_back(*una);
+    }
+    for (const Texto &clave : claves) {
+        const std::optional<Texto> una = captura(mundo, clave, conNota);
+        if (!una)
+            break;
+        todo.capturas.push_back(*una);
+    }
+    return todo;
+}
+
+class Dado {
+public:
+    explicit Dado(unsigned semilla)
+        : m_azar(semilla)
+    {
+    }
+
+    int hasta(int maximo) { return std::uniform_int_distribution<int>(0, maximo)(m_azar); }
+
+    Texto palabra(const Texto &letras, int minimo, int maximo)
+    {
+        Texto palabra;
+        for (int resto = minimo + hasta(maximo - minimo); resto > 0; --resto)
+            palabra += letras[size_t(hasta(int(letras.size()) - 1))];
+        return palabra;
+    }
+
+private:
+    std::mt19937 m_azar;
+};
+
+const Texto &letrasDe(Clase clase)
+{
+    static const Texto corrientes = U"abBcñÑ1";
+    static const Texto lejanas = U"a𐐨𐐀😀𝔊";
+    return clase == Clase::MasAllaDelPlanoBasico ? lejanas : corrientes;
+}
+
+Texto descripcion(Dado &dado, Clase clase, int cual)
+{
+    if (clase == Clase::DescripcionesIguales)
+        return U"Igual";
+    if (clase == Clase::LineasSinFin && cual < 2)
+        return Texto(1'000'000, cual == 0 ? U'x' : U'𐐨');
+    return dado.palabra(letrasDe(clase), 1, 3);
+}
+
+Mundo mundoAlAzar(Dado &dado, Clase clase)
+{
+    const Texto &letras = letrasDe(clase);
+    const std::vector<Texto> finales { U".zip", U".ZIP", U".b", U".😀a", U"ZIP", U"", U".ñ.b" };
+    Mundo mundo;
+    mundo.tipo = dado.hasta(8);
+    for (int i = dado.hasta(8); i > 0; --i) {
+        const Texto nombre =
+            dado.palabra(letras, 1, 3) + finales[size_t(dado.hasta(int(finales.size()) - 1))];
+        if (!kilobytesDe(mundo, nombre))
+            mundo.ficheros.push_back({ nombre, deDirectorios(mundo.tipo) ? 0 : dado.hasta(9) });
+    }
+    std::ranges::sort(mundo.ficheros, {}, [](const Fichero &fichero) { return mayus(fichero.nombre); });
+    for (int i = dado.hasta(8); i > 0; --i) {
+        Texto clave = dado.palabra(letras, 1, 4);
+        if (!mundo.ficheros.empty() && dado.hasta(3) > 0)
+            clave = mundo.ficheros[size_t(dado.hasta(int(mundo.ficheros.size()) - 1))].nombre;
+        if (dado.hasta(1) == 0 && acaba(mayus(clave), U".ZIP") && clave.size() > 4)
+            clave.resize(clave.size() - 4);
+        mundo.notas.push_back({ clave, descripcion(dado, clase, i) });
+    }
+    if (clase == Clase::LineasSinFin)
+        mundo.notas.push_back({ Texto(1'000'000, U'k'), U"x" });
+    for (int i = dado.hasta(4); i > 0; --i)
+        mundo.extensiones.push_back(mayus(dado.palabra(U"bZIP😀añ", 1, 4)));
+    return mundo;
+}
+
+QString texto(const Texto &codigos)
+{
+    return QString::fromStdU32String(codigos);
+}
+
+class Mundos : public DirectorioDePrograma, public testing::WithParamInterface<Clase> {
+protected:
+    // Lays the world on the disk and reads it as the main screen does.
+    core::Recuento Lee(const Mundo &mundo, const QString &directorio)
+    {
+        PonDirectorio(directorio);
+        for (const Fichero &fichero : mundo.ficheros) {
+            if (deDirectorios(mundo.tipo))
+                PonDirectorio(directorio + texto(fichero.nombre));
+            else
+                Pon(directorio + texto(fichero.nombre), QByteArray(fichero.kilobytes * 1024, 'x'));
+        }
+        QByteArray notas = "Sis\r\n";
+        for (const Nota &nota : mundo.notas)
+            notas += texto(nota.clave).toUtf8() + ",\"" + texto(nota.texto).toUtf8() + "\"\r\n";
+        Pon(u"Zembro.rom"_s, notas + "'\r\n");
+        M.Nota_Clave.vacia();
+        M.Nota_Texto.vacia();
+        M.Cat_EXT.vacia();
+        for (size_t i = 0; i < mundo.extensiones.size(); ++i)
+            M.Cat_EXT(0, int(i)) = u"*."_s + texto(mundo.extensiones[i]);
+        const int entradas = core::ExploraDirectorio(M, mundo.tipo, Ruta(directorio));
+        const int leidas = core::CargaNotasEnMayusculas(M, u"Sis"_s);
+        return core::Empareja(M, mundo.tipo, Ruta(directorio), entradas, leidas, core::CargaExtensiones(M, 0),
+            host::LengthsIn(Ruta(directorio)));
+    }
+
+    // As `sabido`, of the program.
+    Sabido Sabe(const Mundo &mundo, const QString &directorio, const Texto &entrada)
+    {
+        Sabido todo;
+        const host::LengthsIn largo(Ruta(directorio));
+        NumeroDeFallo([&] {
+            core::BuscaROM(M, texto(entrada), [&](const core::FichaDeROM &ficha) {
+                todo.lineas.push_back(
+                    core::LineaDeInfo(mundo.tipo, Ruta(directorio), ficha, largo).toStdU32String());
+            });
+        });
+        NumeroDeFallo([&] {
+            core::BuscaROM(M, texto(entrada), [&](const core::FichaDeROM &ficha) {
+                todo.capturas.push_back(core::RutaDeCaptura(mundo.tipo, QString(), ficha).toStdU32String());
+            });
+        });
+        return todo;
+    }
+};
+
+} // namespace
+
+TEST_P(Mundos, AreListedAndToldAsTheModelDoes)
+{
+    const Clase clase = GetParam();
+    const int mundos = clase == Clase::LineasSinFin ? 3 : 150;
+    int listadas = 0;
+    for (int semilla = 1; semilla <= mundos; ++semilla) {
+        SCOPED_TRACE("seed " + std::to_string(semilla));
+        Dado dado(unsigned(semilla) * 7919);
+        const Mundo mundo = mundoAlAzar(dado, clase);
+        const QString directorio = u"roms%1/"_s.arg(semilla);
+        const core::Recuento recuento = Lee(mundo, directorio);
+        const Listado modelo = listado(mundo);
+        QStringList entradas;
+        for (const Texto &entrada : modelo.entradas)
+            entradas += texto(entrada);
+        ASSERT_TRUE(recuento.entradas == entradas);
+        ASSERT_EQ(recuento.bytes, modelo.kilobytes * 1024.0);
+        for (const Texto &entrada : modelo.entradas) {
+            const Sabido esperado = sabido(mundo, entrada);
+            const Sabido hallado = Sabe(mundo, directorio, entrada);
+            ASSERT_TRUE(hallado.lineas == esperado.lineas);
+            ASSERT_TRUE(hallado.capturas == esperado.capturas);
+        }
+        listadas += int(entradas.size());
+    }
+    EXPECT_GT(listadas, mundos); // else nothing was tried
+}
+
+INSTANTIATE_TEST_SUITE_P(Clases, Mundos,
+    testing::Values(
+        Clase::Corriente, Clase::MasAllaDelPlanoBasico, Clase::DescripcionesIguales, Clase::LineasSinFin));
