@@ -522,8 +522,7 @@ void Paseo::DaParametros()
     const QString linea = core::ConParametrosNuevos(cabecera, parametros).sliced(cabecera.size());
     host::TextSource fuente(linea);
     fuente.readField();
-    if (fuente.readField() != sistema)
-        return;
+    ASSERT_EQ(fuente.readField(), sistema);
     m_rom.parametros.insert(m_rom.parametros.begin(), { sistema, linea });
     PonRom(core::ConParametrosNuevos(m_textoRom, parametros));
 }
