@@ -243,8 +243,14 @@ Mundo mundoAlAzar(Dado &dado, Clase clase)
     }
     if (clase == Clase::LineasSinFin)
         mundo.notas.push_back({ Texto(1'000'000, U'k'), U"x" });
-    for (int i = dado.hasta(4); i > 0; --i)
-        mundo.extensiones.push_back(mayus(dado.palabra(U"bZIP😀añ", 1, 4)));
+    for (int i = dado.hasta(4); i > 0; --i) {
+        Texto extension = dado.palabra(U"bZIP😀añ", 1, 4);
+        if (!mundo.ficheros.empty() && dado.hasta(1) == 0) {
+            const Texto &nombre = mundo.ficheros[size_t(dado.hasta(int(mundo.ficheros.size()) - 1))].nombre;
+            extension = nombre.substr(nombre.size() - std::min(nombre.size(), size_t(1 + dado.hasta(3))));
+        }
+        mundo.extensiones.push_back(mayus(extension));
+    }
     return mundo;
 }
 
