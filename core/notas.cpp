@@ -14,6 +14,17 @@ namespace {
 constexpr char16_t CabeceraParametros[] = u"Parametros especificos";
 constexpr char16_t InicioParametros[] = u"Parametros";
 
+// In upper case. A description is changed only in a line that begins behind the apostrophe in the code, or in
+// double quotes: so they stand around a key that begins ahead of it, if it can have them.
+std::optional<QString> claveDeNota(const QString &clave)
+{
+    const QString mayus = host::upper(clave);
+    const bool delante = !mayus.isEmpty() && mayus[0] < u'\'';
+    const std::optional<QString> entreComillas =
+        delante ? CampoEscrito(mayus, Comillas::Siempre) : std::nullopt;
+    return entreComillas ? entreComillas : ClaveEscrita(mayus);
+}
+
 QString registroDeNota(const QString &campoClave, const QString &descripcion)
 {
     return campoClave + u",\""_s + descripcion + u'"';
@@ -160,7 +171,7 @@ int NotaConTexto(const Modulo &M, const QString &texto)
 QString ConDescripcionNueva(
     const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion)
 {
-    const std::optional<QString> campo = ClaveEscrita(host::upper(clave));
+    const std::optional<QString> campo = claveDeNota(clave);
     if (!SePuedeDescribir(clave) || !campo)
         return texto;
     Copia copia;
@@ -178,7 +189,7 @@ QString ConDescripcionNueva(
 QString ConDescripcionCambiada(
     const QString &texto, const QString &anterior, const QString &clave, const QString &descripcion)
 {
-    const std::optional<QString> campo = ClaveEscrita(host::upper(clave));
+    const std::optional<QString> campo = claveDeNota(clave);
     if (!SePuedeDescribir(clave) || !campo)
         return texto;
     Copia copia;

@@ -92,17 +92,22 @@ RegistroLeido LeeRegistro(host::TextSource &fuente)
     if (registro.EsCierre())
         acabaLaLinea(fuente, leido());
     registro.texto = leido();
-    if (!fuente.atEnd() && registro.texto.endsWith(u','))
+    if (!fuente.atEnd() && registro.texto.endsWith(u',')) {
         registro.texto.chop(1);
+        registro.faltaElUltimo = registro.texto.endsWith(u'\n');
+    }
     return registro;
 }
 
 void CopiaRegistro(Copia &copia, const RegistroLeido &registro)
 {
-    if (const std::optional<QString> linea = RegistroDeParametros(registro.campos))
+    const std::optional<QString> linea = RegistroDeParametros(registro.campos);
+    if (linea)
         copia.Nueva(*linea);
     else
         copiaComoEsta(copia, registro.texto);
+    if (!linea && registro.faltaElUltimo)
+        copia.Nueva(u"\"\""_s);
 }
 
 void CopiaCierre(Copia &copia, const RegistroLeido &cierre)

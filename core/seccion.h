@@ -35,6 +35,7 @@ struct RegistroLeido {
     Parametros campos;
     QStringView
         texto; // with the line end behind the last field, if that is what ends it; lives with the source
+    bool faltaElUltimo = false; // an empty last field of which the text holds nothing: its comma isn't in it
 
     bool EsCierre() const { return campos.clave == u"'"; }
 };

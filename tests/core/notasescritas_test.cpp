@@ -86,6 +86,25 @@ TEST_F(NotasEscritas, KeysThatWouldSplitARecordOrPassForAnAnchorStandInDoubleQuo
     }
 }
 
+TEST_F(NotasEscritas, ANoteCanBeChanged_WhateverItsKeyBeginsWith)
+{
+    for (const QString &principio :
+        { u"!"_s, u"#"_s, u"$"_s, u"%"_s, u"&"_s, u" "_s, u"'"_s, u"("_s, u"\1"_s }) {
+        const QString clave = principio + u"1 A.NES"_s;
+        const QByteArray escrita = ConNueva("Console\r\n'\r\n", clave, u"one"_s);
+        EXPECT_EQ(ConCambiada(escrita, u"one"_s, clave, u"two"_s), QByteArray(escrita).replace("one", "two"));
+        EXPECT_EQ(core::CargaNotas(M, u"Console"_s), 1);
+        EXPECT_EQ(M.Nota_Clave(0), clave);
+        EXPECT_EQ(M.Nota_Texto(0), u"two");
+    }
+}
+
+TEST_F(NotasEscritas, AKeyThatCanHaveNoQuotesAroundItIsWrittenAsItIs)
+{
+    EXPECT_EQ(ConNueva("Console\r\n'\r\n", u"#1 \"A\".NES"_s, u"one"_s),
+        "Console\r\n#1 \"A\".NES,\"one\"\r\n'\r\n");
+}
+
 TEST_F(NotasEscritas, OtherLinesStayByteForByte_InAFileOfLineFeeds)
 {
     EXPECT_EQ(ConNueva("' caf\xE9\nConsole\nOLD,\"old\"\n'\n[\nlast", u"NEW"_s, u"ñ"_s),

@@ -87,6 +87,8 @@ INSTANTIATE_TEST_SUITE_P(Registros, RegistroAjeno,
         std::pair(u"A,s,e,\"-a\r\n-b\"\r\n  B , s,e,-b\r\n"_s, u"A,s,e,\"-a\r\n-b\"\r\nB,s,e,-b\r\n"_s),
         std::pair(u"A,s,e,-a,B,s,\"f\ng\",\"-b\",C,s,e,-c\n"_s,
             u"A,s,e,-a\r\nB,s,\"f\ng\",\"-b\"\r\nC,s,e,-c\r\n"_s),
+        // An empty field alone ahead of its comma.
+        std::pair(u"A,s,\"e\nf\"\n,B,s,e,-b\n"_s, u"A,s,\"e\nf\"\n\"\"\r\nB,s,e,-b\r\n"_s),
         std::pair(u"[a \"b\"].nes,s,e,-x\n"_s, u"[a \"b\"].nes,s,e,-x\n"_s)));
 
 TEST(Seccion, AClosingRecordOnOneLineGoesOnThreeOrFour)
