@@ -18,6 +18,9 @@ namespace host {
 
 namespace {
 
+// A short form may be longer than its name, by the number that tells it from others.
+constexpr qsizetype LongestForm = NAME_MAX + 8;
+
 bool isSeparator(QChar character)
 {
     return character == u'/' || character == u'\\';
@@ -77,7 +80,7 @@ qsizetype Finder::takeLongest(const QStringList &pieces, qsizetype first)
 {
     for (qsizetype count = pieces.size() - first; count > 0; --count) {
         const QString name = pieces.sliced(first, count).join(u'\\');
-        if (name.size() > NAME_MAX)
+        if (name.size() > LongestForm)
             continue;
         const QByteArray entry = name.isEmpty() ? QByteArray() : entryFor(m_found, name);
         const bool last = first + count == pieces.size();
@@ -131,6 +134,12 @@ QByteArray findOnDisk(const QString &path)
 
 QByteArray findForWriting(const QString &path)
 {
+    // As it stands, for a name may end in a backslash.
+    QByteArray whole = findOnDisk(path);
+    if (whole.size() > 1 && whole.endsWith('/'))
+        whole.chop(1);
+    if (!whole.isEmpty())
+        return whole;
     QStringView open(path);
     while (open.size() > 1 && isSeparator(open.back()))
         open.chop(1);

@@ -217,6 +217,8 @@ TEST_F(Finding, PathToBeMadeHasItsDirectoryAsFound)
     EXPECT_EQ(findForWriting(path(u"SUB/OLD.TXT"_s)), place("Sub/Old.txt"));
     EXPECT_EQ(findForWriting(path(u"Sub/New/"_s)), place("Sub/New"));
     EXPECT_EQ(findForWriting(path(u"sub\\"_s)), place("Sub"));
+    makeFile("Sub/x\\");
+    EXPECT_EQ(findForWriting(path(u"Sub/X\\"_s)), place("Sub/x\\"));
     EXPECT_EQ(findForWriting(path(u"none/New.txt"_s)), QByteArray());
     EXPECT_EQ(findForWriting(path(u"Sub/Old.txt/a"_s)), QByteArray());
     EXPECT_EQ(findForWriting(QString()), QByteArray());

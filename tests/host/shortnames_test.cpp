@@ -322,3 +322,15 @@ TEST_F(ShortPaths, NamesInADirectoryThatCannotBeListedHaveTheirPlainForm)
     setMode("closed", 0755);
     EXPECT_EQ(status, 0);
 }
+
+TEST_F(ShortPaths, OfTheLongestNamesLeadToTheirFilesToo)
+{
+    const QByteArray longest(255, 'a');
+    for (const QByteArray &name : { longest, longest.toUpper(), 'A' + longest.sliced(1) })
+        makeFile(name);
+    for (const QByteArray &name : { longest, longest.toUpper(), 'A' + longest.sliced(1) }) {
+        const QString form = GetShortPathNameA(path(QString::fromLatin1(name)));
+        EXPECT_EQ(findOnDisk(form), place(name));
+        EXPECT_EQ(GetShortPathNameA(form), form);
+    }
+}
