@@ -103,7 +103,6 @@ void existente(const QByteArray &ruta)
     ExigeIgual(host::GetShortPathNameA(corta), corta, "a short path is its own short path");
     const auto blanco = [](QChar letra) { return letra.isSpace(); };
     Exige(std::none_of(corta.begin(), corta.end(), blanco), "a short path has no blanks", corta);
-
     Exige(host::findForWriting(texto) == ruta, "what is there is written where it is", texto);
 }
 

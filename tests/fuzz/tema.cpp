@@ -22,6 +22,8 @@ std::span<const Tema> Temas()
         { "bajas", probarBajas },
         { "cambios", probarCambios },
         { "capturas", probarCapturas },
+        { "notasescritas", probarNotasEscritas },
+        { "anotaciones", probarAnotaciones },
     };
     return temas;
 }

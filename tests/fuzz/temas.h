@@ -20,5 +20,7 @@ void probarAltas(Bytes bytes); // additions to the catalogue and the database
 void probarBajas(Bytes bytes); // removals from them
 void probarCambios(Bytes bytes); // changes in them
 void probarCapturas(Bytes bytes); // pictures for the screen
+void probarNotasEscritas(Bytes bytes); // changes of any file of notes
+void probarAnotaciones(Bytes bytes); // notes and parameters, one after the other
 
 } // namespace pelusa
