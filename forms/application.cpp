@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QKeyEvent>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QProxyStyle>
 #include <QStyleOption>
 
@@ -186,6 +187,9 @@ void setLook(QApplication &application)
     QApplication::setStyle(new Style);
     QApplication::setPalette(ownPalette());
     QApplication::setFont(arial(8.25));
+    // The style would keep its pictures by the palette of a control, and each form that opens has new ones:
+    // what it kept for those before would never be found again. Drawing them takes no longer.
+    QPixmapCache::setCacheLimit(0);
 }
 
 } // namespace forms
