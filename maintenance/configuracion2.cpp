@@ -36,8 +36,7 @@ Configuracion2::Configuracion2(core::Modulo &modulo, const dialogs::Teja &teja,
     Conecta();
     AplicaCerrojos();
     SetTile(teja.imagen, teja.ancho, teja.alto);
-    for (forms::CommandButton *boton : { Boton1, Boton2, Boton3 })
-        boton->SetCaption(M.TXT_Examinar);
+    PonExaminar();
     Texto2->SetCaption(sistema + u" -> "_s + emulador);
     M.Config2_Cambios = core::SituacionDe(M, sistema, emulador);
     if (M.Config2_Cambios == core::EmuladorYaConfigurado) {
@@ -111,8 +110,15 @@ void Configuracion2::Prepara()
         QuitaEspeciales();
 }
 
+void Configuracion2::PonExaminar()
+{
+    for (forms::CommandButton *boton : { Boton1, Boton2, Boton3 })
+        boton->SetCaption(M.TXT_Examinar);
+}
+
 void Configuracion2::PonTextos()
 {
+    PonExaminar(); // the language may be another one than at the load
     SetCaption(M.TXT_TituloCFG2);
     TXT_CFGDe->SetCaption(M.TXT_CFGDe);
     TXT_CFGGeneral->SetCaption(M.TXT_CFGGeneral);
@@ -159,28 +165,35 @@ void Configuracion2::BuscaEjecutable()
 {
     const QString texto = Casilla1->Text();
     const qsizetype separador = host::lastSeparator(texto);
-    try {
-        m_examinar->Directorios->SetPath(separador < 0 ? texto : texto.first(separador + 1));
-    } catch (const host::Failure &) {
-        // It stays where its load has put it.
-    }
+    if (!CargaExaminar(separador < 0 ? texto : texto.first(separador + 1)))
+        return;
     if (Examina())
         Casilla1->SetText(M.RutaExaminar + host::separatorOf(M.RutaExaminar) + M.ArchivoExaminar);
 }
 
 void Configuracion2::BuscaDirectorio(forms::TextBox &casilla)
 {
-    try {
-        m_examinar->Directorios->SetPath(casilla.Text());
-    } catch (const host::Failure &) {
-        // As above.
+    bool aceptado = false;
+    if (CargaExaminar(casilla.Text())) {
+        m_examinar->SetOuterWidth(SinArchivos);
+        m_examinar->Archivos->hide();
+        aceptado = Examina();
     }
-    m_examinar->SetOuterWidth(SinArchivos);
-    m_examinar->Archivos->hide();
-    const bool aceptado = Examina();
     casilla.setFocus();
     if (aceptado)
         casilla.SetText(M.RutaExaminar);
+}
+
+// Failures are ignored here. False if there is no browser then.
+bool Configuracion2::CargaExaminar(const QString &inicio)
+{
+    try {
+        dialogs::Examinar &examinar = *m_examinar;
+        examinar.Directorios->SetPath(inicio);
+    } catch (const host::Failure &) {
+        // Loaded, it stays where its load has put it.
+    }
+    return m_examinar.isLoaded();
 }
 
 // False if the user went back. Closed by its box it counts as accepted, with the answers of the time before.

@@ -56,6 +56,7 @@ public:
 private:
     void Monta();
     void Conecta();
+    void PonExaminar();
     void PonTextos();
     void NombraControles();
     void QuitaEspeciales();
@@ -65,6 +66,7 @@ private:
 
     void BuscaEjecutable();
     void BuscaDirectorio(forms::TextBox &casilla);
+    bool CargaExaminar(const QString &inicio);
     bool Examina();
 
     core::Modulo &M;

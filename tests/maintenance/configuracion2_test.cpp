@@ -4,6 +4,8 @@
 
 #include "forms/checks.h"
 
+#include "host/paths.h"
+
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -116,6 +118,19 @@ TEST_F(Configuracion2Test, TheWordsAreThoseOfTheLanguage)
         EXPECT_EQ(captionOf(form, u"Texto7"_s), u"EXE"_s);
         EXPECT_EQ(captionOf(form, u"Texto8"_s), u"ROM"_s);
     });
+}
+
+TEST_F(Configuracion2Test, LoadedInAnotherLanguageItSpeaksTheNewOneOnceShown)
+{
+    begin();
+    M->TXT_Examinar = u"old"_s;
+    forms::FormHolder<dialogs::Examinar> browser(
+        []() -> std::unique_ptr<dialogs::Examinar> { return nullptr; });
+    maintenance::Configuracion2 second(*M, {}, browser, u"Own"_s, u"Mame"_s);
+    M->TXT_Examinar = u"new"_s;
+    second.Prepara();
+    for (const forms::CommandButton *button : { second.Boton1, second.Boton2, second.Boton3 })
+        EXPECT_EQ(button->Caption(), u"new"_s);
 }
 
 TEST_F(Configuracion2Test, EachKindOfSystemHasItsWarning)
@@ -395,6 +410,26 @@ TEST_F(Configuracion2Test, TheBrowsersBoxForClosingAnswersWithWhatWasPickedLast)
         browse(form, u"Boton2"_s, [](forms::Form &browser) { accept(browser); });
         browse(form, u"Boton3"_s, closeIt);
         EXPECT_EQ(box(form, u"Casilla3"_s), files.path(u"roms"_s));
+    });
+}
+
+TEST_F(Configuracion2Test, ABrowserThatCannotBeLoadedChangesNothing)
+{
+    begin();
+    configurePair(u"Own"_s, u"Mame"_s, [this](forms::Form &form) {
+        const QString typed = files.path(u"bin/typed"_s);
+        const QString own = host::programDirectory();
+        for (const int number : { 1, 2, 3 }) {
+            const QString text = u"Casilla"_s + QString::number(number);
+            const QString button = u"Boton"_s + QString::number(number);
+            write(form, text, typed);
+            host::setProgramDirectory(u"/nowhere"_s);
+            EXPECT_FALSE(endOf([&] { click(controlOf<QWidget>(form, button)); }));
+            EXPECT_EQ(box(form, text), typed);
+            EXPECT_EQ(form.focusWidget()->objectName(), number > 1 ? text : u"Boton1"_s);
+            host::setProgramDirectory(own);
+            browse(form, button, [](forms::Form &browser) { goBack(browser); });
+        }
     });
 }
 
