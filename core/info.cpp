@@ -3,6 +3,8 @@
 #include "host/letters.h"
 #include "host/numbers.h"
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace core {
@@ -24,9 +26,9 @@ void BuscaROM(const Modulo &M, const QString &texto, const std::function<void(co
 
 namespace {
 
-QString kilobytes(const QString &ruta, const LargoDeFichero &largo)
+QString kilobytes(qint64 bytes)
 {
-    return host::formatGrouped(static_cast<double>(largo(ruta)) / 1024);
+    return host::formatGrouped(static_cast<double>(bytes) / 1024);
 }
 
 // A size read back as a number and written again: no group signs, and a blank ahead of it.
@@ -50,23 +52,56 @@ QString hastaElPunto(const QString &nombre)
     return nombre.left(punto);
 }
 
-} // namespace
+// The length that the line tells, in bytes; 0 where it tells none. A ZIP with a note has to have one.
+qint64 medida(int tipo, const QString &directorio, const FichaDeROM &ficha, const LargoDeFichero &largo)
+{
+    if (!UnZipPorJuego(tipo))
+        return FicherosSueltos(tipo) ? largo(directorio + ficha.nombre) : 0;
+    if (!ficha.conNota)
+        return largo(directorio + ficha.nombre);
+    const qint64 bytes = largo(directorio + host::upper(ficha.nombre) + u".ZIP"_s);
+    if (bytes < 1024)
+        comoNumero(kilobytes(bytes));
+    return bytes;
+}
 
-QString LineaDeInfo(int tipo, const QString &directorio, const FichaDeROM &ficha, const LargoDeFichero &largo)
+QString lineaConMedida(int tipo, const FichaDeROM &ficha, qint64 bytes)
 {
     const QString mayus = host::upper(ficha.nombre);
     if (FicherosSueltos(tipo)) {
         const QString marca = mayus.endsWith(u"ZIP") ? u" [ZIP]"_s : u" [NOR]"_s;
-        return ficha.nombre + u' ' + kilobytes(directorio + ficha.nombre, largo) + u"Kb "_s + marca;
+        return ficha.nombre + u' ' + kilobytes(bytes) + u"Kb "_s + marca;
     }
     if (UnDirectorioPorJuego(tipo))
         return mayus + u" [DIR]"_s;
     if (!UnZipPorJuego(tipo))
         return {};
     if (ficha.conNota)
-        return mayus + u".ZIP "_s + comoNumero(kilobytes(directorio + mayus + u".ZIP"_s, largo))
-            + u"Kb [ZIP]"_s;
-    return mayus + u' ' + kilobytes(directorio + ficha.nombre, largo) + u"Kb [ZIP]"_s;
+        return mayus + u".ZIP "_s + comoNumero(kilobytes(bytes)) + u"Kb [ZIP]"_s;
+    return mayus + u' ' + kilobytes(bytes) + u"Kb [ZIP]"_s;
+}
+
+} // namespace
+
+QString LineaDeInfo(int tipo, const QString &directorio, const FichaDeROM &ficha, const LargoDeFichero &largo)
+{
+    return lineaConMedida(tipo, ficha, medida(tipo, directorio, ficha, largo));
+}
+
+QString UltimaLineaDeInfo(
+    const Modulo &M, const QString &texto, int tipo, const QString &directorio, const LargoDeFichero &largo)
+{
+    std::optional<FichaDeROM> ultima;
+    qint64 bytes = 0;
+    try {
+        BuscaROM(M, texto, [&](const FichaDeROM &ficha) {
+            bytes = medida(tipo, directorio, ficha, largo);
+            ultima = ficha;
+        });
+    } catch (const host::Failure &) {
+        // The line of the note ahead stands.
+    }
+    return ultima ? lineaConMedida(tipo, *ultima, bytes) : QString();
 }
 
 QString RutaDeCaptura(int tipo, const QString &directorio, const FichaDeROM &ficha)

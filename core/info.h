@@ -25,6 +25,12 @@ void BuscaROM(const Modulo &M, const QString &texto, const std::function<void(co
 QString LineaDeInfo(
     int tipo, const QString &directorio, const FichaDeROM &ficha, const LargoDeFichero &largo);
 
+// The line of the last of the notes with this text, or of the text itself; where a file can't be looked at,
+// of the one ahead, and empty where that was the first. Thousands of notes may share a text: only the one
+// line is put together.
+QString UltimaLineaDeInfo(
+    const Modulo &M, const QString &texto, int tipo, const QString &directorio, const LargoDeFichero &largo);
+
 // Path of the capture; empty for a type without captures. Fails with 5 for a name without the point at which
 // it is cut.
 QString RutaDeCaptura(int tipo, const QString &directorio, const FichaDeROM &ficha);

@@ -170,6 +170,10 @@ QByteArray Directory::find(const QString &name) const
     const QString key = upper(name);
     const auto first = std::lower_bound(m_entries.begin(), m_entries.end(), key,
         [](const Entry &entry, const QString &wanted) { return compareCodes(entry.upper, wanted) < 0; });
+    for (auto entry = first; entry != m_entries.end() && entry->upper == key; ++entry) {
+        if (entry->name == name)
+            return entry->bytes;
+    }
     if (first != m_entries.end() && first->upper == key)
         return first->bytes;
     nameShortForms();

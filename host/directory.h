@@ -37,8 +37,8 @@ public:
     // In the order of names, ties by bytes, without "." and "..".
     const std::vector<Entry> &entries() const { return m_entries; }
 
-    // The bytes of the first entry that has this name in any case, or else of the one that has this short
-    // form. Empty if there is none.
+    // The bytes of the entry of this name, else of the first that has it in any case, or else of the one that
+    // has this short form. Empty if there is none.
     QByteArray find(const QString &name) const;
 
     // The short form of an entry; any other name stays as it is.

@@ -30,7 +30,13 @@ qint64 LengthsIn::operator()(const QString &path) const
     const auto leadsToFile = [&](const QByteArray &entry) {
         return stat(joined(m_found, entry).constData(), &status) == 0 && !S_ISDIR(status.st_mode);
     };
-    if (!leadsToFile(nameToDisk(name)) && !leadsToFile(entryFor(m_found, name)))
+    if (m_listing && leadsToFile(m_listing->find(name)))
+        return status.st_size;
+    if (leadsToFile(nameToDisk(name)))
+        return status.st_size;
+    if (!m_listing)
+        m_listing = Directory::at(m_found);
+    if (!leadsToFile(entryFor(m_found, name)))
         throw Failure(FileNotFound, u"read the length"_s, path);
     return status.st_size;
 }

@@ -4,9 +4,15 @@
 #include <QByteArray>
 #include <QString>
 
+#include <memory>
+
 namespace host {
 
-// As fileLength, for paths that begin as the directory does; the directory is found on the disk but once.
+class Directory;
+
+// As fileLength, for paths that begin as the directory does; the directory is found on the disk but once, and
+// once a name isn't there as it is spelled, the names are looked for in one listing first. For one pass,
+// then: it doesn't see what is renamed meanwhile.
 class LengthsIn {
 public:
     explicit LengthsIn(const QString &directory);
@@ -17,6 +23,7 @@ public:
 private:
     QString m_directory;
     QByteArray m_found; // empty where each path has to be found as a whole
+    mutable std::shared_ptr<const Directory> m_listing;
 };
 
 } // namespace host

@@ -21,7 +21,7 @@ void Portada::LLena_INFO()
 {
     if (Combo2->Text().isEmpty())
         return;
-    QString linea; // of the last note whose file could be looked at
+    QString linea;
     try {
         const int sistema = Sistema();
         const int emulador = Emulador() + 1;
@@ -29,12 +29,10 @@ void Portada::LLena_INFO()
         if (Lista1->ListIndex() < 0)
             return;
         const QString directorio = core::ValorExigido(M.Cat_ROM(sistema, emulador), core::PrefijoRuta);
-        const core::LargoDeFichero largo = host::LengthsIn(directorio);
-        core::BuscaROM(M, Lista1->Text(), [&](const core::FichaDeROM &ficha) {
-            linea = core::LineaDeInfo(core::Numero(M.TipoEmu), directorio, ficha, largo);
-        });
+        linea = core::UltimaLineaDeInfo(
+            M, Lista1->Text(), core::Numero(M.TipoEmu), directorio, host::LengthsIn(directorio));
     } catch (const host::Failure &) {
-        // Without a line so far the label keeps its text.
+        // The label keeps its text.
     }
     if (!linea.isEmpty())
         PonInfo(linea);

@@ -6,6 +6,7 @@
 #include "core/lista.h"
 
 #include "host/lengths.h"
+#include "host/paths.h"
 
 #include <algorithm>
 #include <optional>
@@ -329,6 +330,9 @@ TEST_P(Mundos, AreListedAndToldAsTheModelDoes)
             const Sabido esperado = sabido(mundo, entrada);
             const Sabido hallado = Sabe(mundo, directorio, entrada);
             ASSERT_TRUE(hallado.lineas == esperado.lineas);
+            ASSERT_TRUE(
+                core::UltimaLineaDeInfo(M, texto(entrada), mundo.tipo, Ruta(directorio), host::fileLength)
+                == (esperado.lineas.empty() ? QString() : texto(esperado.lineas.back())));
             ASSERT_TRUE(hallado.capturas == esperado.capturas);
         }
         listadas += int(entradas.size());
