@@ -117,7 +117,9 @@ Cambio unCambio(Entrada &entrada, Ajustes &seran)
         return { core::Ajuste::TypeOfEditor, { core::LineaDeEditor(valor) } };
     }
     case 3:
-        seran.fin = enUnaLinea(entrada.Texto()).remove(u'=').remove(core::MarcaVacio);
+        seran.fin = enUnaLinea(entrada.Texto());
+        if (!core::VuelveMsgEndDOS(seran.fin))
+            seran.fin = u"Fin"_s;
         return { core::Ajuste::MsgEndDOS, { core::LineaDeMsgEndDOS(seran.fin) } };
     default:
         seran.idioma = host::upper(enUnaLinea(entrada.Nombre()).remove(u'=').remove(u',') + u".LNG"_s);
@@ -125,26 +127,20 @@ Cambio unCambio(Entrada &entrada, Ajustes &seran)
     }
 }
 
-// Those that a list can be read back with: the first stands for something, and no mark is among them.
+// A list that is taken at the save; an empty one is no list at the next start.
 QString filtros(Entrada &entrada, Ajustes &seran)
 {
     const QString texto = enUnaLinea(entrada.Texto());
     QStringList escritos;
     Fallo({ host::OutOfRange }, "parting the filters", [&] { escritos = core::FiltrosDeTexto(texto); });
-    QStringList leidos;
+    if (texto.isEmpty() || escritos.isEmpty() || !core::VuelvenFiltros(texto))
+        return {};
+    seran.filtros.clear();
     for (QString filtro : escritos) {
-        filtro = host::upper(filtro);
-        if (filtro.contains(core::MarcaVacio))
-            return {};
         while (filtro.endsWith(u' '))
             filtro.chop(1);
-        if (filtro.isEmpty())
-            break;
-        leidos << filtro;
+        seran.filtros << host::upper(filtro);
     }
-    if (leidos.isEmpty())
-        return {};
-    seran.filtros = leidos;
     return texto;
 }
 

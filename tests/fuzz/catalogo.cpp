@@ -13,6 +13,8 @@
 #include "host/failure.h"
 #include "host/paths.h"
 
+#include <QHash>
+
 using namespace Qt::StringLiterals;
 
 namespace pelusa {
@@ -73,6 +75,28 @@ void valores(const core::Modulo &M, const QString &texto)
     }
 }
 
+// Each extension stands where the counter was, which goes back to 0 at an emulator and not at a system.
+void extensiones(const Nombres &tabla, const QString &texto)
+{
+    QHash<int, QStringList> serian;
+    int s = -1;
+    int k = 0;
+    for (const core::LineaConFin &linea : core::EnLineas(texto)) {
+        s += linea.linea.startsWith(u'-') ? 1 : 0;
+        k = linea.linea.startsWith(u'+') ? 0 : k;
+        if (!linea.linea.startsWith(u"*."))
+            continue;
+        QStringList &fila = serian[s];
+        while (fila.size() <= k)
+            fila << QString();
+        fila[k++] = linea.linea.toString();
+    }
+    for (int fila = 0; fila <= s; ++fila) {
+        for (int i = 0; i < core::MaxSistemas; ++i)
+            ExigeIgual(tabla(fila, i), serian.value(fila).value(i), "an extension is where it was read");
+    }
+}
+
 void preguntas(core::Modulo &M)
 {
     for (int s = 0; s < M.TotalSistemas; ++s) {
@@ -113,6 +137,7 @@ void catalogo(core::Modulo &M, const QByteArray &bytes)
     ExigeIgual(enUnaFila(M.Cat_Nombre, M.TotalSistemas).join(u'\n'), nombresEnElTexto(texto).join(u'\n'),
         "the tables hold every name in its order");
     valores(M, texto);
+    extensiones(M.Cat_EXT, texto);
     preguntas(M);
 }
 

@@ -14,11 +14,23 @@
 
 #include <QHash>
 
+#include <optional>
+#include <string>
+
 using namespace Qt::StringLiterals;
 
 namespace pelusa {
 
 namespace {
+
+constexpr std::size_t Delante = 20; // characters of a line ahead of its text
+
+QString textoDeLinea(const std::u32string &linea)
+{
+    return linea.size() <= Delante
+        ? QString()
+        : QString::fromStdU32String(linea.substr(Delante, linea.size() - Delante - 1));
+}
 
 // What the file gives to a key: the text of its last line; none without a line.
 std::optional<QString> textoDe(QStringView clave, const QString &fichero)
@@ -27,7 +39,7 @@ std::optional<QString> textoDe(QStringView clave, const QString &fichero)
     std::optional<QString> texto;
     for (const core::LineaConFin &linea : core::EnLineas(fichero)) {
         if (linea.linea.startsWith(rellena))
-            texto = linea.linea.mid(20).chopped(1).toString();
+            texto = textoDeLinea(linea.linea.toString().toStdU32String());
     }
     return texto;
 }
@@ -41,7 +53,8 @@ void textos(const QString &fichero)
     bool corta = false;
     const int fallo = Fallo({ host::InvalidArgument }, "reading a language", [&] {
         for (const core::LineaConFin &linea : core::EnLineas(fichero)) {
-            corta = linea.linea.size() <= 20 && !linea.linea.startsWith(u'\'');
+            corta =
+                linea.linea.toString().toStdU32String().size() <= Delante && !linea.linea.startsWith(u'\'');
             lector.Linea(linea.linea.toString());
         }
     });
