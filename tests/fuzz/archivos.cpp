@@ -15,6 +15,7 @@
 #include <fstream>
 #include <map>
 #include <set>
+#include <utility>
 
 #include <unistd.h>
 
@@ -166,6 +167,21 @@ void enteros(const Mesa &mesa, const QList<MiembroZip> &miembros, const launch::
     }
 }
 
+// What doesn't agree with its checksum leaves nothing.
+void dañados(const Mesa &mesa, const QList<MiembroZip> &miembros)
+{
+    QByteArrayList nombres { "antes", "enlace", "enlace2" };
+    for (const MiembroZip &miembro : miembros)
+        nombres << miembro.nombre;
+    for (MiembroZip miembro : miembros) {
+        const bool falsa = std::exchange(miembro.sumaFalsa, false) && !miembro.datos.isEmpty();
+        if (falsa && esLlano(miembro) && nombres.count(miembro.nombre) == 1) {
+            Exige(!fs::exists(mesa.Destino() / miembro.nombre.toStdString()),
+                "a damaged member leaves nothing", QString::fromLatin1(miembro.nombre));
+        }
+    }
+}
+
 } // namespace
 
 void probarArchivos(Bytes bytes)
@@ -192,8 +208,10 @@ void probarArchivos(Bytes bytes)
         const fs::path ruta = mesa.Destino() / host::nameToDisk(fichero).toStdString();
         Exige(fs::symlink_status(ruta).type() == fs::file_type::regular, "what is told of is there", fichero);
     }
-    if (clase == 1)
+    if (clase == 1) {
         enteros(mesa, hechos, resultado);
+        dañados(mesa, hechos);
+    }
 }
 
 } // namespace pelusa
