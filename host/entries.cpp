@@ -68,8 +68,8 @@ void clearAttributes(const QString &path)
     if (lstat(found.constData(), &status) != 0)
         throw Failure(FileNotFound, u"clear the attributes"_s, path);
     // What can't be changed stays as it is; a link itself has no mode.
-    static_cast<void>(
-        fchmodat(AT_FDCWD, found.constData(), (status.st_mode & 07777) | S_IWUSR, AT_SYMLINK_NOFOLLOW));
+    [[maybe_unused]] const int ignored =
+        fchmodat(AT_FDCWD, found.constData(), (status.st_mode & 07777) | S_IWUSR, AT_SYMLINK_NOFOLLOW);
 }
 
 qint64 fileLength(const QString &path)
