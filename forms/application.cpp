@@ -2,15 +2,21 @@
 
 #include "forms/comboaccess.h"
 #include "forms/guard.h"
+#include "forms/hold.h"
+#include "forms/picturebutton.h"
 #include "forms/shownpart.h"
 #include "forms/units.h"
 
+#include <QAbstractButton>
+#include <QAbstractSlider>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QPalette>
 #include <QPixmapCache>
 #include <QProxyStyle>
 #include <QStyleOption>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -98,6 +104,11 @@ QPalette ownPalette()
     return palette;
 }
 
+// How long the other half of a repeat may take. Counted in turns of the event loop too, so that one that was
+// there in time isn't missed where the program itself is late.
+constexpr int Turns = 3;
+constexpr int TurnLength = 10; // milliseconds
+
 class Press final : public QKeyEvent {
 public:
     Press(const QKeyEvent &event, bool repeat)
@@ -118,6 +129,14 @@ bool isInDialog(const QObject *receiver)
     return control && qobject_cast<const QDialog *>(control->window());
 }
 
+// Those that this program has made itself see to their held buttons themselves.
+bool isToolkitsOwn(const QWidget &control)
+{
+    if (qobject_cast<const QAbstractSlider *>(&control))
+        return true;
+    return qobject_cast<const QAbstractButton *>(&control) && !dynamic_cast<const PictureButton *>(&control);
+}
+
 } // namespace
 
 Application::Application(int &argc, char **argv)
@@ -126,7 +145,14 @@ Application::Application(int &argc, char **argv)
     setLook(*this);
     TellAssistantsOfCombos();
     setQuitOnLastWindowClosed(false);
+    m_wait.setInterval(TurnLength);
+    m_wait.callOnTimeout(this, [this] {
+        if (--m_waits == 0)
+            deliverPutOff();
+    });
 }
+
+Application::~Application() = default;
 
 bool Application::notify(QObject *receiver, QEvent *event)
 {
@@ -143,9 +169,41 @@ bool Application::deliver(QObject *receiver, QEvent *event)
     case QEvent::KeyRelease:
     case QEvent::ShortcutOverride:
         return deliverKey(receiver, static_cast<QKeyEvent *>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        deliverPutOff();
+        hold(receiver, static_cast<const QMouseEvent &>(*event));
+        break;
+    case QEvent::MouseButtonRelease:
+        deliverPutOff();
+        if (static_cast<const QMouseEvent *>(event)->buttons() == Qt::NoButton)
+            m_hold.reset();
+        break;
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+        if (event->spontaneous())
+            deliverPutOff();
+        break;
+    case QEvent::FocusAboutToChange:
+        deliverPutOff();
+        break;
     default:
-        return QApplication::notify(receiver, event);
+        break;
     }
+    return QApplication::notify(receiver, event);
+}
+
+// A button held as a modal window or a menu opens is let go there. A scroll bar would scroll on for ever.
+void Application::hold(QObject *receiver, const QMouseEvent &press)
+{
+    auto *control = qobject_cast<QWidget *>(receiver);
+    if (!control || !isToolkitsOwn(*control))
+        return;
+    m_hold = std::make_unique<Hold>(*control, [this, control, button = press.button()] {
+        m_hold.reset();
+        letGo(*control, button);
+    });
+    connect(control, &QObject::destroyed, m_hold.get(), [this] { m_hold.reset(); });
 }
 
 // X tells of a key held down by releases and presses in pairs of one time. The toolkit takes a press for a
@@ -159,13 +217,43 @@ bool Application::isRepeat(const QKeyEvent &press) const
     return ofAPair || (press.isAutoRepeat() && platformName() != u"xcb");
 }
 
+// A release that the toolkit doesn't take for half of a repeat is put off until the other half would be here.
+bool Application::deliverRelease(QObject *receiver, QKeyEvent *event)
+{
+    deliverPutOff();
+    m_released = event->timestamp();
+    m_releasedCode = event->nativeScanCode();
+    const bool mayRepeat = m_releasedCode != 0 && !event->isAutoRepeat() && platformName() == u"xcb";
+    if (!mayRepeat || !receiver->isWindowType())
+        return QApplication::notify(receiver, event);
+    putOff(receiver, *event);
+    event->accept();
+    return true;
+}
+
+void Application::putOff(QObject *receiver, const QKeyEvent &release)
+{
+    m_putOff.reset(release.clone());
+    m_putOffFor = receiver;
+    m_waits = Turns;
+    m_wait.start();
+}
+
+void Application::deliverPutOff()
+{
+    m_wait.stop();
+    const std::unique_ptr<QKeyEvent> release = std::exchange(m_putOff, nullptr);
+    if (release && m_putOffFor)
+        QApplication::notify(m_putOffFor, release.get());
+}
+
 bool Application::deliverKey(QObject *receiver, QKeyEvent *event)
 {
-    if (event->type() == QEvent::KeyRelease) {
-        m_released = event->timestamp();
-        m_releasedCode = event->nativeScanCode();
-        return QApplication::notify(receiver, event);
-    }
+    if (event->type() == QEvent::KeyRelease)
+        return deliverRelease(receiver, event);
+    if (m_putOff && event->nativeScanCode() == m_releasedCode && event->timestamp() == m_released)
+        m_putOff.reset();
+    deliverPutOff();
     const bool repeat = isRepeat(*event);
     if (repeat != event->isAutoRepeat()) {
         Press press(*event, repeat);

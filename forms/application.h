@@ -1,17 +1,25 @@
 // The toolkit's application with the program's own palette, the guard around every event, and the sign of a
-// repeat on each press of a key held down.
+// repeat on each press of a key held down. Of its pairs of release and press only the presses are delivered.
 #pragma once
 
 #include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QTimer>
 
-class QKeyEvent;
+#include <memory>
 
 namespace forms {
+
+class Hold;
 
 class Application : public QApplication {
 public:
     // Sets the palette, the style and the fonts, and keeps the process alive when the last window closes.
     Application(int &argc, char **argv);
+
+    ~Application() override;
 
     bool notify(QObject *receiver, QEvent *event) override;
 
@@ -19,9 +27,20 @@ private:
     bool deliver(QObject *receiver, QEvent *event);
     bool isRepeat(const QKeyEvent &press) const;
     bool deliverKey(QObject *receiver, QKeyEvent *event);
+    bool deliverRelease(QObject *receiver, QKeyEvent *event);
+    void putOff(QObject *receiver, const QKeyEvent &release);
+    void deliverPutOff();
+    void hold(QObject *receiver, const QMouseEvent &press);
 
     quint64 m_released = 0; // when the last key was
     quint32 m_releasedCode = 0; // and which, as the keyboard numbers its keys; 0: none
+
+    std::unique_ptr<QKeyEvent> m_putOff; // a release that may be half of a repeat
+    QPointer<QObject> m_putOffFor;
+    QTimer m_wait;
+    int m_waits = 0; // how often it is yet to run out
+
+    std::unique_ptr<Hold> m_hold; // of a control of the toolkit's
 };
 
 // What Application does, for a test that brings its own application object.

@@ -61,7 +61,7 @@ protected:
 
 private:
     bool takesButtons() const;
-    void hold();
+    void hold(Qt::MouseButton button);
 
     std::unique_ptr<Hold> m_hold; // from the press to the release
     bool m_lost = false; // the release of the last press

@@ -15,14 +15,15 @@ template <class Base> bool Control<Base>::takesButtons() const
     return MouseDown.hasHandler() || MouseUp.hasHandler() || Click.hasHandler() || DblClick.hasHandler();
 }
 
-template <class Base> void Control<Base>::hold()
+template <class Base> void Control<Base>::hold(Qt::MouseButton button)
 {
     m_lost = false;
-    if (!takesButtons())
-        return;
-    m_hold = std::make_unique<Hold>(*this, [this] {
+    m_hold = std::make_unique<Hold>(*this, [this, button] {
         m_lost = true;
         m_hold.reset();
+        // Else a text that scrolls under a held button would do so for ever.
+        QMouseEvent release = releaseOutside(*this, button);
+        Base::mouseReleaseEvent(&release);
         loseMouse();
     });
 }
@@ -35,7 +36,7 @@ template <class Base> void Control<Base>::mousePressEvent(QMouseEvent *event)
         return;
     }
     const QPointer<QObject> self(this);
-    hold();
+    hold(event->button());
     MouseDown.raise(mouseOf(*event));
     if (self)
         Base::mousePressEvent(event);
@@ -46,7 +47,7 @@ template <class Base> void Control<Base>::mousePressEvent(QMouseEvent *event)
 template <class Base> void Control<Base>::mouseDoubleClickEvent(QMouseEvent *event)
 {
     const QPointer<QObject> self(this);
-    hold();
+    hold(event->button());
     MouseDown.raise(mouseOf(*event));
     if (self)
         Base::mouseDoubleClickEvent(event);

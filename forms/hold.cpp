@@ -40,4 +40,19 @@ bool Hold::isLostBy(const QObject *receiver, const QEvent &event) const
     }
 }
 
+QMouseEvent releaseOutside(const QWidget &control, Qt::MouseButton button)
+{
+    const QPointF outside(-1, -1);
+    return { QEvent::MouseButtonRelease, outside, control.mapToGlobal(outside), button, Qt::NoButton,
+        Qt::NoModifier };
+}
+
+void letGo(QWidget &control, Qt::MouseButton button)
+{
+    QMouseEvent release = releaseOutside(control, button);
+    // Not sent: the button may still be held, and the parents have no part in it.
+    QObject &receiver = control;
+    receiver.event(&release);
+}
+
 } // namespace forms

@@ -1,6 +1,7 @@
 // A mouse button held on a control, whose release may go elsewhere.
 #pragma once
 
+#include <QMouseEvent>
 #include <QObject>
 
 #include <functional>
@@ -25,5 +26,11 @@ private:
     QWidget &m_control;
     std::function<void()> m_lost;
 };
+
+// Gives a control of the toolkit's the release that won't come: it is at rest then, without having acted.
+void letGo(QWidget &control, Qt::MouseButton button);
+
+// That release: outside the control, where a button doesn't act on it.
+QMouseEvent releaseOutside(const QWidget &control, Qt::MouseButton button);
 
 } // namespace forms

@@ -5,6 +5,7 @@
 #include "tests/support/devices.h"
 
 #include "forms/form.h"
+#include "forms/image.h"
 #include "forms/listbox.h"
 #include "forms/picturebutton.h"
 #include "forms/textbox.h"
@@ -56,6 +57,11 @@ protected:
         list.AddItem(u"Asteroids"_s);
         list.KeyDown = [this](int code) { log.push_back("list " + std::to_string(code)); };
         text.setGeometry(10, 200, 150, 60);
+        image.setGeometry(200, 60, 80, 80);
+        image.setFocusPolicy(Qt::TabFocus);
+        image.MouseDown = [this](const forms::Mouse &) { log.push_back("image down"); };
+        image.MouseUp = [this](const forms::Mouse &) { log.push_back("image up"); };
+        image.Click = [this] { log.push_back("image click"); };
         owner.KeyEnter = [this] { log.push_back("enter"); };
     }
     ~HeldKeys() override
@@ -86,6 +92,7 @@ protected:
     forms::PictureButton pair { u"Rest2"_s, u"Rest1"_s, &owner };
     forms::ListBox list { &owner };
     forms::TextArea text { &owner };
+    forms::Image image { &owner };
     drive::Log log;
 };
 
@@ -136,6 +143,39 @@ TEST_F(HeldKeys, SpaceOnAPair_ActsOnce)
     hold(u"space"_s);
     EXPECT_TRUE(comes([this] { return log.size() >= 2; }));
     EXPECT_THAT(log, ElementsAre("press", "release"));
+}
+
+TEST_F(HeldKeys, SpaceOnAPair_ActsNotBeforeItsRelease)
+{
+    show(pair);
+    const Presses presses(owner);
+    input(u"keydown space"_s);
+    EXPECT_TRUE(comes([&] { return presses.count() > Enough; })) << presses.count();
+    EXPECT_THAT(log, ElementsAre("press"));
+    EXPECT_TRUE(pair.ShowsPressed());
+    input(u"keyup space"_s);
+    EXPECT_TRUE(comes([this] { return log.size() >= 2; }));
+    EXPECT_THAT(log, ElementsAre("press", "release"));
+}
+
+TEST_F(HeldKeys, SpaceOnAnImage_HoldsItUntilItsRelease)
+{
+    show(image);
+    const Presses presses(owner);
+    input(u"keydown space"_s);
+    EXPECT_TRUE(comes([&] { return presses.count() > Enough; })) << presses.count();
+    EXPECT_THAT(log, ElementsAre("image down"));
+    input(u"keyup space"_s);
+    EXPECT_TRUE(comes([this] { return log.size() >= 3; }));
+    EXPECT_THAT(log, ElementsAre("image down", "image up", "image click"));
+}
+
+TEST_F(HeldKeys, AKeyPressedBehindARelease_ComesBehindItToo)
+{
+    show(image);
+    input(u"key space key Return"_s);
+    EXPECT_TRUE(comes([this] { return log.size() >= 4; }));
+    EXPECT_THAT(log, ElementsAre("image down", "image up", "image click", "enter"));
 }
 
 TEST_F(HeldKeys, ALetter_IsTypedAgainAndAgain)
