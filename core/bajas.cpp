@@ -3,6 +3,7 @@
 #include "core/altas.h"
 #include "core/bloques.h"
 #include "core/catalogo.h"
+#include "core/lugares.h"
 
 using namespace Qt::StringLiterals;
 
@@ -120,42 +121,9 @@ QString SinEmulador(const QString &texto, const QString &emulador)
     return copia.Texto();
 }
 
-namespace {
-
-// True if both hold the same of a system, line for line.
-bool mismaFila(const Modulo &M, int fila, const Modulo &N, int otra)
-{
-    static constexpr Tabla2<QString> Modulo::*tablas[] = { &Modulo::Cat_Nombre, &Modulo::Cat_EXE,
-        &Modulo::Cat_XDI, &Modulo::Cat_ROM, &Modulo::Cat_IMG, &Modulo::Cat_PAR1, &Modulo::Cat_PAR2,
-        &Modulo::Cat_EXT, &Modulo::Cat_WEB2 };
-    for (const auto tabla : tablas) {
-        for (int e = 0; e < MaxSistemas; ++e) {
-            if ((M.*tabla)(fila, e) != (N.*tabla)(otra, e))
-                return false;
-        }
-    }
-    return M.Cat_WEB1(fila) == N.Cat_WEB1(otra);
-}
-
-} // namespace
-
-std::optional<int> BloqueDeLaFila(const Modulo &M, int fila, const QString &texto)
-{
-    const std::unique_ptr<Modulo> leido = CatalogoDe(texto);
-    int homonimo = 0;
-    for (int s = 0; s < MaxSistemas && !leido->Cat_Nombre(s, 0).isEmpty(); ++s) {
-        if (leido->Cat_Nombre(s, 0) != M.Cat_Nombre(fila, 0))
-            continue;
-        if (mismaFila(M, fila, *leido, s))
-            return homonimo;
-        ++homonimo;
-    }
-    return {};
-}
-
 std::optional<QString> SinSistemaDeLaFila(const Modulo &M, int fila, const QString &texto)
 {
-    if (!BloqueDeLaFila(M, fila, texto))
+    if (!SonLosDeLasTablas(M, fila, texto))
         return {};
     return SinSistema(texto, Valor(M.Cat_Nombre(fila, 0), 1));
 }
@@ -172,7 +140,10 @@ std::optional<QString> SinEmuladorDeLaFila(const Modulo &M, int fila, int column
         return sinUnico(lineas, bloque);
     if (columna == total)
         return sinUltimo(lineas, bloque, total);
-    return SinEmulador(texto, Valor(M.Cat_Nombre(fila, columna), 1));
+    const QString emulador = Valor(M.Cat_Nombre(fila, columna), 1);
+    if (!PrimeroDeLaFila(M, fila, emulador, texto))
+        return {};
+    return SinEmulador(texto, emulador);
 }
 
 int PosicionParaBorrar(const Modulo &M, const QString &sistema)

@@ -29,13 +29,10 @@ QString SinEmulador(const QString &texto, const QString &emulador);
 QString SinUltimoEmulador(const QString &texto, const QString &sistema, int total);
 
 // The same as the catalogue's tables ask for them, a system by its row, an emulator by its column. Nothing
-// where the file that has just been read holds the system otherwise than the tables, line for line: it was
-// changed since they were read.
+// where the file that has just been read holds otherwise than the tables, line for line, what would go: it
+// was changed since they were read.
 std::optional<QString> SinSistemaDeLaFila(const Modulo &M, int fila, const QString &texto);
 std::optional<QString> SinEmuladorDeLaFila(const Modulo &M, int fila, int columna, const QString &texto);
-
-// Among the blocks of that name the one, from 0, that holds what this row does.
-std::optional<int> BloqueDeLaFila(const Modulo &M, int fila, const QString &texto);
 
 // The place from 0 of a system among the sorted names: its place in Combo1. Fails with 9 for a full table of
 // 151 systems.

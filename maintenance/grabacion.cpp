@@ -2,6 +2,7 @@
 
 #include "core/basededatos.h"
 #include "core/catalogo.h"
+#include "core/lugares.h"
 
 #include "forms/yield.h"
 
@@ -52,8 +53,12 @@ void Grabacion::Graba()
         return;
     }
     OcultaPasos();
-    Escribe();
+    const bool escrito = Escribe();
     OcultaPasos();
+    if (!escrito) {
+        AvisaDeCambio();
+        return;
+    }
     switch (M.Config2_Cambios) {
     case core::SinSistemaConfigurado:
         MuestraSistema();
@@ -82,10 +87,11 @@ core::Situacion Grabacion::SituacionEn(const QString &texto) const
     return core::SituacionDe(*core::CatalogoDe(texto), m_sistema, m_emulador);
 }
 
-// The kind and the addresses are those of the files as they are under the lock of the rewrite.
-void Grabacion::Escribe()
+// The kind and the addresses are those of the files as they are under the lock of the rewrite. False, with
+// nothing written, where the change would be another emulator's of the same name, added meanwhile.
+bool Grabacion::Escribe()
 {
-    reescribe(M, Zembro_emu, [this](const QString &texto) {
+    return reescribeSi(M, Zembro_emu, [this](const QString &texto) -> std::optional<QString> {
         const core::Webs webs = core::LeeWebs(M, m_sistema, m_emulador, NumeroDeLectura);
         const core::EmuladorNuevo nuevo = Bloque(webs);
         const core::Situacion situacion = SituacionEn(texto);
@@ -95,8 +101,20 @@ void Grabacion::Escribe()
                 texto, { m_sistema, webs.sistema, core::ExtensionesDeBase(M, Fila()), nuevo });
         if (situacion == core::SinEmuladorConfigurado)
             return core::ConEmuladorConfigurado(texto, u'-' + m_sistema, nuevo);
+        if (!core::PrimeroDelSistema(M, m_sistema, m_emulador, texto))
+            return {};
         return core::ConEmuladorCambiado(texto, nuevo);
     });
+}
+
+// The steps close: what they show was filled from tables that hold no more.
+void Grabacion::AvisaDeCambio()
+{
+    releeTodo(M, P);
+    avisaDeCambio(M, P);
+    m_paso1.Unload();
+    m_paso2.Unload();
+    P.Lista1->setFocus();
 }
 
 bool Grabacion::EsRechazada()

@@ -29,7 +29,8 @@ private:
     bool EsRechazada();
     void MiraSituacion();
     core::Situacion SituacionEn(const QString &texto) const;
-    void Escribe();
+    bool Escribe();
+    void AvisaDeCambio();
     void MuestraSistema();
     void MuestraEmulador();
     void MuestraCambio();

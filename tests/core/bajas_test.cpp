@@ -292,6 +292,50 @@ TEST_F(BajasDeLaFila, OfTwoSystemsOfOneNameTheOneOfTheTablesLosesItsEmulator)
         SinEmulador(0, 3, alfa + otra + Fin), Texto(SistemaDe(CabezaAlfa, { "A1", "A2" }) + otra + Fin));
 }
 
+TEST_F(BajasDeLaFila, ABlockOfTheSystemsNameAddedMeanwhileStays)
+{
+    const QByteArray nueva = SistemaDe(CabezaAlfa, { "A4" });
+    Lee(Cabecera + alfa + beta + Fin);
+    for (const QByteArray &bytes : { QByteArray(Cabecera + alfa + beta + nueva + Fin),
+             QByteArray(Cabecera + nueva + alfa + beta + Fin), QByteArray(alfa + alfa + beta + Fin) }) {
+        EXPECT_EQ(SinSistema(0, bytes), std::nullopt) << bytes.toStdString();
+        for (int columna = 1; columna <= 3; ++columna)
+            EXPECT_EQ(SinEmulador(0, columna, bytes), std::nullopt) << bytes.toStdString();
+    }
+    Lee(Cabecera + alfa + nueva + Fin);
+    EXPECT_EQ(SinSistema(0, Cabecera + alfa + Fin), std::nullopt);
+    EXPECT_EQ(SinSistema(0, Cabecera + alfa + SistemaDe(CabezaAlfa, { "A5" }) + Fin), std::nullopt);
+    EXPECT_EQ(SinSistema(0, Cabecera + alfa + nueva + Fin), Texto(Cabecera + Fin));
+}
+
+TEST_F(BajasDeLaFila, AnEmulatorOfTheSameNameAddedMeanwhileFurtherUpStays)
+{
+    Lee(Cabecera + beta + alfa + Fin);
+    const QByteArray con = SistemaDe(CabezaBeta, { "B1", "A1" });
+    EXPECT_EQ(SinEmulador(1, 1, Cabecera + con + alfa + Fin), std::nullopt);
+    EXPECT_EQ(SinEmulador(1, 1, Cabecera + SistemaDe(CabezaGamma, { "A1", "G1" }) + beta + alfa + Fin),
+        std::nullopt);
+    // Others don't go by the first of the name, or don't stand further up.
+    EXPECT_EQ(SinEmulador(1, 3, Cabecera + con + alfa + Fin),
+        Texto(Cabecera + con + SistemaDe(CabezaAlfa, { "A1", "A2" }) + Fin));
+    EXPECT_EQ(SinEmulador(1, 2, Cabecera + con + alfa + Fin),
+        Texto(Cabecera + con + SistemaDe(CabezaAlfa, { "A1", "A3" }) + Fin));
+    EXPECT_EQ(SinEmulador(1, 1, Cabecera + alfa + con + Fin),
+        Texto(Cabecera + SistemaDe(CabezaAlfa, { "A2", "A3" }) + con + Fin));
+}
+
+TEST_F(BajasDeLaFila, OfAnEmulatorThatStoodTwiceTheFirstGoes_WhereItsSystemIsAsItWas)
+{
+    const QByteArray doble = SistemaDe(CabezaBeta, { "A1", "B1" });
+    Lee(doble + alfa + Fin);
+    EXPECT_EQ(SinEmulador(1, 1, doble + alfa + Fin), Texto(SistemaDe(CabezaBeta, { "B1" }) + alfa + Fin));
+    EXPECT_EQ(SinEmulador(1, 1, SistemaDe(CabezaBeta, { "A1", "B1", "B2" }) + alfa + Fin), std::nullopt);
+    EXPECT_EQ(
+        SinEmulador(1, 1, beta + alfa + Fin), Texto(beta + SistemaDe(CabezaAlfa, { "A2", "A3" }) + Fin));
+    Lee(alfa + doble + Fin);
+    EXPECT_EQ(SinEmulador(0, 1, doble + alfa + Fin), std::nullopt);
+}
+
 TEST_F(BajasDeLaFila, OfAFileThatNoLongerFitsTheTablesWhatFitsCounts)
 {
     Lee(alfa + Fin);
