@@ -131,12 +131,25 @@ void Configuracion1::LlenaYElige(const QString &sistema)
 }
 
 // True if each entry of Lista1 still leads to its own name in the tables, and none is missing.
-bool Configuracion1::ListasAlDia() const
+bool Configuracion1::SistemasAlDia() const
 {
     if (Lista1->ListCount() != M.BD_Sistema + 1)
         return false;
     for (int i = 0; i < Lista1->ListCount(); ++i) {
         if (M.BD_Nombre(Lista1->ItemData(i), 0) != u'-' + Lista1->List(i))
+            return false;
+    }
+    return true;
+}
+
+// The same of Lista2 and the emulators of the selected system.
+bool Configuracion1::EmuladoresAlDia() const
+{
+    const int sistema = Sistema();
+    if (Lista2->ListCount() != core::TotalEmuladoresDeBase(M, sistema))
+        return false;
+    for (int i = 0; i < Lista2->ListCount(); ++i) {
+        if (M.BD_Nombre(sistema, Lista2->ItemData(i) + 1) != u'+' + Lista2->List(i))
             return false;
     }
     return true;

@@ -69,7 +69,8 @@ private:
     void Llena_Configuracion1();
     void LlenaYElige(const QString &sistema);
     void LlenaLista2();
-    bool ListasAlDia() const;
+    bool SistemasAlDia() const;
+    bool EmuladoresAlDia() const;
     void Lista1_Selection();
     void PonPareja();
     int Sistema() const; // row of the selected system in the tables; fails with 380 if none is

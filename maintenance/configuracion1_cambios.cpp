@@ -103,7 +103,8 @@ void Configuracion1::AñadirEmulador()
 }
 
 // What the catalogue uses is refused by the tables, and once more by the file as it is when the change is
-// written, as another copy may have configured it meanwhile.
+// written, as another copy may have configured it meanwhile. A pair that the lists alone make, each of
+// another system, is in no file: nothing goes, and nothing has changed.
 void Configuracion1::BorrarEmulador()
 {
     if (Lista2->ListIndex() < 0)
@@ -112,11 +113,13 @@ void Configuracion1::BorrarEmulador()
     if (!Confirma(M.Msg_BorrarEmu1 + emulador + u'?', M.Msg_BorrarEmu0))
         return;
     const QString sistema = Lista1->Text();
+    const bool conocido = core::EmuladorEnBase(M, Sistema(), emulador);
     bool enUso = core::EmuladorEnCatalogo(M, emulador);
+    bool escrito = false;
     if (!enUso)
-        reescribeSi(M, Zembro_sye, [&](const QString &texto) -> std::optional<QString> {
+        escrito = reescribeSi(M, Zembro_sye, [&](const QString &texto) -> std::optional<QString> {
             enUso = core::EmuladorEnCatalogo(*core::CatalogoDe(textoSiHay(M, Zembro_emu)), emulador);
-            if (enUso)
+            if (enUso || !core::TieneEmulador(texto, sistema, emulador))
                 return {};
             return core::SinEmuladorEnBase(texto, sistema, emulador);
         });
@@ -126,6 +129,8 @@ void Configuracion1::BorrarEmulador()
     }
     LlenaYElige(sistema);
     Lista2->SetListIndex(0);
+    if (conocido && !escrito)
+        Mensaje(3, M.Palabras.Zem_Cambiado1, M.Palabras.Zem_Cambiado0);
 }
 
 void Configuracion1::BorrarSistema()
@@ -148,30 +153,27 @@ void Configuracion1::BorrarSistema()
     }
 }
 
-// The files decide as they are at each of the rewrites. The notes stay where the system's name can't be told
-// from their own lines.
+// The database goes first, as the files decide then, under one lock: where the system stays, all of it does.
+// The notes stay where the system's name can't be told from their own lines.
 Configuracion1::Baja Configuracion1::BorraDeLosFicheros(const QString &sistema, int fila)
 {
     Baja baja = Baja::Hecha;
-    const auto quita = [&](const QString &fichero, const auto &sinSistema) {
-        return reescribeSi(M, fichero, [&](const QString &texto) -> std::optional<QString> {
-            if (core::TieneSistema(textoSiHay(M, Zembro_emu), sistema))
-                baja = Baja::EnUso;
-            else if (!core::EsComoEnBase(M, fila, fichero == Zembro_sye ? texto : textoDe(M, Zembro_sye)))
-                baja = Baja::Cambiado;
-            if (baja != Baja::Hecha)
-                return {};
-            return sinSistema(texto, sistema);
-        });
-    };
     const bool conNotas = !core::EsLineaDeNotas(sistema);
-    if (conNotas && !quita(Zembro_rom, core::SinParametrosDeSistema))
-        return baja;
-    if (!quita(Zembro_sye, core::SinSistema))
-        return baja;
-    if (conNotas)
-        reescribe(
-            M, Zembro_rom, [&](const QString &texto) { return core::SinNotasDeSistema(texto, sistema); });
+    reescribeSi(M, Zembro_sye, [&](const QString &texto) -> std::optional<QString> {
+        if (core::TieneSistema(textoSiHay(M, Zembro_emu), sistema))
+            baja = Baja::EnUso;
+        else if (!core::EsComoEnBase(M, fila, texto))
+            baja = Baja::Cambiado;
+        if (baja != Baja::Hecha)
+            return {};
+        if (conNotas)
+            textoDe(M, Zembro_rom); // without which nothing goes
+        return core::SinSistema(texto, sistema);
+    });
+    if (baja == Baja::Hecha && conNotas)
+        reescribe(M, Zembro_rom, [&](const QString &texto) {
+            return core::SinNotasDeSistema(core::SinParametrosDeSistema(texto, sistema), sistema);
+        });
     return baja;
 }
 

@@ -23,7 +23,8 @@ bool Configuracion1::Pide(const QString &mensaje, const QString &titulo, const Q
 }
 
 // The lists keep their entries, unless another program has changed the database so that these no longer lead
-// to what they name. Where what is to change has gone meanwhile, nothing changes.
+// to what they name. Lista2 may show another system's emulators, and goes on doing so. Where what is to
+// change has gone meanwhile, nothing changes.
 void Configuracion1::CambiaEnAmbos(const Cambio &cambio, const Pareja &pareja)
 {
     const bool conocida = pareja.deEmulador && core::EmuladorEnBase(M, Sistema(), pareja.emulador);
@@ -39,6 +40,7 @@ void Configuracion1::CambiaEnAmbos(const Cambio &cambio, const Pareja &pareja)
         Mensaje(3, M.Palabras.Zem_Cambiado1, M.Palabras.Zem_Cambiado0);
         return;
     }
+    const bool suyos = EmuladoresAlDia();
     M.CambioConfig1 = 1;
     Llena_Configuracion1();
     M.CambioConfig1 = 0;
@@ -46,7 +48,7 @@ void Configuracion1::CambiaEnAmbos(const Cambio &cambio, const Pareja &pareja)
         reescribe(M, u"Zembro.emu"_s, cambio);
         releeTablas(M, P);
     }
-    if (!ListasAlDia()) {
+    if (!SistemasAlDia() || (suyos && !EmuladoresAlDia())) {
         LlenaYElige(pareja.sistema);
         Lista2->SetText(pareja.emulador);
     }

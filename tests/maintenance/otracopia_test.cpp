@@ -180,7 +180,118 @@ TEST_F(OtraCopiaTest, TheRightSystemIsShown_WhereOthersHaveComeOrGoneMeanwhile)
     EXPECT_THAT(entries(systems()), IsEmpty());
 }
 
+TEST_F(OtraCopiaTest, AnEmulatorOfTheSameNameAddedToAnotherSystemMeanwhileStays)
+{
+    catalogue = Top + own({ "O1" }) + nes({ "N1", "N2" }) + End;
+    begin();
+    pick(systems(), u"NES"_s);
+    pick(emulators(), u"N1"_s);
+    remove(u"Menos2b"_s, [this] {
+        writeCatalogue(Top + own({ "O1", "N1" }) + nes({ "N1", "N2" }) + End);
+        atChanged();
+    });
+    expectFilesUnchanged();
+    EXPECT_EQ(systems().Text() + u' ' + emulators().Text(), u"NES N1"_s);
+}
+
+TEST_F(OtraCopiaTest, ASecondSystemOfTheNameAddedMeanwhileStays)
+{
+    begin();
+    remove(u"Menos2a"_s, [this] {
+        writeCatalogue(Top + nes({ "N1", "N2" }) + own({ "O1" }) + nes({ "N3" }) + End);
+        atChanged();
+    });
+    expectFilesUnchanged();
+}
+
 // In the first step.
+
+TEST_F(OtraCopiaTest, AnEmulatorThatHasGoneMeanwhile_AloneOrWithItsSystem_IsSaidToHave)
+{
+    for (const bool alone : { true, false }) {
+        renew();
+        catalogue = Top + End;
+        const QByteArray before = database;
+        begin();
+        configure([&, this](forms::Form &form) {
+            select(listOf(form, u"Lista1"_s), u"NES"_s);
+            select(listOf(form, u"Lista2"_s), u"N2"_s);
+            writeDatabase(database.replace(known("NES", "http://nes", { "N1", "N2" }),
+                alone ? known("NES", "http://nes", { "N1" }) : QByteArray()));
+            ASSERT_NE(before, database);
+            atQuestion(u"Msg_BorrarEmu"_s, u"N2"_s, true);
+            atChanged();
+            press(form, u"Boton_Menos2"_s);
+            expectFilesUnchanged();
+            EXPECT_EQ(systemsOf(form).contains(u"NES"_s), alone);
+        });
+        database = before;
+    }
+}
+
+// The lists don't lead to one another any more then, but nothing has changed.
+TEST_F(OtraCopiaTest, OfAPairThatTheListsAloneMakeNoEmulatorGoes_AndNothingIsSaid)
+{
+    catalogue = Top + End;
+    begin();
+    configure([this](forms::Form &form) {
+        select(listOf(form, u"Lista1"_s), u"NES"_s);
+        atInput(u"Msg_NuevaWWWROMS"_s, u"http://nes"_s, u"x"_s);
+        press(form, u"Boton_W1"_s);
+        database.replace("-NES\r\nWEB1=http://nes", "-NES\r\nWEB1=x");
+        select(listOf(form, u"Lista1"_s), u"PSX"_s);
+        EXPECT_EQ(pairOf(form), u"NES -> N1"_s);
+        atQuestion(u"Msg_BorrarEmu"_s, u"N1"_s, true);
+        press(form, u"Boton_Menos2"_s);
+        expectFilesUnchanged();
+    });
+}
+
+TEST_F(OtraCopiaTest, TheEmulatorsShownAreThoseOfTheDatabase_AfterAChangeOfTheirSystem)
+{
+    for (const QString &button : { u"Boton_W1"_s, u"Boton_W2"_s }) {
+        renew();
+        catalogue = Top + End;
+        const QByteArray before = database;
+        begin();
+        configure([&, this](forms::Form &form) {
+            select(listOf(form, u"Lista1"_s), u"NES"_s);
+            select(listOf(form, u"Lista2"_s), u"N2"_s);
+            writeDatabase(
+                database.replace("+N1\r\nWEB2=http://n1", "+N0\r\nWEB2=http://n0\r\n+N1\r\nWEB2=http://n1"));
+            ASSERT_NE(before, database);
+            atModal(u"Caja"_s, [](forms::Form &box) {
+                write(box, u"Casilla"_s, u"x"_s);
+                click(controlOf<QWidget>(box, u"Aceptar2"_s));
+            });
+            press(form, button);
+            EXPECT_THAT(entriesOf(listOf(form, u"Lista2"_s)), ElementsAre(u"N0"_s, u"N1"_s, u"N2"_s));
+            EXPECT_EQ(pairOf(form), u"NES -> N2"_s);
+            const QString offered = button == u"Boton_W2" ? u"x"_s : u"http://n2"_s;
+            atInput(u"Msg_NuevaWWW"_s, offered, offered);
+            press(form, u"Boton_W2"_s);
+        });
+        database = before;
+    }
+}
+
+TEST_F(OtraCopiaTest, TheRecordsOfASystemStay_WhereTheDatabaseCantBeRewritten)
+{
+    catalogue = Top + End;
+    begin();
+    const auto end = endOfConfiguring([this](forms::Form &form) {
+        // Elsewhere, where another's work takes the place of the scratch file.
+        files.write(u"elsewhere/Zembro.sye"_s, database);
+        files.write(u"elsewhere/Zembro.tmp/in_use"_s, {});
+        files.remove(u"Zembro.sye"_s);
+        ASSERT_TRUE(QFile::link(files.path(u"elsewhere/Zembro.sye"_s), files.path(u"Zembro.sye"_s)));
+        select(listOf(form, u"Lista1"_s), u"NES"_s);
+        atQuestion(u"Msg_BorrarSis"_s, u"NES"_s, true);
+        press(form, u"Menos1"_s);
+    });
+    ASSERT_TRUE(end);
+    expectFilesUnchanged();
+}
 
 TEST_F(OtraCopiaTest, ASystemAddedMeanwhileIsntAddedTwice)
 {
@@ -369,6 +480,22 @@ TEST_F(OtraCopiaTest, TheKindOfASaveIsThatOfTheCatalogueAsItIsThen)
             EXPECT_EQ(listed().size(), 2);
         }
     }
+}
+
+TEST_F(OtraCopiaTest, ASaveDoesntChangeAnEmulatorOfTheNameAddedToAnotherSystemMeanwhile)
+{
+    catalogue = Top + own({ "O1" }) + nes({ "N1", "N2" }) + End;
+    begin();
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/new"_s);
+        writeCatalogue(Top + own({ "O1", "N1" }) + nes({ "N1", "N2" }) + End);
+        atChanged();
+        save(form);
+    });
+    expectFilesUnchanged();
+    EXPECT_EQ(systems().Text(), u"NES"_s);
+    pick(systems(), u"Own"_s);
+    EXPECT_THAT(entries(emulators()), ElementsAre(u"N1"_s, u"O1"_s));
 }
 
 TEST_F(OtraCopiaTest, WhatTheOtherCopyHasSavedAlreadyIsNoChange)
