@@ -40,33 +40,6 @@ public:
     }
 };
 
-// Fills what lies between the rows and the frame, or the bar along the bottom.
-class Blank final : public QWidget {
-public:
-    explicit Blank(ListBox *list)
-        : QWidget(list)
-        , m_list(*list)
-    {
-        setAutoFillBackground(true);
-        setBackgroundRole(QPalette::Base);
-        lower();
-        m_list.viewport()->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() == QEvent::Resize || event->type() == QEvent::Move) {
-            const QRect rows = m_list.viewport()->geometry();
-            setGeometry(QRect(
-                rows.bottomLeft() + QPoint(0, 1), QPoint(rows.right(), m_list.contentsRect().bottom())));
-        }
-        return false;
-    }
-
-private:
-    ListBox &m_list;
-};
-
 bool isMouseEvent(const QEvent &event)
 {
     switch (event.type()) {
@@ -109,19 +82,27 @@ void ListBox::SetHorizontalBar()
 
 void ListBox::SetWholeRows()
 {
-    m_wholeRows = true;
-    new Blank(this);
+    m_blank = new QWidget(this);
+    m_blank->setAutoFillBackground(true);
+    m_blank->setBackgroundRole(QPalette::Base);
+    m_blank->lower();
     updateGeometries();
 }
 
 void ListBox::updateGeometries()
 {
-    if (m_wholeRows) {
+    if (m_blank) {
         const int rest = (viewport()->height() + viewportMargins().bottom()) % fontMetrics().height();
         if (rest != viewportMargins().bottom())
             setViewportMargins(0, 0, 0, rest);
     }
     Control::updateGeometries();
+    // A bar that comes or goes moves the rows' end; while the list is hidden, nobody is told of it.
+    if (m_blank) {
+        const QRect rows = viewport()->geometry();
+        m_blank->setGeometry(
+            QRect(rows.bottomLeft() + QPoint(0, 1), QPoint(rows.right(), contentsRect().bottom())));
+    }
 }
 
 int ListBox::AddItem(const QString &text, int itemData)

@@ -63,7 +63,7 @@ private:
     bool press(const QMouseEvent &event);
 
     bool m_sorted;
-    bool m_wholeRows = false;
+    QWidget *m_blank = nullptr; // fills what lies between the rows and the frame, or the bar below
 };
 
 } // namespace forms

@@ -80,6 +80,25 @@ TEST_F(DirectoryLists, ThePath_ShowsTheWayToItAndWhatLiesInIt)
     EXPECT_THAT(below(), ElementsAre(u"alfa"_s, u"Zeta"_s));
 }
 
+TEST_F(DirectoryLists, WhereABarBelowWasNeededBeforeTheFormShowed_TheBottomIsBlank)
+{
+    form.SetBackColour(Qt::black);
+    list.SetWholeRows();
+    QDir(path()).mkpath(u"wide/"_s + QString(60, u'm'));
+    for (const int rest : { 0, 1, 5, 11 }) {
+        form.hide();
+        list.resize(150, 140 + rest);
+        list.SetPath(path(u"wide"_s));
+        list.SetPath(path(u"alfa/inner"_s));
+        drive::show(form);
+        const QImage picture = list.grab().toImage();
+        const QRect inside = list.contentsRect();
+        const int end = list.viewport()->y() + list.visualItemRect(list.item(list.ListCount() - 1)).bottom();
+        for (int y = end + 1; y <= inside.bottom(); ++y)
+            ASSERT_EQ(picture.pixelColor(inside.center().x(), y), QColor(Qt::white)) << rest << ' ' << y;
+    }
+}
+
 TEST_F(DirectoryLists, TheSamePathAgain_IsNoChange)
 {
     list.SetPath(path());
