@@ -2,17 +2,13 @@
 
 #include "host/textsource.h"
 
-using namespace Qt::StringLiterals;
-
 namespace core {
 
 namespace {
 
 bool vuelve(const QString &campo, const QString &texto)
 {
-    const QString siguiente = u"."_s;
-    host::TextSource fuente(campo + u',' + siguiente);
-    return fuente.readField() == texto && fuente.rest() == siguiente;
+    return host::TextSource(campo + u',').readField() == texto;
 }
 
 } // namespace

@@ -23,7 +23,7 @@ protected:
 
 const QString Seccion =
     u"Console\nA,\"B\"\n'\nParametros especificos de cada ROM\n"
-    "PONG,Console,Emu,-x -y\nPong,Console,Other,-z\nEMPTY,Console,Emu,\n'\nfin\nfin,\"fin\"\n"_s;
+    "PONG,Console,Emu,-x -y\nPong,Console,Other,-z\nPONG,Handheld,Emu,-h\nEMPTY,Console,Emu,\n'\nfin\nfin,\"fin\"\n"_s;
 
 QString Escritos(const QString &clave, const QString &sistema, const QString &emulador)
 {
@@ -82,7 +82,8 @@ TEST_F(RomElegida, WrittenParametersAreThoseOfKeySystemAndEmulatorCaseApart)
     EXPECT_EQ(Escritos(u"pong"_s, u"CONSOLE"_s, u"emu"_s), u"-x -y"_s);
     EXPECT_EQ(Escritos(u"pong"_s, u"Console"_s, u"Other"_s), u"-z"_s);
     EXPECT_EQ(Escritos(u"pong"_s, u"Console"_s, u"Third"_s), QString());
-    EXPECT_EQ(Escritos(u"pong"_s, u"Handheld"_s, u"Emu"_s), QString());
+    EXPECT_EQ(Escritos(u"pong"_s, u"Handheld"_s, u"Emu"_s), u"-h"_s);
+    EXPECT_EQ(Escritos(u"pong"_s, u"Handheld"_s, u"Other"_s), QString());
     EXPECT_EQ(Escritos(u"quest"_s, u"Console"_s, u"Emu"_s), QString());
 }
 

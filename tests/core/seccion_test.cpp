@@ -65,7 +65,8 @@ INSTANTIATE_TEST_SUITE_P(Bloques, TrasLaSeccion,
         u"'\r\nConsole\r\nA.BIN,\"a \"b\" c, d\"\r\nB.BIN,\"b\"\r\n'\r\n"_s,
         u"'\r\nConsole\r\nA.BIN,\"a\r\nB.BIN,\"b\"\r\n'\r\n"_s,
         u"'\r\nConsole\r\nA.BIN,plain , more\r\nB.BIN,\"b\"\r\n'\r\n"_s,
-        u"'\r\nConsole\r\nA.BIN\r\n'\r\nThree\r\n'\r\n"_s, u"',fin\r\nConsole\r\nA.BIN,\"a\"\r\n'\r\n"_s));
+        u"'\r\nConsole\r\nA.BIN\r\na \"b\" c\r\n'\r\n"_s, u"'\r\nConsole\r\nA.BIN\r\n'\r\nThree\r\n'\r\n"_s,
+        u"',fin\r\nConsole\r\nA.BIN,\"a\"\r\n'\r\n"_s));
 
 TEST_P(RegistroAjeno, KeepsItsFields)
 {
@@ -95,6 +96,12 @@ TEST(Seccion, AClosingRecordOnOneLineGoesOnThreeOrFour)
 {
     EXPECT_EQ(cambiado(Cabecera + u"',fin,fin,fin\n'x\n"_s), Cabecera + Cierre + u"'x\n"_s);
     EXPECT_EQ(sinSistema(Cabecera + u"',Two,',Three\n'\n"_s), Cabecera + u"'\r\nTwo\r\n'\r\nThree\r\n'\n"_s);
+}
+
+TEST(Seccion, AFieldThatRunsToTheEndOfTheFileStaysWhole)
+{
+    const QString texto = Cabecera + u"A,s,e,\"a\r\nb,"_s;
+    EXPECT_EQ(sinSistema(texto), texto);
 }
 
 TEST(Seccion, RecordsComeBackAsTheyWereWritten_WhateverTheirFieldsHold)

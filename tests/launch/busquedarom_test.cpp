@@ -173,6 +173,14 @@ TEST(EligeFichero, NothingFits)
     EXPECT_EQ(EligeFichero({ u"a.nes"_s, u"b.nes"_s }, {}), std::nullopt);
 }
 
+TEST(EligeFichero, ExtensionsPastTheFirstEmptyOneAreNotTried)
+{
+    const QStringList conHueco { u"*.NES"_s, QString(), u"*.FDS"_s };
+    EXPECT_EQ(EligeFichero({ u"a.fds"_s }, conHueco), std::nullopt);
+    EXPECT_EQ(EligeFichero({ u"read.me"_s, u"a.fds"_s }, conHueco), std::nullopt);
+    EXPECT_THAT(EligeFichero({ u"a.nes"_s }, conHueco), Optional(Eq(u"a.nes"_s)));
+}
+
 TEST(EligeFichero, AnInnerArchiveNamedInUpperCaseIsSkipped)
 {
     EXPECT_THAT(EligeFichero({ u"INNER.ZIP"_s, u"a.nes"_s }, Nes), Optional(Eq(u"a.nes"_s)));
