@@ -249,8 +249,10 @@ void Application::deliverPutOff()
 
 bool Application::deliverKey(QObject *receiver, QKeyEvent *event)
 {
-    if (event->type() == QEvent::KeyRelease)
+    if (event->type() == QEvent::KeyRelease) {
+        m_shutBy = 0;
         return deliverRelease(receiver, event);
+    }
     if (m_putOff && event->nativeScanCode() == m_releasedCode && event->timestamp() == m_released)
         m_putOff.reset();
     deliverPutOff();
@@ -266,7 +268,27 @@ bool Application::deliverKey(QObject *receiver, QKeyEvent *event)
         event->accept();
         return true;
     }
+    if (event->type() == QEvent::ShortcutOverride)
+        return deliverOverride(receiver, event);
+    if (m_shutBy != 0 && event->key() == m_shutBy) {
+        event->accept();
+        return true;
+    }
     return QApplication::notify(receiver, event);
+}
+
+// A drop-down list takes the key that picks here already, and is shut by the time that the press comes, which
+// what lies below would take for its own.
+bool Application::deliverOverride(QObject *receiver, QKeyEvent *event)
+{
+    const bool open = activePopupWidget() != nullptr;
+    const QPointer<QWidget> list = activePopupWidget();
+    if (!event->isAutoRepeat())
+        m_shutBy = 0;
+    const bool taken = QApplication::notify(receiver, event);
+    if (open && !(list && list->isVisible()))
+        m_shutBy = event->key();
+    return taken;
 }
 
 void setLook(QApplication &application)

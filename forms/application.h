@@ -27,6 +27,7 @@ private:
     bool deliver(QObject *receiver, QEvent *event);
     bool isRepeat(const QKeyEvent &press) const;
     bool deliverKey(QObject *receiver, QKeyEvent *event);
+    bool deliverOverride(QObject *receiver, QKeyEvent *event);
     bool deliverRelease(QObject *receiver, QKeyEvent *event);
     void putOff(QObject *receiver, const QKeyEvent &release);
     void deliverPutOff();
@@ -34,6 +35,8 @@ private:
 
     quint64 m_released = 0; // when the last key was
     quint32 m_releasedCode = 0; // and which, as the keyboard numbers its keys; 0: none
+
+    int m_shutBy = 0; // the key that has shut a list or a menu ahead of its press; 0: none
 
     std::unique_ptr<QKeyEvent> m_putOff; // a release that may be half of a repeat
     QPointer<QObject> m_putOffFor;

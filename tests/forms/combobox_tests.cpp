@@ -232,6 +232,49 @@ TEST_F(Combos, EnterWithoutAKeyHandler_ReachesTheForm)
     EXPECT_EQ(enters, 1);
 }
 
+// The toolkit shuts the list before the press itself is delivered, which then finds none open.
+TEST_F(Combos, TheKeyThatPicksFromTheDroppedList_GoesNoFurther)
+{
+    fill({ u"a"_s, u"b"_s });
+    std::vector<std::string> log;
+    combo.KeyDown = [&](int code) { log.push_back("combo " + std::to_string(code)); };
+    form.KeyEnter = [&] { log.push_back("form"); };
+    drive::show(form);
+    combo.setFocus();
+    for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Enter }) {
+        combo.showPopup();
+        ASSERT_TRUE(combo.view()->isVisible());
+        selected.clear();
+        drive::key(form, Qt::Key_Down);
+        drive::keyDown(form, key);
+        drive::repeatedKey(combo, key);
+        drive::keyUp(form, key);
+        EXPECT_FALSE(combo.view()->isVisible());
+        EXPECT_THAT(selected, testing::SizeIs(1));
+        EXPECT_THAT(log, IsEmpty());
+    }
+    drive::key(form, Qt::Key_Return);
+    EXPECT_THAT(log, ElementsAre("combo 13"));
+}
+
+// Else the next press, of another window perhaps, would be lost.
+TEST_F(Combos, TheKeyThatPicked_IsForgottenWithItsRelease)
+{
+    fill({ u"a"_s });
+    int presses = 0;
+    combo.KeyDown = [&](int) { ++presses; };
+    drive::show(form);
+    combo.setFocus();
+    combo.showPopup();
+    QKeyEvent override(QEvent::ShortcutOverride, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(combo.view(), &override);
+    ASSERT_FALSE(combo.view()->isVisible());
+    drive::keyUp(form, Qt::Key_Return);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(&combo, &press);
+    EXPECT_EQ(presses, 1);
+}
+
 TEST_F(Combos, TheWheelOverAComboWithoutTheFocus_DoesNothing)
 {
     fill({ u"a"_s, u"b"_s });
