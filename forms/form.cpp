@@ -45,17 +45,28 @@ void stackOver(QWidget &form, QWidget *lower)
     form.windowHandle()->setTransientParent(lower ? lower->window()->windowHandle() : nullptr);
 }
 
+// Wayland tells no program where its windows stand: places count from the owner's corner, wherever that is,
+// and the compositor itself keeps what it places on the screen.
+bool knowsPlaces()
+{
+    return !QGuiApplication::platformName().startsWith(u"wayland");
+}
+
 // In the middle of the owner's client area, or of the screen, and wholly on the screen where it has room.
 void centre(QWidget &form, const QWidget *owner)
 {
     const QScreen *screen = owner ? owner->screen() : QApplication::primaryScreen();
     const QRect free = screen->availableGeometry();
     QRect place(QPoint(0, 0), form.size());
-    place.moveCenter(owner ? owner->window()->geometry().center() : free.center());
-    place.moveRight(std::min(place.right(), free.right()));
-    place.moveBottom(std::min(place.bottom(), free.bottom()));
-    place.moveLeft(std::max(place.left(), free.left()));
-    place.moveTop(std::max(place.top(), free.top()));
+    // Not by its geometry, which stays what was once asked for.
+    const QWidget *lower = owner ? owner->window() : nullptr;
+    place.moveCenter(lower ? lower->mapToGlobal(lower->rect().center()) : free.center());
+    if (knowsPlaces()) {
+        place.moveRight(std::min(place.right(), free.right()));
+        place.moveBottom(std::min(place.bottom(), free.bottom()));
+        place.moveLeft(std::max(place.left(), free.left()));
+        place.moveTop(std::max(place.top(), free.top()));
+    }
     form.setGeometry(place);
 }
 

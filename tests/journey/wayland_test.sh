@@ -1,6 +1,7 @@
 #!/bin/bash
-# The program under a Wayland compositor without a screen: wayland_test.sh BUILD. Its main window comes, with its title
-# and a picture, it stays alive, and it ends when it is told to. Status 77 where there is no compositor to try.
+# The program under a Wayland compositor whose screen is a window of an X server: wayland_test.sh BUILD. Its main window
+# comes, with its title and a picture; its keys are pressed on the server's keyboard; what opens over it stands over it;
+# and it ends when it is told to. Status 77 where there is no compositor to try.
 set -u
 
 build=$1
@@ -34,19 +35,26 @@ alive() { kill -0 "$1" 2>/dev/null; }
 
 export XDG_RUNTIME_DIR=$work/run HOME=$work
 mkdir -m 700 "$XDG_RUNTIME_DIR"
-unset DISPLAY
-weston --no-config --backend=headless-backend.so --socket=wayland-test --idle-time=0 >"$work/weston.log" 2>&1 &
+weston --no-config --backend=x11-backend.so --use-pixman --socket=wayland-test --idle-time=0 --width=1200 --height=900 \
+    >"$work/weston.log" 2>&1 &
 compositor=$!
 comes test -S "$XDG_RUNTIME_DIR/wayland-test" || fail "no compositor"
+is_shown() { [ -n "$(xdotool search --onlyvisible --class weston)" ]; }
+comes is_shown || fail "no screen of the compositor"
+xdotool search --onlyvisible --class weston windowactivate --sync
 
 # Settings as they stand behind the first run.
 "$sources/packaging/assemble.sh" "$build" "$work/program" >/dev/null || fail "no program directory"
 printf '%s\r\n' \' \' \' \' \' \' \' \' \' '' '[General]' 'LastSisUsed = 0' 'LastEmuUsed = 0' 'SaveLastEmu&Sis = 1' \
     'TypeOfEditor = 1' 'MsgEndDOS = Finalizado' 'LanguageFile = ZB-ESP.LNG' 'DebugMode = 0' '' '[Filters]' CFG ROMS '' '[EOF]' \
     >"$work/program/Zembro.cfg"
+# An emulator that only tells that it was started.
+printf '#!/bin/sh\necho "$*" >>"%s/played"\n' "$work" >"$work/emulator"
+chmod 755 "$work/emulator"
+sed -i "s|^EXE=.*|EXE=$work/emulator\r|" "$work/program/Zembro.emu"
 
 # The client tells each message that it sends.
-WAYLAND_DISPLAY=wayland-test WAYLAND_DEBUG=1 QT_QPA_PLATFORM=wayland "$work/program/Zembrolix" 2>"$work/wire.log" &
+env -u DISPLAY WAYLAND_DISPLAY=wayland-test WAYLAND_DEBUG=1 QT_QPA_PLATFORM=wayland TMPDIR="$work" "$work/program/Zembrolix" 2>"$work/wire.log" &
 program=$!
 # A surface shows from the first commit that has a buffer attached.
 has_window() {
@@ -63,6 +71,54 @@ comes grep -qE 'wl_buffer@[0-9]+\.release|wl_callback@[0-9]+\.done' "$work/wire.
 alive "$program" || fail "the program ended"
 ! grep -q 'wl_display@1.error' "$work/wire.log" || fail "a breach of the protocol"
 
+# From here on by keys.
+told() { grep -qE -- "$1" "$work/wire.log"; }
+tell() { xdotool "$@"; sleep 0.3; }
+popups() { grep -cE -- '-> xdg_surface@[0-9]+\.get_popup' "$work/wire.log"; }
+shut() { grep -cE -- '-> xdg_popup@[0-9]+\.destroy' "$work/wire.log"; }
+more() { [ "$($1)" -gt "$2" ]; }
+plays() { [ "$(cat "$work/played" 2>/dev/null | wc -l)" -eq "$1" ]; }
+comes told 'wl_keyboard@[0-9]+\.enter' || fail "the keyboard isn't the program's"
+
+# Enter in an open drop-down list picks, and does no more. The next one plays.
+for list in 1 2; do # the keys are where they were after each play: in the list of games
+    tabs=$((2 + 2 * list))
+    for _ in $(seq $tabs); do tell key Tab; done
+    open=$(popups) closed=$(shut)
+    tell key alt+Down
+    comes more popups "$open" || fail "drop-down list $list doesn't open"
+    tell key Return
+    comes more shut "$closed" || fail "Enter doesn't shut drop-down list $list"
+    sleep 2
+    plays $((list - 1)) || fail "Enter in drop-down list $list plays"
+    tell key Return
+    comes plays "$list" || fail "Enter behind drop-down list $list doesn't play"
+    sleep 1
+done
+
+# The enlarged capture stands in the middle of its window: by the place that the compositor gave it.
+for _ in $(seq 10); do tell key Tab; done
+open=$(popups) closed=$(shut)
+tell keydown space
+comes more popups "$open" || fail "no enlarged capture"
+placed() { grep -oE 'xdg_popup@[0-9]+\.configure\([0-9, -]*\)' "$work/wire.log" | tail -n 1; }
+is_centred() {
+    local left top width height
+    read -r left top width height < <(placed | sed 's/.*(//; s/)//; s/, */ /g')
+    [ "${width:-0}" -eq 233 ] && [ $(((2 * left + width - 411) / 3)) -eq 0 ] && [ $(((2 * top + height - 381) / 3)) -eq 0 ]
+}
+comes is_centred || fail "the enlarged capture isn't over the middle of its window: $(placed)"
+tell keyup space
+comes more shut "$closed" || fail "the enlarged capture stays"
+
+# A screen that opens over it is its child, and the compositor places it as such.
+parents() { grep -cE -- '-> xdg_toplevel@[0-9]+\.set_parent\(xdg_toplevel@' "$work/wire.log"; }
+before=$(parents)
+tell key F6
+comes more parents "$before" || fail "the second screen isn't a child of the first"
+alive "$program" || fail "the program ended"
+! grep -q 'wl_display@1.error' "$work/wire.log" || fail "a breach of the protocol"
+
 kill -TERM "$program"
 ends() { ! alive "$program"; }
 comes ends || fail "the program goes on"
@@ -70,4 +126,4 @@ wait "$program"
 status=$?
 program=
 [ "$status" -eq 143 ] || [ "$status" -eq 0 ] || fail "the program ended with status $status"
-echo "the window came, and the program ended with status $status"
+echo "the windows came, the keys worked, and the program ended with status $status"
