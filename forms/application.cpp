@@ -1,20 +1,18 @@
 #include "forms/application.h"
 
+#include "forms/colours.h"
 #include "forms/comboaccess.h"
 #include "forms/guard.h"
 #include "forms/hold.h"
 #include "forms/picturebutton.h"
-#include "forms/shownpart.h"
+#include "forms/style.h"
 #include "forms/units.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QDialog>
 #include <QKeyEvent>
-#include <QPalette>
 #include <QPixmapCache>
-#include <QProxyStyle>
-#include <QStyleOption>
 
 #include <utility>
 
@@ -23,86 +21,6 @@ using namespace Qt::StringLiterals;
 namespace forms {
 
 namespace {
-
-class Style final : public QProxyStyle {
-public:
-    Style()
-        : QProxyStyle(u"fusion"_s)
-    {
-    }
-
-    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-        QStyleHintReturn *returned) const override
-    {
-        // A drop-down list drops down, and doesn't lay itself over the control as a menu.
-        if (hint == SH_ComboBox_Popup)
-            return 0;
-        return QProxyStyle::styleHint(hint, option, widget, returned);
-    }
-
-    // Of texts without end only what can be seen is measured and painted.
-    void drawItemText(QPainter *painter, const QRect &place, int flags, const QPalette &palette, bool enabled,
-        const QString &text, QPalette::ColorRole role) const override
-    {
-        QProxyStyle::drawItemText(painter, place, flags, palette, enabled, shownPart(text), role);
-    }
-
-    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
-        const QWidget *widget) const override
-    {
-        if (const auto *row = qstyleoption_cast<const QStyleOptionViewItem *>(option)) {
-            const QStyleOptionViewItem shown = shownRow(*row);
-            QProxyStyle::drawControl(element, &shown, painter, widget);
-        } else {
-            QProxyStyle::drawControl(element, option, painter, widget);
-        }
-    }
-
-    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
-        const QWidget *widget) const override
-    {
-        if (const auto *row = qstyleoption_cast<const QStyleOptionViewItem *>(option)) {
-            const QStyleOptionViewItem shown = shownRow(*row);
-            return QProxyStyle::sizeFromContents(type, &shown, size, widget);
-        }
-        return QProxyStyle::sizeFromContents(type, option, size, widget);
-    }
-
-private:
-    static QStyleOptionViewItem shownRow(const QStyleOptionViewItem &row)
-    {
-        QStyleOptionViewItem shown = row;
-        shown.text = shownPart(row.text);
-        return shown;
-    }
-};
-
-// All of it, so that nothing of the desktop's theme shows through.
-QPalette ownPalette()
-{
-    const QColor face(212, 212, 208);
-    const QColor grey(128, 128, 128);
-    const QColor paper = colourFromNumber(0x80000005);
-    const QColor ink = colourFromNumber(0x80000012);
-    const QColor marked(0, 64, 128);
-
-    QPalette palette(ink, face, Qt::white, grey, QColor(160, 160, 160), ink, Qt::white, paper, face);
-    palette.setColor(QPalette::Button, face);
-    palette.setColor(QPalette::Midlight, face.lighter(110));
-    palette.setColor(QPalette::Shadow, QColor(64, 64, 64));
-    palette.setColor(QPalette::AlternateBase, paper);
-    palette.setColor(QPalette::Highlight, marked);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 192));
-    palette.setColor(QPalette::ToolTipText, ink);
-    palette.setColor(QPalette::PlaceholderText, grey);
-    palette.setColor(QPalette::Link, marked);
-    palette.setColor(QPalette::LinkVisited, marked);
-    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText })
-        palette.setColor(QPalette::Disabled, role, grey);
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, grey);
-    return palette;
-}
 
 // How long the other half of a repeat may take. Counted in turns of the event loop too, so that one that was
 // there in time isn't missed where the program itself is late.
@@ -295,7 +213,7 @@ void setLook(QApplication &application)
 {
     Q_UNUSED(application)
     QApplication::setStyle(new Style);
-    QApplication::setPalette(ownPalette());
+    setColours();
     QApplication::setFont(arial(8.25));
     // The style would keep its pictures by the palette of a control, and each form that opens has new ones:
     // what it kept for those before would never be found again. Drawing them takes no longer.

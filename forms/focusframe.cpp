@@ -1,7 +1,8 @@
 #include "forms/focusframe.h"
 
+#include "forms/pieces.h"
+
 #include <QApplication>
-#include <QPainter>
 #include <QWidget>
 
 namespace forms {
@@ -10,8 +11,7 @@ void drawFocusFrame(QPainter &painter, const QWidget &control)
 {
     if (QApplication::focusWidget() != &control)
         return;
-    painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
-    painter.drawRect(control.rect().adjusted(0, 0, -1, -1));
+    drawDots(painter, control.rect(), control.palette().color(QPalette::BrightText));
 }
 
 } // namespace forms

@@ -180,11 +180,11 @@ void montaCasillaDB(Portada &portada)
     portada.Check1->setText(u"DB"_s);
     portada.Check1->setFont(forms::arial(6, true));
     QPalette colores = portada.Check1->palette();
-    colores.setColor(QPalette::WindowText, Blanco);
-    colores.setColor(QPalette::Window, Negro);
+    for (const auto papel : { QPalette::WindowText, QPalette::Text })
+        colores.setColor(papel, Blanco);
+    for (const auto papel : { QPalette::Window, QPalette::Base })
+        colores.setColor(papel, Negro);
     portada.Check1->setPalette(colores);
-    portada.Check1->setBackgroundRole(QPalette::Window);
-    portada.Check1->setAutoFillBackground(true);
 }
 
 void montaSeleccionYLista(Portada &portada)

@@ -17,6 +17,7 @@ const QColor Claro(255, 224, 192); // of a special case that can be marked
 const QColor Apagado(192, 64, 0);
 const QColor Gris(128, 128, 128);
 constexpr unsigned int ColorDeVentana = 0x80000005;
+constexpr unsigned int ColorDeLetras = 0x80000012;
 
 void ponCerrojo(forms::Label *palabra, forms::CheckBox *marca, bool abierto)
 {
@@ -60,11 +61,6 @@ void Configuracion2::Conecta()
         ruta->SetTip();
     for (forms::CheckBox *marca : { Check1, Check2, Check4 })
         marca->Click = [this] { AplicaCerrojos(); };
-    for (forms::CheckBox *marca : { Check1, Check2, Check3 }) {
-        QPalette colores = marca->palette();
-        colores.setColor(QPalette::Disabled, QPalette::Base, Gris);
-        marca->setPalette(colores);
-    }
     Disco1->Release = [this] { Graba(); };
     Flecha1->Release = [this] { Unload(); };
 }
@@ -99,6 +95,7 @@ void Configuracion2::AplicaCerrojos()
     Casilla5->setEnabled(cerrojos.casilla5);
     QPalette colores = Casilla5->palette();
     colores.setColor(QPalette::Base, cerrojos.casilla5 ? forms::colourFromNumber(ColorDeVentana) : Gris);
+    colores.setColor(QPalette::Text, forms::colourFromNumber(ColorDeLetras)); // it can still be read
     Casilla5->setPalette(colores);
 }
 

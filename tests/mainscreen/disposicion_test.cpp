@@ -249,7 +249,29 @@ TEST_F(PortadaDisposicionTest, CheckBoxIsWhiteOnBlackInSmallBoldLetters)
     EXPECT_EQ(check.font().pixelSize(), 8);
     EXPECT_TRUE(check.font().bold());
     EXPECT_EQ(check.palette().color(QPalette::WindowText), QColor(Qt::white));
-    EXPECT_EQ(pictureOf(check).pixelColor(0, 0), QColor(Qt::black));
+    const QImage box = pictureOf(*portada).copy(check.geometry());
+    EXPECT_EQ(box.pixelColor(6, 8), QColor(Qt::black));
+    EXPECT_NE(box.pixelColor(6, 0), QColor(Qt::black)); // no bars above and below the box
+    EXPECT_NE(box.pixelColor(6, box.height() - 1), QColor(Qt::black));
+    check.SetValue(1);
+    EXPECT_NE(pictureOf(*portada).copy(check.geometry()), box);
+}
+
+TEST_F(PortadaDisposicionTest, KeyboardFocusShowsOnTheListsOfChoiceAndOnTheDatabaseBox)
+{
+    start();
+    for (const QString &name : { u"Combo1"_s, u"Combo2"_s, u"Check1"_s }) {
+        control(u"Lista1"_s).setFocus();
+        const QImage without = pictureOf(*portada).copy(control(name).geometry());
+        control(name).setFocus();
+        const QImage with = pictureOf(*portada).copy(control(name).geometry());
+        int dots = 0;
+        for (int y = 0; y < with.height(); ++y) {
+            for (int x = 0; x < with.width(); ++x)
+                dots += with.pixel(x, y) == qRgb(255, 255, 255) && without.pixel(x, y) != qRgb(255, 255, 255);
+        }
+        EXPECT_GT(dots, 15) << name.toStdString();
+    }
 }
 
 TEST_F(PortadaDisposicionTest, FramesAreDrawnInTheirColour)

@@ -1,0 +1,35 @@
+#include "forms/sharp.h"
+
+#include <QPainter>
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+
+namespace forms {
+
+Sharp::Sharp(QPainter &painter, const QRect &place)
+    : m_painter(painter)
+{
+    const QTransform toDevice = painter.deviceTransform();
+    const QRectF exact = toDevice.mapRect(QRectF(place));
+    m_place = QRect(QPoint(qRound(exact.left()), qRound(exact.top())),
+        QPoint(qRound(exact.right()) - 1, qRound(exact.bottom()) - 1));
+    m_scale = std::sqrt(std::abs(toDevice.determinant()));
+    painter.save();
+    painter.setWorldTransform(toDevice.inverted(), true);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+}
+
+Sharp::~Sharp()
+{
+    m_painter.restore();
+}
+
+int Sharp::pixels(int designPixels) const
+{
+    return std::max(1, qRound(designPixels * m_scale));
+}
+
+} // namespace forms
