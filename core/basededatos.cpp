@@ -70,12 +70,21 @@ int FilaEnBase(const Modulo &M, const QString &sistema)
     return -1;
 }
 
+QStringList SistemasDelTexto(const QString &texto)
+{
+    QStringList nombres;
+    for (const LineaConFin &linea : EnLineas(texto)) {
+        if (linea.linea.startsWith(u'-'))
+            nombres << linea.linea.sliced(1).toString();
+    }
+    return nombres;
+}
+
 bool SistemaEnTexto(const QString &texto, const QString &nombre)
 {
-    const std::vector<LineaConFin> lineas = EnLineas(texto);
-    return std::any_of(lineas.begin(), lineas.end(), [&](const LineaConFin &linea) {
-        return linea.linea.startsWith(u'-') && host::sameName(linea.linea.sliced(1).toString(), nombre);
-    });
+    const QStringList nombres = SistemasDelTexto(texto);
+    return std::any_of(
+        nombres.begin(), nombres.end(), [&](const QString &otro) { return host::sameName(otro, nombre); });
 }
 
 Hueco HuecoParaEmulador(const QString &texto, const QString &sistema, const QString &nombre)

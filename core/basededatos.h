@@ -25,6 +25,9 @@ bool EmuladorEnBase(const Modulo &M, int sistema, const QString &nombre);
 // The row of the system of exactly this name, -1 if there is none.
 int FilaEnBase(const Modulo &M, const QString &sistema);
 
+// The names of the systems in the text of Zembro.sye or Zembro.emu.
+QStringList SistemasDelTexto(const QString &texto);
+
 // What the text of Zembro.sye says, whatever the tables held when they were read: whether it has a system of
 // this name, case apart, and whether a new emulator finds its system, spelled exactly so, and its name free
 // there, case apart.

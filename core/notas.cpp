@@ -106,6 +106,22 @@ QStringView copiaHastaParametros(Copia &copia, QStringView texto)
     throw host::Failure(host::PastEndOfFile, u"find the section of parameters"_s, u"Zembro.rom"_s);
 }
 
+// A key, bare or in double quotes, and a description that begins with double quotes behind the comma.
+bool esRegistroDeNota(QStringView linea)
+{
+    linea = linea.trimmed();
+    const qsizetype desde = linea.startsWith(u'"') ? linea.indexOf(u'"', 1) : 0;
+    const qsizetype coma = desde < 0 ? -1 : linea.indexOf(u',', desde);
+    return coma >= 0 && linea.sliced(coma + 1).trimmed().startsWith(u'"');
+}
+
+// What ends a block that has lost its apostrophe. A bare key may begin as the end of the systems does.
+bool acabaElBloque(QStringView linea, const QStringList &otros)
+{
+    return linea.startsWith(InicioParametros) || otros.contains(linea)
+        || (linea.startsWith(u'[') && !esRegistroDeNota(linea));
+}
+
 // The next note, if there is one ahead of the closing apostrophe, at this index.
 bool leeNota(Modulo &M, int indice)
 {
@@ -276,13 +292,12 @@ QString SinParametrosDeSistema(const QString &texto, const QString &sistema)
     return copia.Texto();
 }
 
-QString SinNotasDeSistema(const QString &texto, const QString &sistema)
+QString SinNotasDeSistema(const QString &texto, const QString &sistema, const QStringList &otros)
 {
     Copia copia;
     bool dentro = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
-        if (linea.linea == sistema)
-            dentro = true;
+        dentro = linea.linea == sistema || (dentro && !acabaElBloque(linea.linea, otros));
         if (!dentro)
             copia.Copiar(linea);
         if (linea.linea.startsWith(u'\''))

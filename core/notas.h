@@ -10,6 +10,7 @@
 #include "core/seccion.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace core {
 
@@ -63,7 +64,8 @@ QString ConSistemaNuevo(const QString &texto, const QString &sistema);
 // Without the parameter records whose second field is the system, case apart. The rest as above.
 QString SinParametrosDeSistema(const QString &texto, const QString &sistema);
 
-// Without the system's block, header and closing apostrophe included.
-QString SinNotasDeSistema(const QString &texto, const QString &sistema);
+// Without the system's block, header and closing apostrophe included. Where the apostrophe is missing the
+// block ends ahead of the header of another system, of these names, and ahead of the end of the systems.
+QString SinNotasDeSistema(const QString &texto, const QString &sistema, const QStringList &otros = {});
 
 } // namespace core

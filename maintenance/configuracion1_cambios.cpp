@@ -159,6 +159,7 @@ Configuracion1::Baja Configuracion1::BorraDeLosFicheros(const QString &sistema, 
 {
     Baja baja = Baja::Hecha;
     const bool conNotas = !core::EsLineaDeNotas(sistema);
+    QStringList otros;
     reescribeSi(M, Zembro_sye, [&](const QString &texto) -> std::optional<QString> {
         if (core::TieneSistema(textoSiHay(M, Zembro_emu), sistema))
             baja = Baja::EnUso;
@@ -168,11 +169,12 @@ Configuracion1::Baja Configuracion1::BorraDeLosFicheros(const QString &sistema, 
             return {};
         if (conNotas)
             textoDe(M, Zembro_rom); // without which nothing goes
+        otros = core::SistemasDelTexto(texto + u'\n' + textoSiHay(M, Zembro_emu));
         return core::SinSistema(texto, sistema);
     });
     if (baja == Baja::Hecha && conNotas)
         reescribe(M, Zembro_rom, [&](const QString &texto) {
-            return core::SinNotasDeSistema(core::SinParametrosDeSistema(texto, sistema), sistema);
+            return core::SinNotasDeSistema(core::SinParametrosDeSistema(texto, sistema), sistema, otros);
         });
     return baja;
 }

@@ -22,7 +22,6 @@ protected:
         return Cambiado(bytes, [&](const QString &t) { return core::SinNotasDeSistema(t, sistema); });
     }
 
-private:
     QByteArray Cambiado(const QByteArray &bytes, const std::function<QString(const QString &)> &cambio)
     {
         Pon(u"Zembro.rom"_s, bytes);
@@ -129,6 +128,30 @@ TEST_F(NotasDeSistema, ItsBlockGoesFromTheHeaderToTheApostrophe)
 TEST_F(NotasDeSistema, AnyLineThatBeginsWithAnApostropheEndsItsBlock)
 {
     EXPECT_EQ(SinNotas("Two\r\nA,\"a\"\r\n'- mine\r\nB,\"b\"\r\n'\r\n", u"Two"_s), "B,\"b\"\r\n'\r\n");
+}
+
+TEST_F(NotasDeSistema, ABlockWithoutItsApostropheEndsAheadOfAnotherSystemAndOfTheEnd)
+{
+    const QByteArray resto = "[Fin]\r\nParametros especificos\r\nK,AAA,E1,-x\r\n'\r\nfin\r\nfin,\"fin\"\r\n";
+    const QByteArray delante = "AAA\r\nK,\"a\"\r\nmine\r\nB, BB\r\nPRISMA.BIN,\"P\"\r\n";
+    const auto sin = [&](const QByteArray &bytes, const QString &sistema) {
+        return Cambiado(bytes, [&](const QString &t) {
+            return core::SinNotasDeSistema(t, sistema, { u"AAA"_s, u"B, BB"_s, u"CCC"_s });
+        });
+    };
+    EXPECT_EQ(sin(delante + "CCC\r\n" + resto, u"CCC"_s), delante + resto);
+    EXPECT_EQ(
+        sin(delante + "CCC\r\n'\r\n" + resto, u"AAA"_s), "B, BB\r\nPRISMA.BIN,\"P\"\r\nCCC\r\n'\r\n" + resto);
+    EXPECT_EQ(sin(delante + "CCC\r\n" + resto, u"B, BB"_s), "AAA\r\nK,\"a\"\r\nmine\r\nCCC\r\n" + resto);
+    EXPECT_EQ(sin("CCC\r\nK,\"a\"\r\n" + Seccion + Cierre, u"CCC"_s), Seccion + Cierre);
+    EXPECT_EQ(sin("CCC\r\nK,\"a\"", u"CCC"_s), "");
+}
+
+TEST_F(NotasDeSistema, RecordsOfItsBlockGo_WhateverTheirQuotes)
+{
+    const QByteArray registros = "A,\"a\"\r\n\"B, b\",\"b\"\r\nC , \"c, \"d\" "
+                                 "e\"\r\nD,\"[x]\"\r\n,\"none\"\r\n \"E\" x,\"e\r\n[F].NES,\"f\"\r\n";
+    EXPECT_EQ(SinNotas("One\r\n'\r\nTwo\r\n" + registros + "'\r\n[\r\n", u"Two"_s), "One\r\n'\r\n[\r\n");
 }
 
 TEST_F(NotasDeSistema, OnlyTheVeryHeaderOpensABlock)

@@ -8,6 +8,7 @@
 
 #include "core/altas.h"
 #include "core/bajas.h"
+#include "core/basededatos.h"
 #include "core/catalogo.h"
 #include "core/nombres.h"
 #include "core/notas.h"
@@ -313,7 +314,7 @@ void Paseo::QuitaDeNotas(const QString &sistema)
         m_rom.parametros, [&](const RegistroDeParametros &registro) { return registro.sistema == sistema; });
     PonRom(core::SinParametrosDeSistema(m_textoRom, host::upper(sistema)));
     std::erase_if(m_rom.sistemas, [&](const NotasDeUnSistema &notas) { return notas.nombre == sistema; });
-    PonRom(core::SinNotasDeSistema(m_textoRom, sistema));
+    PonRom(core::SinNotasDeSistema(m_textoRom, sistema, core::SistemasDelTexto(m_textoSye)));
 }
 
 void Paseo::CambiaExtensiones()

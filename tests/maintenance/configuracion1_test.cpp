@@ -288,6 +288,20 @@ TEST_F(Configuracion1Test, ASystemGoesWithItsNotesAndItsParameters)
         "fin,\"fin\"\r\n");
 }
 
+TEST_F(Configuracion1Test, ASystemWithoutTheApostropheOfItsNotesGoesWithoutThoseOfTheNext)
+{
+    notes = "' notes\r\nAlfa\r\nGAME.ZIP,\"A game\"\r\nbeta\r\nX.ROM,\"X\"\r\n'\r\n[EOF]\r\nParametros "
+            "especificos\r\n'\r\nfin\r\nfin,\"fin\"\r\n";
+    begin();
+    configure([this](forms::Form &form) {
+        atQuestion(u"Msg_BorrarSis"_s, u"Alfa"_s, true);
+        press(form, u"Menos1"_s);
+    });
+    expectFiles("' all\r\n" + Beta + "[EOF]\r\n", catalogue,
+        "' notes\r\nbeta\r\nX.ROM,\"X\"\r\n'\r\n[EOF]\r\nParametros "
+        "especificos\r\n'\r\nfin\r\nfin,\"fin\"\r\n");
+}
+
 TEST_F(Configuracion1Test, ASystemInUseIsRefused)
 {
     catalogue = "' mine\r\n-Alfa\r\nWEB1=\r\n*.ZIP\r\n" + Closing + "[EOF]\r\n";
