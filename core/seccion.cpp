@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace core {
@@ -45,11 +47,15 @@ QStringList enLineasPropias(const Parametros &cierre)
     return { cierre.clave, cierre.sistema, cierre.emulador + u",\""_s + cierre.texto + u'"' };
 }
 
-// Lines that hold the closing record and nothing else: a single one, or one for each field that there is.
+// Lines that hold the closing record and nothing else. A field on a line of its own may be the header of a
+// system that follows the section, unless it's empty or the word that no system is called by.
 bool esSoloCierre(const QStringList &lineas, const QStringList &campos)
 {
-    return (lineas.size() == 1 && camposDe(lineas) == campos)
-        || lineas == campos.sliced(0, std::min(lineas.size(), campos.size()));
+    if (lineas.size() == 1 && camposDe(lineas) == campos)
+        return true;
+    return lineas == campos.sliced(0, std::min(lineas.size(), campos.size()))
+        && std::all_of(lineas.begin() + 1, lineas.end(),
+            [](const QString &linea) { return linea.isEmpty() || linea == u"fin"; });
 }
 
 } // namespace

@@ -47,8 +47,8 @@ RegistroLeido LeeRegistro(host::TextSource &fuente);
 // the same fields it comes out as it stands.
 void CopiaRegistro(Copia &copia, const RegistroLeido &registro);
 
-// The closing record, on three lines. Where its fields are the header and the first note of a system that
-// follows the section, their lines come out as they stand.
+// The closing record, on three lines. Where a line of it may be the header, or the first note, of a system
+// that follows the section, all of them come out as they stand.
 void CopiaCierre(Copia &copia, const RegistroLeido &cierre);
 
 } // namespace core

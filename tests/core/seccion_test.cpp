@@ -61,6 +61,10 @@ INSTANTIATE_TEST_SUITE_P(Bloques, TrasLaSeccion,
         // A system without notes, whose apostrophe and the header behind it are fields of the closing record.
         u"'\r\nTwo\r\n'\r\nThree\r\nB.BIN,\"b\"\r\n'\r\n"_s,
         u"'\r\nTwo\r\n'\r\nTh, ree\r\nB.BIN,\"b\"\r\n'\r\n"_s, u"'\r\nT,wo\r\n'\r\nThree\r\n'\r\n"_s,
+        // Fewer lines of the closing record's own than it has fields: the last of them is the next header.
+        u"'\r\n\r\n\r\nBBB\r\nPRISMA.BIN,\"P\"\r\n'\r\n"_s,
+        u"'\r\nfin\r\nfin\r\nBBB\r\nPRISMA.BIN,\"P\"\r\n'\r\n"_s,
+        u"'\r\n\r\nfin\r\nBBB\r\nPRISMA.BIN,\"P\"\r\n'\r\n"_s, u"'\r\nfin\r\nBBB\r\n"_s, u"'\r\nBBB\r\n"_s,
         // Descriptions that the field reader cuts, or runs on with.
         u"'\r\nConsole\r\nA.BIN,\"a \"b\" c, d\"\r\nB.BIN,\"b\"\r\n'\r\n"_s,
         u"'\r\nConsole\r\nA.BIN,\"a\r\nB.BIN,\"b\"\r\n'\r\n"_s,
