@@ -25,6 +25,19 @@ bool empiezaPorUno(const QString &nombre, QStringView signos)
     return !nombre.isEmpty() && signos.contains(nombre[0]);
 }
 
+bool esTexto(QStringView linea)
+{
+    return !linea.isEmpty() && !linea.startsWith(u'\'');
+}
+
+// A header stands directly ahead of a note, whose description is in double quotes, or of the apostrophe.
+bool esCabecera(const std::vector<LineaConFin> &lineas, size_t i)
+{
+    if (i + 1 == lineas.size() || !esTexto(lineas[i].linea))
+        return false;
+    return lineas[i + 1].linea == u"'" || lineas[i + 1].linea.contains(u",\"");
+}
+
 } // namespace
 
 bool SirveDeSistema(const QString &nombre)
@@ -45,20 +58,26 @@ bool EsLineaDeNotas(const QString &nombre)
 
 bool EsRegistroDeNotas(const QString &texto, const QString &nombre)
 {
-    enum { Fuera, EnSistema, EnParametros, EnCierre } lugar = Fuera;
+    enum { Delante, Fuera, EnSistema, EnParametros, EnCierre } lugar = Delante;
     int delCierre = 0;
-    for (const LineaConFin &linea : EnLineas(texto)) {
-        if (lugar != Fuera && linea.linea == nombre)
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    for (size_t i = 0; i < lineas.size(); ++i) {
+        const QStringView linea = lineas[i].linea;
+        if (lugar == Delante && linea.startsWith(u'['))
+            lugar = Fuera;
+        else if (lugar == Delante && esCabecera(lineas, i)) // of two texts in a row either may be the header
+            lugar = i > 0 && esTexto(lineas[i - 1].linea) ? EnSistema : Fuera;
+        if (lugar != Fuera && !nombre.isEmpty() && linea == nombre)
             return true;
         if (lugar == EnCierre) {
             if (++delCierre == LineasDeCierre)
                 lugar = Fuera;
-        } else if (linea.linea.startsWith(u"Parametros")) {
+        } else if (linea.startsWith(u"Parametros")) {
             lugar = EnParametros;
-        } else if (linea.linea.startsWith(u'\'')) {
+        } else if (linea.startsWith(u'\'') && lugar != Delante) {
             delCierre = 1;
             lugar = lugar == EnParametros ? EnCierre : Fuera;
-        } else if (lugar == Fuera && !linea.linea.isEmpty() && !linea.linea.startsWith(u'[')) {
+        } else if (lugar == Fuera && !linea.isEmpty() && !linea.startsWith(u'[')) {
             lugar = EnSistema;
         }
     }

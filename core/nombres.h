@@ -18,8 +18,8 @@ bool SirveDeEmulador(const QString &nombre);
 // system of such a name, from a time when names weren't looked at, can't be told from its own.
 bool EsLineaDeNotas(const QString &nombre);
 
-// True if the text of Zembro.rom has this line among the records of a system or of the parameters, so that a
-// system of this name would begin there.
+// True if the text of Zembro.rom has this line ahead of the first system, or among the records of a system or
+// of the parameters, so that a system of this name would begin there.
 bool EsRegistroDeNotas(const QString &texto, const QString &nombre);
 
 } // namespace core

@@ -96,14 +96,33 @@ TEST(Nombres, OfTheNotesOwnLinesAreKnown)
 TEST(Nombres, OfARecordOfTheNotesAreFoundInTheFile)
 {
     const QString texto =
-        u"' top\r\nNES\r\nLONE\r\nK,\"d\"\r\n'\r\n\r\nEmpty\r\n'\r\n[EOF]\r\nParametros especificos\r\n"
+        u"' top\r\nNES\r\nD,\"d\"\r\nLONE\r\nK,\"d\"\r\n'\r\n\r\nEmpty\r\n'\r\n[EOF]\r\nParametros "
+        u"especificos\r\n"
         "one\r\nK,NES,E,p\r\n'\r\nclosing\r\nend\r\nBehind\r\nX,\"x\"\r\n'\r\n"_s;
     for (const QString &registro :
         { u"LONE"_s, u"K,\"d\""_s, u"one"_s, u"closing"_s, u"end"_s, u"X,\"x\""_s, u"K,NES,E,p"_s })
         EXPECT_TRUE(core::EsRegistroDeNotas(texto, registro)) << registro.toStdString();
-    for (const QString &otro :
-        { u"NES"_s, u"Empty"_s, u"Behind"_s, u"' top"_s, u"K"_s, u"lone"_s, QString() })
+    for (const QString &otro : { u"NES"_s, u"Empty"_s, u"Behind"_s, u"K"_s, u"lone"_s, QString() })
         EXPECT_FALSE(core::EsRegistroDeNotas(texto, otro)) << otro.toStdString();
+}
+
+TEST(Nombres, OfALineAheadOfTheFirstSystemAreFoundInTheFile)
+{
+    const QString delante = u"Notes of mine\r\n\r\n'---\r\n' more\r\nA, B\r\nlast of mine\r\n\r\n"_s;
+    const QString fin = u"[EOF]\r\nBehind\r\n'\r\n"_s;
+    for (const QString &texto : { delante + u"NES\r\nK,\"d\"\r\n'\r\nTwo\r\n'\r\n"_s + fin,
+             delante + u"NES\r\n'\r\nTwo\r\n'\r\n"_s + fin }) {
+        for (const QString &propia : { u"Notes of mine"_s, u"' more"_s, u"A, B"_s, u"last of mine"_s })
+            EXPECT_TRUE(core::EsRegistroDeNotas(texto, propia)) << propia.toStdString();
+        for (const QString &otro : { u"NES"_s, u"Two"_s, u"Behind"_s, u"mine"_s, QString() })
+            EXPECT_FALSE(core::EsRegistroDeNotas(texto, otro)) << otro.toStdString();
+    }
+    // Of two lines in a row either may be the header, and neither is free.
+    for (const QString &una : { u"NES"_s, u"LONE"_s })
+        EXPECT_TRUE(core::EsRegistroDeNotas(u"NES\r\nLONE\r\nK,\"d\"\r\n'\r\n"_s + fin, una));
+    EXPECT_TRUE(core::EsRegistroDeNotas(u"mine\r\n"_s + fin, u"mine"_s));
+    EXPECT_FALSE(core::EsRegistroDeNotas(u"mine\r\n"_s + fin, u"Behind"_s));
+    EXPECT_TRUE(core::EsRegistroDeNotas(u"mine"_s, u"mine"_s));
 }
 
 namespace {

@@ -568,6 +568,18 @@ TEST_F(OtraCopiaTest, ANameThatTheNotesUseAsARecordIsRefused)
     });
 }
 
+TEST_F(OtraCopiaTest, ANameThatStandsAheadOfTheFirstSystemOfTheNotesIsRefused)
+{
+    notes = "Notes of mine\r\n" + notes;
+    begin();
+    configure([this](forms::Form &form) {
+        atInput(u"Msg_AñadirSis"_s, {}, u"Notes of mine"_s);
+        atBadName();
+        press(form, u"Mas1"_s);
+        expectFilesUnchanged();
+    });
+}
+
 TEST_F(OtraCopiaTest, ASystemOfANameFromEarlierGoesWithoutTheNotesOfOthers)
 {
     for (const QByteArray name : { "'", "fin", "Parametros", "" }) {
