@@ -91,9 +91,14 @@ bool quedaEnSuLinea(const QString &linea)
     return !linea.contains(u'\n') && !linea.contains(u'\r') && linea.isValidUtf16() && !llevaMarca(linea);
 }
 
+bool esBlanco(const QString &nombre)
+{
+    return sinBlancosFinales(nombre).isEmpty();
+}
+
 bool vuelveFiltro(const QString &nombre)
 {
-    return !sinBlancosFinales(nombre).isEmpty() && quedaEnSuLinea(host::upper(nombre));
+    return !esBlanco(nombre) && quedaEnSuLinea(host::upper(nombre));
 }
 
 void reescribe(Modulo &M, const std::function<QString(const QString &)> &cambio)
@@ -274,9 +279,10 @@ bool VuelveMsgEndDOS(const QString &texto)
 bool VuelvenFiltros(const QString &texto)
 {
     const QStringList nombres = texto.split(u',');
-    const auto escritos = std::find(nombres.begin(), nombres.end(), QString());
-    return texto.isEmpty()
-        || (escritos != nombres.begin() && std::all_of(nombres.begin(), escritos, vuelveFiltro));
+    auto fin = std::find(nombres.begin(), nombres.end(), QString());
+    while (fin != nombres.begin() && esBlanco(*(fin - 1))) // blank lines at the end lose nothing
+        --fin;
+    return texto.isEmpty() || (fin != nombres.begin() && std::all_of(nombres.begin(), fin, vuelveFiltro));
 }
 
 QString ConFiltros(const QString &texto, const QStringList &filtros)

@@ -303,6 +303,7 @@ TEST_F(AjustesEscritos, FiltersComeBackAtTheNextStart_OrAreRefused)
 {
     const std::pair<QString, QString> listas[] = { { u"roms,Snap"_s, u"ROMS,SNAP"_s },
         { u"CFG, roms ,x"_s, u"CFG, ROMS,X"_s }, { u"CFG,,VACIO"_s, u"CFG"_s }, { u"CFG,"_s, u"CFG"_s },
+        { u"A, "_s, u"A"_s }, { u"A,  , ,"_s, u"A"_s }, { u"A, ,,B"_s, u"A"_s },
         { u"[EOF],[Filters],a=b"_s, u"[EOF],[FILTERS],A=B"_s }, { u"VACIO2,X VACIO"_s, u"VACIO2,X VACIO"_s },
         { u"\"x,ゼ\t"_s, u"\"X,ゼ\t"_s } };
     for (const auto &[texto, leidos] : listas) {
@@ -313,8 +314,9 @@ TEST_F(AjustesEscritos, FiltersComeBackAtTheNextStart_OrAreRefused)
         core::LeeAjustes(M);
         EXPECT_EQ(M.FiltrosTexto, leidos);
     }
-    for (const QString &texto : { u"VACIO"_s, u"x, vacio "_s, u"x,\"VACIO\"y"_s, u",CFG"_s, u","_s, u" "_s,
-             u"  ,x"_s, u"x,  ,y"_s, u"x, "_s, u"a\nb"_s, u"a,b\r"_s, QString(QChar(0xDC00)) })
+    for (const QString &texto :
+        { u"VACIO"_s, u"x, vacio "_s, u"x,\"VACIO\"y"_s, u",CFG"_s, u","_s, u" "_s, u"  ,x"_s, u"x,  ,y"_s,
+            u" , "_s, u" ,"_s, u"x, ,y, "_s, u"a\nb"_s, u"a,b\r"_s, QString(QChar(0xDC00)) })
         EXPECT_FALSE(core::VuelvenFiltros(texto)) << texto.toStdString();
     EXPECT_TRUE(core::VuelvenFiltros({})); // ends the next start, as it always did
 }
