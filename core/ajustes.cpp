@@ -91,6 +91,12 @@ bool quedaEnSuLinea(const QString &linea)
     return !linea.contains(u'\n') && !linea.contains(u'\r') && linea.isValidUtf16() && !llevaMarca(linea);
 }
 
+// The value begins behind the line's last equal sign.
+bool vuelveValor(const QString &valor, const QString &linea)
+{
+    return !valor.contains(u'=') && quedaEnSuLinea(linea);
+}
+
 bool esBlanco(const QString &nombre)
 {
     return sinBlancosFinales(nombre).isEmpty();
@@ -270,10 +276,14 @@ QStringList FiltrosDeTexto(const QString &texto)
     return filtros;
 }
 
+bool VuelveIdioma(const QString &fichero)
+{
+    return vuelveValor(fichero, LineaDeIdioma(fichero));
+}
+
 bool VuelveMsgEndDOS(const QString &texto)
 {
-    // The value begins behind the line's last equal sign.
-    return !texto.contains(u'=') && quedaEnSuLinea(LineaDeMsgEndDOS(texto));
+    return vuelveValor(texto, LineaDeMsgEndDOS(texto));
 }
 
 bool VuelvenFiltros(const QString &texto)

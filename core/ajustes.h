@@ -47,10 +47,11 @@ QString LineaDeIdioma(const QString &fichero); // the name in upper case
 // up to the next empty one. Fails with 9 for a text with a name past the 101st.
 QStringList FiltrosDeTexto(const QString &texto);
 
-// Whether the next start reads as it is typed what the user gives for the end of a program and for the
-// directories to leave out: false also for what would pass for the first-run mark. Of the directories the
-// reader's own rules hold: upper case, no blanks behind a name, two commas end the list, an empty list is
-// none.
+// Whether the next start reads as it is given what the user chooses for a language, and types for the end of
+// a program and for the directories to leave out: false also for what would pass for the first-run mark. Of
+// the directories the reader's own rules hold: upper case, no blanks behind a name, two commas end the list,
+// an empty list is none.
+bool VuelveIdioma(const QString &fichero);
 bool VuelveMsgEndDOS(const QString &texto);
 bool VuelvenFiltros(const QString &texto);
 

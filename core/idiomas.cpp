@@ -1,5 +1,6 @@
 #include "core/idiomas.h"
 
+#include "core/ajustes.h"
 #include "core/arranque.h"
 
 #include "host/letters.h"
@@ -25,7 +26,9 @@ QStringList todos()
 
 QStringList FicherosDeIdioma()
 {
-    return todos().mid(0, MaxIdiomas);
+    QStringList ficheros = todos();
+    ficheros.removeIf([](const QString &fichero) { return !VuelveIdioma(fichero); });
+    return ficheros.mid(0, MaxIdiomas);
 }
 
 QStringList IdiomasEnMayusculas()

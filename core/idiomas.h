@@ -8,8 +8,8 @@
 
 namespace core {
 
-// Names of the language files as the file system spells them, at most as many as ListaLNG has places. Fails
-// with 76.
+// Names of the language files as the file system spells them, at most as many as ListaLNG has places, without
+// those that the settings file wouldn't give back. Fails with 76.
 QStringList FicherosDeIdioma();
 
 // The same in upper case, as the options offer them; none where the directory is missing. Fails with 9 for

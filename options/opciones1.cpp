@@ -150,7 +150,8 @@ void Opciones1::Boton_CFGAv_Click()
     m_avanzadas.ShowModal(this);
 }
 
-// The editor goes first: where the language has changed too, it waits for the next press.
+// The editor goes first: where the language has changed too, it waits for the next press. A language that the
+// next start wouldn't find again isn't written.
 void Opciones1::Disco1_Release()
 {
     const int aspecto = core::NumeroDeAjuste(M.TypeOfEditor);
@@ -158,13 +159,20 @@ void Opciones1::Disco1_Release()
         core::GuardaAjuste(M, core::Ajuste::TypeOfEditor, { core::LineaDeEditor(aspecto) });
         Confirma();
         M.TypeOfEditorPrevio = aspecto;
-    } else if (Combo2->Text() != M.IdiomaPrevio) {
+    } else if (Combo2->Text() == M.IdiomaPrevio) {
+        Advierte(M.Msg_SinCambios0, M.Msg_SinCambios1);
+    } else if (!core::VuelveIdioma(Combo2->Text())) {
+        Advierte(M.Palabras.Zem_NoFinal0, M.Palabras.Zem_NoNombre1);
+    } else {
         core::GuardaAjuste(M, core::Ajuste::LanguageFile, { core::LineaDeIdioma(Combo2->Text()) });
         Confirma();
         M.IdiomaPrevio = Combo2->Text();
-    } else {
-        P.Mensaje(3, M.Msg_SinCambios1, M.Msg_SinCambios0, M.TXT_Aceptar, TXT_Volver->Caption(), QString());
     }
+}
+
+void Opciones1::Advierte(const QString &titulo, const QString &texto)
+{
+    P.Mensaje(3, texto, titulo, M.TXT_Aceptar, TXT_Volver->Caption(), QString());
 }
 
 void Opciones1::Confirma()

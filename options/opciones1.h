@@ -53,6 +53,7 @@ private:
     void Boton2_Click();
     void Boton_CFGAv_Click();
     void Disco1_Release();
+    void Advierte(const QString &titulo, const QString &texto);
     void Confirma();
 
     core::Modulo &M;

@@ -299,6 +299,29 @@ TEST_F(AjustesEscritos, AWordComesBackAtTheNextStart_OrIsRefused)
         EXPECT_FALSE(core::VuelveMsgEndDOS(palabra)) << palabra.toStdString();
 }
 
+TEST_F(AjustesEscritos, ALanguageComesBackAtTheNextStart_OrIsRefused)
+{
+    for (const QString &fichero :
+        { u"ZB-ESP.LNG"_s, u" A .LNG"_s, u"'A'.LNG"_s, u"[EOF].LNG"_s, u"\"A\", B.LNG"_s, u"VACIO.LNG"_s,
+            u"-+\t\x01.LNG"_s, u"Ñ\u2028\u00A0ゼ\U0001F47E\uE0FF.LNG"_s }) {
+        EXPECT_TRUE(core::VuelveIdioma(fichero)) << fichero.toStdString();
+        for (const bool elegido : { true, false }) {
+            Pon(u"Zembro.cfg"_s, elegido ? PorDefecto : QByteArray("VACIO\r\n"));
+            Reescribe(u"Zembro.cfg"_s, [&](const QString &texto) {
+                return elegido
+                    ? core::ConAjuste(texto, Ajuste::LanguageFile, { core::LineaDeIdioma(fichero) })
+                    : core::AjustesPorDefecto(fichero);
+            });
+            EXPECT_FALSE(core::EsPrimeraVez(M)) << fichero.toStdString();
+            core::LeeAjustes(M);
+            EXPECT_EQ(M.LanguageFile, fichero);
+        }
+    }
+    for (const QString &fichero : { u"A=B.LNG"_s, u"=.LNG"_s, u"A.LNG="_s, u"A\n.LNG"_s, u"A\r.LNG"_s,
+             u"A,VACIO,B.LNG"_s, u"a,vacio ,b.lng"_s, u"A,\"VACIO\"B.LNG"_s })
+        EXPECT_FALSE(core::VuelveIdioma(fichero)) << fichero.toStdString();
+}
+
 TEST_F(AjustesEscritos, FiltersComeBackAtTheNextStart_OrAreRefused)
 {
     const std::pair<QString, QString> listas[] = { { u"roms,Snap"_s, u"ROMS,SNAP"_s },

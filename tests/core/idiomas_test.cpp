@@ -46,6 +46,18 @@ TEST_F(Idiomas, AreAtMostAHundredAndOne)
     EXPECT_EQ(ficheros.last(), u"L100.LNG");
 }
 
+TEST_F(Idiomas, ThatTheSettingsWouldNotGiveBackAreLeftOutAheadOfTheLimit)
+{
+    for (const QString &nombre : { u"A=B.LNG"_s, u"A,VACIO,B.LNG"_s, u"A\nB.LNG"_s })
+        Pon(u"LNG/"_s + nombre, "'\r\n");
+    for (int i = 0; i < 101; ++i)
+        Pon(u"LNG/L%1.LNG"_s.arg(i, 3, 10, QChar(u'0')), "'\r\n");
+    const QStringList ficheros = core::FicherosDeIdioma();
+    EXPECT_EQ(ficheros.size(), 101);
+    EXPECT_EQ(ficheros.first(), u"L000.LNG");
+    EXPECT_EQ(ficheros.last(), u"L100.LNG");
+}
+
 TEST_F(Idiomas, FailAsAPathNotFound_WithoutTheirDirectory)
 {
     EXPECT_EQ(NumeroDeFallo([] { core::FicherosDeIdioma(); }), host::PathNotFound);

@@ -388,6 +388,24 @@ TEST_F(Opciones1Test, NamesOfLanguagesAreInCapitalsOnTheScreenAndInTheFile)
     EXPECT_EQ(settings(), changed("LanguageFile = ZB-ESP.LNG", "LanguageFile = ZB-FRA.LNG"));
 }
 
+TEST_F(Opciones1Test, ALanguageThatTheNextStartWouldNotFindIsRefusedWithAWord_AndShownUntilTheEnd)
+{
+    writeLanguage(u"A=B.LNG"_s, u"X:"_s);
+    begin();
+    options([this](forms::Form &form) {
+        chooseLanguage(form, u"A=B.LNG"_s);
+        EXPECT_EQ(word(), u"X:TXT_Jugar"_s);
+        const Box box = save(form);
+        EXPECT_EQ(box.title, M->Palabras.Zem_NoFinal0);
+        EXPECT_EQ(box.text, M->Palabras.Zem_NoNombre1);
+        EXPECT_TRUE(box.warning);
+        EXPECT_EQ(settings(), m_first);
+        chooseLanguage(form, English);
+        EXPECT_EQ(save(form).title, u"E:Msg_GrabacionOK0"_s);
+    });
+    EXPECT_EQ(settings(), changed("LanguageFile = ZB-ESP.LNG", "LanguageFile = ZB-ENG.LNG"));
+}
+
 TEST_F(Opciones1Test, AHundredAndOneLanguagesAreListed_TheLastOfThemNeverSelected)
 {
     files.remove(u"LNG/ZB-ENG.LNG"_s);

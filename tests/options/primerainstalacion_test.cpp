@@ -163,6 +163,16 @@ TEST_F(PrimeraInstalacionTest, LanguagesAreListedInUpperCaseInTheOrderOfTheirNam
     EXPECT_FALSE(M.Ficheros.isOpen(1));
 }
 
+TEST_F(PrimeraInstalacionTest, LanguagesThatTheSettingsWouldNotGiveBackAreNotOffered)
+{
+    addLanguage(u"A=B.LNG"_s, u"No"_s);
+    addLanguage(u"a,vacio,b.lng"_s, u"No"_s);
+    addLanguage(u"ZB-ITA.LNG"_s, u"Italiano"_s);
+    const options::PrimeraInstalacion form(M);
+    EXPECT_THAT(entriesOf(list(form)), ElementsAre(u"ZB-ESP.LNG"_s, u"ZB-ITA.LNG"_s));
+    EXPECT_EQ(M.ListaLNG(1), u"Italiano"_s);
+}
+
 TEST_F(PrimeraInstalacionTest, WithoutTheOwnLanguageNoneIsSelected)
 {
     files.remove(u"LNG/ZB-ESP.LNG"_s);
