@@ -146,6 +146,17 @@ bool SePuedeDescribir(const QString &clave)
     return !clave.isEmpty() && SePuedeEscribir(clave);
 }
 
+bool EsDescripcionEntera(const QString &descripcion)
+{
+    const QString siguiente = u"."_s;
+    Copia copia;
+    copia.Nueva(registroDeNota(u"K"_s, descripcion));
+    host::TextSource fuente(copia.Texto() + siguiente);
+    fuente.readField();
+    fuente.readField();
+    return descripcion.isValidUtf16() && fuente.rest() == siguiente;
+}
+
 bool SonParametrosEnteros(const QString &texto)
 {
     return !texto.contains(u',') && CabeEnUnCampo(sinBlancosEnLosExtremos(texto));
@@ -188,7 +199,7 @@ QString ConDescripcionNueva(
     const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion)
 {
     const std::optional<QString> campo = claveDeNota(clave);
-    if (!SePuedeDescribir(clave) || !campo)
+    if (!SePuedeDescribir(clave) || !EsDescripcionEntera(descripcion) || !campo)
         return texto;
     Copia copia;
     bool escrita = false;
@@ -206,7 +217,7 @@ QString ConDescripcionCambiada(
     const QString &texto, const QString &anterior, const QString &clave, const QString &descripcion)
 {
     const std::optional<QString> campo = claveDeNota(clave);
-    if (!SePuedeDescribir(clave) || !campo)
+    if (!SePuedeDescribir(clave) || !EsDescripcionEntera(descripcion) || !campo)
         return texto;
     Copia copia;
     bool cambiada = false;

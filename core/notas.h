@@ -36,6 +36,10 @@ bool SePuedeEscribir(const QString &clave);
 // The same for the key of a description, which needs one: an empty key ends the search through the notes.
 bool SePuedeDescribir(const QString &clave);
 
+// Whether the record of this description ends with its line. Behind double quotes of its own a comma would
+// begin the next record.
+bool EsDescripcionEntera(const QString &descripcion);
+
 // False for parameters of a game that are not kept whole: a comma would cut them for other readers of the
 // file, double quotes at their start anywhere. Blanks at the ends of a text with double quotes are dropped.
 bool SonParametrosEnteros(const QString &texto);

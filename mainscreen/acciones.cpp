@@ -99,6 +99,10 @@ void Portada::Describir()
         NoSeAnota();
         return;
     }
+    if (!core::EsDescripcionEntera(descripcion)) {
+        Advierte(M.Palabras.Zem_NoNota0, M.Palabras.Zem_NoNombre1);
+        return;
+    }
     GuardaDescripcion(tipo, nota, entrada, descripcion);
 
     JugarB1->setFocus();

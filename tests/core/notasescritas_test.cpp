@@ -278,3 +278,23 @@ TEST_F(NotasEscritas, NoDescriptionIsWrittenWithoutAKey)
     EXPECT_EQ(ConNueva(antes, QString(), u"d"_s), antes);
     EXPECT_EQ(ConCambiada(antes, u"Old"_s, QString(), u"d"_s), antes);
 }
+
+TEST_F(NotasEscritas, ADescriptionTakesNoPartInTheRecordsBehind_OrIsRefused)
+{
+    const QByteArray antes = "Console\r\nOLD,\"Old\"\r\n'\r\nTwo\r\n'\r\n";
+    for (const QString &texto :
+        { u"a \"b\", c"_s, u"\",\""_s, u"\"x\" ,"_s, u"x\",y,\"z"_s, u"x\"\n,y"_s, QString(QChar(0xD800)) }) {
+        EXPECT_FALSE(core::EsDescripcionEntera(texto)) << texto.toStdString();
+        EXPECT_EQ(ConNueva(antes, u"A"_s, texto), antes) << texto.toStdString();
+        EXPECT_EQ(ConCambiada(antes, u"Old"_s, u"OLD"_s, texto), antes) << texto.toStdString();
+    }
+    for (const QString &texto : { u""_s, u"  "_s, u"a, b"_s, u"a \"b\" c"_s, u"\""_s, u"a, \"b\""_s, u"'"_s,
+             u"[x]"_s, u"ñ\u2028\t\U0001F47E"_s, QString(u"a\0b"_s) }) {
+        EXPECT_TRUE(core::EsDescripcionEntera(texto)) << texto.toStdString();
+        ConNueva(antes, u"A"_s, texto);
+        ASSERT_EQ(core::CargaNotas(M, u"Console"_s), 2) << texto.toStdString();
+        EXPECT_EQ(M.Nota_Texto(0), texto.contains(u'"') ? texto.first(texto.indexOf(u'"')) : texto);
+        EXPECT_EQ(M.Nota_Clave(1), u"OLD");
+        EXPECT_EQ(M.Nota_Texto(1), u"Old");
+    }
+}

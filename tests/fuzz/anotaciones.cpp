@@ -187,10 +187,10 @@ void Pasos::descripcionNueva()
         return;
     const QString antes = m_texto;
     m_texto = core::ConDescripcionNueva(m_texto, sistema->sistema, clave, descripcion);
-    if (core::SePuedeDescribir(clave))
+    if (core::SePuedeDescribir(clave) && core::EsDescripcionEntera(descripcion))
         sistema->notas.prepend({ host::upper(clave), descripcion });
     else
-        ExigeIgual(m_texto, antes, "with a key that can't be written nothing changes");
+        ExigeIgual(m_texto, antes, "what can't be written changes nothing");
 }
 
 // The first note in the file with that text, whichever system it belongs to.
@@ -200,7 +200,8 @@ void Pasos::descripcionCambiada()
     const int cual = m_entrada.Numero(8);
     const QString clave = m_entrada.Nombre();
     const QString descripcion = unaLinea(m_entrada).remove(u'"');
-    if (!sistema || sistema->notas.isEmpty() || !core::SePuedeDescribir(clave))
+    if (!sistema || sistema->notas.isEmpty() || !core::SePuedeDescribir(clave)
+        || !core::EsDescripcionEntera(descripcion))
         return;
     const QString anterior = sistema->notas[cual % sistema->notas.size()].texto;
     m_texto = core::ConDescripcionCambiada(m_texto, anterior, clave, descripcion);

@@ -33,7 +33,7 @@ void descripcionNueva(
     ExigeSoloAñade(texto, despues);
     const QStringList lineas = desnudas(texto);
     const qsizetype cabecera = lineas.indexOf(sistema);
-    if (cabecera < 0 || !core::SePuedeDescribir(clave)) {
+    if (cabecera < 0 || !core::SePuedeDescribir(clave) || !core::EsDescripcionEntera(descripcion)) {
         ExigeIgual(despues, texto, "without a place nothing changes");
         return;
     }
@@ -41,8 +41,10 @@ void descripcionNueva(
     Exige(nuevas.size() == lineas.size() + 1, "one line is new");
     host::TextSource fuente(nuevas[cabecera + 1] + u'\n');
     ExigeIgual(fuente.readField(), host::upper(clave), "the key is read back");
+    const QString leida = fuente.readField();
     if (!descripcion.contains(u'"'))
-        ExigeIgual(fuente.readField(), descripcion, "the description is read back");
+        ExigeIgual(leida, descripcion, "the description is read back");
+    Exige(fuente.atEnd(), "the record ends with its line", descripcion);
 }
 
 void descripcionCambiada(
@@ -57,6 +59,7 @@ void descripcionCambiada(
         cambiadas += lineas[i] == nuevas[i] ? 0 : 1;
     Exige(cambiadas <= 1, "one note is changed", texto, despues);
     Exige(cambiadas == 0 || core::SePuedeDescribir(clave), "what can't be written isn't", clave);
+    Exige(cambiadas == 0 || core::EsDescripcionEntera(descripcion), "nor what would shift", descripcion);
 }
 
 void sistemaNuevo(const QString &texto, const QString &sistema)

@@ -576,6 +576,28 @@ TEST_F(AccionesTest, AnEntryWithoutAKeyIsNotDescribed_AndItIsSaid)
     EXPECT_THAT(listed(), ElementsAre(u"azip"_s, u"Un juego"_s));
 }
 
+TEST_F(AccionesTest, ADescriptionThatWouldRunIntoTheNextRecordIsRefusedWithAWord)
+{
+    startAt(Zeta, 0);
+    addWords();
+    clickRow(list(), 1);
+    const QByteArray before = notes();
+    QStringList told;
+    answer(
+        u"El \"dos\", otra vez"_s,
+        [&] {
+            atModal(u"Caja"_s, [&](forms::Form &form) {
+                told << form.Caption() << controlOf<forms::Label>(form, u"Texto2"_s).Caption();
+                click(controlOf<QWidget>(form, u"Flecha2"_s));
+            });
+            describe();
+        },
+        u"two.nes"_s);
+    EXPECT_THAT(told, ElementsAre(u"Sin anotar"_s, u"Este nombre no se puede usar: pon otro."_s));
+    EXPECT_EQ(notes(), before);
+    EXPECT_THAT(listed(), ElementsAre(u"Juego uno"_s, u"two.nes"_s));
+}
+
 TEST_F(AccionesTest, ANoteBehindAFirstOneWithoutAKeyIsChangedAndGivenParametersAndThrownAway)
 {
     files.writeNotes({ { u"Zeta"_s, { { QString(), u"x"_s }, { u"TWO.NES"_s, u"Dos"_s } } } });
