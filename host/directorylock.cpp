@@ -1,11 +1,21 @@
 #include "host/directorylock.h"
 
+#include "host/descriptor.h"
+#include "host/retried.h"
+
+#include <QByteArrayList>
 #include <QFile>
 
 #include <cerrno>
 #include <chrono>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <system_error>
 #include <thread>
 
+#include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 
@@ -18,7 +28,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto LongestWait = 10s;
-constexpr auto Pause = 10ms;
 
 QByteArray contentOf(const QString &file)
 {
@@ -52,19 +61,44 @@ QByteArray placeInTable(const QByteArray &device, ino_t inode)
     return place + QByteArray::number(qulonglong(inode));
 }
 
+struct Wait {
+    std::mutex mutex;
+    std::condition_variable end;
+    std::optional<int> error; // none yet; 0 for the lock
+};
+
+// 0, or the system's error. In a thread of its own, as the system's own wait knows no limit; asking now and
+// then would mostly find the lock taken again where another copy has much to write. A wait that was given up
+// goes on there, and gives back what it gets.
+int waitForLock(int directory)
+{
+    Descriptor own(fcntl(directory, F_DUPFD_CLOEXEC, 0));
+    if (!own.isOpen())
+        return errno;
+    const auto wait = std::make_shared<Wait>();
+    std::thread([wait, own = std::move(own)] {
+        const int result = retried([&own] { return flock(own.number(), LOCK_EX); });
+        const std::lock_guard guard(wait->mutex);
+        wait->error = result == 0 ? 0 : errno;
+        wait->end.notify_one();
+    }).detach();
+    std::unique_lock lock(wait->mutex);
+    wait->end.wait_for(lock, LongestWait, [&wait] { return wait->error.has_value(); });
+    return wait->error.value_or(ETIMEDOUT);
+}
+
 } // namespace
 
 bool lockDirectory(int directory)
 {
-    const auto end = std::chrono::steady_clock::now() + LongestWait;
-    while (flock(directory, LOCK_EX | LOCK_NB) != 0) {
-        if (errno != EWOULDBLOCK && errno != EINTR)
-            return true;
-        if (std::chrono::steady_clock::now() >= end)
-            return false;
-        std::this_thread::sleep_for(Pause);
+    if (retried([=] { return flock(directory, LOCK_EX | LOCK_NB); }) == 0 || errno != EWOULDBLOCK)
+        return true;
+    try {
+        errno = waitForLock(directory);
+    } catch (const std::system_error &failure) {
+        errno = failure.code().value();
     }
-    return true;
+    return errno == 0;
 }
 
 QString lockHolder(int directory)

@@ -91,6 +91,8 @@ void Replacement::lock()
 {
     if (lockDirectory(m_directory.number()))
         return;
+    if (errno != ETIMEDOUT)
+        fail(u"wait for another program to rewrite a file"_s);
     const QString holder = lockHolder(m_directory.number());
     throw Failure(PermissionDenied,
         u"rewrite a file, as another program"_s + (holder.isEmpty() ? QString() : u" ("_s + holder + u')')

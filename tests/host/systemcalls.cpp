@@ -1,13 +1,16 @@
 #include "systemcalls.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstdarg>
 #include <cstring>
 #include <type_traits>
 
+#include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <pthread.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -27,10 +30,11 @@ std::size_t mostWritten = std::numeric_limits<std::size_t>::max();
 
 long tickOfChanges = 0;
 int looksAtPaths = 0;
+std::atomic<int> locksAsked = 0;
 
-bool pausesAreQuick = false;
-timespec pausedFor {};
-int toldOfPauses = -1;
+bool waitsAreQuick = false;
+timespec waitedFor {};
+int toldOfWaits = -1;
 
 constexpr long NanosecondsPerSecond = 1'000'000'000;
 
@@ -38,6 +42,18 @@ void add(timespec &time, const timespec &more)
 {
     time.tv_sec += more.tv_sec + (time.tv_nsec + more.tv_nsec) / NanosecondsPerSecond;
     time.tv_nsec = (time.tv_nsec + more.tv_nsec) % NanosecondsPerSecond;
+}
+
+timespec difference(const timespec &later, const timespec &earlier)
+{
+    const long nanoseconds = later.tv_nsec - earlier.tv_nsec;
+    return { later.tv_sec - earlier.tv_sec - (nanoseconds < 0 ? 1 : 0),
+        nanoseconds + (nanoseconds < 0 ? NanosecondsPerSecond : 0) };
+}
+
+double seconds(const timespec &time)
+{
+    return double(time.tv_sec) + double(time.tv_nsec) / NanosecondsPerSecond;
 }
 
 int withTicks(int result, struct stat *status)
@@ -98,6 +114,9 @@ int openat(int directory, const char *path, int flags, ...)
 
 int flock(int file, int operation) noexcept
 {
+    ++locksAsked;
+    if ((operation & LOCK_NB) == 0 && goesWrong("waiting flock"))
+        return -1;
     return passed<int(int, int)>("flock", file, operation);
 }
 
@@ -109,13 +128,13 @@ int fstat(int file, struct stat *status) noexcept
 int stat(const char *path, struct stat *status) noexcept
 {
     ++looksAtPaths;
-    return withTicks(next<int(const char *, struct stat *)>("stat")(path, status), status);
+    return withTicks(passed<int(const char *, struct stat *)>("stat", path, status), status);
 }
 
 int lstat(const char *path, struct stat *status) noexcept
 {
     ++looksAtPaths;
-    return next<int(const char *, struct stat *)>("lstat")(path, status);
+    return passed<int(const char *, struct stat *)>("lstat", path, status);
 }
 
 int fstatat(int directory, const char *path, struct stat *status, int flags) noexcept
@@ -164,6 +183,11 @@ int fremovexattr(int file, const char *name) noexcept
     return passed<int(int, const char *)>("fremovexattr", file, name);
 }
 
+dirent *readdir(DIR *stream)
+{
+    return goesWrong("readdir") ? nullptr : next<dirent *(DIR *)>("readdir")(stream);
+}
+
 int fsync(int file)
 {
     return passed<int(int)>("fsync", file);
@@ -186,21 +210,25 @@ ssize_t write(int file, const void *buffer, std::size_t size)
         "write", file, buffer, std::min(size, mostWritten));
 }
 
-int nanosleep(const timespec *time, timespec *rest)
+int pthread_cond_clockwait(
+    pthread_cond_t *condition, pthread_mutex_t *mutex, clockid_t clock, const timespec *end)
 {
-    if (toldOfPauses >= 0 && write(toldOfPauses, "", 1) != 1)
-        return -1;
-    if (!pausesAreQuick)
-        return next<int(const timespec *, timespec *)>("nanosleep")(time, rest);
-    add(pausedFor, *time);
-    return 0;
+    using Wait = int(pthread_cond_t *, pthread_mutex_t *, clockid_t, const timespec *);
+    if (toldOfWaits >= 0 && write(toldOfWaits, "", 1) != 1)
+        return EINVAL;
+    if (!waitsAreQuick)
+        return next<Wait>("pthread_cond_clockwait")(condition, mutex, clock, end);
+    timespec now {};
+    clock_gettime(clock, &now);
+    add(waitedFor, difference(*end, now));
+    return ETIMEDOUT;
 }
 
 int clock_gettime(clockid_t clock, timespec *time) noexcept
 {
     const int result = next<int(clockid_t, timespec *)>("clock_gettime")(clock, time);
-    if (result == 0 && pausesAreQuick)
-        add(*time, pausedFor);
+    if (result == 0 && waitsAreQuick)
+        add(*time, waitedFor);
     return result;
 }
 
@@ -233,25 +261,37 @@ int looks()
     return looksAtPaths;
 }
 
+int locks()
+{
+    return locksAsked;
+}
+
 QuickTime::QuickTime()
 {
-    pausedFor = {};
-    pausesAreQuick = true;
+    waitedFor = {};
+    waitsAreQuick = true;
 }
 
 QuickTime::~QuickTime()
 {
-    pausesAreQuick = false;
+    waitsAreQuick = false;
 }
 
-double QuickTime::seconds() const
+double QuickTime::now()
 {
-    return double(pausedFor.tv_sec) + double(pausedFor.tv_nsec) / NanosecondsPerSecond;
+    timespec time {};
+    clock_gettime(CLOCK_MONOTONIC, &time);
+    return seconds(time);
 }
 
-void tellOfPauses(int descriptor)
+double QuickTime::waited()
 {
-    toldOfPauses = descriptor;
+    return seconds(waitedFor);
+}
+
+void tellOfWaits(int descriptor)
+{
+    toldOfWaits = descriptor;
 }
 
 void setMostWritten(std::size_t bytes)

@@ -8,6 +8,7 @@
 namespace systemcalls {
 
 // While it lives, the calls of this name fail with this error, the first few or all of them. One at a time.
+// "waiting flock" is a flock that waits for its lock.
 class FaultOf {
 public:
     FaultOf(const char *name, int error, int times = std::numeric_limits<int>::max());
@@ -31,7 +32,11 @@ public:
 // How many looks at a path, by stat or lstat, there have been so far.
 int looks();
 
-// While it lives, pausing takes no time, but time has passed behind it. One at a time.
+// How often a lock has been asked for so far.
+int locks();
+
+// While it lives, waiting for a condition with a limit takes no time and is in vain, but the clock shows
+// behind it that the time has passed. One at a time.
 class QuickTime {
 public:
     QuickTime();
@@ -39,11 +44,12 @@ public:
     QuickTime(const QuickTime &) = delete;
     QuickTime &operator=(const QuickTime &) = delete;
 
-    double seconds() const; // that have passed in pauses
+    static double now(); // in seconds, as the clock shows it
+    static double waited(); // the seconds that it was asked to wait
 };
 
-// From now on each pause writes a byte to this descriptor as it begins.
-void tellOfPauses(int descriptor);
+// From now on each such wait writes a byte to this descriptor as it begins.
+void tellOfWaits(int descriptor);
 
 // From now on a write takes no more than this many bytes at once.
 void setMostWritten(std::size_t bytes);
