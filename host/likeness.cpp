@@ -70,10 +70,12 @@ bool copyUserAttributes(int from, int to)
 // Only the system's administrator can give a file away; for others the group is kept where they belong to it.
 bool giveOwner(int file, const struct stat &fresh, const struct stat &old)
 {
-    if (fresh.st_uid == old.st_uid && fresh.st_gid == old.st_gid)
+    const auto give = [file](uid_t user, gid_t group) {
+        return retried([&] { return fchown(file, user, group); }) == 0;
+    };
+    if ((fresh.st_uid == old.st_uid && fresh.st_gid == old.st_gid) || give(old.st_uid, old.st_gid))
         return true;
-    return retried([&] { return fchown(file, old.st_uid, old.st_gid); }) == 0
-        || retried([&] { return fchown(file, uid_t(-1), old.st_gid); }) == 0 || isBeyondUs(errno);
+    return isBeyondUs(errno) && (give(uid_t(-1), old.st_gid) || isBeyondUs(errno));
 }
 
 // The place of an entry's rights in an access list as the system hands it over; -1 if there is none.

@@ -190,6 +190,15 @@ TEST_F(LikenessOfAnothersFile, AdministratorKeepsOwnerAndGroupAndMode)
     }
 }
 
+TEST_F(LikenessOfAnothersFile, FileIsNotGivenToAnother_WhereTheDeviceFailsAtTheGiving)
+{
+    give(4001, 4000, 0640);
+    const systemcalls::FaultOf fault("fchown", ENOSPC, 1);
+    EXPECT_EQ(failureOf([this] { rewrite(); }), host::DiskFull);
+    EXPECT_EQ(status().st_uid, 4001u);
+    EXPECT_EQ(bytes("a"), "old\r\n");
+}
+
 TEST_F(LikenessOfAnothersFile, UserKeepsTheGroup_WhereTheyBelongToIt)
 {
     give(2000, 2002, 02664);
