@@ -1,5 +1,7 @@
 #include "launch/destino.h"
 
+#include "host/retried.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <string>
@@ -11,6 +13,8 @@
 
 namespace launch {
 
+using host::retried;
+
 namespace {
 
 constexpr std::int64_t MinimoLibre = 100 * 1024 * 1024;
@@ -20,7 +24,7 @@ constexpr int EnDirectorio = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 std::int64_t espacioDelSistema(int descriptor)
 {
     struct statvfs disco;
-    if (fstatvfs(descriptor, &disco) != 0)
+    if (retried([&] { return fstatvfs(descriptor, &disco); }) != 0)
         return 0;
     return std::int64_t(disco.f_bavail) * std::int64_t(disco.f_frsize);
 }
@@ -65,11 +69,12 @@ bool FicheroNuevo::Escribe(const char *bytes, std::int64_t total)
     if (espacioLibre()(m_directorio.number()) - total < MinimoLibre)
         return false;
     while (total > 0) {
-        const ssize_t escritos = write(m_provisional.file.number(), bytes, size_t(total));
-        if (escritos < 0 && errno != EINTR)
+        const ssize_t escritos =
+            retried([&] { return write(m_provisional.file.number(), bytes, size_t(total)); });
+        if (escritos < 0)
             return false;
-        bytes += std::max<ssize_t>(escritos, 0);
-        total -= std::max<ssize_t>(escritos, 0);
+        bytes += escritos;
+        total -= escritos;
     }
     return true;
 }
@@ -77,17 +82,21 @@ bool FicheroNuevo::Escribe(const char *bytes, std::int64_t total)
 bool FicheroNuevo::Termina(const QByteArray &nombre, bool soloLectura)
 {
     struct stat estado;
-    if (soloLectura && fstat(m_provisional.file.number(), &estado) == 0)
-        fchmod(m_provisional.file.number(), estado.st_mode & 0555);
+    const int fichero = m_provisional.file.number();
+    if (soloLectura && retried([&] { return fstat(fichero, &estado); }) == 0)
+        retried([&] { return fchmod(fichero, estado.st_mode & 0555); });
     const int directorio = m_directorio.number();
-    if (renameat(directorio, m_provisional.name.c_str(), directorio, nombre.constData()) != 0)
+    const auto renombra = [&] {
+        return renameat(directorio, m_provisional.name.c_str(), directorio, nombre.constData());
+    };
+    if (retried(renombra) != 0)
         return false;
     m_provisional.name.clear();
     return true;
 }
 
 Destino::Destino(const QByteArray &ruta)
-    : m_descriptor(open(ruta.constData(), EnDirectorio))
+    : m_descriptor(retried([&] { return open(ruta.constData(), EnDirectorio); }))
 {
     barre(m_descriptor, {});
 }
@@ -107,10 +116,13 @@ bool Destino::QuedaSitio() const
 
 host::Descriptor Destino::Directorio(const QList<QByteArray> &partes) const
 {
-    host::Descriptor directorio(openat(m_descriptor.number(), ".", EnDirectorio));
+    const auto abre = [](const host::Descriptor &en, const char *nombre) {
+        return host::Descriptor(retried([&] { return openat(en.number(), nombre, EnDirectorio); }));
+    };
+    host::Descriptor directorio = abre(m_descriptor, ".");
     for (const QByteArray &parte : partes) {
-        mkdirat(directorio.number(), parte.constData(), 0777);
-        directorio = host::Descriptor(openat(directorio.number(), parte.constData(), EnDirectorio));
+        retried([&] { return mkdirat(directorio.number(), parte.constData(), 0777); });
+        directorio = abre(directorio, parte.constData());
         if (!directorio.isOpen())
             break;
     }
@@ -121,8 +133,12 @@ host::Descriptor Destino::Directorio(const QList<QByteArray> &partes) const
 Destino::Ocupante Destino::QuienOcupa(const host::Descriptor &directorio, const QByteArray &nombre)
 {
     struct stat estado;
-    if (fstatat(directorio.number(), nombre.constData(), &estado, AT_SYMLINK_NOFOLLOW) != 0)
-        return Ocupante::Nadie;
+    const auto mira = [&] {
+        return fstatat(directorio.number(), nombre.constData(), &estado, AT_SYMLINK_NOFOLLOW);
+    };
+    // What can't be seen may be a file: nothing is replaced unasked.
+    if (retried(mira) != 0)
+        return errno == ENOENT || errno == ENAMETOOLONG ? Ocupante::Nadie : Ocupante::Fichero;
     return S_ISDIR(estado.st_mode) ? Ocupante::Directorio : Ocupante::Fichero;
 }
 

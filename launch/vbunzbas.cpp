@@ -7,6 +7,7 @@
 #include "host/failure.h"
 #include "host/paths.h"
 #include "host/questions.h"
+#include "host/retried.h"
 
 #include <array>
 #include <memory>
@@ -100,7 +101,8 @@ host::Descriptor abre(const QString &ruta)
         sinBlancos.chop(1);
     if (enDisco.isEmpty())
         enDisco = host::findOnDisk(sinBlancos);
-    return host::Descriptor(open(enDisco.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    return host::Descriptor(
+        host::retried([&] { return open(enDisco.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); }));
 }
 
 struct Cierra {

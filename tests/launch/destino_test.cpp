@@ -141,6 +141,25 @@ TEST_F(DestinoTest, ADirectoryThatGoesMeanwhileTakesNoFile)
     EXPECT_FALSE(FicheroNuevo(directorio).Abierto());
 }
 
+TEST_F(DestinoTest, ANameIsTakenOnlyWhereNothingOfItCanBeThere)
+{
+    using Ocupante = Destino::Ocupante;
+    makeFile("to/own.txt");
+    makeDirectory("to/docs");
+    const host::Descriptor directorio = abre("to");
+    EXPECT_EQ(Destino::QuienOcupa(directorio, "own.txt"), Ocupante::Fichero);
+    EXPECT_EQ(Destino::QuienOcupa(directorio, "docs"), Ocupante::Directorio);
+    EXPECT_EQ(Destino::QuienOcupa(directorio, "new.txt"), Ocupante::Nadie);
+    EXPECT_EQ(Destino::QuienOcupa(directorio, QByteArray(256, 'n')), Ocupante::Nadie);
+
+    setMode("to", 0644); // its names can be read, but not be looked at
+    EXPECT_EQ(inChildOfOrdinaryUser([&] {
+        const host::Descriptor sinPaso = abre("to");
+        return int(Destino::QuienOcupa(sinPaso, "own.txt"));
+    }),
+        int(Ocupante::Fichero));
+}
+
 TEST_F(DestinoTest, WhatAKilledRunLeftGoes_BelowTooWhereItIsUnpacked)
 {
     const QByteArray nombre = provisional(terminado(), 0);
