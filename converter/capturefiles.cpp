@@ -2,6 +2,7 @@
 
 #include "converter/picture.h"
 #include "host/descriptor.h"
+#include "host/retried.h"
 #include "host/scratch.h"
 
 #include <array>
@@ -14,6 +15,8 @@
 #include <sys/stat.h>
 
 namespace converter {
+
+using host::retried;
 
 namespace {
 
@@ -56,18 +59,22 @@ public:
     void write(const std::string &bytes)
     {
         for (std::size_t done = 0; done < bytes.size();) {
-            const ssize_t count = ::write(m_scratch.file.number(), bytes.data() + done, bytes.size() - done);
-            if (count < 0 && errno != EINTR)
+            const ssize_t count = retried(
+                [&] { return ::write(m_scratch.file.number(), bytes.data() + done, bytes.size() - done); });
+            if (count < 0)
                 failWith(errno, "the GIF can't be written");
-            done += count > 0 ? std::size_t(count) : 0;
+            done += std::size_t(count);
         }
-        if (fsync(m_scratch.file.number()) != 0)
+        if (retried([this] { return fsync(m_scratch.file.number()); }) != 0)
             failWith(errno, "the GIF can't be written to the disk");
     }
 
     void rename(const std::string &name)
     {
-        if (renameat(m_directory, m_scratch.name.c_str(), m_directory, name.c_str()) != 0)
+        const auto rename = [&] {
+            return renameat(m_directory, m_scratch.name.c_str(), m_directory, name.c_str());
+        };
+        if (retried(rename) != 0)
             failWith(errno, "the GIF can't be put in its place");
         m_renamed = true;
         // The GIF is in its place whatever this says.
@@ -83,7 +90,7 @@ private:
 bool isFile(const std::string &name)
 {
     struct stat status;
-    return stat(name.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+    return retried([&] { return stat(name.c_str(), &status); }) == 0 && !S_ISDIR(status.st_mode);
 }
 
 } // namespace
@@ -91,9 +98,10 @@ bool isFile(const std::string &name)
 std::vector<std::uint8_t> readCapture(const std::string &name)
 {
     // Without waiting for what isn't a plain file.
-    const host::Descriptor file(open(name.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const host::Descriptor file(
+        retried([&] { return open(name.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); }));
     struct stat status;
-    if (!file.isOpen() || fstat(file.number(), &status) != 0)
+    if (!file.isOpen() || retried([&] { return fstat(file.number(), &status); }) != 0)
         failWith(errno, "it can't be opened");
     if (!S_ISREG(status.st_mode))
         throw Unreadable(S_ISDIR(status.st_mode) ? "it is a directory" : "it is no plain file");
@@ -102,12 +110,13 @@ std::vector<std::uint8_t> readCapture(const std::string &name)
     std::vector<std::uint8_t> bytes(std::size_t(status.st_size));
     std::size_t done = 0;
     while (done < bytes.size()) {
-        const ssize_t count = ::read(file.number(), bytes.data() + done, bytes.size() - done);
-        if (count < 0 && errno != EINTR)
+        const ssize_t count =
+            retried([&] { return ::read(file.number(), bytes.data() + done, bytes.size() - done); });
+        if (count < 0)
             failWith(errno, "it can't be read");
         if (count == 0)
             break;
-        done += count > 0 ? std::size_t(count) : 0;
+        done += std::size_t(count);
     }
     bytes.resize(done);
     return bytes;
@@ -129,7 +138,8 @@ std::string gifNameFor(const std::string &name)
 
 void replaceFile(const std::string &name, const std::string &bytes)
 {
-    const host::Descriptor directory(open(directoryOf(name).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const host::Descriptor directory(
+        retried([&] { return open(directoryOf(name).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
     if (!directory.isOpen())
         failWith(errno, "its directory can't be opened");
     host::sweepScratchFiles(directory.number(), Unfinished);

@@ -1,5 +1,7 @@
 #include "host/scratch.h"
 
+#include "host/retried.h"
+
 #include <cerrno>
 #include <charconv>
 #include <csignal>
@@ -101,7 +103,8 @@ ScratchFile openScratchFile(int directory, const std::string &prefix)
     ScratchFile scratch;
     for (int i = 0; i < MostNames && !scratch.file.isOpen(); ++i) {
         scratch.name = '.' + prefix + '-' + std::to_string(getpid()) + '-' + std::to_string(i);
-        scratch.file = Descriptor(openat(directory, scratch.name.c_str(), Flags, NewFileMode));
+        scratch.file =
+            Descriptor(retried([&] { return openat(directory, scratch.name.c_str(), Flags, NewFileMode); }));
         if (!scratch.file.isOpen() && errno != EEXIST)
             break;
     }

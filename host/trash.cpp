@@ -7,7 +7,6 @@
 #include "host/retried.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
 #include <QStandardPaths>
 
@@ -86,12 +85,27 @@ QByteArray dataDirectory()
     return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
 }
 
+QByteArray directoryAbove(const QByteArray &path)
+{
+    return path.first(std::max<qsizetype>(path.lastIndexOf('/'), 1));
+}
+
+// With the directories above it.
+void makeDirectories(const QByteArray &path)
+{
+    const auto make = [&path] { return mkdir(path.constData(), 0700); };
+    if (retried(make) == 0 || errno != ENOENT || path.size() <= 1)
+        return;
+    makeDirectories(directoryAbove(path));
+    retried(make);
+}
+
 Trash trashAtHome()
 {
     const QByteArray data = dataDirectory();
     const QByteArray trash = data + "/Trash";
-    return QDir().mkpath(QFile::decodeName(data)) && haveTrash(trash, Links::OfTheUser) ? Trash { trash, {} }
-                                                                                        : Trash {};
+    makeDirectories(data);
+    return haveTrash(trash, Links::OfTheUser) ? Trash { trash, {} } : Trash {};
 }
 
 // Where an existing path really lies; empty if that can't be seen.
@@ -104,11 +118,6 @@ QByteArray realPath(const QByteArray &path)
     const QByteArray real(found);
     free(found);
     return real;
-}
-
-QByteArray directoryAbove(const QByteArray &path)
-{
-    return path.first(std::max<qsizetype>(path.lastIndexOf('/'), 1));
 }
 
 // What a real path is mounted by: within one mount, and nowhere else, a file can be moved. None if that can't

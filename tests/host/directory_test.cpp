@@ -4,6 +4,8 @@
 #include "host/directory.h"
 #include "host/paths.h"
 
+#include <cerrno>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -69,6 +71,28 @@ TEST_F(DirectoryReadings, NewNamesAreFoundAtOnce_WhereTheClockTellsWholeSeconds)
 {
     const systemcalls::CoarseClock clock(systemcalls::CoarseClock::WholeSeconds);
     findEachNewFile(150);
+}
+
+TEST_F(DirectoryReadings, AreNone_WhereTheDirectoryCannotBeReadToItsEnd)
+{
+    makeFile("a");
+    for (const int error : { EIO, ENOENT }) {
+        const systemcalls::FaultOf reading("readdir", error);
+        EXPECT_FALSE(Directory::at(place())) << error;
+    }
+    ASSERT_TRUE(Directory::at(place()));
+    EXPECT_EQ(Directory::at(place())->entries().size(), 1u);
+}
+
+TEST_F(DirectoryReadings, GoOn_WhereTheyAreInterrupted)
+{
+    makeFile("a");
+    for (const char *call : { "stat", "lstat", "open", "fstat", "readdir" }) {
+        const systemcalls::FaultOf interruptions(call, EINTR, 2);
+        EXPECT_EQ(findOnDisk(path(u"A"_s)), place("a")) << call;
+        ASSERT_TRUE(Directory::at(place())) << call;
+        EXPECT_EQ(Directory::at(place())->entries().size(), 1u) << call;
+    }
 }
 
 TEST(OldDirectoryReadings, AreKept_AlsoWhereTheClockTellsWholeSeconds)

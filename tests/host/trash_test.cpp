@@ -108,6 +108,16 @@ TEST_F(TrashTest, FileGoesToTheTrashWithItsContentAndOrigin)
     EXPECT_EQ(mode("home/data/Trash"), mode_t(0700));
 }
 
+TEST_F(TrashTest, TrashIsMadeWithAllDirectoriesAboveIt_ForTheUserAlone)
+{
+    qputenv("XDG_DATA_HOME", place("home/.local/share"));
+    makeFile("games/a.bin", "A");
+    EXPECT_TRUE(host::moveToTrash(path(u"games/a.bin"_s)));
+    EXPECT_EQ(bytes("home/.local/share/Trash/files/a.bin"), "A");
+    for (const QByteArray &made : { QByteArray("home/.local"), QByteArray("home/.local/share") })
+        EXPECT_EQ(mode(made), mode_t(0700)) << made.constData();
+}
+
 TEST_F(TrashTest, FileIsFoundInAnyCase)
 {
     makeFile("games/Pong.bin");
