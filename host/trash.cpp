@@ -7,6 +7,7 @@
 #include "host/retried.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QStandardPaths>
 
@@ -80,9 +81,15 @@ Trash trashOfVolume(const QByteArray &top)
     return {};
 }
 
+// Empty if there is none. A place that isn't absolute is passed over, as the standard asks.
 QByteArray dataDirectory()
 {
-    return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    const QString chosen = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    for (const QString &place : { chosen, QDir::homePath() + u"/.local/share"_s }) {
+        if (place.startsWith(u'/'))
+            return QFile::encodeName(place);
+    }
+    return {};
 }
 
 QByteArray directoryAbove(const QByteArray &path)
@@ -94,7 +101,7 @@ QByteArray directoryAbove(const QByteArray &path)
 void makeDirectories(const QByteArray &path)
 {
     const auto make = [&path] { return mkdir(path.constData(), 0700); };
-    if (retried(make) == 0 || errno != ENOENT || path.size() <= 1)
+    if (retried(make) == 0 || errno != ENOENT || path == "/")
         return;
     makeDirectories(directoryAbove(path));
     retried(make);
@@ -148,10 +155,13 @@ QByteArray topOf(QByteArray directory, std::uint64_t mount)
     return directory;
 }
 
-// The mount of the user's own trash, or of where it is going to be made.
+// The mount of the user's own trash, or of where it is going to be made. None where it can't be.
 std::optional<std::uint64_t> mountOfTrashAtHome()
 {
-    QByteArray place = dataDirectory() + "/Trash";
+    const QByteArray data = dataDirectory();
+    if (data.isEmpty())
+        return std::nullopt;
+    QByteArray place = data + "/Trash";
     QByteArray real = realPath(place);
     while (real.isEmpty() && place != "/") {
         place = directoryAbove(place);

@@ -118,6 +118,23 @@ TEST_F(TrashTest, TrashIsMadeWithAllDirectoriesAboveIt_ForTheUserAlone)
         EXPECT_EQ(mode(made), mode_t(0700)) << made.constData();
 }
 
+// As the standard asks.
+TEST_F(TrashTest, PlaceOfTheTrashThatIsNotAbsoluteIsPassedOver)
+{
+    ASSERT_EQ(chdir(place("games").constData()), 0);
+    qputenv("XDG_DATA_HOME", "share/data");
+    makeFile("games/a.bin", "A");
+    EXPECT_TRUE(host::moveToTrash(path(u"games/a.bin"_s)));
+    EXPECT_EQ(bytes("home/.local/share/Trash/files/a.bin"), "A");
+    EXPECT_FALSE(exists("games/share"));
+
+    qputenv("HOME", "home");
+    makeFile("games/b.bin", "B");
+    EXPECT_FALSE(host::moveToTrash(path(u"games/b.bin"_s)));
+    EXPECT_EQ(bytes("games/b.bin"), "B");
+    EXPECT_FALSE(exists("games/home"));
+}
+
 TEST_F(TrashTest, FileIsFoundInAnyCase)
 {
     makeFile("games/Pong.bin");
