@@ -278,7 +278,9 @@ QStringList FiltrosDeTexto(const QString &texto)
 
 bool VuelveIdioma(const QString &fichero)
 {
-    return vuelveValor(fichero, LineaDeIdioma(fichero));
+    // The word for the end of a program, which stands ahead, may open double quotes that this line closes.
+    const QString linea = LineaDeIdioma(fichero);
+    return vuelveValor(fichero, linea) && !llevaMarca(u'"' + linea);
 }
 
 bool VuelveMsgEndDOS(const QString &texto)
