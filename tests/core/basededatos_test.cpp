@@ -274,3 +274,14 @@ TEST_F(BaseDeDatos, AnAnswerIsCutAtEveryComma)
     EXPECT_EQ(core::PartirExtensiones(QString(150, u',')).size(), 151);
     EXPECT_EQ(NumeroDeFallo([] { core::PartirExtensiones(QString(151, u',')); }), host::OutOfRange);
 }
+
+TEST_F(BaseDeDatos, SystemsOfATextAreThoseOfItsHyphens)
+{
+    const QString texto = u"' top\r\nOld\r\n-Two\r\n*.BIN\r\n+Emu\n-Ñu, \"x\"\r\n-\n'----\r\n -No\r\n-last"_s;
+    EXPECT_EQ(
+        core::SistemasDelTexto(texto), (QStringList { u"Two"_s, u"Ñu, \"x\""_s, QString(), u"last"_s }));
+    for (const QString &suyo : { u"two"_s, u"ÑU, \"X\""_s, u"LAST"_s })
+        EXPECT_TRUE(core::SistemaEnTexto(texto, suyo)) << suyo.toStdString();
+    for (const QString &otro : { u"Emu"_s, u"ld"_s, u"No"_s, u"-Two"_s, u"Tw"_s })
+        EXPECT_FALSE(core::SistemaEnTexto(texto, otro)) << otro.toStdString();
+}
