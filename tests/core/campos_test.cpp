@@ -3,6 +3,8 @@
 
 #include "host/textsource.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
