@@ -3,6 +3,10 @@
 #include "host/letters.h"
 #include "host/numbers.h"
 
+#include <QList>
+
+#include <algorithm>
+#include <iterator>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -88,20 +92,35 @@ QString LineaDeInfo(int tipo, const QString &directorio, const FichaDeROM &ficha
     return lineaConMedida(tipo, ficha, medida(tipo, directorio, ficha, largo));
 }
 
-QString UltimaLineaDeInfo(
-    const Modulo &M, const QString &texto, int tipo, const QString &directorio, const LargoDeFichero &largo)
+QString UltimaLineaDeInfo(const Modulo &M, const QString &texto, int tipo, const QString &directorio,
+    const LargoDeFichero &largo, const EstaSeguro &esta)
 {
-    std::optional<FichaDeROM> ultima;
-    qint64 bytes = 0;
+    QList<FichaDeROM> fichas;
     try {
-        BuscaROM(M, texto, [&](const FichaDeROM &ficha) {
-            bytes = medida(tipo, directorio, ficha, largo);
-            ultima = ficha;
-        });
+        BuscaROM(M, texto, [&](const FichaDeROM &ficha) { fichas.append(ficha); });
     } catch (const host::Failure &) {
-        // The line of the note ahead stands.
+        // A full table ends the walk: the notes ahead count.
     }
-    return ultima ? lineaConMedida(tipo, *ultima, bytes) : QString();
+    if (fichas.isEmpty())
+        return {};
+    const auto bytes = [&](const FichaDeROM &ficha) -> std::optional<qint64> {
+        try {
+            return medida(tipo, directorio, ficha, largo);
+        } catch (const host::Failure &) {
+            return std::nullopt;
+        }
+    };
+    const auto seLee = [&](const FichaDeROM &ficha) {
+        return (FicherosSueltos(tipo) && esta(directorio + ficha.nombre)) || bytes(ficha);
+    };
+    // The last one that can be looked at ahead of the first that can't.
+    auto ultima = std::find_if_not(fichas.cbegin(), std::prev(fichas.cend()), seLee);
+    for (;; --ultima) {
+        if (const std::optional<qint64> suyos = bytes(*ultima))
+            return lineaConMedida(tipo, *ultima, *suyos);
+        if (ultima == fichas.cbegin())
+            return {};
+    }
 }
 
 QString RutaDeCaptura(int tipo, const QString &directorio, const FichaDeROM &ficha)

@@ -25,11 +25,14 @@ void BuscaROM(const Modulo &M, const QString &texto, const std::function<void(co
 QString LineaDeInfo(
     int tipo, const QString &directorio, const FichaDeROM &ficha, const LargoDeFichero &largo);
 
+// Whether a file is surely there, told without a look at it: false proves nothing.
+using EstaSeguro = std::function<bool(const QString &ruta)>;
+
 // The line of the last of the notes with this text, or of the text itself; where a file can't be looked at,
 // of the one ahead, and empty where that was the first. Thousands of notes may share a text: only the one
-// line is put together.
-QString UltimaLineaDeInfo(
-    const Modulo &M, const QString &texto, int tipo, const QString &directorio, const LargoDeFichero &largo);
+// line is put together, and of loose files only its length is asked for where the others surely are there.
+QString UltimaLineaDeInfo(const Modulo &M, const QString &texto, int tipo, const QString &directorio,
+    const LargoDeFichero &largo, const EstaSeguro &esta);
 
 // Path of the capture; empty for a type without captures. Fails with 5 for a name without the point at which
 // it is cut.

@@ -165,19 +165,31 @@ Directory::Directory(std::vector<Entry> entries)
     });
 }
 
-QByteArray Directory::find(const QString &name) const
+// Null where no entry has this name in any case.
+const Directory::Entry *Directory::named(const QString &name) const
 {
     const QString key = upper(name);
     const auto first = std::lower_bound(m_entries.begin(), m_entries.end(), key,
         [](const Entry &entry, const QString &wanted) { return compareCodes(entry.upper, wanted) < 0; });
     for (auto entry = first; entry != m_entries.end() && entry->upper == key; ++entry) {
         if (entry->name == name)
-            return entry->bytes;
+            return &*entry;
     }
-    if (first != m_entries.end() && first->upper == key)
-        return first->bytes;
+    return first != m_entries.end() && first->upper == key ? &*first : nullptr;
+}
+
+QByteArray Directory::find(const QString &name) const
+{
+    if (const Entry *entry = named(name))
+        return entry->bytes;
     nameShortForms();
-    return m_byShortForm.value(key);
+    return m_byShortForm.value(upper(name));
+}
+
+bool Directory::holdsFile(const QString &name) const
+{
+    const Entry *entry = named(name);
+    return entry && entry->type == DT_REG;
 }
 
 QString Directory::shortForm(const QString &name) const

@@ -41,10 +41,14 @@ public:
     // has this short form. Empty if there is none.
     QByteArray find(const QString &name) const;
 
+    // True if what find gives was a plain file at the reading; false also where the reading didn't tell.
+    bool holdsFile(const QString &name) const;
+
     // The short form of an entry; any other name stays as it is.
     QString shortForm(const QString &name) const;
 
 private:
+    const Entry *named(const QString &name) const;
     bool isAloneWith(const QString &name, const QString &plain) const;
     void nameShortForms() const;
 

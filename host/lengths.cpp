@@ -23,8 +23,7 @@ LengthsIn::LengthsIn(const QString &directory)
 qint64 LengthsIn::operator()(const QString &path) const
 {
     const QString name = path.sliced(m_directory.size());
-    if (m_found.isEmpty() || name.isEmpty() || name.size() > NAME_MAX || lastSeparator(name) >= 0
-        || name.contains(QChar::Null))
+    if (!isEntry(name))
         return fileLength(path);
     struct stat status;
     const auto leadsToFile = [&](const QByteArray &entry) {
@@ -39,6 +38,23 @@ qint64 LengthsIn::operator()(const QString &path) const
     if (!leadsToFile(entryFor(m_found, name)))
         throw Failure(FileNotFound, u"read the length"_s, path);
     return status.st_size;
+}
+
+bool LengthsIn::lists(const QString &path) const
+{
+    const QString name = path.sliced(m_directory.size());
+    if (!isEntry(name))
+        return false;
+    if (!m_listing)
+        m_listing = Directory::at(m_found);
+    return m_listing && m_listing->holdsFile(name);
+}
+
+// True for a name that can only mean an entry of the directory found.
+bool LengthsIn::isEntry(const QString &name) const
+{
+    return !m_found.isEmpty() && !name.isEmpty() && name.size() <= NAME_MAX && lastSeparator(name) < 0
+        && !name.contains(QChar::Null);
 }
 
 } // namespace host

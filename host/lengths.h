@@ -20,7 +20,13 @@ public:
     // Length in bytes. Fails with 53.
     qint64 operator()(const QString &path) const;
 
+    // True if a listing of the directory tells that the file is there, without a look at the file itself: a
+    // directory that can be listed but not entered has no lengths. False proves nothing.
+    bool lists(const QString &path) const;
+
 private:
+    bool isEntry(const QString &name) const;
+
     QString m_directory;
     QByteArray m_found; // empty where each path has to be found as a whole
     mutable std::shared_ptr<const Directory> m_listing;

@@ -13,6 +13,7 @@
 
 #include <QSet>
 
+#include <functional>
 #include <utility>
 
 namespace mainscreen {
@@ -29,8 +30,9 @@ void Portada::LLena_INFO()
         if (Lista1->ListIndex() < 0)
             return;
         const QString directorio = core::ValorExigido(M.Cat_ROM(sistema, emulador), core::PrefijoRuta);
-        linea = core::UltimaLineaDeInfo(
-            M, Lista1->Text(), core::Numero(M.TipoEmu), directorio, host::LengthsIn(directorio));
+        const host::LengthsIn largos(directorio);
+        linea = core::UltimaLineaDeInfo(M, Lista1->Text(), core::Numero(M.TipoEmu), directorio,
+            std::cref(largos), [&](const QString &ruta) { return largos.lists(ruta); });
     } catch (const host::Failure &) {
         // The label keeps its text.
     }

@@ -195,6 +195,57 @@ TEST_F(Informacion, LengthIsFoundByAKeyInUpperCase)
         u"CASTLE.ZIP  3Kb [ZIP]");
 }
 
+namespace {
+
+// The line of the notes A, B, C, D of one text, and the files asked for their length. Of those in `seguras`
+// a listing tells that they are there; a look at one in `perdidas` fails.
+struct DeVarias {
+    QString linea;
+    QStringList miradas;
+};
+
+DeVarias LineaDeVarias(core::Modulo &M, int tipo, const QStringList &seguras, const QStringList &perdidas)
+{
+    DeVarias todo;
+    todo.linea = core::UltimaLineaDeInfo(
+        M, u"Same"_s, tipo, QString(),
+        [&](const QString &ruta) -> qint64 {
+            todo.miradas += ruta;
+            if (perdidas.contains(ruta))
+                throw host::Failure(host::FileNotFound, u"look"_s, ruta);
+            return 2048;
+        },
+        [&](const QString &ruta) { return seguras.contains(ruta); });
+    return todo;
+}
+
+} // namespace
+
+TEST_F(Informacion, OfManyNotesOfOneText_TheLastOneIsLookedAt_AndThoseThatNothingTellsOf)
+{
+    PonNotas({ { u"A"_s, u"Same"_s }, { u"B"_s, u"Same"_s }, { u"C"_s, u"Same"_s }, { u"D"_s, u"Same"_s } });
+    const QStringList todas { u"A"_s, u"B"_s, u"C"_s, u"D"_s };
+    const auto caso = [&](const QStringList &seguras, const QStringList &perdidas) {
+        return LineaDeVarias(M, 0, seguras, perdidas);
+    };
+    EXPECT_EQ(caso(todas, {}).linea, u"D 2Kb  [NOR]");
+    EXPECT_EQ(caso(todas, {}).miradas, QStringList { u"D"_s });
+    EXPECT_EQ(caso({ u"A"_s, u"C"_s }, {}).miradas, (QStringList { u"B"_s, u"D"_s }));
+    EXPECT_EQ(caso({}, { u"B"_s }).linea, u"A 2Kb  [NOR]");
+    EXPECT_EQ(caso(todas, { u"D"_s }).linea, u"C 2Kb  [NOR]");
+    EXPECT_EQ(caso(todas, { u"D"_s, u"C"_s }).linea, u"B 2Kb  [NOR]");
+    EXPECT_EQ(caso({}, { u"A"_s }).linea, QString());
+    EXPECT_EQ(caso(todas, todas).linea, QString());
+}
+
+TEST_F(Informacion, OfManyZips_EachIsLookedAt)
+{
+    PonNotas({ { u"A"_s, u"Same"_s }, { u"B"_s, u"Same"_s } });
+    const QStringList todas { u"A.ZIP"_s, u"B.ZIP"_s, u"A"_s, u"B"_s };
+    EXPECT_EQ(LineaDeVarias(M, 3, todas, { u"A.ZIP"_s }).linea, QString());
+    EXPECT_EQ(LineaDeVarias(M, 3, todas, { u"B.ZIP"_s }).linea, u"A.ZIP  2Kb [ZIP]");
+}
+
 struct CasoDeCaptura {
     int tipo;
     FichaDeROM ficha;

@@ -330,8 +330,9 @@ TEST_P(Mundos, AreListedAndToldAsTheModelDoes)
             const Sabido esperado = sabido(mundo, entrada);
             const Sabido hallado = Sabe(mundo, directorio, entrada);
             ASSERT_TRUE(hallado.lineas == esperado.lineas);
-            ASSERT_TRUE(
-                core::UltimaLineaDeInfo(M, texto(entrada), mundo.tipo, Ruta(directorio), host::fileLength)
+            const host::LengthsIn largos(Ruta(directorio));
+            ASSERT_TRUE(core::UltimaLineaDeInfo(M, texto(entrada), mundo.tipo, Ruta(directorio),
+                            std::cref(largos), [&](const QString &ruta) { return largos.lists(ruta); })
                 == (esperado.lineas.empty() ? QString() : texto(esperado.lineas.back())));
             ASSERT_TRUE(hallado.capturas == esperado.capturas);
         }

@@ -147,8 +147,27 @@ TEST_F(Lengths, OfManyFilesOfADirectory_AreThoseOfEach)
             qint64 ofMany = -1;
             EXPECT_EQ(failureOf([&] { ofMany = lengths(directory + name); }), failure);
             EXPECT_EQ(ofMany, length);
+            EXPECT_TRUE(failure == 0 || !lengths.lists(directory + name));
         }
     }
+}
+
+TEST_F(Lengths, AreSureToBeThere_OfPlainFilesThatAListingTells)
+{
+    makeDirectory("Roms");
+    makeFile("Roms/One.nes", "abc");
+    makeDirectory("Roms/dir.nes");
+    makeLink("One.nes", "Roms/link.nes");
+    const LengthsIn lengths(path(u"Roms/"_s));
+    const int before = systemcalls::looks();
+    EXPECT_TRUE(lengths.lists(path(u"Roms/One.nes"_s)));
+    const int afterTheListing = systemcalls::looks();
+    EXPECT_GT(afterTheListing, before) << "the looks aren't counted";
+    EXPECT_TRUE(lengths.lists(path(u"Roms/oNE.NES"_s)));
+    for (const QString &name : { u"dir.nes"_s, u"link.nes"_s, u"gone"_s, u""_s, u"../Roms/One.nes"_s })
+        EXPECT_FALSE(lengths.lists(path(u"Roms/"_s) + name)) << name.toStdString();
+    EXPECT_EQ(systemcalls::looks(), afterTheListing);
+    EXPECT_FALSE(LengthsIn(path(u"none/"_s)).lists(path(u"none/One.nes"_s)));
 }
 
 // Thousands of them are asked for at once.
