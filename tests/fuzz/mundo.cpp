@@ -22,7 +22,7 @@ namespace pelusa {
 QByteArray Rincon()
 {
     static const QTemporaryDir directorio(
-        access("/dev/shm", W_OK) == 0 ? u"/dev/shm/zembrolix-fuzz-XXXXXX"_s : QString());
+        qEnvironmentVariableIsEmpty("TMPDIR") && access("/dev/shm", W_OK) == 0 ? u"/dev/shm/zembrolix-fuzz-XXXXXX"_s : QString());
     return directorio.path().toUtf8() + '/';
 }
 

@@ -17,6 +17,10 @@ build=build/fuzz
 topics=("$@")
 [ ${#topics[@]} -gt 0 ] || mapfile -t topics < <(cd "$here/seeds" && ls)
 export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=1
+# A fuzzer that finds something, or is ended, leaves its directory; in memory where there is such a place.
+corner=$(mktemp -d "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")/zembrolix-fuzz-XXXXXX")
+trap 'rm -rf "$corner"' EXIT
+export TMPDIR=$corner
 found=0
 for topic in "${topics[@]}"; do
     corpus=$build/corpus/$topic findings=$build/findings/$topic log=$build/$topic.log

@@ -12,6 +12,7 @@ std::span<const Tema> Temas()
         { "catalogo", probarCatalogo },
         { "ajustes", probarAjustes },
         { "idiomas", probarIdiomas },
+        { "documentos", probarDocumentos },
         { "notas", probarNotas },
         { "nombrescortos", probarNombresCortos },
         { "rutas", probarRutas },

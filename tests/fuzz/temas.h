@@ -10,6 +10,7 @@ void probarCampos(Bytes bytes); // lines and fields of a text
 void probarCatalogo(Bytes bytes); // reading the catalogue and the database
 void probarAjustes(Bytes bytes); // reading the settings, and changing them
 void probarIdiomas(Bytes bytes); // language files
+void probarDocumentos(Bytes bytes); // texts that emulators come with
 void probarNotas(Bytes bytes); // reading notes and parameters
 void probarNombresCortos(Bytes bytes); // short forms of names
 void probarRutas(Bytes bytes); // paths and what they lead to

@@ -180,7 +180,8 @@ def run(build, kind, launches, selections):
             program.select(2)
         start = program.figures()
         tell(f"type {kind}: warm", 0, start)
-        for what, total, part in (("launch", launches, launches // 6), ("selection", selections, selections // 4)):
+        for what, total, part in (("launch", launches, max(1, launches // 6)),
+            ("selection", selections, max(1, selections // 4))):
             seen = [program.figures()]
             for done in range(part, total + 1, part):
                 if what == "launch":

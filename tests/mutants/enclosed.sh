@@ -12,12 +12,19 @@ shift
 cd "$1"
 directory=$PWD
 shift
+# What is mounted on its own, a home or a source tree brought into a container, is closed like the rest.
+while read -r place; do
+    case $place in
+        /proc | /proc/* | /sys | /sys/*) continue ;;
+    esac
+    mount -o remount,bind,ro "$place"
+done < <(findmnt -rno TARGET | sed 's/\\x20/ /g')
+[ ! -d /dev/shm ] || mount -t tmpfs -o mode=1777,size=1g tmpfs /dev/shm
 mount -t tmpfs -o mode=1777,size=2g tmpfs /tmp
 mkdir -p "$directory"
 # By what it stands in: its own path leads into the fresh directory now.
 mount --no-canonicalize --bind . "$directory"
 mount -o remount,bind,ro "$directory"
-mount -o remount,bind,ro /
 cd "$directory"
 mkdir -p /tmp/home
 export HOME=/tmp/home TMPDIR=/tmp
