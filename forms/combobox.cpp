@@ -1,5 +1,7 @@
 #include "forms/combobox.h"
 
+#include "forms/rows.h"
+
 #include "host/failure.h"
 #include "host/letters.h"
 
@@ -17,6 +19,7 @@ ComboBox::ComboBox(QWidget *parent, bool sorted)
     // Not the wheel's focus: turning it over the control would select.
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+    setItemDelegate(new Rows(Rows::Height::WithRoom, this));
     // The last of the signals of a pick: the handler may destroy the control. It comes for the entry that
     // shows, too.
     connect(this, &QComboBox::textActivated, this, [this] { Selection.raise(); });

@@ -1,12 +1,12 @@
 #include "forms/listbox.h"
 
+#include "forms/rows.h"
+
 #include "host/failure.h"
 #include "host/letters.h"
 
-#include <QPainter>
 #include <QPointer>
 #include <QSignalBlocker>
-#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -15,30 +15,6 @@ using namespace Qt::StringLiterals;
 namespace forms {
 
 namespace {
-
-// Rows as high as the font, so that code that reckons with the height of a line meets the rows. Dots frame
-// the one that the keys would move from, so that of several lists the user sees which one has the focus.
-class Rows final : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        return { QStyledItemDelegate::sizeHint(option, index).width(), option.fontMetrics.height() };
-    }
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        QStyleOptionViewItem row = option;
-        row.state.setFlag(QStyle::State_HasFocus, false);
-        QStyledItemDelegate::paint(painter, row, index);
-        if (!option.state.testFlag(QStyle::State_HasFocus))
-            return;
-        const bool selected = option.state.testFlag(QStyle::State_Selected);
-        painter->setPen(QPen(selected ? Qt::white : Qt::black, 1, Qt::DotLine));
-        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
-    }
-};
 
 bool isMouseEvent(const QEvent &event)
 {
@@ -65,7 +41,8 @@ ListBox::ListBox(QWidget *parent, bool sorted)
     setVerticalScrollMode(ScrollPerItem);
     setTextElideMode(Qt::ElideNone);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setItemDelegate(new Rows(this));
+    m_rows = new Rows(Rows::Height::OfTheFont, this);
+    setItemDelegate(m_rows);
     viewport()->setMouseTracking(true);
     // Only what comes from neither mouse nor keys nor code gets here: an assistive program's selection.
     connect(this, &QListWidget::itemSelectionChanged, this, [this] {
@@ -103,6 +80,45 @@ void ListBox::updateGeometries()
         m_blank->setGeometry(
             QRect(rows.bottomLeft() + QPoint(0, 1), QPoint(rows.right(), contentsRect().bottom())));
     }
+}
+
+// Neighbours share the dots at their edges, and what one of them leaves there the other has to paint anew.
+void ListBox::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    Control::selectionChanged(selected, deselected);
+    viewport()->update();
+}
+
+void ListBox::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    Control::currentChanged(current, previous);
+    viewport()->update();
+}
+
+void ListBox::scrollContentsBy(int dx, int dy)
+{
+    Control::scrollContentsBy(dx, dy);
+    viewport()->update();
+}
+
+void ListBox::paintEvent(QPaintEvent *event)
+{
+    for (const Rows::Layer layer : { Rows::Layer::Grounds, Rows::Layer::Letters }) {
+        m_rows->SetLayer(layer);
+        Control::paintEvent(event);
+    }
+}
+
+void ListBox::focusInEvent(QFocusEvent *event)
+{
+    viewport()->update();
+    Control::focusInEvent(event); // the last step: its handler may destroy the list
+}
+
+void ListBox::focusOutEvent(QFocusEvent *event)
+{
+    Control::focusOutEvent(event);
+    viewport()->update();
 }
 
 int ListBox::AddItem(const QString &text, int itemData)

@@ -7,6 +7,8 @@
 
 namespace forms {
 
+class Rows;
+
 // Indices count from 0; -1 is no entry. Selecting from code raises Selection, also for the entry selected
 // already; so does a press of the left button on an entry, also on the selected one, and a move by the
 // keyboard; where none is selected, an arrow selects the entry that the keyboard stands on, and Home and End
@@ -53,6 +55,12 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     QItemSelectionModel::SelectionFlags selectionCommand(
         const QModelIndex &index, const QEvent *event) const override;
 
@@ -63,6 +71,7 @@ private:
     bool press(const QMouseEvent &event);
 
     bool m_sorted;
+    Rows *m_rows;
     QWidget *m_blank = nullptr; // fills what lies between the rows and the frame, or the bar below
 };
 

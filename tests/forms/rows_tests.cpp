@@ -1,0 +1,162 @@
+// Pictures of rows at the scales that desktops give, against the same letters where they have all the room.
+#include "drive.h"
+
+#include "forms/combobox.h"
+#include "forms/form.h"
+#include "forms/listbox.h"
+
+#include <QAbstractItemView>
+#include <QImage>
+#include <QPainter>
+#include <QPixmap>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+#include <climits>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString Letters = u"Ágjpqy_"_s;
+constexpr int Rows = 6;
+
+QImage pictureOf(QWidget &widget, qreal scale)
+{
+    QPixmap picture((QSizeF(widget.size()) * scale).toSize());
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::magenta);
+    widget.render(&picture);
+    return picture.toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+// The letters on whole dots, cut to where they leave the ground.
+QImage freeLetters(const QFont &font, qreal scale, int start, const QColor &ground, const QColor &ink)
+{
+    QPixmap picture(QSize(100, 60) * scale);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(ground);
+    QPainter painter(&picture);
+    painter.setFont(font);
+    painter.setPen(ink);
+    painter.drawText(QPointF(std::round(start * scale) + 0.1, std::round(30 * scale) + 0.1) / scale, Letters);
+    painter.end();
+    const QImage image = picture.toImage().convertToFormat(QImage::Format_RGB32);
+    QRect drawn;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) != ground)
+                drawn |= QRect(x, y, 1, 1);
+        }
+    }
+    return image.copy(drawn);
+}
+
+bool nearInk(const QImage &letters, const QPoint &dot, QRgb ground)
+{
+    const QRect around = QRect(dot - QPoint(1, 1), QSize(3, 3)) & letters.rect();
+    for (int y = around.top(); y <= around.bottom(); ++y) {
+        for (int x = around.left(); x <= around.right(); ++x) {
+            if (letters.pixel(x, y) != ground)
+                return true;
+        }
+    }
+    return false;
+}
+
+// How many of the letters' dots, and of those that touch them in the row, are others in the picture, with the
+// letters at this point of it.
+int differences(
+    const QImage &picture, const QRect &row, const QImage &letters, const QPoint &place, QRgb ground)
+{
+    int count = 0;
+    for (int y = -1; y <= letters.height(); ++y) {
+        for (int x = -1; x <= letters.width(); ++x) {
+            const QPoint dot(x, y);
+            const bool inside = letters.rect().contains(dot);
+            const QRgb wanted = inside ? letters.pixel(dot) : ground;
+            if ((inside && wanted != ground) || (row.contains(place + dot) && nearInk(letters, dot, ground)))
+                count += picture.pixel(place + dot) != wanted;
+        }
+    }
+    return count;
+}
+
+class RowPictures : public testing::TestWithParam<qreal> {
+protected:
+    RowPictures()
+    {
+        list.setGeometry(9, 7, 120, 100);
+        other.setGeometry(200, 7, 20, 20);
+    }
+
+    void fillAround(int row)
+    {
+        list.Clear();
+        for (int i = 0; i < Rows; ++i)
+            list.AddItem(i == row ? Letters : u"nnn"_s);
+    }
+
+    // The letters of the row, found by the dots that differ least.
+    void expectWhole(int row, const QImage &picture, bool selected)
+    {
+        const qreal scale = GetParam();
+        const QPalette colours = list.palette();
+        const QColor ground = colours.color(selected ? QPalette::Highlight : QPalette::Base);
+        const QColor ink = colours.color(selected ? QPalette::HighlightedText : QPalette::Text);
+        const QRect logical = list.visualItemRect(list.item(row));
+        const QPoint corner = list.viewport()->mapTo(&form, logical.topLeft());
+        const QRectF exact(QPointF(corner) * scale, QSizeF(logical.size()) * scale);
+        // Without the dots that it shares with its neighbours.
+        const QRect own(QPoint(qCeil(exact.left()), qCeil(exact.top())),
+            QPoint(qFloor(exact.right()) - 1, qFloor(exact.bottom()) - 1));
+        int least = INT_MAX;
+        int high = 0;
+        // Where they start on a whole dot their distances are rounded in more than one way.
+        for (int start = 20; start < 24 && least != 0; ++start) {
+            const QImage letters = freeLetters(list.font(), scale, start, ground, ink);
+            high = letters.height();
+            for (int y = own.top() - 2; y + high <= own.bottom() + 3; ++y) {
+                for (int x = own.left(); x < own.left() + 6 * scale; ++x)
+                    least = std::min(least, differences(picture, own, letters, QPoint(x, y), ground.rgb()));
+            }
+        }
+        EXPECT_EQ(least, 0) << "row " << row << ", " << high << " dots of " << own.height();
+    }
+
+    forms::Form form { u"Form"_s, 4000, 2000, forms::Form::Border::None };
+    forms::ListBox list { &form };
+    forms::ListBox other { &form };
+};
+
+TEST_P(RowPictures, LettersAreWholeInEveryRow)
+{
+    drive::show(form);
+    other.setFocus();
+    for (int row = 0; row < Rows; ++row) {
+        fillAround(row);
+        for (const int selected : { row, (row + 3) % Rows }) {
+            list.SetListIndex(selected);
+            expectWhole(row, pictureOf(form, GetParam()), row == selected);
+        }
+    }
+}
+
+TEST_P(RowPictures, TheDotsOfTheFocusLeaveTheLettersOut)
+{
+    drive::show(form);
+    list.setFocus();
+    for (int row = 0; row < Rows; ++row) {
+        fillAround(row);
+        list.SetListIndex(row);
+        const QImage picture = pictureOf(form, GetParam());
+        expectWhole(row, picture, true);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Scales, RowPictures, testing::Values(1, 1.1, 1.25, 1.33, 1.5, 1.75, 2, 2.5, 3),
+    [](const auto &scale) { return "Percent" + std::to_string(std::lround(scale.param * 100)); });
+
+} // namespace
