@@ -6,8 +6,8 @@ cd "$(dirname "$0")"
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
 
 packaging/install.sh build play screen test
-# The journey also plays on the release that a user gets.
-cmake --preset release
+# On the release that a user gets the journey plays, too, and calls to the system go wrong.
+cmake --preset release -DZEMBROLIX_FAULTS=ON
 cmake --build --preset release
 cmake --preset sanitize
 cmake --build --preset sanitize

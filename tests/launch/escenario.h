@@ -13,7 +13,7 @@
 #include <functional>
 
 // The plain boxes: each has to be expected, with its answer, before it comes.
-class Respuestas final : public host::Questions {
+class Respuestas : public host::Questions {
 public:
     Respuestas() { host::setQuestions(this); }
     ~Respuestas() override { host::setQuestions(nullptr); }
