@@ -74,6 +74,11 @@ struct Palabras {
     QString Zem_Edit2 = QStringLiteral("Abrir en el editor del terminal");
     QString Zem_BlocNotas2 = QStringLiteral("Abrir en el editor");
 
+    // Names of keys, as they stand on the keyboard.
+    QString Zem_Ctrl = QStringLiteral("Ctrl");
+    QString Zem_Mayus = QStringLiteral("Mayús");
+    QString Zem_Espacio = QStringLiteral("Espacio");
+
     // Who made the program, and where they are reached.
     QString Zem_Logotipo = QStringLiteral("Logotipo");
     QString Zem_Autores = QStringLiteral("Los autores de Zembrolix");

@@ -1,5 +1,6 @@
 #include "forms/application.h"
 
+#include "forms/assistance.h"
 #include "forms/colours.h"
 #include "forms/comboaccess.h"
 #include "forms/guard.h"
@@ -62,6 +63,7 @@ Application::Application(int &argc, char **argv)
 {
     setLook(*this);
     TellAssistantsOfCombos();
+    TellAssistantsOfControls();
     setQuitOnLastWindowClosed(false);
     m_wait.setInterval(TurnLength);
     m_wait.callOnTimeout(this, [this] {

@@ -1,5 +1,6 @@
 #include "forms/comboaccess.h"
 
+#include "forms/assistance.h"
 #include "forms/combobox.h"
 
 #include <QAbstractItemView>
@@ -36,6 +37,7 @@ public:
     QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
+        state.offscreen = IsCovered(m_combo);
         state.expandable = true;
         state.expanded = m_combo.view()->isVisible();
         return state;

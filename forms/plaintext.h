@@ -17,4 +17,8 @@ QString asTitle(const QString &text); // of a window: "[*]" would be the place o
 // The tip of a control, which assistive programs are told as its description; an empty text takes both away.
 void SetTip(QWidget &control, const QString &text);
 
+// The tip of a control that no word stands beside: its accessible name, and its key where it has one.
+// Assistive programs say the name already, and are told the key.
+void SetTipOfName(QWidget &control, const QString &key = {});
+
 } // namespace forms

@@ -1,9 +1,23 @@
 // The names under which screen readers know the controls, in the language of the screen: the word beside a
-// control, or one of its own where it stands without any.
+// control, or one of its own where it stands without any. Those show their name and their key as a tip.
 
 #include "mainscreen/portada.h"
 
+#include "forms/assistance.h"
+#include "forms/plaintext.h"
+
+#include <array>
+
 namespace mainscreen {
+
+namespace {
+
+std::array<std::pair<forms::Image *, int>, 4> puntosDeZoom(const Portada &portada)
+{
+    return { { { portada.X2, 2 }, { portada.X3, 3 }, { portada.X4, 4 }, { portada.X5, 5 } } };
+}
+
+} // namespace
 
 void Portada::NombraControles()
 {
@@ -47,6 +61,43 @@ void Portada::NombraControles()
     };
     for (const auto &[control, nombre] : nombres)
         control->setAccessibleName(nombre);
+    for (QWidget *control : std::initializer_list<QWidget *> {
+             Menos2a, Menos2b, Check1, E1, D1, Flecha2, X2, X3, X4, X5, OFF, FlechaE2, Edit2, BlocDeNotas2 })
+        forms::SetTipOfName(*control, TeclaDe(*control));
+    Graf_Imagen->setAccessibleDescription(palabras.Zem_Espacio);
+    for (QWidget *web : std::initializer_list<QWidget *> { WEB1, WEB2 })
+        web->setAccessibleDescription(TeclaDe(*web));
+}
+
+// What is drawn into the set and what else no class of the toolkit stands for.
+void Portada::ConectaLectores()
+{
+    for (const auto &[punto, zoom] : puntosDeZoom(*this))
+        forms::SetAssistance(*punto,
+            { QAccessible::RadioButton, [control = punto] { control->Click.raise(); },
+                [this, tamaño = zoom] { return M.ZoomActual == tamaño; } });
+    forms::SetAssistance(*OFF, { QAccessible::Button, [this] { OFF->Click.raise(); }, {} });
+    forms::SetAssistance(*Graf_TV, { QAccessible::Grouping, {}, {} });
+    // The enlarged capture stays until it is pressed again.
+    forms::SetAssistance(*Graf_Imagen,
+        { QAccessible::Button,
+            [this] {
+                if (Aumento.isVisible())
+                    Aumento.hide();
+                else
+                    Graf_Imagen_MouseDown(forms::LeftButton);
+            },
+            {} });
+    forms::SetAssistance(
+        *Titulo1, { QAccessible::Button, [this] { Titulo1->MouseDown.raise({ forms::LeftButton }); }, {} });
+    for (forms::Label *web : { WEB1, WEB2 })
+        forms::SetAssistance(*web, { QAccessible::Link, [this, web] { PulsaWeb(*web); }, {} });
+}
+
+void Portada::AvisaDelZoom()
+{
+    for (const auto &[punto, zoom] : puntosDeZoom(*this))
+        forms::TellOfChoice(*punto);
 }
 
 } // namespace mainscreen

@@ -29,6 +29,7 @@ Portada::Portada(core::Modulo &modulo)
     ConectaDocumentos();
     ConectaSuperficie();
     ConectaTeclado();
+    ConectaLectores();
 }
 
 Portada::~Portada()

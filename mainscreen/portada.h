@@ -127,6 +127,7 @@ private:
     void ConectaDocumentos();
     void ConectaSuperficie();
     void ConectaTeclado();
+    void ConectaLectores();
 
     // Start and exit.
     void LeeConfiguracion();
@@ -222,6 +223,8 @@ private:
     void OrdenaFoco();
     void DejaElTecladoAlEditor(bool abierto);
     void NombraControles();
+    void AvisaDelZoom(); // assistive programs, of the mark that is chosen now
+    QString TeclaDe(const QWidget &control) const; // its accelerator in words, empty for none
     void Advierte(const QString &titulo, const QString &texto); // the message box, type 3
 
     enum Puntero : int { PunteroNormal = 0, RelojDeArena = 11 };

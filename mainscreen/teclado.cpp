@@ -33,6 +33,32 @@ const Acelerador Aceleradores[] = {
     { &Portada::Flecha2, Qt::CTRL | Qt::Key_Q },
 };
 
+struct TeclaDelTelevisor {
+    forms::Image *Portada::*punto;
+    Qt::Key tecla; // with Ctrl
+};
+
+const TeclaDelTelevisor TeclasDelTelevisor[] = {
+    { &Portada::X2, Qt::Key_2 },
+    { &Portada::X3, Qt::Key_3 },
+    { &Portada::X4, Qt::Key_4 },
+    { &Portada::X5, Qt::Key_5 },
+    { &Portada::OFF, Qt::Key_0 },
+};
+
+constexpr QKeyCombination TeclaDeWEB1 = Qt::CTRL | Qt::Key_1;
+constexpr QKeyCombination TeclaDeWEB2 = Qt::CTRL | Qt::SHIFT | Qt::Key_1;
+
+QString enPalabras(QKeyCombination tecla, const core::Palabras &palabras)
+{
+    QString nombre = QKeySequence(tecla.key()).toString(QKeySequence::PortableText);
+    if (tecla.keyboardModifiers().testFlag(Qt::ShiftModifier))
+        nombre.prepend(palabras.Zem_Mayus + u'+');
+    if (tecla.keyboardModifiers().testFlag(Qt::ControlModifier))
+        nombre.prepend(palabras.Zem_Ctrl + u'+');
+    return nombre;
+}
+
 } // namespace
 
 void Portada::ConectaTeclado()
@@ -44,11 +70,10 @@ void Portada::ConectaTeclado()
         m_teclasDelTelevisor.push_back(new QShortcut(tecla, this));
         connect(m_teclasDelTelevisor.back(), &QShortcut::activated, this, accion);
     };
-    for (const auto &[tecla, punto] : { std::pair(Qt::Key_2, X2), std::pair(Qt::Key_3, X3),
-             std::pair(Qt::Key_4, X4), std::pair(Qt::Key_5, X5), std::pair(Qt::Key_0, OFF) })
-        conTecla(Qt::CTRL | tecla, [control = punto] { control->Click.raise(); });
-    conTecla(Qt::CTRL | Qt::Key_1, [this] { PulsaWeb(*WEB1); });
-    conTecla(Qt::CTRL | Qt::SHIFT | Qt::Key_1, [this] { PulsaWeb(*WEB2); });
+    for (const auto &[punto, tecla] : TeclasDelTelevisor)
+        conTecla(Qt::CTRL | tecla, [control = this->*punto] { control->Click.raise(); });
+    conTecla(TeclaDeWEB1, [this] { PulsaWeb(*WEB1); });
+    conTecla(TeclaDeWEB2, [this] { PulsaWeb(*WEB2); });
 
     Lista1->MenuKey = [this] {
         if (!Lista1->Text().isEmpty())
@@ -60,6 +85,21 @@ void Portada::ConectaTeclado()
     Graf_Imagen->setFocusPolicy(Qt::TabFocus);
     Editor->setTabChangesFocus(true);
     OrdenaFoco();
+}
+
+QString Portada::TeclaDe(const QWidget &control) const
+{
+    for (const Acelerador &acelerador : Aceleradores) {
+        if (this->*acelerador.boton == &control)
+            return enPalabras(acelerador.tecla, M.Palabras);
+    }
+    for (const auto &[punto, tecla] : TeclasDelTelevisor) {
+        if (this->*punto == &control)
+            return enPalabras(Qt::CTRL | tecla, M.Palabras);
+    }
+    if (&control == WEB1 || &control == WEB2)
+        return enPalabras(&control == WEB1 ? TeclaDeWEB1 : TeclaDeWEB2, M.Palabras);
+    return {};
 }
 
 void Portada::PulsaWeb(forms::Label &web)

@@ -71,6 +71,7 @@ void Portada::EligeZoom(int zoom)
         if (tamaño.zoom == zoom)
             forms::move(*Boton, { tamaño.lampara, 3000, 195, 120 });
     }
+    AvisaDelZoom();
 }
 
 void Portada::OFF_Click()
@@ -94,6 +95,7 @@ void Portada::ApagaTelevisor()
     Boton->hide();
     BotonABJ->show();
     BotonARR->show();
+    AvisaDelZoom();
 }
 
 void Portada::PonLupa()

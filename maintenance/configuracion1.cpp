@@ -5,6 +5,8 @@
 
 #include "core/basededatos.h"
 
+#include "forms/plaintext.h"
+
 #include "mainscreen/portada.h"
 
 using namespace Qt::StringLiterals;
@@ -96,6 +98,8 @@ void Configuracion1::NombraControles()
     };
     for (const auto &[control, nombre] : nombres)
         control->setAccessibleName(nombre);
+    for (QWidget *control : { Boton_E, Boton_W1, Boton_W2 })
+        forms::SetTipOfName(*control);
 }
 
 void Configuracion1::Mensaje(

@@ -1,5 +1,6 @@
 #include "options/enlace.h"
 
+#include "forms/assistance.h"
 #include "forms/focusframe.h"
 
 #include "host/tools.h"
@@ -30,6 +31,13 @@ Enlace::Enlace(QWidget *padre, const QString &nombre, int izquierda, int arriba,
     SetCaption(texto);
     MouseDown = [this](const forms::Mouse &) { Pulsa(); };
     MouseUp = [this](const forms::Mouse &) { Suelta(); };
+    forms::SetAssistance(*this,
+        { QAccessible::Link,
+            [this] {
+                Pulsa();
+                Suelta();
+            },
+            {} });
 }
 
 void Enlace::Pulsa()

@@ -67,13 +67,15 @@ const QString MissingTool = u"Zem_Falta0"_s;
 const QStringList MissingTools { u"Zem_FaltaEditor"_s, u"Zem_FaltaEdit"_s, u"Zem_FaltaTerm"_s,
     u"Zem_FaltaGestor"_s };
 
-// As wide as what they show, or shown to nobody: menu entries, plain boxes, and what screen readers say.
+// As wide as what they show, or shown to nobody: menu entries, plain boxes, tips, and what screen readers
+// say.
 const QStringList Unbound { u"Menu_Describir"_s, u"Menu_Borrar"_s, u"Menu_Parametros"_s, u"Zem_Papelera0"_s,
     u"Zem_Papelera1"_s, u"Zem_Lista1"_s, u"Zem_Combo1"_s, u"Zem_Combo2"_s, u"Zem_Menos2a"_s, u"Zem_Menos2b"_s,
     u"Zem_Titulo1"_s, u"Zem_Graf_TV"_s, u"Zem_Captura"_s, u"Zem_OFF"_s, u"Zem_WEB1"_s, u"Zem_WEB2"_s,
     u"Zem_Mas1"_s, u"Zem_Boton_Mas2"_s, u"Zem_Boton_E"_s, u"Zem_Casilla4"_s, u"Zem_Casilla5"_s,
     u"Zem_Discos"_s, u"Zem_Directorios"_s, u"Zem_Archivos"_s, u"Zem_D1"_s, u"Zem_E1"_s, u"Zem_Flecha2"_s,
-    u"Zem_Editor"_s, u"Zem_FlechaE2"_s, u"Zem_Edit2"_s, u"Zem_BlocNotas2"_s, u"Zem_Logotipo"_s };
+    u"Zem_Editor"_s, u"Zem_FlechaE2"_s, u"Zem_Edit2"_s, u"Zem_BlocNotas2"_s, u"Zem_Ctrl"_s, u"Zem_Mayus"_s,
+    u"Zem_Espacio"_s, u"Zem_Logotipo"_s };
 
 class TextsOfLanguage : public ScreenTest, public testing::WithParamInterface<Language> {
 protected:

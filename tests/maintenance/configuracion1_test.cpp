@@ -5,6 +5,7 @@
 #include "forms/commandbutton.h"
 
 #include <QAccessible>
+#include <QTextDocumentFragment>
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
@@ -385,7 +386,7 @@ TEST_F(Configuracion1Test, TabReachesEveryControlInTheOrderOfTheScreen)
     });
 }
 
-TEST_F(Configuracion1Test, ButtonsAndListsHaveNamesForScreenReaders)
+TEST_F(Configuracion1Test, ButtonsAndListsHaveNamesForScreenReaders_AndLettersATip)
 {
     begin();
     configure([](forms::Form &form) {
@@ -400,6 +401,9 @@ TEST_F(Configuracion1Test, ButtonsAndListsHaveNamesForScreenReaders)
                 QAccessible::queryAccessibleInterface(&controlOf<QWidget>(form, control));
             ASSERT_TRUE(reader);
             EXPECT_EQ(reader->text(QAccessible::Name), name) << control.toStdString();
+            const bool letter = control == u"Boton_E" || control == u"Boton_W1" || control == u"Boton_W2";
+            const QString tip = controlOf<QWidget>(form, control).toolTip();
+            EXPECT_EQ(QTextDocumentFragment::fromHtml(tip).toPlainText(), letter ? name : QString());
         }
     });
 }

@@ -6,6 +6,7 @@
 
 #include "forms/image.h"
 
+#include <QAccessible>
 #include <QFontInfo>
 
 using namespace Qt::StringLiterals;
@@ -112,6 +113,35 @@ TEST_F(AcercaDeTest, LinksOpenByTheKeyboardOnceTheUserIsThere)
         EXPECT_EQ(form.focusWidget(), form.Control(u"Flecha2"_s));
         strike(form, Qt::Key_Space);
         EXPECT_FALSE(form.isVisible());
+    });
+}
+
+TEST_F(AcercaDeTest, LinksAreToldAsLinks_AndOpenByTheirPressAction)
+{
+    about([this](forms::Form &form) {
+        QAccessibleInterface *told = QAccessible::queryAccessibleInterface(&link(form, u"Link_Web1"_s));
+        EXPECT_EQ(told->role(), QAccessible::Link);
+        told->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        EXPECT_THAT(browser.opened, ElementsAre(u"https://www.example.org/zembrolix"_s));
+    });
+}
+
+TEST_F(AcercaDeTest, WhatItCoversOfTheMainScreenIsNotToldAsShowing)
+{
+    about([this](forms::Form &form) {
+        int covered = 0;
+        for (const auto *control : portada->findChildren<QWidget *>()) {
+            if (!control->isVisible() || !dynamic_cast<const forms::Label *>(control))
+                continue;
+            const QRect place(control->mapToGlobal(QPoint(0, 0)), control->size());
+            const bool under = form.frameGeometry().contains(place);
+            covered += under;
+            auto *told = QAccessible::queryAccessibleInterface(const_cast<QWidget *>(control));
+            EXPECT_EQ(told->state().offscreen, under) << control->objectName().toStdString();
+        }
+        EXPECT_GT(covered, 0);
+        auto *own = QAccessible::queryAccessibleInterface(&link(form, u"Link_Web1"_s));
+        EXPECT_FALSE(own->state().offscreen);
     });
 }
 
