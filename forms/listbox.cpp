@@ -7,6 +7,7 @@
 
 #include <QPointer>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -198,6 +199,12 @@ void ListBox::SetText(const QString &text)
     while (index < count() && item(index)->text() != text)
         ++index;
     select(index < count() ? index : -1);
+}
+
+int ListBox::LetterWidth() const
+{
+    // The margin that the rows leave free at their left.
+    return viewport()->width() - (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
 }
 
 int ListBox::TopIndex() const

@@ -44,6 +44,7 @@ public:
 
     void SetWholeRows(); // no row is cut off at the bottom: what is left of the height stays blank
 
+    int LetterWidth() const; // of an entry, that can be seen, in pixels
     int TopIndex() const; // the first entry in view
     // The entry at this point of the client area, in pixels; below the last entry ListCount() is given where
     // that is still inside the control, -1 outside.

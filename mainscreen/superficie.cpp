@@ -97,7 +97,8 @@ void Portada::Lista1_MouseMove(const forms::Mouse &raton)
     const QString texto = forms::shownPart(Lista1->List(ElementoBajoRaton));
     const int ancho = forms::twips(fontMetrics().horizontalAdvance(texto));
     const forms::Place lista = forms::placeOf(*Lista1);
-    if (ElementoBajoRaton < 0 || ElementoBajoRaton > Lista1->ListCount() || ancho <= lista.width) {
+    if (ElementoBajoRaton < 0 || ElementoBajoRaton > Lista1->ListCount()
+        || ancho <= forms::twips(Lista1->LetterWidth())) {
         IMGDescripcionLarga->hide();
         return;
     }

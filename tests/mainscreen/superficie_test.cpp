@@ -115,6 +115,31 @@ TEST_F(SuperficieTest, EntryThatFitsHidesTheTipOfTheOneBefore)
     EXPECT_FALSE(tip().isVisible());
 }
 
+// A bar at the side takes room from the letters, and so does the margin ahead of them.
+TEST_F(SuperficieTest, EntryHasATipAsSoonAsALetterOfItCanNotBeSeen)
+{
+    startAt(Zeta, 0);
+    const QFontMetrics metrics = portada->fontMetrics();
+    for (const bool withBar : { false, true }) {
+        list().Clear();
+        for (int i = 0; i < (withBar ? 40 : 2); ++i)
+            list().AddItem(u"short"_s);
+        list().doItemsLayout();
+        const int room = list().viewport()->width() - 3;
+        EXPECT_EQ(room < list().width() - 12, withBar);
+        QString fits;
+        while (metrics.horizontalAdvance(fits + u'i') <= room)
+            fits += u'i';
+        list().item(0)->setText(fits);
+        list().item(1)->setText(fits + u'i');
+        moveTo(*portada, QPoint(2, 2));
+        hover(0);
+        EXPECT_FALSE(tip().isVisible()) << withBar;
+        hover(1);
+        EXPECT_TRUE(tip().isVisible()) << withBar;
+    }
+}
+
 TEST_F(SuperficieTest, PointBelowTheLastEntryHidesTheTip)
 {
     startWithLongNames();
