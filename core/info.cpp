@@ -4,6 +4,8 @@
 #include "host/numbers.h"
 
 #include <QList>
+#include <QRegularExpression>
+#include <QTextBoundaryFinder>
 
 #include <algorithm>
 #include <iterator>
@@ -121,6 +123,54 @@ QString UltimaLineaDeInfo(const Modulo &M, const QString &texto, int tipo, const
         if (ultima == fichas.cbegin())
             return {};
     }
+}
+
+namespace {
+
+// Where the size or the mark of a line of facts begins; its length for a text without either.
+qsizetype finDelNombre(const QString &linea)
+{
+    static const QRegularExpression datos(u"  ?[^ ]*Kb +\\[(ZIP|NOR)\\]$| \\[DIR\\]$"_s);
+    const qsizetype lugar = linea.indexOf(datos);
+    return lugar < 0 ? linea.size() : lugar;
+}
+
+// Between letters as a reader counts them: the accents of one stay with it.
+QList<qsizetype> cortesDe(const QString &nombre)
+{
+    QTextBoundaryFinder letras(QTextBoundaryFinder::Grapheme, nombre);
+    QList<qsizetype> cortes { 0 };
+    while (letras.toNextBoundary() > 0)
+        cortes.append(letras.position());
+    return cortes;
+}
+
+} // namespace
+
+QString InfoQueCabe(const QString &linea, const std::function<bool(const QString &)> &cabe)
+{
+    if (cabe(linea))
+        return linea;
+    // Of a name without end no label shows more.
+    constexpr qsizetype Mucho = 2000;
+    const qsizetype fin = finDelNombre(linea);
+    const QString datos = linea.sliced(fin);
+    const QString principio = linea.first(std::min(fin, Mucho));
+    const QString final = linea.first(fin).last(std::min(fin, Mucho));
+    const QList<qsizetype> delante = cortesDe(principio);
+    const QList<qsizetype> detras = cortesDe(final);
+    const auto con = [&](qsizetype letras) {
+        const qsizetype corte = delante[std::min((letras + 1) / 2, delante.size() - 1)];
+        const qsizetype resto = detras[detras.size() - 1 - std::min(letras / 2, detras.size() - 1)];
+        return principio.first(corte) + u'…' + final.sliced(resto) + datos;
+    };
+    qsizetype caben = 0;
+    qsizetype sobran = delante.size();
+    while (sobran - caben > 1) {
+        const qsizetype medio = (caben + sobran) / 2;
+        (cabe(con(medio)) ? caben : sobran) = medio;
+    }
+    return con(caben);
 }
 
 QString RutaDeCaptura(int tipo, const QString &directorio, const FichaDeROM &ficha)

@@ -34,6 +34,10 @@ using EstaSeguro = std::function<bool(const QString &ruta)>;
 QString UltimaLineaDeInfo(const Modulo &M, const QString &texto, int tipo, const QString &directorio,
     const LargoDeFichero &largo, const EstaSeguro &esta);
 
+// What of a line of facts is shown where the whole has no room: letters are left out of the middle of the
+// name, and the size and the mark behind it stay. Where not even they fit, the name's ends are gone.
+QString InfoQueCabe(const QString &linea, const std::function<bool(const QString &)> &cabe);
+
 // Path of the capture; empty for a type without captures. Fails with 5 for a name without the point at which
 // it is cut.
 QString RutaDeCaptura(int tipo, const QString &directorio, const FichaDeROM &ficha);

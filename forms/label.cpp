@@ -1,12 +1,16 @@
 #include "forms/label.h"
 
 #include "forms/growth.h"
+#include "forms/plaintext.h"
 #include "forms/shape.h"
 #include "forms/shownpart.h"
 
 #include <QEvent>
+#include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -90,6 +94,18 @@ void Label::SetGrowing(bool growing)
     grow();
 }
 
+void Label::SetRoom(const Place &room)
+{
+    m_room = inPixels(room);
+    grow();
+}
+
+void Label::SetShortening(std::function<QString(const QString &, const Fits &)> shorten)
+{
+    m_shorten = std::move(shorten);
+    grow();
+}
+
 void Label::Redraw()
 {
     repaint();
@@ -107,9 +123,36 @@ void Label::grow()
     if (wraps != wordWrap())
         setWordWrap(wraps);
     const int width = m_growing ? widestPart(text(), metrics, wraps ? u" \n"_s : u"\n"_s) : 0;
-    m_grown = grownPlace(m_place, width, alignment(), parentWidget()->rect(), obstaclesOf(*this, m_place));
+    m_grown = grownPlace(m_place, width, alignment(), m_room.isNull() ? parentWidget()->rect() : m_room,
+        obstaclesOf(*this, m_place));
     if (geometry() != m_grown)
         setGeometry(m_grown);
+    shorten();
+}
+
+void Label::shorten()
+{
+    m_shown = text();
+    if (!m_shorten)
+        return;
+    const QFontMetrics metrics = fontMetrics();
+    m_shown = m_shorten(text(), [&](const QString &part) {
+        return metrics.horizontalAdvance(shownPart(part)) <= contentsRect().width();
+    });
+    const QString tip = m_shown == text() ? QString() : text();
+    if (asTip(tip) != toolTip())
+        SetTip(*this, tip);
+}
+
+void Label::paintEvent(QPaintEvent *event)
+{
+    if (m_shown == text()) {
+        Control::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    style()->drawItemText(
+        &painter, contentsRect(), int(alignment()), palette(), isEnabled(), m_shown, foregroundRole());
 }
 
 void Label::showEvent(QShowEvent *event)

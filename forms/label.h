@@ -5,6 +5,8 @@
 
 #include <QLabel>
 
+#include <functional>
+
 namespace forms {
 
 // Transparent, one line or wrapped as its place allows. A caption wider than its place grows into the free
@@ -20,16 +22,27 @@ public:
     QColor ForeColor() const;
     void SetPlace(const Place &place); // the place of the design, from which the label grows
     void SetGrowing(bool growing); // false: a caption too long for its place is clipped
+    void SetRoom(const Place &room); // beyond this part of its parent it doesn't grow
+    // A caption that has no room even so is painted as the function gives it back, which asks what fits. The
+    // caption itself stays whole, and is the tip.
+    using Fits = std::function<bool(const QString &)>;
+    void SetShortening(std::function<QString(const QString &, const Fits &)> shorten);
+    QString Shown() const { return m_shown; } // what is painted
     void Redraw(); // at once
 
 protected:
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void grow();
+    void shorten();
 
     bool m_growing = true;
+    QRect m_room; // in pixels; none: all of the parent
+    std::function<QString(const QString &, const Fits &)> m_shorten;
+    QString m_shown;
     QRect m_place; // of the design, in pixels
     QRect m_grown; // where the label was put last; anything else was set from outside and is a new design
 };

@@ -4,6 +4,8 @@
 
 #include "mainscreen/portada.h"
 
+#include "core/info.h"
+
 #include "dialogs/coloca.h"
 
 using namespace Qt::StringLiterals;
@@ -245,6 +247,9 @@ void Disposicion::Monta(Portada &portada)
         montaBoton(portada, fila);
     for (const FilaEtiqueta &fila : Etiquetas)
         montaEtiqueta(portada, fila);
+    // The light top of the set, between its round corners.
+    portada.TXT_Info->SetRoom({ 150, 15, 3165, 210 });
+    portada.TXT_Info->SetShortening(core::InfoQueCabe);
     montaMenus(portada);
     // What happens over a control is that control's alone, and not what it stands in.
     for (QWidget *control : portada.findChildren<QWidget *>())

@@ -296,3 +296,40 @@ TEST(RutaDeCaptura, FailsAsInvalid_ForANameWithoutThePointThatItIsCutAt)
             << tipo << conNota;
     }
 }
+
+TEST(InfoQueCabe, LosesTheMiddleOfTheNameAndKeepsTheSizeAndTheMark)
+{
+    struct Caso {
+        QString linea;
+        int letras; // that have room
+        QString queda;
+    };
+    const QString acentos = u"A\u0301E\u0301I\u0301O\u0301U\u0301"_s; // letters of two characters
+    const Caso casos[] = {
+        { u"Uno.bin 1Kb  [NOR]"_s, 18, u"Uno.bin 1Kb  [NOR]"_s },
+        { u"Uno.bin 1Kb  [NOR]"_s, 17, u"Uno…in 1Kb  [NOR]"_s },
+        { u"ABCDEFGH.ZIP 2Kb  [ZIP]"_s, 18, u"ABC…ZIP 2Kb  [ZIP]"_s },
+        { u"ABCDEFGH.ZIP  2345Kb [ZIP]"_s, 20, u"ABC…IP  2345Kb [ZIP]"_s },
+        { u"GAME OF TWO Kb  [ZIP]"_s, 17, u"GAM…TWO Kb  [ZIP]"_s },
+        { u"A LONG NAME [DIR]"_s, 12, u"A L…ME [DIR]"_s },
+        { u"1 234Kb [DIR] IN A NAME.BIN 1,234Kb  [NOR]"_s, 23, u"1 23…BIN 1,234Kb  [NOR]"_s },
+        { u"Ninguna ROM encontrada"_s, 9, u"Ning…rada"_s },
+        { acentos, 7, u"A\u0301E\u0301…U\u0301"_s },
+        { acentos, 6, u"A\u0301…U\u0301"_s },
+        { u"Uno.bin 1Kb  [NOR]"_s, 3, u"… 1Kb  [NOR]"_s },
+        { QString(), 0, QString() },
+    };
+    for (const Caso &caso : casos) {
+        const auto cabe = [&](const QString &parte) { return parte.size() <= caso.letras; };
+        EXPECT_EQ(core::InfoQueCabe(caso.linea, cabe), caso.queda) << qPrintable(caso.linea);
+    }
+}
+
+TEST(InfoQueCabe, ANameWithoutEnd_AsksForNoMoreThanAFewLines)
+{
+    int preguntas = 0;
+    const auto cabe = [&](const QString &parte) { return ++preguntas, parte.size() <= 30; };
+    const QString queda = core::InfoQueCabe(QString(1'000'000, u'x') + u" 1Kb  [NOR]"_s, cabe);
+    EXPECT_EQ(queda, QString(9, u'x') + u'…' + QString(9, u'x') + u" 1Kb  [NOR]"_s);
+    EXPECT_LT(preguntas, 20);
+}

@@ -4,6 +4,7 @@
 #include "forms/label.h"
 #include "forms/shape.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QTest>
 
@@ -209,6 +210,35 @@ TEST_F(Labels, ALabelThatMustNotGrow_ClipsItsCaption)
     EXPECT_EQ(label.width(), forms::pixels(600));
     label.SetGrowing(true);
     EXPECT_EQ(label.width(), natural(wide));
+}
+
+TEST_F(Labels, ARoom_EndsItsGrowth)
+{
+    label.SetRoom({ 600, 600, 900, 210 });
+    label.SetCaption(wide);
+    EXPECT_EQ(label.geometry(), QRect(40, 40, 60, 14));
+}
+
+TEST_F(Labels, ACaptionWithoutRoom_IsPaintedShortAndStaysWholeOtherwise)
+{
+    label.SetRoom({ 600, 600, 900, 210 });
+    label.SetShortening([](const QString &text, const auto &fits) {
+        QString part = text;
+        while (!part.isEmpty() && !fits(part))
+            part.chop(1);
+        return part;
+    });
+    label.SetCaption(u"AAAAAAAAAA iiii"_s);
+    EXPECT_EQ(label.Caption(), u"AAAAAAAAAA iiii"_s);
+    EXPECT_LT(label.Shown().size(), label.Caption().size());
+    EXPECT_LE(natural(label.Shown()), 60);
+    EXPECT_TRUE(label.toolTip().contains(u"AAAAAAAAAA iiii"_s));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name), u"AAAAAAAAAA iiii"_s);
+    const QImage picture = label.grab().toImage();
+    label.SetCaption(label.Shown());
+    EXPECT_EQ(label.grab().toImage(), picture.copy(label.rect()));
+    EXPECT_EQ(label.toolTip(), QString());
+    EXPECT_EQ(label.Shown(), label.Caption());
 }
 
 } // namespace

@@ -476,3 +476,17 @@ TEST_F(InformacionTest, RightButtonSelectsNothing)
     EXPECT_EQ(list().ListIndex(), 0);
     EXPECT_EQ(info(), u"a.bin 1Kb  [NOR]"_s);
 }
+
+TEST_F(InformacionTest, LongLineStaysOnTheLightTopOfTheSetAndKeepsItsEnds)
+{
+    const QString name = u"Adventure of the Nameless Hero, The (World) (Rev 2).zip"_s;
+    files.writeSize(u"r/"_s + name, 2048);
+    startWith(u"0"_s);
+    EXPECT_EQ(infoOf(0), name + u" 2Kb  [ZIP]"_s);
+    auto &line = control<forms::Label>(u"TXT_Info"_s);
+    EXPECT_TRUE(line.Shown().startsWith(u"Adventure"_s)) << line.Shown().toStdString();
+    EXPECT_TRUE(line.Shown().endsWith(u".zip 2Kb  [ZIP]"_s)) << line.Shown().toStdString();
+    EXPECT_TRUE(line.toolTip().contains(name));
+    EXPECT_TRUE(QRect(10, 1, 211, 14).contains(line.geometry()));
+    EXPECT_LE(line.fontMetrics().horizontalAdvance(line.Shown()), line.width());
+}
