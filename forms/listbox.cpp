@@ -5,6 +5,7 @@
 #include "host/failure.h"
 #include "host/letters.h"
 
+#include <QApplication>
 #include <QPointer>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -270,8 +271,47 @@ void ListBox::mouseMoveEvent(QMouseEvent *event)
     event->accept();
 }
 
+// Where the toolkit's own search has found nothing. It counts a letter typed again for a step to the next
+// entry.
+bool ListBox::begins(const QString &typed) const
+{
+    const bool again = typed.count(typed.front()) == typed.size();
+    const QString beginning = again ? typed.first(1) : typed;
+    for (int i = 0; i < count(); ++i) {
+        if (item(i)->text().startsWith(beginning, Qt::CaseInsensitive))
+            return true;
+    }
+    return false;
+}
+
+void ListBox::keyboardSearch(const QString &letters)
+{
+    Control::keyboardSearch(letters);
+    if (!Find || letters.isEmpty())
+        return;
+    const bool goesOn =
+        m_sinceTyped.isValid() && m_sinceTyped.elapsed() <= QApplication::keyboardInputInterval();
+    m_typed = goesOn ? m_typed + letters : letters;
+    m_sinceTyped.start();
+    const int found = begins(m_typed) ? -1 : Find(m_typed);
+    if (found >= 0)
+        setCurrentRow(found);
+}
+
+void ListBox::findNext(bool back)
+{
+    const int found = m_typed.isEmpty() ? -1 : FindNext(m_typed, back);
+    if (found >= 0 && found != ListIndex())
+        select(found);
+}
+
 void ListBox::keyPressEvent(QKeyEvent *event)
 {
+    if (event->key() == Qt::Key_F4 && FindNext && !(event->modifiers() & ~Qt::ShiftModifier)) {
+        event->accept();
+        findNext(event->modifiers() == Qt::ShiftModifier);
+        return;
+    }
     if (keyCodeOf(*event) != 0) {
         Control::keyPressEvent(event);
         return;

@@ -3,7 +3,10 @@
 
 #include "forms/control.h"
 
+#include <QElapsedTimer>
 #include <QListWidget>
+
+#include <functional>
 
 namespace forms {
 
@@ -44,6 +47,11 @@ public:
 
     void SetWholeRows(); // no row is cut off at the bottom: what is left of the height stays blank
 
+    // For letters typed with which no entry begins as they stand: the index to select, or -1. With one for
+    // going on, F4 and Shift+F4 (`back`) select the entry that it gives for the letters typed last.
+    std::function<int(const QString &typed)> Find;
+    std::function<int(const QString &typed, bool back)> FindNext;
+
     int LetterWidth() const; // of an entry, that can be seen, in pixels
     int TopIndex() const; // the first entry in view
     // The entry at this point of the client area, in pixels; below the last entry ListCount() is given where
@@ -52,6 +60,7 @@ public:
 
 protected:
     void updateGeometries() override;
+    void keyboardSearch(const QString &letters) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -69,9 +78,13 @@ private:
     enum class Scroll { No, Yes };
 
     void select(int index, Scroll scroll = Scroll::Yes);
+    bool begins(const QString &typed) const;
+    void findNext(bool back);
     bool press(const QMouseEvent &event);
 
     bool m_sorted;
+    QString m_typed; // without a longer pause
+    QElapsedTimer m_sinceTyped;
     Rows *m_rows;
     QWidget *m_blank = nullptr; // fills what lies between the rows and the frame, or the bar below
 };

@@ -69,6 +69,13 @@ void TextArea::insertFromMimeData(const QMimeData *source)
     Control::insertFromMimeData(&plain);
 }
 
+void TextArea::SetColumns(bool columns, int tab)
+{
+    setFont(columns ? courier(8.25) : QFont());
+    setLineWrapMode(columns ? NoWrap : WidgetWidth);
+    setTabStopDistance(tab * QFontMetricsF(font()).horizontalAdvance(u' '));
+}
+
 void TextArea::SetColours(const QColor &back, const QColor &text)
 {
     QPalette colours = palette();

@@ -29,6 +29,8 @@ public:
 
     QString Text() const { return toPlainText(); }
     void SetText(const QString &value) { setPlainText(value); }
+    // Letters of one width, and lines as long as they are; else the form's letters, and lines that wrap.
+    void SetColumns(bool columns, int tab); // letters of a tab
     void SetColours(const QColor &back, const QColor &text);
 
 protected:

@@ -5,6 +5,7 @@
 #include "mainscreen/portada.h"
 
 #include "core/catalogo.h"
+#include "core/columnas.h"
 #include "core/documentos.h"
 
 #include "host/paths.h"
@@ -102,6 +103,7 @@ void Portada::Edit(const QString &ruta)
     const core::Documento documento = core::LeeDocumento(ruta);
     if (documento.cortado)
         Aviso(M.Msg_ArchGrande0, M.Msg_ArchGrande1);
+    Editor->SetColumns(core::TieneColumnas(documento.texto), core::AnchoDeTabulador);
     Editor->SetText(documento.texto);
 }
 

@@ -3,6 +3,7 @@
 
 #include "mainscreen/portada.h"
 
+#include "core/busqueda.h"
 #include "core/catalogo.h"
 #include "core/lista.h"
 
@@ -17,6 +18,19 @@ namespace mainscreen {
 void Portada::ConectaLista()
 {
     Lista1->Selection = [this] { Lista1_Selection(); };
+    Lista1->Find = [this](const QString &texto) { return core::EntradaQueBusca(EntradasDeLista(), texto); };
+    Lista1->FindNext = [this](const QString &texto, bool atras) {
+        return core::SiguienteEntrada(EntradasDeLista(), texto, Lista1->ListIndex(),
+            atras ? core::Sentido::Atras : core::Sentido::Adelante);
+    };
+}
+
+QStringList Portada::EntradasDeLista() const
+{
+    QStringList entradas;
+    for (int i = 0; i < Lista1->ListCount(); ++i)
+        entradas.append(Lista1->List(i));
+    return entradas;
 }
 
 void Portada::Llena_Lista()

@@ -155,6 +155,7 @@ private:
 
     // List.
     void LlenaTablasDeLista();
+    QStringList EntradasDeLista() const;
     void ActivaParaLista(bool activo);
 
     // Information and preview.
@@ -220,6 +221,7 @@ private:
     void WEB2_MouseUp();
     void AbreWeb(const QString &linea, const QString &titulo, const QString &texto);
     void PulsaWeb(forms::Label &web);
+    void Escape();
     void OrdenaFoco();
     void DejaElTecladoAlEditor(bool abierto);
     void NombraControles();

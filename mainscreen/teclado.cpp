@@ -75,6 +75,8 @@ void Portada::ConectaTeclado()
     conTecla(TeclaDeWEB1, [this] { PulsaWeb(*WEB1); });
     conTecla(TeclaDeWEB2, [this] { PulsaWeb(*WEB2); });
 
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, [this] { Escape(); });
+
     Lista1->MenuKey = [this] {
         if (!Lista1->Text().isEmpty())
             Menu_Lista1->PopupOver(*Lista1);
@@ -100,6 +102,15 @@ QString Portada::TeclaDe(const QWidget &control) const
     if (&control == WEB1 || &control == WEB2)
         return enPalabras(&control == WEB1 ? TeclaDeWEB1 : TeclaDeWEB2, M.Palabras);
     return {};
+}
+
+// Leaves what lies over the screen.
+void Portada::Escape()
+{
+    if (Aumento.isVisible())
+        Aumento.hide();
+    else if (Editor->isVisible())
+        FlechaE2->click();
 }
 
 void Portada::PulsaWeb(forms::Label &web)

@@ -71,6 +71,37 @@ TEST_F(DocumentosTest, HelpOpensInTheEditorAndTheArrowClosesIt)
         EXPECT_FALSE(isShown(name)) << name.toStdString();
 }
 
+TEST_F(DocumentosTest, EscapeClosesTheText)
+{
+    files.write(u"emu/readme.txt"_s, "Read me");
+    startAt(Zeta, 0);
+    click(control(u"BotonC2"_s));
+    ASSERT_TRUE(isShown(u"Editor"_s));
+    strike(*portada, Qt::Key_Escape);
+    for (const QString &name : Hidden)
+        EXPECT_TRUE(isShown(name)) << name.toStdString();
+    for (const QString &name : Shown)
+        EXPECT_FALSE(isShown(name)) << name.toStdString();
+    EXPECT_TRUE(list().hasFocus());
+}
+
+TEST_F(DocumentosTest, TableKeepsItsColumnsAndProseWraps)
+{
+    startAt(Zeta, 0);
+    auto &editor = *portada->Editor;
+    const auto shown = [&](const char *bytes) {
+        files.write(u"emu/readme.txt"_s, bytes);
+        click(control(u"BotonC2"_s));
+        const QFontMetrics metrics = editor.fontMetrics();
+        const bool one = metrics.horizontalAdvance(u"iiii"_s) == metrics.horizontalAdvance(u"MMMM"_s);
+        const bool wraps = editor.lineWrapMode() != QPlainTextEdit::NoWrap;
+        click(control(u"FlechaE2"_s));
+        return std::pair(one, wraps);
+    };
+    EXPECT_EQ(shown("F1    Help\nF10   Settings\nEnd   Leave"), std::pair(true, false));
+    EXPECT_EQ(shown("A text of one line."), std::pair(false, true));
+}
+
 TEST_F(DocumentosTest, SettingsOpenTheSameWay)
 {
     files.write(u"emu/emu.cfg"_s, "key=1");

@@ -227,6 +227,18 @@ TEST_F(ZoomTest, GlassStandsInTheMiddleOfTheScreenAndTakesNeitherFocusNorMouse)
     release(picture());
 }
 
+TEST_F(ZoomTest, EscapeHidesTheGlassAndTheReleaseBehindItChangesNothing)
+{
+    startWithCapture();
+    press(picture());
+    ASSERT_TRUE(zooms());
+    strike(*portada, Qt::Key_Escape);
+    EXPECT_FALSE(zooms());
+    release(picture());
+    EXPECT_FALSE(zooms());
+    EXPECT_TRUE(portada->isVisible());
+}
+
 TEST_F(ZoomTest, GlassIsHiddenAndNotDestroyed)
 {
     startWithCapture();

@@ -1,0 +1,97 @@
+#include "core/columnas.h"
+
+#include <QSet>
+#include <QStringList>
+
+namespace core {
+
+namespace {
+
+constexpr int LineasSeguidas = 3;
+
+bool esTrazo(QChar letra)
+{
+    return letra.unicode() >= 0x2500 && letra.unicode() <= 0x259F;
+}
+
+// Four of them in a row: one alone is a letter.
+bool tieneTrazos(const QString &texto)
+{
+    constexpr int Bastantes = 4;
+    static const QString trazosDeConsola = QStringLiteral("ÄÍÛÜß°±²");
+    int iguales = 0;
+    for (qsizetype i = 0; i < texto.size(); ++i) {
+        if (esTrazo(texto[i]))
+            return true;
+        iguales = i > 0 && texto[i] == texto[i - 1] ? iguales + 1 : 1;
+        if (iguales == Bastantes && trazosDeConsola.contains(texto[i]))
+            return true;
+    }
+    return false;
+}
+
+QString sinTabuladores(const QString &linea)
+{
+    QString ancha;
+    for (const QChar letra : linea) {
+        if (letra == u'\t')
+            ancha += QString(AnchoDeTabulador - ancha.size() % AnchoDeTabulador, u' ');
+        else
+            ancha += letra;
+    }
+    return ancha;
+}
+
+// Where a word begins behind a gap, or an upright stroke stands.
+QSet<qsizetype> columnasDe(const QString &linea)
+{
+    QSet<qsizetype> columnas;
+    bool empezada = false;
+    for (qsizetype i = 0; i < linea.size(); ++i) {
+        if (linea[i] == u' ')
+            continue;
+        const bool trasHueco = i >= 2 && linea[i - 1] == u' ' && linea[i - 2] == u' ';
+        if ((empezada && trasHueco) || linea[i] == u'|')
+            columnas.insert(i);
+        empezada = true;
+    }
+    return columnas;
+}
+
+bool sonSignos(const QString &linea)
+{
+    constexpr int Bastantes = 3;
+    int signos = 0;
+    int letras = 0;
+    for (const QChar letra : linea) {
+        if (letra.isSpace())
+            continue;
+        ++(letra.isLetterOrNumber() ? letras : signos);
+    }
+    return signos >= Bastantes && signos > letras;
+}
+
+} // namespace
+
+bool TieneColumnas(const QString &texto)
+{
+    if (tieneTrazos(texto))
+        return true;
+    QList<QSet<qsizetype>> columnas;
+    int deSignos = 0;
+    for (QString linea : texto.split(u'\n')) {
+        linea.remove(u'\r');
+        deSignos = sonSignos(linea) ? deSignos + 1 : 0;
+        columnas.append(columnasDe(sinTabuladores(linea)));
+        if (columnas.size() > LineasSeguidas)
+            columnas.removeFirst();
+        QSet<qsizetype> comunes = columnas.first();
+        for (const QSet<qsizetype> &otras : std::as_const(columnas))
+            comunes &= otras;
+        if (deSignos == LineasSeguidas || (columnas.size() == LineasSeguidas && !comunes.isEmpty()))
+            return true;
+    }
+    return false;
+}
+
+} // namespace core
