@@ -43,16 +43,19 @@ is_shown() { [ -n "$(xdotool search --onlyvisible --class weston)" ]; }
 comes is_shown || fail "no screen of the compositor"
 xdotool search --onlyvisible --class weston windowactivate --sync
 
+# An emulator that only tells that it was started, in a catalogue of its own: what else this machine has doesn't count.
+mkdir "$work/program"
+printf '#!/bin/sh\necho "$*" >>"%s/played"\n' "$work" >"$work/emulator"
+chmod 755 "$work/emulator"
+printf '%s\r\n' "' Sistemas y emuladores configurados" '-Atari 2600' 'WEB1=' '*.ZIP' '*.A26' '*.BIN' \' '+Emulator' 'WEB2=' \
+    "EXE=$work/emulator" 'XDI=0' "ROM=$work/program/demo/" "IMG=$work/program/demo/" 'PAR1=' 'PAR2=' \
+    \'---------- '[EOF]' >"$work/program/Zembro.emu"
+
 # Settings as they stand behind the first run.
 "$sources/packaging/assemble.sh" "$build" "$work/program" >/dev/null || fail "no program directory"
 printf '%s\r\n' \' \' \' \' \' \' \' \' \' '' '[General]' 'LastSisUsed = 0' 'LastEmuUsed = 0' 'SaveLastEmu&Sis = 1' \
     'TypeOfEditor = 1' 'MsgEndDOS = Finalizado' 'LanguageFile = ZB-ESP.LNG' 'DebugMode = 0' '' '[Filters]' CFG ROMS '' '[EOF]' \
     >"$work/program/Zembro.cfg"
-# An emulator that only tells that it was started.
-printf '#!/bin/sh\necho "$*" >>"%s/played"\n' "$work" >"$work/emulator"
-chmod 755 "$work/emulator"
-sed -i "s|^EXE=.*|EXE=$work/emulator\r|" "$work/program/Zembro.emu"
-
 # The client tells each message that it sends.
 env -u DISPLAY WAYLAND_DISPLAY=wayland-test WAYLAND_DEBUG=1 QT_QPA_PLATFORM=wayland TMPDIR="$work" "$work/program/Zembrolix" 2>"$work/wire.log" &
 program=$!
