@@ -1,8 +1,10 @@
 #include "forms/assistance.h"
 
 #include "forms/checks.h"
+#include "forms/form.h"
 #include "forms/image.h"
 #include "forms/label.h"
+#include "forms/listbox.h"
 #include "forms/picturebutton.h"
 
 #include <QAccessibleWidget>
@@ -114,6 +116,35 @@ private:
     const Assistance m_byClass;
 };
 
+// A window without its lists that are covered: those have access of the toolkit's own, which doesn't know.
+class WindowAccess final : public QAccessibleWidget {
+public:
+    explicit WindowAccess(Form &form)
+        : QAccessibleWidget(&form, QAccessible::Window)
+    {
+    }
+
+    int childCount() const override { return int(shown().size()); }
+    QAccessibleInterface *child(int index) const override { return shown().value(index); }
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        return int(shown().indexOf(const_cast<QAccessibleInterface *>(child)));
+    }
+
+private:
+    QList<QAccessibleInterface *> shown() const
+    {
+        QList<QAccessibleInterface *> children;
+        for (int i = 0; i < QAccessibleWidget::childCount(); ++i) {
+            QAccessibleInterface *child = QAccessibleWidget::child(i);
+            const auto *list = child ? dynamic_cast<const ListBox *>(child->object()) : nullptr;
+            if (!list || !IsCovered(*list))
+                children << child;
+        }
+        return children;
+    }
+};
+
 QAccessibleInterface *accessOf(const QString &, QObject *object)
 {
     auto *control = qobject_cast<QWidget *>(object);
@@ -124,6 +155,8 @@ QAccessibleInterface *accessOf(const QString &, QObject *object)
     if (auto *check = dynamic_cast<CheckBox *>(object))
         return new Access(*control,
             { QAccessible::CheckBox, [check] { check->click(); }, [check] { return check->isChecked(); } });
+    if (auto *form = dynamic_cast<Form *>(object))
+        return new WindowAccess(*form);
     if (dynamic_cast<Image *>(object))
         return new Access(*control, {});
     if (dynamic_cast<Label *>(object))
@@ -168,6 +201,18 @@ bool IsCovered(const QWidget &control)
             return true;
     }
     return false;
+}
+
+void TellOfCover(QWidget &window)
+{
+    const auto controls = window.findChildren<QWidget *>();
+    for (QWidget *control : controls) {
+        if (!control->isVisible() || control->isWindow())
+            continue;
+        QAccessibleEvent event(
+            control, IsCovered(*control) ? QAccessible::ObjectHide : QAccessible::ObjectShow);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void TellAssistantsOfControls()

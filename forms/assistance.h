@@ -25,6 +25,9 @@ void TellOfChoice(QWidget &control);
 // Whether it lies wholly under another control of its window, or under the window that blocks its own.
 bool IsCovered(const QWidget &control);
 
+// What covers the controls of a window has come or gone.
+void TellOfCover(QWidget &window);
+
 void TellAssistantsOfControls(); // once, for all that are made from now on
 
 } // namespace forms

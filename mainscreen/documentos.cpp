@@ -8,6 +8,8 @@
 #include "core/columnas.h"
 #include "core/documentos.h"
 
+#include "forms/assistance.h"
+
 #include "host/paths.h"
 #include "host/process.h"
 #include "host/tools.h"
@@ -95,6 +97,7 @@ void Portada::MuestraDocumento(const QString &ruta, const std::function<void()> 
     M.OrdenEdit = host::terminalEditorCommand(absoluta(ruta));
     Edit(ruta);
     Editor->setFocus();
+    forms::TellOfCover(*this);
 }
 
 void Portada::Edit(const QString &ruta)
@@ -139,6 +142,7 @@ void Portada::FlechaE2_Release()
         control->hide();
     for (QWidget *control : OcultosPorElEditor())
         control->show();
+    forms::TellOfCover(*this);
 }
 
 // Labels last: shown again, once the Editor has gone, they grow into the room that the others leave. The

@@ -152,6 +152,23 @@ TEST_F(AsistenciaTest, APressOnTheDatabaseBoxChangesIt)
     EXPECT_TRUE(told(u"Check1"_s).state().checked);
 }
 
+TEST_F(AsistenciaTest, TheListUnderAnOpenTextIsNotToldAsPartOfTheWindow)
+{
+    startAt(Zeta, 0);
+    QAccessibleInterface &window = *QAccessible::queryAccessibleInterface(portada.get());
+    QAccessibleInterface &games = told(u"Lista1"_s);
+    EXPECT_GE(window.indexOfChild(&games), 0);
+    const int before = window.childCount();
+    click(control(u"BotonC2"_s));
+    ASSERT_TRUE(portada->Editor->isVisible());
+    EXPECT_EQ(window.indexOfChild(&games), -1);
+    click(control(u"FlechaE2"_s));
+    EXPECT_GE(window.indexOfChild(&games), 0);
+    EXPECT_EQ(window.childCount(), before);
+    for (int i = 0; i < window.childCount(); ++i)
+        EXPECT_EQ(window.indexOfChild(window.child(i)), i);
+}
+
 TEST_F(AsistenciaTest, WhatAnOpenTextCoversIsNotToldAsShowing)
 {
     startAt(Zeta, 0);
