@@ -30,12 +30,11 @@ TEXT = Atspi.Role.TEXT
 ROLES = (BUTTON, LIST, COMBO, CHECK, TEXT)
 
 # A role, and the key of the name in the language file.
-ALWAYS = [
+ALWAYS = [(BUTTON, "Zem_Titulo1")]
+UNDER_THE_TEXT = [
     (LIST, "Zem_Lista1"), (BUTTON, "TXT_Describir"), (BUTTON, "TXT_Borrar"), (BUTTON, "Zem_Menos2a"),
     (COMBO, "Zem_Combo1"), (COMBO, "Zem_Combo2"), (BUTTON, "TXT_Configurar"), (BUTTON, "TXT_Opciones"),
-    (BUTTON, "Zem_E1"),
-]
-UNDER_THE_TEXT = [
+    (BUTTON, "Zem_E1"), (BUTTON, "Zem_Captura"), (BUTTON, "Zem_OFF"),
     (BUTTON, "Zem_Menos2b"), (BUTTON, "TXT_VerAyuda"), (BUTTON, "TXT_VerConfig"), (BUTTON, "TXT_Jugar"),
     (BUTTON, "TXT_Utilidades"), (BUTTON, "TXT_AcercaDe"), (BUTTON, "TXT_Ayuda"), (BUTTON, "FAQ"),
     (CHECK, "TXT_BaseDeDatos"), (BUTTON, "Zem_D1"), (BUTTON, "Zem_Flecha2"),
