@@ -1,15 +1,18 @@
 #!/bin/bash
 # Installs what is missing, builds the release, assembles build/zembrolix and starts it.
-#   --build   stops before the start
+#   --build        stops before the start
+#   --find         configures the emulators of this machine for the systems that have games by now in
+#                  build/zembrolix/roms, beside what is configured, and stops
+#   --find --all   those of all systems
 set -euo pipefail
 cd "$(dirname "$0")"
 # So that another clone finds in the cache what this one has compiled.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
 
-case "${1:-}" in
-"" | --build) ;;
+case "$*" in
+"" | --build | --find | "--find --all") ;;
 *)
-    echo "usage: ./run.sh [--build]" >&2
+    echo "usage: ./run.sh [--build | --find [--all]]" >&2
     exit 2
     ;;
 esac
@@ -20,6 +23,7 @@ cmake --preset release >build/configure.log 2>&1 || { cat build/configure.log >&
 cmake --build --preset release
 packaging/assemble.sh build/release build/zembrolix
 [ "${1:-}" != --build ] || exit 0
+[ "${1:-}" != --find ] || exec packaging/find.sh build/release build/zembrolix "${@:2}"
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     exec build/zembrolix/Zembrolix

@@ -1,6 +1,7 @@
 #include "core/ajustes.h"
 
 #include "core/arranque.h"
+#include "core/catalogo.h"
 #include "core/lineas.h"
 
 #include "host/letters.h"
@@ -311,6 +312,44 @@ QString ConFiltros(const QString &texto, const QStringList &filtros)
         break;
     }
     return copia.Texto();
+}
+
+namespace {
+
+constexpr size_t LineaDeSistema = 11; // counted from 0; the emulator's stands below
+
+// True if the texts have the same lines but for the selection's.
+bool sonIgualesSalvoSeleccion(const QString &uno, const QString &otro)
+{
+    const std::vector<LineaConFin> lineas = EnLineas(uno);
+    const std::vector<LineaConFin> otras = EnLineas(otro);
+    if (lineas.size() != otras.size())
+        return false;
+    for (size_t i = 0; i < lineas.size(); ++i) {
+        if (i != LineaDeSistema && i != LineaDeSistema + 1 && lineas[i].linea != otras[i].linea)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+QString ConSeleccionEn(const QString &texto, const Modulo &despues, const Modulo &antes)
+{
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    if (lineas.size() <= LineaDeSistema + 1 || llevaMarca(texto))
+        return texto;
+    const auto numero = [&lineas](size_t i) {
+        const QString linea = lineas[i].linea.toString();
+        return linea.endsWith(u'=') ? 0 : NumeroDeAjuste(ValorDeAjuste(linea));
+    };
+    const Posiciones antiguas { numero(LineaDeSistema), numero(LineaDeSistema + 1) };
+    const Posiciones nuevas = PosicionesEn(despues, antes, antiguas);
+    if (nuevas.sistema == antiguas.sistema && nuevas.emulador == antiguas.emulador)
+        return texto;
+    const QString cambiado =
+        ConAjuste(texto, Ajuste::UltimaSeleccion, LineasDeUltimaSeleccion(nuevas.sistema, nuevas.emulador));
+    return sonIgualesSalvoSeleccion(texto, cambiado) ? cambiado : texto;
 }
 
 void GuardaAjuste(Modulo &M, Ajuste ajuste, const QStringList &lineasNuevas)

@@ -36,6 +36,11 @@ QString ConAjuste(const QString &texto, Ajuste ajuste, const QStringList &lineas
 void GuardaAjuste(Modulo &M, Ajuste ajuste, const QStringList &lineasNuevas);
 void GuardaFiltros(Modulo &M, const QStringList &filtros);
 
+// The text of Zembro.cfg with the last selection as the program goes on with it in another catalogue. The
+// text stays as it is before the first run, where nothing changes, and where another line would be lost or
+// the start would read something else, as its lines aren't those that the program writes.
+QString ConSeleccionEn(const QString &texto, const Modulo &despues, const Modulo &antes);
+
 // The new lines of a changed setting.
 QStringList LineasDeUltimaSeleccion(int sistema, int emulador);
 QString LineaDeGuardarUltimo(int valor);

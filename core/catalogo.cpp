@@ -5,6 +5,9 @@
 #include "host/letters.h"
 #include "host/paths.h"
 
+#include <algorithm>
+#include <numeric>
+#include <optional>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -140,6 +143,84 @@ Posiciones PosicionesDe(const Modulo &M, const QString &sistema, const QString &
     else if (!sistema.isEmpty())
         posiciones.emulador = NingunEmulador;
     return posiciones;
+}
+
+namespace {
+
+// The names of the systems, or of the emulators of one, in the file's order.
+std::vector<QString> nombresDeSistemas(const Modulo &M)
+{
+    std::vector<QString> nombres;
+    for (int s = 0; s <= M.Indice_Sistema && s < MaxSistemas; ++s)
+        nombres.push_back(M.Cat_Nombre(s, 0));
+    return nombres;
+}
+
+std::vector<QString> nombresDeEmuladores(const Modulo &M, size_t sistema)
+{
+    const int s = static_cast<int>(sistema);
+    std::vector<QString> nombres;
+    for (int e = 1; e <= TotalEmuladores(M, s); ++e)
+        nombres.push_back(M.Cat_Nombre(s, e));
+    return nombres;
+}
+
+// The indices of the names as a sorted list shows them.
+std::vector<size_t> enOrden(const std::vector<QString> &nombres)
+{
+    std::vector<size_t> indices(nombres.size());
+    std::iota(indices.begin(), indices.end(), size_t { 0 });
+    std::stable_sort(indices.begin(), indices.end(),
+        [&nombres](size_t uno, size_t otro) { return host::compareNames(nombres[uno], nombres[otro]) < 0; });
+    return indices;
+}
+
+// The index in the later names of what has this index in the earlier ones.
+std::optional<size_t> indiceEn(
+    const std::vector<QString> &despues, const std::vector<QString> &antes, size_t indice)
+{
+    auto iguales =
+        std::count(antes.begin(), antes.begin() + static_cast<std::ptrdiff_t>(indice), antes[indice]);
+    for (size_t i = 0; i < despues.size(); ++i) {
+        if (despues[i] == antes[indice] && iguales-- == 0)
+            return i;
+    }
+    return std::nullopt;
+}
+
+int posicionDe(const std::vector<QString> &nombres, size_t indice)
+{
+    const std::vector<size_t> orden = enOrden(nombres);
+    return static_cast<int>(std::find(orden.begin(), orden.end(), indice) - orden.begin());
+}
+
+// The index of what stands at this position.
+std::optional<size_t> indiceDe(const std::vector<QString> &nombres, int posicion)
+{
+    const std::vector<size_t> orden = enOrden(nombres);
+    if (posicion < 0 || static_cast<size_t>(posicion) >= orden.size())
+        return std::nullopt;
+    return orden[static_cast<size_t>(posicion)];
+}
+
+} // namespace
+
+Posiciones PosicionesEn(const Modulo &despues, const Modulo &antes, const Posiciones &posiciones)
+{
+    const std::vector<QString> sistemas = nombresDeSistemas(antes);
+    const std::vector<QString> nuevos = nombresDeSistemas(despues);
+    const std::optional<size_t> sistema = indiceDe(sistemas, posiciones.sistema);
+    const std::optional<size_t> suyo = sistema ? indiceEn(nuevos, sistemas, *sistema) : std::nullopt;
+    if (!suyo)
+        return posiciones;
+    Posiciones resultado { posicionDe(nuevos, *suyo), posiciones.emulador };
+    const std::vector<QString> emuladores = nombresDeEmuladores(antes, *sistema);
+    const std::vector<QString> otros = nombresDeEmuladores(despues, *suyo);
+    const std::optional<size_t> emulador = indiceDe(emuladores, posiciones.emulador);
+    const std::optional<size_t> otro = emulador ? indiceEn(otros, emuladores, *emulador) : std::nullopt;
+    if (otro)
+        resultado.emulador = posicionDe(otros, *otro);
+    return resultado;
 }
 
 } // namespace core

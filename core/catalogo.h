@@ -73,4 +73,9 @@ struct Posiciones {
 };
 Posiciones PosicionesDe(const Modulo &M, const QString &sistema, const QString &emulador);
 
+// Where the pair at these positions of a catalogue stands in a later one of it. Among systems or emulators of
+// one name it is the same one of them. A position where nothing stands, or whose name the later one lacks,
+// stays as it is.
+Posiciones PosicionesEn(const Modulo &despues, const Modulo &antes, const Posiciones &posiciones);
+
 } // namespace core

@@ -11,6 +11,7 @@ namespace finder {
 namespace {
 
 constexpr int Columnas = 5;
+const QString MarcaDeROMs = u"rom"_s; // in the sixth column, if there is one
 const QString Nada = u"-"_s;
 
 bool esTipo(const QString &texto)
@@ -20,11 +21,14 @@ bool esTipo(const QString &texto)
 
 Ficha fichaDe(const QString &linea)
 {
-    const QStringList columnas = linea.split(u'\t');
+    QStringList columnas = linea.split(u'\t');
+    const bool pideROMs = columnas.size() == Columnas + 1 && columnas.last() == MarcaDeROMs;
+    if (pideROMs)
+        columnas.removeLast();
     if (columnas.size() != Columnas || columnas.contains(QString()) || !esTipo(columnas[2]))
         throw host::Failure(host::InvalidArgument, u"read the table of emulators"_s, linea);
     Ficha ficha { columnas[0], columnas[1].split(u' ', Qt::SkipEmptyParts), columnas[2], columnas[3],
-        columnas[4] };
+        columnas[4], pideROMs };
     if (ficha.par1 == Nada)
         ficha.par1.clear();
     if (ficha.par2 == Nada)
@@ -55,6 +59,11 @@ std::vector<Ficha> LeeFichas(const QString &texto)
         nombres += nombre;
     }
     return fichas;
+}
+
+bool EsDeMAME(const Ficha &ficha)
+{
+    return ficha.ejecutables.contains(u"mame"_s);
 }
 
 Parametros ParametrosDe(const Ficha &ficha)

@@ -15,10 +15,14 @@ struct Ficha {
     QString tipo; // one digit
     QString par1; // as the table has them; see ParametrosDe
     QString par2;
+    bool pideROMs = false; // its machine doesn't run without ROMs of its own
 };
 
-// Lines that begin with "#" and empty ones are passed over. Fails with 5 for a line that hasn't five filled
-// columns or whose type is no type, and for an emulator that comes twice.
+// True if MAME is the emulator, whichever machine it is for.
+bool EsDeMAME(const Ficha &ficha);
+
+// Lines that begin with "#" and empty ones are passed over. Fails with 5 for a line that hasn't its
+// filled columns or whose type is no type, and for an emulator that comes twice.
 std::vector<Ficha> LeeFichas(const QString &texto);
 
 // The parameters as the catalogue keeps them: types 5 to 8 join the first ones to the program's name, and

@@ -1,7 +1,6 @@
 #include "finder/hallazgos.h"
 
 #include "core/catalogo.h"
-#include "core/lineas.h"
 
 #include "host/paths.h"
 #include "host/textsource.h"
@@ -9,7 +8,6 @@
 #include <QHash>
 #include <QSet>
 
-#include <algorithm>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -17,12 +15,6 @@ using namespace Qt::StringLiterals;
 namespace finder {
 
 namespace {
-
-// A system's name as that of a directory.
-QString nombreDeDirectorio(QString sistema)
-{
-    return sistema.replace(u'/', u'-');
-}
 
 QSet<QString> nombresConfigurados(const core::Modulo &catalogo)
 {
@@ -40,6 +32,8 @@ std::optional<Hallazgo> hallazgoDe(
 {
     Hallazgo hallazgo;
     hallazgo.sistema = sistema;
+    hallazgo.deMAME = EsDeMAME(ficha);
+    hallazgo.pideROMs = ficha.pideROMs;
     hallazgo.programa = RutaDePrograma(ficha.ejecutables, lugares);
     if (hallazgo.programa.isEmpty())
         return std::nullopt;
@@ -56,38 +50,25 @@ std::optional<Hallazgo> hallazgoDe(
     core::EmuladorNuevo &emulador = hallazgo.emulador;
     emulador.exe = hallazgo.programa;
     if (parametros.par1.contains(u"{roms}"_s)) {
-        hallazgo.arranque = directorio + u"/arranque/"_s + nombreDeDirectorio(ficha.emulador);
+        hallazgo.arranque = directorio + u"/arranque/"_s + NombreDeDirectorio(ficha.emulador);
         emulador.exe = hallazgo.arranque + hallazgo.programa.sliced(host::lastSeparator(hallazgo.programa));
         parametros.par1.replace(u"{roms}"_s, u"roms"_s);
     }
     emulador.nombre = ficha.emulador;
     emulador.tipo = ficha.tipo;
-    emulador.rom = directorio + u"/roms/"_s + nombreDeDirectorio(sistema) + u'/';
-    emulador.img = directorio + u"/capturas/"_s + nombreDeDirectorio(sistema) + u'/';
+    emulador.rom = directorio + u"/roms/"_s + NombreDeDirectorio(sistema) + u'/';
+    emulador.img = directorio + u"/capturas/"_s + NombreDeDirectorio(sistema) + u'/';
     emulador.par1 = parametros.par1;
     emulador.par2 = parametros.par2;
     return hallazgo;
 }
 
-bool tieneLinea(const QString &texto, const QString &buscada)
-{
-    const std::vector<core::LineaConFin> lineas = core::EnLineas(texto);
-    return std::any_of(lineas.begin(), lineas.end(),
-        [&buscada](const core::LineaConFin &linea) { return linea.linea == buscada; });
-}
-
-core::SistemaNuevo sistemaDe(const core::Modulo &base, const Hallazgo &hallazgo)
-{
-    int s = 0;
-    while (base.Cat_Nombre(s, 0) != u'-' + hallazgo.sistema)
-        ++s;
-    core::SistemaNuevo sistema { hallazgo.sistema, base.Cat_WEB1(s), {}, hallazgo.emulador };
-    for (int k = 0; !base.Cat_EXT(s, k).isEmpty(); ++k)
-        sistema.extensiones += base.Cat_EXT(s, k);
-    return sistema;
-}
-
 } // namespace
+
+QString NombreDeDirectorio(QString sistema)
+{
+    return sistema.replace(u'/', u'-');
+}
 
 void LeeTablas(core::Modulo &M, const QString &texto)
 {
@@ -120,18 +101,6 @@ std::vector<Hallazgo> Busca(const core::Modulo &base, const core::Modulo &catalo
         }
     }
     return hallazgos;
-}
-
-QString CatalogoCon(const QString &texto, const core::Modulo &base, const std::vector<Hallazgo> &hallazgos)
-{
-    QString catalogo = texto;
-    for (const Hallazgo &hallazgo : hallazgos) {
-        const QString linea = u'-' + hallazgo.sistema;
-        catalogo = tieneLinea(catalogo, linea)
-            ? core::ConEmuladorConfigurado(catalogo, linea, hallazgo.emulador)
-            : core::ConSistemaConfigurado(catalogo, sistemaDe(base, hallazgo));
-    }
-    return catalogo;
 }
 
 } // namespace finder

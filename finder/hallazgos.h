@@ -1,5 +1,4 @@
-// Which emulators of the database are on the machine and not yet in the catalogue, and the catalogue with
-// them.
+// Which emulators of the database are on the machine and not yet in the catalogue.
 #pragma once
 
 #include "core/altas.h"
@@ -22,18 +21,19 @@ struct Hallazgo {
     // executable lies there, so that its working directory is this one, and a link named "roms". Empty for
     // all others.
     QString arranque;
+    bool deMAME = false;
+    bool pideROMs = false; // its machine doesn't run without ROMs of its own
 };
 
 // The catalogue tables of a file's text, read by the program's own reader; fails as that does.
 void LeeTablas(core::Modulo &M, const QString &texto);
 
+// A system's name as that of a directory.
+QString NombreDeDirectorio(QString sistema);
+
 // In the order of the database. An emulator whose name stands in the catalogue, under whichever system, is
 // left out, and so is one whose executable or core isn't there.
 std::vector<Hallazgo> Busca(const core::Modulo &base, const core::Modulo &catalogo,
     const std::vector<Ficha> &fichas, const Lugares &lugares, const QString &directorio);
-
-// The catalogue's text with these emulators, block for block as saving each of them writes it. Every line
-// that was there stays.
-QString CatalogoCon(const QString &texto, const core::Modulo &base, const std::vector<Hallazgo> &hallazgos);
 
 } // namespace finder

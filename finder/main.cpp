@@ -1,57 +1,38 @@
-// BuscaEmuladores TABLE DIRECTORY CATALOGUE: configures the emulators of this machine in the catalogue of a
-// new program directory, and makes the directories of their games. Says on the standard output what it has
-// configured.
+// BuscaEmuladores [--all] TABLE DIRECTORY [CATALOGUE]: adds emulators of this machine to the catalogue of a
+// program directory, and makes the directories of their games: those of the systems that have games there,
+// with
+// --all those of the others too. A CATALOGUE is a new one, which isn't in its place yet. Says on the standard
+// output what it has configured, and on the standard error what it couldn't.
 
-#include "finder/preparacion.h"
+#include "finder/configura.h"
 
 #include "host/encoding.h"
 #include "host/failure.h"
-#include "host/numberedfiles.h"
-#include "host/paths.h"
 
 #include <cstdio>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString textoDe(const QString &ruta)
-{
-    return host::decodeText(host::readBytes(ruta)).text;
-}
-
-void configura(const QString &tabla, const QString &directorio, const QString &catalogo)
-{
-    const std::vector<finder::Ficha> fichas = finder::LeeFichas(textoDe(tabla));
-    const auto base = std::make_unique<core::Modulo>();
-    finder::LeeTablas(*base, textoDe(directorio + u"/Zembro.sye"_s));
-    std::vector<finder::Hallazgo> hallazgos;
-    host::NumberedFiles ficheros;
-    ficheros.rewrite(catalogo, u"Zembro.tmp"_s, [&](const QString &texto) {
-        const auto configurado = std::make_unique<core::Modulo>();
-        finder::LeeTablas(*configurado, texto);
-        hallazgos = finder::Busca(*base, *configurado, fichas, finder::LugaresDeLaMaquina(), directorio);
-        for (const finder::Hallazgo &hallazgo : hallazgos)
-            finder::Prepara(hallazgo);
-        return finder::CatalogoCon(texto, *base, hallazgos);
-    });
-    // Only now does the catalogue hold them: who is told of one takes it for done.
-    for (const finder::Hallazgo &hallazgo : hallazgos)
-        std::printf("%s: %s, %s\n", qPrintable(hallazgo.sistema), qPrintable(hallazgo.emulador.nombre),
-            qPrintable(hallazgo.programa));
-}
-
-} // namespace
-
 int main(int argc, char **argv)
 {
-    if (argc != 4) {
-        std::fputs("usage: BuscaEmuladores TABLE DIRECTORY CATALOGUE\n", stderr);
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments += host::nameFromDisk(argv[i]);
+    const bool todo = arguments.removeAll(u"--all"_s) > 0;
+    if (arguments.size() != 2 && arguments.size() != 3) {
+        std::fputs("usage: BuscaEmuladores [--all] TABLE DIRECTORY [CATALOGUE]\n", stderr);
         return 2;
     }
+    const auto say = [](FILE *where, const QString &text) {
+        std::fprintf(where, "%s\n", host::nameToDisk(text).constData());
+    };
     try {
-        configura(host::nameFromDisk(argv[1]), host::nameFromDisk(argv[2]), host::nameFromDisk(argv[3]));
+        const finder::Resultado resultado =
+            finder::Configura({ arguments[0], arguments[1], arguments.value(2), todo });
+        for (const finder::Hallazgo &hallazgo : resultado.puestos)
+            say(stdout, u"%1: %2, %3"_s.arg(hallazgo.sistema, hallazgo.emulador.nombre, hallazgo.programa));
+        for (const QString &aviso : resultado.avisos)
+            say(stderr, aviso);
     } catch (const host::Failure &failure) {
         std::fprintf(stderr, "BuscaEmuladores: %s\n", failure.what());
         return 1;

@@ -32,9 +32,14 @@ void enlaza(const QString &destino, const QString &enlace)
 
 } // namespace
 
-void Prepara(const Hallazgo &hallazgo)
+void PreparaJuegos(const Hallazgo &hallazgo)
 {
     haceDirectorio(hallazgo.emulador.rom);
+}
+
+void Prepara(const Hallazgo &hallazgo)
+{
+    PreparaJuegos(hallazgo);
     haceDirectorio(hallazgo.emulador.img);
     if (hallazgo.arranque.isEmpty())
         return;

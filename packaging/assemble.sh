@@ -2,7 +2,9 @@
 # Assembles the portable program directory: assemble.sh BUILD DIRECTORY.
 # The programs are renewed. So is every other file that is still one of those that were delivered, whose sums stand in
 # .delivered; one that the user has changed, or put a link in the place of, stays. The catalogue is the user's from the
-# beginning: it is written only where there is none, with the emulators of this machine.
+# beginning: it is written only where there is none, with the demonstration and the emulators of those systems whose
+# directory of games, roms/SYSTEM, holds games already. That directory is made for every system that the machine has an
+# emulator of.
 set -euo pipefail
 
 build=$1
@@ -75,8 +77,8 @@ stella=$(command -v stella || true)
 escaped() { printf '%s' "$1" | sed 's/[&\\|]/\\&/g'; }
 sed -e "s|@STELLA@|$(escaped "$stella")|" -e "s|@DEMO@|$(escaped "$directory/demo")|" "$beside/Zembro.emu" \
     >"$work/Zembro.emu"
+mkdir -p "$directory/roms/Atari 2600"
 "$build/finder/BuscaEmuladores" "$sources/emuladores.tsv" "$directory" "$work/Zembro.emu" >"$work/found" ||
     echo "The emulators of this machine aren't configured." >&2
 [ ! -s "$work/found" ] || sed 's/^/Configured /' "$work/found"
-mkdir -p "$directory/roms/Atari 2600"
 place 644 "$work/Zembro.emu" Zembro.emu

@@ -1,7 +1,7 @@
 #!/bin/bash
 # Shows that the emulators of this machine open the file that they are given: emulators.sh BUILD [NAME...]. For running
 # by hand, with strace, on a machine with many emulators; CI has one. Assembles a new program directory from the build,
-# puts a file of zeros among the games of each emulator that was found, starts it with the command line that the
+# configures all emulators of the machine in it, puts a file of zeros among the games of each one that was found, starts it with the command line that the
 # program composes, under a screen of its own, and watches whether it opens the file. Prints a line of a table for
 # each. With names it tries these alone.
 set -u
@@ -22,7 +22,8 @@ finish() {
     rm -rf "$work"
 }
 trap finish EXIT
-"$here/../packaging/assemble.sh" "$build" "$program" >"$work/said" || exit 1
+"$here/../packaging/assemble.sh" "$build" "$program" >/dev/null || exit 1
+"$here/../packaging/find.sh" "$build" "$program" --all | grep '^Configured ' >"$work/said"
 catalogue=$work/catalogue # in this script's encoding
 iconv -f UTF-8 -t UTF-8 "$program/Zembro.emu" >"$catalogue" 2>/dev/null ||
     iconv -f CP1252 -t UTF-8 "$program/Zembro.emu" >"$catalogue"

@@ -91,3 +91,47 @@ TEST_F(PosicionesDe, AreRight_InAFullCatalogue)
     EXPECT_EQ(posiciones.emulador, 149);
     EXPECT_EQ(core::PosicionesDe(M, u"S1150"_s, QString()).sistema, 150);
 }
+
+namespace {
+
+core::Posiciones EnOtro(const QString &despues, const QString &antes, const core::Posiciones &posiciones)
+{
+    return core::PosicionesEn(*core::CatalogoDe(despues), *core::CatalogoDe(antes), posiciones);
+}
+
+} // namespace
+
+TEST(PosicionesEn, LeadToTheSameNames)
+{
+    const QString antes = u"-NES\n+b\n+D\n-Arcade\n+z\n"_s;
+    const QString despues = u"-NES\n+b\n+D\n+A\n+c\n-Arcade\n+z\n-Oric\n+o\n-Ahead\n+h\n"_s;
+    // In order: ARCADE, NES. Then: AHEAD, ARCADE, NES, ORIC.
+    const core::Posiciones uno = EnOtro(despues, antes, { 1, 0 });
+    EXPECT_EQ(uno.sistema, 2);
+    EXPECT_EQ(uno.emulador, 1); // A, B, C, D
+    EXPECT_EQ(EnOtro(despues, antes, { 1, 1 }).emulador, 3);
+    EXPECT_EQ(EnOtro(despues, antes, { 0, 0 }).sistema, 1);
+    EXPECT_EQ(EnOtro(antes, antes, { 1, 1 }).sistema, 1);
+    EXPECT_EQ(EnOtro(antes, antes, { 1, 1 }).emulador, 1);
+}
+
+TEST(PosicionesEn, StayWhereNothingStands)
+{
+    const QString antes = u"-NES\n+b\n"_s;
+    const QString despues = u"-Ahead\n+a\n-NES\n+a\n+b\n"_s;
+    EXPECT_EQ(EnOtro(despues, antes, { 7, 0 }).sistema, 7);
+    EXPECT_EQ(EnOtro(despues, antes, { -1, 0 }).sistema, -1);
+    const core::Posiciones sinEmulador = EnOtro(despues, antes, { 0, core::NingunEmulador });
+    EXPECT_EQ(sinEmulador.sistema, 1);
+    EXPECT_EQ(sinEmulador.emulador, core::NingunEmulador);
+    EXPECT_EQ(EnOtro(u"-Ahead\n"_s, antes, { 0, 0 }).sistema, 0);
+    EXPECT_EQ(EnOtro(QString(), QString(), { 0, 0 }).sistema, 0);
+}
+
+TEST(PosicionesEn, TellSystemsOfOneNameApart)
+{
+    // In order of insertion: the second Twice is the one that stands at position 1.
+    const core::Posiciones segundo =
+        EnOtro(u"-Twice\n+a\n-TWICE\n+c\n-Twice\n+b\n"_s, u"-Twice\n+a\n-Twice\n+b\n"_s, { 1, 0 });
+    EXPECT_EQ(segundo.sistema, 2);
+}

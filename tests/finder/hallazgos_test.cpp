@@ -1,6 +1,6 @@
 // What is found on a machine, and the catalogue with it, whole and byte for byte.
 
-#include "finder/hallazgos.h"
+#include "finder/incorporacion.h"
 
 #include "maquina.h"
 
@@ -69,7 +69,7 @@ protected:
     {
         const auto base = std::make_unique<core::Modulo>();
         finder::LeeTablas(*base, Database);
-        return finder::CatalogoCon(catalogue, *base, search(catalogue));
+        return finder::Incorpora(catalogue, *base, search(catalogue)).texto;
     }
 
     QString exe(const QString &name) const { return u"EXE="_s + maquina.Ruta(name) + u"\r\n"_s; }

@@ -45,10 +45,16 @@ protected:
         return process.exitCode();
     }
 
+    // For a new directory.
     int run()
     {
         return run({ maquina.Ruta(u"table"_s), maquina.Ruta(u"Zembro Dir"_s),
             maquina.Ruta(u"Zembro Dir/Zembro.emu"_s) });
+    }
+    void putGames() const
+    {
+        maquina.PonFichero(u"Zembro Dir/roms/Games-Home/game.zip"_s);
+        maquina.PonFichero(u"Zembro Dir/roms/Arcade/game.zip"_s);
     }
 
     QByteArray catalogue() const { return maquina.Bytes(u"Zembro Dir/Zembro.emu"_s); }
@@ -62,6 +68,7 @@ protected:
 
 TEST_F(Finder, ConfiguresWhatIsThereAndMakesItsDirectories)
 {
+    putGames();
     maquina.PonPrograma(u"bin/no-such-nes"_s);
     ASSERT_EQ(run(), 0) << errors.toStdString();
     const QByteArray directory = maquina.Ruta(u"Zembro Dir"_s).toUtf8();
@@ -72,8 +79,24 @@ TEST_F(Finder, ConfiguresWhatIsThereAndMakesItsDirectories)
             + "/capturas/Games-Home/\r\nPAR1=\r\nPAR2=\r\n" + Closing + "[EOF]\r\n");
     EXPECT_EQ(maquina.Entradas(u"Zembro Dir"_s),
         QStringList({ u"Zembro.emu"_s, u"Zembro.sye"_s, u"capturas"_s, u"capturas/Games-Home"_s, u"roms"_s,
-            u"roms/Games-Home"_s }));
+            u"roms/Arcade"_s, u"roms/Arcade/game.zip"_s, u"roms/Games-Home"_s, u"roms/Games-Home/LEEME.txt"_s,
+            u"roms/Games-Home/game.zip"_s }));
     EXPECT_EQ(output, "Games/Home: Nes Test, " + exe + "\n");
+}
+
+TEST_F(Finder, ConfiguresNoSystemWithoutGamesButMakesItsDirectoryWithALineOfText)
+{
+    maquina.PonPrograma(u"bin/no-such-nes"_s);
+    ASSERT_EQ(run(), 0) << errors.toStdString();
+    EXPECT_EQ(catalogue(), Catalogue);
+    EXPECT_EQ(maquina.Entradas(u"Zembro Dir"_s),
+        QStringList({ u"Zembro.emu"_s, u"Zembro.sye"_s, u"roms"_s, u"roms/Games-Home"_s,
+            u"roms/Games-Home/LEEME.txt"_s }));
+    EXPECT_EQ(maquina.Bytes(u"Zembro Dir/roms/Games-Home/LEEME.txt"_s),
+        "Los juegos de Games/Home (*.ZIP) van en este directorio; luego, ./run.sh --find. / "
+        "The games of Games/Home (*.ZIP) go into this directory; then run ./run.sh --find.\r\n");
+    EXPECT_EQ(output, "");
+    EXPECT_EQ(errors, "");
 }
 
 TEST_F(Finder, ChangesNothingWhereNoEmulatorIs)
@@ -86,9 +109,11 @@ TEST_F(Finder, ChangesNothingWhereNoEmulatorIs)
 
 TEST_F(Finder, ChangesNothingTheSecondTime)
 {
+    putGames();
     maquina.PonPrograma(u"bin/no-such-nes"_s);
     maquina.PonPrograma(u"bin/no-such-arcade"_s);
     ASSERT_EQ(run(), 0);
+    EXPECT_EQ(output.count('\n'), 2);
     const QByteArray before = catalogue();
     const QStringList entries = maquina.Entradas(u"Zembro Dir"_s);
     ASSERT_EQ(run(), 0) << errors.toStdString();
@@ -99,6 +124,7 @@ TEST_F(Finder, ChangesNothingTheSecondTime)
 
 TEST_F(Finder, LinksExecutableAndGamesWhereAnEmulatorGetsABareName)
 {
+    putGames();
     maquina.PonPrograma(u"bin/no-such-arcade"_s);
     ASSERT_EQ(run(), 0) << errors.toStdString();
     const QString start = u"Zembro Dir/arranque/Arcade Test/"_s;
@@ -111,6 +137,7 @@ TEST_F(Finder, LinksExecutableAndGamesWhereAnEmulatorGetsABareName)
 
 TEST_F(Finder, PutsALinkRightThatLeadsElsewhere)
 {
+    putGames();
     maquina.PonPrograma(u"bin/no-such-arcade"_s);
     const QString start = u"Zembro Dir/arranque/Arcade Test/"_s;
     ASSERT_TRUE(QDir().mkpath(maquina.Ruta(start)));
@@ -137,7 +164,7 @@ TEST_F(Finder, NamesTheFileThatIsMissing)
     EXPECT_THAT(errors.toStdString(), HasSubstr("/none"));
 }
 
-TEST_F(Finder, TakesThreeArguments)
+TEST_F(Finder, TakesTwoArgumentsOrThree)
 {
     EXPECT_EQ(run({ maquina.Ruta(u"table"_s) }), 2);
     EXPECT_THAT(errors.toStdString(), HasSubstr("usage"));

@@ -43,7 +43,7 @@ printf '#!/bin/sh\n' >"$work/bin/bigpemu"
 chmod +x "$work/bin/bigpemu"
 plain=$PATH
 
-# New: everything is there, and the emulators of the machine are in the catalogue behind the demonstration.
+# New: everything is there, and the catalogue is the demonstration alone: no other system has games.
 PATH=$work/bin:$plain
 anew new
 for name in Zembrolix Cvtgif15.exe Zembro.cfg Zembro.txt Zembro.faq Zembro.rom Zembro.sye LNG/ZB-ESP.LNG demo/GAME.A26; do
@@ -53,12 +53,42 @@ done
 [ -z "$(find "$program" -name '*.new')" ] || complain "new: something is left over"
 stella=$(command -v stella || echo /usr/games/stella)
 printf -- "-Atari 2600\r\n'\r\n+Stella\r\nEXE=%s\r\nROM=%s/demo/\r\n'%s\r\n" "$stella" "$program" "$closing" >"$work/demo"
-cmp -s "$work/demo" <(head -c "$(stat -c %s "$work/demo")" "$program/Zembro.emu") || complain "new: the demonstration isn't what it was"
+{ cat "$work/demo"; printf '[EOF]\r\n'; } | cmp -s - "$program/Zembro.emu" || complain "new: the catalogue isn't the demonstration"
+[ -d "$program/roms/Atari 2600" ] && grep -q 'games of Jaguar' "$program/roms/Jaguar/LEEME.txt" || complain "new: no directories for the games"
+[ ! -s "$work/said" ] && [ ! -s "$work/errors" ] || complain "new: it says something"
+
+# New, where games lie already: their emulators are in the catalogue behind the demonstration.
 printf -- "-Jaguar\r\nWEB1=version1\r\n*.ZIP\r\n*.J64\r\n'\r\n+BigPEmu\r\nWEB2=f\r\nEXE=%s/bin/bigpemu\r\nXDI=0\r\n" "$work" >"$work/block"
 printf -- "ROM=%s/roms/Jaguar/\r\nIMG=%s/capturas/Jaguar/\r\nPAR1=\r\nPAR2=\r\n'%s\r\n[EOF]\r\n" "$program" "$program" "$closing" >>"$work/block"
-cmp -s "$work/block" <(tail -c "$(stat -c %s "$work/block")" "$program/Zembro.emu") || complain "new: the emulator isn't configured"
-[ -d "$program/roms/Atari 2600" ] && [ -d "$program/roms/Jaguar" ] && [ -d "$program/capturas/Jaguar" ] || complain "new: no directories for the games"
-grep -q '^Configured Jaguar: BigPEmu, ' "$work/said" || complain "new: it doesn't say what it has configured"
+rm -rf "$work/My Programs"
+mkdir -p "$program/roms/Jaguar"
+echo mine >"$program/roms/Jaguar/Game.J64"
+run "with games"
+cat "$work/demo" "$work/block" | cmp -s - "$program/Zembro.emu" || complain "with games: the emulator isn't configured"
+[ -d "$program/capturas/Jaguar" ] || complain "with games: no directory for the captures"
+[ "$(cat "$program/roms/Jaguar/Game.J64")" = mine ] || complain "with games: the game has changed"
+grep -q '^Configured Jaguar: BigPEmu, ' "$work/said" || complain "with games: it doesn't say what it has configured"
+
+# Asked to find the rest: what is there stays, and it says what it added.
+find_rest() { "$(dirname "$assemble")/find.sh" "$build" "$program" "$@" >"$work/said" 2>"$work/errors" || complain "find $*: it fails: $(cat "$work/errors")"; }
+anew "to find in"
+before=$(state)
+find_rest
+[ "$(state)" = "$before" ] || complain "find: something has changed without a game"
+grep -q '^Nothing to add. Put games' "$work/said" || complain "find: it doesn't say that there is nothing"
+echo mine >"$program/roms/Jaguar/Game.J64"
+find_rest
+cat "$work/demo" "$work/block" | cmp -s - "$program/Zembro.emu" || complain "find: the emulator isn't configured"
+grep -q '^Configured Jaguar: BigPEmu, ' "$work/said" || complain "find: it doesn't say what it has configured"
+anew "to find all in"
+find_rest --all
+cat "$work/demo" "$work/block" | cmp -s - "$program/Zembro.emu" || complain "find --all: the emulator isn't configured"
+find_rest --all
+grep -q '^Nothing to add: every' "$work/said" || complain "find --all: it doesn't say that there is nothing more"
+! "$(dirname "$assemble")/../run.sh" --find --everything 2>/dev/null || complain "run.sh takes any word"
+
+# A clean start for what follows.
+anew again
 
 # Again: nothing changes.
 before=$(state)

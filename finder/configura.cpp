@@ -1,0 +1,220 @@
+#include "finder/configura.h"
+
+#include "finder/eleccion.h"
+#include "finder/incorporacion.h"
+#include "finder/juegos.h"
+#include "finder/preparacion.h"
+
+#include "core/ajustes.h"
+#include "core/catalogo.h"
+#include "core/lineas.h"
+#include "core/notas.h"
+
+#include "host/encoding.h"
+#include "host/failure.h"
+#include "host/numberedfiles.h"
+#include "host/paths.h"
+
+#include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace finder {
+
+namespace {
+
+const QString Borrador = u"Zembro.tmp"_s;
+
+QString textoDe(const QString &ruta)
+{
+    return host::decodeText(host::readBytes(ruta)).text;
+}
+
+// One run: what it has read, and what it makes of it.
+class Trabajo {
+public:
+    explicit Trabajo(const Encargo &encargo)
+        : m_encargo(encargo)
+        , m_fichas(LeeFichas(textoDe(encargo.tabla)))
+    {
+        LeeTablas(*m_base, textoDe(encargo.directorio + u"/Zembro.sye"_s));
+    }
+
+    // The text of the catalogue with what is chosen; the directories are there then.
+    QString CatalogoCon(const QString &texto);
+
+    void EscribeNotas();
+    void PonEnDescripciones();
+    void ConservaSeleccion();
+
+    Resultado resultado;
+
+private:
+    bool hayJuegos(const Hallazgo &hallazgo) const
+    {
+        return HayJuegos(hallazgo.emulador.rom, hallazgo.emulador.tipo.toInt(),
+            ExtensionesDe(*m_base, *m_antes, hallazgo.sistema));
+    }
+    void avisaDeDescarte(const Descarte &descarte);
+    Nota notaDe(const QString &sistema) const;
+
+    const Encargo &m_encargo;
+    const std::vector<Ficha> m_fichas;
+    const std::unique_ptr<core::Modulo> m_base = std::make_unique<core::Modulo>();
+    const std::unique_ptr<core::Modulo> m_antes = std::make_unique<core::Modulo>();
+    const std::unique_ptr<core::Modulo> m_despues = std::make_unique<core::Modulo>();
+    std::vector<Hallazgo> m_enLaMaquina; // configured or not
+};
+
+void leeCatalogo(core::Modulo &M, const QString &texto)
+{
+    try {
+        LeeTablas(M, texto);
+    } catch (const host::Failure &failure) {
+        throw host::Failure(failure.number(),
+            u"read the catalogue: it holds more than fits, or a line of an emulator ahead of the first system"_s);
+    }
+}
+
+QString Trabajo::CatalogoCon(const QString &texto)
+{
+    leeCatalogo(*m_antes, texto);
+    const Lugares lugares = LugaresDeLaMaquina();
+    const auto ninguno = std::make_unique<core::Modulo>();
+    m_enLaMaquina = Busca(*m_base, *ninguno, m_fichas, lugares, m_encargo.directorio);
+    const std::vector<Hallazgo> nuevos = Busca(*m_base, *m_antes, m_fichas, lugares, m_encargo.directorio);
+    const std::vector<Hallazgo> elegidos = m_encargo.todo
+        ? ConMAMEDetras(nuevos)
+        : Elige(nuevos, *m_antes, [this](const Hallazgo &hallazgo) { return hayJuegos(hallazgo); });
+
+    Incorporacion incorporacion = Incorpora(texto, *m_base, elegidos);
+    leeCatalogo(*m_despues, incorporacion.texto);
+    for (const Descarte &descarte : incorporacion.descartados)
+        avisaDeDescarte(descarte);
+    for (const Hallazgo &hallazgo : m_enLaMaquina)
+        PreparaJuegos(hallazgo);
+    for (const Hallazgo &hallazgo : incorporacion.puestos)
+        Prepara(hallazgo);
+    resultado.puestos = std::move(incorporacion.puestos);
+    return incorporacion.texto;
+}
+
+void Trabajo::avisaDeDescarte(const Descarte &descarte)
+{
+    static const QString motivos[] = {
+        u"the catalogue has no line that begins with [ behind its systems"_s,
+        u"the list is full"_s,
+        u"the catalogue has this system in other capitals"_s,
+        u"a path that it needs can't be kept in the catalogue"_s,
+        u"the last system of the catalogue has no emulator; remove it with its - button first"_s,
+        u"the catalogue has lines there that would pass to it"_s,
+    };
+    resultado.avisos += u"%1: %2 is left out: %3."_s.arg(descarte.hallazgo.sistema,
+        descarte.hallazgo.emulador.nombre, motivos[static_cast<int>(descarte.motivo)]);
+}
+
+// What the directory of a system's games says, by its emulators on this machine.
+Nota Trabajo::notaDe(const QString &sistema) const
+{
+    Nota nota { sistema, ExtensionesDe(*m_base, *m_despues, sistema), {}, false };
+    bool algunoAqui = false;
+    for (const Hallazgo &hallazgo : m_enLaMaquina) {
+        if (hallazgo.sistema != sistema)
+            continue;
+        const std::optional<QString> suyo = DirectorioDeJuegos(*m_despues, hallazgo.emulador.nombre);
+        nota.faltaConfigurar |= !suyo;
+        algunoAqui |= !suyo || *suyo == hallazgo.emulador.rom;
+        if (suyo && *suyo != hallazgo.emulador.rom)
+            nota.otroDirectorio = *suyo;
+    }
+    if (algunoAqui)
+        nota.otroDirectorio.clear();
+    return nota;
+}
+
+void Trabajo::EscribeNotas()
+{
+    QStringList vistos;
+    for (const Hallazgo &hallazgo : m_enLaMaquina) {
+        if (vistos.contains(hallazgo.sistema))
+            continue;
+        vistos += hallazgo.sistema;
+        const Nota nota = notaDe(hallazgo.sistema);
+        if (!nota.otroDirectorio.isEmpty() && hayJuegos(hallazgo))
+            resultado.avisos += u"%1: there are games in %2, but its emulator looks in %3."_s.arg(
+                hallazgo.sistema, hallazgo.emulador.rom, nota.otroDirectorio);
+        try {
+            EscribeNota(hallazgo.emulador.rom, nota);
+        } catch (const host::Failure &failure) {
+            resultado.avisos += QString::fromUtf8(failure.what());
+        }
+    }
+}
+
+// A system that Zembro.rom doesn't know would list no game.
+void Trabajo::PonEnDescripciones()
+{
+    const QString fichero = m_encargo.directorio + u"/Zembro.rom"_s;
+    const auto faltan = [this](const QString &texto) {
+        const std::vector<core::LineaConFin> lineas = core::EnLineas(texto);
+        QStringList sistemas;
+        for (const Hallazgo &hallazgo : resultado.puestos) {
+            const bool esta = std::any_of(lineas.begin(), lineas.end(),
+                [&hallazgo](const core::LineaConFin &linea) { return linea.linea == hallazgo.sistema; });
+            if (!esta && !sistemas.contains(hallazgo.sistema))
+                sistemas += hallazgo.sistema;
+        }
+        return sistemas;
+    };
+    if (!host::exists(fichero) || faltan(textoDe(fichero)).isEmpty())
+        return;
+    QStringList quedan;
+    host::NumberedFiles().rewrite(fichero, Borrador, [&](const QString &texto) {
+        QString completo = texto;
+        for (const QString &sistema : faltan(texto))
+            completo = core::ConSistemaNuevo(completo, sistema);
+        quedan = faltan(completo);
+        return completo;
+    });
+    for (const QString &sistema : std::as_const(quedan))
+        resultado.avisos += u"%1: its games aren't listed: Zembro.rom has no place for it."_s.arg(sistema);
+}
+
+void Trabajo::ConservaSeleccion()
+{
+    const QString fichero = m_encargo.directorio + u"/Zembro.cfg"_s;
+    const auto cambiado = [this](const QString &texto) {
+        return core::ConSeleccionEn(texto, *m_despues, *m_antes);
+    };
+    if (!host::exists(fichero))
+        return;
+    const QString texto = textoDe(fichero);
+    if (cambiado(texto) != texto)
+        host::NumberedFiles().rewrite(fichero, Borrador, cambiado);
+}
+
+} // namespace
+
+Resultado Configura(const Encargo &encargo)
+{
+    Trabajo trabajo(encargo);
+    const bool nuevo = !encargo.catalogo.isEmpty();
+    host::NumberedFiles().rewrite(nuevo ? encargo.catalogo : encargo.directorio + u"/Zembro.emu"_s, Borrador,
+        [&trabajo](const QString &texto) { return trabajo.CatalogoCon(texto); });
+    // The catalogue has them now: whatever else goes wrong is told beside what was done.
+    const auto intenta = [&trabajo](void (Trabajo::*paso)()) {
+        try {
+            (trabajo.*paso)();
+        } catch (const host::Failure &failure) {
+            trabajo.resultado.avisos += QString::fromUtf8(failure.what());
+        }
+    };
+    if (!nuevo)
+        intenta(&Trabajo::ConservaSeleccion);
+    intenta(&Trabajo::PonEnDescripciones);
+    intenta(&Trabajo::EscribeNotas);
+    return std::move(trabajo.resultado);
+}
+
+} // namespace finder

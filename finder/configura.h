@@ -1,0 +1,25 @@
+// Configures emulators that were found: the catalogue, what they need on the disk, and the last selection.
+#pragma once
+
+#include "finder/hallazgos.h"
+
+namespace finder {
+
+struct Encargo {
+    QString tabla;
+    QString directorio; // of the program
+    QString catalogo; // a new one, which isn't in its place yet; empty for the one in the directory
+    bool todo = false; // also systems without games, and every machine of MAME
+};
+
+struct Resultado {
+    std::vector<Hallazgo> puestos;
+    QStringList avisos; // what wasn't done, in English, one line each
+};
+
+// Adds to the catalogue, keeps what is there, and makes a directory of games for every system that the
+// machine has an emulator of. With the catalogue in its place, what stood selected is selected still. Fails
+// with the catalogue as it was if that can't be read or written, or a directory can't be made.
+Resultado Configura(const Encargo &encargo);
+
+} // namespace finder
