@@ -2,6 +2,7 @@
 
 #include "core/arranque.h"
 #include "core/modulo.h"
+#include "core/tamano.h"
 
 #include "forms/application.h"
 #include "forms/guard.h"
@@ -20,8 +21,24 @@
 #include "options/primerainstalacion.h"
 
 #include <cstdio>
+#include <optional>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// The toolkit takes it before its first window, from the environment. What the user set there stands.
+std::optional<double> factorDelArranque()
+{
+    if (!qEnvironmentVariableIsEmpty("QT_SCALE_FACTOR"))
+        return std::nullopt;
+    if (const std::optional<double> guardado = core::FactorGuardado())
+        return guardado;
+    const double dePantalla = core::FactorDePantalla(host::linesWithoutScale());
+    return dePantalla > 1 ? std::optional(dePantalla) : std::nullopt;
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -30,6 +47,8 @@ int main(int argc, char **argv)
         std::fputs("Zembrolix: there is no display to show the screen on.\n", stderr);
         return 1;
     }
+    if (const std::optional<double> factor = factorDelArranque())
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(*factor));
     host::DesktopQuestions preguntas;
     host::setQuestions(&preguntas);
     forms::Application aplicacion(argc, argv);

@@ -74,6 +74,9 @@ struct Palabras {
     QString Zem_Edit2 = QStringLiteral("Abrir en el editor del terminal");
     QString Zem_BlocNotas2 = QStringLiteral("Abrir en el editor");
 
+    // The size that was picked; %1 is a number of hundredths.
+    QString Zem_Tamano = QStringLiteral("Tamaño: %1 %, al volver a abrir el programa.");
+
     // Names of keys, as they stand on the keyboard.
     QString Zem_Ctrl = QStringLiteral("Ctrl");
     QString Zem_Mayus = QStringLiteral("Mayús");

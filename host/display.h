@@ -7,4 +7,8 @@ namespace host {
 // user has chosen another platform of the toolkit. Without one the toolkit would abort.
 bool hasDisplay();
 
+// The lines of the main monitor where nothing says how large things are to be drawn: neither the toolkit's
+// variables, nor the X resource Xft.dpi, nor the compositor of a Wayland desktop. Else 0.
+int linesWithoutScale();
+
 } // namespace host

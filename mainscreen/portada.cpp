@@ -30,6 +30,7 @@ Portada::Portada(core::Modulo &modulo)
     ConectaSuperficie();
     ConectaTeclado();
     ConectaLectores();
+    ConectaTamano();
 }
 
 Portada::~Portada()

@@ -128,6 +128,7 @@ private:
     void ConectaSuperficie();
     void ConectaTeclado();
     void ConectaLectores();
+    void ConectaTamano();
 
     // Start and exit.
     void LeeConfiguracion();
@@ -237,6 +238,9 @@ private:
     core::Modulo &M;
     dialogs::CajaDeMensajes m_mensajes;
     int m_recuento = 0; // entries that the running Llena_Lista has looked at
+    void PideTamano(bool mayor); // of the next start
+    double m_tamanoPedido = 0; // as a factor; 0: none since the start
+    int m_ruedaDelTitulo = 0; // what it was turned, in eighths of a degree, short of a step
     std::vector<QShortcut *> m_teclasDelTelevisor; // and of the links
     int ElementoBajoRaton = 0; // the entry of Lista1 last found under the pointer
 };

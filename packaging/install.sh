@@ -4,7 +4,7 @@ set -euo pipefail
 
 declare -A packages=(
     [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libarchive-dev libxcb1-dev
-             libxcb-ewmh-dev libgraphicsmagick++1-dev dasm"
+             libxcb-ewmh-dev libxcb-randr0-dev libgraphicsmagick++1-dev dasm"
     [play]="stella fonts-liberation qt6-wayland"
     [screen]="xvfb openbox xdotool x11-utils imagemagick"
     [test]="libgtest-dev libgmock-dev zip dbus at-spi2-core python3-gi gir1.2-atspi-2.0 weston qt6-wayland"

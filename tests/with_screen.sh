@@ -1,6 +1,6 @@
 #!/bin/bash
 # Runs one command under an X server and a window manager of its own, and passes its exit status on. With ONE_PROCESSOR
-# in the environment all of them share one.
+# in the environment all of them share one; SCREEN_SIZE makes it another screen than 1280x1024x24.
 # Server, manager and command are bound to the life of this script, so that nothing is left when it is interrupted.
 set -u
 
@@ -18,7 +18,7 @@ fi
 bound() { exec setpriv --pdeathsig "$@"; }
 
 # The server picks a free display and tells its number.
-exec {display_number}< <(bound TERM Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -noreset 2>/dev/null)
+exec {display_number}< <(bound TERM Xvfb -displayfd 1 -screen 0 "${SCREEN_SIZE:-1280x1024x24}" -nolisten tcp -noreset 2>/dev/null)
 server=$!
 end_screen() {
     kill $manager "$server" 2>/dev/null

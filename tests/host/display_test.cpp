@@ -3,12 +3,15 @@
 
 #include "disktest.h"
 
+#include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <map>
 
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
+#include <xcb/xcb.h>
 
 namespace {
 
@@ -17,7 +20,9 @@ class Display : public DiskTest {
 protected:
     Display()
     {
-        for (const char *name : { "QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR", "DISPLAY" }) {
+        for (const char *name : { "QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR", "DISPLAY",
+                 "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI", "QT_USE_PHYSICAL_DPI",
+                 "QT_ENABLE_HIGHDPI_SCALING" }) {
             m_kept[name] = qgetenv(name);
             qunsetenv(name);
         }
@@ -125,6 +130,65 @@ TEST_F(Display, IsNotLookedForElsewhere_WhereNoRuntimeDirectoryIsNamed)
     EXPECT_FALSE(host::hasDisplay());
     qputenv("WAYLAND_DISPLAY", place("wayland-0").sliced(1));
     EXPECT_FALSE(host::hasDisplay());
+}
+
+class Lines : public Display {
+protected:
+    Lines() { qputenv("DISPLAY", ownScreen()); }
+    ~Lines() override { setResources({}); }
+
+    // Those of the whole screen, as a desktop puts them there.
+    void setResources(const QByteArray &resources) const
+    {
+        xcb_connection_t *connection = xcb_connect(ownScreen().constData(), nullptr);
+        const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, root, XCB_ATOM_RESOURCE_MANAGER,
+            XCB_ATOM_STRING, 8, std::uint32_t(resources.size()), resources.constData());
+        // The server has it once it answers what was asked behind it.
+        std::free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+        xcb_disconnect(connection);
+    }
+};
+
+TEST_F(Lines, AreThoseOfTheScreen)
+{
+    const std::ptrdiff_t before = openFiles();
+    EXPECT_EQ(host::linesWithoutScale(), 1024);
+    EXPECT_EQ(openFiles(), before);
+    setResources("Xcursor.size:\t24\nXft.dpi:\t96\n");
+    EXPECT_EQ(host::linesWithoutScale(), 1024);
+}
+
+TEST_F(Lines, AreNone_WhereTheDesktopDrawsEverythingLarger)
+{
+    setResources("Xcursor.size:\t48\nXft.dpi:\t192\n");
+    EXPECT_EQ(host::linesWithoutScale(), 0);
+    setResources("Xft.dpi: 120");
+    EXPECT_EQ(host::linesWithoutScale(), 0);
+}
+
+TEST_F(Lines, AreNone_WhereTheUserHasSaidHowLarge)
+{
+    for (const char *name : { "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI",
+             "QT_USE_PHYSICAL_DPI", "QT_ENABLE_HIGHDPI_SCALING" }) {
+        qputenv(name, "1");
+        EXPECT_EQ(host::linesWithoutScale(), 0) << name;
+        qunsetenv(name);
+    }
+}
+
+TEST_F(Lines, AreNone_OnAnotherDesktopThanX)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    EXPECT_EQ(host::linesWithoutScale(), 0);
+    qputenv("QT_QPA_PLATFORM", "");
+    makeSocket("wayland-0");
+    qputenv("WAYLAND_DISPLAY", place("wayland-0"));
+    EXPECT_EQ(host::linesWithoutScale(), 0);
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    EXPECT_EQ(host::linesWithoutScale(), 1024);
+    qputenv("DISPLAY", ":64999");
+    EXPECT_EQ(host::linesWithoutScale(), 0);
 }
 
 } // namespace

@@ -83,10 +83,10 @@ void moveTo(QWidget &widget, QPoint point)
     QTest::mouseMove(windowOf(widget), inWindow(widget, point));
 }
 
-void turnWheel(QWidget &widget, QPoint point)
+void turnWheel(QWidget &widget, QPoint point, int eighths, Qt::KeyboardModifiers modifiers)
 {
     const QPoint place = inWindow(widget, point);
-    QWheelEvent turn(place, widget.mapToGlobal(point), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+    QWheelEvent turn(place, widget.mapToGlobal(point), {}, QPoint(0, eighths), Qt::NoButton, modifiers,
         Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(windowOf(widget), &turn);
 }

@@ -18,7 +18,8 @@ void click(QWidget &widget, Qt::MouseButton button = Qt::LeftButton);
 void doubleClick(QWidget &widget);
 void clickAt(QWidget &widget, QPoint point, Qt::MouseButton button = Qt::LeftButton);
 void moveTo(QWidget &widget, QPoint point);
-void turnWheel(QWidget &widget, QPoint point); // one notch towards the user
+// One notch towards the user, or so many eighths of a degree; away from him where they are positive.
+void turnWheel(QWidget &widget, QPoint point, int eighths = -120, Qt::KeyboardModifiers modifiers = {});
 
 // A key goes to the control that has the focus in the widget's window.
 void strike(QWidget &widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

@@ -1,0 +1,63 @@
+// How large the screen is: picked by keys, or by the wheel on the title, for the next start. The toolkit
+// can't change it while a window stands. Controls: Titulo1. State: none of the settings; Zembro.tam.
+
+#include "mainscreen/portada.h"
+
+#include "core/arranque.h"
+#include "core/tamano.h"
+
+#include "forms/plaintext.h"
+
+#include <QShortcut>
+#include <QToolTip>
+
+#include <cmath>
+#include <cstdlib>
+#include <utility>
+
+namespace mainscreen {
+
+namespace {
+
+// What the desktop multiplies by, without the part that this program has in it.
+double delEscritorio(double factor)
+{
+    bool esNumero = false;
+    const double propio = qgetenv("QT_SCALE_FACTOR").toDouble(&esNumero);
+    return esNumero && propio > 0 ? factor / propio : factor;
+}
+
+} // namespace
+
+void Portada::ConectaTamano()
+{
+    for (const auto &[tecla, mayor] : { std::pair(Qt::Key_Plus, true), { Qt::Key_Minus, false } })
+        connect(new QShortcut(Qt::CTRL | tecla, this), &QShortcut::activated, this,
+            [this, mayor = mayor] { PideTamano(mayor); });
+    Titulo1->Wheel = [this](const QWheelEvent &rueda) {
+        if (!rueda.modifiers().testFlag(Qt::ControlModifier))
+            return;
+        m_ruedaDelTitulo += rueda.angleDelta().y();
+        const int pasos = m_ruedaDelTitulo / QWheelEvent::DefaultDeltasPerStep;
+        m_ruedaDelTitulo %= QWheelEvent::DefaultDeltasPerStep;
+        for (int paso = 0; paso < std::abs(pasos); ++paso)
+            PideTamano(pasos > 0);
+    };
+}
+
+void Portada::PideTamano(bool mayor)
+{
+    const double actual = devicePixelRatioF();
+    m_tamanoPedido = core::OtroTamano(m_tamanoPedido > 0 ? m_tamanoPedido : actual, mayor);
+    try {
+        core::GuardaFactor(m_tamanoPedido / delEscritorio(actual));
+    } catch (const host::Failure &fallo) {
+        Aviso(M.Palabras.Zem_NoParam0, core::TextoDeFallo(fallo, false));
+        return;
+    }
+    QString aviso = M.Palabras.Zem_Tamano;
+    aviso.replace(QStringLiteral("%1"), QString::number(std::lround(m_tamanoPedido * 100)));
+    QToolTip::showText(Titulo1->mapToGlobal(QPoint(0, Titulo1->height())), forms::asTip(aviso), Titulo1);
+}
+
+} // namespace mainscreen

@@ -1,0 +1,60 @@
+#!/bin/bash
+# How large the program stands on a high screen, by itself and as its user says: size_test.sh BUILD.
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+if [ "${1:-}" != --inside ]; then
+    SCREEN_SIZE=3840x2160x24 exec "$here/../with_screen.sh" "$0" --inside "$@"
+fi
+build=$2
+work=$(mktemp -d)
+program=
+trap '[ -z "$program" ] || kill $program 2>/dev/null; rm -rf "$work"' EXIT
+fail() { echo "size_test: $*" >&2; exit 1; }
+export HOME=$work QT_QPA_PLATFORM=xcb
+unset QT_SCALE_FACTOR
+
+"$here/../../packaging/assemble.sh" "$build" "$work/program" >/dev/null
+# Settings as they stand behind the first run.
+printf '%s\r\n' \' \' \' \' \' \' \' \' \' '' '[General]' 'LastSisUsed = 0' 'LastEmuUsed = 0' 'SaveLastEmu&Sis = 1' \
+    'TypeOfEditor = 1' 'MsgEndDOS = Finalizado' 'LanguageFile = ZB-ESP.LNG' 'DebugMode = 0' '' '[Filters]' CFG ROMS '' '[EOF]' \
+    >"$work/program/Zembro.cfg"
+
+start() {
+    "$work/program/Zembrolix" 2>/dev/null &
+    program=$!
+    window=$(timeout 60 xdotool search --sync --onlyvisible --pid $program --name '^Zembrolix v2' | head -1)
+}
+stand() { # width that is expected, and why
+    local width
+    for _ in $(seq 100); do
+        eval "$(xdotool getwindowgeometry --shell "$window")"
+        width=$WIDTH
+        [ "$width" = "$1" ] && return
+        sleep 0.05
+    done
+    fail "$2: $width wide, $1 expected"
+}
+leave() {
+    kill $program
+    wait $program 2>/dev/null || true
+    program=
+}
+
+start
+stand 822 "a high screen"
+xdotool windowfocus --sync "$window"
+xdotool key --clearmodifiers ctrl+plus
+for _ in $(seq 100); do [ -e "$work/program/Zembro.tam" ] && break; sleep 0.05; done
+[ "$(tr -d '\r' <"$work/program/Zembro.tam")" = "Size = 2.25" ] || fail "what was picked: $(cat "$work/program/Zembro.tam")"
+leave
+start
+stand 925 "what was picked"
+leave
+QT_SCALE_FACTOR=1 start
+stand 411 "what the environment says"
+leave
+rm "$work/program/Zembro.tam"
+xprop -root -f RESOURCE_MANAGER 8s -set RESOURCE_MANAGER $'Xft.dpi:\t144\n'
+start
+stand 617 "the desktop's own factor"
+leave
