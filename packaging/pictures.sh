@@ -30,9 +30,9 @@ Los juegos de la demostración
 Son tres, para Atari 2600. Los cursores son la palanca,
 la barra espaciadora es el botón, y F2 empieza de nuevo.
 
-Setos en flor: un jardinero entre los setos recoge las
-flores de cada jardín. Las abejas vuelan por encima; con
-el botón corre.
+Hedgerow: un jardinero entre los setos recoge las flores
+de cada jardín. Las abejas vuelan por encima; con el botón
+corre.
 
 Prisma: barras de luz que giran, y una mariposa que vuela
 con la palanca, o sola si nadie la toca. El botón cambia

@@ -1,4 +1,5 @@
-// The two documents of the program, shown by a text editor, and their translations.
+// The two documents of the program, shown by a text editor: each in Spanish, and in English behind a line
+// that says so.
 #include "languages.h"
 #include "sources.h"
 
@@ -24,6 +25,7 @@ namespace {
 struct Document {
     const char *name;
     QString file; // from the directory of the data
+    bool english;
     QString language; // whose words it quotes
 };
 
@@ -33,10 +35,10 @@ void PrintTo(const Document &document, std::ostream *out)
 }
 
 const Document Documents[] = {
-    { "Manual", u"Zembro.txt"_s, u"LNG/ZB-ESP.LNG"_s },
-    { "Questions", u"Zembro.faq"_s, u"LNG/ZB-ESP.LNG"_s },
-    { "EnglishManual", u"../docs/Zembro.en.txt"_s, u"LNG/ZB-ENG.LNG"_s },
-    { "EnglishQuestions", u"../docs/Zembro.en.faq"_s, u"LNG/ZB-ENG.LNG"_s },
+    { "Manual", u"Zembro.txt"_s, false, u"LNG/ZB-ESP.LNG"_s },
+    { "Questions", u"Zembro.faq"_s, false, u"LNG/ZB-ESP.LNG"_s },
+    { "EnglishManual", u"Zembro.txt"_s, true, u"LNG/ZB-ENG.LNG"_s },
+    { "EnglishQuestions", u"Zembro.faq"_s, true, u"LNG/ZB-ENG.LNG"_s },
 };
 
 // Quoted, but no words of a screen.
@@ -44,9 +46,19 @@ const QStringList OtherQuotes { u"-"_s, u"*."_s, u"+"_s, u"_"_s, u"="_s, u"P"_s,
     u"*.ZIP"_s, u"pcx"_s, u"$@"_s, u"El castillo"_s, u"The castle"_s, u"Finalizado - STELLA"_s,
     u"Finalizado - stella"_s, u"Cannot find any of these files"_s };
 
+// The lines of one language.
+QStringList linesOf(const Document &document)
+{
+    static const QRegularExpression border(u"^=+ IN ENGLISH =+$"_s);
+    const QStringList lines = sources::lines(document.file);
+    EXPECT_EQ(lines.filter(border).size(), 1);
+    const qsizetype place = lines.indexOf(border);
+    return document.english ? lines.sliced(place + 1) : lines.first(place);
+}
+
 QString wordsOf(const Document &document)
 {
-    return sources::lines(document.file).join(u' ').simplified();
+    return linesOf(document).join(u' ').simplified();
 }
 
 // What the screens say in the language of the document.
@@ -93,7 +105,7 @@ TEST_P(DocumentTest, IsReadBackAsItWasAfterDelivery)
 
 TEST_P(DocumentTest, FitsAWindowOfEightyColumns)
 {
-    for (const QString &line : sources::lines(GetParam().file)) {
+    for (const QString &line : linesOf(GetParam())) {
         EXPECT_LE(line.size(), 76) << line.toStdString();
         EXPECT_FALSE(line.endsWith(u' ') || line.contains(u'\t')) << line.toStdString();
     }
@@ -103,6 +115,13 @@ TEST_P(DocumentTest, FitsAWindowOfEightyColumns)
 TEST_P(DocumentTest, FitsTheViewerWhole)
 {
     EXPECT_LE(sources::delivered(GetParam().file).size(), core::LargoDeDocumento);
+}
+
+// Who opens it finds the Spanish text first.
+TEST_P(DocumentTest, SaysAtItsBeginningWhereTheEnglishTextIs)
+{
+    const QStringList lines = sources::lines(GetParam().file);
+    EXPECT_TRUE(lines.first(3).join(u' ').contains(u"behind the line IN ENGLISH"_s));
 }
 
 TEST_P(DocumentTest, QuotesTheScreensAsTheySpeak)
@@ -149,15 +168,16 @@ TEST(Documents, SpeakOfTheSameThingsInBothLanguages)
         EXPECT_EQ(things[0], things[1]);
         EXPECT_FALSE(things[0].isEmpty());
     }
-    EXPECT_EQ(sources::lines(u"Zembro.faq"_s).filter(QRegularExpression(u"^$"_s)).size(),
-        sources::lines(u"../docs/Zembro.en.faq"_s).filter(QRegularExpression(u"^$"_s)).size());
+    static const QRegularExpression empty(u"^$"_s);
+    // The Spanish text has a line on the English one besides.
+    EXPECT_EQ(linesOf(Documents[1]).filter(empty).size(), linesOf(Documents[3]).filter(empty).size() + 1);
 }
 
 TEST_P(ManualTest, TellsEveryKeyOfTheMainScreenAndNoOther)
 {
-    const bool spanish = GetParam().language.contains(u"ESP"_s);
+    const bool spanish = !GetParam().english;
     QStringList told;
-    for (const QString &line : sources::lines(GetParam().file)) {
+    for (const QString &line : linesOf(GetParam())) {
         static const QRegularExpression row(u"^ {4}((?:F\\d|Ctrl).*?)(?: {2,}|$)"_s);
         if (const auto match = row.match(line); match.hasMatch())
             told += keysOfCell(match.captured(1), spanish ? u"a"_s : u"to"_s);
@@ -181,7 +201,7 @@ TEST_P(ManualTest, TellsEveryKeyOfTheMainScreenAndNoOther)
 TEST_P(ManualTest, TellsTheLimitsAsTheyAre)
 {
     QStringList limits;
-    for (const QString &line : sources::lines(GetParam().file)) {
+    for (const QString &line : linesOf(GetParam())) {
         static const QRegularExpression row(u"^ {4}(\\d+) {3,}"_s);
         if (const auto match = row.match(line); match.hasMatch())
             limits += match.captured(1);
@@ -196,7 +216,7 @@ TEST_P(ManualTest, TellsTheLimitsAsTheyAre)
 
 TEST_P(ManualTest, NamesEveryFileThatTheStartAsksFor)
 {
-    const QStringList lines = sources::lines(GetParam().file);
+    const QStringList lines = linesOf(GetParam());
     for (const QString &file : { u"Zembro.sye"_s, u"Zembro.emu"_s, u"Zembro.rom"_s, u"Zembro.cfg"_s,
              u"Zembro.txt"_s, u"Zembro.faq"_s, u"Cvtgif15.exe"_s, u"LNG"_s })
         EXPECT_THAT(lines, Contains(testing::Truly([&](const QString &line) {
