@@ -1,7 +1,6 @@
 #!/bin/bash
-# Pictures of the main screen and of the first run, for docs/pictures: pictures.sh DIRECTORY-OF-THE-PROGRAM PICTURES.
-# Needs a display of its own (tests/with_screen.sh) and the demonstration's emulator; builds nothing, and works on a
-# copy of the program.
+# Pictures of all screens, for docs/pictures: pictures.sh DIRECTORY-OF-THE-PROGRAM PICTURES. Needs a display of its own
+# (tests/with_screen.sh) and the demonstration's emulator; builds nothing, and works on a copy of the program.
 set -euo pipefail
 
 pictures=$2
@@ -79,6 +78,27 @@ click() { # x, y, button
     sleep 0.4
 }
 aside() { to 205 70; }
+# Waits for the window that a key or a click brings up, which is the one of the clicks and pictures that follow.
+opened() {
+    local id
+    for _ in $(seq 100); do
+        id=$(xdotool getactivewindow 2>/dev/null) || true
+        [ -n "$id" ] && [ "$id" != "$screen" ] && { screen=$id; sleep 0.7; return; }
+        sleep 0.1
+    done
+    fail "no window comes up"
+}
+# Closes it, for the one below.
+closed() {
+    xdotool key alt+F4
+    opened
+}
+fill() { # x, y of the box, text
+    click "$1" "$2"
+    xdotool key ctrl+a
+    xdotool type -- "$3"
+    xdotool key Home
+}
 choose() { # y of the list of choice, what its entry begins with
     click 90 "$1"
     xdotool type "$2"
@@ -86,9 +106,12 @@ choose() { # y of the list of choice, what its entry begins with
     sleep 0.6
 }
 picture() { # name, window
-    eval "$(xdotool getwindowgeometry --shell "${2:-$screen}")"
+    local place
+    # Where it is under its frame, which xdotool counts twice.
+    place=$(xwininfo -id "${2:-$screen}" | awk '/Absolute upper-left X/ { x = $NF } /Absolute upper-left Y/ { y = $NF }
+        /Width:/ { width = $NF } /Height:/ { print width "x" $NF "+" x "+" y }')
     sleep 0.3
-    import -window root -crop "${WIDTH}x${HEIGHT}+${X}+${Y}" +repage "$work/picture.png"
+    import -window root -crop "$place" +repage "$work/picture.png"
     [ "$(identify -format %k "$work/picture.png")" -gt 2 ] || fail "$1 shows nothing"
     convert "$work/picture.png" -strip -define png:compression-level=9 "$pictures/$1.png"
     echo "pictures: $pictures/$1.png"
@@ -183,6 +206,56 @@ editors() {
         end
     done
 }
+configuring() {
+    begin 2 1
+    mainscreen
+    xdotool key F5
+    opened
+    click 40 78 # the list of systems
+    xdotool type arcade
+    click 150 78
+    xdotool type mame
+    picture configuration-1
+    click 27 277
+    opened
+    fill 60 97 /usr/games/mame
+    click 200 98
+    opened
+    picture browser
+    closed
+    fill 60 97 /home/ana/Zembrolix/arranque
+    fill 60 143 /home/ana/Zembrolix/roms/Arcade/
+    fill 60 190 /home/ana/Zembrolix/capturas/Arcade/
+    fill 70 233 '-rompath roms'
+    click 224 335 # all games compressed in one directory, and the emulator opens those
+    click 224 360
+    aside
+    picture configuration-2
+    closed
+    closed
+    end
+}
+options() {
+    begin 2 1
+    mainscreen
+    xdotool key F6
+    opened
+    picture options
+    click 88 232
+    opened
+    picture advanced-options
+    closed
+    closed
+    xdotool key F7
+    opened
+    picture utilities
+    closed
+    xdotool key F8
+    opened
+    picture about
+    closed
+    end
+}
 
 first_run
 sizes
@@ -190,3 +263,5 @@ states
 button_down
 tip
 editors
+configuring
+options
