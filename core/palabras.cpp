@@ -18,6 +18,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zem_NoNota1", &P::Zem_NoNota1 },
         { u"Zem_NoParam0", &P::Zem_NoParam0 },
         { u"Zem_NoParam1", &P::Zem_NoParam1 },
+        { u"Zem_PideNota", &P::Zem_PideNota },
         { u"Zem_NoNombre0", &P::Zem_NoNombre0 },
         { u"Zem_NoNombre1", &P::Zem_NoNombre1 },
         { u"Zem_Cambiado0", &P::Zem_Cambiado0 },

@@ -20,6 +20,8 @@ struct Palabras {
     QString Zem_NoNota1 = QStringLiteral("Este nombre de archivo no se puede anotar.");
     QString Zem_NoParam0 = QStringLiteral("Sin grabar");
     QString Zem_NoParam1 = QStringLiteral("Sin comas, y sin comillas al principio.");
+    // In the place of the box's words where what is typed would not be found.
+    QString Zem_PideNota = QStringLiteral("Sin efecto mientras la ROM no tenga descripción:");
     QString Zem_NoCampo0 = QStringLiteral("Sin anotar");
     QString Zem_NoCampo1 = QStringLiteral("El nombre de sistema o emulador no se puede anotar.");
 

@@ -35,6 +35,11 @@ QString ClaveDeParametros(const Modulo &M, const QString &entrada)
     return nota < 0 ? entrada : M.Nota_Clave(nota);
 }
 
+bool SeEncuentranSusParametros(const Modulo &M, const QString &entrada)
+{
+    return NotaConTexto(M, entrada) >= 0 || (!entrada.contains(u' ') && entrada.count(u'.') <= 1);
+}
+
 QString ParametrosEscritos(
     host::TextSource &fuente, const QString &clave, const QString &sistema, const QString &emulador)
 {

@@ -21,6 +21,10 @@ QString ClaveNueva(int tipo, const QString &entrada);
 // The key under which parameters are kept: that of the first note with this text, or the entry itself.
 QString ClaveDeParametros(const Modulo &M, const QString &entrada);
 
+// Whether the launch finds parameters that are kept under that key: it looks for a game without a description
+// by its name in short form, which a name with blanks or several points isn't.
+bool SeEncuentranSusParametros(const Modulo &M, const QString &entrada);
+
 // The parameters of the first record with this key, system and emulator, case apart; empty if there is none.
 // Fails with 62 where the section or its closing record is missing.
 QString ParametrosEscritos(

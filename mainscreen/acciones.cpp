@@ -136,7 +136,9 @@ void Portada::Menu_Parametros_Click()
 {
     const QString clave = core::ClaveDeParametros(M, Lista1->Text());
     const QString actuales = LeeParametros(clave);
-    Mensaje(1, M.Msg_Parametros1, M.Msg_Parametros0, M.TXT_Aceptar, M.TXT_Volver, actuales);
+    const bool valen = core::SeEncuentranSusParametros(M, Lista1->Text());
+    Mensaje(1, valen ? M.Msg_Parametros1 : M.Palabras.Zem_PideNota, M.Msg_Parametros0, M.TXT_Aceptar,
+        M.TXT_Volver, actuales);
     if (M.Respuesta_Caja == actuales || M.Respuesta_Opcion == 1)
         return;
     const core::Parametros nuevos { clave, Combo1->Text(), Combo2->Text(), M.Respuesta_Caja };

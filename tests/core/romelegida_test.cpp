@@ -33,6 +33,15 @@ QString Escritos(const QString &clave, const QString &sistema, const QString &em
 
 } // namespace
 
+TEST_F(RomElegida, ParametersAreFound_ByANoteOrANameThatIsItsOwnShortForm)
+{
+    for (const QString &entrada : { u"Tennis for two"_s, u"Twins"_s, u"pong.nes"_s, u"PONG"_s, u""_s })
+        EXPECT_TRUE(core::SeEncuentranSusParametros(M, entrada)) << entrada.toStdString();
+    for (const QString &entrada :
+        { u"my pong.nes"_s, u"pong v1.1.nes"_s, u"pong.1.nes"_s, u"Behind the end"_s })
+        EXPECT_FALSE(core::SeEncuentranSusParametros(M, entrada)) << entrada.toStdString();
+}
+
 TEST_F(RomElegida, FileIsTheKeyOfTheFirstNoteWithItsTextInUpperCase)
 {
     EXPECT_EQ(core::FicheroDeEntrada(M, 0, u"Tennis for two"_s), u"PONG"_s);

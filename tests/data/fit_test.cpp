@@ -50,6 +50,7 @@ const QStringList LabelsOfPortada { u"TXT_Describir"_s, u"TXT_Borrar"_s, u"TXT_V
 // Messages by the type of their box, without the final digit: 0 is the caption, 1 the text.
 const QStringList Inputs { u"Msg_AñadirEmu"_s, u"Msg_AñadirSis"_s, u"Msg_NuevaWWW"_s, u"Msg_NuevaWWWROMS"_s,
     u"Msg_Parametros"_s, u"Msg_EXT"_s, u"Msg_Descripcion"_s };
+const QString AskForNote = u"Zem_PideNota"_s; // in the place of the words for parameters
 const QStringList Questions { u"Msg_BorrarEmu"_s, u"Msg_BorrarSis"_s };
 const QStringList Warnings { u"Msg_EmuYaAñadido"_s, u"Msg_SisYaAñadido"_s, u"Msg_NoEXE"_s, u"Msg_NoDIR"_s,
     u"Msg_Casillas"_s, u"Msg_NingunaROM"_s, u"Msg_SinCambios"_s, u"Msg_NingunPCX"_s, u"Msg_NoEmuLD"_s,
@@ -74,8 +75,8 @@ const QStringList Unbound { u"Menu_Describir"_s, u"Menu_Borrar"_s, u"Menu_Parame
     u"Zem_Titulo1"_s, u"Zem_Graf_TV"_s, u"Zem_Captura"_s, u"Zem_OFF"_s, u"Zem_WEB1"_s, u"Zem_WEB2"_s,
     u"Zem_Mas1"_s, u"Zem_Boton_Mas2"_s, u"Zem_Boton_E"_s, u"Zem_Casilla4"_s, u"Zem_Casilla5"_s,
     u"Zem_Discos"_s, u"Zem_Directorios"_s, u"Zem_Archivos"_s, u"Zem_D1"_s, u"Zem_E1"_s, u"Zem_Flecha2"_s,
-    u"Zem_Editor"_s, u"Zem_FlechaE2"_s, u"Zem_Edit2"_s, u"Zem_BlocNotas2"_s, u"Zem_Tamano"_s, u"Zem_Ctrl"_s, u"Zem_Mayus"_s,
-    u"Zem_Espacio"_s, u"Zem_Logotipo"_s };
+    u"Zem_Editor"_s, u"Zem_FlechaE2"_s, u"Zem_Edit2"_s, u"Zem_BlocNotas2"_s, u"Zem_Tamano"_s, u"Zem_Ctrl"_s,
+    u"Zem_Mayus"_s, u"Zem_Espacio"_s, u"Zem_Logotipo"_s };
 
 class TextsOfLanguage : public ScreenTest, public testing::WithParamInterface<Language> {
 protected:
@@ -219,7 +220,7 @@ TEST(FitOfTexts, IsMeasuredForEveryKey)
 {
     QStringList measured = LabelsOfPortada + Unbound + JoinedInNotices + MissingTools
         + keysOf(Inputs + Questions + Warnings + Notices)
-        + QStringList { u"TXT_Cargando"_s, u"TXT_Directorios"_s, MissingTool };
+        + QStringList { u"TXT_Cargando"_s, u"TXT_Directorios"_s, MissingTool, AskForNote };
     for (const Shown &shown : ShownByPortada)
         measured += shown.key;
     measured += keysShownBy<ConfigScreens>() + keysShownBy<OptionScreens>();
@@ -293,6 +294,11 @@ TEST_P(TextsOfCaja, ShowWholeInWarningsOfMissingTools)
 TEST_P(TextsOfCaja, ShowWholeInNotices)
 {
     expectMessages(Box::Notice, Notices);
+}
+
+TEST_P(TextsOfCaja, ShowWholeWhereParametersWouldNotBeFound)
+{
+    expectShown(Box::Input, text(u"Msg_Parametros0"_s), text(AskForNote));
 }
 
 TEST_P(TextsOfCaja, ShowWholeInQuestionsWithTheLongestNameOfTheDatabase)

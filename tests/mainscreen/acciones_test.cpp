@@ -406,6 +406,27 @@ TEST_F(AccionesTest, ParametersOfAROMWithoutANoteHaveItsNameAsKey)
         u"-x"_s, [&] { parametersMenu(); }, u"-x"_s);
 }
 
+TEST_F(AccionesTest, ItIsSaidWhereParametersWouldNotBeFound)
+{
+    files.write(u"zeta/two games.nes"_s, "x");
+    startAt(Zeta, 0);
+    addWords();
+    const auto words = [this](const QString &entry) {
+        list().SetText(entry);
+        EXPECT_EQ(list().Text(), entry);
+        QString shown;
+        atModal(u"Caja"_s, [&shown](forms::Form &form) {
+            shown = controlOf<forms::Label>(form, u"Texto1"_s).Caption();
+            click(controlOf<QWidget>(form, u"Flecha2"_s));
+        });
+        portada->Menu_Parametros->Click.raise();
+        return shown;
+    };
+    EXPECT_EQ(words(u"two games.nes"_s), M->Palabras.Zem_PideNota);
+    EXPECT_EQ(words(u"two.nes"_s), u"Añade:"_s);
+    EXPECT_EQ(words(u"Juego uno"_s), u"Añade:"_s);
+}
+
 TEST_F(AccionesTest, ParametersOfAllEmulatorsBecomeTheNewRecord)
 {
     QByteArray text = notes();
