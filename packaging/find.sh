@@ -10,7 +10,8 @@ if [ -n "$found" ]; then
     while read -r line; do
         echo "Configured $line"
     done <<<"$found"
-    echo "A copy of the program that is open shows them at its next start."
+    # At its end it saves the places that its lists had when it was started.
+    echo "The program shows them at its next start. If it was open meanwhile, it may begin with another pair selected."
 elif [ "${3:-}" = --all ]; then
     echo "Nothing to add: every emulator that was found is configured."
 else
