@@ -4,6 +4,7 @@
 #include "host/descriptor.h"
 #include "host/retried.h"
 #include "host/scratch.h"
+#include "host/writebytes.h"
 
 #include <array>
 #include <cerrno>
@@ -58,13 +59,8 @@ public:
 
     void write(const std::string &bytes)
     {
-        for (std::size_t done = 0; done < bytes.size();) {
-            const ssize_t count = retried(
-                [&] { return ::write(m_scratch.file.number(), bytes.data() + done, bytes.size() - done); });
-            if (count < 0)
-                failWith(errno, "the GIF can't be written");
-            done += std::size_t(count);
-        }
+        if (!host::writeBytes(m_scratch.file.number(), bytes.data(), bytes.size()))
+            failWith(errno, "the GIF can't be written");
         if (retried([this] { return fsync(m_scratch.file.number()); }) != 0)
             failWith(errno, "the GIF can't be written to the disk");
     }

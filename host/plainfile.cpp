@@ -45,18 +45,4 @@ std::optional<PlainFile> readPlainFile(int directory, const QByteArray &name, in
     return result;
 }
 
-bool writeBytes(int file, const QByteArray &bytes)
-{
-    for (qsizetype written = 0; written < bytes.size();) {
-        const ssize_t count = retried(
-            [&] { return ::write(file, bytes.constData() + written, size_t(bytes.size() - written)); });
-        if (count == 0)
-            errno = EIO;
-        if (count <= 0)
-            return false;
-        written += count;
-    }
-    return true;
-}
-
 } // namespace host

@@ -1,4 +1,4 @@
-// Reading and writing a plain file whole. For the host's own files only.
+// Reading a plain file whole. For the host's own files only.
 #pragma once
 
 #include "host/descriptor.h"
@@ -22,8 +22,5 @@ struct PlainFile {
 // bytes. None, with errno set, if that fails or if it is something else than a file.
 std::optional<PlainFile> readPlainFile(
     int directory, const QByteArray &name, int openFlags, qint64 most = std::numeric_limits<qint64>::max());
-
-// Writes them all, however few the system takes at once. False, with errno.
-bool writeBytes(int file, const QByteArray &bytes);
 
 } // namespace host

@@ -6,6 +6,7 @@
 #include "host/likeness.h"
 #include "host/paths.h"
 #include "host/retried.h"
+#include "host/writebytes.h"
 
 #include <array>
 #include <cerrno>
@@ -115,7 +116,7 @@ void Replacement::write(const QByteArray &bytes)
     if (m_old && !mayBeWritten())
         throw Failure(PathAccess, u"rewrite a file that may not be written"_s, m_path);
     makeScratch();
-    if (!writeBytes(m_scratch.number(), bytes))
+    if (!writeBytes(m_scratch.number(), bytes.constData(), std::size_t(bytes.size())))
         fail(u"write a file"_s);
     const QString unkept = m_old ? makeAlike(*m_old, m_scratch.number()) : QString();
     if (!unkept.isEmpty())

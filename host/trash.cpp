@@ -3,8 +3,8 @@
 #include "host/descriptor.h"
 #include "host/directory.h"
 #include "host/paths.h"
-#include "host/plainfile.h"
 #include "host/retried.h"
+#include "host/writebytes.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -206,7 +206,7 @@ bool writeOrigin(const Descriptor &info, const QByteArray &name, const QByteArra
         return false;
     const QByteArray text = "[Trash Info]\nPath=" + origin.toPercentEncoding("/") + "\nDeletionDate="
         + QDateTime::currentDateTime().toString(u"yyyy-MM-ddTHH:mm:ss"_s).toLatin1() + '\n';
-    if (writeBytes(file.number(), text))
+    if (writeBytes(file.number(), text.constData(), std::size_t(text.size())))
         return true;
     unlinkat(info.number(), name.constData(), 0);
     errno = ENOSPC;

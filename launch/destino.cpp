@@ -1,6 +1,7 @@
 #include "launch/destino.h"
 
 #include "host/retried.h"
+#include "host/writebytes.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -68,15 +69,7 @@ bool FicheroNuevo::Escribe(const char *bytes, std::int64_t total)
 {
     if (espacioLibre()(m_directorio.number()) - total < MinimoLibre)
         return false;
-    while (total > 0) {
-        const ssize_t escritos =
-            retried([&] { return write(m_provisional.file.number(), bytes, size_t(total)); });
-        if (escritos < 0)
-            return false;
-        bytes += escritos;
-        total -= escritos;
-    }
-    return true;
+    return host::writeBytes(m_provisional.file.number(), bytes, std::size_t(total));
 }
 
 bool FicheroNuevo::Termina(const QByteArray &nombre, bool soloLectura)

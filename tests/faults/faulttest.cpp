@@ -38,7 +38,8 @@ QByteArray attributeOf(const QByteArray &place, const char *name)
 
 std::string described(const Fault &fault, const End &end)
 {
-    static const char *const kinds[] = { "failing", "short", "killed before", "killed behind" };
+    static const char *const kinds[] = { "failing", "short", "writing nothing", "killed before",
+        "killed behind" };
     std::string text = kinds[int(fault.kind)];
     if (fault.kind == Kind::Fail)
         text += std::string(" with ") + strerror(fault.error);
@@ -96,6 +97,13 @@ void FaultTest::tryShort()
         tryFault({ Kind::Short, call });
 }
 
+void FaultTest::tryNothing()
+{
+    m_reached = true;
+    for (int call = 0; m_reached && call < ManyCalls; ++call)
+        tryFault({ Kind::Nothing, call, 0, true });
+}
+
 void FaultTest::tryAll(int stride, int offset)
 {
     const auto begin = std::chrono::steady_clock::now();
@@ -108,6 +116,7 @@ void FaultTest::tryAll(int stride, int offset)
     EXPECT_LT(call, ManyCalls) << "the operation never came to its end";
     EXPECT_GT(call, 10) << "the calls aren't watched";
     tryShort();
+    tryNothing();
     const std::chrono::duration<double> time = std::chrono::steady_clock::now() - begin;
     std::printf("%5d runs, about %d calls, %.1f s\n", runs() - before, call, time.count());
 }

@@ -49,6 +49,7 @@ private:
     void tryFault(const Fault &fault);
     bool tryCall(int call, bool quick);
     void tryShort();
+    void tryNothing();
 
     bool m_reached = false;
 };

@@ -31,6 +31,7 @@ constexpr long Passed[] = { SYS_brk, SYS_mmap, SYS_munmap, SYS_mremap, SYS_mprot
 // Failed or not, these are done with what they were given.
 constexpr long DoneAnyway[] = { SYS_close };
 constexpr long Transfers[] = { SYS_read, SYS_write, SYS_pread64, SYS_pwrite64 };
+constexpr long Writes[] = { SYS_write, SYS_pwrite64 };
 
 template <typename Table> bool holds(const Table &table, long number)
 {
@@ -86,6 +87,7 @@ public:
 
 private:
     void go(int signal = 0) { ptrace(PTRACE_SYSCALL, m_child, nullptr, signal); }
+    bool counts(const __ptrace_syscall_info &call) const;
     void enter(const __ptrace_syscall_info &call);
     void leave();
     long shortened() const { return m_fault.stays ? 100 : 1; }
@@ -97,13 +99,21 @@ private:
     bool m_wrong = false; // the call that is being made
 };
 
+bool Tracer::counts(const __ptrace_syscall_info &call) const
+{
+    const long number = long(call.entry.nr);
+    if (m_fault.kind == Kind::Short)
+        return holds(Transfers, number) && long(call.entry.args[2]) > shortened();
+    // The language's library writes to the standard ones, and for ever where they take nothing.
+    if (m_fault.kind == Kind::Nothing)
+        return holds(Writes, number) && long(call.entry.args[0]) > STDERR_FILENO;
+    return !holds(Passed, number);
+}
+
 void Tracer::enter(const __ptrace_syscall_info &call)
 {
     const long number = long(call.entry.nr);
-    const bool counted = m_fault.kind == Kind::Short
-        ? holds(Transfers, number) && long(call.entry.args[2]) > shortened()
-        : !holds(Passed, number);
-    if (!counted)
+    if (!counts(call))
         return;
     const int index = m_calls++;
     m_wrong = m_fault.stays ? index >= m_fault.call : index == m_fault.call;
@@ -116,7 +126,7 @@ void Tracer::enter(const __ptrace_syscall_info &call)
         kill(m_child, SIGKILL);
     else if (m_fault.kind == Kind::Short)
         setThirdArgument(m_child, shortened());
-    else if (m_fault.kind == Kind::Fail && !holds(DoneAnyway, number))
+    else if (m_fault.kind == Kind::Nothing || (m_fault.kind == Kind::Fail && !holds(DoneAnyway, number)))
         setNumber(m_child, -1);
 }
 
@@ -128,7 +138,7 @@ void Tracer::leave()
     m_end.killed = m_fault.kind == Kind::KillBehind;
     if (m_end.killed)
         kill(m_child, SIGKILL);
-    else if (m_fault.kind == Kind::Fail)
+    else if (m_fault.kind == Kind::Fail || m_fault.kind == Kind::Nothing)
         setResult(m_child, -m_fault.error);
 }
 

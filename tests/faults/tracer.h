@@ -9,6 +9,7 @@ namespace faults {
 enum class Kind {
     Fail, // the call does nothing and fails
     Short, // a reading or writing call takes one byte; where it stays, each takes a hundred
+    Nothing, // a call that writes to a file writes nothing, and says so without failing
     KillBefore, // the process is killed in the place of the call
     KillBehind, // the call is made, and then the process is killed
 };
@@ -16,7 +17,7 @@ enum class Kind {
 struct Fault {
     Kind kind = Kind::Fail;
     int call = 0; // from 0; of all calls but those for memory, signals, threads and time, for Short of those
-                  // that read and write
+                  // that read and write, for Nothing of those that write
     int error = 0;
     bool stays = false; // all calls from there on go wrong
 };
