@@ -70,8 +70,10 @@ void PictureButton::cancel()
 {
     m_keyHeld = false;
     m_hold.reset();
-    if (ShowsPressed())
-        showPicture(By::Nothing);
+    if (!ShowsPressed())
+        return;
+    showPicture(By::Nothing);
+    Cancel.raise();
 }
 
 void PictureButton::paintEvent(QPaintEvent *)

@@ -24,6 +24,7 @@ public:
 
     Event<> Press; // once the pressed picture shows
     Event<> Release; // once the picture at rest shows again
+    Event<> Cancel; // in the place of Release, where the press is taken back
 
     const QString &PressedName() const { return m_pressedName; }
     void SetArtwork(const QString &atRest, const QString &pressed); // other drawings than those of the names

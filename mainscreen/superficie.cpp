@@ -42,6 +42,11 @@ void Portada::ConectaSuperficie()
         Lista1->setFocusProxy(nullptr);
         Lista1->setFocus();
     };
+    // The text stays open, and over the list.
+    FlechaE2->Cancel = [this] {
+        Lista1->setFocusProxy(Editor);
+        Lista1->setFocus();
+    };
     Menos2b->Press = [this] { Combo2->setFocus(); };
 
     const auto escondeConsejo = [this](const forms::Mouse &) { IMGDescripcionLarga->hide(); };

@@ -35,6 +35,7 @@ protected:
     {
         button.Press = [&] { log.push_back(button.ShowsPressed() ? "press" : "press at rest"); };
         button.Release = [&] { log.push_back(button.ShowsPressed() ? "release pressed" : "release"); };
+        button.Cancel = [&] { log.push_back(button.ShowsPressed() ? "cancel pressed" : "cancel"); };
     }
 
     forms::Form form { u"Form"_s, 3000, 3000, forms::Form::Border::None };
@@ -234,7 +235,7 @@ TEST_F(PicturePairs, TheFocusLostWhileSpaceIsHeld_TakesThePressBack)
     neighbour.setFocus();
     EXPECT_FALSE(pair.ShowsPressed());
     drive::keyUp(form, Qt::Key_Space);
-    EXPECT_THAT(log, ElementsAre("press"));
+    EXPECT_THAT(log, ElementsAre("press", "cancel"));
 }
 
 TEST_F(PicturePairs, Enter_IsLeftToTheForm)
@@ -265,7 +266,7 @@ TEST_F(PicturePairs, DisabledOrHiddenWhilePressed_ItGoesBackToRestWithoutActing)
     pair.hide();
     EXPECT_FALSE(pair.ShowsPressed());
     drive::release(pair);
-    EXPECT_THAT(log, ElementsAre("press", "press"));
+    EXPECT_THAT(log, ElementsAre("press", "cancel", "press", "cancel"));
 }
 
 TEST_F(PicturePairs, AModalWindowUnderTheHeldButton_TakesThePressBack)
@@ -284,9 +285,9 @@ TEST_F(PicturePairs, AModalWindowUnderTheHeldButton_TakesThePressBack)
         box.ShowModal(&form);
         EXPECT_FALSE(pair.ShowsPressed());
         drive::release(pair);
-        EXPECT_THAT(log, ElementsAre("press"));
+        EXPECT_THAT(log, ElementsAre("press", "cancel"));
         drive::click(pair);
-        EXPECT_THAT(log, ElementsAre("press", "press", "release"));
+        EXPECT_THAT(log, ElementsAre("press", "cancel", "press", "release"));
     }
 }
 
@@ -300,9 +301,9 @@ TEST_F(PicturePairs, AMenuUnderTheHeldButton_TakesThePressBack)
     EXPECT_FALSE(pair.ShowsPressed());
     drive::release(menu);
     menu.close();
-    EXPECT_THAT(log, ElementsAre("press"));
+    EXPECT_THAT(log, ElementsAre("press", "cancel"));
     drive::click(pair);
-    EXPECT_THAT(log, ElementsAre("press", "press", "release"));
+    EXPECT_THAT(log, ElementsAre("press", "cancel", "press", "release"));
 }
 
 TEST_F(PicturePairs, AnAcceleratorWhoseFormAModalWindowShutsOff_DoesNotAct)
@@ -314,7 +315,7 @@ TEST_F(PicturePairs, AnAcceleratorWhoseFormAModalWindowShutsOff_DoesNotAct)
     QTimer::singleShot(200, qApp, [&] { box.Unload(); });
     box.ShowModal(&form);
     EXPECT_FALSE(pair.ShowsPressed());
-    EXPECT_THAT(log, ElementsAre("press"));
+    EXPECT_THAT(log, ElementsAre("press", "cancel"));
 }
 
 TEST_F(PicturePairs, ThePressActionOfAssistivePrograms_IsPressAndRelease)

@@ -5,7 +5,9 @@
 
 #include "tests/support/browser.h"
 
+#include <QMenu>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
@@ -150,6 +152,38 @@ TEST_F(TecladoTest, PressOfTheArrowThatClosesATextGivesTheListTheFocus)
     press(control(u"FlechaE2"_s));
     EXPECT_EQ(focused(), u"Lista1"_s);
     release(control(u"FlechaE2"_s));
+    EXPECT_EQ(focused(), u"Lista1"_s);
+}
+
+TEST_F(TecladoTest, PressOfThatArrowThatIsTakenBackLeavesTheKeyboardToTheText)
+{
+    startAt(Zeta, 0);
+    openAText();
+    QMenu menu;
+    menu.addAction(u"entry"_s);
+    forms::Form box(u"Box"_s, 1500, 1500, forms::Form::Border::FixedSingle);
+    const std::vector<std::function<void()>> interruptions {
+        [&] { EXPECT_TRUE(popsUp(menu, [&] { menu.exec(QPoint(300, 300)); })); },
+        [&] {
+            QTimer::singleShot(0, &box, [&] { box.Unload(); });
+            box.ShowModal(portada.get());
+        },
+    };
+    for (const auto &interrupt : interruptions) {
+        portada->Edit2->setFocus();
+        press(control(u"FlechaE2"_s));
+        EXPECT_EQ(focused(), u"Lista1"_s);
+        interrupt();
+        release(control(u"FlechaE2"_s));
+        EXPECT_TRUE(portada->Editor->isVisible());
+        EXPECT_EQ(focused(), u"Editor"_s);
+        portada->Lista1->setFocus();
+        EXPECT_EQ(focused(), u"Editor"_s);
+        strike(*portada, Qt::Key_Delete);
+    }
+    EXPECT_EQ(portada->Editor->Text(), u"xt"_s);
+    click(control(u"FlechaE2"_s));
+    EXPECT_FALSE(portada->Editor->isVisible());
     EXPECT_EQ(focused(), u"Lista1"_s);
 }
 
