@@ -54,7 +54,7 @@ public:
     ~NewGif()
     {
         if (!m_renamed)
-            unlinkat(m_directory, m_scratch.name.c_str(), 0);
+            retried([this] { return unlinkat(m_directory, m_scratch.name.c_str(), 0); });
     }
 
     void write(const std::string &bytes)
@@ -74,7 +74,7 @@ public:
             failWith(errno, "the GIF can't be put in its place");
         m_renamed = true;
         // The GIF is in its place whatever this says.
-        fsync(m_directory);
+        retried([this] { return fsync(m_directory); });
     }
 
 private:

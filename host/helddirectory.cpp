@@ -4,6 +4,7 @@
 #include "host/encoding.h"
 #include "host/failure.h"
 #include "host/paths.h"
+#include "host/retried.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -26,17 +27,20 @@ QByteArray withoutClosing(QByteArray path)
 Descriptor openItself(const QString &path)
 {
     const QByteArray found = withoutClosing(findOnDisk(path));
-    return Descriptor(open(found.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    constexpr int Flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    return Descriptor(retried([&] { return open(found.constData(), Flags); }));
 }
 
 void deletePlainFile(const Descriptor &directory, const QByteArray &name)
 {
     struct stat status;
-    if (name.contains('/')
-        || fstatat(directory.number(), name.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+    const auto look = [&] {
+        return fstatat(directory.number(), name.constData(), &status, AT_SYMLINK_NOFOLLOW);
+    };
+    if (name.contains('/') || retried(look) != 0)
         return;
     if (S_ISREG(status.st_mode) && (status.st_mode & S_IWUSR) != 0)
-        unlinkat(directory.number(), name.constData(), 0);
+        retried([&] { return unlinkat(directory.number(), name.constData(), 0); });
 }
 
 } // namespace
@@ -55,8 +59,9 @@ bool HeldDirectory::isAt(const QString &path) const
     const Descriptor other = openItself(path);
     struct stat own;
     struct stat there;
-    return fstat(m_descriptor.number(), &own) == 0 && fstat(other.number(), &there) == 0
-        && own.st_dev == there.st_dev && own.st_ino == there.st_ino;
+    return retried([&] { return fstat(m_descriptor.number(), &own); }) == 0
+        && retried([&] { return fstat(other.number(), &there); }) == 0 && own.st_dev == there.st_dev
+        && own.st_ino == there.st_ino;
 }
 
 void HeldDirectory::deleteFiles() const

@@ -83,9 +83,9 @@ Replacement::~Replacement()
     struct stat written { };
     struct stat named { };
     // Not another copy's.
-    if (m_scratchStands && fstat(m_scratch.number(), &written) == 0 && look(m_scratchName, named)
-        && isSameFile(written, named))
-        unlinkat(m_directory.number(), m_scratchName.constData(), 0);
+    if (m_scratchStands && retried([&] { return fstat(m_scratch.number(), &written); }) == 0
+        && look(m_scratchName, named) && isSameFile(written, named))
+        retried([&] { return unlinkat(m_directory.number(), m_scratchName.constData(), 0); });
 }
 
 void Replacement::lock()

@@ -62,21 +62,29 @@ bool isGone(pid_t process)
     return kill(process, 0) != 0 && errno == ESRCH;
 }
 
+bool lockAtOnce(const Descriptor &file)
+{
+    return retried([&] { return flock(file.number(), LOCK_EX | LOCK_NB); }) == 0;
+}
+
 // A process in another container, or on another machine, isn't seen from here, and one of an earlier
 // container may have had our own number: the lock tells. Where there are no locks the number alone does.
 bool isLeft(const Descriptor &file, pid_t writer)
 {
-    if (flock(file.number(), LOCK_EX | LOCK_NB) == 0)
+    if (lockAtOnce(file))
         return true;
     return errno != EWOULDBLOCK && writer != getpid();
 }
 
 Descriptor openEntry(int directory, const char *name)
 {
-    constexpr int Flags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    const auto openFor = [&](int access) {
+        constexpr int Flags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+        return Descriptor(retried([&] { return openat(directory, name, access | Flags); }));
+    };
     // Some shared disks lock only what can be written.
-    Descriptor file(openat(directory, name, O_RDWR | Flags));
-    return file.isOpen() ? std::move(file) : Descriptor(openat(directory, name, O_RDONLY | Flags));
+    Descriptor file = openFor(O_RDWR);
+    return file.isOpen() ? std::move(file) : openFor(O_RDONLY);
 }
 
 void removeIfLeft(int directory, const char *name, pid_t writer)
@@ -84,15 +92,15 @@ void removeIfLeft(int directory, const char *name, pid_t writer)
     if (writer != getpid() && !isGone(writer))
         return;
     struct stat named;
-    if (fstatat(directory, name, &named, AT_SYMLINK_NOFOLLOW) != 0 || !S_ISREG(named.st_mode)
-        || named.st_uid != geteuid())
+    if (retried([&] { return fstatat(directory, name, &named, AT_SYMLINK_NOFOLLOW); }) != 0
+        || !S_ISREG(named.st_mode) || named.st_uid != geteuid())
         return;
     const Descriptor file = openEntry(directory, name);
     struct stat opened;
-    const bool same = file.isOpen() && fstat(file.number(), &opened) == 0 && opened.st_dev == named.st_dev
-        && opened.st_ino == named.st_ino;
+    const bool same = file.isOpen() && retried([&] { return fstat(file.number(), &opened); }) == 0
+        && opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
     if (same && isLeft(file, writer))
-        unlinkat(directory, name, 0);
+        retried([&] { return unlinkat(directory, name, 0); });
 }
 
 } // namespace
@@ -109,13 +117,13 @@ ScratchFile openScratchFile(int directory, const std::string &prefix)
             break;
     }
     if (scratch.file.isOpen())
-        flock(scratch.file.number(), LOCK_EX | LOCK_NB);
+        lockAtOnce(scratch.file);
     return scratch;
 }
 
 void sweepScratchFiles(int directory, const std::string &prefix)
 {
-    const int listed = openat(directory, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int listed = retried([&] { return openat(directory, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
     const std::unique_ptr<DIR, CloseDirectory> stream(listed < 0 ? nullptr : fdopendir(listed));
     while (const dirent *entry = stream ? readdir(stream.get()) : nullptr) {
         if (const std::optional<pid_t> writer = writerOf(entry->d_name, prefix))

@@ -2,6 +2,7 @@
 
 #include "host/descriptor.h"
 #include "host/encoding.h"
+#include "host/retried.h"
 
 #include <cerrno>
 #include <optional>
@@ -15,10 +16,15 @@ namespace {
 
 constexpr mode_t OwnMode = 0700;
 
+bool look(const QByteArray &path, struct stat &status)
+{
+    return retried([&] { return stat(path.constData(), &status); }) == 0;
+}
+
 bool isDirectory(const QByteArray &path)
 {
     struct stat status;
-    return path.startsWith('/') && stat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode);
+    return path.startsWith('/') && look(path, status) && S_ISDIR(status.st_mode);
 }
 
 QByteArray systemDirectory()
@@ -33,8 +39,7 @@ QByteArray systemDirectory()
 bool isPrivate(const QByteArray &path)
 {
     struct stat status;
-    return stat(path.constData(), &status) == 0 && status.st_uid == geteuid()
-        && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+    return look(path, status) && status.st_uid == geteuid() && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
 QByteArray ownDirectory(const QByteArray &shared, const QString &program)
@@ -46,13 +51,16 @@ QByteArray ownDirectory(const QByteArray &shared, const QString &program)
 // Makes sure that the directory is there, and is the user's own and closed to others.
 bool secure(const QByteArray &path)
 {
-    if (mkdir(path.constData(), OwnMode) != 0 && errno != EEXIST)
+    if (retried([&] { return mkdir(path.constData(), OwnMode); }) != 0 && errno != EEXIST)
         return false;
-    const Descriptor directory(open(path.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    constexpr int Flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    const Descriptor directory(retried([&] { return open(path.constData(), Flags); }));
+    const int number = directory.number();
     struct stat status;
-    if (!directory.isOpen() || fstat(directory.number(), &status) != 0 || status.st_uid != geteuid())
+    if (!directory.isOpen() || retried([&] { return fstat(number, &status); }) != 0
+        || status.st_uid != geteuid())
         return false;
-    return (status.st_mode & 07777) == OwnMode || fchmod(directory.number(), OwnMode) == 0;
+    return (status.st_mode & 07777) == OwnMode || retried([&] { return fchmod(number, OwnMode); }) == 0;
 }
 
 } // namespace
@@ -69,8 +77,9 @@ QString temporaryPath(const QString &program)
 void tidyTemporaryPath(const QString &program)
 {
     const QByteArray system = systemDirectory();
+    const QByteArray own = ownDirectory(system, program);
     if (!isPrivate(system))
-        rmdir(ownDirectory(system, program).constData());
+        retried([&] { return rmdir(own.constData()); });
 }
 
 } // namespace host

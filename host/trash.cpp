@@ -208,7 +208,7 @@ bool writeOrigin(const Descriptor &info, const QByteArray &name, const QByteArra
         + QDateTime::currentDateTime().toString(u"yyyy-MM-ddTHH:mm:ss"_s).toLatin1() + '\n';
     if (writeBytes(file.number(), text.constData(), std::size_t(text.size())))
         return true;
-    unlinkat(info.number(), name.constData(), 0);
+    retried([&] { return unlinkat(info.number(), name.constData(), 0); });
     errno = ENOSPC;
     return false;
 }
@@ -251,7 +251,7 @@ bool moveWithOrigin(const Trash &trash, const QByteArray &file, const QByteArray
             if (moveInto(files, candidate, file))
                 return true;
             const int failure = errno;
-            unlinkat(info.number(), infoName.constData(), 0);
+            retried([&] { return unlinkat(info.number(), infoName.constData(), 0); });
             errno = failure;
         }
         if (errno != EEXIST)

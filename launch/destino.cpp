@@ -62,7 +62,7 @@ FicheroNuevo::FicheroNuevo(const host::Descriptor &directorio)
 FicheroNuevo::~FicheroNuevo()
 {
     if (Abierto() && !m_provisional.name.empty())
-        unlinkat(m_directorio.number(), m_provisional.name.c_str(), 0);
+        retried([this] { return unlinkat(m_directorio.number(), m_provisional.name.c_str(), 0); });
 }
 
 bool FicheroNuevo::Escribe(const char *bytes, std::int64_t total)

@@ -1,8 +1,11 @@
 // The names of the two files, and how the one is read.
 
 #include "../host/disktest.h"
+#include "../host/systemcalls.h"
 #include "converter/capturefiles.h"
 #include "converter/picture.h"
+
+#include <cerrno>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -96,6 +99,17 @@ TEST_F(CaptureFiles, AreNoLargerThanAPictureCanBe)
     makeFile("a.pcx");
     ASSERT_EQ(truncate(place("a.pcx").constData(), converter::LargestFile + 1), 0);
     EXPECT_EQ(complaintAbout("a.pcx"), "the file is too large");
+}
+
+TEST_F(CaptureFiles, AreWrittenAndFlushed_WhenThatIsInterrupted)
+{
+    for (const int before : { 0, 1 }) {
+        const int flushes = systemcalls::flushes();
+        const systemcalls::FaultOf interruptions("fsync", EINTR, 2, before);
+        converter::replaceFile(place("GAME.GIF").toStdString(), "a picture");
+        EXPECT_EQ(bytes("GAME.GIF"), "a picture");
+        EXPECT_EQ(systemcalls::flushes() - flushes, 2) << "the picture and its directory";
+    }
 }
 
 } // namespace

@@ -2,8 +2,11 @@
 
 #include "systemcalls.h"
 
+#include "host/helddirectory.h"
 #include "host/lengths.h"
 #include "host/paths.h"
+
+#include <cerrno>
 
 using namespace Qt::StringLiterals;
 using namespace host;
@@ -318,6 +321,21 @@ TEST_F(Deleting, OneFile_FailsWhereItIsMissingOrADirectoryOrMayNotBeWritten)
     EXPECT_EQ(failureOf([this] { deleteFile(path(u"to dir"_s)); }), PathAccess);
     EXPECT_EQ(failureOf([this] { deleteFile(path(u"locked"_s)); }), PathAccess);
     EXPECT_THAT(names(), ElementsAre("dir.pcx", "locked", "to dir"));
+}
+
+TEST_F(Deleting, TakesFiles_WhenAnyOfItsCallsIsInterrupted)
+{
+    for (const char *call : { "open", "openat", "fstat", "fstatat", "unlinkat" }) {
+        makeDirectory("d");
+        makeFile("d/a");
+        makeFile("d/b");
+        const HeldDirectory held(path(u"d"_s));
+        const systemcalls::FaultOf interruptions(call, EINTR, 2);
+        EXPECT_TRUE(held.isAt(path(u"d"_s))) << call;
+        HeldDirectory(path(u"d"_s)).deleteFiles();
+        EXPECT_FALSE(exists("d/a") || exists("d/b")) << call;
+        ASSERT_EQ(rmdir(place("d").constData()), 0);
+    }
 }
 
 TEST_F(Deleting, Fails_OfALinkInTheDirectorysPlace)

@@ -2,7 +2,9 @@
 #include "host/scratch.h"
 
 #include "disktest.h"
+#include "systemcalls.h"
 
+#include <cerrno>
 #include <csignal>
 
 #include <fcntl.h>
@@ -187,6 +189,30 @@ TEST_F(Scratch, TheSweepLeavesWhatIsSomebodyElses)
     ASSERT_EQ(chown(place(name).constData(), 65534, 65534), 0);
     sweep();
     EXPECT_TRUE(exists(name));
+}
+
+TEST_F(Scratch, TheSweepTakesWhatIsLeft_WhenAnyOfItsCallsIsInterrupted)
+{
+    for (const char *call : { "openat", "fstatat", "fstat", "flock", "unlinkat" }) {
+        makeFile(own(0));
+        makeFile(nameOf(gone()));
+        const systemcalls::FaultOf interruptions(call, EINTR, 2);
+        sweep();
+        EXPECT_THAT(names(), ElementsAre()) << call;
+    }
+}
+
+TEST_F(Scratch, IsMadeAndLocked_WhenThatIsInterrupted)
+{
+    for (const char *call : { "openat", "flock" }) {
+        const Descriptor here = directory();
+        const systemcalls::FaultOf interruption(call, EINTR, 1);
+        const ScratchFile making = host::openScratchFile(here.number(), "making");
+        EXPECT_TRUE(making.file.isOpen()) << call;
+        const Descriptor again(open(place(own(0)).constData(), O_RDONLY));
+        EXPECT_NE(flock(again.number(), LOCK_EX | LOCK_NB), 0) << call;
+        ASSERT_EQ(unlink(place(own(0)).constData()), 0);
+    }
 }
 
 TEST_F(Scratch, TheSweepOfWhatIsNoDirectoryDoesNothing)

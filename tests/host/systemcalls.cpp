@@ -23,6 +23,7 @@ struct Plan {
     const char *failing = nullptr;
     int error = 0;
     int times = 0;
+    int passing = 0;
 };
 
 Plan plan;
@@ -30,6 +31,7 @@ std::size_t mostWritten = std::numeric_limits<std::size_t>::max();
 
 long tickOfChanges = 0;
 int looksAtPaths = 0;
+int flushesDone = 0;
 std::atomic<int> locksAsked = 0;
 
 bool waitsAreQuick = false;
@@ -73,7 +75,7 @@ template <typename Function> Function *next(const char *name)
 // True if this call is to fail, with errno set.
 bool goesWrong(const char *name)
 {
-    if (!plan.failing || std::strcmp(plan.failing, name) != 0 || plan.times-- <= 0)
+    if (!plan.failing || std::strcmp(plan.failing, name) != 0 || plan.passing-- > 0 || plan.times-- <= 0)
         return false;
     errno = plan.error;
     return true;
@@ -129,6 +131,21 @@ int stat(const char *path, struct stat *status) noexcept
 {
     ++looksAtPaths;
     return withTicks(passed<int(const char *, struct stat *)>("stat", path, status), status);
+}
+
+int mkdir(const char *path, mode_t mode) noexcept
+{
+    return passed<int(const char *, mode_t)>("mkdir", path, mode);
+}
+
+int rmdir(const char *path) noexcept
+{
+    return passed<int(const char *)>("rmdir", path);
+}
+
+int unlink(const char *path) noexcept
+{
+    return passed<int(const char *)>("unlink", path);
 }
 
 int lstat(const char *path, struct stat *status) noexcept
@@ -190,7 +207,9 @@ dirent *readdir(DIR *stream)
 
 int fsync(int file)
 {
-    return passed<int(int)>("fsync", file);
+    const int result = passed<int(int)>("fsync", file);
+    flushesDone += result == 0 ? 1 : 0;
+    return result;
 }
 
 int renameat(int oldDirectory, const char *oldPath, int newDirectory, const char *newPath) noexcept
@@ -236,9 +255,9 @@ int clock_gettime(clockid_t clock, timespec *time) noexcept
 
 namespace systemcalls {
 
-FaultOf::FaultOf(const char *name, int error, int times)
+FaultOf::FaultOf(const char *name, int error, int times, int passing)
 {
-    plan = { name, error, times };
+    plan = { name, error, times, passing };
 }
 
 FaultOf::~FaultOf()
@@ -259,6 +278,11 @@ CoarseClock::~CoarseClock()
 int looks()
 {
     return looksAtPaths;
+}
+
+int flushes()
+{
+    return flushesDone;
 }
 
 int locks()

@@ -7,11 +7,12 @@
 
 namespace systemcalls {
 
-// While it lives, the calls of this name fail with this error, the first few or all of them. One at a time.
+// While it lives, the calls of this name fail with this error, the first few or all of them, behind some that
+// pass. One at a time.
 // "waiting flock" is a flock that waits for its lock.
 class FaultOf {
 public:
-    FaultOf(const char *name, int error, int times = std::numeric_limits<int>::max());
+    FaultOf(const char *name, int error, int times = std::numeric_limits<int>::max(), int passing = 0);
     ~FaultOf();
     FaultOf(const FaultOf &) = delete;
     FaultOf &operator=(const FaultOf &) = delete;
@@ -31,6 +32,9 @@ public:
 
 // How many looks at a path, by stat or lstat, there have been so far.
 int looks();
+
+// How many times something was flushed to the disk so far.
+int flushes();
 
 // How often a lock has been asked for so far.
 int locks();

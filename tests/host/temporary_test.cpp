@@ -1,6 +1,9 @@
 #include "disktest.h"
+#include "systemcalls.h"
 
 #include "host/paths.h"
+
+#include <cerrno>
 
 #include <unistd.h>
 
@@ -114,6 +117,25 @@ TEST_F(TemporaryPath, OwnDirectoryGoes_IfItIsEmpty)
     ASSERT_EQ(unlink(place(own() + "/a").constData()), 0);
     tidyTemporaryPath(u"zembrolix"_s);
     EXPECT_FALSE(exists(own()));
+}
+
+TEST_F(TemporaryPath, IsMadeClosedAndRemoved_WhenAnyOfItsCallsIsInterrupted)
+{
+    setMode({}, Shared);
+    for (const bool standsOpen : { false, true }) {
+        for (const char *call : { "stat", "mkdir", "open", "fstat", "fchmod", "rmdir" }) {
+            if (standsOpen) {
+                makeDirectory(own());
+                setMode(own(), 0777);
+            }
+            const systemcalls::FaultOf interruptions(call, EINTR, 2);
+            EXPECT_EQ(temporaryPath(u"zembrolix"_s), path() + u'/' + QString::fromLatin1(own()) + u'/')
+                << call;
+            EXPECT_EQ(mode(own()), 0700u) << call;
+            tidyTemporaryPath(u"zembrolix"_s);
+            EXPECT_FALSE(exists(own())) << call;
+        }
+    }
 }
 
 TEST_F(TemporaryPath, SystemsDirectoryStaysWithAllThatIsInIt)
