@@ -1,5 +1,7 @@
 #include "launch/fuentezip.h"
 
+#include "host/retried.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -26,7 +28,8 @@ using Bytes = std::vector<unsigned char>;
 std::int64_t largoDe(const host::Descriptor &fichero)
 {
     struct stat estado;
-    return fstat(fichero.number(), &estado) == 0 ? std::int64_t(estado.st_size) : 0;
+    return host::retried([&] { return fstat(fichero.number(), &estado); }) == 0 ? std::int64_t(estado.st_size)
+                                                                                : 0;
 }
 
 // Empty unless all of them are there.
@@ -114,7 +117,8 @@ bool FuenteZip::AbrePara(archive *archivo)
 {
     // What is no plain file can't be looked into ahead, and its length would be a lie.
     struct stat estado;
-    if (!Abierta() || fstat(m_fichero.number(), &estado) != 0 || !S_ISREG(estado.st_mode))
+    if (!Abierta() || host::retried([&] { return fstat(m_fichero.number(), &estado); }) != 0
+        || !S_ISREG(estado.st_mode))
         return false;
     m_sistemas = LugaresDeSistemasComoFat(m_fichero);
     archive_read_set_callback_data(archivo, this);

@@ -25,6 +25,8 @@ protected:
         makeFile("GAME.PCX", Capture);
         ASSERT_EQ(inChild([this] { return operate(); }), 0);
         m_new = bytes("GAME.GIF").value_or(QByteArray());
+        m_newMode = mode("GAME.GIF");
+        ASSERT_NE(m_newMode, OldMode);
         ASSERT_TRUE(m_new.startsWith("GIF8") && m_new.endsWith(';'));
     }
 
@@ -32,7 +34,7 @@ protected:
     {
         unlink(place("GAME.GIF").constData());
         if (m_withOld)
-            makeFile("GAME.GIF", "the old picture");
+            makeOld();
     }
     // As the program does it.
     int operate() override
@@ -51,6 +53,9 @@ protected:
     {
         const auto gif = bytes("GAME.GIF");
         EXPECT_THAT(gif, AnyOf(std::optional(m_new), old()));
+        if (gif) {
+            EXPECT_EQ(mode("GAME.GIF"), gif == m_new ? m_newMode : OldMode);
+        }
         EXPECT_EQ(bytes("GAME.PCX"), Capture);
         if (!end.killed) {
             EXPECT_THAT(end.status, AnyOf(0, 1));
@@ -68,6 +73,13 @@ protected:
     bool m_withOld = false;
 
 private:
+    static constexpr mode_t OldMode = 0600;
+
+    void makeOld() const
+    {
+        makeFile("GAME.GIF", "the old picture");
+        setMode("GAME.GIF", OldMode);
+    }
     std::optional<QByteArray> old() const
     {
         return m_withOld ? std::optional(QByteArray("the old picture")) : std::nullopt;
@@ -88,6 +100,7 @@ private:
 
     const QByteArray Capture = PcxFile { .data = "5500" }.bytes();
     QByteArray m_new;
+    mode_t m_newMode = 0;
 };
 
 } // namespace

@@ -31,6 +31,8 @@ protected:
         if (m_withTrash)
             makeOldTrash();
         makeFile("games/a.bin", Game);
+        makeUnusual("games/a.bin", 0640);
+        m_game = likeness("games/a.bin");
     }
     int operate() override { return host::moveToTrash(path(u"games/a.bin"_s)) ? 0 : 1; }
     void check(const Fault &fault, const End &end) override
@@ -38,6 +40,7 @@ protected:
         const bool moved = !exists("games/a.bin");
         EXPECT_EQ(places(), 1) << "the game is there once";
         EXPECT_EQ(moved, isWholeInTheTrash());
+        EXPECT_TRUE(moved || likeness("games/a.bin") == m_game);
         if (!end.killed) {
             EXPECT_THAT(end.status, AnyOf(0, 1));
             EXPECT_EQ(end.status == 0, moved);
@@ -91,7 +94,8 @@ private:
         for (const QString &name : names("files")) {
             const QByteArray file = name.toUtf8();
             const auto info = bytes("home/data/Trash/info/" + file + ".trashinfo");
-            if (bytes("home/data/Trash/files/" + file) == Game && info
+            if (bytes("home/data/Trash/files/" + file) == Game
+                && likeness("home/data/Trash/files/" + file) == m_game && info
                 && info->startsWith("[Trash Info]\nPath=" + place("games/a.bin") + "\nDeletionDate=2")
                 && info->endsWith('\n'))
                 return true;
@@ -100,6 +104,7 @@ private:
     }
 
     const QByteArray Game = QByteArray(1000, 'g');
+    Likeness m_game;
 };
 
 } // namespace
