@@ -40,7 +40,7 @@ READ = {
     "TextBox": "Text", "TextArea": "SetText", "CheckBox": "Value", "OptionButton": "Value", "ListBox": "Text|ListIndex",
     "ComboBox": "Text|ListIndex", "DirectoryList": "Path", "PopupMenu": "Popup|PopupOver",
 }
-EVENTS = ("Release|Press|Click|DblClick|Selection|Change|KeyDown|KeyEnter|MenuKey|MouseDown|MouseUp|MouseMove|GotFocus"
+EVENTS = ("Release|Press|Cancel|Click|DblClick|Selection|Change|KeyDown|KeyEnter|MenuKey|MouseDown|MouseUp|MouseMove|GotFocus"
           "|Scroll")
 # Where controls are looked at, not worked: their places, looks and names for screen readers, and lists of many.
 LOOKING = {"disposicion_test.cpp", "retratos_test.cpp"}
