@@ -50,7 +50,7 @@ protected:
     void duringARun(const std::function<void()> &start, const std::function<void()> &act)
     {
         makeEmulator("echo run >> runs\ntouch started\n"
-                     "for _ in $(seq 1000); do [ -e go ] && break; sleep 0.01; done\ntouch ended\n");
+                     "for _ in $(seq 6000); do [ -e go ] && break; sleep 0.01; done\ntouch ended\n");
         QTimer watch;
         QObject::connect(&watch, &QTimer::timeout, portada.get(), [&] {
             if (!files.exists(QStringLiteral("bin/started")) || info() == QStringLiteral("CARGANDO"))

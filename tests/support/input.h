@@ -41,5 +41,5 @@ bool popsUp(QMenu &menu, const std::function<void()> &open, QAction *entry = nul
 // Gives the window system's wish to close the window.
 void wishClose(QWidget &window);
 
-// Runs the event loop until the condition holds, five seconds at most; returns whether it holds.
+// Runs the event loop until the condition holds, twenty seconds at most; returns whether it holds.
 bool waitUntil(const std::function<bool()> &condition);
