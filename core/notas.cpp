@@ -5,6 +5,8 @@
 #include "host/letters.h"
 #include "host/paths.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace core {
@@ -30,6 +32,19 @@ QString registroDeNota(const QString &campoClave, const QString &descripcion)
     return campoClave + u",\""_s + descripcion + u'"';
 }
 
+// Behind a description's record, where the next begins.
+constexpr QStringView Siguiente = u".";
+
+// A description's record, with what follows it, read up to its description.
+host::TextSource ensayoDeNota(const QString &descripcion)
+{
+    Copia copia;
+    copia.Nueva(registroDeNota(u"K"_s, descripcion));
+    host::TextSource fuente(copia.Texto() + Siguiente.toString());
+    fuente.readField();
+    return fuente;
+}
+
 QString sinBlancosEnLosExtremos(QStringView texto)
 {
     while (texto.startsWith(u' '))
@@ -48,17 +63,33 @@ std::optional<QString> registroNuevo(Parametros parametros)
 }
 
 // The description is what lies behind the first comma, or behind the one after a quoted key, without the
-// quotes around it. A line that begins with an apostrophe, or ahead of it in the code, holds none, unless it
-// is a quoted key's.
+// quotes around it.
 bool llevaDescripcion(QStringView linea, const QString &descripcion)
 {
-    if (linea.isEmpty() || (linea[0] <= u'\'' && linea[0] != u'"'))
-        return false;
     const qsizetype desde = linea[0] == u'"' ? linea.indexOf(u'"', 1) : 0;
     const qsizetype coma = desde < 0 ? -1 : linea.indexOf(u',', desde);
     if (coma < 0)
         return false;
     return coma + 2 < linea.size() ? linea.sliced(coma + 2).chopped(1) == descripcion : descripcion.isEmpty();
+}
+
+// Whether the line is a record of its own that is read as this key and description: one with double quotes in
+// it is read up to them.
+bool seLeeComo(QStringView linea, const QString &clave, const QString &descripcion)
+{
+    if (!linea.contains(u','))
+        return false;
+    host::TextSource fuente(linea.toString() + u'\n' + Siguiente.toString());
+    const bool esLaClave = host::sameName(fuente.readField(), clave);
+    return esLaClave && fuente.readField() == descripcion && fuente.rest() == Siguiente;
+}
+
+// A line that begins with an apostrophe, or ahead of it in the code, holds no note, unless its key is quoted.
+bool esLaNota(QStringView linea, const QString &descripcion, const QString &clave)
+{
+    if (linea.isEmpty() || (linea[0] <= u'\'' && linea[0] != u'"'))
+        return false;
+    return llevaDescripcion(linea, descripcion) || seLeeComo(linea, clave, descripcion);
 }
 
 // The records up to the closing one, or to the end of the text, without those of a system.
@@ -148,13 +179,14 @@ bool SePuedeDescribir(const QString &clave)
 
 bool EsDescripcionEntera(const QString &descripcion)
 {
-    const QString siguiente = u"."_s;
-    Copia copia;
-    copia.Nueva(registroDeNota(u"K"_s, descripcion));
-    host::TextSource fuente(copia.Texto() + siguiente);
+    host::TextSource fuente = ensayoDeNota(descripcion);
     fuente.readField();
-    fuente.readField();
-    return descripcion.isValidUtf16() && fuente.rest() == siguiente;
+    return descripcion.isValidUtf16() && fuente.rest() == Siguiente;
+}
+
+QString DescripcionLeida(const QString &descripcion)
+{
+    return ensayoDeNota(descripcion).readField();
 }
 
 bool SonParametrosEnteros(const QString &texto)
@@ -213,6 +245,12 @@ QString ConDescripcionNueva(
     return copia.Texto();
 }
 
+bool HayDescripcion(const QString &texto, const QString &descripcion, const QString &clave)
+{
+    return std::ranges::any_of(
+        EnLineas(texto), [&](const LineaConFin &linea) { return esLaNota(linea.linea, descripcion, clave); });
+}
+
 QString ConDescripcionCambiada(
     const QString &texto, const QString &anterior, const QString &clave, const QString &descripcion)
 {
@@ -222,7 +260,7 @@ QString ConDescripcionCambiada(
     Copia copia;
     bool cambiada = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
-        if (!cambiada && llevaDescripcion(linea.linea, anterior)) {
+        if (!cambiada && esLaNota(linea.linea, anterior, clave)) {
             copia.Nueva(registroDeNota(*campo, descripcion));
             cambiada = true;
         } else {

@@ -40,6 +40,9 @@ bool SePuedeDescribir(const QString &clave);
 // begin the next record.
 bool EsDescripcionEntera(const QString &descripcion);
 
+// What the reader gives back of a description: with double quotes in it, what stands ahead of them.
+QString DescripcionLeida(const QString &descripcion);
+
 // False for parameters of a game that are not kept whole: a comma would cut them for other readers of the
 // file, double quotes at their start anywhere. Blanks at the ends of a text with double quotes are dropped.
 bool SonParametrosEnteros(const QString &texto);
@@ -48,10 +51,13 @@ bool SonParametrosEnteros(const QString &texto);
 QString ConDescripcionNueva(
     const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion);
 
-// Replaces the first record of the whole file with this description, whichever system it belongs to. The key
-// is written in upper case.
+// Replaces the first record of the whole file with this description, whichever system it belongs to, or with
+// this key and read as this description. The key is written in upper case.
 QString ConDescripcionCambiada(
     const QString &texto, const QString &anterior, const QString &clave, const QString &descripcion);
+
+// Whether there is such a record.
+bool HayDescripcion(const QString &texto, const QString &descripcion, const QString &clave);
 
 QString ConParametrosNuevos(const QString &texto, const Parametros &parametros);
 

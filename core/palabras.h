@@ -18,6 +18,10 @@ struct Palabras {
     // Describing one, or giving it parameters.
     QString Zem_NoNota0 = QStringLiteral("Sin anotar");
     QString Zem_NoNota1 = QStringLiteral("Este nombre de archivo no se puede anotar.");
+    QString Zem_NoDescrip1 = QStringLiteral("Sin comas detrás de unas comillas.");
+    QString Zem_NoLinea1 = QStringLiteral("Zembro.rom no tiene la línea que habría que cambiar.");
+    QString Zem_Comillas0 = QStringLiteral("Descripción cortada");
+    QString Zem_Comillas1 = QStringLiteral("Se lee solo lo que hay delante de las comillas.");
     QString Zem_NoParam0 = QStringLiteral("Sin grabar");
     QString Zem_NoParam1 = QStringLiteral("Sin comas, y sin comillas al principio.");
     // In the place of the box's words where what is typed would not be found.

@@ -100,11 +100,21 @@ void Portada::Describir()
         return;
     }
     if (!core::EsDescripcionEntera(descripcion)) {
-        Advierte(M.Palabras.Zem_NoNota0, M.Palabras.Zem_NoNombre1);
+        Advierte(M.Palabras.Zem_NoNota0, M.Palabras.Zem_NoDescrip1);
         return;
     }
-    GuardaDescripcion(tipo, nota, entrada, descripcion);
+    if (!GuardaDescripcion(tipo, nota, entrada, descripcion)) {
+        Advierte(M.Palabras.Zem_NoNota0, M.Palabras.Zem_NoLinea1);
+        return;
+    }
+    const QString leida = core::DescripcionLeida(descripcion);
+    CambiaEntrada(indice, leida);
+    if (leida != descripcion)
+        Advierte(M.Palabras.Zem_Comillas0, M.Palabras.Zem_Comillas1);
+}
 
+void Portada::CambiaEntrada(int indice, const QString &descripcion)
+{
     JugarB1->setFocus();
     Lista1->RemoveItem(indice);
     Lista1->AddItem(descripcion);
@@ -120,16 +130,23 @@ void Portada::NoSeAnota()
     Advierte(M.Palabras.Zem_NoNota0, M.Palabras.Zem_NoNota1);
 }
 
-void Portada::GuardaDescripcion(int tipo, int nota, const QString &entrada, const QString &descripcion)
+bool Portada::GuardaDescripcion(int tipo, int nota, const QString &entrada, const QString &descripcion)
 {
     const QString sistema = Combo1->Text();
     if (nota >= 0)
         M.ArchivoExaminar = M.Nota_Clave(nota);
+    bool guardada = false;
     ReescribeNotas([&](const QString &texto) {
-        return nota < 0
-            ? core::ConDescripcionNueva(texto, sistema, core::ClaveNueva(tipo, entrada), descripcion)
-            : core::ConDescripcionCambiada(texto, entrada, M.ArchivoExaminar, descripcion);
+        if (nota >= 0) {
+            guardada = core::HayDescripcion(texto, entrada, M.ArchivoExaminar);
+            return core::ConDescripcionCambiada(texto, entrada, M.ArchivoExaminar, descripcion);
+        }
+        const QString despues =
+            core::ConDescripcionNueva(texto, sistema, core::ClaveNueva(tipo, entrada), descripcion);
+        guardada = despues != texto;
+        return despues;
     });
+    return guardada;
 }
 
 void Portada::Menu_Parametros_Click()

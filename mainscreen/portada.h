@@ -193,7 +193,8 @@ private:
     void BorrarAPapelera(const QString &ruta);
     void NoSeAnota();
     bool SePuedenAnotar(const core::Parametros &parametros);
-    void GuardaDescripcion(int tipo, int nota, const QString &entrada, const QString &descripcion);
+    bool GuardaDescripcion(int tipo, int nota, const QString &entrada, const QString &descripcion);
+    void CambiaEntrada(int indice, const QString &descripcion);
     void Menu_Parametros_Click();
     QString LeeParametros(const QString &clave);
     void ReescribeNotas(const std::function<QString(const QString &)> &cambio);

@@ -194,6 +194,28 @@ INSTANTIATE_TEST_SUITE_P(Lineas, LineaCandidata,
         Candidata { "\"A,", QString(), false }, Candidata { "\"A\"", QString(), false },
         Candidata { ",\"one\"", u"one"_s, true }));
 
+TEST_F(NotasEscritas, ARecordOfTheNotesKeyIsChangedByWhatIsReadOfIt)
+{
+    for (const QByteArray linea :
+        { "PRISMA.BIN,\"abc\"\"", "prisma.bin , \"abc\" x", "PRISMA.BIN,abc", "\"PRISMA.BIN\",\"abc\"d\"" }) {
+        const QByteArray antes = "Console\r\nA.BIN,\"abc\"d\"\r\n" + linea + "\r\n'\r\n";
+        EXPECT_TRUE(core::HayDescripcion(QString::fromLatin1(antes), u"abc"_s, u"PRISMA.BIN"_s));
+        EXPECT_EQ(ConCambiada(antes, u"abc"_s, u"PRISMA.BIN"_s, u"new"_s),
+            "Console\r\nA.BIN,\"abc\"d\"\r\nPRISMA.BIN,\"new\"\r\n'\r\n")
+            << linea.constData();
+    }
+}
+
+TEST_F(NotasEscritas, ARecordThatIsNotAllOnItsLineIsNoneToChange)
+{
+    for (const QByteArray linea : { "PRISMA.BIN\r\n\"abc\"", "PRISMA.BIN,\"abc\"\"d\",x",
+             "PRISMA.BIN,\"abc\r\n\"", "!PRISMA.BIN,\"abc\"\"", "PRISMA.BIN" }) {
+        const QByteArray antes = "Console\r\n" + linea + "\r\n'\r\n";
+        EXPECT_FALSE(core::HayDescripcion(QString::fromLatin1(antes), u"abc"_s, u"PRISMA.BIN"_s));
+        EXPECT_EQ(ConCambiada(antes, u"abc"_s, u"PRISMA.BIN"_s, u"new"_s), antes) << linea.constData();
+    }
+}
+
 TEST_F(NotasEscritas, NothingChanges_WithoutARecordOfTheDescription)
 {
     const QByteArray bytes = "Console\nA,\"one\"\r\n\r\n'\r\n[\r\nlast\xF1";
@@ -294,6 +316,7 @@ TEST_F(NotasEscritas, ADescriptionTakesNoPartInTheRecordsBehind_OrIsRefused)
         ConNueva(antes, u"A"_s, texto);
         ASSERT_EQ(core::CargaNotas(M, u"Console"_s), 2) << texto.toStdString();
         EXPECT_EQ(M.Nota_Texto(0), texto.contains(u'"') ? texto.first(texto.indexOf(u'"')) : texto);
+        EXPECT_EQ(core::DescripcionLeida(texto), M.Nota_Texto(0));
         EXPECT_EQ(M.Nota_Clave(1), u"OLD");
         EXPECT_EQ(M.Nota_Texto(1), u"Old");
     }

@@ -56,6 +56,17 @@ protected:
         });
         action();
     }
+    // The title and the words of the warning that the action shows.
+    QStringList toldBy(const std::function<void()> &action)
+    {
+        QStringList told;
+        atModal(u"Caja"_s, [&](forms::Form &form) {
+            told << form.Caption() << controlOf<forms::Label>(form, u"Texto2"_s).Caption();
+            click(controlOf<QWidget>(form, u"Flecha2"_s));
+        });
+        action();
+        return told;
+    }
     void describe() { click(control(u"BotonA2"_s)); }
     void discard() { click(control(u"BotonB2"_s)); }
     void parametersMenu()
@@ -605,18 +616,53 @@ TEST_F(AccionesTest, ADescriptionThatWouldRunIntoTheNextRecordIsRefusedWithAWord
     const QByteArray before = notes();
     QStringList told;
     answer(
-        u"El \"dos\", otra vez"_s,
-        [&] {
-            atModal(u"Caja"_s, [&](forms::Form &form) {
-                told << form.Caption() << controlOf<forms::Label>(form, u"Texto2"_s).Caption();
-                click(controlOf<QWidget>(form, u"Flecha2"_s));
-            });
-            describe();
-        },
-        u"two.nes"_s);
-    EXPECT_THAT(told, ElementsAre(u"Sin anotar"_s, u"Este nombre no se puede usar: pon otro."_s));
+        u"El \"dos\", otra vez"_s, [&] { told = toldBy([&] { describe(); }); }, u"two.nes"_s);
+    EXPECT_THAT(told, ElementsAre(u"Sin anotar"_s, u"Sin comas detrás de unas comillas."_s));
     EXPECT_EQ(notes(), before);
     EXPECT_THAT(listed(), ElementsAre(u"Juego uno"_s, u"two.nes"_s));
+}
+
+TEST_F(AccionesTest, ADescriptionWithQuotesIsWrittenAsTyped_ListedAsReadAndCanBeChanged)
+{
+    startAt(Zeta, 0);
+    addWords();
+    QStringList told;
+    clickRow(list(), 1);
+    answer(
+        u"Dos\" y más"_s, [&] { told = toldBy([&] { describe(); }); }, u"two.nes"_s);
+    EXPECT_THAT(
+        told, ElementsAre(u"Descripción cortada"_s, u"Se lee solo lo que hay delante de las comillas."_s));
+    EXPECT_TRUE(notes().contains("Zeta\r\nTWO.NES,\"Dos\" y m\xE1s\"\r\n"));
+    EXPECT_THAT(listed(), ElementsAre(u"Juego uno"_s, u"Dos"_s));
+    EXPECT_EQ(list().Text(), u"Dos"_s);
+    const qsizetype lines = notes().count('\n');
+
+    answer(
+        u"Otro dos"_s, [&] { describe(); }, u"Dos"_s);
+    EXPECT_TRUE(notes().contains("Zeta\r\nTWO.NES,\"Otro dos\"\r\n"));
+    EXPECT_EQ(notes().count('\n'), lines);
+    EXPECT_THAT(listed(), ElementsAre(u"Juego uno"_s, u"Otro dos"_s));
+}
+
+TEST_F(AccionesTest, ANoteWhoseLineIsNotInTheFileIsNotChanged_AndItIsSaid)
+{
+    startAt(Zeta, 0);
+    addWords();
+    for (const bool block : { true, false }) {
+        QByteArray other = notes();
+        other.replace("ONE.NES,\"Juego uno\"", "ONE.NES\r\n\"Juego uno\"");
+        if (!block)
+            other.replace("Zeta\r\n", "Zeta 2\r\n");
+        files.write(u"Zembro.rom"_s, other);
+        QStringList told;
+        clickRow(list(), block ? 0 : 1);
+        answer(
+            u"Otro"_s, [&] { told = toldBy([&] { describe(); }); }, block ? u"Juego uno"_s : u"two.nes"_s);
+        EXPECT_THAT(
+            told, ElementsAre(u"Sin anotar"_s, u"Zembro.rom no tiene la línea que habría que cambiar."_s));
+        EXPECT_EQ(notes(), other);
+        EXPECT_THAT(listed(), ElementsAre(u"Juego uno"_s, u"two.nes"_s));
+    }
 }
 
 TEST_F(AccionesTest, ANoteBehindAFirstOneWithoutAKeyIsChangedAndGivenParametersAndThrownAway)
