@@ -146,11 +146,48 @@ bool esRegistroDeNota(QStringView linea)
     return coma >= 0 && linea.sliced(coma + 1).trimmed().startsWith(u'"');
 }
 
-// What ends a block that has lost its apostrophe. A bare key may begin as the end of the systems does.
-bool acabaElBloque(QStringView linea, const QStringList &otros)
+using Lineas = std::vector<LineaConFin>;
+
+// A record may stand on two lines: this one is a key if a description in double quotes is alone on the next.
+bool esClaveSola(const Lineas &lineas, size_t indice)
 {
-    return linea.startsWith(InicioParametros) || otros.contains(linea)
-        || (linea.startsWith(u'[') && !esRegistroDeNota(linea));
+    if (indice + 1 >= lineas.size())
+        return false;
+    const QStringView siguiente = lineas[indice + 1].linea.trimmed();
+    const qsizetype cierre = siguiente.startsWith(u'"') ? siguiente.indexOf(u'"', 1) : -1;
+    return cierre > 0 && siguiente.indexOf(u',', cierre) < 0;
+}
+
+bool esCabecera(const Lineas &lineas, size_t indice, const QStringList &sistemas)
+{
+    return sistemas.contains(lineas[indice].linea) && !esClaveSola(lineas, indice);
+}
+
+// The line that begins with "[" behind the last system. The key of a note may begin so too; where its
+// description has no quotes, the rest of its block follows.
+bool acabaLosSistemas(const Lineas &lineas, size_t indice, const QStringList &sistemas)
+{
+    const auto esNota = [&](size_t i) { return esRegistroDeNota(lineas[i].linea) || esClaveSola(lineas, i); };
+    if (!lineas[indice].linea.startsWith(u'[') || esNota(indice))
+        return false;
+    if (!lineas[indice].linea.contains(u','))
+        return true;
+    for (size_t i = indice + 1; i < lineas.size(); ++i) {
+        const QStringView linea = lineas[i].linea;
+        if (linea.startsWith(u'\'') || esCabecera(lineas, i, sistemas))
+            return false;
+        if (linea.startsWith(InicioParametros)
+            || (linea.startsWith(u'[') && !linea.contains(u',') && !esNota(i)))
+            return true;
+    }
+    return true;
+}
+
+// What ends a block that has lost its apostrophe.
+bool acabaElBloque(const Lineas &lineas, size_t indice, const QStringList &otros)
+{
+    return lineas[indice].linea.startsWith(InicioParametros) || esCabecera(lineas, indice, otros)
+        || acabaLosSistemas(lineas, indice, otros);
 }
 
 // The next note, if there is one ahead of the closing apostrophe, at this index.
@@ -314,15 +351,16 @@ QString ConParametrosCambiados(const QString &texto, const Parametros &parametro
 
 QString ConSistemaNuevo(const QString &texto, const QString &sistema)
 {
+    const Lineas lineas = EnLineas(texto);
     Copia copia;
     bool escrito = false;
-    for (const LineaConFin &linea : EnLineas(texto)) {
-        if (!escrito && linea.linea.startsWith(u'[')) {
+    for (size_t i = 0; i < lineas.size(); ++i) {
+        if (!escrito && acabaLosSistemas(lineas, i, {})) {
             copia.Nueva(sistema);
             copia.Nueva(u"'"_s);
             escrito = true;
         }
-        copia.Copiar(linea);
+        copia.Copiar(lineas[i]);
     }
     return copia.Texto();
 }
@@ -343,13 +381,15 @@ QString SinParametrosDeSistema(const QString &texto, const QString &sistema)
 
 QString SinNotasDeSistema(const QString &texto, const QString &sistema, const QStringList &otros)
 {
+    const Lineas lineas = EnLineas(texto);
     Copia copia;
     bool dentro = false;
-    for (const LineaConFin &linea : EnLineas(texto)) {
-        dentro = linea.linea == sistema || (dentro && !acabaElBloque(linea.linea, otros));
+    for (size_t i = 0; i < lineas.size(); ++i) {
+        const QStringView linea = lineas[i].linea;
+        dentro = linea == sistema || (dentro && !acabaElBloque(lineas, i, otros));
         if (!dentro)
-            copia.Copiar(linea);
-        if (linea.linea.startsWith(u'\''))
+            copia.Copiar(lineas[i]);
+        if (linea.startsWith(u'\''))
             dentro = false;
     }
     return copia.Texto();

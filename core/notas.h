@@ -67,8 +67,8 @@ QString ConParametrosNuevos(const QString &texto, const Parametros &parametros);
 // missing.
 QString ConParametrosCambiados(const QString &texto, const Parametros &parametros);
 
-// An empty block for a system ahead of the first line that begins with "["; without such a line nothing
-// changes.
+// An empty block for a system ahead of the first line that begins with "[" and is no note; without such a
+// line nothing changes.
 QString ConSistemaNuevo(const QString &texto, const QString &sistema);
 
 // Without the parameter records whose second field is the system, case apart. The rest as above.

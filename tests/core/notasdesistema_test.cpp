@@ -154,6 +154,30 @@ TEST_F(NotasDeSistema, RecordsOfItsBlockGo_WhateverTheirQuotes)
     EXPECT_EQ(SinNotas("One\r\n'\r\nTwo\r\n" + registros + "'\r\n[\r\n", u"Two"_s), "One\r\n'\r\n[\r\n");
 }
 
+TEST_F(NotasDeSistema, ANoteThatLooksLikeTheEndOfABlockGoesWithIt)
+{
+    const QByteArray resto = "One\r\nA,\"a\"\r\n'\r\n[Fin]\r\n" + Seccion + Cierre;
+    for (const QByteArray nota : { "[BIOS].ZIP,Neo BIOS", "[BIOS].ZIP\r\n\"Neo BIOS\"", "One\r\n\"A name\"",
+             "[X],\"x\"\r\n[Y],y, z" }) {
+        const QByteArray bloque = "Two\r\nB,\"b\"\r\n" + nota + "\r\nC,\"c\"\r\n'\r\n";
+        EXPECT_EQ(Cambiado(bloque + resto,
+                      [](const QString &t) { return core::SinNotasDeSistema(t, u"Two"_s, { u"One"_s }); }),
+            resto)
+            << nota.constData();
+    }
+}
+
+TEST_F(NotasDeSistema, ABlockWithoutItsApostropheTakesNothingBehindIt_WhateverItsNotesLookLike)
+{
+    const QByteArray fin = "[Fin, at last]\r\n" + Seccion + Cierre;
+    for (const QByteArray &resto : { "One\r\nK\r\n\"a\"\r\n'\r\n" + fin, "One\r\n\"K\",\"a\"\r\n'\r\n" + fin,
+             "One\r\n\"K, L\",a\r\n'\r\n" + fin, "One\r\n\"K\r\n'\r\n" + fin, "One\r\n'\r\n" + fin, fin }) {
+        EXPECT_EQ(Cambiado("Two\r\n[BIOS].ZIP,Neo BIOS\r\nC,\"c\"\r\n" + resto,
+                      [](const QString &t) { return core::SinNotasDeSistema(t, u"Two"_s, { u"One"_s }); }),
+            resto.startsWith("One") ? resto : "[BIOS].ZIP,Neo BIOS\r\nC,\"c\"\r\n" + resto);
+    }
+}
+
 TEST_F(NotasDeSistema, OnlyTheVeryHeaderOpensABlock)
 {
     const QByteArray bytes = "two\r\n'\r\nTwo \r\n'\r\n Two\r\n'\r\nTwo,\"Two\"\r\n'\r\n[\r\n\r\nlast";

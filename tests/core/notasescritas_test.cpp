@@ -254,6 +254,18 @@ TEST_F(NotasEscritas, AKeyWithABracketIsNoPlaceForANewSystem)
     EXPECT_EQ(ConSistema(conNota, u"New"_s), "Console\r\n\"[A].NES\",\"text\"\r\n'\r\nNew\r\n'\r\n" + Vacio);
 }
 
+TEST_F(NotasEscritas, ABareKeyWithABracketIsNoPlaceForANewSystemEither)
+{
+    for (const QByteArray nota :
+        { "[A] X.BIN,\"Bare bracket\"", "[A] X.BIN,Bare", "[A] X.BIN\r\n\"On the next line\"" }) {
+        const QByteArray bloque = "Console\r\n" + nota + "\r\nB.BIN,\"b\"\r\n'\r\n";
+        EXPECT_EQ(ConSistema(bloque + Vacio, u"New"_s), bloque + "New\r\n'\r\n" + Vacio) << nota.constData();
+        EXPECT_EQ(ConSistema(bloque, u"New"_s), bloque) << nota.constData();
+    }
+    const QByteArray conComa = "[the end, at last]\r\nParametros especificos\r\n'\r\n";
+    EXPECT_EQ(ConSistema(conComa, u"New"_s), "New\r\n'\r\n" + conComa);
+}
+
 TEST_F(NotasEscritas, AnEmptyStoreTakesSystemsAndNotesOneAfterTheOther)
 {
     QByteArray bytes = ConSistema(Vacio, u"Arcade"_s);

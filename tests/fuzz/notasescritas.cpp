@@ -66,9 +66,15 @@ void sistemaNuevo(const QString &texto, const QString &sistema)
 {
     const QString despues = core::ConSistemaNuevo(texto, sistema);
     ExigeSoloAñade(texto, despues);
-    const bool hayFin =
-        std::ranges::any_of(desnudas(texto), [](const QString &l) { return l.startsWith(u'['); });
-    Exige(desnudas(despues).size() == desnudas(texto).size() + (hayFin ? 2 : 0), "a system is two lines");
+    const QStringList lineas = desnudas(texto);
+    const qsizetype nuevas = desnudas(despues).size() - lineas.size();
+    Exige(nuevas == 0 || nuevas == 2, "a system is two lines");
+    // A line that begins so may also be a note's.
+    const auto empieza = [](const QString &l) { return l.startsWith(u'['); };
+    const auto acaba = [](const QString &l) { return l.startsWith(u'[') && !l.contains(u','); };
+    Exige(nuevas == 0 || std::ranges::any_of(lineas, empieza), "without their end no system is new");
+    Exige(
+        nuevas == 2 || texto.contains(u'"') || std::ranges::none_of(lineas, acaba), "a system finds a place");
 }
 
 void sinNotas(const QString &texto, const QString &sistema)
