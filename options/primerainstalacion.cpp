@@ -7,6 +7,7 @@
 
 #include "dialogs/etiqueta.h"
 
+#include "host/failure.h"
 #include "host/letters.h"
 #include "host/paths.h"
 
@@ -21,7 +22,7 @@ PrimeraInstalacion::PrimeraInstalacion(core::Modulo &modulo)
     Monta();
     List1->Selection = [this] { List1_Selection(); };
     Aceptar2->Press = [this] { Aceptar2_Press(); };
-    Aceptar2->Release = [this] { Unload(); };
+    Aceptar2->Release = [this] { Aceptar2_Release(); };
     Carga();
 }
 
@@ -63,11 +64,29 @@ void PrimeraInstalacion::List1_Selection()
     Label6->SetCaption(M.ListaLNG(List1->ListIndex()));
 }
 
+// Without a language among those offered no start would get past the reading of its texts.
+bool PrimeraInstalacion::FaltaElegir() const
+{
+    return List1->ListCount() > 0 && List1->ListIndex() < 0;
+}
+
 // On the press already: a release that never comes leaves the settings written.
 void PrimeraInstalacion::Aceptar2_Press()
 {
+    if (FaltaElegir())
+        return;
+    // What lies there has no name that the settings give back; once mended, the first run comes again.
+    if (List1->ListCount() == 0 && host::exists(host::programFile(u"LNG"_s)))
+        throw host::Failure(
+            host::FileNotFound, u"find a language file that can be chosen"_s, host::programFile(u"LNG/"_s));
     M.Ficheros.replace(
         host::programFile(u"Zembro.cfg"_s), u"Zembro.tmp"_s, core::AjustesPorDefecto(List1->Text()));
+}
+
+void PrimeraInstalacion::Aceptar2_Release()
+{
+    if (!FaltaElegir())
+        Unload();
 }
 
 } // namespace options

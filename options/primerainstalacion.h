@@ -29,7 +29,9 @@ private:
     void Monta();
     void Carga();
     void List1_Selection();
+    bool FaltaElegir() const;
     void Aceptar2_Press();
+    void Aceptar2_Release();
 
     core::Modulo &M;
 };

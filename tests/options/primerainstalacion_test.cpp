@@ -242,11 +242,30 @@ TEST_F(PrimeraInstalacionTest, ChosenLanguageIsTheOneLineThatVaries)
     EXPECT_EQ(files.read(u"Zembro.cfg"_s), firstSettings("ZB-ENG.LNG"));
 }
 
-TEST_F(PrimeraInstalacionTest, NothingSelectedWritesAnEmptyLanguage)
+TEST_F(PrimeraInstalacionTest, AcceptingWaitsUntilALanguageIsSelected)
 {
     files.remove(u"LNG/ZB-ESP.LNG"_s);
     addLanguage(u"ZB-ENG.LNG"_s, u"English"_s);
-    show([](forms::Form &form) { click(accept(form)); });
+    show([this](forms::Form &form) {
+        click(accept(form));
+        EXPECT_TRUE(form.isVisible());
+        EXPECT_FALSE(accept(form).ShowsPressed());
+        EXPECT_EQ(files.read(u"Zembro.cfg"_s), QByteArray("VACIO"));
+        clickRow(list(form), 0);
+        click(accept(form));
+        EXPECT_FALSE(form.isVisible());
+    });
+    EXPECT_EQ(files.read(u"Zembro.cfg"_s), firstSettings("ZB-ENG.LNG"));
+}
+
+TEST_F(PrimeraInstalacionTest, WithoutTheirDirectoryAnEmptyLanguageIsWritten)
+{
+    files.remove(u"LNG/ZB-ESP.LNG"_s);
+    addLanguage(u"A=B.LNG"_s, u"No"_s);
+    show([this](forms::Form &form) {
+        files.remove(u"LNG"_s);
+        click(accept(form));
+    });
     EXPECT_EQ(files.read(u"Zembro.cfg"_s), firstSettings(""));
 }
 
@@ -367,17 +386,26 @@ TEST_F(PrimerArranqueTest, DirectoryThatCannotBeWrittenEndsTheFirstRunAndKeepsIt
     EXPECT_FALSE(files.exists(u"Zembro.tmp"_s));
 }
 
-TEST_F(PrimerArranqueTest, NoLanguageChosenEndsTheStart)
+TEST_F(PrimerArranqueTest, LanguagesNoneOfWhichCanBeChosenEndTheFirstRunAndKeepItsMark)
 {
     files.remove(u"LNG/ZB-ESP.LNG"_s);
-    atModal(
-        u"PrimeraInstalacion"_s, [](forms::Form &form) { click(controlOf<QWidget>(form, u"Aceptar2"_s)); });
-    const std::optional<ProcessEnd> end = load();
-    ASSERT_TRUE(end);
-    EXPECT_EQ(end->status, 1);
-    EXPECT_EQ(end->title, u"ERROR"_s);
-    EXPECT_TRUE(end->text.endsWith(u": "_s + files.path(u"LNG/"_s))) << end->text.toStdString();
-    EXPECT_FALSE(portada->isVisible());
+    files.remove(u"LNG/ZB-ENG.LNG"_s);
+    files.writeLines(u"LNG/A=B.LNG"_s, { languageLine(u"TXT_InfoLNG"_s, u"A"_s) });
+    atModal(u"PrimeraInstalacion"_s, [this](forms::Form &form) {
+        EXPECT_EQ(controlOf<forms::ListBox>(form, u"List1"_s).ListCount(), 0);
+        const std::optional<ProcessEnd> end =
+            endOf([&] { controlOf<forms::PictureButton>(form, u"Aceptar2"_s).Press.raise(); });
+        form.Unload(); // the process would be gone
+        ASSERT_TRUE(end) << "the first run goes on";
+        EXPECT_EQ(end->status, 1);
+        EXPECT_TRUE(
+            end->text.endsWith(u"\nIn LNG subdirectory any *.LNG file\nFailed to find a language file that "
+                               "can be chosen: "_s
+                + files.path(u"LNG/"_s)))
+            << end->text.toStdString();
+    });
+    load();
+    EXPECT_EQ(files.read(u"Zembro.cfg"_s), QByteArray("VACIO\r\n"));
 }
 
 TEST_F(PrimerArranqueTest, CreditsTooShortForTheirTextEndTheStart)
