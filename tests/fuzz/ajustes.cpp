@@ -141,6 +141,8 @@ QString filtros(Entrada &entrada, Ajustes &seran)
             filtro.chop(1);
         seran.filtros << host::upper(filtro);
     }
+    while (seran.filtros.last().isEmpty()) // blank names at the end are read as the end
+        seran.filtros.removeLast();
     return texto;
 }
 

