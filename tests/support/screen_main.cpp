@@ -4,6 +4,8 @@
 
 #include "forms/application.h"
 
+#include "host/process.h"
+
 #include <gmock/gmock.h>
 
 namespace {
@@ -36,6 +38,8 @@ void withoutPlatform(QtMsgType type, const QMessageLogContext &context, const QS
 
 int main(int argc, char **argv)
 {
+    // As the program does: else the first child of all would keep what its test has set for every later one.
+    host::rememberEnvironment();
     testing::InitGoogleMock(&argc, argv);
     defaultHandler = qInstallMessageHandler(&withoutPlatform);
     TestApplication application(argc, argv);
