@@ -1,6 +1,7 @@
 #include "host/display.h"
 
 #include <QByteArray>
+#include <QList>
 
 #include <cstdint>
 #include <cstdlib>
