@@ -14,8 +14,9 @@ namespace {
 // What failed may be a line without end; a box has room for a little of it.
 QString acortado(const QString &texto)
 {
-    constexpr qsizetype largo = 300;
-    return texto.size() > largo ? texto.first(host::behindFirst(texto, largo)) + u"..."_s : texto;
+    constexpr qsizetype largo = 300; // characters
+    const qsizetype fin = host::behindFirst(texto, largo);
+    return fin < texto.size() ? texto.first(fin) + u"..."_s : texto;
 }
 
 bool hayIdiomas()

@@ -1,5 +1,7 @@
 #include "forms/popupmenu.h"
 
+#include "forms/shownpart.h"
+
 #include <QCursor>
 
 namespace forms {
@@ -12,13 +14,16 @@ MenuEntry::MenuEntry(QAction *action)
 
 QString MenuEntry::Caption() const
 {
-    return m_action->text();
+    return m_caption;
 }
 
 void MenuEntry::SetCaption(const QString &caption)
 {
     // What stands behind a tab would be shown as the entry's key.
-    m_action->setText(QString(caption).replace(u'\t', u' '));
+    m_caption = caption;
+    m_caption.replace(u'\t', u' ');
+    // The toolkit measures the whole text of an entry for the width of the menu.
+    m_action->setText(shownPart(m_caption));
 }
 
 PopupMenu::PopupMenu(const QString &name, QWidget *parent)
@@ -31,9 +36,10 @@ PopupMenu::~PopupMenu() = default;
 
 MenuEntry *PopupMenu::AddEntry(const QString &name, const QString &caption)
 {
-    QAction *action = addAction(caption);
+    QAction *action = addAction(QString());
     action->setObjectName(name);
     m_entries.push_back(std::unique_ptr<MenuEntry>(new MenuEntry(action)));
+    m_entries.back()->SetCaption(caption);
     return m_entries.back().get();
 }
 

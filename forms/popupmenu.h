@@ -25,6 +25,7 @@ private:
     friend class PopupMenu;
     explicit MenuEntry(QAction *action);
     QAction *m_action;
+    QString m_caption;
 };
 
 class PopupMenu : public QMenu {

@@ -1,5 +1,7 @@
 #include "forms/shape.h"
 
+#include "forms/shownpart.h"
+
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
@@ -28,7 +30,7 @@ QRect Shape::headingRect() const
     if (!m_heading || m_heading->isHidden() || m_heading->text().isEmpty())
         return {};
     const QFontMetrics letters = m_heading->fontMetrics();
-    const QSize size(letters.horizontalAdvance(m_heading->text()), letters.height());
+    const QSize size(letters.horizontalAdvance(shownPart(m_heading->text())), letters.height());
     const QRect words =
         QStyle::alignedRect(Qt::LeftToRight, m_heading->alignment(), size, m_heading->geometry());
     return words.translated(-pos()).adjusted(-Air, 0, Air, 0);

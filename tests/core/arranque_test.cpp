@@ -123,6 +123,9 @@ TEST(TextoDeFallo, CutsWhatHasNoEnd)
             + largo.first(300) + u"..."_s);
     EXPECT_EQ(core::TextoDeFallo(host::Failure(5, justo, justo), false),
         u"An unknown error has occurred. (ERR5)\nFailed to "_s + justo + u": "_s + justo);
+    const QString raro = QStringLiteral("\U00010428").repeated(300);
+    EXPECT_EQ(core::TextoDeFallo(host::Failure(5, raro, raro), false),
+        u"An unknown error has occurred. (ERR5)\nFailed to "_s + raro + u": "_s + raro);
 }
 
 namespace {

@@ -5,6 +5,8 @@
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/listbox.h"
+#include "forms/popupmenu.h"
+#include "forms/shape.h"
 #include "forms/shownpart.h"
 
 #include <gtest/gtest.h>
@@ -98,6 +100,27 @@ TEST_P(EndlessTexts, AreSoonPaintedInALabelOfOneLineAndOfMany)
     lines.SetCaption(text);
     EXPECT_LT(workToPaint(form), Bound);
     EXPECT_EQ(lines.text(), text);
+}
+
+TEST_P(EndlessTexts, AreSoonPaintedAsTheHeadingOfAFrame)
+{
+    forms::Shape frame(Qt::black, &form);
+    frame.setGeometry(5, 10, 150, 60);
+    forms::Label heading(&form);
+    heading.SetPlace({ 120, 120, 1500, 210 });
+    heading.SetCaption(text);
+    frame.SetHeading(&heading);
+    EXPECT_LT(workToPaint(form), Bound);
+}
+
+TEST_P(EndlessTexts, AreSoonMeasuredInAMenu)
+{
+    forms::PopupMenu menu(u"Menu"_s, &form);
+    forms::MenuEntry *entry = menu.AddEntry(u"Entry"_s, text);
+    EXPECT_LT(workOf([&] { menu.sizeHint(); }), Bound);
+    EXPECT_EQ(entry->Caption(), text);
+    entry->SetCaption(u"Short"_s);
+    EXPECT_EQ(menu.actions().constFirst()->text(), u"Short"_s);
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, EndlessTexts,
