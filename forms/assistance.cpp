@@ -71,6 +71,9 @@ public:
     {
         QAccessible::State state = QAccessibleWidget::state();
         state.offscreen = IsCovered(*widget());
+        // The toolkit says it of each control that would hand the focus on to the one that has it.
+        if (widget()->focusProxy())
+            state.focused = false;
         state.linked = role() == QAccessible::Link;
         if (assistance().isOn) {
             state.checkable = true;

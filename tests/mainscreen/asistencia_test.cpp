@@ -178,6 +178,8 @@ TEST_F(AsistenciaTest, WhatAnOpenTextCoversIsNotToldAsShowing)
     ASSERT_TRUE(portada->Editor->isVisible());
     for (const QString &name : { u"Combo1"_s, u"BotonA2"_s, u"TXT_Borrar"_s, u"Graf_Imagen"_s, u"X2"_s })
         EXPECT_TRUE(told(name).state().offscreen || told(name).state().invisible) << name.toStdString();
+    for (const QString &name : { u"BotonA2"_s, u"BotonB2"_s, u"Menos2a"_s, u"E1"_s, u"Graf_Imagen"_s })
+        EXPECT_FALSE(told(name).state().focused) << name.toStdString();
     EXPECT_FALSE(told(u"FlechaE2"_s).state().offscreen);
     EXPECT_FALSE(told(u"Titulo1"_s).state().offscreen);
     click(control(u"FlechaE2"_s));
