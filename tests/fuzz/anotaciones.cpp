@@ -2,6 +2,7 @@
 // file.
 #include "entrada.h"
 #include "mundo.h"
+#include "parametros.h"
 #include "temas.h"
 
 #include "core/lineas.h"
@@ -117,18 +118,6 @@ QString principio(Entrada &entrada, Cuaderno &cuaderno)
     }
 }
 
-// What is read back of parameters: with double quotes in them they lose the blanks at their ends.
-QString leidas(QStringView texto)
-{
-    if (!texto.contains(u'"'))
-        return texto.toString();
-    while (texto.startsWith(u' '))
-        texto = texto.sliced(1);
-    while (texto.endsWith(u' '))
-        texto.chop(1);
-    return texto.toString();
-}
-
 // A text of one line.
 QString unaLinea(Entrada &entrada)
 {
@@ -236,7 +225,7 @@ void Pasos::parametrosNuevos()
     if (!core::SePuedeEscribir(nuevos.clave))
         return;
     m_texto = core::ConParametrosNuevos(m_texto, nuevos);
-    nuevos.texto = leidas(nuevos.texto);
+    nuevos.texto = ParametrosLeidos(nuevos.texto);
     m_cuaderno.parametros.prepend(nuevos);
 }
 
@@ -249,7 +238,7 @@ void Pasos::parametrosCambiados()
     nuevos.clave = m_cuaderno.parametros[cual % m_cuaderno.parametros.size()].clave;
     m_texto = core::ConParametrosCambiados(m_texto, nuevos);
     const bool seVan = nuevos.texto.isEmpty();
-    nuevos.texto = leidas(nuevos.texto);
+    nuevos.texto = ParametrosLeidos(nuevos.texto);
     QList<core::Parametros> quedan;
     for (const core::Parametros &unos : std::as_const(m_cuaderno.parametros)) {
         const bool propios = host::sameName(unos.clave, nuevos.clave);

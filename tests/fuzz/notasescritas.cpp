@@ -1,6 +1,7 @@
 // Notes and parameters written into any file: what no change may do, whatever stands there.
 #include "catalogos.h"
 #include "mundo.h"
+#include "parametros.h"
 #include "temas.h"
 
 #include "core/lineas.h"
@@ -115,18 +116,6 @@ std::optional<Registros> registros(const QString &texto)
     }
 }
 
-// What is read back of parameters: with double quotes in them they lose the blanks at their ends.
-QString leidas(QStringView texto)
-{
-    if (!texto.contains(u'"'))
-        return texto.toString();
-    while (texto.startsWith(u' '))
-        texto = texto.sliced(1);
-    while (texto.endsWith(u' '))
-        texto.chop(1);
-    return texto.toString();
-}
-
 void parametrosNuevos(const QString &texto, const core::Parametros &nuevos)
 {
     const QString despues = core::ConParametrosNuevos(texto, nuevos);
@@ -140,7 +129,7 @@ void parametrosNuevos(const QString &texto, const core::Parametros &nuevos)
         return;
     host::TextSource fuente(despues);
     ExigeIgual(core::ParametrosEscritos(fuente, nuevos.clave, nuevos.sistema, nuevos.emulador),
-        leidas(nuevos.texto), "the parameters are read back");
+        ParametrosLeidos(nuevos.texto), "the parameters are read back");
 }
 
 // The records of other keys are read as they were; a change leaves as many as there were, a removal none.
@@ -161,7 +150,8 @@ void parametrosCambiados(const QString &texto, const core::Parametros &nuevos)
         if (!host::sameName(registro[0], nuevos.clave))
             serian << registro;
         else if (!nuevos.texto.isEmpty())
-            serian << QStringList { nuevos.clave, nuevos.sistema, nuevos.emulador, leidas(nuevos.texto) };
+            serian << QStringList { nuevos.clave, nuevos.sistema, nuevos.emulador,
+                ParametrosLeidos(nuevos.texto) };
     }
     ExigeIgual(enTexto(*leidos), enTexto(serian), "the other records stay as they are");
 }
