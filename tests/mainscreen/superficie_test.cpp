@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QTest>
-#include <QToolTip>
 #include <QTimer>
 
 #include <algorithm>
@@ -505,75 +504,6 @@ TEST_F(SuperficieTest, MenuKeyOpensTheMenuOfTheControl)
     EXPECT_FALSE(popsUp(*portada->Menu_Lista1, [&] { askIn(u"Lista1"_s); }));
 }
 
-TEST_F(SuperficieTest, LettersTypedInTheListJumpToTheEntry)
-{
-    startAt(Zeta, 0);
-    list().setFocus();
-    type(*portada, u"tw"_s);
-    EXPECT_EQ(list().Text(), u"two.nes"_s);
-    EXPECT_EQ(info(), u"two.nes 2Kb  [NOR]"_s);
-}
-
-TEST_F(SuperficieTest, LettersWithWhichNoEntryBeginsFindOneThatHoldsThemAndF4GoesOn)
-{
-    startAt(Zeta, 0);
-    list().Clear();
-    for (const QString &text : { u"Alpha"_s, u"The Légend"_s, u"Two"_s, u"LEGENDS II"_s, u"The End"_s })
-        list().AddItem(text);
-    list().setFocus();
-    strike(*portada, Qt::Key_F4); // nothing was typed yet
-    EXPECT_EQ(list().Text(), QString());
-    type(*portada, u"gend"_s);
-    EXPECT_EQ(list().Text(), u"The Légend"_s);
-    for (const QString &next : { u"LEGENDS II"_s, u"The Légend"_s }) {
-        strike(*portada, Qt::Key_F4);
-        EXPECT_EQ(list().Text(), next);
-    }
-    strike(*portada, Qt::Key_F4, Qt::ShiftModifier);
-    EXPECT_EQ(list().Text(), u"LEGENDS II"_s);
-    QTest::qWait(QApplication::keyboardInputInterval() + 50);
-    type(*portada, u"tw"_s);
-    EXPECT_EQ(list().Text(), u"Two"_s);
-}
-
-// The toolkit's own search counts a letter typed again for a step to the next entry.
-TEST_F(SuperficieTest, LettersWithWhichEntriesBeginDoWhatTheyAlwaysDid)
-{
-    startAt(Zeta, 0);
-    list().Clear();
-    for (const QString &text : { u"The One"_s, u"Atta"_s, u"Two"_s, u"The End"_s })
-        list().AddItem(text);
-    const auto after = [&](const QString &letters) {
-        QTest::qWait(QApplication::keyboardInputInterval() + 50);
-        list().setFocus();
-        list().SetListIndex(0);
-        type(*portada, letters);
-        return list().Text();
-    };
-    const std::vector<QString> typed { u"t"_s, u"tt"_s, u"ttt"_s, u"two"_s, u"the e"_s, u"a"_s };
-    std::vector<QString> found;
-    for (const QString &letters : typed)
-        found.push_back(after(letters));
-    list().Find = {};
-    for (size_t i = 0; i < typed.size(); ++i)
-        EXPECT_EQ(after(typed[i]), found[i]) << typed[i].toStdString();
-}
-
-TEST_F(SuperficieTest, EveryStepOfASearchTellsOfItsEntryOnce)
-{
-    startAt(Zeta, 0);
-    list().setFocus();
-    list().SetListIndex(0);
-    ASSERT_NE(list().Text(), u"two.nes"_s);
-    int told = 0;
-    list().Selection = [&] { ++told; };
-    type(*portada, u".nes"_s);
-    EXPECT_EQ(list().Text(), u"two.nes"_s);
-    EXPECT_EQ(told, 1);
-    strike(*portada, Qt::Key_F4); // it is the only one
-    EXPECT_EQ(told, 1);
-}
-
 TEST_F(SuperficieTest, ControlsAreNamedInTheChosenLanguage)
 {
     QStringList language = languageLines();
@@ -605,68 +535,4 @@ TEST_F(SuperficieTest, WordsOfTheLastLanguageDoNotStayBehind)
     M->LanguageFile = u"B.LNG"_s;
     portada->Textos();
     EXPECT_EQ(control(u"Flecha2"_s).accessibleName(), u"Salir"_s);
-}
-
-TEST_F(SuperficieTest, SizeOfTheNextStartIsPickedByKeys)
-{
-    startAt(Zeta, 0);
-    const double shown = portada->devicePixelRatioF();
-    ASSERT_EQ(shown, 1);
-    strike(*portada, Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.25\r\n");
-    EXPECT_THAT(QToolTip::text().toStdString(), testing::HasSubstr("Tamaño: 125 %, al volver"));
-    strike(*portada, Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.5\r\n");
-    strike(*portada, Qt::Key_Minus, Qt::ControlModifier);
-    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.25\r\n");
-    EXPECT_EQ(portada->devicePixelRatioF(), shown);
-    QToolTip::hideText();
-}
-
-TEST_F(SuperficieTest, SizeIsPickedByTheWheelOnTheTitle_WithControl)
-{
-    startAt(Zeta, 0);
-    auto &title = control<forms::Image>(u"Titulo1"_s);
-    const auto turn = [&](int eighths, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
-        turnWheel(title, QPoint(5, 5), eighths, modifiers);
-    };
-    turn(120, Qt::NoModifier);
-    EXPECT_FALSE(files.exists(u"Zembro.tam"_s));
-    turn(60);
-    EXPECT_FALSE(files.exists(u"Zembro.tam"_s));
-    turn(60);
-    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.25\r\n");
-    turn(360);
-    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 2\r\n");
-    turn(-240);
-    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.5\r\n");
-    turn(30000);
-    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 4\r\n");
-    QToolTip::hideText();
-}
-
-TEST_F(SuperficieTest, SizeIsKeptAsAPartOfWhatTheDesktopMultipliesBy)
-{
-    startAt(Zeta, 0);
-    const QByteArray factor = qgetenv("QT_SCALE_FACTOR");
-    qputenv("QT_SCALE_FACTOR", "0.5"); // so the desktop's own would be 2
-    strike(*portada, Qt::Key_Plus, Qt::ControlModifier);
-    qputenv("QT_SCALE_FACTOR", factor);
-    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 0.625\r\n");
-    QToolTip::hideText();
-}
-
-TEST_F(SuperficieTest, SizeThatCannotBeKeptIsToldInWords)
-{
-    startAt(Zeta, 0);
-    files.makeDirectory(u"Zembro.tam"_s);
-    bool told = false;
-    atModal(u"Caja"_s, [&](forms::Form &form) {
-        told = true;
-        EXPECT_EQ(form.Caption(), M->Palabras.Zem_NoParam0);
-        EXPECT_FALSE(controlOf<forms::Label>(form, u"Texto2"_s).Caption().isEmpty());
-        click(controlOf<QWidget>(form, u"Aceptar2"_s));
-    });
-    strike(*portada, Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_TRUE(told);
 }

@@ -1,0 +1,73 @@
+// The size of the next start, picked by keys and by the wheel on the title.
+
+#include "mundotest.h"
+
+#include <QToolTip>
+
+using namespace Qt::StringLiterals;
+
+using TamanoTest = MundoTest;
+
+TEST_F(TamanoTest, SizeOfTheNextStartIsPickedByKeys)
+{
+    startAt(Zeta, 0);
+    const double shown = portada->devicePixelRatioF();
+    ASSERT_EQ(shown, 1);
+    strike(*portada, Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.25\r\n");
+    EXPECT_THAT(QToolTip::text().toStdString(), testing::HasSubstr("Tamaño: 125 %, al volver"));
+    strike(*portada, Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.5\r\n");
+    strike(*portada, Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.25\r\n");
+    EXPECT_EQ(portada->devicePixelRatioF(), shown);
+    QToolTip::hideText();
+}
+
+TEST_F(TamanoTest, SizeIsPickedByTheWheelOnTheTitle_WithControl)
+{
+    startAt(Zeta, 0);
+    auto &title = control<forms::Image>(u"Titulo1"_s);
+    const auto turn = [&](int eighths, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
+        turnWheel(title, QPoint(5, 5), eighths, modifiers);
+    };
+    turn(120, Qt::NoModifier);
+    EXPECT_FALSE(files.exists(u"Zembro.tam"_s));
+    turn(60);
+    EXPECT_FALSE(files.exists(u"Zembro.tam"_s));
+    turn(60);
+    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.25\r\n");
+    turn(360);
+    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 2\r\n");
+    turn(-240);
+    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.5\r\n");
+    turn(30000);
+    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 4\r\n");
+    QToolTip::hideText();
+}
+
+TEST_F(TamanoTest, SizeIsKeptAsAPartOfWhatTheDesktopMultipliesBy)
+{
+    startAt(Zeta, 0);
+    const QByteArray factor = qgetenv("QT_SCALE_FACTOR");
+    qputenv("QT_SCALE_FACTOR", "0.5"); // so the desktop's own would be 2
+    strike(*portada, Qt::Key_Plus, Qt::ControlModifier);
+    qputenv("QT_SCALE_FACTOR", factor);
+    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 0.625\r\n");
+    QToolTip::hideText();
+}
+
+TEST_F(TamanoTest, SizeThatCannotBeKeptIsToldInWords)
+{
+    startAt(Zeta, 0);
+    files.makeDirectory(u"Zembro.tam"_s);
+    bool told = false;
+    atModal(u"Caja"_s, [&](forms::Form &form) {
+        told = true;
+        EXPECT_EQ(form.Caption(), M->Palabras.Zem_NoParam0);
+        EXPECT_FALSE(controlOf<forms::Label>(form, u"Texto2"_s).Caption().isEmpty());
+        click(controlOf<QWidget>(form, u"Aceptar2"_s));
+    });
+    strike(*portada, Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_TRUE(told);
+}
