@@ -37,6 +37,14 @@ double OtroTamano(double actual, bool mayor)
     return std::clamp(siguiente * Paso, Menor, Mayor);
 }
 
+double FactorParaTamano(double pedido, double mostrado, const QByteArray &entorno)
+{
+    bool esNumero = false;
+    const double propio = entorno.toDouble(&esNumero);
+    const double delEscritorio = esNumero && propio > 0 ? mostrado / propio : mostrado;
+    return pedido / delEscritorio;
+}
+
 QString LineaDeFactor(double factor)
 {
     return Clave + QString::number(factor, 'g', 6) + u"\r\n"_s;

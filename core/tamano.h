@@ -2,6 +2,7 @@
 // the user has picked stands as the only line of Zembro.tam beside the executable, "Size = 1.5".
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <optional>
@@ -10,6 +11,10 @@ namespace core {
 
 // The size above or below this one, in quarters from 1 to 4.
 double OtroTamano(double actual, bool mayor);
+
+// The factor with which the screen comes up in the size that was picked, from the size in which it is shown
+// now and the factor that it was started with, as the environment says it.
+double FactorParaTamano(double pedido, double mostrado, const QByteArray &entorno);
 
 // The line of a factor, and the factor of a text; none where the text begins otherwise, or with a factor that
 // nobody could see or that no screen has room for.

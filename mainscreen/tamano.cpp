@@ -17,18 +17,6 @@
 
 namespace mainscreen {
 
-namespace {
-
-// What the desktop multiplies by, without the part that this program has in it.
-double delEscritorio(double factor)
-{
-    bool esNumero = false;
-    const double propio = qgetenv("QT_SCALE_FACTOR").toDouble(&esNumero);
-    return esNumero && propio > 0 ? factor / propio : factor;
-}
-
-} // namespace
-
 void Portada::ConectaTamano()
 {
     for (const auto &[tecla, mayor] : { std::pair(Qt::Key_Plus, true), { Qt::Key_Minus, false } })
@@ -50,7 +38,7 @@ void Portada::PideTamano(bool mayor)
     const double actual = devicePixelRatioF();
     m_tamanoPedido = core::OtroTamano(m_tamanoPedido > 0 ? m_tamanoPedido : actual, mayor);
     try {
-        core::GuardaFactor(m_tamanoPedido / delEscritorio(actual));
+        core::GuardaFactor(core::FactorParaTamano(m_tamanoPedido, actual, qgetenv("QT_SCALE_FACTOR")));
     } catch (const host::Failure &fallo) {
         Aviso(M.Palabras.Zem_NoParam0, core::TextoDeFallo(fallo, false));
         return;

@@ -22,6 +22,15 @@ TEST(Tamano, GoesByQuartersFromOneToFour)
     }
 }
 
+TEST(Tamano, IsKeptWithoutTheDesktopsOwnFactor)
+{
+    EXPECT_EQ(core::FactorParaTamano(1.5, 1, "1"), 1.5);
+    EXPECT_EQ(core::FactorParaTamano(3, 2, "2"), 3); // a desktop of 1, this program at 2
+    EXPECT_EQ(core::FactorParaTamano(3, 2, "1"), 1.5); // a desktop of 2
+    for (const char *nada : { "", "x", "0", "-1" })
+        EXPECT_EQ(core::FactorParaTamano(3, 2, nada), 1.5) << nada;
+}
+
 TEST(Tamano, IsOneLine_AndComesBack)
 {
     EXPECT_EQ(core::LineaDeFactor(1.5), u"Size = 1.5\r\n");
