@@ -48,8 +48,6 @@ void Examinar::Monta()
     Directorios = coloca(new forms::DirectoryList(this), u"Directorios"_s, { 120, 600, 1815, 1890 });
     Archivos = coloca(new forms::ListBox(this, true), u"Archivos"_s, { 2040, 120, 1815, 3015 });
     Archivos->SetHorizontalBar();
-    for (forms::ListBox *lista : { static_cast<forms::ListBox *>(Directorios), Archivos })
-        lista->SetWholeRows();
     Aceptar2 = new forms::PictureButton(u"Aceptar2"_s, u"Aceptar1"_s, this);
     Aceptar2->SetPlace({ 180, 2620, 465, 405 });
     Flecha2 = new forms::PictureButton(u"Flecha2"_s, u"Flecha1"_s, this);

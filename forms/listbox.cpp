@@ -59,29 +59,15 @@ void ListBox::SetHorizontalBar()
     setUniformItemSizes(false); // else all count for as wide as one of them
 }
 
-void ListBox::SetWholeRows()
+int ListBox::rowsEnd() const
 {
-    m_blank = new QWidget(this);
-    m_blank->setAutoFillBackground(true);
-    m_blank->setBackgroundRole(QPalette::Base);
-    m_blank->lower();
-    updateGeometries();
+    const int height = viewport()->height();
+    return height - height % fontMetrics().height();
 }
 
-void ListBox::updateGeometries()
+QModelIndex ListBox::indexAt(const QPoint &point) const
 {
-    if (m_blank) {
-        const int rest = (viewport()->height() + viewportMargins().bottom()) % fontMetrics().height();
-        if (rest != viewportMargins().bottom())
-            setViewportMargins(0, 0, 0, rest);
-    }
-    Control::updateGeometries();
-    // A bar that comes or goes moves the rows' end; while the list is hidden, nobody is told of it.
-    if (m_blank) {
-        const QRect rows = viewport()->geometry();
-        m_blank->setGeometry(
-            QRect(rows.bottomLeft() + QPoint(0, 1), QPoint(rows.right(), contentsRect().bottom())));
-    }
+    return point.y() < rowsEnd() ? Control::indexAt(point) : QModelIndex();
 }
 
 // Neighbours share the dots at their edges, and what one of them leaves there the other has to paint anew.
@@ -103,11 +89,13 @@ void ListBox::scrollContentsBy(int dx, int dy)
     viewport()->update();
 }
 
-void ListBox::paintEvent(QPaintEvent *event)
+void ListBox::paintEvent(QPaintEvent *)
 {
+    // Letters may hang over the row's edge: all rows are painted, wherever one has to be.
+    QPaintEvent rows(QRect(0, 0, viewport()->width(), rowsEnd()));
     for (const Rows::Layer layer : { Rows::Layer::Grounds, Rows::Layer::Letters }) {
         m_rows->SetLayer(layer);
-        Control::paintEvent(event);
+        Control::paintEvent(&rows);
     }
 }
 

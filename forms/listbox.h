@@ -16,7 +16,8 @@ class Rows;
 // already; so does a press of the left button on an entry, also on the selected one, and a move by the
 // keyboard; where none is selected, an arrow selects the entry that the keyboard stands on, and Home and End
 // select theirs. The right and the middle button never select, and neither does the pointer moved with a
-// button held. Adding, removing and clearing raise nothing.
+// button held. Adding, removing and clearing raise nothing. No row is cut off at the bottom: what is left of
+// the height stays blank.
 class ListBox : public Control<QListWidget> {
 public:
     explicit ListBox(QWidget *parent, bool sorted = false);
@@ -45,8 +46,6 @@ public:
     // A bar along the bottom where an entry is wider than the list. Without one it is cut off.
     void SetHorizontalBar();
 
-    void SetWholeRows(); // no row is cut off at the bottom: what is left of the height stays blank
-
     // For letters typed with which no entry begins as they stand: the index to select, or -1. With one for
     // going on, F4 and Shift+F4 (`back`) select the entry that it gives for the letters typed last.
     std::function<int(const QString &typed)> Find;
@@ -54,12 +53,12 @@ public:
 
     int LetterWidth() const; // of an entry, that can be seen, in pixels
     int TopIndex() const; // the first entry in view
+    QModelIndex indexAt(const QPoint &point) const override;
     // The entry at this point of the client area, in pixels; below the last entry ListCount() is given where
     // that is still inside the control, -1 outside.
     int ItemFromPoint(int x, int y) const;
 
 protected:
-    void updateGeometries() override;
     void keyboardSearch(const QString &letters) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
@@ -81,12 +80,12 @@ private:
     bool begins(const QString &typed) const;
     void findNext(bool back);
     bool press(const QMouseEvent &event);
+    int rowsEnd() const; // of those that have room, in pixels of the client area
 
     bool m_sorted;
     QString m_typed; // without a longer pause
     QElapsedTimer m_sinceTyped;
     Rows *m_rows;
-    QWidget *m_blank = nullptr; // fills what lies between the rows and the frame, or the bar below
 };
 
 } // namespace forms

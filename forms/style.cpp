@@ -5,6 +5,7 @@
 #include "forms/shownpart.h"
 #include "forms/styleparts.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
@@ -20,6 +21,14 @@ QStyleOptionViewItem shownRow(const QStyleOptionViewItem &row)
     QStyleOptionViewItem shown = row;
     shown.text = shownPart(row.text);
     return shown;
+}
+
+// The line may be thinner than the frame that it is drawn on.
+void fillUnderEdge(QPainter &painter, const QStyleOption &option, int width)
+{
+    const QRegion edge = QRegion(option.rect) - option.rect.adjusted(width, width, -width, -width);
+    for (const QRect &side : edge)
+        painter.fillRect(side, option.palette.brush(QPalette::Base));
 }
 
 } // namespace
@@ -121,6 +130,9 @@ void Style::drawPrimitive(
         return;
     }
     case PE_Frame:
+        if (const auto *area = qobject_cast<const QAbstractScrollArea *>(widget))
+            fillUnderEdge(*painter, *option, area->frameWidth());
+        return drawEdge(*painter, *option);
     case PE_FrameLineEdit:
         return drawEdge(*painter, *option);
     case PE_PanelMenu:

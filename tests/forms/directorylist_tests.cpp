@@ -83,7 +83,6 @@ TEST_F(DirectoryLists, ThePath_ShowsTheWayToItAndWhatLiesInIt)
 TEST_F(DirectoryLists, WhereABarBelowWasNeededBeforeTheFormShowed_TheBottomIsBlank)
 {
     form.SetBackColour(Qt::black);
-    list.SetWholeRows();
     QDir(path()).mkpath(u"wide/"_s + QString(60, u'm'));
     for (const int rest : { 0, 1, 5, 11 }) {
         form.hide();

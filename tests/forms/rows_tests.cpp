@@ -99,6 +99,15 @@ protected:
             list.AddItem(i == row ? Letters : u"nnn"_s);
     }
 
+    QImage pictureOfRows(int first, int count)
+    {
+        list.Clear();
+        for (int i = first; i < first + count; ++i)
+            list.AddItem(Letters + QString::number(i));
+        list.SetListIndex(count - 1);
+        return pictureOf(list, GetParam());
+    }
+
     // The letters of the row, found by the dots that differ least.
     void expectWhole(int row, const QImage &picture, bool selected)
     {
@@ -153,6 +162,26 @@ TEST_P(RowPictures, TheDotsOfTheFocusLeaveTheLettersOut)
         list.SetListIndex(row);
         const QImage picture = pictureOf(form, GetParam());
         expectWhole(row, picture, true);
+    }
+}
+
+TEST_P(RowPictures, BelowTheLastWholeRowNothingOfTheNextShows)
+{
+    constexpr int Many = 40;
+    list.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    drive::show(form);
+    const int high = list.fontMetrics().height();
+    for (const int rest : { 0, 1, 5, high - 1 }) {
+        list.resize(120, Rows * high + rest + 2 * list.frameWidth());
+        const QImage alone = pictureOfRows(0, Rows);
+        const QImage last = pictureOfRows(Many - Rows, Rows);
+        EXPECT_EQ(pictureOfRows(0, Many), last) << rest;
+        list.scrollToTop();
+        list.SetListIndex(Rows - 1);
+        EXPECT_EQ(pictureOf(list, GetParam()), alone) << rest;
+        fillAround(Rows - 1);
+        list.AddItem(Letters);
+        expectWhole(Rows - 1, pictureOf(form, GetParam()), false);
     }
 }
 

@@ -6,6 +6,8 @@
 #include "forms/colours.h"
 #include "forms/combobox.h"
 #include "forms/commandbutton.h"
+#include "forms/form.h"
+#include "forms/listbox.h"
 #include "forms/messageicons.h"
 #include "forms/pieces.h"
 #include "forms/textbox.h"
@@ -100,6 +102,15 @@ int whites(const QImage &picture, int least = 255)
         }
     }
     return count;
+}
+
+QImage pictureOf(QWidget &widget, double scale)
+{
+    QPixmap picture((QSizeF(widget.size()) * scale).toSize());
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::magenta);
+    widget.render(&picture);
+    return picture.toImage().convertToFormat(QImage::Format_RGB32);
 }
 
 class Looks : public testing::Test {
@@ -284,6 +295,34 @@ TEST_F(Looks, OfAnOpenListAreThoseOfAMenu)
     const QImage list = combo.view()->viewport()->grab().toImage();
     combo.hidePopup();
     EXPECT_EQ(QColor(list.pixel(list.width() - 3, 3)), popupColours().color(QPalette::Base));
+}
+
+TEST(Frames, BetweenTheLineAndWhatItFramesNothingOfTheScreenShows)
+{
+    forms::Form form(u"Form"_s, 3000, 2250, forms::Form::Border::None);
+    form.SetBackColour(Qt::magenta);
+    forms::ListBox list(&form);
+    forms::TextArea text(&form);
+    for (QAbstractScrollArea *framed : std::initializer_list<QAbstractScrollArea *> { &list, &text }) {
+        const QRgb edge = framed->palette().color(QPalette::Dark).rgb();
+        const QRgb paper = framed->palette().color(QPalette::Base).rgb();
+        list.hide();
+        text.hide();
+        framed->show();
+        for (const double scale : { 1.0, 1.1, 1.25, 1.33, 1.5, 1.75, 2.0, 2.25, 2.5, 3.0 }) {
+            for (int at = 7; at < 11; ++at) {
+                framed->setGeometry(at, at, 121, 104 + at);
+                const QImage picture = pictureOf(form, scale);
+                for (const QImage &each : { picture, picture.transformed(QTransform().rotate(90)) }) {
+                    QList<QRgb> met;
+                    for (const auto &[colour, length] : runsDown(each, each.width() / 2))
+                        met << colour;
+                    EXPECT_EQ(met, QList({ qRgb(255, 0, 255), edge, paper, edge, qRgb(255, 0, 255) }))
+                        << scale << ' ' << at;
+                }
+            }
+        }
+    }
 }
 
 TEST(MessageIcons, AreDrawnForTheScaleOfTheScreen)
