@@ -145,6 +145,13 @@ WindowId findWindow(const QString &title)
     return 0;
 }
 
+void closeWindowTitled(const QString &title)
+{
+    const WindowId window = findWindow(title);
+    if (window != 0)
+        closeWindow(window);
+}
+
 void closeWindow(WindowId window)
 {
     if (WindowManager *manager = windowManager())

@@ -13,6 +13,9 @@ using WindowId = std::uint32_t;
 // none.
 WindowId findWindow(const QString &title);
 
+// Asks the first window with this title to close, if there is one.
+void closeWindowTitled(const QString &title);
+
 // Asks the window to close, in the window manager's standard way; doesn't wait.
 void closeWindow(WindowId window);
 

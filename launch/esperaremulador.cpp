@@ -2,26 +2,12 @@
 
 #include "launch/ritmo.h"
 
-#include "host/windows.h"
-
 using namespace Qt::StringLiterals;
 
 namespace launch {
 
-namespace {
-
-// The console's title as it is now: handlers that run meanwhile may have changed it.
-void cierraConsola(const core::Modulo &M)
-{
-    const host::WindowId ventana = host::findWindow(M.MsgEndDOS + u" - "_s + M.TituloDOS);
-    if (ventana != 0)
-        host::closeWindow(ventana);
-}
-
-} // namespace
-
 void Vigila(core::Modulo &M, host::Process proceso, const std::function<void(int, int)> &cede,
-    const std::function<void()> &pasada)
+    const std::function<void()> &pasada, const std::function<void(const QString &)> &cierra)
 {
     RitmoDeBusqueda ritmo;
     bool terminado = false;
@@ -29,8 +15,9 @@ void Vigila(core::Modulo &M, host::Process proceso, const std::function<void(int
         terminado = proceso.hasEnded();
         cede(proceso.endDescriptor(), terminado ? 0 : int(RitmoDeBusqueda::Pausa.count()));
         pasada();
+        // The console's title as it is now: handlers that ran meanwhile may have changed it.
         if (!M.MsgEndDOS.isEmpty() && ritmo.Toca(std::chrono::steady_clock::now(), terminado))
-            cierraConsola(M);
+            cierra(M.MsgEndDOS + u" - "_s + M.TituloDOS);
     } while (!terminado);
 }
 
@@ -44,7 +31,8 @@ void EsperarEmulador(core::Modulo &M, Pantalla &pantalla, const LineaDeOrden &or
             if (pantalla.EntradasLista1() == 0)
                 pantalla.MuestraNingunaROM();
             pantalla.LLena_INFO();
-        });
+        },
+        [&pantalla](const QString &titulo) { pantalla.CierraVentana(titulo); });
 }
 
 } // namespace launch

@@ -12,9 +12,10 @@
 namespace launch {
 
 // Stays until the process has ended; meanwhile the window that a console leaves open behind its program is
-// closed. Each pass waits by `cede` (a descriptor that wakes it, milliseconds), and runs `pasada`.
+// closed by `cierra` (its title). Each pass waits by `cede` (a descriptor that wakes it, milliseconds), and
+// runs `pasada`.
 void Vigila(core::Modulo &M, host::Process proceso, const std::function<void(int, int)> &cede,
-    const std::function<void()> &pasada);
+    const std::function<void()> &pasada, const std::function<void(const QString &)> &cierra);
 
 // Starts a command line and stays in the watch until the process has ended; meanwhile the screen stays alive,
 // and the window that a console leaves open behind its program is closed. A start that fails is the caller's:

@@ -34,6 +34,9 @@ public:
     // time in milliseconds is over.
     virtual void Cede(int descriptor, int milisegundos) = 0;
 
+    // Asks another program's window with this title, case apart, to close.
+    virtual void CierraVentana(const QString &titulo) = 0;
+
     // The message box, type 4.
     virtual void Aviso(const QString &titulo, const QString &texto) = 0;
 };

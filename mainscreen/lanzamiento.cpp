@@ -7,6 +7,7 @@
 #include "forms/yield.h"
 
 #include "host/letters.h"
+#include "host/windows.h"
 
 #include "launch/jugar.h"
 
@@ -98,6 +99,11 @@ void Portada::EnfocaLista1()
 void Portada::Cede(int descriptor, int milisegundos)
 {
     forms::WaitForEvents(descriptor, milisegundos);
+}
+
+void Portada::CierraVentana(const QString &titulo)
+{
+    host::closeWindowTitled(titulo);
 }
 
 void Portada::Aviso(const QString &titulo, const QString &texto)

@@ -185,6 +185,7 @@ private:
     void SeleccionaEnLista1(const QString &texto) override;
     void EnfocaLista1() override;
     void Cede(int descriptor, int milisegundos) override;
+    void CierraVentana(const QString &titulo) override;
     void Aviso(const QString &titulo, const QString &texto) override;
 
     // Actions.

@@ -11,6 +11,7 @@
 
 #include "host/paths.h"
 #include "host/process.h"
+#include "host/windows.h"
 
 #include "launch/esperaremulador.h"
 #include "launch/intenta.h"
@@ -117,7 +118,7 @@ void Utilidades::ConvierteUna(const QString &directorio, const QString &captura)
     launch::Intenta([&] {
         conversor = host::Process::start({ host::programFile(u"CVTGIF15.EXE"_s), captura });
     });
-    launch::Vigila(M, std::move(conversor), &forms::WaitForEvents, [] {});
+    launch::Vigila(M, std::move(conversor), &forms::WaitForEvents, [] {}, &host::closeWindowTitled);
     host::deleteFile(directorio + u'/' + captura);
 }
 

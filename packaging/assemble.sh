@@ -48,6 +48,7 @@ deliver() { # source, name
 touch "$delivered"
 place 755 "$build/Zembrolix" Zembrolix
 place 755 "$build/converter/Cvtgif15.exe" Cvtgif15.exe
+place 755 "$build/companion/zembro" zembro
 
 for name in Zembro.cfg Zembro.txt Zembro.faq; do
     deliver "$beside/$name" "$name"

@@ -6,7 +6,7 @@ cd "${1:-$(dirname "$0")/..}" || exit 2
 bad=0
 complain() { echo "$*"; bad=1; }
 
-folders=(main.cpp options maintenance mainscreen launch dialogs finder core forms host)
+folders=(main.cpp options maintenance mainscreen companion launch dialogs finder core forms host)
 mapfile -t sources < <(find "${folders[@]}" converter -name '*.cpp' 2>/dev/null | sort)
 mapfile -t headers < <(find "${folders[@]}" -name '*.h' 2>/dev/null | sort)
 
@@ -44,8 +44,10 @@ for ((i = 0; i < ${#folders[@]}; i++)); do
         [ -z "$hits" ] || complain "${folders[i]} knows ${folders[j]}: $hits"
     done
 done
-hits=$(grep -rnE '#include (<Q(Widget|Label|Application|Pixmap|Gui)|"(forms|dialogs)/)' core finder launch 2>/dev/null)
+hits=$(grep -rnE '#include (<Q(Widget|Label|Application|Pixmap|Gui)|"(forms|dialogs)/)' core finder launch companion 2>/dev/null)
 [ -z "$hits" ] || complain "logic that draws: $hits"
+hits=$(grep -rn '#include "companion/' main.cpp options maintenance mainscreen 2>/dev/null)
+[ -z "$hits" ] || complain "the main program knows companion: $hits"
 
 hits=$(grep -nE '^ *# *if.*(_WIN32|__linux__|__APPLE__|Q_OS_)' "${sources[@]}" "${headers[@]}" | grep -v '^host/')
 [ -z "$hits" ] || complain "a platform conditional outside host: $hits"

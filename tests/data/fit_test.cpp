@@ -226,6 +226,7 @@ TEST(FitOfTexts, IsMeasuredForEveryKey)
     for (const Shown &shown : ShownByPortada)
         measured += shown.key;
     measured += keysShownBy<ConfigScreens>() + keysShownBy<OptionScreens>();
+    measured += languages::companionKeys(); // a terminal has room for any
     for (QString &key : measured)
         key = key.leftJustified(core::AnchoClave, u'.');
     measured.removeDuplicates();

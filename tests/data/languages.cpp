@@ -2,6 +2,8 @@
 
 #include "sources.h"
 
+#include "companion/palabras.h"
+
 #include "core/palabras.h"
 #include "core/textos.h"
 
@@ -28,6 +30,14 @@ const std::vector<Language> &delivered()
     return languages;
 }
 
+QStringList companionKeys()
+{
+    QStringList keys;
+    for (const companion::ClaveDePalabra &key : companion::ClavesDePalabras())
+        keys += key.nombre.toString();
+    return keys;
+}
+
 QStringList knownKeys()
 {
     QStringList keys;
@@ -35,6 +45,7 @@ QStringList knownKeys()
         keys += key.nombre.toString();
     for (const core::ClaveDePalabra &key : core::ClavesDePalabras())
         keys += key.nombre.toString();
+    keys += companionKeys();
     for (QString &key : keys)
         key = key.leftJustified(core::AnchoClave, u'.');
     keys.sort();

@@ -24,6 +24,9 @@ const std::vector<Language> &delivered();
 // Every key that a table of the program reads, sorted, padded with points to its columns.
 QStringList knownKeys();
 
+// Those of zembro, which shows its texts on a terminal.
+QStringList companionKeys();
+
 // The lines that set a text.
 QStringList settings(const Language &language);
 

@@ -2,6 +2,8 @@
 #include "languages.h"
 #include "sources.h"
 
+#include "companion/palabras.h"
+
 #include "core/palabras.h"
 #include "core/textos.h"
 
@@ -139,6 +141,32 @@ TEST(LanguageFiles, SayInSpanishWhatIsBuiltIn)
     const QMap<QString, QString> read = texts(languages::delivered().front());
     for (const core::ClaveDePalabra &key : core::ClavesDePalabras())
         EXPECT_EQ(read[key.nombre.toString()], builtIn.*key.variable);
+}
+
+// English where there is no language file.
+TEST(LanguageFiles, SayInEnglishWhatZembroHasBuiltIn)
+{
+    const companion::Palabras builtIn;
+    const QMap<QString, QString> read = texts(languages::delivered().at(1));
+    for (const companion::ClaveDePalabra &key : companion::ClavesDePalabras())
+        EXPECT_EQ(read[key.nombre.toString()], builtIn.*key.variable);
+}
+
+// What stands for a name, a number or a line in the text of every language.
+TEST_P(LanguageFile, NamesInItsTextsForZembroWhatTheEnglishOneNames)
+{
+    static const QRegularExpression marks(u"%[0-9]|--[a-z]+|[A-Z]{4,}"_s);
+    const auto marksOf = [](const QString &text) {
+        QStringList found;
+        for (const QRegularExpressionMatch &match : marks.globalMatch(text))
+            found += match.captured();
+        found.sort();
+        return found;
+    };
+    const QMap<QString, QString> english = texts(languages::delivered().at(1));
+    const QMap<QString, QString> read = texts(GetParam());
+    for (const QString &key : languages::companionKeys())
+        EXPECT_EQ(marksOf(read[key]), marksOf(english[key])) << key.toStdString();
 }
 
 TEST(LanguageFiles, AskInSpanishBetweenBothQuestionMarks)

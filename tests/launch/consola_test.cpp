@@ -20,6 +20,7 @@ public:
         PantallaDePrueba::Cede(descriptor, qMin(milisegundos, 20));
         QCoreApplication::processEvents();
     }
+    void CierraVentana(const QString &titulo) override { host::closeWindowTitled(titulo); }
 };
 
 class ConsolaTest : public Escenario {

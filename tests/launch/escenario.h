@@ -62,6 +62,7 @@ public:
     }
     void EnfocaLista1() override { anota(QStringLiteral("EnfocaLista1")); }
     void Cede(int descriptor, int milisegundos) override;
+    void CierraVentana(const QString &) override { }
     void Aviso(const QString &titulo, const QString &texto) override;
 
     // The calls without those of the watch, whose number nobody knows.

@@ -14,8 +14,8 @@ program="$work/My Programs/zembrolix"
 # A build whose texts say its version.
 make_build() { # version
     local name
-    mkdir -p "$build"/{converter,finder,data/beside/LNG,data/demo/games}
-    for name in Zembrolix converter/Cvtgif15.exe; do
+    mkdir -p "$build"/{converter,companion,finder,data/beside/LNG,data/demo/games}
+    for name in Zembrolix converter/Cvtgif15.exe companion/zembro; do
         printf '#!/bin/sh\necho %s\n' "$1" >"$build/$name"
     done
     cp "$finder" "$build/finder/BuscaEmuladores"
@@ -46,7 +46,7 @@ plain=$PATH
 # New: everything is there, and the catalogue is the demonstration alone: no other system has games.
 PATH=$work/bin:$plain
 anew new
-for name in Zembrolix Cvtgif15.exe Zembro.cfg Zembro.txt Zembro.faq Zembro.rom Zembro.sye LNG/ZB-ESP.LNG demo/GAME.A26; do
+for name in Zembrolix Cvtgif15.exe zembro Zembro.cfg Zembro.txt Zembro.faq Zembro.rom Zembro.sye LNG/ZB-ESP.LNG demo/GAME.A26; do
     expect "$name" version1 new
 done
 [ -x "$program/Zembrolix" ] || complain "new: the program can't be run"
@@ -112,7 +112,7 @@ anew newer
 catalogue=$(sha256sum <"$program/Zembro.emu")
 make_build version2
 run newer
-for name in Zembrolix Cvtgif15.exe Zembro.cfg Zembro.txt Zembro.faq Zembro.rom Zembro.sye LNG/ZB-ESP.LNG demo/GAME.A26; do
+for name in Zembrolix Cvtgif15.exe zembro Zembro.cfg Zembro.txt Zembro.faq Zembro.rom Zembro.sye LNG/ZB-ESP.LNG demo/GAME.A26; do
     expect "$name" version2 newer
 done
 [ "$(sha256sum <"$program/Zembro.emu")" = "$catalogue" ] || complain "newer: the catalogue has changed"

@@ -1,0 +1,25 @@
+#include "companion/ordenes.h"
+
+#include "companion/ayuda.h"
+
+#include <algorithm>
+
+namespace companion {
+
+std::span<const Orden *const> Ordenes()
+{
+    static const Orden *const ordenes[] = {
+        &OrdenAyuda(),
+    };
+    return ordenes;
+}
+
+const Orden *OrdenDe(const QString &nombre)
+{
+    const std::span<const Orden *const> ordenes = Ordenes();
+    const auto suya =
+        std::ranges::find_if(ordenes, [&](const Orden *orden) { return orden->nombre == nombre; });
+    return suya == ordenes.end() ? nullptr : *suya;
+}
+
+} // namespace companion

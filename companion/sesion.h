@@ -1,0 +1,63 @@
+// One run of a command: what it was asked, the program's state, and where its answer goes.
+#pragma once
+
+#include "companion/orden.h"
+
+#include "core/modulo.h"
+
+#include <QHash>
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+namespace companion {
+
+// Where the answer goes, and what is said beside it.
+struct Consola {
+    std::function<void(const QByteArray &)> sale;
+    std::function<void(const QByteArray &)> error;
+};
+
+// What a command line asks for.
+struct Pedido {
+    QStringList argumentos;
+    QHash<QString, QStringList> opciones; // by name; one without a value has an empty text for each time
+};
+
+class Sesion {
+public:
+    Sesion(const Pedido &pedido, const Palabras &palabrasDelIdioma, core::Modulo &modulo, Consola consola);
+
+    const Palabras &palabras;
+    core::Modulo &M; // of the program's directory; nothing but the language is read yet
+
+    // An argument counted from 0, empty if it was left out.
+    QString Argumento(qsizetype i) const { return m_pedido.argumentos.value(i); }
+    QStringList Argumentos() const { return m_pedido.argumentos; }
+    bool Tiene(const QString &opcion) const { return m_pedido.opciones.contains(opcion); }
+    QString Valor(const QString &opcion) const; // the last one given, else empty
+    bool EnJson() const { return Tiene(QStringLiteral("json")); }
+
+    // Lines of the answer; what a terminal would obey is made visible.
+    void Escribe(const QString &linea) const;
+    void Escribe(const QStringList &lineas) const;
+    // The answer, asked for as JSON.
+    void Json(const QJsonObject &objeto) const;
+
+    // A line beside the answer, on the standard error.
+    void Avisa(const QString &linea) const;
+
+    // Says why it could not run; with --json the answer says so too. Yields NoPudo.
+    int Falla(const QString &motivo) const;
+
+private:
+    Pedido m_pedido;
+    Consola m_consola;
+};
+
+// What a failure is told as.
+QString TextoDe(const host::Failure &fallo);
+
+} // namespace companion

@@ -1,0 +1,158 @@
+#include "companion/zembro.h"
+
+#include "companion/ordenes.h"
+
+#include "core/ajustes.h"
+#include "core/textos.h"
+
+#include "host/paths.h"
+
+#include <QCommandLineParser>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace companion {
+
+namespace {
+
+const QString OpcionVersion = u"version"_s;
+
+// Reads the options that it knows. What is wrong with them is `error`, told in the words of the language.
+class Lector {
+public:
+    explicit Lector(std::vector<Opcion> opciones)
+        : m_opciones(std::move(opciones))
+    {
+        for (const Opcion &opcion : m_opciones)
+            m_parser.addOption(QCommandLineOption(opcion.nombre, {}, opcion.valor));
+    }
+
+    QCommandLineParser &Parser() { return m_parser; }
+
+    void Lee(const QStringList &argumentos, Pedido &pedido)
+    {
+        m_bien = m_parser.parse(QStringList { u"zembro"_s } + argumentos);
+        pedido.argumentos = m_parser.positionalArguments();
+        for (const Opcion &opcion : m_opciones) {
+            if (!m_parser.isSet(opcion.nombre))
+                continue;
+            pedido.opciones[opcion.nombre] +=
+                opcion.valor.isEmpty() ? QStringList { QString() } : m_parser.values(opcion.nombre);
+        }
+    }
+
+    QString Error(const Palabras &palabras) const
+    {
+        if (m_bien)
+            return {};
+        const QStringList desconocidas = m_parser.unknownOptionNames();
+        if (!desconocidas.isEmpty())
+            return palabras.Zbo_NoOpcion.arg(
+                (desconocidas.first().size() > 1 ? u"--"_s : u"-"_s) + desconocidas.first());
+        return m_parser.errorText().startsWith(u"Missing") ? palabras.Zbo_NoValor : palabras.Zbo_SinValor;
+    }
+
+private:
+    std::vector<Opcion> m_opciones;
+    QCommandLineParser m_parser;
+    bool m_bien = true;
+};
+
+std::vector<Opcion> conComunes(std::vector<Opcion> opciones)
+{
+    opciones.insert(opciones.end(), OpcionesComunes().begin(), OpcionesComunes().end());
+    return opciones;
+}
+
+// The settings name the language; where they or it can't be read, it is English.
+Palabras LeeIdioma(core::Modulo &M)
+{
+    Palabras palabras;
+    try {
+        core::LeeAjustes(M);
+        core::LectorDeTextos textos(M, [](const QString &, const QString &) {});
+        const QString fichero = host::programFile(u"LNG/"_s + M.LanguageFile);
+        M.Ficheros.openForInput(1, fichero);
+        while (!M.Ficheros.atEnd(1)) {
+            const QString linea = M.Ficheros.readLine(1);
+            LeePalabra(palabras, linea);
+            try {
+                textos.Linea(linea);
+                core::LeePalabra(M.Palabras, linea);
+            } catch (const host::Failure &) {
+                // A line without its text: its word stays as it is built in.
+            }
+        }
+    } catch (const host::Failure &) {
+        // What was read stands.
+    }
+    M.Ficheros.closeAll();
+    return palabras;
+}
+
+int corre(const Orden &orden, Sesion &sesion)
+{
+    const Cabida cabida = CabidaDe(orden.argumentos);
+    const qsizetype dados = sesion.Argumentos().size();
+    if (dados < cabida.minimo || dados > cabida.maximo)
+        return sesion.Falla(sesion.palabras.Zbo_Uso.arg(Sinopsis(orden)));
+    try {
+        return orden.haz(sesion);
+    } catch (const host::Failure &fallo) {
+        return sesion.Falla(TextoDe(fallo));
+    }
+}
+
+// False if there is no such directory.
+bool VaAlDirectorio(const Pedido &pedido)
+{
+    const QStringList directorios = pedido.opciones.value(u"directory"_s);
+    if (directorios.isEmpty())
+        return true;
+    try {
+        host::setProgramDirectory(host::directoryPath(directorios.last()));
+        return true;
+    } catch (const host::Failure &) {
+        return false;
+    }
+}
+
+} // namespace
+
+int Zembro(const QStringList &argumentos, const Consola &consola)
+{
+    Pedido pedido;
+    Lector generales(conComunes({ { OpcionVersion, {}, &Palabras::Zbo_OpVersion } }));
+    generales.Parser().setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    generales.Lee(argumentos, pedido);
+    const QString nombre = pedido.argumentos.value(0);
+    const Orden *orden = OrdenDe(nombre);
+    Lector suyas(conComunes(orden ? orden->opciones : std::vector<Opcion>()));
+    if (orden)
+        suyas.Lee(pedido.argumentos.mid(1), pedido);
+
+    const bool hayDirectorio = VaAlDirectorio(pedido);
+    const auto M = std::make_unique<core::Modulo>();
+    const Palabras palabras = LeeIdioma(*M);
+    Sesion sesion(pedido, palabras, *M, consola);
+    const QString error = generales.Error(palabras) + suyas.Error(palabras);
+    if (!error.isEmpty())
+        return sesion.Falla(error);
+    if (sesion.Tiene(OpcionVersion)) {
+        sesion.Escribe(QStringLiteral("zembro " ZEMBRO_VERSION));
+        return Bien;
+    }
+    if (!nombre.isEmpty() && !orden)
+        return sesion.Falla(palabras.Zbo_NoOrden.arg(nombre));
+    if (!orden || sesion.Tiene(u"help"_s)) {
+        sesion.Escribe(orden ? AyudaDe(*orden, palabras) : AyudaDeTodo(palabras));
+        return orden || sesion.Tiene(u"help"_s) ? Bien : NoPudo;
+    }
+    if (!hayDirectorio)
+        return sesion.Falla(palabras.Zbo_NoDir.arg(sesion.Valor(u"directory"_s)));
+    return corre(*orden, sesion);
+}
+
+} // namespace companion
