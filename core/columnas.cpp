@@ -1,7 +1,10 @@
 #include "core/columnas.h"
 
 #include <QSet>
-#include <QStringList>
+#include <QStringView>
+
+#include <cstddef>
+#include <string>
 
 namespace core {
 
@@ -30,12 +33,15 @@ bool tieneTrazos(const QString &texto)
     return false;
 }
 
-QString sinTabuladores(const QString &linea)
+// By characters: one beyond U+FFFF is one of a column too.
+using Linea = std::u32string;
+
+Linea sinTabuladores(const Linea &linea)
 {
-    QString ancha;
-    for (const QChar letra : linea) {
-        if (letra == u'\t')
-            ancha += QString(AnchoDeTabulador - ancha.size() % AnchoDeTabulador, u' ');
+    Linea ancha;
+    for (const char32_t letra : linea) {
+        if (letra == U'\t')
+            ancha.append(AnchoDeTabulador - ancha.size() % AnchoDeTabulador, U' ');
         else
             ancha += letra;
     }
@@ -43,30 +49,30 @@ QString sinTabuladores(const QString &linea)
 }
 
 // Where a word begins behind a gap, or an upright stroke stands.
-QSet<qsizetype> columnasDe(const QString &linea)
+QSet<qsizetype> columnasDe(const Linea &linea)
 {
     QSet<qsizetype> columnas;
     bool empezada = false;
-    for (qsizetype i = 0; i < linea.size(); ++i) {
-        if (linea[i] == u' ')
+    for (std::size_t i = 0; i < linea.size(); ++i) {
+        if (linea[i] == U' ')
             continue;
-        const bool trasHueco = i >= 2 && linea[i - 1] == u' ' && linea[i - 2] == u' ';
-        if ((empezada && trasHueco) || linea[i] == u'|')
-            columnas.insert(i);
+        const bool trasHueco = i >= 2 && linea[i - 1] == U' ' && linea[i - 2] == U' ';
+        if ((empezada && trasHueco) || linea[i] == U'|')
+            columnas.insert(qsizetype(i));
         empezada = true;
     }
     return columnas;
 }
 
-bool sonSignos(const QString &linea)
+bool sonSignos(const Linea &linea)
 {
     constexpr int Bastantes = 3;
     int signos = 0;
     int letras = 0;
-    for (const QChar letra : linea) {
-        if (letra.isSpace())
+    for (const char32_t letra : linea) {
+        if (QChar::isSpace(letra))
             continue;
-        ++(letra.isLetterOrNumber() ? letras : signos);
+        ++(QChar::isLetterOrNumber(letra) ? letras : signos);
     }
     return signos >= Bastantes && signos > letras;
 }
@@ -79,8 +85,8 @@ bool TieneColumnas(const QString &texto)
         return true;
     QList<QSet<qsizetype>> columnas;
     int deSignos = 0;
-    for (QString linea : texto.split(u'\n')) {
-        linea.remove(u'\r');
+    for (const QStringView &escrita : QStringView(texto).split(u'\n')) {
+        const Linea linea = escrita.toString().remove(u'\r').toStdU32String();
         deSignos = sonSignos(linea) ? deSignos + 1 : 0;
         columnas.append(columnasDe(sinTabuladores(linea)));
         if (columnas.size() > LineasSeguidas)

@@ -15,6 +15,10 @@ TEST(Columnas, DrawingsAndTablesNeedThem)
         u"one\ttwo\nlonger\tword\nx\ty"_s,
         u"|a|b|\r\n|c|d|\r\n|e|f|"_s,
         u"  /\\_/\\\n ( o.o )\n  > ^ <"_s,
+        // A character beyond U+FFFF is one of a column, ahead of a gap, of a tab and of a stroke.
+        u"😀😀  uno\nab  dos\n𝔊b  tres"_s,
+        u"𐐨𐐨𐐨𐐨\tuno\nabcd\tdos\n𐐨\ttres"_s,
+        u"😀|uno\na|dos\nb|tres"_s,
         u"prose\n\n--F1--  help\n--F22-  more\n--F3--  less\nprose"_s,
     };
     for (const QString &texto : con)
@@ -33,6 +37,9 @@ TEST(Columnas, ProseAndSettingsDoNot)
         u"Key     What it does\nF1      Help\n\nF2      Settings"_s, // two lines are no table
         u"größer Äpfel ÄÄÄ 20°"_s,
         u"\ta\n\tb\n\tc"_s,
+        u"😀😀  uno\nabcd  dos\nabcd  tres"_s, // not below one another
+        u"𐐨𐐨 - -\n𐐨𐐨 - -\n𐐨𐐨 - -"_s, // as many letters as signs
+        u"😀 a b\n😀 a b\n😀 a b"_s, // one sign, two letters
     };
     for (const QString &texto : sin)
         EXPECT_FALSE(core::TieneColumnas(texto)) << qPrintable(texto);
