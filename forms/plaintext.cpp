@@ -23,7 +23,11 @@ QString asCaption(const QString &text)
 
 QString asTitle(const QString &text)
 {
-    return QString(text).replace(u"[*]"_s, u"[*][*]"_s);
+    constexpr qsizetype Longest = 512;
+    QString title = beginningOf(text, Longest);
+    if (title.size() < text.size())
+        title += u'…';
+    return title.replace(u"[*]"_s, u"[*][*]"_s);
 }
 
 void SetTip(QWidget &control, const QString &text)

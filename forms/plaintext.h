@@ -12,7 +12,10 @@ namespace forms {
 // beginning.
 QString asTip(const QString &text);
 QString asCaption(const QString &text); // of a button: '&' would mark an accelerator
-QString asTitle(const QString &text); // of a window: "[*]" would be the place of a mark
+
+// Of a window: "[*]" would be the place of a mark. Of one that no bar shows whole it is the beginning, and
+// dots: window managers and task bars get it as it is.
+QString asTitle(const QString &text);
 
 // The tip of a control, which assistive programs are told as its description; an empty text takes both away.
 void SetTip(QWidget &control, const QString &text);

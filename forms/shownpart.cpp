@@ -5,9 +5,14 @@ namespace forms {
 QString shownPart(const QString &text)
 {
     constexpr qsizetype Longest = 2000;
-    if (text.size() <= Longest)
+    return beginningOf(text, Longest);
+}
+
+QString beginningOf(const QString &text, qsizetype most)
+{
+    if (text.size() <= most)
         return text;
-    return text.first(text[Longest - 1].isHighSurrogate() ? Longest - 1 : Longest);
+    return text.first(text[most - 1].isHighSurrogate() ? most - 1 : most);
 }
 
 } // namespace forms

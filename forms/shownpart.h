@@ -9,4 +9,7 @@ namespace forms {
 // shaping a line of a million letters takes seconds. A character is never cut in two.
 QString shownPart(const QString &text);
 
+// The first so many units of a text, one less where the last would be half a character.
+QString beginningOf(const QString &text, qsizetype most);
+
 } // namespace forms

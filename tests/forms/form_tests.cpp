@@ -377,6 +377,19 @@ TEST_F(Forms, Controls_AreFoundByName)
     EXPECT_EQ(owner.Control(u"TXT_Anadir"_s), nullptr);
 }
 
+TEST(FormTitles, OneWithoutEndGoesToTheWindowManagerAsItsBeginning)
+{
+    Form form(u"Form"_s, 1500, 1500, Form::Border::FixedSingle);
+    const QString endless = u'x' + u"😀"_s.repeated(500'000);
+    form.SetCaption(endless);
+    EXPECT_TRUE(form.Caption() == endless);
+    EXPECT_EQ(form.windowTitle(), endless.first(511) + u'…');
+    form.SetCaption(endless.sliced(1));
+    EXPECT_EQ(form.windowTitle(), endless.sliced(1, 512) + u'…');
+    form.SetCaption(endless.first(511));
+    EXPECT_EQ(form.windowTitle(), endless.first(511));
+}
+
 class Holders : public testing::Test {
 protected:
     int made = 0;
