@@ -10,20 +10,61 @@
 
 namespace forms {
 
+namespace {
+
+QString firstLine(const QString &text)
+{
+    static const QRegularExpression end(QStringLiteral("[\\r\\n\u2028\u2029]"));
+    const qsizetype place = text.indexOf(end);
+    return place < 0 ? text : text.first(place);
+}
+
+// Without the half of a character that is left of one: the toolkit cuts what is pasted at the most that it
+// takes.
+QString wholeCharacters(QString text)
+{
+    for (qsizetype i = text.size() - 1; i >= 0; --i) {
+        if (text[i].isHighSurrogate() && (i + 1 == text.size() || !text[i + 1].isLowSurrogate()))
+            text.remove(i, 1);
+    }
+    return text;
+}
+
+} // namespace
+
 TextBox::TextBox(QWidget *parent)
     : Control(parent)
 {
     setMouseTracking(true);
     connect(this, &QLineEdit::textChanged, this, [this](const QString &text) {
-        const qsizetype end = text.indexOf(QRegularExpression(QStringLiteral("[\\r\\n\u2028\u2029]")));
-        if (end >= 0)
-            setText(text.first(end));
+        const QString line = firstLine(text);
+        const QString kept = line.size() == maxLength() ? wholeCharacters(line) : line;
+        if (kept != text)
+            setText(kept);
     });
+}
+
+QString TextBox::Text() const
+{
+    const QString shown = text();
+    const qsizetype place = m_rest.isEmpty() ? -1 : shown.lastIndexOf(m_dots);
+    if (place < 0)
+        return shown;
+    const qsizetype behind = place + m_dots.size();
+    return shown.first(behind - 1) + m_rest + shown.sliced(behind);
 }
 
 void TextBox::SetText(const QString &value)
 {
-    setText(value);
+    constexpr qsizetype Enough = 40; // letters that nobody types again ahead of dots
+    const QString line = firstLine(value);
+    QString shown = beginningOf(line, LongestShown);
+    m_rest = line.sliced(shown.size());
+    if (!m_rest.isEmpty()) {
+        shown += u'…';
+        m_dots = shown.last(Enough);
+    }
+    setText(shown);
     setCursorPosition(0);
 }
 

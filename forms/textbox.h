@@ -9,17 +9,23 @@
 namespace forms {
 
 // One line: of a text with line breaks, pasted or set, what stands ahead of the first one stays. Of a text
-// set that is too long for the box its beginning shows.
+// set that is too long for the box its beginning shows. One of more than LongestShown units shows no further:
+// dots stand for the rest, which belongs to the text as long as they and the letters ahead of them do.
 class TextBox : public Control<QLineEdit> {
 public:
     explicit TextBox(QWidget *parent);
 
-    QString Text() const { return text(); }
+    static constexpr qsizetype LongestShown = 10'000; // the toolkit lays out all of it at each key
+
+    QString Text() const;
     void SetText(const QString &value);
     void SetTip(); // from now on a text too wide for the box shows in full under the pointer
 
 private:
     bool fits(const QString &text) const;
+
+    QString m_rest; // what the dots stand for
+    QString m_dots; // with the letters ahead of them
 };
 
 // Many lines. Of what is pasted or dropped it takes the plain text.

@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QPointer>
 
+#include <ctime>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -52,6 +54,24 @@ TEST_F(MensajeTest, InputAcceptedUntouchedGivesTheTextPutIn)
     show(1, clicking(Accept));
     EXPECT_EQ(M.Respuesta_Caja, u"entrada"_s);
     EXPECT_EQ(M.Respuesta_Opcion, 0);
+}
+
+TEST_F(MensajeTest, InputOfAMillionLettersAcceptedUntouchedIsWhole_AndSoonThere)
+{
+#ifdef __SANITIZE_ADDRESS__
+    constexpr qint64 Bound = 5000; // milliseconds
+#else
+    constexpr qint64 Bound = 1000;
+#endif
+    const QString endless = u"אב "_s.repeated(333'333);
+    const std::clock_t before = std::clock();
+    atModal(u"Caja"_s, [](forms::Form &form) {
+        form.grab();
+        click(buttonOf(form, u"Aceptar2"_s));
+    });
+    box.Mensaje(1, endless, endless, endless, endless, endless);
+    EXPECT_LT((std::clock() - before) * 1000 / CLOCKS_PER_SEC, Bound);
+    EXPECT_TRUE(M.Respuesta_Caja == endless);
 }
 
 TEST_F(MensajeTest, InputAcceptedEmptyEqualsTheEmptyAnswer)

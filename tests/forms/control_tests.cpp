@@ -415,6 +415,65 @@ TEST_F(Controls, EnterInATextAreaThatTakesNoTyping_StaysThere)
 
 } // namespace
 
+class EndlessTextInABox : public testing::Test {
+protected:
+    EndlessTextInABox() { box.SetText(beginning + rest); }
+
+    const QString beginning = u"Begin"_s + QString(forms::TextBox::LongestShown - 5, u'x');
+    const QString rest { 50'000, u'z' };
+    forms::TextBox box { nullptr };
+};
+
+TEST_F(EndlessTextInABox, IsWhole_ThoughDotsStandForWhatDoesNotShow)
+{
+    EXPECT_TRUE(box.text() == beginning + u'…');
+    EXPECT_TRUE(box.Text() == beginning + rest);
+    box.SetText(beginning);
+    EXPECT_TRUE(box.text() == beginning);
+    EXPECT_TRUE(box.Text() == beginning);
+    box.SetText(u"…"_s);
+    EXPECT_EQ(box.Text(), u"…"_s);
+}
+
+TEST_F(EndlessTextInABox, KeepsTheRestWhereSomethingElseIsEdited)
+{
+    QTest::keyClick(&box, Qt::Key_Delete);
+    QTest::keyClick(&box, 'C');
+    QTest::keyClick(&box, Qt::Key_End);
+    QTest::keyClick(&box, Qt::Key_Exclam);
+    EXPECT_TRUE(box.Text() == u'C' + beginning.sliced(1) + rest + u'!');
+}
+
+TEST_F(EndlessTextInABox, IsWhatIsTypedOnceTheDotsAreGone)
+{
+    QTest::keyClick(&box, Qt::Key_End);
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    EXPECT_TRUE(box.Text() == beginning);
+    box.undo();
+    EXPECT_TRUE(box.Text() == beginning + rest);
+    box.selectAll();
+    QTest::keyClicks(&box, u"New"_s);
+    EXPECT_EQ(box.Text(), u"New"_s);
+    QApplication::clipboard()->setText(u"Newer…"_s);
+    box.selectAll();
+    box.paste();
+    EXPECT_EQ(box.Text(), u"Newer…"_s);
+}
+
+TEST_F(EndlessTextInABox, BeginsWithWholeCharacters)
+{
+    const QString text = u'x' + u"😀"_s.repeated(20'000);
+    box.SetText(text);
+    EXPECT_TRUE(box.Text() == text);
+    EXPECT_TRUE(box.text() == text.first(forms::TextBox::LongestShown - 1) + u'…');
+    QApplication::clipboard()->setText(text);
+    box.SetText({});
+    box.paste();
+    EXPECT_TRUE(box.Text() == text.first(box.Text().size()));
+    EXPECT_FALSE(box.Text().back().isHighSurrogate());
+    EXPECT_GT(box.Text().size(), forms::TextBox::LongestShown);
+}
+
 TEST(TextBoxes, ATextTooWideForTheBoxShowsAsItsTip)
 {
     forms::TextBox box(nullptr);

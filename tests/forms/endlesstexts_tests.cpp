@@ -8,11 +8,13 @@
 #include "forms/popupmenu.h"
 #include "forms/shape.h"
 #include "forms/shownpart.h"
+#include "forms/textbox.h"
 
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
 #include <QPixmap>
+#include <QTest>
 
 #include <ctime>
 #include <functional>
@@ -111,6 +113,20 @@ TEST_P(EndlessTexts, AreSoonPaintedAsTheHeadingOfAFrame)
     heading.SetCaption(text);
     frame.SetHeading(&heading);
     EXPECT_LT(workToPaint(form), Bound);
+}
+
+TEST_P(EndlessTexts, AreSoonPaintedInABoxToTypeInto_AlsoAtEachKey)
+{
+    forms::TextBox box(&form);
+    box.setGeometry(0, 0, 150, 22);
+    EXPECT_LT(workOf([&] { box.SetText(text); }) + workToPaint(form), Bound);
+    EXPECT_TRUE(box.Text() == text);
+    EXPECT_LT(workOf([&] {
+        QTest::keyClick(&box, 'y');
+        form.grab();
+    }),
+        Bound);
+    EXPECT_TRUE(box.Text() == u'y' + text);
 }
 
 TEST_P(EndlessTexts, AreSoonMeasuredInAMenu)
