@@ -1,6 +1,8 @@
 #include "companion/ordenes.h"
 
 #include "companion/ayuda.h"
+#include "companion/dicho.h"
+#include "companion/lista.h"
 
 #include <algorithm>
 
@@ -9,6 +11,8 @@ namespace companion {
 std::span<const Orden *const> Ordenes()
 {
     static const Orden *const ordenes[] = {
+        &OrdenDicha(),
+        &OrdenLista(),
         &OrdenAyuda(),
     };
     return ordenes;

@@ -17,6 +17,15 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_Help", &P::Zbo_Help }, { u"Zbo_NoOrden", &P::Zbo_NoOrden },
         { u"Zbo_NoOpcion", &P::Zbo_NoOpcion }, { u"Zbo_NoValor", &P::Zbo_NoValor },
         { u"Zbo_SinValor", &P::Zbo_SinValor }, { u"Zbo_NoDir", &P::Zbo_NoDir },
+        { u"Zbo_NoSistema", &P::Zbo_NoSistema }, { u"Zbo_NoEmulador", &P::Zbo_NoEmulador },
+        { u"Zbo_NoJuego", &P::Zbo_NoJuego }, { u"Zbo_Varios", &P::Zbo_Varios }, { u"Zbo_List", &P::Zbo_List },
+        { u"Zbo_Command", &P::Zbo_Command }, { u"Zbo_OpLines", &P::Zbo_OpLines },
+        { u"Zbo_OpShell", &P::Zbo_OpShell }, { u"Zbo_LaOrden", &P::Zbo_LaOrden },
+        { u"Zbo_EnDir", &P::Zbo_EnDir }, { u"Zbo_ElTexto", &P::Zbo_ElTexto },
+        { u"Zbo_Desempaqueta", &P::Zbo_Desempaqueta }, { u"Zbo_Ilegible", &P::Zbo_Ilegible },
+        { u"Zbo_YaEsta", &P::Zbo_YaEsta }, { u"Zbo_SeBorraDir", &P::Zbo_SeBorraDir },
+        { u"Zbo_SeBorran", &P::Zbo_SeBorran }, { u"Zbo_NoArranca", &P::Zbo_NoArranca },
+        { u"Zbo_NadaSeLanza", &P::Zbo_NadaSeLanza }, { u"Zbo_SinPrograma", &P::Zbo_SinPrograma },
         // Bulk work.
     };
     return claves;

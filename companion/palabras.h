@@ -27,6 +27,29 @@ struct Palabras {
     QString Zbo_NoValor = QStringLiteral("An option lacks its value.");
     QString Zbo_SinValor = QStringLiteral("An option has a value that it doesn't take.");
     QString Zbo_NoDir = QStringLiteral("%1 is no directory of the program.");
+
+    // Picking a system, an emulator and a game by their names.
+    QString Zbo_NoSistema = QStringLiteral("No system fits %1.");
+    QString Zbo_NoEmulador = QStringLiteral("No emulator of the system fits %1.");
+    QString Zbo_NoJuego = QStringLiteral("No listed game fits %1.");
+    QString Zbo_Varios = QStringLiteral("Several fit %1:");
+
+    // Listing, and telling what a launch would do.
+    QString Zbo_List = QStringLiteral("lists the games as the main screen does");
+    QString Zbo_Command = QStringLiteral("tells what playing a game would do, and starts nothing");
+    QString Zbo_OpLines = QStringLiteral("the arguments alone, one a line");
+    QString Zbo_OpShell = QStringLiteral("the command alone, quoted for a shell");
+    QString Zbo_LaOrden = QStringLiteral("Command: %1");
+    QString Zbo_EnDir = QStringLiteral("In the directory: %1");
+    QString Zbo_ElTexto = QStringLiteral("As the debug mode shows it: %1");
+    QString Zbo_Desempaqueta = QStringLiteral("Unpacks %1 into %2:");
+    QString Zbo_Ilegible = QStringLiteral("Can't be unpacked: %1");
+    QString Zbo_YaEsta = QStringLiteral("Is there already, and would be asked about: %1");
+    QString Zbo_SeBorraDir = QStringLiteral("Afterwards the directory is removed with its files.");
+    QString Zbo_SeBorran = QStringLiteral("Afterwards the unpacked files are removed.");
+    QString Zbo_NoArranca = QStringLiteral("Doesn't start: %1");
+    QString Zbo_NadaSeLanza = QStringLiteral("Nothing would be started.");
+    QString Zbo_SinPrograma = QStringLiteral("The emulator's executable isn't there.");
     // Bulk work.
 };
 

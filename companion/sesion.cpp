@@ -2,6 +2,8 @@
 
 #include "companion/imprimible.h"
 
+#include <QJsonArray>
+
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -33,6 +35,14 @@ void Sesion::Escribe(const QStringList &lineas) const
         Escribe(linea);
 }
 
+void Sesion::EscribeColumnas(const QStringList &columnas) const
+{
+    QStringList visibles;
+    for (const QString &columna : columnas)
+        visibles += Imprimible(columna);
+    m_consola.sale(visibles.join(u'\t').toUtf8() + '\n');
+}
+
 void Sesion::Json(const QJsonObject &objeto) const
 {
     m_consola.sale(ComoJson(objeto));
@@ -45,9 +55,19 @@ void Sesion::Avisa(const QString &linea) const
 
 int Sesion::Falla(const QString &motivo) const
 {
-    Avisa(motivo);
+    return Falla(QStringList { motivo });
+}
+
+int Sesion::Falla(const QStringList &lineas) const
+{
+    Avisa(lineas.value(0));
+    for (const QString &linea : lineas.mid(1))
+        m_consola.error("    " + Imprimible(linea).toUtf8() + '\n');
+    QJsonObject objeto { { u"error"_s, lineas.value(0) } };
+    if (lineas.size() > 1)
+        objeto[u"candidates"_s] = QJsonArray::fromStringList(lineas.mid(1));
     if (EnJson())
-        Json({ { u"error"_s, motivo } });
+        Json(objeto);
     return NoPudo;
 }
 

@@ -43,6 +43,8 @@ public:
     // Lines of the answer; what a terminal would obey is made visible.
     void Escribe(const QString &linea) const;
     void Escribe(const QStringList &lineas) const;
+    // One line with a tab between two texts; those in them are made visible.
+    void EscribeColumnas(const QStringList &columnas) const;
     // The answer, asked for as JSON.
     void Json(const QJsonObject &objeto) const;
 
@@ -51,6 +53,8 @@ public:
 
     // Says why it could not run; with --json the answer says so too. Yields NoPudo.
     int Falla(const QString &motivo) const;
+    // The first line is why, the others are what it could have meant.
+    int Falla(const QStringList &lineas) const;
 
 private:
     Pedido m_pedido;

@@ -203,7 +203,25 @@ std::optional<size_t> indiceDe(const std::vector<QString> &nombres, int posicion
     return orden[static_cast<size_t>(posicion)];
 }
 
+std::vector<int> comoFilas(const std::vector<size_t> &indices, int primera)
+{
+    std::vector<int> filas;
+    for (const size_t indice : indices)
+        filas.push_back(static_cast<int>(indice) + primera);
+    return filas;
+}
+
 } // namespace
+
+std::vector<int> SistemasEnOrden(const Modulo &M)
+{
+    return comoFilas(enOrden(nombresDeSistemas(M)), 0);
+}
+
+std::vector<int> EmuladoresEnOrden(const Modulo &M, int sistema)
+{
+    return comoFilas(enOrden(nombresDeEmuladores(M, static_cast<size_t>(sistema))), 1);
+}
 
 Posiciones PosicionesEn(const Modulo &despues, const Modulo &antes, const Posiciones &posiciones)
 {

@@ -8,6 +8,7 @@
 #include "core/modulo.h"
 
 #include <memory>
+#include <vector>
 
 namespace core {
 
@@ -62,6 +63,11 @@ std::unique_ptr<Modulo> CatalogoDe(const QString &texto);
 
 // Number of emulators of a system.
 int TotalEmuladores(const Modulo &M, int sistema);
+
+// The systems, counted from 0, and the rows of a system's emulators, counted from 1, in the order in which
+// the lists show them.
+std::vector<int> SistemasEnOrden(const Modulo &M);
+std::vector<int> EmuladoresEnOrden(const Modulo &M, int sistema);
 
 // The position of a name among the sorted names of the systems, counted from 0; 0 if it isn't there.
 int PosicionDeSistema(const Modulo &M, const QString &sistema);

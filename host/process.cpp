@@ -83,7 +83,7 @@ std::vector<QByteArray> candidates(const QString &name)
     return places;
 }
 
-QByteArray findProgram(const QString &name)
+QByteArray programFor(const QString &name)
 {
     bool forbidden = false;
     for (const QByteArray &place : candidates(name)) {
@@ -192,6 +192,11 @@ QStringList splitArguments(QStringView text)
     return splitter.arguments();
 }
 
+QString findProgram(const QString &name)
+{
+    return nameFromDisk(programFor(name));
+}
+
 Process::Process(pid_t id)
     : m_id(id)
     , m_ended(false)
@@ -227,7 +232,7 @@ Process::~Process()
 Process Process::start(const QStringList &arguments)
 {
     const QString name = arguments.value(0);
-    const QByteArray program = findProgram(name);
+    const QByteArray program = programFor(name);
     std::vector<std::string> words { program.toStdString() };
     for (qsizetype i = 1; i < arguments.size(); ++i)
         words.push_back(nameToDisk(arguments[i]).toStdString());

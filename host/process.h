@@ -33,6 +33,9 @@ private:
 // Parameters of a command line split at blanks; double quotes group, and go.
 QStringList splitArguments(QStringView text);
 
+// The path of the program that start would run; fails as start does where there is none, or no right to run it.
+QString findProgram(const QString &name);
+
 // A child process: running, or ended, however it ended. Going out of scope leaves it running, and its end
 // leaves no zombie then either.
 class Process {

@@ -2,6 +2,7 @@
 
 #include "launch/intenta.h"
 
+#include "host/encoding.h"
 #include "host/paths.h"
 
 namespace launch {
@@ -15,6 +16,20 @@ bool esNombrePropio(const QString &nombre)
 }
 
 } // namespace
+
+std::optional<CarpetaPosible> CarpetaQueSeHaria(const QString &ExeDir, const QString &Carpeta)
+{
+    if (ExeDir.isEmpty() || !esNombrePropio(Carpeta))
+        return std::nullopt;
+    const QString ruta = host::nameFromDisk(host::findForWriting(ExeDir + Carpeta));
+    if (ruta.isEmpty())
+        return std::nullopt;
+    if (host::findOnDisk(ruta).isEmpty())
+        return CarpetaPosible { ruta, true };
+    bool directorio = false;
+    Intenta([&] { directorio = (host::attributes(ruta) & host::DirectoryAttribute) != 0; });
+    return directorio ? std::optional(CarpetaPosible { ruta, false }) : std::nullopt;
+}
 
 CarpetaDeJuego::CarpetaDeJuego(const QString &ExeDir, const QString &Carpeta)
 {

@@ -10,6 +10,14 @@
 
 namespace launch {
 
+// Where it would be: absolute, and whether it isn't there yet. None for a name that isn't one of its own, and
+// where something else than a directory has it.
+struct CarpetaPosible {
+    QString ruta;
+    bool nueva = true;
+};
+std::optional<CarpetaPosible> CarpetaQueSeHaria(const QString &ExeDir, const QString &Carpeta);
+
 class CarpetaDeJuego {
 public:
     // Makes the directory, unless it is there. Without a directory of the emulator, or without a name of its

@@ -5,6 +5,7 @@
 #include "launch/busquedarom.h"
 #include "launch/carpetadejuego.h"
 #include "launch/intenta.h"
+#include "launch/obras.h"
 #include "launch/piezas.h"
 #include "launch/vbunzbas.h"
 
@@ -29,9 +30,10 @@ struct Seleccion {
 // One launch. Its steps run in the order in which they stand here; none of them lets a failure out.
 class Lanzamiento {
 public:
-    Lanzamiento(core::Modulo &modulo, Pantalla &pantalla, Seleccion seleccion)
+    Lanzamiento(core::Modulo &modulo, Pantalla &pantalla, Obras &obras, Seleccion seleccion)
         : M(modulo)
         , m_pantalla(pantalla)
+        , m_obras(obras)
         , m_seleccion(seleccion)
     {
     }
@@ -65,6 +67,7 @@ private:
 
     core::Modulo &M;
     Pantalla &m_pantalla;
+    Obras &m_obras;
     const Seleccion m_seleccion;
     Via m_via = Via::Fichero;
     Piezas m_piezas;
@@ -151,8 +154,7 @@ void Lanzamiento::Tipo0()
 void Lanzamiento::Tipo0Zip()
 {
     const QString carpeta = RutaZBTMP();
-    HazZBTMP(carpeta);
-    const FicheroDelZip fichero = BuscaEnElZip(carpeta);
+    const FicheroDelZip fichero = m_obras.HazTemporal(carpeta) ? BuscaEnElZip(carpeta) : FicheroDelZip();
     if (fichero.elegido) {
         m_piezas.Desempaquetada = { DirectorioTemporal() + u"ZB-TMP/"_s + host::lower(*fichero.elegido),
             carpeta + u'/' + *fichero.elegido };
@@ -160,19 +162,16 @@ void Lanzamiento::Tipo0Zip()
     } else if (fichero.ilegible) {
         AvisaDeIlegible();
     } else {
-        Intenta([&] { m_pantalla.Aviso(M.Msg_ZipSinRoms0, M.Msg_ZipSinRoms1); });
+        m_obras.Aviso(M.Msg_ZipSinRoms0, M.Msg_ZipSinRoms1);
     }
-    VaciaZBTMP(carpeta);
+    m_obras.VaciaTemporal(carpeta);
 }
 
 Lanzamiento::FicheroDelZip Lanzamiento::BuscaEnElZip(const QString &carpeta)
 {
-    if (!EsDirectorioPropio(carpeta))
-        return {};
     const Desempaquetado miembros = Desempaqueta(m_piezas.RomDir + m_piezas.RomCorto, carpeta);
     M.RutaTrabajo = carpeta + u'/';
-    QStringList enCarpeta;
-    Intenta([&] { enCarpeta = host::listPlainFiles(carpeta); });
+    const QStringList enCarpeta = m_obras.FicherosEn(carpeta);
     M.DirActual = enCarpeta.value(enCarpeta.size() - 1);
     // A search that ran past the last name chose nothing.
     const QString ilegible = EligeFichero(miembros.ilegibles, Extensiones()).value_or(QString());
@@ -183,14 +182,14 @@ Lanzamiento::FicheroDelZip Lanzamiento::BuscaEnElZip(const QString &carpeta)
 void Lanzamiento::Tipo2()
 {
     const QString Carpeta = m_via == Via::Nota ? m_piezas.RomCorto.texto : m_piezas.RomBase;
-    const CarpetaDeJuego carpeta(m_piezas.programa.ExeDir.enDisco, Carpeta);
+    const QString ruta = m_obras.AbreCarpeta(m_piezas.programa.ExeDir.enDisco, Carpeta);
     Desempaquetado miembros;
-    if (!carpeta.Ruta().isEmpty())
-        miembros = Desempaqueta(ArchivoZipDe(m_via, m_piezas), carpeta.Ruta());
+    if (!ruta.isEmpty())
+        miembros = Desempaqueta(ArchivoZipDe(m_via, m_piezas), ruta);
     if (miembros.nadaLegible)
         AvisaDeIlegible();
     Corre(Caso::Comprimido);
-    carpeta.Limpia(miembros.ficheros);
+    m_obras.LimpiaCarpeta(miembros.ficheros);
 }
 
 void Lanzamiento::Tipo3()
@@ -222,12 +221,12 @@ Desempaquetado Lanzamiento::Desempaqueta(const Ruta &ArchivoZip, const QString &
 {
     M.ArchivoZip = ArchivoZip.texto;
     M.DirectorioDestino = DirectorioDestino;
-    return Descomprimir(ArchivoZip.enDisco, M.DirectorioDestino);
+    return m_obras.Desempaqueta(ArchivoZip.enDisco, M.DirectorioDestino);
 }
 
 void Lanzamiento::AvisaDeIlegible()
 {
-    Intenta([&] { m_pantalla.Aviso(M.Palabras.Zem_NoZip0, M.Palabras.Zem_NoZip1); });
+    m_obras.Aviso(M.Palabras.Zem_NoZip0, M.Palabras.Zem_NoZip1);
 }
 
 void Lanzamiento::Corre(Caso caso)
@@ -237,8 +236,8 @@ void Lanzamiento::Corre(Caso caso)
         m_piezas.programa.ExeNombre.enDisco = m_piezas.programa.ExeCorto.enDisco;
     const LineaDeOrden orden = Compone(caso, m_via, m_piezas);
     if (core::NumeroDeAjuste(M.DebugMode) == 1)
-        host::questions().tell(u"Zembrolix"_s, orden.EnTexto());
-    Intenta([&] { EsperarEmulador(M, m_pantalla, orden); });
+        m_obras.EnsenaOrden(orden.EnTexto());
+    m_obras.Arranca(orden);
 }
 
 void Termina(Pantalla &pantalla, const QString &entrada)
@@ -252,9 +251,66 @@ void Termina(Pantalla &pantalla, const QString &entrada)
     });
 }
 
+// The launch itself.
+class ObrasDeVerdad : public Obras {
+public:
+    ObrasDeVerdad(core::Modulo &modulo, Pantalla &pantalla)
+        : M(modulo)
+        , m_pantalla(pantalla)
+    {
+    }
+
+    void BarreTemporal() override
+    {
+        Intenta([&] { BarreZBTMP(M); });
+    }
+    void RecogeTemporal() override { launch::RecogeTemporal(); }
+    bool HazTemporal(const QString &carpeta) override
+    {
+        HazZBTMP(carpeta);
+        return EsDirectorioPropio(carpeta);
+    }
+    void VaciaTemporal(const QString &carpeta) override { VaciaZBTMP(carpeta); }
+    QString AbreCarpeta(const QString &ExeDir, const QString &Carpeta) override
+    {
+        return m_carpeta.emplace(ExeDir, Carpeta).Ruta();
+    }
+    void LimpiaCarpeta(const QStringList &desempaquetados) override { m_carpeta->Limpia(desempaquetados); }
+    Desempaquetado Desempaqueta(const QString &ArchivoZip, const QString &destino) override
+    {
+        return Descomprimir(ArchivoZip, destino);
+    }
+    QStringList FicherosEn(const QString &carpeta) override
+    {
+        QStringList ficheros;
+        Intenta([&] { ficheros = host::listPlainFiles(carpeta); });
+        return ficheros;
+    }
+    void Aviso(const QString &titulo, const QString &texto) override
+    {
+        Intenta([&] { m_pantalla.Aviso(titulo, texto); });
+    }
+    void EnsenaOrden(const QString &texto) override { host::questions().tell(u"Zembrolix"_s, texto); }
+    void Arranca(const LineaDeOrden &orden) override
+    {
+        Intenta([&] { EsperarEmulador(M, m_pantalla, orden); });
+    }
+
+private:
+    core::Modulo &M;
+    Pantalla &m_pantalla;
+    std::optional<CarpetaDeJuego> m_carpeta;
+};
+
 } // namespace
 
 void Jugar(core::Modulo &M, Pantalla &pantalla)
+{
+    ObrasDeVerdad obras(M, pantalla);
+    Juega(M, pantalla, obras);
+}
+
+void Juega(core::Modulo &M, Pantalla &pantalla, Obras &obras)
 {
     // The database lists no games, whatever its file may hold of a configuration.
     if (pantalla.TextoCombo2().isEmpty() || M.VerBaseDeDatos == 1)
@@ -270,13 +326,13 @@ void Jugar(core::Modulo &M, Pantalla &pantalla)
 
     pantalla.MuestraCargando();
     const QString entrada = pantalla.TextoLista1();
-    Intenta([&] { BarreZBTMP(M); });
-    Lanzamiento lanzamiento(M, pantalla, { sistema, fila, tipo });
+    obras.BarreTemporal();
+    Lanzamiento lanzamiento(M, pantalla, obras, { sistema, fila, tipo });
     if (tipo >= 5 && tipo <= 8)
         lanzamiento.SoloExe();
     else
         lanzamiento.ConROM(entrada);
-    RecogeTemporal();
+    obras.RecogeTemporal();
     Termina(pantalla, entrada);
 }
 

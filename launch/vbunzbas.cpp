@@ -10,6 +10,7 @@
 #include "host/retried.h"
 
 #include <array>
+#include <climits>
 #include <memory>
 
 #include <archive.h>
@@ -34,6 +35,11 @@ bool saltarContraseña = false;
 // one.
 class Contraseñas {
 public:
+    explicit Contraseñas(bool pregunta)
+        : m_pregunta(pregunta)
+    {
+    }
+
     void NuevoMiembro();
     const char *Otra();
 
@@ -43,6 +49,7 @@ public:
 private:
     void Pregunta();
 
+    const bool m_pregunta; // else there are none
     bool m_falto = false;
     int m_intentos = 0;
     QByteArrayList m_porProbar;
@@ -70,7 +77,7 @@ const char *Contraseñas::Otra()
 // Archives keep bytes, not characters: a password is tried as older systems write it, then as this one does.
 void Contraseñas::Pregunta()
 {
-    if (saltarContraseña || m_intentos == MaxIntentos)
+    if (!m_pregunta || saltarContraseña || m_intentos == MaxIntentos)
         return;
     ++m_intentos;
     const QString respuesta = host::questions().askText(u"Please Enter The Password!"_s);
@@ -121,9 +128,10 @@ Archivo leeZip(FuenteZip &fuente, Contraseñas &contraseñas)
     return archivo;
 }
 
+// Without a destination everything is read, and nothing written.
 class Extraccion {
 public:
-    Extraccion(archive *archivo, const Destino &destino, Contraseñas &contraseñas)
+    Extraccion(archive *archivo, const Destino *destino, Contraseñas &contraseñas)
         : m_archivo(archivo)
         , m_destino(destino)
         , m_contraseñas(contraseñas)
@@ -137,13 +145,17 @@ private:
 
     void Miembro(archive_entry *miembro);
     void Fichero(archive_entry *miembro, QList<QByteArray> partes);
+    void FicheroEn(const host::Descriptor &directorio, const QByteArray &nombre, archive_entry *miembro,
+        bool directamente);
+    void Leido(
+        archive_entry *miembro, Lectura lectura, const QByteArray &nombre, bool directamente, bool puesto);
     bool PuedeOcupar(
         const host::Descriptor &directorio, const QByteArray &nombre, const QByteArray &enArchivo);
-    Lectura Copia(FicheroNuevo &fichero);
+    Lectura Copia(FicheroNuevo *fichero);
     bool EsIlegible(archive_entry *miembro, Lectura lectura) const;
 
     archive *m_archivo;
-    const Destino &m_destino;
+    const Destino *m_destino;
     Contraseñas &m_contraseñas;
     Desempaquetado m_resultado;
     int m_enteros = 0;
@@ -176,35 +188,52 @@ void Extraccion::Miembro(archive_entry *miembro)
     if (partes.isEmpty() || nombre.size() > MaxNombre)
         return;
     m_contraseñas.NuevoMiembro();
-    m_discoLleno = !m_destino.QuedaSitio();
+    m_discoLleno = m_destino && !m_destino->QuedaSitio();
     if (m_discoLleno)
         return;
-    if (clase == AE_IFDIR || nombre.endsWith('/') || nombre.endsWith('\\'))
-        m_destino.Directorio(partes);
-    else if (clase == AE_IFREG)
+    if (clase == AE_IFDIR || nombre.endsWith('/') || nombre.endsWith('\\')) {
+        if (m_destino)
+            m_destino->Directorio(partes);
+    } else if (clase == AE_IFREG) {
         Fichero(miembro, partes);
+    }
 }
 
 void Extraccion::Fichero(archive_entry *miembro, QList<QByteArray> partes)
 {
     const bool directamente = partes.size() == 1;
     const QByteArray nombre = partes.takeLast();
-    const host::Descriptor directorio = m_destino.Directorio(partes);
+    if (m_destino)
+        FicheroEn(m_destino->Directorio(partes), nombre, miembro, directamente);
+    else if (nombre.size() <= NAME_MAX)
+        Leido(miembro, Copia(nullptr), nombre, directamente, true);
+}
+
+void Extraccion::FicheroEn(
+    const host::Descriptor &directorio, const QByteArray &nombre, archive_entry *miembro, bool directamente)
+{
     if (!directorio.isOpen() || !PuedeOcupar(directorio, nombre, archive_entry_pathname(miembro)))
         return;
     FicheroNuevo fichero(directorio);
     if (!fichero.Abierto())
         return;
-    const Lectura lectura = Copia(fichero);
+    const Lectura lectura = Copia(&fichero);
     m_discoLleno = lectura == Lectura::DiscoLleno;
+    const bool soloLectura = (archive_entry_perm(miembro) & 0200) == 0;
+    Leido(miembro, lectura, nombre, directamente,
+        lectura == Lectura::Entera && fichero.Termina(nombre, soloLectura));
+}
+
+void Extraccion::Leido(
+    archive_entry *miembro, Lectura lectura, const QByteArray &nombre, bool directamente, bool puesto)
+{
     m_enteros += lectura == Lectura::Entera ? 1 : 0;
     if (EsIlegible(miembro, lectura)) {
         ++m_ilegibles;
         if (directamente)
             m_resultado.ilegibles << host::nameFromDisk(nombre);
     }
-    const bool soloLectura = (archive_entry_perm(miembro) & 0200) == 0;
-    if (lectura == Lectura::Entera && fichero.Termina(nombre, soloLectura) && directamente)
+    if (lectura == Lectura::Entera && puesto && directamente)
         m_resultado.ficheros << host::nameFromDisk(nombre);
 }
 
@@ -232,7 +261,7 @@ bool Extraccion::EsIlegible(archive_entry *miembro, Lectura lectura) const
 
 // A warning at the end of the data means that it doesn't agree with its checksum; a member that fails alone
 // is compressed in a way that the library doesn't know.
-Extraccion::Lectura Extraccion::Copia(FicheroNuevo &fichero)
+Extraccion::Lectura Extraccion::Copia(FicheroNuevo *fichero)
 {
     std::array<char, Bloque> bloque;
     for (;;) {
@@ -241,22 +270,36 @@ Extraccion::Lectura Extraccion::Copia(FicheroNuevo &fichero)
             return Lectura::Entera;
         if (leidos < 0)
             return leidos == ARCHIVE_FAILED ? Lectura::Desconocida : Lectura::Dañada;
-        if (!fichero.Escribe(bloque.data(), leidos))
+        if (fichero && !fichero->Escribe(bloque.data(), leidos))
             return Lectura::DiscoLleno;
     }
 }
 
 } // namespace
 
-Desempaquetado Descomprimir(const QString &ArchivoZip, const QString &DirectorioDestino)
+namespace {
+
+Desempaquetado lee(const QString &ArchivoZip, const Destino *destino)
 {
     FuenteZip fuente(abre(ArchivoZip));
-    const Destino destino(host::findOnDisk(DirectorioDestino));
-    if (!fuente.Abierta() || !destino.Abierto())
+    if (!fuente.Abierta())
         return {};
-    Contraseñas contraseñas;
+    Contraseñas contraseñas(destino != nullptr);
     const Archivo archivo = leeZip(fuente, contraseñas);
     return archivo ? Extraccion(archivo.get(), destino, contraseñas).Todo() : Desempaquetado();
+}
+
+} // namespace
+
+Desempaquetado Descomprimir(const QString &ArchivoZip, const QString &DirectorioDestino)
+{
+    const Destino destino(host::findOnDisk(DirectorioDestino));
+    return destino.Abierto() ? lee(ArchivoZip, &destino) : Desempaquetado();
+}
+
+Desempaquetado ContenidoDe(const QString &ArchivoZip)
+{
+    return lee(ArchivoZip, nullptr);
 }
 
 void OlvidaSaltarContraseña()

@@ -20,6 +20,10 @@ struct Desempaquetado {
 // where the disk would be left with less than 100 MB. Needs a UTF-8 locale for the members' names.
 Desempaquetado Descomprimir(const QString &ArchivoZip, const QString &DirectorioDestino);
 
+// What unpacking it into an empty directory would yield: the archive is read, and nothing is written. No
+// password is asked for.
+Desempaquetado ContenidoDe(const QString &ArchivoZip);
+
 // Forgets that the password prompt was left empty, for tests of a process of their own.
 void OlvidaSaltarContraseña();
 

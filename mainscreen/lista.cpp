@@ -4,12 +4,10 @@
 #include "mainscreen/portada.h"
 
 #include "core/busqueda.h"
-#include "core/catalogo.h"
 #include "core/lista.h"
+#include "core/listado.h"
 
 #include "forms/yield.h"
-
-#include "host/lengths.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,8 +33,7 @@ QStringList Portada::EntradasDeLista() const
 
 void Portada::Llena_Lista()
 {
-    for (core::Tabla<QString> *tabla : { &M.Arch_Nombre, &M.Arch_Mayus, &M.Nota_Clave, &M.Nota_Texto })
-        tabla->vacia();
+    core::VaciaLista(M);
     M.NumROMsBorradas = 0;
     if (Combo2->Text().isEmpty())
         return;
@@ -68,24 +65,14 @@ void Portada::Llena_Lista()
 
 void Portada::LlenaTablasDeLista()
 {
-    const int sistema = Sistema();
-    const int emulador = Emulador() + 1;
-    M.TipoEmu = core::TipoDe(M.Cat_XDI(sistema, emulador));
-    const int tipo = core::Numero(M.TipoEmu);
-    const QString directorio = core::ValorExigido(M.Cat_ROM(sistema, emulador), core::PrefijoRuta);
-    const int entradas = core::ExploraDirectorio(M, tipo, directorio);
-    const int notas = core::CargaNotasEnMayusculas(M, Combo1->Text());
-    const int extensiones = core::CargaExtensiones(M, sistema);
-    PonInfo(M.TXT_Añadiendo);
-
     const core::Recuento recuento =
-        core::Empareja(M, tipo, directorio, entradas, notas, extensiones, host::LengthsIn(directorio));
+        core::ListaDe(M, Sistema(), Emulador() + 1, Combo1->Text(), [this] { PonInfo(M.TXT_Añadiendo); });
     for (const QString &entrada : recuento.entradas)
         Lista1->AddItem(entrada);
     m_recuento = recuento.exploradas;
     if (recuento.interrumpido)
         return;
-    PonInfoRoms(core::Resumen(tipo, Lista1->ListCount(), recuento, M.TXT_Directorios));
+    PonInfoRoms(core::Resumen(core::Numero(M.TipoEmu), Lista1->ListCount(), recuento, M.TXT_Directorios));
     if (M.RestaurarROM == 1)
         Lista1->SetText(M.ROMGuardada);
     else if (m_recuento > 0)

@@ -23,3 +23,17 @@ protected:
     // The settings as written at the first run, in that language.
     void PonAjustes(const QString &idioma = QStringLiteral("ZB-ENG.LNG")) const;
 };
+
+// With a system, its emulators and its games.
+class MesaConJuegos : public MesaDePruebas {
+protected:
+    // "Sis" with the emulators "Uno" (loose files *.nes, and ZIPs of them) and "Dos" (a directory a game), an
+    // executable, three games, a description, a capture.
+    MesaConJuegos();
+
+    // An executable of the emulators.
+    void PonGuion(const QString &nombre, const QByteArray &lineas) const;
+
+    // Replaces in a file of the program.
+    void Cambia(const QString &fichero, const QByteArray &antes, const QByteArray &despues) const;
+};

@@ -1,0 +1,13 @@
+// Which of some names is meant by what a user typed of it.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace companion {
+
+// The positions, counted from 0, of the names that a text may mean: those that equal it; else in any case;
+// else those that begin with it, or hold it, in any case. Equal names count once, for the first of them.
+QList<qsizetype> Candidatos(const QStringList &nombres, const QString &texto);
+
+} // namespace companion

@@ -1,0 +1,60 @@
+// What the program directory holds, as the main screen shows it: systems, emulators, games.
+#pragma once
+
+#include "companion/sesion.h"
+
+#include "core/lista.h"
+
+#include <optional>
+#include <vector>
+
+namespace companion {
+
+// An emulator of a system.
+struct Pareja {
+    int sistema = 0; // of the tables
+    int fila = 1; // of the system's emulators, the first is 1
+    QString nombreSistema;
+    QString nombreEmulador;
+};
+
+// Reads the catalogue into sesion.M; the settings are read already. Fails where it can't be read.
+void LeeMundo(Sesion &sesion);
+
+// All pairs, in the order of the screen's lists.
+std::vector<Pareja> Parejas(const core::Modulo &M);
+
+// The pairs that these names mean, in other case or cut; all of them for empty names. None, told already,
+// where no name fits, or several do.
+std::vector<Pareja> ParejasPedidas(Sesion &sesion, const QString &sistema, const QString &emulador);
+
+// The directory that a line of the catalogue names, as it stands there.
+QString DirectorioDeJuegos(const core::Modulo &M, const Pareja &pareja);
+QString DirectorioDeCapturas(const core::Modulo &M, const Pareja &pareja);
+int TipoDe(const core::Modulo &M, const Pareja &pareja);
+
+struct Listado {
+    core::Recuento recuento;
+    QString resumen; // the line over the list
+};
+
+// Lists the games of a pair, as the screen does. Fails as core::ListaDe.
+Listado Lista(Sesion &sesion, const Pareja &pareja);
+
+// A game of the list, as the tables have it that listed it.
+struct Juego {
+    QString entrada;
+    bool descrito = false;
+    QString fichero; // its name in the directory of games, as the disk spells it
+    std::optional<qint64> bytes; // of a file
+    QString datos; // the line of facts
+    QString captura; // the path of the one that shows; empty if there is none
+};
+Juego JuegoDe(const core::Modulo &M, const Pareja &pareja, const QString &entrada);
+
+// The entry of a listed pair that a text means, in other case or cut, or by its file's name. None, told
+// already, where no one fits, or several do.
+std::optional<QString> EntradaPedida(
+    const Sesion &sesion, const Pareja &pareja, const Listado &listado, const QString &texto);
+
+} // namespace companion

@@ -1,0 +1,27 @@
+#include "core/listado.h"
+
+#include "core/catalogo.h"
+
+#include "host/lengths.h"
+
+namespace core {
+
+void VaciaLista(Modulo &M)
+{
+    for (Tabla<QString> *tabla : { &M.Arch_Nombre, &M.Arch_Mayus, &M.Nota_Clave, &M.Nota_Texto })
+        tabla->vacia();
+}
+
+Recuento ListaDe(Modulo &M, int sistema, int fila, const QString &nombre, const std::function<void()> &leido)
+{
+    M.TipoEmu = TipoDe(M.Cat_XDI(sistema, fila));
+    const int tipo = Numero(M.TipoEmu);
+    const QString directorio = ValorExigido(M.Cat_ROM(sistema, fila), PrefijoRuta);
+    const int entradas = ExploraDirectorio(M, tipo, directorio);
+    const int notas = CargaNotasEnMayusculas(M, nombre);
+    const int extensiones = CargaExtensiones(M, sistema);
+    leido();
+    return Empareja(M, tipo, directorio, entradas, notas, extensiones, host::LengthsIn(directorio));
+}
+
+} // namespace core

@@ -1,0 +1,44 @@
+// What a launch does to the machine: the launch itself does it, a rehearsal only tells it.
+#pragma once
+
+#include "launch/lineadeorden.h"
+#include "launch/vbunzbas.h"
+
+#include "core/modulo.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace launch {
+
+class Pantalla;
+
+class Obras {
+public:
+    virtual ~Obras() = default;
+
+    // What an earlier run left in the temporary directory goes; at the end the directory around it.
+    virtual void BarreTemporal() = 0;
+    virtual void RecogeTemporal() = 0;
+
+    // Makes the directory for what a ZIP holds; false if it is somebody else's, or can't be made.
+    virtual bool HazTemporal(const QString &carpeta) = 0;
+    virtual void VaciaTemporal(const QString &carpeta) = 0;
+
+    // The directory of a game beside its emulator: absolute, empty if there can be none. It is cleaned of
+    // these files, and goes, when the emulator has ended.
+    virtual QString AbreCarpeta(const QString &ExeDir, const QString &Carpeta) = 0;
+    virtual void LimpiaCarpeta(const QStringList &desempaquetados) = 0;
+
+    virtual Desempaquetado Desempaqueta(const QString &ArchivoZip, const QString &destino) = 0;
+    virtual QStringList FicherosEn(const QString &carpeta) = 0; // the plain ones; none where it fails
+
+    virtual void Aviso(const QString &titulo, const QString &texto) = 0;
+    virtual void EnsenaOrden(const QString &texto) = 0; // in the debug mode
+    virtual void Arranca(const LineaDeOrden &orden) = 0; // and stays until the emulator has ended
+};
+
+// One launch, or the rehearsal of one: by what stands selected.
+void Juega(core::Modulo &M, Pantalla &pantalla, Obras &obras);
+
+} // namespace launch
