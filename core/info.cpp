@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
@@ -181,6 +182,23 @@ QString RutaDeCaptura(int tipo, const QString &directorio, const FichaDeROM &fic
     if (UnZipPorJuego(tipo) || FicherosSueltos(tipo))
         return directorio + hastaElPunto(ficha.nombre) + gif;
     return {};
+}
+
+QStringList CapturasDe(const Modulo &M, const QString &texto, int tipo, const QString &directorio)
+{
+    QStringList rutas;
+    QSet<QString> vistas;
+    QString ultima;
+    BuscaROM(M, texto, [&](const FichaDeROM &ficha) {
+        ultima = RutaDeCaptura(tipo, directorio, ficha);
+        if (ultima.isEmpty() || vistas.contains(ultima))
+            return;
+        vistas.insert(ultima);
+        rutas.append(ultima);
+    });
+    if (!rutas.isEmpty())
+        rutas.move(rutas.lastIndexOf(ultima), rutas.size() - 1);
+    return rutas;
 }
 
 } // namespace core

@@ -5,6 +5,7 @@
 #include "core/modulo.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -41,5 +42,10 @@ QString InfoQueCabe(const QString &linea, const std::function<bool(const QString
 // Path of the capture; empty for a type without captures. Fails with 5 for a name without the point at which
 // it is cut.
 QString RutaDeCaptura(int tipo, const QString &directorio, const FichaDeROM &ficha);
+
+// The captures of the notes with this text, or of the text itself: the one that shows stands last, ahead of
+// it stands each other one once; it shows only where they all can be read. None for a type without captures.
+// Fails with 5 as RutaDeCaptura does, and with 9 as BuscaROM.
+QStringList CapturasDe(const Modulo &M, const QString &texto, int tipo, const QString &directorio);
 
 } // namespace core

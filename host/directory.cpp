@@ -2,6 +2,7 @@
 
 #include "host/descriptor.h"
 #include "host/encoding.h"
+#include "host/filestate.h"
 #include "host/letters.h"
 #include "host/retried.h"
 #include "host/shortnames.h"
@@ -15,7 +16,6 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <time.h>
 
 namespace host {
 
@@ -24,9 +24,6 @@ namespace {
 using Place = std::pair<dev_t, ino_t>;
 
 constexpr qint64 NanosecondsPerSecond = 1'000'000'000;
-// The file systems' clock ticks coarsely: a change within one tick of the reading leaves no trace.
-constexpr qint64 SureAfter = 20'000'000;
-constexpr qint64 SureAfterCoarse = 4 * NanosecondsPerSecond;
 constexpr std::size_t MostReadings = 256;
 
 int readingCount = 0;
@@ -41,15 +38,6 @@ struct Reading {
                     // back
     std::shared_ptr<const Directory> directory;
 };
-
-// The clock of a file system that counts whole seconds, or pairs of them, doesn't show a change soon after
-// another.
-bool canBeKept(const timespec &changed)
-{
-    timespec now;
-    clock_gettime(CLOCK_REALTIME, &now);
-    return nanoseconds(now) - nanoseconds(changed) > (changed.tv_nsec == 0 ? SureAfterCoarse : SureAfter);
-}
 
 // The next entry; null at the end, and then errno is 0, or where it can't be read.
 const dirent *nextEntry(DIR *stream)
@@ -141,7 +129,7 @@ std::shared_ptr<const Directory> Directory::at(const QByteArray &path)
         retried([&] { return open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
     if (!descriptor.isOpen() || retried([&] { return fstat(descriptor.number(), &status); }) != 0)
         return nullptr;
-    const bool keep = canBeKept(status.st_ctim);
+    const bool keep = isSettled(status.st_ctim);
     std::shared_ptr<const Directory> directory = of(descriptor);
     if (keep && directory) {
         if (readings.size() >= MostReadings)

@@ -26,18 +26,35 @@ qint64 LengthsIn::operator()(const QString &path) const
     if (!isEntry(name))
         return fileLength(path);
     struct stat status;
+    if (!look(name, status))
+        throw Failure(FileNotFound, u"read the length"_s, path);
+    return status.st_size;
+}
+
+std::optional<FileState> LengthsIn::state(const QString &path) const
+{
+    const QString name = path.sliced(m_directory.size());
+    if (!isEntry(name))
+        return std::nullopt;
+    struct stat status;
+    if (!look(name, status))
+        throw Failure(FileNotFound, u"look at a file"_s, path);
+    return stateOf(status);
+}
+
+// True if an entry of this name leads to a file.
+bool LengthsIn::look(const QString &name, struct stat &status) const
+{
     const auto leadsToFile = [&](const QByteArray &entry) {
         return stat(joined(m_found, entry).constData(), &status) == 0 && !S_ISDIR(status.st_mode);
     };
     if (m_listing && leadsToFile(m_listing->find(name)))
-        return status.st_size;
+        return true;
     if (leadsToFile(nameToDisk(name)))
-        return status.st_size;
+        return true;
     if (!m_listing)
         m_listing = Directory::at(m_found);
-    if (!leadsToFile(entryFor(m_found, name)))
-        throw Failure(FileNotFound, u"read the length"_s, path);
-    return status.st_size;
+    return leadsToFile(entryFor(m_found, name));
 }
 
 bool LengthsIn::lists(const QString &path) const

@@ -1,10 +1,13 @@
 // Lengths of files, for passes over a whole directory.
 #pragma once
 
+#include "host/filestate.h"
+
 #include <QByteArray>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace host {
 
@@ -24,7 +27,12 @@ public:
     // directory that can be listed but not entered has no lengths. False proves nothing.
     bool lists(const QString &path) const;
 
+    // The state of the file, by which what it holds is known again; none of what is no entry of the directory
+    // itself, of another thing than a file, and shortly after a change. Fails with 53 as the length does.
+    std::optional<FileState> state(const QString &path) const;
+
 private:
+    bool look(const QString &name, struct stat &status) const;
     bool isEntry(const QString &name) const;
 
     QString m_directory;

@@ -1,8 +1,10 @@
-// The frameless window of the enlarged capture; it also keeps the black picture.
+// The frameless window of the enlarged capture; it also keeps the black picture, and which
+// captures could be loaded.
 #pragma once
 
 #include "forms/form.h"
 #include "forms/image.h"
+#include "forms/knownpictures.h"
 
 namespace mainscreen {
 
@@ -16,6 +18,7 @@ public:
 
     forms::Image *Imagen; // the same picture as Graf_Imagen
     forms::Image *Negro; // black, never in view
+    forms::KnownPictures Conocidas; // captures that could be loaded
 };
 
 } // namespace mainscreen

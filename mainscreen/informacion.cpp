@@ -11,10 +11,7 @@
 
 #include "host/lengths.h"
 
-#include <QSet>
-
 #include <functional>
-#include <utility>
 
 namespace mainscreen {
 
@@ -65,19 +62,11 @@ void Portada::CargaCaptura()
 {
     Graf_Imagen->show();
     const QString directorio = core::ValorExigido(M.Cat_IMG(Sistema(), Emulador() + 1), core::PrefijoRuta);
-    // Every note with this text has a capture of its own, unless their names are alike up to the point. The
-    // last one's shows, and black where a single one can't be read.
-    QSet<QString> otras;
-    QString ruta;
-    core::BuscaROM(M, Lista1->Text(), [&](const core::FichaDeROM &ficha) {
-        ruta = core::RutaDeCaptura(core::Numero(M.TipoEmu), directorio, ficha);
-        otras.insert(ruta);
-    });
-    if (ruta.isEmpty())
+    QStringList rutas = core::CapturasDe(M, Lista1->Text(), core::Numero(M.TipoEmu), directorio);
+    if (rutas.isEmpty())
         return;
-    otras.remove(ruta);
-    for (const QString &otra : std::as_const(otras))
-        forms::LoadPicture(otra);
+    const QString ruta = rutas.takeLast();
+    Aumento.Conocidas.Check(directorio, rutas);
     const QPixmap captura = forms::LoadPicture(ruta);
     Graf_Imagen->SetPicture(captura);
     Aumento.Imagen->SetPicture(captura);

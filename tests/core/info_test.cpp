@@ -86,6 +86,22 @@ TEST_F(Informacion, LookUpRunsOffAFullTable_BehindItsHits)
     EXPECT_EQ(halladas, QStringList { u"K6666"_s });
 }
 
+TEST_F(Informacion, CapturesOfATextAreEachNotesOnce_TheLastOnesAtTheEnd)
+{
+    PonNotas({ { u"A.B"_s, u"One"_s }, { u"B.C"_s, u"One"_s }, { u"X.Y"_s, u"Two"_s }, { u"A.D"_s, u"One"_s },
+        { u"Point"_s, u"Three"_s }, { u"X.Z"_s, u"Three"_s } });
+    const auto capturas = [this](const QString &texto, int tipo) {
+        return core::CapturasDe(M, texto, tipo, u"C/"_s);
+    };
+    EXPECT_EQ(capturas(u"One"_s, 0), (QStringList { u"C/B.GIF"_s, u"C/A.GIF"_s }));
+    EXPECT_EQ(capturas(u"One"_s, 2), (QStringList { u"C/A.B.GIF"_s, u"C/B.C.GIF"_s, u"C/A.D.GIF"_s }));
+    EXPECT_EQ(capturas(u"One"_s, 4), QStringList());
+    EXPECT_EQ(capturas(u"Two"_s, 5), QStringList { u"C/X.GIF"_s });
+    EXPECT_EQ(capturas(u"none.bin"_s, 5), QStringList { u"C/none.GIF"_s });
+    EXPECT_EQ(NumeroDeFallo([&] { capturas(u"Three"_s, 0); }), host::InvalidArgument);
+    EXPECT_EQ(NumeroDeFallo([&] { capturas(u"none"_s, 0); }), host::InvalidArgument);
+}
+
 struct CasoDeInfo {
     int tipo;
     FichaDeROM ficha;

@@ -1,13 +1,19 @@
 #include "drive.h"
 
+#include "tests/support/opens.h"
+
 #include "forms/form.h"
 #include "forms/image.h"
+#include "forms/knownpictures.h"
 #include "forms/pictures.h"
 
 #include "host/failure.h"
+#include "host/lengths.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -65,6 +71,71 @@ TEST_F(Pictures, WhatIsNoPicture_FailsWith481)
     EXPECT_EQ(failureOf(write(u"text.gif"_s, "no picture")), 481);
     EXPECT_EQ(failureOf(write(u"empty.gif"_s, "")), 481);
     EXPECT_EQ(failureOf(write(u"cut.gif"_s, redGif.first(12))), 481);
+}
+
+class PicturesKnown : public Pictures {
+protected:
+    // Written so long ago that a further change shows.
+    QString writeSettled(const QString &name, const QByteArray &bytes) const
+    {
+        QString path = write(name, bytes);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return host::LengthsIn(place).state(path).has_value(); }, 20'000));
+        return path;
+    }
+
+    int checkFails(const QStringList &paths)
+    {
+        try {
+            known.Check(place, paths);
+        } catch (const host::Failure &failure) {
+            return failure.number();
+        }
+        return 0;
+    }
+
+    const QString place = directory.path() + u'/';
+    forms::KnownPictures known;
+};
+
+TEST_F(PicturesKnown, AreReadOnceWhileTheirFilesStayAsTheyAre)
+{
+    const QString one = writeSettled(u"one.gif"_s, redGif);
+    const QString two = writeSettled(u"two.gif"_s, redGif);
+    const OpensOf opensOfOne(one);
+    const OpensOf opensOfTwo(two);
+    EXPECT_EQ(checkFails({ one }), 0);
+    EXPECT_EQ(checkFails({ one, place + u"TWO.GIF"_s }), 0);
+    EXPECT_EQ(checkFails({ one, two }), 0);
+    EXPECT_EQ(opensOfOne.count(), 1);
+    EXPECT_EQ(opensOfTwo.count(), 1);
+}
+
+TEST_F(PicturesKnown, AreLookedAtAnewWhereTheirFilesChange)
+{
+    const QString one = writeSettled(u"one.gif"_s, redGif);
+    EXPECT_EQ(checkFails({ one }), 0);
+    QByteArray broken = redGif;
+    broken[0] = 'X';
+    write(u"one.gif"_s, broken); // in place, and as long
+    EXPECT_EQ(checkFails({ one }), 481);
+    EXPECT_EQ(checkFails({ one }), 481);
+    writeSettled(u"one.gif"_s, redGif);
+    EXPECT_EQ(checkFails({ one }), 0);
+    EXPECT_TRUE(QFile::remove(one));
+    EXPECT_EQ(checkFails({ one }), 53);
+}
+
+TEST_F(PicturesKnown, AMissingOneIsFoundBeforeAnyIsRead)
+{
+    const QString one = writeSettled(u"one.gif"_s, redGif);
+    const OpensOf opens(one);
+    EXPECT_EQ(checkFails({ one, place + u"none.gif"_s }), 53);
+    EXPECT_EQ(opens.count(), 0);
+    // In another directory, which is no entry of this one.
+    EXPECT_TRUE(QDir(place).mkdir(u"sub"_s));
+    const QString below = write(u"sub/two.gif"_s, redGif);
+    EXPECT_EQ(checkFails({ below }), 0);
+    EXPECT_EQ(checkFails({ place + u"sub"_s }), 53);
 }
 
 TEST_F(Pictures, Artwork_IsDrawnAtItsSizeAndRatio)

@@ -7,6 +7,10 @@
 #include "host/paths.h"
 
 #include <cerrno>
+#include <optional>
+#include <thread>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using namespace host;
@@ -171,6 +175,33 @@ TEST_F(Lengths, AreSureToBeThere_OfPlainFilesThatAListingTells)
         EXPECT_FALSE(lengths.lists(path(u"Roms/"_s) + name)) << name.toStdString();
     EXPECT_EQ(systemcalls::looks(), afterTheListing);
     EXPECT_FALSE(LengthsIn(path(u"none/"_s)).lists(path(u"none/One.nes"_s)));
+}
+
+TEST_F(Lengths, AndStates_TellOneFileFromAnotherAndFromItselfAfterAChange)
+{
+    makeDirectory("dir");
+    makeFile("one", "abc");
+    makeFile("two", "abc");
+    makeLink("one", "link");
+    const LengthsIn files(path(u""_s) + u'/');
+    const auto state = [&](const QString &name) { return files.state(path(name)); };
+    while (!state(u"two"_s))
+        std::this_thread::yield();
+    EXPECT_EQ(state(u"one"_s), state(u"ONE"_s));
+    EXPECT_EQ(state(u"one"_s), state(u"link"_s));
+    EXPECT_NE(state(u"one"_s), state(u"two"_s));
+    const auto before = state(u"one"_s);
+    ASSERT_EQ(chmod(path(u"one"_s).toUtf8().constData(), 0600), 0);
+    {
+        const systemcalls::CoarseClock clock(systemcalls::CoarseClock::WholeSeconds);
+        EXPECT_EQ(state(u"one"_s), std::nullopt) << "a further change might leave no trace";
+    }
+    while (!state(u"one"_s))
+        std::this_thread::yield();
+    EXPECT_NE(state(u"one"_s), before);
+    EXPECT_EQ(state(u"none/one"_s), std::nullopt);
+    for (const QString &name : { u"none"_s, u"dir"_s })
+        EXPECT_EQ(failureOf([&] { state(name); }), FileNotFound);
 }
 
 // Thousands of them are asked for at once.

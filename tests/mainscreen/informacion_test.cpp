@@ -161,6 +161,29 @@ TEST_F(InformacionTest, ThousandsOfRecordsWithOneDescriptionAreHandledByFewLooks
     EXPECT_LT(systemcalls::looks() - before, 100) << "looks at files one by one";
 }
 
+TEST_F(InformacionTest, CapturesOfThousandsOfRecordsWithOneDescriptionAreReadOnce_AndAgainWhereTheyChange)
+{
+    std::vector<NoteEntry> notes;
+    for (int i = 0; i < 2000; ++i) {
+        files.writeGif(u"c/G%1.GIF"_s.arg(i), i == 1999 ? Qt::green : Qt::red);
+        notes.push_back({ u"G%1.BIN"_s.arg(i), u"Gemelo"_s });
+    }
+    files.writeSize(u"r/g0.bin"_s, 1024);
+    startWith(u"0"_s, notes);
+    EXPECT_EQ(captureOf(0), QColor(Qt::green)); // a last one just written may be read twice
+    const OpensOf opens(captures + u"G0.GIF"_s);
+    const OpensOf opensOfTheLast(captures + u"G1999.GIF"_s);
+    EXPECT_EQ(captureOf(0), QColor(Qt::green));
+    EXPECT_EQ(opens.count(), 0) << "decodes what it knows";
+    EXPECT_GT(opensOfTheLast.count(), 0) << "opening isn't seen";
+    files.write(u"c/G0.GIF"_s, "no picture");
+    EXPECT_EQ(captureOf(0), QColor(Qt::black));
+    files.writeGif(u"c/G0.GIF"_s, Qt::red);
+    EXPECT_EQ(captureOf(0), QColor(Qt::green));
+    files.remove(u"c/G1000.GIF"_s);
+    EXPECT_EQ(captureOf(0), QColor(Qt::black));
+}
+
 TEST_F(InformacionTest, RecordWithoutItsFileKeepsWhatStoodBefore)
 {
     files.writeSize(u"r/a.bin"_s, 1024);
