@@ -13,6 +13,8 @@ namespace {
 constexpr int Columnas = 5;
 const QString MarcaDeROMs = u"rom"_s; // in the sixth column, if there is one
 const QString Nada = u"-"_s;
+const QString MarcaDeNucleo = u"nucleo"_s;
+const QString MarcaDeEnlace = u"{roms}"_s;
 
 bool esTipo(const QString &texto)
 {
@@ -70,6 +72,26 @@ Parametros ParametrosDe(const Ficha &ficha)
 {
     const int tipo = ficha.tipo.toInt();
     return { tipo >= 5 ? conBlanco(ficha.par1) : ficha.par1, tipo == 3 ? conBlanco(ficha.par2) : ficha.par2 };
+}
+
+QString NucleoDe(const Ficha &ficha)
+{
+    return MarcaDe(ficha.par1, MarcaDeNucleo);
+}
+
+QString ConNucleo(QString parametros, const QString &ruta)
+{
+    return parametros.replace(u'{' + MarcaDeNucleo + u':' + MarcaDe(parametros, MarcaDeNucleo) + u'}', ruta);
+}
+
+bool SeArrancaJuntoASusROMs(const Ficha &ficha)
+{
+    return ficha.par1.contains(MarcaDeEnlace);
+}
+
+QString ConEnlaceDeROMs(QString parametros)
+{
+    return parametros.replace(MarcaDeEnlace, u"roms"_s);
 }
 
 QString MarcaDe(const QString &texto, const QString &nombre)

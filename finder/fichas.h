@@ -33,6 +33,15 @@ struct Parametros {
 };
 Parametros ParametrosDe(const Ficha &ficha);
 
+// The name of the core that it loads, empty for none; the parameters with the core's path in its place.
+QString NucleoDe(const Ficha &ficha);
+QString ConNucleo(QString parametros, const QString &ruta);
+
+// Whether it gets bare names of games, and so is started beside a link that is called "roms"; the parameters
+// with that link.
+bool SeArrancaJuntoASusROMs(const Ficha &ficha);
+QString ConEnlaceDeROMs(QString parametros);
+
 // What stands between "{name:" and "}" in a text, empty if there is none.
 QString MarcaDe(const QString &texto, const QString &nombre);
 

@@ -39,25 +39,25 @@ std::optional<Hallazgo> hallazgoDe(
         return std::nullopt;
 
     Parametros parametros = ParametrosDe(ficha);
-    const QString nucleo = MarcaDe(ficha.par1, u"nucleo"_s);
+    const QString nucleo = NucleoDe(ficha);
     if (!nucleo.isEmpty()) {
         const QString ruta = RutaDeNucleo(nucleo, lugares);
         if (ruta.isEmpty())
             return std::nullopt;
-        parametros.par1.replace(u"{nucleo:"_s + nucleo + u'}', ruta);
+        parametros.par1 = ConNucleo(parametros.par1, ruta);
     }
 
     core::EmuladorNuevo &emulador = hallazgo.emulador;
     emulador.exe = hallazgo.programa;
-    if (parametros.par1.contains(u"{roms}"_s)) {
-        hallazgo.arranque = directorio + u"/arranque/"_s + NombreDeDirectorio(ficha.emulador);
+    if (SeArrancaJuntoASusROMs(ficha)) {
+        hallazgo.arranque = RutaDeArranque(directorio, ficha.emulador);
         emulador.exe = hallazgo.arranque + hallazgo.programa.sliced(host::lastSeparator(hallazgo.programa));
-        parametros.par1.replace(u"{roms}"_s, u"roms"_s);
+        parametros.par1 = ConEnlaceDeROMs(parametros.par1);
     }
     emulador.nombre = ficha.emulador;
     emulador.tipo = ficha.tipo;
-    emulador.rom = directorio + u"/roms/"_s + NombreDeDirectorio(sistema) + u'/';
-    emulador.img = directorio + u"/capturas/"_s + NombreDeDirectorio(sistema) + u'/';
+    emulador.rom = RutaDeROMs(directorio, sistema);
+    emulador.img = RutaDeCapturas(directorio, sistema);
     emulador.par1 = parametros.par1;
     emulador.par2 = parametros.par2;
     return hallazgo;
@@ -68,6 +68,21 @@ std::optional<Hallazgo> hallazgoDe(
 QString NombreDeDirectorio(QString sistema)
 {
     return sistema.replace(u'/', u'-');
+}
+
+QString RutaDeROMs(const QString &directorio, const QString &sistema)
+{
+    return directorio + u"/roms/"_s + NombreDeDirectorio(sistema) + u'/';
+}
+
+QString RutaDeCapturas(const QString &directorio, const QString &sistema)
+{
+    return directorio + u"/capturas/"_s + NombreDeDirectorio(sistema) + u'/';
+}
+
+QString RutaDeArranque(const QString &directorio, const QString &emulador)
+{
+    return directorio + u"/arranque/"_s + NombreDeDirectorio(emulador);
 }
 
 void LeeTablas(core::Modulo &M, const QString &texto)

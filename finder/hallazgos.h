@@ -31,6 +31,11 @@ void LeeTablas(core::Modulo &M, const QString &texto);
 // A system's name as that of a directory.
 QString NombreDeDirectorio(QString sistema);
 
+// Where they go that belong to a system, or are started beside their games; below the program's directory.
+QString RutaDeROMs(const QString &directorio, const QString &sistema); // closed by a separator
+QString RutaDeCapturas(const QString &directorio, const QString &sistema); // closed by a separator
+QString RutaDeArranque(const QString &directorio, const QString &emulador);
+
 // In the order of the database. An emulator whose name stands in the catalogue, under whichever system, is
 // left out, and so is one whose executable or core isn't there.
 std::vector<Hallazgo> Busca(const core::Modulo &base, const core::Modulo &catalogo,
