@@ -58,6 +58,17 @@ Cerrojos CerrojosDe(const Marcas &marcas)
     return { !marcas.check2, !marcas.check1, marcas.check2, !marcas.check4 };
 }
 
+bool FaltaEjecutable(const QString &exe)
+{
+    const bool esFichero = host::exists(exe) && !host::exists(host::withClosingSeparator(exe));
+    return !exe.isEmpty() && !esFichero;
+}
+
+bool FaltaDirectorio(const QString &ruta)
+{
+    return !ruta.isEmpty() && !host::exists(host::withClosingSeparator(ruta));
+}
+
 Rechazo RechazoDe(const QString &sistema, int origen, const Casillas &casillas, const Marcas &marcas)
 {
     if (casillas.exe.isEmpty())

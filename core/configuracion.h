@@ -43,6 +43,11 @@ struct Casillas {
     QString par2;
 };
 
+// Whether what a box names isn't there: no file for the executable, no directory for the others. An empty box
+// names nothing.
+bool FaltaEjecutable(const QString &exe);
+bool FaltaDirectorio(const QString &ruta);
+
 // Why a form can't be saved; the first reason that applies.
 enum class Rechazo { Ninguno, SinEXE, SinDirectorio, SinMarcas };
 Rechazo RechazoDe(const QString &sistema, int origen, const Casillas &casillas, const Marcas &marcas);

@@ -4,6 +4,10 @@
 #include "core/catalogo.h"
 #include "core/configuracion.h"
 
+#include "host/paths.h"
+
+#include <QFile>
+
 #include <cstring>
 #include <tuple>
 
@@ -310,4 +314,49 @@ TEST_F(Configuracion, AValueThatTheBlockLacksStaysAsItWas)
 TEST_F(Configuracion, AnEmptyCatalogueFails)
 {
     EXPECT_EQ(NumeroDeFallo([this] { Previos("", u"E"_s); }), host::PastEndOfFile);
+}
+
+// By the rules of the host: both separators, any case, links followed.
+TEST_F(Configuracion, APathIsMissedWhereNothingOfItsKindIs)
+{
+    Pon(u"Bin/Mame"_s, "x");
+    PonDirectorio(u"ROMs"_s);
+    ASSERT_TRUE(QFile::link(Ruta(u"ROMs"_s), Ruta(u"link"_s)));
+    ASSERT_TRUE(QFile::link(Ruta(u"gone"_s), Ruta(u"broken"_s)));
+    const QString aqui = Ruta({}) + u'/';
+    const struct {
+        QString ruta;
+        bool ejecutable; // whether it is missed as one
+        bool directorio;
+    } casos[] = {
+        { QString(), false, false },
+        { aqui + u"Bin/Mame"_s, false, true },
+        { aqui + u"bin/mame"_s, false, true },
+        { aqui + u"BIN\\MAME"_s, false, true },
+        { aqui + u"Bin/Mame/"_s, true, true },
+        { aqui + u"Bin/Mam"_s, true, true },
+        { aqui + u"ROMs"_s, true, false },
+        { aqui + u"roms/"_s, true, false },
+        { aqui + u"ROMS\\"_s, true, false },
+        { aqui + u"link"_s, true, false },
+        { aqui + u"broken"_s, true, true },
+        { aqui + u"gone/"_s, true, true },
+        { u"C:\\NoDir\\"_s, true, true },
+        { u" "_s, true, true },
+    };
+    for (const auto &caso : casos) {
+        EXPECT_EQ(core::FaltaEjecutable(caso.ruta), caso.ejecutable) << caso.ruta.toStdString();
+        EXPECT_EQ(core::FaltaDirectorio(caso.ruta), caso.directorio) << caso.ruta.toStdString();
+    }
+}
+
+// Where a launch would look: an executable's bare name is one of the working directory, never of PATH.
+TEST_F(Configuracion, ABareNameIsOneOfTheWorkingDirectory)
+{
+    const QString antes = host::currentDirectory();
+    Pon(u"Bin/Mame"_s, "x");
+    host::changeDirectory(Ruta(u"Bin"_s));
+    EXPECT_FALSE(core::FaltaEjecutable(u"mame"_s));
+    EXPECT_TRUE(core::FaltaEjecutable(u"sh"_s));
+    host::changeDirectory(antes);
 }
