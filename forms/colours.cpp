@@ -28,6 +28,7 @@ constexpr QRgb DimEdge = qRgb(74, 93, 166);
 constexpr QRgb DimLetters = qRgb(143, 162, 216);
 
 constexpr QRgb Grey = qRgb(104, 104, 112); // on paper
+constexpr QRgb Red = qRgb(192, 0, 0); // on paper
 
 void dim(QPalette &palette)
 {
@@ -49,7 +50,7 @@ void dim(QPalette &palette)
 QPalette controlColours()
 {
     const QColor paper = colourFromNumber(0x80000005);
-    const QColor ink = colourFromNumber(0x80000012);
+    const QColor ink = inkColour();
     QPalette palette(QColor(Cyan), QColor(Face), QColor(LitEdge), QColor(Teal), QColor(FaceBottom), ink,
         Qt::white, paper, QColor(Night));
     const auto set = [&palette](
@@ -90,6 +91,16 @@ QPalette markColours()
     palette.setColor(QPalette::Text, QColor(Green));
     palette.setColor(QPalette::Disabled, QPalette::Text, QColor(DimLetters));
     return palette;
+}
+
+QColor inkColour()
+{
+    return colourFromNumber(0x80000012);
+}
+
+QColor faultColour()
+{
+    return QColor(Red);
 }
 
 void setColours()

@@ -12,6 +12,9 @@ QPalette controlColours();
 QPalette popupColours(); // of menus, of lists that drop down, and of tips
 QPalette markColours(); // of check boxes and option buttons: Base and Text are the box and its mark
 
+QColor inkColour(); // of letters on paper
+QColor faultColour(); // of those that name what isn't there
+
 // Makes them the program's, so that nothing of the desktop's theme shows through.
 void setColours();
 

@@ -1,5 +1,6 @@
 #include "forms/textbox.h"
 
+#include "forms/colours.h"
 #include "forms/plaintext.h"
 #include "forms/shownpart.h"
 
@@ -40,7 +41,10 @@ TextBox::TextBox(QWidget *parent)
         const QString line = firstLine(text);
         const QString kept = line.size() == maxLength() ? wholeCharacters(line) : line;
         if (kept != text)
-            setText(kept);
+            return setText(kept);
+        Change.raise();
+        showHint();
+        showTip();
     });
 }
 
@@ -70,8 +74,54 @@ void TextBox::SetText(const QString &value)
 
 void TextBox::SetTip()
 {
-    connect(this, &QLineEdit::textChanged, this,
-        [this](const QString &text) { forms::SetTip(*this, fits(text) ? QString() : text); });
+    m_tip = true;
+}
+
+void TextBox::SetHint(const QString &hint, const QString &words)
+{
+    m_hint = hint;
+    m_hintWords = hint.isEmpty() ? QString() : words;
+    showHint();
+    showTip();
+}
+
+void TextBox::SetFault(const QString &words)
+{
+    if (words == m_fault)
+        return;
+    m_fault = words;
+    QPalette colours = palette();
+    for (const auto group : { QPalette::Active, QPalette::Inactive })
+        colours.setColor(group, QPalette::Text, words.isEmpty() ? inkColour() : faultColour());
+    setPalette(colours);
+    showTip();
+}
+
+void TextBox::keyPressEvent(QKeyEvent *event)
+{
+    const bool takesOver = event->keyCombination() == (Qt::CTRL | Qt::Key_Space);
+    if (takesOver && text().isEmpty() && !m_hint.isEmpty())
+        return insert(m_hint); // as if it were typed: it can be undone
+    Control::keyPressEvent(event);
+}
+
+// Of a box with a text, assistive programs would take it for the description.
+void TextBox::showHint()
+{
+    setPlaceholderText(text().isEmpty() ? m_hint : QString());
+}
+
+void TextBox::showTip()
+{
+    QStringList lines;
+    if (text().isEmpty())
+        lines << m_hintWords;
+    else
+        lines << m_fault << (m_tip && !fits(text()) ? text() : QString());
+    lines.removeAll(QString());
+    if (!lines.isEmpty() || m_tells)
+        forms::SetTip(*this, lines.join(u'\n'));
+    m_tells = !lines.isEmpty();
 }
 
 bool TextBox::fits(const QString &text) const

@@ -21,9 +21,27 @@ public:
     void SetText(const QString &value);
     void SetTip(); // from now on a text too wide for the box shows in full under the pointer
 
+    // Shows in the empty box, in grey, what Ctrl+Space takes over; it is no text of the box. The words tell
+    // so in its tip. An empty hint is none.
+    void SetHint(const QString &hint, const QString &words);
+    // Of the text that stands there now: its letters in red, and in its tip why. Empty words take that back.
+    void SetFault(const QString &words);
+
+    Event<> Change; // of the text, by whomever
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     bool fits(const QString &text) const;
+    void showHint();
+    void showTip();
 
+    bool m_tip = false;
+    bool m_tells = false; // it has a tip of its own, not the screen's
+    QString m_hint;
+    QString m_hintWords;
+    QString m_fault;
     QString m_rest; // what the dots stand for
     QString m_dots; // with the letters ahead of them
 };

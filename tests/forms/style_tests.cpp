@@ -153,6 +153,19 @@ TEST(Colours, OfLettersAndTheirGroundsStandFarEnoughApart)
             { P::BrightText, P::Base } });
 }
 
+TEST(Colours, OfHintsAndFaultsCanBeReadAndToldFromAText)
+{
+    const QColor paper = controlColours().color(QPalette::Base);
+    const QColor ink = forms::inkColour();
+    const QColor hint = controlColours().color(QPalette::PlaceholderText);
+    const QColor fault = forms::faultColour();
+    for (const QColor &letters : { ink, hint, fault })
+        EXPECT_GE(contrast(letters, paper), 4.5) << letters.name().toStdString();
+    EXPECT_GE(contrast(hint, ink), 3);
+    EXPECT_GE(contrast(fault, ink), 3);
+    EXPECT_GE(fault.hslSaturation() - hint.hslSaturation(), 200);
+}
+
 TEST(Colours, OfPopupsAndMarksAreThoseOfTheProgram)
 {
     QMenu menu;
