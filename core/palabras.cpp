@@ -66,6 +66,8 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zem_FlechaE2", &P::Zem_FlechaE2 },
         { u"Zem_Edit2", &P::Zem_Edit2 },
         { u"Zem_BlocNotas2", &P::Zem_BlocNotas2 },
+        { u"Zem_Pista", &P::Zem_Pista },
+        { u"Zem_NoEsta", &P::Zem_NoEsta },
         { u"Zem_Tamano", &P::Zem_Tamano },
         { u"Zem_Ctrl", &P::Zem_Ctrl },
         { u"Zem_Mayus", &P::Zem_Mayus },

@@ -80,6 +80,10 @@ struct Palabras {
     QString Zem_Edit2 = QStringLiteral("Abrir en el editor del terminal");
     QString Zem_BlocNotas2 = QStringLiteral("Abrir en el editor");
 
+    // What an empty box offers, %1 is the key and %2 the text; of a path that leads nowhere.
+    QString Zem_Pista = QStringLiteral("%1 escribe: %2");
+    QString Zem_NoEsta = QStringLiteral("No se encuentra en este ordenador.");
+
     // The size that was picked; %1 is a number of hundredths.
     QString Zem_Tamano = QStringLiteral("Tamaño: %1 %, al volver a abrir el programa.");
 

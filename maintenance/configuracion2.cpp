@@ -32,6 +32,8 @@ Configuracion2::Configuracion2(core::Modulo &modulo, const dialogs::Teja &teja,
     : Form(u"Configuracion2"_s, 3720, 6720, Border::FixedSingle)
     , M(modulo)
     , m_examinar(examinar)
+    , m_sistema(sistema)
+    , m_emulador(emulador)
 {
     Monta();
     Conecta();
@@ -59,6 +61,7 @@ void Configuracion2::Conecta()
     Boton3->Click = [this] { BuscaDirectorio(*Casilla3); };
     for (forms::TextBox *ruta : { Casilla1, Casilla2, Casilla3 })
         ruta->SetTip();
+    ConectaPistas();
     for (forms::CheckBox *marca : { Check1, Check2, Check4 })
         marca->Click = [this] { AplicaCerrojos(); };
     Disco1->Release = [this] { Graba(); };
@@ -97,6 +100,7 @@ void Configuracion2::AplicaCerrojos()
     colores.setColor(QPalette::Base, cerrojos.casilla5 ? forms::colourFromNumber(ColorDeVentana) : Gris);
     colores.setColor(QPalette::Text, forms::colourFromNumber(ColorDeLetras)); // it can still be read
     Casilla5->setPalette(colores);
+    PonPistas(); // the blanks in them depend on the marks
 }
 
 void Configuracion2::Prepara()
@@ -105,6 +109,8 @@ void Configuracion2::Prepara()
     NombraControles();
     if (M.Config_Origen == core::SistemaConocido)
         QuitaEspeciales();
+    Reconoce();
+    MiraRutas();
 }
 
 void Configuracion2::PonExaminar()

@@ -7,6 +7,8 @@
 
 #include "dialogs/examinar.h"
 
+#include "finder/pistas.h"
+
 #include "forms/checks.h"
 #include "forms/commandbutton.h"
 #include "forms/form.h"
@@ -16,6 +18,7 @@
 #include "forms/textbox.h"
 
 #include <functional>
+#include <optional>
 
 namespace maintenance {
 
@@ -27,7 +30,7 @@ public:
     Configuracion2(core::Modulo &modulo, const dialogs::Teja &teja,
         forms::FormHolder<dialogs::Examinar> &examinar, const QString &sistema, const QString &emulador);
 
-    // The captions in the language, and the look that Config_Origen asks for.
+    // The captions in the language, the look that Config_Origen asks for, and what is known of the emulator.
     void Prepara();
 
     core::Casillas Textos() const;
@@ -64,6 +67,12 @@ private:
     void PonMarcas(const core::Marcas &marcas);
     void AplicaCerrojos();
 
+    void ConectaPistas();
+    void Reconoce();
+    void PonPistas();
+    void MiraRutas();
+    void MiraRuta(forms::TextBox &casilla);
+
     void BuscaEjecutable();
     void BuscaDirectorio(forms::TextBox &casilla);
     bool CargaExaminar(const QString &inicio);
@@ -71,6 +80,9 @@ private:
 
     core::Modulo &M;
     forms::FormHolder<dialogs::Examinar> &m_examinar;
+    const QString m_sistema;
+    const QString m_emulador;
+    std::optional<finder::Conocido> m_conocido; // from the showing on
 };
 
 } // namespace maintenance

@@ -203,12 +203,13 @@ TEST_F(Configuracion2Test, PathsThatAreCutOffShowInFullAsTips)
         const auto tip = [&form](const QString &name) {
             return controlOf<QWidget>(form, name).accessibleDescription();
         };
-        EXPECT_EQ(tip(u"Casilla1"_s), QString::fromLatin1(deep) + u"mame"_s);
-        EXPECT_EQ(tip(u"Casilla2"_s), QString::fromLatin1(deep));
-        EXPECT_EQ(tip(u"Casilla3"_s), QString()); // it fits
+        const QString missing = u"No se encuentra en este ordenador."_s;
+        EXPECT_EQ(tip(u"Casilla1"_s), missing + u'\n' + QString::fromLatin1(deep) + u"mame"_s);
+        EXPECT_EQ(tip(u"Casilla2"_s), missing + u'\n' + QString::fromLatin1(deep));
+        EXPECT_EQ(tip(u"Casilla3"_s), missing); // it fits
         EXPECT_EQ(tip(u"Casilla4"_s), QString());
         write(form, u"Casilla3"_s, QString(60, u'i'));
-        EXPECT_EQ(tip(u"Casilla3"_s), QString(60, u'i'));
+        EXPECT_EQ(tip(u"Casilla3"_s), missing + u'\n' + QString(60, u'i'));
     });
 }
 
