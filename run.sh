@@ -26,6 +26,9 @@ packaging/assemble.sh build/release build/zembrolix
 [ "${1:-}" != --find ] || exec packaging/find.sh build/release build/zembrolix "${@:2}"
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    # What becomes of each launch; build/zembrolix/zembro why reads it.
+    export ZEMBRO_LOG=${ZEMBRO_LOG-${XDG_STATE_HOME:-${HOME:-}/.local/state}/zembrolix/log}
+    mkdir -p "$(dirname "$ZEMBRO_LOG")" || true
     exec build/zembrolix/Zembrolix
 fi
 

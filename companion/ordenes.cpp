@@ -2,7 +2,9 @@
 
 #include "companion/ayuda.h"
 #include "companion/dicho.h"
+#include "companion/jugada.h"
 #include "companion/lista.h"
+#include "companion/porque.h"
 
 #include <algorithm>
 
@@ -12,6 +14,8 @@ std::span<const Orden *const> Ordenes()
 {
     static const Orden *const ordenes[] = {
         &OrdenDicha(),
+        &OrdenJugada(),
+        &OrdenPorque(),
         &OrdenLista(),
         &OrdenAyuda(),
     };

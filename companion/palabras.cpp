@@ -26,6 +26,10 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_YaEsta", &P::Zbo_YaEsta }, { u"Zbo_SeBorraDir", &P::Zbo_SeBorraDir },
         { u"Zbo_SeBorran", &P::Zbo_SeBorran }, { u"Zbo_NoArranca", &P::Zbo_NoArranca },
         { u"Zbo_NadaSeLanza", &P::Zbo_NadaSeLanza }, { u"Zbo_SinPrograma", &P::Zbo_SinPrograma },
+        { u"Zbo_Play", &P::Zbo_Play }, { u"Zbo_Why", &P::Zbo_Why }, { u"Zbo_SinLineas", &P::Zbo_SinLineas },
+        { u"Zbo_SinPartida", &P::Zbo_SinPartida }, { u"Zbo_Partida", &P::Zbo_Partida },
+        { u"Zbo_PorSenal", &P::Zbo_PorSenal }, { u"Zbo_ConEstado", &P::Zbo_ConEstado },
+        { u"Zbo_SinFinal", &P::Zbo_SinFinal },
         // Bulk work.
     };
     return claves;

@@ -50,6 +50,17 @@ struct Palabras {
     QString Zbo_NoArranca = QStringLiteral("Doesn't start: %1");
     QString Zbo_NadaSeLanza = QStringLiteral("Nothing would be started.");
     QString Zbo_SinPrograma = QStringLiteral("The emulator's executable isn't there.");
+
+    // Playing, and the last launch.
+    QString Zbo_Play = QStringLiteral("plays a game without the screen");
+    QString Zbo_Why = QStringLiteral("tells what became of the last launch");
+    QString Zbo_SinLineas = QStringLiteral("There is no file %1: the program was not started by run.sh or "
+                                           "its starter, or ZEMBRO_LOG names another file.");
+    QString Zbo_SinPartida = QStringLiteral("%1 tells of no launch.");
+    QString Zbo_Partida = QStringLiteral("Game: %1 / %2 / %3, at %4");
+    QString Zbo_PorSenal = QStringLiteral("The emulator was ended by the signal %1 after %2 seconds.");
+    QString Zbo_ConEstado = QStringLiteral("The emulator ended with the status %1 after %2 seconds.");
+    QString Zbo_SinFinal = QStringLiteral("It still runs, or the program was ended ahead of it.");
     // Bulk work.
 };
 

@@ -214,6 +214,7 @@ Process &Process::operator=(Process &&other) noexcept
     std::swap(m_id, other.m_id);
     std::swap(m_ended, other.m_ended);
     m_end = std::move(other.m_end);
+    m_how = other.m_how;
     return *this;
 }
 
@@ -249,8 +250,13 @@ Process Process::start(const QStringList &arguments)
 bool Process::hasEnded()
 {
     // It yields 0 while the child runs, and fails where somebody else has taken its end.
-    if (!m_ended)
-        m_ended = waitpid(m_id, nullptr, WNOHANG) != 0;
+    int how = 0;
+    const pid_t taken = m_ended ? 0 : waitpid(m_id, &how, WNOHANG);
+    m_ended = m_ended || taken != 0;
+    if (taken == m_id && WIFEXITED(how))
+        m_how.status = WEXITSTATUS(how);
+    if (taken == m_id && WIFSIGNALED(how))
+        m_how.signal = WTERMSIG(how);
     return m_ended;
 }
 

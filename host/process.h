@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 #include <sys/types.h>
 
 namespace host {
@@ -33,7 +35,14 @@ private:
 // Parameters of a command line split at blanks; double quotes group, and go.
 QStringList splitArguments(QStringView text);
 
-// The path of the program that start would run; fails as start does where there is none, or no right to run it.
+// How a process ended: its status, or the signal that ended it. Neither where nobody knows.
+struct ProcessEnd {
+    std::optional<int> status;
+    std::optional<int> signal;
+};
+
+// The path of the program that start would run; fails as start does where there is none, or no right to run
+// it.
 QString findProgram(const QString &name);
 
 // A child process: running, or ended, however it ended. Going out of scope leaves it running, and its end
@@ -58,6 +67,7 @@ public:
     // Becomes readable at the end of the process; -1 if the system offers none.
     int endDescriptor() const { return m_end.number(); }
     pid_t id() const { return m_id; }
+    const ProcessEnd &end() const { return m_how; } // once it has ended
 
 private:
     explicit Process(pid_t id);
@@ -65,6 +75,7 @@ private:
     pid_t m_id = -1;
     bool m_ended = true;
     Descriptor m_end;
+    ProcessEnd m_how;
 };
 
 // Ends the process at once, with the buffers of the standard streams written: no event loop can hold it.

@@ -16,6 +16,7 @@ class ObrasDeEnsayo : public Obras {
 public:
     Ensayo ensayo;
 
+    void Juego(const QString &, const QString &, const QString &) override { }
     void BarreTemporal() override { }
     void RecogeTemporal() override { launch::RecogeTemporal(); }
 
@@ -56,7 +57,7 @@ public:
         ensayo.aviso = texto;
     }
     void EnsenaOrden(const QString &) override { ensayo.enDepuracion = true; }
-    void Arranca(const LineaDeOrden &orden) override
+    void Arranca(const LineaDeOrden &orden, const QString &) override
     {
         ensayo.orden = orden;
         ensayo.directorio = host::currentDirectory();

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace launch {
 
-void Vigila(core::Modulo &M, host::Process proceso, const std::function<void(int, int)> &cede,
+host::ProcessEnd Vigila(core::Modulo &M, host::Process proceso, const std::function<void(int, int)> &cede,
     const std::function<void()> &pasada, const std::function<void(const QString &)> &cierra)
 {
     RitmoDeBusqueda ritmo;
@@ -19,11 +19,12 @@ void Vigila(core::Modulo &M, host::Process proceso, const std::function<void(int
         if (!M.MsgEndDOS.isEmpty() && ritmo.Toca(std::chrono::steady_clock::now(), terminado))
             cierra(M.MsgEndDOS + u" - "_s + M.TituloDOS);
     } while (!terminado);
+    return proceso.end();
 }
 
-void EsperarEmulador(core::Modulo &M, Pantalla &pantalla, const LineaDeOrden &orden)
+host::ProcessEnd EsperarEmulador(core::Modulo &M, Pantalla &pantalla, const LineaDeOrden &orden)
 {
-    Vigila(
+    return Vigila(
         M, host::Process::start(orden.Argumentos()),
         [&pantalla](int descriptor, int milisegundos) { pantalla.Cede(descriptor, milisegundos); },
         [&pantalla] {

@@ -4,15 +4,19 @@
 #include "core/parrom.h"
 #include "launch/busquedarom.h"
 #include "launch/carpetadejuego.h"
+#include "launch/cronica.h"
 #include "launch/intenta.h"
 #include "launch/obras.h"
 #include "launch/piezas.h"
 #include "launch/vbunzbas.h"
 
+#include "host/aside.h"
+#include "host/encoding.h"
 #include "host/letters.h"
 #include "host/paths.h"
 #include "host/questions.h"
 
+#include <chrono>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -237,7 +241,14 @@ void Lanzamiento::Corre(Caso caso)
     const LineaDeOrden orden = Compone(caso, m_via, m_piezas);
     if (core::NumeroDeAjuste(M.DebugMode) == 1)
         m_obras.EnsenaOrden(orden.EnTexto());
-    m_obras.Arranca(orden);
+    m_obras.Arranca(orden, LeeCatalogo(M.Cat_EXE, core::PrefijoRuta));
+}
+
+QString NombreDeSistema(const core::Modulo &M, int sistema)
+{
+    QString nombre;
+    Intenta([&] { nombre = core::Valor(M.Cat_Nombre(sistema, 0), 1); });
+    return nombre;
 }
 
 void Termina(Pantalla &pantalla, const QString &entrada)
@@ -254,12 +265,17 @@ void Termina(Pantalla &pantalla, const QString &entrada)
 // The launch itself.
 class ObrasDeVerdad : public Obras {
 public:
-    ObrasDeVerdad(core::Modulo &modulo, Pantalla &pantalla)
+    ObrasDeVerdad(core::Modulo &modulo, Pantalla &pantalla, const Voz &voz)
         : M(modulo)
         , m_pantalla(pantalla)
+        , m_cronica(voz)
     {
     }
 
+    void Juego(const QString &sistema, const QString &emulador, const QString &entrada) override
+    {
+        m_cronica.Juego(sistema, emulador, entrada);
+    }
     void BarreTemporal() override
     {
         Intenta([&] { BarreZBTMP(M); });
@@ -288,26 +304,51 @@ public:
     }
     void Aviso(const QString &titulo, const QString &texto) override
     {
+        m_cronica.Fallo(texto);
         Intenta([&] { m_pantalla.Aviso(titulo, texto); });
     }
     void EnsenaOrden(const QString &texto) override { host::questions().tell(u"Zembrolix"_s, texto); }
-    void Arranca(const LineaDeOrden &orden) override
-    {
-        Intenta([&] { EsperarEmulador(M, m_pantalla, orden); });
-    }
+    void Arranca(const LineaDeOrden &orden, const QString &exe) override;
+
+    Cronica &LaCronica() { return m_cronica; }
 
 private:
     core::Modulo &M;
     Pantalla &m_pantalla;
+    Cronica m_cronica;
     std::optional<CarpetaDeJuego> m_carpeta;
 };
 
+void ObrasDeVerdad::Arranca(const LineaDeOrden &orden, const QString &exe)
+{
+    const QStringList argumentos = orden.Argumentos();
+    if (argumentos.isEmpty()) {
+        m_cronica.Fallo(u"There is no executable "_s + exe);
+        return;
+    }
+    m_cronica.Orden(argumentos, host::currentDirectory());
+    const auto principio = std::chrono::steady_clock::now();
+    try {
+        const host::ProcessEnd final = EsperarEmulador(M, m_pantalla, orden);
+        const std::chrono::duration<double> duracion = std::chrono::steady_clock::now() - principio;
+        m_cronica.Final(final, duracion.count());
+    } catch (const host::Failure &fallo) {
+        m_cronica.Fallo(u"Failed to "_s + fallo.operation() + u": "_s + fallo.about());
+    }
+}
+
 } // namespace
+
+Partida Jugar(core::Modulo &M, Pantalla &pantalla, const Voz &voz)
+{
+    ObrasDeVerdad obras(M, pantalla, voz);
+    Juega(M, pantalla, obras);
+    return obras.LaCronica().LaPartida();
+}
 
 void Jugar(core::Modulo &M, Pantalla &pantalla)
 {
-    ObrasDeVerdad obras(M, pantalla);
-    Juega(M, pantalla, obras);
+    Jugar(M, pantalla, [](const QString &linea) { host::tellAside(host::nameToDisk(linea)); });
 }
 
 void Juega(core::Modulo &M, Pantalla &pantalla, Obras &obras)
@@ -326,6 +367,7 @@ void Juega(core::Modulo &M, Pantalla &pantalla, Obras &obras)
 
     pantalla.MuestraCargando();
     const QString entrada = pantalla.TextoLista1();
+    obras.Juego(NombreDeSistema(M, sistema), pantalla.TextoCombo2(), entrada);
     obras.BarreTemporal();
     Lanzamiento lanzamiento(M, pantalla, obras, { sistema, fila, tipo });
     if (tipo >= 5 && tipo <= 8)

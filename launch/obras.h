@@ -17,6 +17,9 @@ class Obras {
 public:
     virtual ~Obras() = default;
 
+    // What is being played.
+    virtual void Juego(const QString &sistema, const QString &emulador, const QString &entrada) = 0;
+
     // What an earlier run left in the temporary directory goes; at the end the directory around it.
     virtual void BarreTemporal() = 0;
     virtual void RecogeTemporal() = 0;
@@ -35,7 +38,8 @@ public:
 
     virtual void Aviso(const QString &titulo, const QString &texto) = 0;
     virtual void EnsenaOrden(const QString &texto) = 0; // in the debug mode
-    virtual void Arranca(const LineaDeOrden &orden) = 0; // and stays until the emulator has ended
+    // And stays until the emulator has ended. `exe` is its executable as the catalogue has it.
+    virtual void Arranca(const LineaDeOrden &orden, const QString &exe) = 0;
 };
 
 // One launch, or the rehearsal of one: by what stands selected.

@@ -137,7 +137,6 @@ TEST_F(Command, AnEmulatorThatIsStartedAloneNeedsNoGame)
 {
     Cambia(u"Zembro.emu"_s, "NO.0", "NO.5");
     Cambia(u"Zembro.emu"_s, "PAR1=-a", "PAR1= -a");
-    EXPECT_EQ(argumentos(Json({ u"command"_s, u"Sis"_s, u"Uno"_s })),
-        QStringList({ u"uno.sh"_s, u"-a"_s }));
+    EXPECT_EQ(argumentos(Json({ u"command"_s, u"Sis"_s, u"Uno"_s })), QStringList({ u"uno.sh"_s, u"-a"_s }));
     EXPECT_EQ(Zembro({ u"command"_s, u"Sis"_s, u"Dos"_s }).estado, companion::Bien); // one game alone
 }

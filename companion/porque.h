@@ -1,0 +1,19 @@
+// zembro why: the last launch of the main program.
+#pragma once
+
+#include "companion/orden.h"
+
+#include "launch/cronica.h"
+
+#include <QJsonObject>
+
+namespace companion {
+
+const Orden &OrdenPorque();
+
+// What became of a launch, in lines and as JSON; and whether it came to a good end, or still runs.
+QStringList CuentaPartida(const launch::Partida &partida, const Palabras &palabras);
+QJsonObject PartidaEnJson(const launch::Partida &partida);
+bool AcaboBien(const launch::Partida &partida);
+
+} // namespace companion

@@ -1,0 +1,134 @@
+// zembro why, and zembro play.
+#include "mesadepruebas.h"
+
+#include "host/aside.h"
+#include "host/paths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Why : public MesaConJuegos {
+protected:
+    Why() { qputenv(host::AsideFileVariable, Ruta(u"log"_s).toUtf8()); }
+    ~Why() override { qunsetenv(host::AsideFileVariable); }
+};
+
+class Play : public MesaConJuegos {
+protected:
+    Play() { qputenv(host::AsideFileVariable, Ruta(u"log"_s).toUtf8()); }
+    ~Play() override
+    {
+        qunsetenv(host::AsideFileVariable);
+        host::changeDirectory(u"/"_s);
+    }
+};
+
+const QByteArray Empieza = "zembrolix 2026-01-02T03:04:05 7.1 game Sis Uno 'Super Mario'\n"
+                           "zembrolix 2026-01-02T03:04:05 7.1 start /emu/uno.sh '/roms/a b.nes'\n"
+                           "zembrolix 2026-01-02T03:04:05 7.1 directory /emu\n";
+
+} // namespace
+
+TEST_F(Why, TellsOfTheLastLaunch)
+{
+    Pon(u"log"_s, Empieza + "zembrolix 2026-01-02T03:04:06 7.1 signal 11 after 0.4\n");
+    const Respuesta respuesta = Zembro({ u"why"_s });
+    EXPECT_EQ(respuesta.estado, companion::Hallazgos);
+    EXPECT_EQ(respuesta.salida,
+        "Game: Sis / Uno / Super Mario, at 2026-01-02T03:04:05\n"
+        "Command: /emu/uno.sh '/roms/a b.nes'\n"
+        "In the directory: /emu\n"
+        "The emulator was ended by the signal SIGSEGV after 0.4 seconds.\n");
+    const QJsonObject json = Json({ u"why"_s }, companion::Hallazgos);
+    EXPECT_EQ(json[u"signal"_s].toInt(), 11);
+    EXPECT_EQ(json[u"seconds"_s].toDouble(), 0.4);
+    EXPECT_EQ(json[u"arguments"_s].toArray(), QJsonArray({ u"/emu/uno.sh"_s, u"/roms/a b.nes"_s }));
+}
+
+TEST_F(Why, AGoodEndIsNoFinding_NorIsAnEmulatorThatStillRuns)
+{
+    Pon(u"log"_s, Empieza + "zembrolix 2026-01-02T03:04:06 7.1 status 0 after 60.0\n");
+    EXPECT_EQ(Zembro({ u"why"_s }).estado, companion::Bien);
+    EXPECT_TRUE(
+        Zembro({ u"why"_s }).salida.endsWith("The emulator ended with the status 0 after 60.0 seconds.\n"));
+    Pon(u"log"_s, Empieza);
+    EXPECT_EQ(Zembro({ u"why"_s }).estado, companion::Bien);
+    EXPECT_TRUE(
+        Zembro({ u"why"_s }).salida.endsWith("It still runs, or the program was ended ahead of it.\n"));
+}
+
+TEST_F(Why, AStartThatFailedIsSaid)
+{
+    Pon(u"log"_s, Empieza + "zembrolix 2026-01-02T03:04:06 7.1 failed 'There is no executable /x'\n");
+    const Respuesta respuesta = Zembro({ u"why"_s });
+    EXPECT_EQ(respuesta.estado, companion::Hallazgos);
+    EXPECT_TRUE(respuesta.salida.endsWith("Doesn't start: There is no executable /x\n"));
+}
+
+TEST_F(Why, WithoutLinesItCouldNotTell)
+{
+    EXPECT_EQ(Zembro({ u"why"_s }).estado, companion::NoPudo);
+    EXPECT_TRUE(Zembro({ u"why"_s }).error.contains(Ruta(u"log"_s).toUtf8()));
+    Pon(u"log"_s, "noise \x1b[2J \xff\n");
+    EXPECT_EQ(Zembro({ u"why"_s }).error, "zembro: " + Ruta(u"log"_s).toUtf8() + " tells of no launch.\n");
+}
+
+TEST_F(Why, WithoutTheVariableTheFileOfTheStartersIsRead)
+{
+    qunsetenv(host::AsideFileVariable);
+    qputenv("XDG_STATE_HOME", Ruta(u"state"_s).toUtf8());
+    Pon(u"state/zembrolix/log"_s, Empieza);
+    EXPECT_EQ(Json({ u"why"_s })[u"entry"_s].toString(), u"Super Mario"_s);
+    qunsetenv("XDG_STATE_HOME");
+}
+
+TEST_F(Play, StartsTheGame_AndEndsWithItsStatus)
+{
+    PonGuion(u"emu/uno.sh"_s, "printf '%s\\n' \"$PWD\" \"$@\" >out; exit 7\n");
+    const Respuesta respuesta = Zembro({ u"play"_s, u"sis"_s, u"uno"_s, u"super"_s });
+    EXPECT_EQ(respuesta.estado, 7);
+    EXPECT_EQ(Bytes(u"emu/out"_s),
+        Ruta(u"emu"_s).toUtf8() + "\n-a\n" + Ruta(u"roms/Mario.nes"_s).toUtf8() + "\n-fast\n");
+    EXPECT_TRUE(respuesta.error.contains("zembro: The emulator ended with the status 7 after 0."));
+    EXPECT_EQ(respuesta.salida, "");
+    EXPECT_FALSE(QFile::exists(Ruta(u"log"_s))); // which tells of the main program
+}
+
+TEST_F(Play, AGoodEndIsSilent)
+{
+    const Respuesta respuesta = Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"Zelda.nes"_s });
+    EXPECT_EQ(respuesta.estado, 0);
+    EXPECT_EQ(respuesta.error + respuesta.salida, "");
+}
+
+TEST_F(Play, ASignalIsSaid_AndCountedAsAShellDoes)
+{
+    PonGuion(u"emu/uno.sh"_s, "kill -KILL $$\n");
+    const QJsonObject json = Json({ u"play"_s, u"Sis"_s, u"Uno"_s, u"Zelda.nes"_s }, 128 + 9);
+    EXPECT_EQ(json[u"signal"_s].toInt(), 9);
+}
+
+TEST_F(Play, AStartThatFailsIsSaid)
+{
+    Cambia(u"Zembro.emu"_s, "emu/uno.sh", "emu/one.sh");
+    const Respuesta respuesta = Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"Zelda.nes"_s });
+    EXPECT_EQ(respuesta.estado, companion::NoPudo);
+    EXPECT_TRUE(respuesta.error.endsWith(
+        "zembro: Doesn't start: There is no executable " + Ruta(u"emu/one.sh"_s).toUtf8() + "\n"))
+        << respuesta.error.toStdString();
+}
+
+TEST_F(Play, WhatFitsNothingOrSeveralStartsNothing)
+{
+    PonGuion(u"emu/uno.sh"_s, "touch out\n");
+    EXPECT_EQ(Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"zel"_s }).error,
+        "zembro: Several fit zel:\n    Zelda II.nes\n    Zelda.nes\n");
+    EXPECT_EQ(
+        Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"luigi"_s }).error, "zembro: No listed game fits luigi.\n");
+    EXPECT_FALSE(QFile::exists(Ruta(u"emu/out"_s)));
+}
