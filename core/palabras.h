@@ -86,11 +86,14 @@ struct Palabras {
 
     // The size that was picked; %1 is a number of hundredths.
     QString Zem_Tamano = QStringLiteral("Tamaño: %1 %, al volver a abrir el programa.");
+    QString Zem_NoTamano = QStringLiteral("QT_SCALE_FACTOR decide el tamaño: aquí no se elige.");
 
     // Names of keys, as they stand on the keyboard.
     QString Zem_Ctrl = QStringLiteral("Ctrl");
     QString Zem_Mayus = QStringLiteral("Mayús");
     QString Zem_Espacio = QStringLiteral("Espacio");
+    QString Zem_Ins = QStringLiteral("Ins");
+    QString Zem_Supr = QStringLiteral("Supr");
 
     // Who made the program, and where they are reached.
     QString Zem_Logotipo = QStringLiteral("Logotipo");

@@ -1,6 +1,7 @@
 #include "forms/assistance.h"
 
 #include "forms/checks.h"
+#include "forms/commandbutton.h"
 #include "forms/form.h"
 #include "forms/image.h"
 #include "forms/label.h"
@@ -62,9 +63,16 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
+        // The toolkit would give the tip with its marks, which says no more than the name.
+        if (kind == QAccessible::Description)
+            return widget()->accessibleDescription();
         const QString given = QAccessibleWidget::text(kind);
-        const auto *label = qobject_cast<const QLabel *>(widget());
-        return given.isEmpty() && label && kind == QAccessible::Name ? label->text() : given;
+        if (!given.isEmpty() || kind != QAccessible::Name)
+            return given;
+        if (const auto *label = qobject_cast<const QLabel *>(widget()))
+            return label->text();
+        const auto *button = dynamic_cast<const CommandButton *>(widget());
+        return button ? button->Caption() : QString();
     }
 
     QAccessible::State state() const override
@@ -79,8 +87,7 @@ public:
             state.checkable = true;
             state.checked = assistance().isOn();
         }
-        const auto *button = dynamic_cast<const PictureButton *>(widget());
-        state.pressed = button && button->ShowsPressed();
+        state.pressed = isPressed();
         return state;
     }
 
@@ -109,6 +116,14 @@ public:
     }
 
 private:
+    bool isPressed() const
+    {
+        if (const auto *button = dynamic_cast<const CommandButton *>(widget()))
+            return button->isDown();
+        const auto *picture = dynamic_cast<const PictureButton *>(widget());
+        return picture && picture->ShowsPressed();
+    }
+
     // Asked for each time: a label is known to assistive programs before its screen says what it is.
     const Assistance &assistance() const
     {
@@ -154,6 +169,8 @@ QAccessibleInterface *accessOf(const QString &, QObject *object)
     if (!control)
         return nullptr;
     if (auto *button = dynamic_cast<PictureButton *>(object))
+        return new Access(*control, { QAccessible::Button, [button] { button->animateClick(); }, {} });
+    if (auto *button = dynamic_cast<CommandButton *>(object))
         return new Access(*control, { QAccessible::Button, [button] { button->animateClick(); }, {} });
     if (auto *check = dynamic_cast<CheckBox *>(object))
         return new Access(*control,

@@ -27,6 +27,8 @@ constexpr QRgb DimFace = qRgb(30, 42, 92);
 constexpr QRgb DimEdge = qRgb(74, 93, 166);
 constexpr QRgb DimLetters = qRgb(143, 162, 216);
 
+constexpr QRgb DimInk = qRgb(84, 98, 150); // on paper
+
 constexpr QRgb Grey = qRgb(104, 104, 112); // on paper
 constexpr QRgb Red = qRgb(192, 0, 0); // on paper
 
@@ -41,8 +43,8 @@ void dim(QPalette &palette)
         set(role, DimEdge);
     for (const auto role : { QPalette::WindowText, QPalette::ButtonText })
         set(role, DimLetters);
-    set(QPalette::Text, Grey);
-    set(QPalette::Highlight, Grey);
+    set(QPalette::Text, DimInk);
+    set(QPalette::Highlight, DimEdge);
 }
 
 } // namespace

@@ -38,6 +38,9 @@ public:
     {
         QAccessible::State state = QAccessibleWidget::state();
         state.offscreen = IsCovered(m_combo);
+        // It would hand the focus on, and the toolkit says that it has it where the other one does.
+        if (m_combo.focusProxy())
+            state.focused = false;
         state.expandable = true;
         state.expanded = m_combo.view()->isVisible();
         return state;

@@ -1,9 +1,9 @@
 #include "forms/label.h"
 
 #include "forms/growth.h"
-#include "forms/plaintext.h"
 #include "forms/shape.h"
 #include "forms/shownpart.h"
+#include "forms/wholetext.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -139,9 +139,44 @@ void Label::shorten()
     m_shown = m_shorten(text(), [&](const QString &part) {
         return metrics.horizontalAdvance(shownPart(part)) <= contentsRect().width();
     });
-    const QString tip = m_shown == text() ? QString() : text();
-    if (asTip(tip) != toolTip())
-        SetTip(*this, tip);
+    if (m_whole && m_whole->isVisible())
+        showWhole();
+}
+
+void Label::showWhole()
+{
+    if (m_shown == text()) {
+        hideWhole();
+        return;
+    }
+    if (!m_whole)
+        m_whole = new WholeText(*window());
+    m_whole->ShowOver(*this, text());
+}
+
+void Label::hideWhole()
+{
+    if (m_whole)
+        m_whole->hide();
+}
+
+void Label::enterEvent(QEnterEvent *event)
+{
+    Control::enterEvent(event);
+    if (m_shorten)
+        showWhole();
+}
+
+void Label::leaveEvent(QEvent *event)
+{
+    Control::leaveEvent(event);
+    hideWhole();
+}
+
+void Label::hideEvent(QHideEvent *event)
+{
+    Control::hideEvent(event);
+    hideWhole();
 }
 
 void Label::paintEvent(QPaintEvent *event)

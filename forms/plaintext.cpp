@@ -40,8 +40,7 @@ void SetTipOfName(QWidget &control, const QString &key)
 {
     const QString name = control.accessibleName();
     control.setToolTip(asTip(key.isEmpty() ? name : u"%1 (%2)"_s.arg(name, key)));
-    // Without one of its own the tip with its marks would be the description.
-    control.setAccessibleDescription(key.isEmpty() ? name : key);
+    control.setAccessibleDescription(key);
 }
 
 } // namespace forms

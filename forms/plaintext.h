@@ -21,7 +21,7 @@ QString asTitle(const QString &text);
 void SetTip(QWidget &control, const QString &text);
 
 // The tip of a control that no word stands beside: its accessible name, and its key where it has one.
-// Assistive programs say the name already, and are told the key.
+// Assistive programs say the name already, and are told the key alone.
 void SetTipOfName(QWidget &control, const QString &key = {});
 
 } // namespace forms

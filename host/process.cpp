@@ -10,6 +10,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <thread>
@@ -45,11 +46,8 @@ std::vector<std::string> &environment()
 
 QByteArray searchPath()
 {
-    for (const std::string &entry : environment()) {
-        if (entry.starts_with("PATH="))
-            return QByteArray::fromStdString(entry.substr(5));
-    }
-    return "/usr/local/bin:/usr/bin:/bin";
+    const std::optional<QByteArray> path = rememberedVariable("PATH");
+    return path ? *path : QByteArray("/usr/local/bin:/usr/bin:/bin");
 }
 
 bool isFile(const QByteArray &path)
@@ -149,6 +147,16 @@ public:
 void rememberEnvironment()
 {
     environment() = currentEnvironment();
+}
+
+std::optional<QByteArray> rememberedVariable(const QByteArray &name)
+{
+    for (const std::string &entry : environment()) {
+        const QByteArray line = QByteArray::fromStdString(entry);
+        if (line.startsWith(name + '='))
+            return line.sliced(name.size() + 1);
+    }
+    return std::nullopt;
 }
 
 void ArgumentSplitter::addText(QStringView text)

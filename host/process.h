@@ -3,6 +3,7 @@
 
 #include "host/descriptor.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -15,6 +16,9 @@ namespace host {
 // Keeps the environment as it is now for every child to come; called first thing in main, before a library
 // changes it.
 void rememberEnvironment();
+
+// A variable as it was then; none for one that wasn't set.
+std::optional<QByteArray> rememberedVariable(const QByteArray &name);
 
 // Makes arguments from the pieces of a command line in their order. Pieces with no blank between them join.
 class ArgumentSplitter {

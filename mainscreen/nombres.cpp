@@ -17,6 +17,15 @@ std::array<std::pair<forms::Image *, int>, 4> puntosDeZoom(const Portada &portad
     return { { { portada.X2, 2 }, { portada.X3, 3 }, { portada.X4, 4 }, { portada.X5, 5 } } };
 }
 
+// The lamp lies over the mark that it lights.
+void ponConsejoDeLampara(const Portada &portada)
+{
+    for (const auto &[punto, zoom] : puntosDeZoom(portada)) {
+        if (punto->geometry() == portada.Boton->geometry())
+            portada.Boton->setToolTip(punto->toolTip());
+    }
+}
+
 } // namespace
 
 void Portada::NombraControles()
@@ -64,6 +73,7 @@ void Portada::NombraControles()
     for (QWidget *control : std::initializer_list<QWidget *> {
              Menos2a, Menos2b, Check1, E1, D1, Flecha2, X2, X3, X4, X5, OFF, FlechaE2, Edit2, BlocDeNotas2 })
         forms::SetTipOfName(*control, TeclaDe(*control));
+    ponConsejoDeLampara(*this);
     Graf_Imagen->setAccessibleDescription(palabras.Zem_Espacio);
     for (QWidget *web : std::initializer_list<QWidget *> { WEB1, WEB2 })
         web->setAccessibleDescription(TeclaDe(*web));
@@ -96,6 +106,7 @@ void Portada::ConectaLectores()
 
 void Portada::AvisaDelZoom()
 {
+    ponConsejoDeLampara(*this);
     for (const auto &[punto, zoom] : puntosDeZoom(*this))
         forms::TellOfChoice(*punto);
 }

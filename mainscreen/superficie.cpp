@@ -7,6 +7,7 @@
 #include "core/catalogo.h"
 
 #include "forms/shownpart.h"
+#include "forms/wholetext.h"
 #include "forms/windowmove.h"
 #include "forms/yield.h"
 
@@ -21,13 +22,12 @@ namespace {
 
 constexpr QRgb Amarillo = qRgb(255, 255, 0);
 constexpr QRgb Rojo = qRgb(255, 0, 0);
-constexpr QRgb FondoDelConsejo = qRgb(255, 255, 192);
 
 QPixmap hojaDelConsejo(const QWidget &consejo)
 {
     QPixmap hoja(consejo.size() * consejo.devicePixelRatioF());
     hoja.setDevicePixelRatio(consejo.devicePixelRatioF());
-    hoja.fill(QColor(FondoDelConsejo));
+    hoja.fill(QColor(forms::NotePaper));
     return hoja;
 }
 

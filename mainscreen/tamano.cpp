@@ -8,6 +8,8 @@
 
 #include "forms/plaintext.h"
 
+#include "host/process.h"
+
 #include <QShortcut>
 #include <QToolTip>
 
@@ -19,7 +21,9 @@ namespace mainscreen {
 
 void Portada::ConectaTamano()
 {
-    for (const auto &[tecla, mayor] : { std::pair(Qt::Key_Plus, true), { Qt::Key_Minus, false } })
+    // Where + needs Shift, it is the key of = alone that is pressed.
+    for (const auto &[tecla, mayor] :
+        { std::pair(Qt::Key_Plus, true), { Qt::Key_Equal, true }, { Qt::Key_Minus, false } })
         connect(new QShortcut(Qt::CTRL | tecla, this), &QShortcut::activated, this,
             [this, mayor = mayor] { PideTamano(mayor); });
     Titulo1->Wheel = [this](const QWheelEvent &rueda) {
@@ -35,6 +39,12 @@ void Portada::ConectaTamano()
 
 void Portada::PideTamano(bool mayor)
 {
+    const QPoint junto = Titulo1->mapToGlobal(QPoint(0, Titulo1->height()));
+    // What the user has set there holds at the next start too.
+    if (!host::rememberedVariable("QT_SCALE_FACTOR").value_or(QByteArray()).isEmpty()) {
+        QToolTip::showText(junto, forms::asTip(M.Palabras.Zem_NoTamano), Titulo1);
+        return;
+    }
     const double actual = devicePixelRatioF();
     m_tamanoPedido = core::OtroTamano(m_tamanoPedido > 0 ? m_tamanoPedido : actual, mayor);
     try {
@@ -45,7 +55,7 @@ void Portada::PideTamano(bool mayor)
     }
     QString aviso = M.Palabras.Zem_Tamano;
     aviso.replace(QStringLiteral("%1"), QString::number(std::lround(m_tamanoPedido * 100)));
-    QToolTip::showText(Titulo1->mapToGlobal(QPoint(0, Titulo1->height())), forms::asTip(aviso), Titulo1);
+    QToolTip::showText(junto, forms::asTip(aviso), Titulo1);
 }
 
 } // namespace mainscreen

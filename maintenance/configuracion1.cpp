@@ -98,6 +98,11 @@ void Configuracion1::NombraControles()
     };
     for (const auto &[control, nombre] : nombres)
         control->setAccessibleName(nombre);
+    // The keys are those of the lists.
+    for (QWidget *control : { Mas1, Boton_Mas2 })
+        forms::SetTipOfName(*control, palabras.Zem_Ins);
+    for (QWidget *control : { Menos1, Boton_Menos2 })
+        forms::SetTipOfName(*control, palabras.Zem_Supr);
     for (QWidget *control : { Boton_E, Boton_W1, Boton_W2 })
         forms::SetTipOfName(*control);
 }

@@ -3,9 +3,11 @@
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/shape.h"
+#include "forms/wholetext.h"
 
 #include <QAccessible>
 #include <QApplication>
+#include <QEnterEvent>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -232,13 +234,78 @@ TEST_F(Labels, ACaptionWithoutRoom_IsPaintedShortAndStaysWholeOtherwise)
     EXPECT_EQ(label.Caption(), u"AAAAAAAAAA iiii"_s);
     EXPECT_LT(label.Shown().size(), label.Caption().size());
     EXPECT_LE(natural(label.Shown()), 60);
-    EXPECT_TRUE(label.toolTip().contains(u"AAAAAAAAAA iiii"_s));
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name), u"AAAAAAAAAA iiii"_s);
     const QImage picture = label.grab().toImage();
     label.SetCaption(label.Shown());
     EXPECT_EQ(label.grab().toImage(), picture.copy(label.rect()));
-    EXPECT_EQ(label.toolTip(), QString());
     EXPECT_EQ(label.Shown(), label.Caption());
+}
+
+class ShortenedLabels : public Labels {
+protected:
+    ShortenedLabels()
+    {
+        label.SetRoom({ 600, 600, 900, 210 });
+        label.SetShortening(
+            [](const QString &text, const auto &fits) { return fits(text) ? text : u"..."_s; });
+        drive::show(form);
+    }
+    void enter()
+    {
+        const QPointF middle = label.rect().center();
+        QEnterEvent event(middle, label.mapTo(&form, middle), label.mapToGlobal(middle));
+        QApplication::sendEvent(&label, &event);
+    }
+    void leave()
+    {
+        QEvent event(QEvent::Leave);
+        QApplication::sendEvent(&label, &event);
+    }
+    const forms::WholeText *whole() const
+    {
+        for (const QObject *child : form.children()) {
+            const auto *text = dynamic_cast<const forms::WholeText *>(child);
+            if (text && text->isVisible())
+                return text;
+        }
+        return nullptr;
+    }
+};
+
+TEST_F(ShortenedLabels, ShowTheirWholeCaptionUnderThePointer)
+{
+    label.SetCaption(u"AAAAAAAAAA iiii"_s);
+    EXPECT_FALSE(whole());
+    enter();
+    ASSERT_TRUE(whole());
+    EXPECT_EQ(whole()->Text(), u"AAAAAAAAAA iiii"_s);
+    EXPECT_EQ(form.childAt(label.geometry().center()), &label);
+    EXPECT_EQ(whole()->y(), label.y());
+    EXPECT_NEAR(whole()->geometry().center().x(), label.geometry().center().x(), 1);
+    EXPECT_GT(whole()->width(), natural(whole()->Text()));
+    label.SetCaption(u"BBBBBBBBBB iiii"_s);
+    EXPECT_EQ(whole()->Text(), u"BBBBBBBBBB iiii"_s);
+    leave();
+    EXPECT_FALSE(whole());
+    enter();
+    label.SetCaption(u"A"_s);
+    EXPECT_FALSE(whole());
+    leave();
+    enter();
+    EXPECT_FALSE(whole());
+}
+
+TEST_F(ShortenedLabels, ShowAllOfACaptionWiderThanTheWindow_OnSeveralLines)
+{
+    label.SetCaption(QString(60, u'W'));
+    enter();
+    ASSERT_TRUE(whole());
+    EXPECT_TRUE(form.rect().contains(whole()->geometry()));
+    EXPECT_GE(whole()->height(), 2 * label.fontMetrics().height());
+    const QImage picture = const_cast<forms::WholeText *>(whole())->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(0, 0), QColor(255, 255, 192));
+    label.hide();
+    EXPECT_FALSE(whole());
 }
 
 } // namespace

@@ -166,6 +166,17 @@ TEST(Colours, OfHintsAndFaultsCanBeReadAndToldFromAText)
     EXPECT_GE(fault.hslSaturation() - hint.hslSaturation(), 200);
 }
 
+TEST(Colours, OfWhatIsDisabledAreTheProgramsToo)
+{
+    for (const QPalette &palette : { controlColours(), popupColours(), markColours() }) {
+        for (const auto role : { QPalette::WindowText, QPalette::ButtonText, QPalette::Text, QPalette::Button,
+                 QPalette::Midlight, QPalette::Mid, QPalette::Dark, QPalette::Light, QPalette::Highlight }) {
+            const QColor colour = palette.color(QPalette::Disabled, role);
+            EXPECT_GT(colour.blue(), colour.red() + 40) << role;
+        }
+    }
+}
+
 TEST(Colours, OfPopupsAndMarksAreThoseOfTheProgram)
 {
     QMenu menu;

@@ -401,6 +401,9 @@ TEST_F(ProcessTest, TheChildHasTheRememberedEnvironment)
     qputenv("ZTEST_KEPT", "changed later");
     qputenv("ZTEST_LATER", "added later");
     EXPECT_EQ(outputOf("echo \"$ZTEST_KEPT/$ZTEST_LATER\"\n"), "as it was/\n");
+    EXPECT_EQ(host::rememberedVariable("ZTEST_KEPT"), "as it was");
+    EXPECT_EQ(host::rememberedVariable("ZTEST_KEP"), std::nullopt);
+    EXPECT_EQ(host::rememberedVariable("ZTEST_LATER"), std::nullopt);
     qunsetenv("ZTEST_KEPT");
     qunsetenv("ZTEST_LATER");
 }

@@ -6,7 +6,9 @@
 #include "tests/support/browser.h"
 
 #include <QAccessible>
+#include <QHelpEvent>
 #include <QTextDocumentFragment>
+#include <QToolTip>
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
@@ -24,6 +26,17 @@ protected:
     QString tipOf(const QString &name)
     {
         return QTextDocumentFragment::fromHtml(control(name).toolTip()).toPlainText();
+    }
+    // What rests under the pointer over a control tells, as the toolkit shows it.
+    QString tipUnderThePointer(const QString &name)
+    {
+        QToolTip::hideText();
+        QWidget &wanted = control(name);
+        const QPoint centre = wanted.mapTo(portada.get(), wanted.rect().center());
+        QWidget *met = portada->childAt(centre);
+        QHelpEvent rest(QEvent::ToolTip, met->mapFrom(portada.get(), centre), portada->mapToGlobal(centre));
+        QApplication::sendEvent(met, &rest);
+        return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
     }
     QAccessibleInterface &told(const QString &name)
     {
@@ -71,6 +84,27 @@ TEST_F(AsistenciaTest, ControlsWithoutAWordShowTheirNameAndTheirKeyAsATip)
         EXPECT_EQ(tipOf(name), QString()) << name.toStdString();
 }
 
+TEST_F(AsistenciaTest, TipsComeWhereverThePointerRestsOnTheirControl_TheLitMarkToo)
+{
+    startAt(Zeta, 0);
+    const QStringList marks { u"X2"_s, u"X3"_s, u"X4"_s, u"X5"_s };
+    for (const QString &lit : marks) {
+        click(control(lit));
+        for (const QString &name : marks
+                + QStringList {
+                    u"OFF"_s, u"Menos2a"_s, u"Menos2b"_s, u"Check1"_s, u"E1"_s, u"D1"_s, u"Flecha2"_s }) {
+            EXPECT_FALSE(tipOf(name).isEmpty());
+            EXPECT_EQ(tipUnderThePointer(name), tipOf(name))
+                << name.toStdString() << ", " << lit.toStdString();
+        }
+    }
+    click(control(u"BotonC2"_s));
+    ASSERT_TRUE(portada->Editor->isVisible());
+    for (const QString &name : { u"FlechaE2"_s, u"Edit2"_s, u"BlocDeNotas2"_s })
+        EXPECT_EQ(tipUnderThePointer(name), tipOf(name)) << name.toStdString();
+    QToolTip::hideText();
+}
+
 TEST_F(AsistenciaTest, TipsFollowTheLanguage)
 {
     files.writeLines(u"LNG/A.LNG"_s, languageLines() << languageLine(u"Zem_Flecha2"_s, u"Leave"_s));
@@ -94,8 +128,8 @@ TEST_F(AsistenciaTest, DrawnControlsAreWhatTheyLookLike_AndTellTheirKey)
         { u"Graf_Imagen"_s, QAccessible::Button, u"Espacio"_s },
         { u"Titulo1"_s, QAccessible::Button, QString() }, { u"WEB1"_s, QAccessible::Link, u"Ctrl+1"_s },
         { u"WEB2"_s, QAccessible::Link, u"Ctrl+Mayús+1"_s },
-        { u"Flecha2"_s, QAccessible::Button, u"Ctrl+Q"_s },
-        { u"Check1"_s, QAccessible::CheckBox, M->TXT_BaseDeDatos } };
+        { u"Flecha2"_s, QAccessible::Button, u"Ctrl+Q"_s }, { u"Check1"_s, QAccessible::CheckBox, QString() },
+        { u"Menos2a"_s, QAccessible::Button, QString() } };
     for (const Expected &expected : all) {
         EXPECT_EQ(told(expected.name).role(), expected.role) << expected.name.toStdString();
         EXPECT_EQ(told(expected.name).text(QAccessible::Description), expected.key);
@@ -178,7 +212,8 @@ TEST_F(AsistenciaTest, WhatAnOpenTextCoversIsNotToldAsShowing)
     ASSERT_TRUE(portada->Editor->isVisible());
     for (const QString &name : { u"Combo1"_s, u"BotonA2"_s, u"TXT_Borrar"_s, u"Graf_Imagen"_s, u"X2"_s })
         EXPECT_TRUE(told(name).state().offscreen || told(name).state().invisible) << name.toStdString();
-    for (const QString &name : { u"BotonA2"_s, u"BotonB2"_s, u"Menos2a"_s, u"E1"_s, u"Graf_Imagen"_s })
+    for (const QString &name :
+        { u"BotonA2"_s, u"BotonB2"_s, u"Menos2a"_s, u"E1"_s, u"Graf_Imagen"_s, u"Combo1"_s, u"Combo2"_s })
         EXPECT_FALSE(told(name).state().focused) << name.toStdString();
     EXPECT_FALSE(told(u"FlechaE2"_s).state().offscreen);
     EXPECT_FALSE(told(u"Titulo1"_s).state().offscreen);

@@ -2,11 +2,34 @@
 
 #include "mundotest.h"
 
+#include "host/process.h"
+
 #include <QToolTip>
 
 using namespace Qt::StringLiterals;
 
-using TamanoTest = MundoTest;
+namespace {
+
+// The user has said nothing about the factor, whatever the tests run with.
+class TamanoTest : public MundoTest {
+protected:
+    TamanoTest() { startedWith({}); }
+    ~TamanoTest() override
+    {
+        host::rememberEnvironment();
+        QToolTip::hideText();
+    }
+
+    static void startedWith(const QByteArray &factor)
+    {
+        const QByteArray ofTheTests = qgetenv("QT_SCALE_FACTOR");
+        qputenv("QT_SCALE_FACTOR", factor);
+        host::rememberEnvironment();
+        qputenv("QT_SCALE_FACTOR", ofTheTests);
+    }
+};
+
+} // namespace
 
 TEST_F(TamanoTest, SizeOfTheNextStartIsPickedByKeys)
 {
@@ -21,7 +44,26 @@ TEST_F(TamanoTest, SizeOfTheNextStartIsPickedByKeys)
     strike(*portada, Qt::Key_Minus, Qt::ControlModifier);
     EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.25\r\n");
     EXPECT_EQ(portada->devicePixelRatioF(), shown);
-    QToolTip::hideText();
+}
+
+TEST_F(TamanoTest, SizeGrowsByTheKeyOfPlusWithoutShift_AndByTheKeypad)
+{
+    startAt(Zeta, 0);
+    strike(*portada, Qt::Key_Equal, Qt::ControlModifier);
+    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.25\r\n");
+    strike(*portada, Qt::Key_Plus, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.5\r\n");
+    strike(*portada, Qt::Key_Minus, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.25\r\n");
+}
+
+TEST_F(TamanoTest, WhereTheUsersEnvironmentSaysTheSizeNoneIsPicked_AndTheTipSaysWhy)
+{
+    startedWith("2");
+    startAt(Zeta, 0);
+    strike(*portada, Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_FALSE(files.exists(u"Zembro.tam"_s));
+    EXPECT_THAT(QToolTip::text().toStdString(), testing::HasSubstr("QT_SCALE_FACTOR decide"));
 }
 
 TEST_F(TamanoTest, SizeIsPickedByTheWheelOnTheTitle_WithControl)
@@ -43,7 +85,6 @@ TEST_F(TamanoTest, SizeIsPickedByTheWheelOnTheTitle_WithControl)
     EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.5\r\n");
     turn(30000);
     EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 4\r\n");
-    QToolTip::hideText();
 }
 
 TEST_F(TamanoTest, SizeIsKeptAsAPartOfWhatTheDesktopMultipliesBy)
@@ -54,7 +95,6 @@ TEST_F(TamanoTest, SizeIsKeptAsAPartOfWhatTheDesktopMultipliesBy)
     strike(*portada, Qt::Key_Plus, Qt::ControlModifier);
     qputenv("QT_SCALE_FACTOR", factor);
     EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 0.625\r\n");
-    QToolTip::hideText();
 }
 
 TEST_F(TamanoTest, SizeThatCannotBeKeptIsToldInWords)

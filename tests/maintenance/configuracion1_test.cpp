@@ -386,7 +386,7 @@ TEST_F(Configuracion1Test, TabReachesEveryControlInTheOrderOfTheScreen)
     });
 }
 
-TEST_F(Configuracion1Test, ButtonsAndListsHaveNamesForScreenReaders_AndLettersATip)
+TEST_F(Configuracion1Test, ButtonsAndListsHaveNamesForScreenReaders_AndThoseWithoutAWordATip)
 {
     begin();
     configure([](forms::Form &form) {
@@ -401,9 +401,16 @@ TEST_F(Configuracion1Test, ButtonsAndListsHaveNamesForScreenReaders_AndLettersAT
                 QAccessible::queryAccessibleInterface(&controlOf<QWidget>(form, control));
             ASSERT_TRUE(reader);
             EXPECT_EQ(reader->text(QAccessible::Name), name) << control.toStdString();
+            const QString key = control == u"Mas1" || control == u"Boton_Mas2" ? u"Ins"_s
+                : control == u"Menos1" || control == u"Boton_Menos2"           ? u"Supr"_s
+                                                                               : QString();
             const bool letter = control == u"Boton_E" || control == u"Boton_W1" || control == u"Boton_W2";
-            const QString tip = controlOf<QWidget>(form, control).toolTip();
-            EXPECT_EQ(QTextDocumentFragment::fromHtml(tip).toPlainText(), letter ? name : QString());
+            const QString tip = key.isEmpty() ? name : u"%1 (%2)"_s.arg(name, key);
+            EXPECT_EQ(
+                QTextDocumentFragment::fromHtml(controlOf<QWidget>(form, control).toolTip()).toPlainText(),
+                letter || !key.isEmpty() ? tip : QString());
+            EXPECT_EQ(reader->text(QAccessible::Description), key) << control.toStdString();
+            EXPECT_EQ(reader->role(), control.startsWith(u"Lista") ? QAccessible::List : QAccessible::Button);
         }
     });
 }
