@@ -114,11 +114,26 @@ comes is_centred || fail "the enlarged capture isn't over the middle of its wind
 tell keyup space
 comes more shut "$closed" || fail "the enlarged capture stays"
 
-# A screen that opens over it is its child, and the compositor places it as such.
-parents() { grep -cE -- '-> xdg_toplevel@[0-9]+\.set_parent\(xdg_toplevel@' "$work/wire.log"; }
-before=$(parents)
+# A screen that opens over it is its child, before it shows, and of a size that can't be changed: what compositors know
+# a dialog by. The place of a window with a title is theirs alone: the protocol has no word for it.
+is_child() {
+    awk '
+        function object(line) { match(line, /xdg_toplevel@[0-9]+/); return substr(line, RSTART, RLENGTH) }
+        function size(line) { sub(/.*\(/, "", line); sub(/\).*/, "", line); return line }
+        /-> xdg_toplevel@[0-9]+\.set_title\("Zembrolix v2\.0"\)/ { first = object($0) }
+        /-> xdg_toplevel@[0-9]+\.set_min_size\(/ { least[object($0)] = size($0) }
+        /-> xdg_toplevel@[0-9]+\.set_max_size\(/ { most[object($0)] = size($0) }
+        /-> xdg_toplevel@[0-9]+\.set_title\("Opciones"\)/ { second = object($0) }
+        /-> xdg_toplevel@[0-9]+\.set_parent\(xdg_toplevel@/ {
+            parent = $0
+            sub(/.*\(/, "", parent)
+            over[object($0)] = object(parent)
+        }
+        /-> wl_surface@[0-9]+\.attach\(wl_buffer@/ && second && !shown { shown = 1; early = over[second] == first }
+        END { exit !(shown && early && least[second] != "" && least[second] == most[second]) }' "$work/wire.log"
+}
 tell key F6
-comes more parents "$before" || fail "the second screen isn't a child of the first"
+comes is_child || fail "the second screen isn't a dialog over the first"
 alive "$program" || fail "the program ended"
 ! grep -q 'wl_display@1.error' "$work/wire.log" || fail "a breach of the protocol"
 
