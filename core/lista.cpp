@@ -81,16 +81,27 @@ int CargaExtensiones(Modulo &M, int sistema)
     return total;
 }
 
-int VecesQueEncaja(const Modulo &M, const QString &nombreMayus, int extensiones)
+ExtensionesEnVigor::ExtensionesEnVigor(const Modulo &M, int total)
 {
-    const auto final = [&](int letras) {
-        return QStringView(nombreMayus).sliced(host::startOfLast(nombreMayus, letras));
-    };
-    const QStringView finales[] = { final(1), final(2), final(3) };
-    int veces = 0;
-    for (int e = 0; e < extensiones; ++e)
-        veces += std::ranges::count(finales, M.ExtActivas(e)) > 0;
-    return veces;
+    for (int e = 0; e < total; ++e)
+        m_ordenadas.push_back(M.ExtActivas(e));
+    std::ranges::sort(m_ordenadas);
+}
+
+int ExtensionesEnVigor::VecesQueEncaja(QStringView nombreMayus) const
+{
+    const auto antes = [](QStringView una, QStringView otra) { return una < otra; };
+    qsizetype veces = 0;
+    qsizetype anterior = -1;
+    for (const int letras : { 1, 2, 3 }) {
+        const qsizetype principio = host::startOfLast(nombreMayus, letras);
+        if (principio == anterior)
+            break; // the name is no longer than that
+        const auto iguales = std::ranges::equal_range(m_ordenadas, nombreMayus.sliced(principio), antes);
+        veces += std::ranges::distance(iguales);
+        anterior = principio;
+    }
+    return static_cast<int>(veces);
 }
 
 namespace {
@@ -98,20 +109,54 @@ namespace {
 // One pass over a directory's entries.
 class Emparejador {
 public:
-    Emparejador(const Modulo &modulo, int tipo, const QString &directorio, int notas, int extensiones,
-        const LargoDeFichero &largo)
+    Emparejador(const Modulo &modulo, int tipo, int notas, int extensiones)
         : M(modulo)
         , m_tipo(tipo)
-        , m_directorio(directorio)
         , m_notas(notas)
-        , m_extensiones(extensiones)
-        , m_largo(largo)
+        , m_extensiones(modulo, extensiones)
     {
+        m_porClave.reserve(notas);
         for (int j = notas - 1; j >= 0; --j)
             m_porClave[M.Nota_Clave(j)] = j; // the first of two with one key stays
     }
 
-    void Entrada(int i)
+    // Takes the entries up to the first that fails.
+    void Recorre(int entradas)
+    {
+        recuento.entradas.reserve(entradas);
+        m_ficheros.reserve(entradas);
+        try {
+            for (; recuento.exploradas < entradas; ++recuento.exploradas)
+                entrada(recuento.exploradas);
+        } catch (const host::Failure &) {
+            recuento.interrumpido = true;
+        }
+    }
+
+    // A file is listed before it is measured: one without a length is the last of the list.
+    void Mide(const LargosDeFicheros &largos)
+    {
+        const QList<qint64> bytes = largos(m_ficheros);
+        for (qsizetype f = 0; f < bytes.size(); ++f)
+            recuento.bytes += static_cast<double>(bytes[f]) * m_listados[f].veces;
+        if (bytes.size() == m_ficheros.size())
+            return;
+        const Listado &ultimo = m_listados[bytes.size()];
+        recuento.entradas.resize(ultimo.primera + 1);
+        recuento.exploradas = ultimo.entrada;
+        recuento.interrumpido = true;
+    }
+
+    Recuento recuento;
+
+private:
+    struct Listado {
+        int entrada; // of the directory
+        qsizetype primera; // of the list's
+        int veces;
+    };
+
+    void entrada(int i)
     {
         const std::optional<QString> buscada =
             UnZipPorJuego(m_tipo) ? claveDeZip(M.Arch_Mayus(i)) : M.Arch_Mayus(i);
@@ -122,9 +167,6 @@ public:
             sinNota(i);
     }
 
-    Recuento recuento;
-
-private:
     static std::optional<QString> claveDeZip(const QString &mayus)
     {
         return mayus.endsWith(u".ZIP") ? std::optional(mayus.chopped(4)) : std::nullopt;
@@ -136,7 +178,7 @@ private:
             if (!M.Nota_Texto(j).isEmpty())
                 recuento.entradas += M.Nota_Texto(j);
         } else if (FicherosSueltos(m_tipo)) {
-            añade(VecesQueEncaja(M, M.Arch_Mayus(i), m_extensiones), M.Nota_Texto(j), M.Nota_Clave(j));
+            añade(m_extensiones.VecesQueEncaja(M.Arch_Mayus(i)), M.Nota_Texto(j), M.Nota_Clave(j));
         } else {
             añade(1, M.Nota_Texto(j), M.Nota_Clave(j) + u".ZIP"_s);
         }
@@ -150,7 +192,7 @@ private:
             if (!M.Arch_Nombre(i).isEmpty())
                 recuento.entradas += M.Arch_Nombre(i);
         } else if (FicherosSueltos(m_tipo)) {
-            añade(VecesQueEncaja(M, M.Arch_Mayus(i), m_extensiones), M.Arch_Nombre(i), M.Arch_Nombre(i));
+            añade(m_extensiones.VecesQueEncaja(M.Arch_Mayus(i)), M.Arch_Nombre(i), M.Arch_Nombre(i));
         } else if (M.Arch_Mayus(i).endsWith(u"ZIP")) {
             añade(1, M.Arch_Nombre(i), M.Arch_Nombre(i));
         }
@@ -158,37 +200,34 @@ private:
 
     void añade(int veces, const QString &texto, const QString &fichero)
     {
-        for (int vez = 0; vez < veces; ++vez) {
+        if (veces == 0)
+            return;
+        m_ficheros += fichero;
+        m_listados.push_back({ recuento.exploradas, recuento.entradas.size(), veces });
+        for (int vez = 0; vez < veces; ++vez)
             recuento.entradas += texto;
-            recuento.bytes += static_cast<double>(m_largo(m_directorio + fichero));
-        }
     }
 
     const Modulo &M;
     int m_tipo;
-    QString m_directorio;
     int m_notas;
-    int m_extensiones;
-    const LargoDeFichero &m_largo;
+    ExtensionesEnVigor m_extensiones;
     QHash<QString, int> m_porClave;
+    QStringList m_ficheros; // of the entries listed, each once
+    QList<Listado> m_listados; // as many
 };
 
 } // namespace
 
-Recuento Empareja(const Modulo &M, int tipo, const QString &directorio, int entradas, int notas,
-    int extensiones, const LargoDeFichero &largo)
+Recuento Empareja(
+    const Modulo &M, int tipo, int entradas, int notas, int extensiones, const LargosDeFicheros &largos)
 {
-    Emparejador emparejador(M, tipo, directorio, notas, extensiones, largo);
-    Recuento &recuento = emparejador.recuento;
     if (!UnDirectorioPorJuego(tipo) && !FicherosSueltos(tipo) && !UnZipPorJuego(tipo))
-        return recuento;
-    try {
-        for (; recuento.exploradas < entradas; ++recuento.exploradas)
-            emparejador.Entrada(recuento.exploradas);
-    } catch (const host::Failure &) {
-        recuento.interrumpido = true;
-    }
-    return recuento;
+        return {};
+    Emparejador emparejador(M, tipo, notas, extensiones);
+    emparejador.Recorre(entradas);
+    emparejador.Mide(largos);
+    return emparejador.recuento;
 }
 
 QString Resumen(int tipo, qsizetype listadas, const Recuento &recuento, const QString &TXT_Directorios)

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <vector>
 
 namespace core {
 
@@ -33,9 +34,17 @@ int CargaNotasEnMayusculas(Modulo &M, const QString &sistema);
 // The extensions of a system into ExtActivas, without "*."; returns their number.
 int CargaExtensiones(Modulo &M, int sistema);
 
-// How often a name, in upper case, fits the extensions in force: its last one, two or three characters equal
-// one.
-int VecesQueEncaja(const Modulo &M, const QString &nombreMayus, int extensiones);
+// The first so many extensions in force, for thousands of names.
+class ExtensionesEnVigor {
+public:
+    ExtensionesEnVigor(const Modulo &M, int total);
+
+    // How many of them a name, in upper case, fits: its last one, two or three characters equal one.
+    int VecesQueEncaja(QStringView nombreMayus) const;
+
+private:
+    std::vector<QString> m_ordenadas;
+};
 
 struct Recuento {
     QStringList entradas; // as the list shows them, in order
@@ -47,9 +56,12 @@ struct Recuento {
 // Length in bytes of a file; fails with 53.
 using LargoDeFichero = std::function<qint64(const QString &ruta)>;
 
+// Lengths in bytes of files of the ROM directory, up to the first that can't be had.
+using LargosDeFicheros = std::function<QList<qint64>(const QStringList &nombres)>;
+
 // Matches the entries against the notes: one with a note gives its description, one without its name.
-Recuento Empareja(const Modulo &M, int tipo, const QString &directorio, int entradas, int notas,
-    int extensiones, const LargoDeFichero &largo);
+Recuento Empareja(
+    const Modulo &M, int tipo, int entradas, int notas, int extensiones, const LargosDeFicheros &largos);
 
 // The line over the list.
 QString Resumen(int tipo, qsizetype listadas, const Recuento &recuento, const QString &TXT_Directorios);

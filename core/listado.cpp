@@ -21,7 +21,9 @@ Recuento ListaDe(Modulo &M, int sistema, int fila, const QString &nombre, const 
     const int notas = CargaNotasEnMayusculas(M, nombre);
     const int extensiones = CargaExtensiones(M, sistema);
     leido();
-    return Empareja(M, tipo, directorio, entradas, notas, extensiones, host::LengthsIn(directorio));
+    const host::LengthsIn largos(directorio);
+    return Empareja(M, tipo, entradas, notas, extensiones,
+        [&largos](const QStringList &nombres) { return largos.ofAll(nombres); });
 }
 
 } // namespace core

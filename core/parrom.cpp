@@ -6,22 +6,9 @@
 
 namespace core {
 
-namespace {
-
-bool pasaALaSeccion(host::TextSource &fuente)
-{
-    while (!fuente.atEnd()) {
-        if (fuente.readLine().startsWith(u"Parametros"))
-            return true;
-    }
-    return false;
-}
-
-} // namespace
-
 QString ParametrosDe(host::TextSource &fuente, const QString &clave)
 {
-    if (!pasaALaSeccion(fuente))
+    if (!fuente.passLine(u"Parametros"))
         return {};
     while (!fuente.atEnd()) {
         const QString claveLeida = fuente.readField();

@@ -32,8 +32,9 @@ bool hayFicheros(const QStringList &nombres, const QStringList &extensiones)
     const int total = static_cast<int>(std::min<qsizetype>(extensiones.size(), core::MaxSistemas));
     for (int k = 0; k < total; ++k)
         M->ExtActivas(k) = core::Valor(extensiones[k], 2);
+    const core::ExtensionesEnVigor enVigor(*M, total);
     return std::any_of(nombres.begin(), nombres.end(),
-        [&](const QString &nombre) { return core::VecesQueEncaja(*M, host::upper(nombre), total) > 0; });
+        [&](const QString &nombre) { return enVigor.VecesQueEncaja(host::upper(nombre)) > 0; });
 }
 
 } // namespace

@@ -56,11 +56,9 @@ std::optional<std::vector<Directory::Entry>> readEntries(DIR *stream)
     ++readingCount;
     std::vector<Directory::Entry> entries;
     while (const dirent *entry = nextEntry(stream)) {
-        const QByteArray bytes(entry->d_name);
-        if (bytes == "." || bytes == "..")
-            continue;
-        const QString name = nameFromDisk(bytes);
-        entries.push_back({ bytes, name, upper(name), entry->d_type });
+        const QByteArrayView bytes(entry->d_name);
+        if (bytes != "." && bytes != "..")
+            entries.push_back({ nameFromDisk(bytes), entry->d_type });
     }
     if (errno != 0)
         return std::nullopt;
@@ -80,8 +78,8 @@ QString withoutTrailingPoints(QString name)
     return name;
 }
 
-// False only if this upper-cased name surely has another plain form in any case. Letters beyond ASCII may be
-// written in several ways, so that they prove nothing.
+// False only if this name surely has another plain form than this one, which is in upper case. Letters beyond
+// ASCII may be written in several ways, so that they prove nothing.
 bool mayShareForm(QStringView name, QStringView form)
 {
     constexpr char16_t FirstBeyond = 128;
@@ -90,8 +88,11 @@ bool mayShareForm(QStringView name, QStringView form)
     for (qsizetype i = 0; i < name.size(); ++i) {
         const QChar own = name[i];
         const QChar wanted = form[i];
+        if (own >= QChar(FirstBeyond) || wanted >= QChar(FirstBeyond))
+            continue;
         const bool replaced = wanted == u'_' && (own == u'.' || own.isSpace());
-        if (own != wanted && !replaced && own < QChar(FirstBeyond) && wanted < QChar(FirstBeyond))
+        const bool capital = own >= u'a' && own <= u'z' && own.unicode() - wanted.unicode() == 'a' - 'A';
+        if (own != wanted && !capital && !replaced)
             return false;
     }
     return true;
@@ -148,28 +149,44 @@ Directory::Directory(std::vector<Entry> entries)
     : m_entries(std::move(entries))
 {
     std::sort(m_entries.begin(), m_entries.end(), [](const Entry &a, const Entry &b) {
-        const int order = compareCodes(a.upper, b.upper);
-        return order < 0 || (order == 0 && a.bytes < b.bytes);
+        const int order = compareNames(a.name, b.name);
+        return order < 0 || (order == 0 && nameToDisk(a.name) < nameToDisk(b.name));
     });
+}
+
+// The first entry that isn't ahead of this name. Who asks for thousands asks in their order.
+std::size_t Directory::firstNotAheadOf(const QString &name) const
+{
+    const auto isAhead = [](const Entry &entry, const QString &wanted) {
+        return compareNames(entry.name, wanted) < 0;
+    };
+    const bool asExpected = m_next > 0 && m_next < m_entries.size() && isAhead(m_entries[m_next - 1], name)
+        && sameName(m_entries[m_next].name, name);
+    if (asExpected)
+        return m_next;
+    const auto first = std::lower_bound(m_entries.begin(), m_entries.end(), name, isAhead);
+    return static_cast<std::size_t>(first - m_entries.begin());
 }
 
 // Null where no entry has this name in any case.
 const Directory::Entry *Directory::named(const QString &name) const
 {
-    const QString key = upper(name);
-    const auto first = std::lower_bound(m_entries.begin(), m_entries.end(), key,
-        [](const Entry &entry, const QString &wanted) { return compareCodes(entry.upper, wanted) < 0; });
-    for (auto entry = first; entry != m_entries.end() && entry->upper == key; ++entry) {
-        if (entry->name == name)
-            return &*entry;
+    const std::size_t first = firstNotAheadOf(name);
+    const Entry *found = nullptr;
+    for (std::size_t i = first; i < m_entries.size() && sameName(m_entries[i].name, name); ++i) {
+        m_next = i + 1;
+        if (!found || m_entries[i].name == name)
+            found = &m_entries[i];
     }
-    return first != m_entries.end() && first->upper == key ? &*first : nullptr;
+    return found;
 }
 
-QByteArray Directory::find(const QString &name) const
+QString Directory::find(const QString &name) const
 {
     if (const Entry *entry = named(name))
-        return entry->bytes;
+        return entry->name;
+    if (!m_shortFormsNamed && !mayBeShortForm(name))
+        return {};
     nameShortForms();
     return m_byShortForm.value(upper(name));
 }
@@ -196,13 +213,26 @@ bool Directory::isAloneWith(const QString &name, const QString &plain) const
     const QString key = upper(plain);
     bool own = false;
     for (const Entry &entry : m_entries) {
-        if (!mayShareForm(entry.upper, key))
+        if (!mayShareForm(entry.name, key))
             continue;
         if (entry.name != name)
             return false;
         own = true;
     }
     return own;
+}
+
+// A form has no blanks, one point at most, and of a name without a number the length. Looked at for one name,
+// this is far quicker than naming all.
+bool Directory::mayBeShortForm(const QString &name) const
+{
+    const auto isBlank = [](QChar letter) { return letter.isSpace(); };
+    if (name.count(u'.') > 1 || std::any_of(name.begin(), name.end(), isBlank))
+        return false;
+    const QString key = upper(name);
+    return name.contains(u'~') || std::any_of(m_entries.begin(), m_entries.end(), [&key](const Entry &entry) {
+        return mayShareForm(entry.name, key);
+    });
 }
 
 void Directory::nameShortForms() const
@@ -214,7 +244,7 @@ void Directory::nameShortForms() const
         names.append(entry.name);
     m_shortForms = assignShortForms(names);
     for (auto form = m_shortForms.cbegin(); form != m_shortForms.cend(); ++form)
-        m_byShortForm.insert(upper(form.value()), nameToDisk(form.key()));
+        m_byShortForm.insert(upper(form.value()), form.key());
     m_shortFormsNamed = true;
 }
 
@@ -231,9 +261,9 @@ QByteArray entryFor(const QByteArray &directory, const QString &name)
     if (entryExists(joined(directory, exact)))
         return exact;
     const auto names = Directory::at(directory.isEmpty() ? QByteArray(".") : directory);
-    const QByteArray found = names ? names->find(name) : QByteArray();
+    const QString found = names ? names->find(name) : QString();
     const QString bare = found.isEmpty() ? withoutTrailingPoints(name) : name;
-    return bare.isEmpty() || bare.size() == name.size() ? found : entryFor(directory, bare);
+    return bare.isEmpty() || bare.size() == name.size() ? nameToDisk(found) : entryFor(directory, bare);
 }
 
 } // namespace host

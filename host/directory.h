@@ -17,9 +17,7 @@ class Descriptor;
 class Directory {
 public:
     struct Entry {
-        QByteArray bytes; // as on the disk
         QString name;
-        QString upper;
         unsigned char type; // of the entry itself, as readdir tells it: one of the DT_ values
     };
 
@@ -37,9 +35,9 @@ public:
     // In the order of names, ties by bytes, without "." and "..".
     const std::vector<Entry> &entries() const { return m_entries; }
 
-    // The bytes of the entry of this name, else of the first that has it in any case, or else of the one that
-    // has this short form. Empty if there is none.
-    QByteArray find(const QString &name) const;
+    // The entry of this name, else the first that has it in any case, or else the one that has this short
+    // form, spelled as it is. Empty if there is none.
+    QString find(const QString &name) const;
 
     // True if what find gives was a plain file at the reading; false also where the reading didn't tell.
     bool holdsFile(const QString &name) const;
@@ -48,14 +46,17 @@ public:
     QString shortForm(const QString &name) const;
 
 private:
+    std::size_t firstNotAheadOf(const QString &name) const;
     const Entry *named(const QString &name) const;
     bool isAloneWith(const QString &name, const QString &plain) const;
+    bool mayBeShortForm(const QString &name) const;
     void nameShortForms() const;
 
     std::vector<Entry> m_entries;
     mutable QHash<QString, QString> m_shortForms; // by name, of those whose form isn't the name itself
-    mutable QHash<QString, QByteArray> m_byShortForm; // by upper-cased form
+    mutable QHash<QString, QString> m_byShortForm; // by upper-cased form
     mutable bool m_shortFormsNamed = false;
+    mutable std::size_t m_next = 0; // behind the one found last
 };
 
 // A path with the slash between that it needs; none behind no directory at all.

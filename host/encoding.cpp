@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <optional>
 
 namespace host {
@@ -54,10 +55,19 @@ Sequence firstSequence(QByteArrayView bytes)
     return { code, length };
 }
 
+// Eight bytes at a time: the files of notes have hundreds of thousands.
 bool isAscii(QByteArrayView bytes)
 {
+    constexpr quint64 HighBits = 0x8080808080808080;
+    qsizetype done = 0;
+    for (; done + qsizetype(sizeof(quint64)) <= bytes.size(); done += sizeof(quint64)) {
+        quint64 eight;
+        std::memcpy(&eight, bytes.data() + done, sizeof eight);
+        if ((eight & HighBits) != 0)
+            return false;
+    }
     return std::all_of(
-        bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+        bytes.begin() + done, bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
 bool isUtf8(QByteArrayView bytes)
@@ -135,7 +145,9 @@ DecodedText decodeText(const QByteArray &bytes)
     DecodedText result;
     result.endMark = bytes.endsWith(EndMark);
     const auto content = QByteArrayView(bytes).chopped(result.endMark ? 1 : 0);
-    if (!readsAsUtf8(content)) {
+    if (isAscii(content)) {
+        result.text = QString::fromLatin1(content);
+    } else if (!isUtf8(content)) {
         result.text = from1252(content);
     } else if (content.startsWith(ByteOrderMark)) {
         result.encoding = Encoding::Utf8WithMark;
@@ -164,8 +176,10 @@ QByteArray encodeText(const DecodedText &text)
     return bytes;
 }
 
-QString nameFromDisk(const QByteArray &bytes)
+QString nameFromDisk(QByteArrayView bytes)
 {
+    if (isAscii(bytes))
+        return QString::fromLatin1(bytes);
     QString name;
     name.reserve(bytes.size());
     QByteArrayView rest(bytes);
@@ -184,6 +198,8 @@ QString nameFromDisk(const QByteArray &bytes)
 
 QByteArray nameToDisk(const QString &name)
 {
+    if (std::none_of(name.begin(), name.end(), [](QChar c) { return isEscape(c.unicode()); }))
+        return name.toUtf8();
     QByteArray bytes;
     bytes.reserve(name.size());
     QStringView rest(name);

@@ -24,7 +24,7 @@ QByteArray encodeText(const DecodedText &text);
 
 // Names on the disk. A byte that isn't part of valid UTF-8 becomes the private-use character U+F700 + byte;
 // the bytes of those private-use characters themselves are taken the same way, which makes it reversible.
-QString nameFromDisk(const QByteArray &bytes);
+QString nameFromDisk(QByteArrayView bytes);
 QByteArray nameToDisk(const QString &name);
 
 } // namespace host

@@ -72,7 +72,7 @@ void HeldDirectory::deleteFiles() const
     if (!names)
         return;
     for (const Directory::Entry &entry : names->entries())
-        deletePlainFile(m_descriptor, entry.bytes);
+        deletePlainFile(m_descriptor, nameToDisk(entry.name));
 }
 
 void HeldDirectory::deleteFiles(const QStringList &names) const

@@ -1,12 +1,17 @@
 #include "host/lengths.h"
 
+#include "host/descriptor.h"
 #include "host/directory.h"
 #include "host/encoding.h"
 #include "host/failure.h"
 #include "host/paths.h"
+#include "host/statuses.h"
 
+#include <algorithm>
 #include <climits>
+#include <iterator>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -48,13 +53,46 @@ bool LengthsIn::look(const QString &name, struct stat &status) const
     const auto leadsToFile = [&](const QByteArray &entry) {
         return stat(joined(m_found, entry).constData(), &status) == 0 && !S_ISDIR(status.st_mode);
     };
-    if (m_listing && leadsToFile(m_listing->find(name)))
+    if (m_listing && leadsToFile(nameToDisk(m_listing->find(name))))
         return true;
     if (leadsToFile(nameToDisk(name)))
         return true;
     if (!m_listing)
         m_listing = Directory::at(m_found);
     return leadsToFile(entryFor(m_found, name));
+}
+
+QList<qint64> LengthsIn::ofAll(const QStringList &names) const
+{
+    QStringList spellings;
+    spellings.reserve(names.size());
+    std::transform(names.begin(), names.end(), std::back_inserter(spellings),
+        [this](const QString &name) { return spelling(name); });
+    const Descriptor directory(
+        m_found.isEmpty() ? -1 : open(m_found.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    const std::vector<Status> statuses = statusesIn(directory, spellings);
+    QList<qint64> lengths;
+    lengths.reserve(names.size());
+    try {
+        for (qsizetype i = 0; i < names.size(); ++i) {
+            const Status &status = statuses[static_cast<std::size_t>(i)];
+            const bool isFile = status.mode != 0 && !S_ISDIR(status.mode);
+            lengths.append(isFile ? status.size : (*this)(m_directory + names[i]));
+        }
+    } catch (const Failure &) {
+        // The rest isn't asked for.
+    }
+    return lengths;
+}
+
+// As the listing has it, if it has it; as it stands where it can be no entry's.
+QString LengthsIn::spelling(const QString &name) const
+{
+    if (!isEntry(name))
+        return {};
+    if (!m_listing)
+        m_listing = Directory::at(m_found);
+    return m_listing ? m_listing->find(name) : name;
 }
 
 bool LengthsIn::lists(const QString &path) const

@@ -4,7 +4,9 @@
 #include "host/filestate.h"
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -23,6 +25,10 @@ public:
     // Length in bytes. Fails with 53.
     qint64 operator()(const QString &path) const;
 
+    // As those of the directory with each name behind it, in their order, up to the first that fails. Many
+    // are asked for at once.
+    QList<qint64> ofAll(const QStringList &names) const;
+
     // True if a listing of the directory tells that the file is there, without a look at the file itself: a
     // directory that can be listed but not entered has no lengths. False proves nothing.
     bool lists(const QString &path) const;
@@ -34,6 +40,7 @@ public:
 private:
     bool look(const QString &name, struct stat &status) const;
     bool isEntry(const QString &name) const;
+    QString spelling(const QString &name) const;
 
     QString m_directory;
     QByteArray m_found; // empty where each path has to be found as a whole

@@ -1,5 +1,7 @@
 #include "host/letters.h"
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
@@ -37,7 +39,27 @@ char32_t upperCode(char32_t code)
 
 char32_t lowerCode(char32_t code)
 {
+    if (code < 128)
+        return code >= U'A' && code <= U'Z' ? code + 32 : code;
     return QChar::toLower(code);
+}
+
+// Letters beyond U+FFFF have others beyond it, and the rest have none there, so that the length stays: names
+// come by the thousand, and letter by letter appended they would take a quarter of a start.
+template <char32_t (*map)(char32_t)> QString mapped(QStringView text)
+{
+    QString result(text.size(), Qt::Uninitialized);
+    QChar *place = result.data();
+    for (CodePoints points(text); !points.atEnd();) {
+        const char32_t code = map(points.next());
+        if (QChar::requiresSurrogates(code)) {
+            *place++ = QChar::highSurrogate(code);
+            *place++ = QChar::lowSurrogate(code);
+        } else {
+            *place++ = char16_t(code);
+        }
+    }
+    return result;
 }
 
 char32_t sameCode(char32_t code)
@@ -45,19 +67,18 @@ char32_t sameCode(char32_t code)
     return code;
 }
 
-template <char32_t (*map)(char32_t)> QString mapped(QStringView text)
+// How much the texts have in common as they stand, short of half a character.
+qsizetype commonPart(QStringView a, QStringView b)
 {
-    QString result;
-    result.reserve(text.size());
-    for (CodePoints points(text); !points.atEnd();)
-        result += QChar::fromUcs4(map(points.next()));
-    return result;
+    const qsizetype common = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first - a.begin();
+    return common > 0 && a[common - 1].isHighSurrogate() ? common - 1 : common;
 }
 
 template <char32_t (*map)(char32_t)> int compared(QStringView a, QStringView b)
 {
-    CodePoints left(a);
-    CodePoints right(b);
+    const qsizetype common = commonPart(a, b);
+    CodePoints left(a.sliced(common));
+    CodePoints right(b.sliced(common));
     while (!left.atEnd() && !right.atEnd()) {
         const char32_t l = map(left.next());
         const char32_t r = map(right.next());

@@ -1,9 +1,11 @@
 #include "host/paths.h"
 
+#include "host/descriptor.h"
 #include "host/directory.h"
 #include "host/encoding.h"
 #include "host/failure.h"
 #include "host/letters.h"
+#include "host/statuses.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -34,28 +36,51 @@ Listing openListing(const QString &path)
     return { found, directory };
 }
 
-// The kind of an entry as a DT_ value, of what a link leads to if links are followed.
-unsigned char typeOf(const Listing &listing, const Directory::Entry &entry, bool followLinks)
+// The kind of an entry itself as a DT_ value.
+unsigned char ownType(const Listing &listing, const Directory::Entry &entry)
 {
-    const bool known = entry.type != DT_UNKNOWN && !(followLinks && entry.type == DT_LNK);
-    if (known)
-        return entry.type;
     struct stat status;
-    const int flags = followLinks ? 0 : AT_SYMLINK_NOFOLLOW;
-    const QByteArray path = listing.path + '/' + entry.bytes;
-    if (fstatat(AT_FDCWD, path.constData(), &status, flags) != 0)
-        return DT_UNKNOWN;
+    const QByteArray path = joined(listing.path, nameToDisk(entry.name));
+    if (entry.type != DT_UNKNOWN || lstat(path.constData(), &status) != 0)
+        return entry.type;
     return static_cast<unsigned char>(IFTODT(status.st_mode));
 }
 
+unsigned char kindOf(const Status &status)
+{
+    return static_cast<unsigned char>(IFTODT(status.mode));
+}
+
+// The reading of a directory doesn't tell the kind of what a link leads to, and on some disks none at all.
+bool isToBeAsked(const Directory::Entry &entry)
+{
+    return entry.type == DT_UNKNOWN || entry.type == DT_LNK;
+}
+
+std::vector<Status> statusesOf(const Listing &listing, const QStringList &names)
+{
+    if (names.isEmpty())
+        return {};
+    return statusesIn(Descriptor(open(listing.path.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC)), names);
+}
+
+// The entries that are, or lead to, one of these kinds, as DT_ values, without the hidden ones.
 QStringList namesOfTypes(const QString &path, std::initializer_list<unsigned char> types)
 {
     const Listing listing = openListing(path);
+    const std::vector<Directory::Entry> &entries = listing.directory->entries();
+    QStringList asked;
+    for (const Directory::Entry &entry : entries) {
+        if (isToBeAsked(entry))
+            asked.append(entry.name);
+    }
+    const std::vector<Status> statuses = statusesOf(listing, asked);
+    auto status = statuses.cbegin();
     QStringList names;
-    for (const Directory::Entry &entry : listing.directory->entries()) {
-        if (entry.bytes.startsWith('.'))
-            continue;
-        if (std::ranges::find(types, typeOf(listing, entry, true)) != types.end())
+    names.reserve(static_cast<qsizetype>(entries.size()));
+    for (const Directory::Entry &entry : entries) {
+        const unsigned char type = isToBeAsked(entry) ? kindOf(*status++) : entry.type;
+        if (!entry.name.startsWith(u'.') && std::ranges::find(types, type) != types.end())
             names.append(entry.name);
     }
     return names;
@@ -139,7 +164,7 @@ QStringList listPlainFiles(const QString &directory)
     const Listing listing = openListing(directory);
     QStringList names;
     for (const Directory::Entry &entry : listing.directory->entries()) {
-        if (typeOf(listing, entry, false) == DT_REG)
+        if (ownType(listing, entry) == DT_REG)
             names.append(entry.name);
     }
     return names;

@@ -20,6 +20,22 @@ QString TextSource::readLine()
     return takeUntil(m_text.indexOf(u'\n', m_position)).toString();
 }
 
+bool TextSource::passLine(QStringView beginning)
+{
+    for (qsizetype from = m_position;;) {
+        const qsizetype place = m_text.indexOf(beginning, from);
+        if (place < 0) {
+            m_position = m_text.size();
+            return false;
+        }
+        if (place == m_position || m_text[place - 1] == u'\n') {
+            takeUntil(m_text.indexOf(u'\n', place));
+            return true;
+        }
+        from = place + 1;
+    }
+}
+
 QString TextSource::readField()
 {
     if (atEnd())

@@ -15,6 +15,10 @@ public:
     // at the end.
     QString readLine();
 
+    // Passes the lines up to the first that begins so, and that one; all of them if there is none, and then
+    // the answer is no.
+    bool passLine(QStringView beginning);
+
     // The next field. Leading blanks are skipped; a field that begins with a double quote runs to the next
     // one, and what follows up to the next comma or line end is dropped; any other runs to the next comma or
     // line end, without its trailing blanks. Fails with 62 at the end.

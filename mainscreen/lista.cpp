@@ -67,8 +67,7 @@ void Portada::LlenaTablasDeLista()
 {
     const core::Recuento recuento =
         core::ListaDe(M, Sistema(), Emulador() + 1, Combo1->Text(), [this] { PonInfo(M.TXT_Añadiendo); });
-    for (const QString &entrada : recuento.entradas)
-        Lista1->AddItem(entrada);
+    Lista1->AddItems(recuento.entradas);
     m_recuento = recuento.exploradas;
     if (recuento.interrumpido)
         return;

@@ -34,7 +34,10 @@ protected:
         m_extensiones = static_cast<int>(extensiones.size());
     }
 
-    int Veces(const QString &nombre) const { return core::VecesQueEncaja(M, nombre, m_extensiones); }
+    int Veces(const QString &nombre) const
+    {
+        return core::ExtensionesEnVigor(M, m_extensiones).VecesQueEncaja(nombre);
+    }
 
     int m_extensiones = 0;
 };

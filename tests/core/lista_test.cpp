@@ -3,7 +3,7 @@
 
 #include "core/lista.h"
 
-#include "host/paths.h"
+#include "host/lengths.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,11 +41,15 @@ protected:
     {
         m_preguntados.clear();
         return core::Empareja(
-            M, tipo, u"R/"_s, m_entradas, m_notas, m_extensiones, [this](const QString &ruta) {
-                m_preguntados += ruta;
-                if (!m_largos.contains(ruta))
-                    throw host::Failure(host::FileNotFound, u"length"_s, ruta);
-                return m_largos.value(ruta);
+            M, tipo, m_entradas, m_notas, m_extensiones, [this](const QStringList &nombres) {
+                QList<qint64> largos;
+                for (const QString &nombre : nombres) {
+                    m_preguntados += nombre;
+                    if (!m_largos.contains(nombre))
+                        break;
+                    largos += m_largos.value(nombre);
+                }
+                return largos;
             });
     }
 
@@ -53,7 +57,7 @@ protected:
     int m_notas = 0;
     int m_extensiones = 0;
     QHash<QString, qint64> m_largos;
-    QStringList m_preguntados; // the paths whose length was asked for
+    QStringList m_preguntados; // the files whose length was asked for
 };
 
 // So many entries and notes that fit one another crosswise, the last entry to the first note.
@@ -76,7 +80,7 @@ TEST_F(Lista, PlainFilesGiveTheirDescriptionOrTheirName)
     PonEntradas({ u"a.bin"_s, u"B.bin"_s, u"c.txt"_s });
     PonNotas({ { u"B.BIN"_s, u"The second"_s }, { u"GONE.BIN"_s, u"Not on the disk"_s } });
     PonExtensiones({ u"BIN"_s });
-    m_largos = { { u"R/a.bin"_s, 100 }, { u"R/B.BIN"_s, 20 } };
+    m_largos = { { u"a.bin"_s, 100 }, { u"B.BIN"_s, 20 } };
     for (const int tipo : { 0, 5 }) {
         const core::Recuento recuento = Empareja(tipo);
         EXPECT_EQ(recuento.entradas, (QStringList { u"a.bin"_s, u"The second"_s })) << tipo;
@@ -84,7 +88,7 @@ TEST_F(Lista, PlainFilesGiveTheirDescriptionOrTheirName)
         EXPECT_EQ(recuento.exploradas, 3) << tipo;
         EXPECT_FALSE(recuento.interrumpido) << tipo;
         // The length is asked for by the note's key, or by the name as the disk spells it.
-        EXPECT_EQ(m_preguntados, (QStringList { u"R/a.bin"_s, u"R/B.BIN"_s })) << tipo;
+        EXPECT_EQ(m_preguntados, (QStringList { u"a.bin"_s, u"B.BIN"_s })) << tipo;
     }
 }
 
@@ -93,7 +97,7 @@ TEST_F(Lista, KeepsTheOrderOfTheNames_WhateverTheDescriptions)
     PonEntradas({ u"A.BIN"_s, u"B.BIN"_s, u"C.BIN"_s });
     PonNotas({ { u"C.BIN"_s, u"Alpha"_s }, { u"A.BIN"_s, u"Zeta"_s } });
     PonExtensiones({ u"BIN"_s });
-    m_largos = { { u"R/A.BIN"_s, 1 }, { u"R/B.BIN"_s, 1 }, { u"R/C.BIN"_s, 1 } };
+    m_largos = { { u"A.BIN"_s, 1 }, { u"B.BIN"_s, 1 }, { u"C.BIN"_s, 1 } };
     EXPECT_EQ(Empareja(0).entradas, (QStringList { u"Zeta"_s, u"B.BIN"_s, u"Alpha"_s }));
 }
 
@@ -102,7 +106,7 @@ TEST_F(Lista, AFileThatFitsTwoExtensionsIsListedAndCountedTwice)
     PonEntradas({ u"a.zip"_s, u"b.zip"_s });
     PonNotas({ { u"B.ZIP"_s, u"Noted"_s } });
     PonExtensiones({ u"ZIP"_s, u"IP"_s });
-    m_largos = { { u"R/a.zip"_s, 100 }, { u"R/B.ZIP"_s, 20 } };
+    m_largos = { { u"a.zip"_s, 100 }, { u"B.ZIP"_s, 20 } };
     const core::Recuento recuento = Empareja(0);
     EXPECT_EQ(recuento.entradas, (QStringList { u"a.zip"_s, u"a.zip"_s, u"Noted"_s, u"Noted"_s }));
     EXPECT_EQ(recuento.bytes, 240);
@@ -126,7 +130,7 @@ TEST_F(Lista, AnExtensionFitsTheLastThreeCharacters_AlsoThoseThatAreKeptInTwoHal
 {
     PonEntradas({ u"one.😀X😀"_s, u"two.😀"_s, u"four.😀😀😀😀"_s });
     PonExtensiones({ u"😀X😀"_s, u"😀"_s, u"😀😀😀😀"_s });
-    m_largos = { { u"R/one.😀X😀"_s, 1 }, { u"R/two.😀"_s, 1 }, { u"R/four.😀😀😀😀"_s, 1 } };
+    m_largos = { { u"one.😀X😀"_s, 1 }, { u"two.😀"_s, 1 }, { u"four.😀😀😀😀"_s, 1 } };
     EXPECT_EQ(Empareja(0).entradas, (QStringList { u"one.😀X😀"_s, u"one.😀X😀"_s, u"two.😀"_s, u"four.😀😀😀😀"_s }));
 }
 
@@ -134,7 +138,7 @@ TEST_F(Lista, AnEmptyDescriptionGivesAnEmptyLine_ForAFileOrAZip)
 {
     PonEntradas({ u"A.ZIP"_s });
     PonExtensiones({ u"ZIP"_s });
-    m_largos = { { u"R/A.ZIP"_s, 5 } };
+    m_largos = { { u"A.ZIP"_s, 5 } };
     PonNotas({ { u"A.ZIP"_s, QString() } });
     EXPECT_EQ(Empareja(0).entradas, QStringList { QString() });
     PonNotas({ { u"A"_s, QString() } });
@@ -146,7 +150,7 @@ TEST_F(Lista, TheFirstOfTwoNotesWithOneKeyWins)
     PonEntradas({ u"A.BIN"_s });
     PonNotas({ { u"X.BIN"_s, u"x"_s }, { u"A.BIN"_s, u"First"_s }, { u"A.BIN"_s, u"Second"_s } });
     PonExtensiones({ u"BIN"_s });
-    m_largos = { { u"R/A.BIN"_s, 1 } };
+    m_largos = { { u"A.BIN"_s, 1 } };
     EXPECT_EQ(Empareja(0).entradas, QStringList { u"First"_s });
 }
 
@@ -178,7 +182,7 @@ TEST_F(Lista, ANoteWithoutAKeyIsThatOfAZipWithoutAName)
 {
     PonEntradas({ u".zip"_s, u"unzip"_s });
     PonNotas({ { QString(), u"Vacia"_s } });
-    m_largos = { { u"R/.ZIP"_s, 1 }, { u"R/unzip"_s, 1 } };
+    m_largos = { { u".ZIP"_s, 1 }, { u"unzip"_s, 1 } };
     EXPECT_EQ(Empareja(2).entradas, (QStringList { u"Vacia"_s, u"unzip"_s }));
 }
 
@@ -187,14 +191,13 @@ TEST_F(Lista, ZipsGiveTheirDescriptionByTheirNameWithoutItsEnding)
     PonEntradas({ u"game.zip"_s, u"Other.Zip"_s, u"pack7zip"_s, u"read.me"_s });
     PonNotas({ { u"GAME"_s, u"A game"_s }, { u"OTHER.ZIP"_s, u"Not by this key"_s },
         { u"PACK7"_s, u"Nor this"_s } });
-    m_largos = { { u"R/GAME.ZIP"_s, 1000 }, { u"R/Other.Zip"_s, 200 }, { u"R/pack7zip"_s, 30 } };
+    m_largos = { { u"GAME.ZIP"_s, 1000 }, { u"Other.Zip"_s, 200 }, { u"pack7zip"_s, 30 } };
     for (const int tipo : { 2, 3, 7, 8 }) {
         const core::Recuento recuento = Empareja(tipo);
         EXPECT_EQ(recuento.entradas, (QStringList { u"A game"_s, u"Other.Zip"_s, u"pack7zip"_s })) << tipo;
         EXPECT_EQ(recuento.bytes, 1230) << tipo;
         EXPECT_EQ(recuento.exploradas, 4) << tipo;
-        EXPECT_EQ(m_preguntados, (QStringList { u"R/GAME.ZIP"_s, u"R/Other.Zip"_s, u"R/pack7zip"_s }))
-            << tipo;
+        EXPECT_EQ(m_preguntados, (QStringList { u"GAME.ZIP"_s, u"Other.Zip"_s, u"pack7zip"_s })) << tipo;
     }
 }
 
@@ -202,7 +205,7 @@ TEST_F(Lista, ExtensionsDoNotMatter_ForZips)
 {
     PonEntradas({ u"a.zip"_s });
     PonExtensiones({ u"BIN"_s });
-    m_largos = { { u"R/a.zip"_s, 1 } };
+    m_largos = { { u"a.zip"_s, 1 } };
     EXPECT_EQ(Empareja(3).entradas, QStringList { u"a.zip"_s });
 }
 
@@ -223,7 +226,7 @@ TEST_F(Lista, StopsAtAFileWhoseLengthCannotBeHad_WithItsLineAdded)
 {
     PonEntradas({ u"A.BIN"_s, u"B.BIN"_s, u"C.BIN"_s });
     PonExtensiones({ u"BIN"_s });
-    m_largos = { { u"R/A.BIN"_s, 7 }, { u"R/C.BIN"_s, 9 } };
+    m_largos = { { u"A.BIN"_s, 7 }, { u"C.BIN"_s, 9 } };
     const core::Recuento recuento = Empareja(0);
     EXPECT_EQ(recuento.entradas, (QStringList { u"A.BIN"_s, u"B.BIN"_s }));
     EXPECT_EQ(recuento.exploradas, 1);
@@ -234,7 +237,7 @@ TEST_F(Lista, StopsAtAFileWhoseLengthCannotBeHad_WithItsLineAdded)
 TEST_F(Lista, HasScannedNothing_WhereTheFirstFileIsGone)
 {
     PonEntradas({ u"A.ZIP"_s, u"B.ZIP"_s });
-    m_largos = { { u"R/B.ZIP"_s, 9 } };
+    m_largos = { { u"B.ZIP"_s, 9 } };
     const core::Recuento recuento = Empareja(2);
     EXPECT_EQ(recuento.exploradas, 0);
     EXPECT_TRUE(recuento.interrumpido);
@@ -256,7 +259,7 @@ TEST_F(Lista, LeavesTheTablesAlone)
 {
     PonEntradas({ u"a.zip"_s });
     PonNotas({ { u"A"_s, u"a"_s } });
-    m_largos = { { u"R/A.ZIP"_s, 1 } };
+    m_largos = { { u"A.ZIP"_s, 1 } };
     Empareja(2);
     EXPECT_EQ(M.Arch_Nombre(0), u"a.zip");
     EXPECT_EQ(M.Nota_Clave(0), u"A");
@@ -269,8 +272,8 @@ TEST_F(Lista, IsMatchedFast_WithFullTables)
         llenaTablas(M, cola);
         M.ExtActivas(0) = u"BIN"_s;
         const qint64 antes = TiempoDeTrabajo();
-        const core::Recuento recuento = core::Empareja(
-            M, tipo, u"R/"_s, core::MaxROMs, core::MaxROMs, 1, [](const QString &) { return qint64(1024); });
+        const core::Recuento recuento = core::Empareja(M, tipo, core::MaxROMs, core::MaxROMs, 1,
+            [](const QStringList &nombres) { return QList<qint64>(nombres.size(), 1024); });
         EXPECT_LT(TiempoDeTrabajo() - antes, 500) << tipo;
         ASSERT_EQ(recuento.entradas.size(), core::MaxROMs) << tipo;
         EXPECT_EQ(recuento.entradas.first(), u"Description 0") << tipo;
@@ -292,8 +295,9 @@ TEST_F(Lista, IsReadFromTheDiskFast_WithFullTables)
     const qint64 antes = TiempoDeTrabajo();
     const int entradas = core::ExploraDirectorio(M, 0, Ruta(u"roms/"_s));
     const int leidas = core::CargaNotasEnMayusculas(M, u"Console"_s);
-    const core::Recuento recuento = core::Empareja(
-        M, 0, Ruta(u"roms/"_s), entradas, leidas, core::CargaExtensiones(M, 0), host::fileLength);
+    const host::LengthsIn largos(Ruta(u"roms/"_s));
+    const core::Recuento recuento = core::Empareja(M, 0, entradas, leidas, core::CargaExtensiones(M, 0),
+        [&largos](const QStringList &nombres) { return largos.ofAll(nombres); });
     EXPECT_LT(TiempoDeTrabajo() - antes, 1000);
     EXPECT_EQ(recuento.entradas.size(), core::MaxROMs);
     EXPECT_EQ(recuento.entradas.value(6666), u"Description 6666");

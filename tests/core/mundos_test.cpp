@@ -254,8 +254,9 @@ protected:
             M.Cat_EXT(0, int(i)) = u"*."_s + texto(mundo.extensiones[i]);
         const int entradas = core::ExploraDirectorio(M, mundo.tipo, Ruta(directorio));
         const int leidas = core::CargaNotasEnMayusculas(M, u"Sis"_s);
-        return core::Empareja(M, mundo.tipo, Ruta(directorio), entradas, leidas, core::CargaExtensiones(M, 0),
-            host::LengthsIn(Ruta(directorio)));
+        const host::LengthsIn largos(Ruta(directorio));
+        return core::Empareja(M, mundo.tipo, entradas, leidas, core::CargaExtensiones(M, 0),
+            [&largos](const QStringList &nombres) { return largos.ofAll(nombres); });
     }
 
     // As `sabido`, of the program.

@@ -7,6 +7,7 @@
 #include "host/paths.h"
 
 #include <cerrno>
+#include <chrono>
 #include <optional>
 #include <thread>
 
@@ -151,6 +152,7 @@ TEST_F(Lengths, OfManyFilesOfADirectory_AreThoseOfEach)
             SCOPED_TRACE((directory + name).toStdString());
             qint64 length = -1;
             const int failure = failureOf([&] { length = fileLength(directory + name); });
+            EXPECT_EQ(lengths.ofAll({ name }), failure == 0 ? QList { length } : QList<qint64>());
             qint64 ofMany = -1;
             EXPECT_EQ(failureOf([&] { ofMany = lengths(directory + name); }), failure);
             EXPECT_EQ(ofMany, length);
@@ -217,6 +219,35 @@ TEST_F(Lengths, OfManyFilesOfADirectory_TakeASingleLookEach_AtMostTheFirstMissBe
     EXPECT_GT(afterAMiss, before + 2) << "the looks aren't counted";
     EXPECT_EQ(lengths(path(u"oNe.nes"_s)), 3);
     EXPECT_EQ(systemcalls::looks(), afterAMiss + 1);
+}
+
+TEST_F(Lengths, OfAll_EndAheadOfTheFirstThatCannotBeHad)
+{
+    makeDirectory("Roms");
+    makeFile("Roms/One.nes", "abc");
+    makeFile("Roms/two.nes", "abcd");
+    const LengthsIn lengths(path(u"Roms/"_s));
+    EXPECT_EQ(lengths.ofAll({}), QList<qint64>());
+    EXPECT_EQ(lengths.ofAll({ u"TWO.NES"_s, u"One.nes"_s, u"two.nes"_s }), (QList<qint64> { 4, 3, 4 }));
+    EXPECT_EQ(lengths.ofAll({ u"One.nes"_s, u"gone"_s, u"two.nes"_s }), QList<qint64> { 3 });
+}
+
+TEST_F(Lengths, OfAll_AreAskedForTogether_WhereEachTakesLong)
+{
+    constexpr int Files = 1000;
+    makeDirectory("Roms");
+    QStringList names;
+    QList<qint64> sizes;
+    for (int i = 0; i < Files; ++i) {
+        names += u"Game %1.nes"_s.arg(i);
+        sizes += i % 7;
+        makeFile("Roms/" + names.last().toLatin1(), QByteArray(i % 7, 'x'));
+    }
+    const systemcalls::SlowLooks slow(1'000'000);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(LengthsIn(path(u"Roms/"_s)).ofAll(names), sizes);
+    const auto taken = std::chrono::steady_clock::now() - start;
+    EXPECT_LT(taken, std::chrono::milliseconds(Files / 2));
 }
 
 using Making = DiskTest;

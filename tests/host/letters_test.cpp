@@ -61,6 +61,34 @@ TEST(Letters, SameNameIsTheSameInAnyCase)
     EXPECT_FALSE(sameName(u"straße", u"STRASSE"));
 }
 
+TEST(Letters, EachLetterHasAnotherOfItsOwnSize)
+{
+    for (char32_t code = 0; code <= QChar::LastValidCodePoint; ++code) {
+        if (QChar::isSurrogate(code))
+            continue;
+        const QString letter = QString::fromUcs4(&code, 1);
+        const char32_t capital = QChar::toUpper(code);
+        ASSERT_EQ(QChar::requiresSurrogates(capital), QChar::requiresSurrogates(code)) << unsigned(code);
+        ASSERT_EQ(QChar::requiresSurrogates(QChar::toLower(code)), QChar::requiresSurrogates(code))
+            << unsigned(code);
+        ASSERT_EQ(upper(letter), QString::fromUcs4(&capital, 1)) << unsigned(code);
+    }
+}
+
+TEST(Letters, TextsAreOrderedByCodePoints_AlsoWhereTheyPartWithinAPair)
+{
+    const QString high(QChar(0xD83D));
+    const QString inOrder[] = { u""_s, u"a"_s, u"aa"_s, u"b"_s, high, high + u'a', high + high,
+        high + u"\uFFFD"_s, u"\uFFFD"_s, u"😀"_s, u"😀a"_s, u"😁"_s };
+    for (size_t i = 0; i < std::size(inOrder); ++i) {
+        for (size_t j = 0; j < std::size(inOrder); ++j) {
+            const int order = i < j ? -1 : int(i > j);
+            EXPECT_EQ(host::compareCodes(inOrder[i], inOrder[j]), order) << i << ' ' << j;
+            EXPECT_EQ(host::compareCodes(u"x"_s + inOrder[i], u"x"_s + inOrder[j]), order) << i << ' ' << j;
+        }
+    }
+}
+
 TEST(Letters, ColumnsCountCharacters)
 {
     const QString text = u"a😀ñ"_s;

@@ -30,6 +30,7 @@ Plan plan;
 std::size_t mostWritten = std::numeric_limits<std::size_t>::max();
 
 long tickOfChanges = 0;
+std::atomic<long> delayOfLooks = 0;
 int looksAtPaths = 0;
 int flushesDone = 0;
 std::atomic<int> locksAsked = 0;
@@ -156,6 +157,9 @@ int lstat(const char *path, struct stat *status) noexcept
 
 int fstatat(int directory, const char *path, struct stat *status, int flags) noexcept
 {
+    const timespec delay { 0, delayOfLooks };
+    if (delay.tv_nsec > 0)
+        nanosleep(&delay, nullptr);
     return passed<int(int, const char *, struct stat *, int)>("fstatat", directory, path, status, flags);
 }
 
@@ -273,6 +277,16 @@ CoarseClock::CoarseClock(long tick)
 CoarseClock::~CoarseClock()
 {
     tickOfChanges = 0;
+}
+
+SlowLooks::SlowLooks(long delay)
+{
+    delayOfLooks = delay;
+}
+
+SlowLooks::~SlowLooks()
+{
+    delayOfLooks = 0;
 }
 
 int looks()

@@ -30,6 +30,15 @@ public:
     static constexpr long WholeSeconds = 1'000'000'000;
 };
 
+// While it lives, each look at an entry of an open directory takes so many nanoseconds more.
+class SlowLooks {
+public:
+    explicit SlowLooks(long delay);
+    ~SlowLooks();
+    SlowLooks(const SlowLooks &) = delete;
+    SlowLooks &operator=(const SlowLooks &) = delete;
+};
+
 // How many looks at a path, by stat or lstat, there have been so far.
 int looks();
 

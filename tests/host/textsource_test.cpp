@@ -2,6 +2,8 @@
 
 #include "host/textsource.h"
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 using host::TextSource;
 using testing::ElementsAre;
@@ -60,6 +62,25 @@ TEST(TextLines, ReadingPastTheEndFails)
     EXPECT_EQ(one.readLine(), u"a"_s);
     EXPECT_TRUE(one.atEnd());
     EXPECT_EQ(failureOf([&] { one.readLine(); }), host::PastEndOfFile);
+}
+
+TEST(TextLines, ArePassedUpToTheFirstThatBeginsSo)
+{
+    const auto restBehind = [](const QString &text, qsizetype read) -> std::optional<QString> {
+        host::TextSource source(text);
+        for (qsizetype i = 0; i < read; ++i)
+            source.readField();
+        return source.passLine(u"End") ? std::optional(source.rest().toString()) : std::nullopt;
+    };
+    EXPECT_EQ(restBehind(u"End"_s, 0), u"");
+    EXPECT_EQ(restBehind(u"Ends here\r\nx"_s, 0), u"x");
+    EXPECT_EQ(restBehind(u"The End\nEn\nEnd of it\nEnd"_s, 0), u"End");
+    EXPECT_EQ(restBehind(u"a,End\nb"_s, 0), std::nullopt);
+    EXPECT_EQ(restBehind(u"a,End\nb"_s, 1), u"b"); // a line begins where the field ended
+    EXPECT_EQ(restBehind(QString(), 0), std::nullopt);
+    host::TextSource source(u"none\nof them"_s);
+    EXPECT_FALSE(source.passLine(u"End"));
+    EXPECT_TRUE(source.atEnd());
 }
 
 TEST(TextFields, EndAtCommasAndLineEnds)
