@@ -1,7 +1,8 @@
 // Renders the artwork while building: render_artwork LIST DIRECTORY
-// LIST is the resource list of the drawings. Every drawing comes as a PNG in each scale into DIRECTORY, with
-// a resource list of them all: under the drawing's name, an '@' and the scale.
+// LIST is the resource list of the drawings. Every drawing comes as a packed picture in each scale into
+// DIRECTORY, with a resource list of them all.
 
+#include "forms/rendered.h"
 #include "forms/svg.h"
 
 #include <QDir>
@@ -34,18 +35,35 @@ QList<Drawing> drawingsIn(const QString &list)
     return drawings;
 }
 
-// The PNG of a drawing, made anew unless another name asked for it before; empty if that fails.
-QString rendered(const QString &file, qreal scale, const QDir &directory)
+// The sizes in pixels in which a drawing is shown at the scales.
+QList<QSize> sizesOf(const Drawing &drawing)
 {
-    const QString png = u"%1@%2.png"_s.arg(QFileInfo(file).baseName()).arg(scale);
+    const QSize size = QSvgRenderer(drawing.file).defaultSize();
+    QList<QSize> sizes;
+    for (const qreal scale : forms::RenderedScales)
+        sizes.append(forms::pixelsOf(size, scale));
+    for (const int side : forms::IconSides) {
+        if (drawing.name == u"icono" && !sizes.contains(QSize(side, side)))
+            sizes.append({ side, side });
+    }
+    return sizes;
+}
+
+// The file of a drawing rendered in this size, made unless another name asked for it before; empty if that
+// fails.
+QString rendered(const QString &file, const QSize &size, const QDir &directory)
+{
+    const QString name =
+        u"%1@%2x%3.raw"_s.arg(QFileInfo(file).baseName()).arg(size.width()).arg(size.height());
     static QStringList done;
-    if (done.contains(png))
-        return png;
-    const QSize size = QSvgRenderer(file).defaultSize();
-    if (size.isEmpty() || !forms::renderSvg(file, forms::pixelsOf(size, scale)).save(directory.filePath(png)))
+    if (done.contains(name))
+        return name;
+    QFile out(directory.filePath(name));
+    const QByteArray bytes = forms::packed(forms::renderSvg(file, size));
+    if (size.isEmpty() || !out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size())
         return {};
-    done.append(png);
-    return png;
+    done.append(name);
+    return name;
 }
 
 } // namespace
@@ -58,13 +76,14 @@ int main(int argc, char **argv)
     const QList<Drawing> drawings = drawingsIn(QString::fromLocal8Bit(argv[1]));
     QString list = u"<RCC><qresource prefix=\"/artwork\">\n"_s;
     for (const Drawing &drawing : drawings) {
-        for (const qreal scale : forms::RenderedScales) {
-            const QString png = rendered(drawing.file, scale, directory);
-            if (png.isEmpty()) {
+        for (const QSize &size : sizesOf(drawing)) {
+            const QString file = rendered(drawing.file, size, directory);
+            if (file.isEmpty()) {
                 std::fprintf(stderr, "render_artwork: can't render %s\n", qPrintable(drawing.file));
                 return 1;
             }
-            list += u"<file alias=\"%1@%2.png\">%3</file>\n"_s.arg(drawing.name).arg(scale).arg(png);
+            const QString alias = QFileInfo(forms::renderedPath(drawing.name, size)).fileName();
+            list += u"<file alias=\"%1\">%2</file>\n"_s.arg(alias, file);
         }
     }
     list += u"</qresource></RCC>\n"_s;

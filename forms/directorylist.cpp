@@ -68,16 +68,14 @@ void DirectoryList::fill(const QStringList &subdirectories)
         addRow(joined(m_path, name), name, depth + 1, false);
     SetListIndex(depth);
     // As much as there is room for of what lies within, but the open one in any case.
-    scrollToItem(item(ListCount() - 1));
-    scrollToItem(item(depth));
+    scrollTo(model()->index(ListCount() - 1, 0));
+    scrollTo(model()->index(depth, 0));
 }
 
 void DirectoryList::addRow(const QString &path, const QString &name, int depth, bool open)
 {
     m_paths += path;
-    QListWidgetItem *row = item(AddItem(name));
-    row->setData(Qt::DecorationRole, folder(*this, depth, open));
-    row->setToolTip(asTip(path));
+    SetLook(AddItem(name), { folder(*this, depth, open), asTip(path) });
 }
 
 void DirectoryList::openRow(int row)

@@ -35,6 +35,7 @@ bool isMouseEvent(const QEvent &event)
 
 ListBox::ListBox(QWidget *parent, bool sorted)
     : Control(parent)
+    , m_entries(new Entries(this))
     , m_sorted(sorted)
 {
     setSelectionMode(SingleSelection);
@@ -46,11 +47,7 @@ ListBox::ListBox(QWidget *parent, bool sorted)
     m_rows = new Rows(Rows::Height::OfTheFont, this);
     setItemDelegate(m_rows);
     viewport()->setMouseTracking(true);
-    // Only what comes from neither mouse nor keys nor code gets here: an assistive program's selection.
-    connect(this, &QListWidget::itemSelectionChanged, this, [this] {
-        if (ListIndex() >= 0)
-            Selection.raise();
-    });
+    setModel(m_entries);
 }
 
 void ListBox::SetHorizontalBar()
@@ -75,6 +72,10 @@ void ListBox::selectionChanged(const QItemSelection &selected, const QItemSelect
 {
     Control::selectionChanged(selected, deselected);
     viewport()->update();
+    // Only what comes from neither mouse nor keys nor code gets here: an assistive program's selection. The
+    // last step: its handler may destroy the list.
+    if (!signalsBlocked() && ListIndex() >= 0)
+        Selection.raise();
 }
 
 void ListBox::currentChanged(const QModelIndex &current, const QModelIndex &previous)
@@ -111,54 +112,75 @@ void ListBox::focusOutEvent(QFocusEvent *event)
     viewport()->update();
 }
 
-int ListBox::AddItem(const QString &text, int itemData)
+int ListBox::placeOf(const QString &text) const
 {
     int first = 0;
-    int last = m_sorted ? count() : 0;
+    int last = ListCount();
     while (first < last) {
         const int middle = (first + last) / 2;
-        if (host::compareNames(text, item(middle)->text()) < 0)
+        if (host::compareNames(text, m_entries->at(middle).text) < 0)
             last = middle;
         else
             first = middle + 1;
     }
-    const int row = m_sorted ? first : count();
-    auto *entry = new QListWidgetItem(text);
-    entry->setData(Qt::UserRole, itemData);
+    return first;
+}
+
+int ListBox::AddItem(const QString &text, int itemData)
+{
+    const int row = m_sorted ? placeOf(text) : ListCount();
     const QSignalBlocker quiet(this);
-    insertItem(row, entry);
+    m_entries->insert(row, { { text, itemData, nullptr } });
     return row;
+}
+
+void ListBox::AddItems(const QStringList &texts)
+{
+    if (m_sorted) {
+        for (const QString &text : texts)
+            AddItem(text);
+        return;
+    }
+    std::vector<Entry> entries;
+    entries.reserve(static_cast<std::size_t>(texts.size()));
+    for (const QString &text : texts)
+        entries.push_back({ text, 0, nullptr });
+    const QSignalBlocker quiet(this);
+    m_entries->insert(ListCount(), std::move(entries));
+}
+
+void ListBox::SetLook(int index, const Look &look)
+{
+    m_entries->setLook(index, look);
 }
 
 void ListBox::RemoveItem(int index)
 {
-    if (index < 0 || index >= count())
+    if (index < 0 || index >= ListCount())
         throw host::Failure(host::InvalidArgument, u"remove a list entry"_s, QString::number(index));
     const QSignalBlocker quiet(this);
     // Else the selection would go to a neighbour.
     if (index == ListIndex())
         setCurrentRow(-1);
-    delete takeItem(index);
+    m_entries->remove(index);
 }
 
 void ListBox::Clear()
 {
     const QSignalBlocker quiet(this);
-    clear();
+    m_entries->clear();
 }
 
 QString ListBox::List(int index) const
 {
-    const QListWidgetItem *entry = item(index);
-    return entry ? entry->text() : QString();
+    return index >= 0 && index < ListCount() ? m_entries->at(index).text : QString();
 }
 
 int ListBox::ItemData(int index) const
 {
-    const QListWidgetItem *entry = item(index);
-    if (!entry)
+    if (index < 0 || index >= ListCount())
         throw host::Failure(host::InvalidProperty, u"read a list entry's number"_s, QString::number(index));
-    return entry->data(Qt::UserRole).toInt();
+    return m_entries->at(index).itemData;
 }
 
 int ListBox::ListIndex() const
@@ -170,9 +192,9 @@ int ListBox::ListIndex() const
 
 void ListBox::SetListIndex(int index)
 {
-    if (index == 0 && count() == 0)
+    if (index == 0 && ListCount() == 0)
         return;
-    if (index < -1 || index >= count())
+    if (index < -1 || index >= ListCount())
         throw host::Failure(host::InvalidProperty, u"select a list entry"_s, QString::number(index));
     select(index);
 }
@@ -185,9 +207,9 @@ QString ListBox::Text() const
 void ListBox::SetText(const QString &text)
 {
     int index = 0;
-    while (index < count() && item(index)->text() != text)
+    while (index < ListCount() && m_entries->at(index).text != text)
         ++index;
-    select(index < count() ? index : -1);
+    select(index < ListCount() ? index : -1);
 }
 
 int ListBox::LetterWidth() const
@@ -207,7 +229,12 @@ int ListBox::ItemFromPoint(int x, int y) const
     if (!viewport()->rect().contains(point))
         return -1;
     const QModelIndex index = indexAt(point);
-    return index.isValid() ? index.row() : count();
+    return index.isValid() ? index.row() : ListCount();
+}
+
+void ListBox::setCurrentRow(int row)
+{
+    selectionModel()->setCurrentIndex(m_entries->index(row), QItemSelectionModel::ClearAndSelect);
 }
 
 void ListBox::select(int index, Scroll scroll)
@@ -265,8 +292,8 @@ bool ListBox::begins(const QString &typed) const
 {
     const bool again = typed.count(typed.front()) == typed.size();
     const QString beginning = again ? typed.first(1) : typed;
-    for (int i = 0; i < count(); ++i) {
-        if (item(i)->text().startsWith(beginning, Qt::CaseInsensitive))
+    for (int i = 0; i < ListCount(); ++i) {
+        if (m_entries->at(i).text.startsWith(beginning, Qt::CaseInsensitive))
             return true;
     }
     return false;

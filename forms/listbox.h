@@ -2,9 +2,10 @@
 #pragma once
 
 #include "forms/control.h"
+#include "forms/entries.h"
 
 #include <QElapsedTimer>
-#include <QListWidget>
+#include <QListView>
 
 #include <functional>
 
@@ -18,7 +19,7 @@ class Rows;
 // select theirs. The right and the middle button never select, and neither does the pointer moved with a
 // button held. Adding, removing and clearing raise nothing. No row is cut off at the bottom: what is left of
 // the height stays blank.
-class ListBox : public Control<QListWidget> {
+class ListBox : public Control<QListView> {
 public:
     explicit ListBox(QWidget *parent, bool sorted = false);
 
@@ -27,11 +28,13 @@ public:
     // Appends, or in a sorted list inserts by upper-cased text, code point by code point, behind its equals.
     // Returns the new entry's index. The selected entry stays selected.
     int AddItem(const QString &text, int itemData = 0);
+    void AddItems(const QStringList &texts); // as AddItem of each
+    void SetLook(int index, const Look &look);
     void RemoveItem(
         int index); // fails with 5 for an index out of range; removing the selected entry selects none
     void Clear();
 
-    int ListCount() const { return count(); }
+    int ListCount() const { return m_entries->count(); }
     QString List(int index) const; // an empty text for an index out of range
     int ItemData(int index) const; // fails with 380 for an index out of range
 
@@ -76,12 +79,16 @@ protected:
 private:
     enum class Scroll { No, Yes };
 
+    int placeOf(const QString &text) const;
+    int currentRow() const { return currentIndex().row(); }
+    void setCurrentRow(int row);
     void select(int index, Scroll scroll = Scroll::Yes);
     bool begins(const QString &typed) const;
     void findNext(bool back);
     bool press(const QMouseEvent &event);
     int rowsEnd() const; // of those that have room, in pixels of the client area
 
+    Entries *m_entries;
     bool m_sorted;
     QString m_typed; // without a longer pause
     QElapsedTimer m_sinceTyped;

@@ -1,6 +1,7 @@
 #include "forms/pictures.h"
 
 #include "forms/rasters.h"
+#include "forms/rendered.h"
 #include "forms/svg.h"
 
 #include "host/failure.h"
@@ -10,6 +11,7 @@
 #include <QFile>
 #include <QHash>
 #include <QImage>
+#include <QResource>
 
 #include <utility>
 
@@ -32,15 +34,15 @@ void forgetAtTheEnd()
 }
 
 // The build has rendered the artwork in its own size at the usual scales; any other one is drawn here.
-QImage imageOf(const QString &name, const QSize &pixels, qreal devicePixelRatio)
+QImage imageOf(const QString &name, const QSize &pixels)
 {
-    const QImage rendered(u":/artwork/%1@%2.png"_s.arg(name).arg(devicePixelRatio));
-    return rendered.size() == pixels ? rendered : renderSvg(u":/artwork/%1.svg"_s.arg(name), pixels);
+    const QImage rendered = unpacked(QResource(renderedPath(name, pixels)).uncompressedData());
+    return rendered.isNull() ? renderSvg(u":/artwork/%1.svg"_s.arg(name), pixels) : rendered;
 }
 
 QPixmap draw(const QString &name, const QSize &size, qreal devicePixelRatio)
 {
-    QPixmap picture = QPixmap::fromImage(imageOf(name, pixelsOf(size, devicePixelRatio), devicePixelRatio));
+    QPixmap picture = QPixmap::fromImage(imageOf(name, pixelsOf(size, devicePixelRatio)));
     picture.setDevicePixelRatio(devicePixelRatio);
     return picture;
 }
@@ -71,7 +73,7 @@ QPixmap artwork(const QString &name, const QSize &size, qreal devicePixelRatio)
 QIcon artworkIcon(const QString &name)
 {
     QIcon icon;
-    for (const int side : { 16, 22, 24, 32, 48, 64, 128 })
+    for (const int side : IconSides)
         icon.addPixmap(artwork(name, { side, side }, 1));
     return icon;
 }

@@ -9,6 +9,9 @@ namespace forms {
 // The scales at which the artwork is rendered while building: its size on the screen to a design pixel.
 inline constexpr qreal RenderedScales[] = { 1, 1.5, 2, 3 };
 
+// The sides, in pixels, of the icons that desktops ask for.
+inline constexpr int IconSides[] = { 16, 22, 24, 32, 48, 64, 128 };
+
 // The size in pixels of a picture of so many design pixels.
 QSize pixelsOf(const QSize &size, qreal scale);
 

@@ -161,8 +161,8 @@ private:
         QAccessibleInterface *told = QAccessible::queryAccessibleInterface(&list);
         for (int row = 0; row < list.ListCount(); ++row) {
             expectPlain(list.objectName(), told->child(row)->text(QAccessible::Name));
-            list.scrollToItem(list.item(row));
-            const QPoint middle = list.visualItemRect(list.item(row)).center();
+            list.scrollTo(list.model()->index(row, 0));
+            const QPoint middle = list.visualRect(list.model()->index(row, 0)).center();
             rest(*list.viewport(), { 5, middle.y() });
             moveTo(*list.viewport(), { 5, middle.y() });
         }

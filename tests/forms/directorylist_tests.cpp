@@ -40,9 +40,9 @@ protected:
     }
     void openByMouse(const QString &name)
     {
-        list.scrollToItem(list.item(rowOf(name)));
+        list.scrollTo(list.model()->index(rowOf(name), 0));
         drive::doubleClick(
-            *list.viewport(), Qt::LeftButton, list.visualItemRect(list.item(rowOf(name))).center());
+            *list.viewport(), Qt::LeftButton, list.visualRect(list.model()->index(rowOf(name), 0)).center());
     }
     QStringList below() const // the rows behind the open directory's
     {
@@ -92,7 +92,8 @@ TEST_F(DirectoryLists, WhereABarBelowWasNeededBeforeTheFormShowed_TheBottomIsBla
         drive::show(form);
         const QImage picture = list.grab().toImage();
         const QRect inside = list.contentsRect();
-        const int end = list.viewport()->y() + list.visualItemRect(list.item(list.ListCount() - 1)).bottom();
+        const int end =
+            list.viewport()->y() + list.visualRect(list.model()->index(list.ListCount() - 1, 0)).bottom();
         for (int y = end + 1; y <= inside.bottom(); ++y)
             ASSERT_EQ(picture.pixelColor(inside.center().x(), y), QColor(Qt::white)) << rest << ' ' << y;
     }
@@ -124,8 +125,9 @@ TEST_F(DirectoryLists, ASingleClick_OnlyMarksTheRow)
 {
     list.SetPath(path());
     drive::show(form);
-    list.scrollToItem(list.item(rowOf(u"Zeta"_s)));
-    drive::click(*list.viewport(), Qt::LeftButton, list.visualItemRect(list.item(rowOf(u"Zeta"_s))).center());
+    list.scrollTo(list.model()->index(rowOf(u"Zeta"_s), 0));
+    drive::click(
+        *list.viewport(), Qt::LeftButton, list.visualRect(list.model()->index(rowOf(u"Zeta"_s), 0)).center());
     EXPECT_EQ(list.Text(), u"Zeta"_s);
     EXPECT_EQ(list.Path(), path());
     EXPECT_EQ(changes, 1);
@@ -135,9 +137,9 @@ TEST_F(DirectoryLists, ADoubleClickOfTheRightButton_OpensNothing)
 {
     list.SetPath(path());
     drive::show(form);
-    list.scrollToItem(list.item(rowOf(u"Zeta"_s)));
-    drive::doubleClick(
-        *list.viewport(), Qt::RightButton, list.visualItemRect(list.item(rowOf(u"Zeta"_s))).center());
+    list.scrollTo(list.model()->index(rowOf(u"Zeta"_s), 0));
+    drive::doubleClick(*list.viewport(), Qt::RightButton,
+        list.visualRect(list.model()->index(rowOf(u"Zeta"_s), 0)).center());
     EXPECT_EQ(list.Path(), path());
 }
 
@@ -181,10 +183,10 @@ TEST_F(DirectoryLists, TheOpenDirectoryIsInView_WhateverLiesInIt)
         QDir(path()).mkpath(u"d%1"_s.arg(i));
     drive::show(form);
     list.SetPath(path());
-    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.currentItem()).center()));
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualRect(list.currentIndex()).center()));
     list.SetPath(path(u"alfa"_s));
-    EXPECT_TRUE(
-        list.viewport()->rect().contains(list.visualItemRect(list.item(list.ListCount() - 1)).center()));
+    EXPECT_TRUE(list.viewport()->rect().contains(
+        list.visualRect(list.model()->index(list.ListCount() - 1, 0)).center()));
 }
 
 } // namespace

@@ -44,7 +44,7 @@ protected:
             list.AddItem(text);
     }
 
-    QPoint row(int index) const { return list.visualItemRect(list.item(index)).center(); }
+    QPoint row(int index) const { return list.visualRect(list.model()->index(index, 0)).center(); }
 
     std::vector<std::string> texts(const forms::ListBox &of) const
     {
@@ -228,7 +228,7 @@ TEST_F(Lists, ASelectionFromCodeInTheHandlerOfAPress_ScrollsToItsRow)
     };
     drive::click(*list.viewport(), Qt::LeftButton, row(0));
     EXPECT_EQ(list.ListIndex(), 35);
-    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.item(35))));
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualRect(list.model()->index(35, 0))));
 }
 
 TEST_F(Lists, RightAndMiddleButton_NeverSelect)
@@ -332,7 +332,7 @@ TEST_F(Lists, TheRowOfTheFocusIsFramed_WithTheFocusAlone)
     list.SetListIndex(1);
     drive::show(form);
     other.setFocus();
-    const QRect place = list.visualItemRect(list.item(1));
+    const QRect place = list.visualRect(list.model()->index(1, 0));
     const auto edge = [&] {
         const QImage picture = list.viewport()->grab(place).toImage();
         std::set<QRgb> colours;
@@ -449,7 +449,7 @@ TEST_F(Lists, TopIndex_FollowsTheScrolling)
     drive::show(form);
     EXPECT_EQ(list.TopIndex(), 0);
     list.SetListIndex(60);
-    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.item(60))));
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualRect(list.model()->index(60, 0))));
     const int top = list.TopIndex();
     EXPECT_GT(top, 50);
     EXPECT_EQ(list.ItemFromPoint(5, 0), top);
@@ -460,8 +460,10 @@ TEST_F(Lists, RowsAreAsHighAsTheFont)
     fill({ u"a"_s, u"b"_s });
     drive::show(form);
     const int height = list.fontMetrics().height();
-    EXPECT_EQ(list.visualItemRect(list.item(0)).height(), height);
-    EXPECT_EQ(list.visualItemRect(list.item(1)).top() - list.visualItemRect(list.item(0)).top(), height);
+    EXPECT_EQ(list.visualRect(list.model()->index(0, 0)).height(), height);
+    EXPECT_EQ(
+        list.visualRect(list.model()->index(1, 0)).top() - list.visualRect(list.model()->index(0, 0)).top(),
+        height);
 }
 
 TEST_F(Lists, AListDestroyedInItsHandlers_IsNotTouchedAnyMore)

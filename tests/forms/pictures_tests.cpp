@@ -6,6 +6,7 @@
 #include "forms/image.h"
 #include "forms/knownpictures.h"
 #include "forms/pictures.h"
+#include "forms/rendered.h"
 
 #include "host/failure.h"
 #include "host/lengths.h"
@@ -147,17 +148,28 @@ TEST_F(Pictures, Artwork_IsDrawnAtItsSizeAndRatio)
     EXPECT_EQ(drawn.toImage().pixelColor(20, 40), QColor(Qt::white));
 }
 
-TEST_F(Pictures, Artwork_RenderedForItsSizeAndRatio_IsTakenAsItIs)
+TEST_F(Pictures, Artwork_RenderedInItsPixels_IsTakenAsItIs)
 {
-    // The rendered one is blue, of 24 by 26 pixels; the drawing is red at its left.
+    // The rendered one is blue, the drawing is red at its left.
     const auto left = [](const QSize &size, qreal ratio) {
         return forms::artwork(u"Rendered"_s, size, ratio).toImage().pixelColor(1, 1);
     };
     EXPECT_EQ(left({ 12, 13 }, 2), QColor(Qt::blue));
     EXPECT_EQ(forms::artwork(u"Rendered"_s, { 12, 13 }, 2).devicePixelRatio(), 2);
     EXPECT_EQ(left({ 12, 13 }, 1), QColor(Qt::red));
+    EXPECT_EQ(left({ 24, 26 }, 1), QColor(Qt::blue));
     EXPECT_EQ(left({ 24, 26 }, 2), QColor(Qt::red));
-    EXPECT_EQ(left({ 24, 26 }, 1), QColor(Qt::red));
+}
+
+TEST_F(Pictures, Packed_ComeBackAsTheyWere)
+{
+    QImage image(3, 2, QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(10, 20, 30, 40));
+    image.setPixelColor(2, 1, Qt::green);
+    const QByteArray bytes = forms::packed(image);
+    EXPECT_EQ(forms::unpacked(bytes), image);
+    for (const QByteArray &damaged : { QByteArray(), bytes.first(7), bytes.chopped(1), bytes + 'x' })
+        EXPECT_TRUE(forms::unpacked(damaged).isNull()) << damaged.size();
 }
 
 TEST_F(Pictures, Artwork_IsDrawnOnceForEachSizeAndRatio)

@@ -116,7 +116,7 @@ TEST_F(PlainTexts, TheTipOfADirectory_ShowsMarkupAsItIs)
     while (row < list.ListCount() && list.List(row) != name)
         ++row;
     ASSERT_LT(row, list.ListCount());
-    const QRect place = list.visualItemRect(list.item(row));
+    const QRect place = list.visualRect(list.model()->index(row, 0));
     EXPECT_EQ(tipAt(*list.viewport(), place.center()), directory.path() + u'/' + name);
     form.grab();
 }

@@ -115,7 +115,7 @@ protected:
         const QPalette colours = list.palette();
         const QColor ground = colours.color(selected ? QPalette::Highlight : QPalette::Base);
         const QColor ink = colours.color(selected ? QPalette::HighlightedText : QPalette::Text);
-        const QRect logical = list.visualItemRect(list.item(row));
+        const QRect logical = list.visualRect(list.model()->index(row, 0));
         const QPoint corner = list.viewport()->mapTo(&form, logical.topLeft());
         const QRectF exact(QPointF(corner) * scale, QSizeF(logical.size()) * scale);
         // Without the dots that it shares with its neighbours.

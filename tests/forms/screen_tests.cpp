@@ -93,7 +93,7 @@ protected:
         });
     }
 
-    QPoint row(int index) const { return list.visualItemRect(list.item(index)).center(); }
+    QPoint row(int index) const { return list.visualRect(list.model()->index(index, 0)).center(); }
 
     Form owner { u"Owner"_s, 4500, 4500, Form::Border::None };
     forms::PictureButton pair { u"Rest2"_s, u"Rest1"_s, &owner };

@@ -2,11 +2,13 @@
 
 #include "tests/support/portadatest.h"
 
+#include "forms/rendered.h"
 #include "forms/svg.h"
 
 #include <QDir>
 #include <QFontInfo>
 #include <QImage>
+#include <QResource>
 #include <QSvgRenderer>
 
 using namespace Qt::StringLiterals;
@@ -429,10 +431,9 @@ TEST(Artwork, EveryDrawingIsRenderedForEachScale)
     for (const QString &drawing : drawings) {
         const QString file = u":/artwork/"_s + drawing;
         for (const qreal scale : forms::RenderedScales) {
-            const QImage rendered(file.chopped(4) + u"@%1.png"_s.arg(scale));
             const QSize pixels = forms::pixelsOf(QSvgRenderer(file).defaultSize(), scale);
-            EXPECT_EQ(rendered.convertToFormat(QImage::Format_ARGB32),
-                forms::renderSvg(file, pixels).convertToFormat(QImage::Format_ARGB32))
+            const QString path = forms::renderedPath(drawing.chopped(4), pixels);
+            EXPECT_EQ(forms::unpacked(QResource(path).uncompressedData()), forms::renderSvg(file, pixels))
                 << file.toStdString() << " at " << scale;
         }
     }

@@ -37,7 +37,7 @@ protected:
     QPoint pointOfRow(int row)
     {
         list().doItemsLayout();
-        const QRect shown = list().visualItemRect(list().item(row));
+        const QRect shown = list().visualRect(list().model()->index(row, 0));
         return list().viewport()->mapTo(&list(), QPoint(20, shown.center().y()));
     }
     void hover(int row) { moveTo(list(), pointOfRow(row)); }
@@ -130,8 +130,11 @@ TEST_F(SuperficieTest, EntryHasATipAsSoonAsALetterOfItCanNotBeSeen)
         QString fits;
         while (metrics.horizontalAdvance(fits + u'i') <= room)
             fits += u'i';
-        list().item(0)->setText(fits);
-        list().item(1)->setText(fits + u'i');
+        list().Clear();
+        list().AddItems({ fits, fits + u'i' });
+        for (int i = 2; i < (withBar ? 40 : 2); ++i)
+            list().AddItem(u"short"_s);
+        list().doItemsLayout();
         moveTo(*portada, QPoint(2, 2));
         hover(0);
         EXPECT_FALSE(tip().isVisible()) << withBar;

@@ -39,7 +39,7 @@ protected:
     QPoint row(int index)
     {
         list().doItemsLayout();
-        return { 20, list().visualItemRect(list().item(index)).center().y() };
+        return { 20, list().visualRect(list().model()->index(index, 0)).center().y() };
     }
 
     // Input is taken in its order: what came before this click has been when its selection is there.
