@@ -4,7 +4,10 @@
 #include "core/catalogo.h"
 #include "core/lineas.h"
 
+#include "host/encoding.h"
+#include "host/failure.h"
 #include "host/letters.h"
+#include "host/numberedfiles.h"
 #include "host/paths.h"
 #include "host/textsource.h"
 
@@ -106,6 +109,16 @@ bool esBlanco(const QString &nombre)
 bool vuelveFiltro(const QString &nombre)
 {
     return !esBlanco(nombre) && quedaEnSuLinea(host::upper(nombre));
+}
+
+// Empty if it can't be read: then the tables count.
+QString textoDelCatalogo()
+{
+    try {
+        return host::decodeText(host::readBytes(host::programFile(u"Zembro.emu"_s))).text;
+    } catch (const host::Failure &) {
+        return {};
+    }
 }
 
 void reescribe(Modulo &M, const std::function<QString(const QString &)> &cambio)
@@ -355,6 +368,15 @@ QString ConSeleccionEn(const QString &texto, const Modulo &despues, const Modulo
 void GuardaAjuste(Modulo &M, Ajuste ajuste, const QStringList &lineasNuevas)
 {
     reescribe(M, [&](const QString &texto) { return ConAjuste(texto, ajuste, lineasNuevas); });
+}
+
+void GuardaUltimaSeleccion(Modulo &M, const QString &sistema, const QString &emulador)
+{
+    reescribe(M, [&](const QString &texto) {
+        const Posiciones posiciones = PosicionesEnTexto(M, textoDelCatalogo(), sistema, emulador);
+        return ConAjuste(
+            texto, Ajuste::UltimaSeleccion, LineasDeUltimaSeleccion(posiciones.sistema, posiciones.emulador));
+    });
 }
 
 void GuardaFiltros(Modulo &M, const QStringList &filtros)

@@ -32,8 +32,10 @@ enum class Ajuste { UltimaSeleccion, GuardarUltimo, TypeOfEditor, MsgEndDOS, Lan
 // where nothing is being skipped.
 QString ConAjuste(const QString &texto, Ajuste ajuste, const QStringList &lineasNuevas);
 
-// Rewrites Zembro.cfg with one setting's new lines, or with another [Filters] section.
+// Rewrites Zembro.cfg with one setting's new lines, with this pair by Zembro.emu as it is now, or with
+// another [Filters] section.
 void GuardaAjuste(Modulo &M, Ajuste ajuste, const QStringList &lineasNuevas);
+void GuardaUltimaSeleccion(Modulo &M, const QString &sistema, const QString &emulador);
 void GuardaFiltros(Modulo &M, const QStringList &filtros);
 
 // The text of Zembro.cfg with the last selection as the program goes on with it in another catalogue. The

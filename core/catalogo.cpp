@@ -145,6 +145,22 @@ Posiciones PosicionesDe(const Modulo &M, const QString &sistema, const QString &
     return posiciones;
 }
 
+Posiciones PosicionesEnTexto(
+    const Modulo &M, const QString &texto, const QString &sistema, const QString &emulador)
+{
+    const std::unique_ptr<Modulo> leido = CatalogoDe(texto);
+    leido->TotalSistemas = std::min(leido->Indice_Sistema + 1, MaxSistemas); // of a text with too many
+    int s = 0;
+    while (s < leido->TotalSistemas && leido->Cat_Nombre(s, 0) != u'-' + sistema)
+        ++s;
+    if (s >= leido->TotalSistemas)
+        return PosicionesDe(M, sistema, emulador);
+    int e = TotalEmuladores(*leido, s);
+    while (e > 0 && leido->Cat_Nombre(s, e) != u'+' + emulador)
+        --e;
+    return PosicionesDe(*leido, sistema, e > 0 ? emulador : QString());
+}
+
 namespace {
 
 // The names of the systems, or of the emulators of one, in the file's order.

@@ -79,6 +79,11 @@ struct Posiciones {
 };
 Posiciones PosicionesDe(const Modulo &M, const QString &sistema, const QString &emulador);
 
+// The same in a catalogue of this text, which somebody else may have changed since the tables were read; by
+// the tables where it lacks the system. A pair whose emulator it lacks is one without.
+Posiciones PosicionesEnTexto(
+    const Modulo &M, const QString &texto, const QString &sistema, const QString &emulador);
+
 // Where the pair at these positions of a catalogue stands in a later one of it. Among systems or emulators of
 // one name it is the same one of them. A position where nothing stands, or whose name the later one lacks,
 // stays as it is.

@@ -6,7 +6,6 @@
 
 #include "core/ajustes.h"
 #include "core/arranque.h"
-#include "core/catalogo.h"
 #include "core/lista.h"
 
 #include "forms/yield.h"
@@ -111,9 +110,7 @@ void Portada::Flecha2_Release()
 
 void Portada::GuardaSeleccion()
 {
-    const core::Posiciones posiciones = core::PosicionesDe(M, Combo1->Text(), Combo2->Text());
-    core::GuardaAjuste(M, core::Ajuste::UltimaSeleccion,
-        core::LineasDeUltimaSeleccion(posiciones.sistema, posiciones.emulador));
+    core::GuardaUltimaSeleccion(M, Combo1->Text(), Combo2->Text());
 }
 
 } // namespace mainscreen

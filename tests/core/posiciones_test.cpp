@@ -92,6 +92,41 @@ TEST_F(PosicionesDe, AreRight_InAFullCatalogue)
     EXPECT_EQ(core::PosicionesDe(M, u"S1150"_s, QString()).sistema, 150);
 }
 
+// By the names, wherever the text has them by now.
+TEST_F(PosicionesDe, InATextThatHasChanged_AreThoseOfTheText)
+{
+    Lee("-B\r\n+y\r\n+z\r\n-C\r\n+w\r\n");
+    const struct {
+        QString texto;
+        Caso caso;
+    } casos[] = {
+        { u"-B\n+y\n+z\n-C\n+w\n"_s, { u"B"_s, u"z"_s, 0, 1 } },
+        { u"-B\n+z\n+a\n+y\n-A\n+q\n"_s, { u"B"_s, u"z"_s, 1, 2 } },
+        { u"-A\n-B\n+x\n"_s, { u"B"_s, QString(), 1, 696969 } },
+        // It lacks the emulator.
+        { u"-A\n-B\n+y\n+x\n"_s, { u"B"_s, u"z"_s, 1, 696969 } },
+        // It lacks the system: the tables count.
+        { u"-A\n+z\n-b\n+z\n"_s, { u"B"_s, u"z"_s, 0, 1 } },
+        { QString(), { u"C"_s, u"w"_s, 1, 0 } },
+        { u"-A\n"_s, { QString(), QString(), 0, 0 } },
+    };
+    for (const auto &[texto, caso] : casos) {
+        const core::Posiciones posiciones = core::PosicionesEnTexto(M, texto, caso.sistema, caso.emulador);
+        EXPECT_EQ(posiciones.sistema, caso.posicionDelSistema) << texto.toStdString();
+        EXPECT_EQ(posiciones.emulador, caso.posicionDelEmulador) << texto.toStdString();
+    }
+}
+
+TEST_F(PosicionesDe, InATextThatNoTableHolds_AreThoseOfWhatFits)
+{
+    QString texto;
+    for (int s = 0; s < 200; ++s)
+        texto += u"-S%1\n+E\n"_s.arg(1000 + s);
+    Lee("-S1003\r\n+E\r\n");
+    EXPECT_EQ(core::PosicionesEnTexto(M, texto, u"S1150"_s, u"E"_s).sistema, 150);
+    EXPECT_EQ(core::PosicionesEnTexto(M, texto, u"S1160"_s, u"E"_s).sistema, 0);
+}
+
 namespace {
 
 core::Posiciones EnOtro(const QString &despues, const QString &antes, const core::Posiciones &posiciones)

@@ -67,6 +67,31 @@ TEST_F(SalidaTest, SavedSelectionComesBackAtTheNextStart)
     EXPECT_EQ(emulators().Text(), u"Solo"_s);
 }
 
+// As the finder does it, called while the program is open.
+TEST_F(SalidaTest, SavesThePositionsInTheCatalogueAsItIsByThen)
+{
+    startAt(Zeta, 0);
+    pick(systems(), u"alfa"_s);
+    pick(emulators(), u"beta"_s);
+    systemsOfCatalogue.push_back({ u"Aaa"_s, { u"NES"_s }, { { u"One"_s, u"0"_s, {} } } });
+    files.writeCatalogue(systemsOfCatalogue);
+    leave();
+    expectSaved("1", "1");
+    restart();
+    EXPECT_EQ(systems().Text(), u"alfa"_s);
+    EXPECT_EQ(emulators().Text(), u"beta"_s);
+}
+
+TEST_F(SalidaTest, SavesThePositionsThatItKnows_WithoutACatalogue)
+{
+    startAt(Zeta, 0);
+    pick(systems(), u"alfa"_s);
+    pick(emulators(), u"beta"_s);
+    files.remove(u"Zembro.emu"_s);
+    leave();
+    expectSaved("0", "1");
+}
+
 TEST_F(SalidaTest, SystemWithoutAnEmulatorSavesTheMark)
 {
     startAt(Zeta, 0);
