@@ -4,7 +4,10 @@
 
 #include <QSet>
 
+#include <algorithm>
 #include <functional>
+#include <numeric>
+#include <vector>
 
 namespace companion {
 
@@ -30,6 +33,44 @@ QList<qsizetype> Candidatos(const QStringList &nombres, const QString &texto)
             return posiciones;
     }
     return {};
+}
+
+namespace {
+
+// How many letters have to be changed, put in or left out.
+qsizetype distancia(const QString &a, const QString &b)
+{
+    std::vector<qsizetype> fila(static_cast<size_t>(b.size()) + 1);
+    std::iota(fila.begin(), fila.end(), qsizetype { 0 });
+    for (qsizetype i = 0; i < a.size(); ++i) {
+        qsizetype diagonal = fila[0]++;
+        for (size_t j = 1; j < fila.size(); ++j) {
+            const qsizetype cambiada = diagonal + (a[i] != b[qsizetype(j) - 1]);
+            diagonal = fila[j];
+            fila[j] = std::min({ cambiada, fila[j] + 1, fila[j - 1] + 1 });
+        }
+    }
+    return fila.back();
+}
+
+} // namespace
+
+QString MasParecido(const QStringList &nombres, const QString &texto)
+{
+    constexpr qsizetype mucha = 3;
+    constexpr qsizetype larga = 255; // no name of a file is longer
+    QString mejor;
+    qsizetype menor = mucha + 1;
+    for (const QString &nombre : nombres) {
+        if (nombre.size() > larga || texto.size() > larga)
+            continue;
+        const qsizetype suya = distancia(host::upper(nombre), host::upper(texto));
+        if (suya < menor && suya < texto.size()) {
+            menor = suya;
+            mejor = nombre;
+        }
+    }
+    return mejor;
 }
 
 } // namespace companion

@@ -10,4 +10,7 @@ namespace companion {
 // else those that begin with it, or hold it, in any case. Equal names count once, for the first of them.
 QList<qsizetype> Candidatos(const QStringList &nombres, const QString &texto);
 
+// The name that differs least from a text, in three letters at most and in any case; empty if none does.
+QString MasParecido(const QStringList &nombres, const QString &texto);
+
 } // namespace companion

@@ -50,9 +50,9 @@ QString capturaDe(const core::Modulo &M, const Pareja &pareja, const QString &en
 {
     QString ruta;
     siSePuede([&] {
-        core::BuscaROM(M, entrada, [&](const core::FichaDeROM &ficha) {
-            ruta = core::RutaDeCaptura(TipoDe(M, pareja), DirectorioDeCapturas(M, pareja), ficha);
-        });
+        const QStringList rutas =
+            core::CapturasDe(M, entrada, TipoDe(M, pareja), DirectorioDeCapturas(M, pareja));
+        ruta = rutas.isEmpty() ? QString() : rutas.last();
     });
     return ruta.isEmpty() ? QString() : host::trueSpelling(ruta);
 }

@@ -5,6 +5,7 @@
 #include "companion/jugada.h"
 #include "companion/lista.h"
 #include "companion/porque.h"
+#include "companion/revisa.h"
 
 #include <algorithm>
 
@@ -13,6 +14,7 @@ namespace companion {
 std::span<const Orden *const> Ordenes()
 {
     static const Orden *const ordenes[] = {
+        &OrdenRevisa(),
         &OrdenDicha(),
         &OrdenJugada(),
         &OrdenPorque(),

@@ -61,6 +61,57 @@ struct Palabras {
     QString Zbo_PorSenal = QStringLiteral("The emulator was ended by the signal %1 after %2 seconds.");
     QString Zbo_ConEstado = QStringLiteral("The emulator ended with the status %1 after %2 seconds.");
     QString Zbo_SinFinal = QStringLiteral("It still runs, or the program was ended ahead of it.");
+
+    // Checking.
+    QString Zbo_Check = QStringLiteral("checks the files, and every configured emulator");
+    QString Zbo_OpMend = QStringLiteral("shows how to repair what has one answer only");
+    QString Zbo_OpWrite = QStringLiteral("writes it, instead of showing it");
+    QString Zbo_NoLeida = QStringLiteral("No reader takes this line; correct or remove it: %1");
+    QString Zbo_Repetido = QStringLiteral("This name stands twice; the second one is never found: %1");
+    QString Zbo_ExtLarga = QStringLiteral("An extension of more than three letters fits no file: %1");
+    QString Zbo_SinCierre = QStringLiteral(
+        "The block of %1 has no closing line of an apostrophe and dashes; --mend puts it there.");
+    QString Zbo_SinMarca =
+        QStringLiteral("The line [EOF] behind the last system is missing; --mend puts it there.");
+    QString Zbo_SinApostrofo =
+        QStringLiteral("The notes of %1 have no closing apostrophe; --mend puts it there.");
+    QString Zbo_SinNotas = QStringLiteral(
+        "There is no block of notes for %1, so none of its games is listed; --mend puts one there.");
+    QString Zbo_SinSeccion =
+        QStringLiteral("The section of parameters, or its closing apostrophe, is missing.");
+    QString Zbo_Cortado =
+        QStringLiteral("This record has another number of fields than it needs; a comma cuts it: %1");
+    QString Zbo_SinFichero =
+        QStringLiteral("The note %1 has no file any more; remove it, or bring the file back.");
+    QString Zbo_MalAjuste = QStringLiteral("This setting has a value that the program doesn't take: %1");
+    QString Zbo_SinBlanco =
+        QStringLiteral("The text of %1 has lost the blank at its end, ahead of the quotation mark.");
+    QString Zbo_LineaCorta = QStringLiteral(
+        "This line is too short for a text, and the program ends at it; correct or remove it: %1");
+    QString Zbo_SinClave = QStringLiteral("The key %1 is missing.");
+    QString Zbo_NoHayEXE = QStringLiteral("There is no program %1; correct its path in the configuration.");
+    QString Zbo_Parecido = QStringLiteral("Perhaps this one is meant: %1");
+    QString Zbo_SinPermiso = QStringLiteral("The program %1 can't be run: it lacks the right to (chmod +x).");
+    QString Zbo_DeDOS =
+        QStringLiteral("The program %1 is one for DOS or Windows; it needs an emulator of its own.");
+    QString Zbo_OtraMaquina = QStringLiteral("The program %1 is for another processor.");
+    QString Zbo_NoEsPrograma = QStringLiteral("The file %1 is no program that this machine knows.");
+    QString Zbo_SinROMs = QStringLiteral("The machine %1 of MAME lacks ROMs of its own: mame -verifyroms %1");
+    QString Zbo_SinTipo =
+        QStringLiteral("The XDI line doesn't end in a type from 0 to 3 or from 5 to 8; nothing is listed.");
+    QString Zbo_ListaCortada = QStringLiteral("The list is cut: the length of a file can't be had.");
+    QString Zbo_NoSeLista = QStringLiteral("No game can be listed: %1");
+    QString Zbo_DosVeces = QStringLiteral("%1 is listed twice, as two extensions fit its end.");
+    QString Zbo_NadaEncaja = QStringLiteral(
+        "Nothing of %1 files or directories is listed: no extension, or not the type, fits them.");
+    QString Zbo_MismaDesc = QStringLiteral("Several games have the description %1; the first one is played.");
+    QString Zbo_SinCapturas = QStringLiteral("The captures can't be read: %1");
+    QString Zbo_CapturaSola = QStringLiteral("The capture %1 fits no game.");
+    QString Zbo_CapturaMal = QStringLiteral("The capture %1 would be found as %2.");
+    QString Zbo_Cuenta = QStringLiteral(
+        "%1 / %2: %3 listed, %4 of another kind, %5 left out by the filters, %6 without a capture.");
+    QString Zbo_ParPerdidos = QStringLiteral("The parameters of %1 are never found: its name has blanks or "
+                                             "several points, so it needs a description.");
     // Bulk work.
 };
 

@@ -1,0 +1,147 @@
+#include "companion/revisa.h"
+
+#include "companion/diferencia.h"
+#include "companion/revision.h"
+
+#include "host/paths.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace companion {
+
+namespace {
+
+QJsonObject enJson(const Hallazgo &hallazgo)
+{
+    QJsonObject objeto { { u"kind"_s, hallazgo.clase }, { u"text"_s, hallazgo.texto } };
+    if (!hallazgo.fichero.isEmpty())
+        objeto[u"file"_s] = hallazgo.fichero;
+    if (hallazgo.linea > 0)
+        objeto[u"line"_s] = hallazgo.linea;
+    if (!hallazgo.pareja.isEmpty())
+        objeto[u"pair"_s] = hallazgo.pareja;
+    return objeto;
+}
+
+QJsonObject enJson(const Pareja &pareja, const Cuenta &cuenta)
+{
+    return { { u"system"_s, pareja.nombreSistema }, { u"emulator"_s, pareja.nombreEmulador },
+        { u"listed"_s, cuenta.listados }, { u"other_extension"_s, cuenta.otraExtension },
+        { u"filtered"_s, cuenta.filtrados }, { u"no_zip"_s, cuenta.otroTipo },
+        { u"without_capture"_s, cuenta.sinCaptura } };
+}
+
+QString enLinea(const Hallazgo &hallazgo)
+{
+    if (!hallazgo.pareja.isEmpty())
+        return hallazgo.pareja + u": "_s + hallazgo.texto;
+    const QString lugar = hallazgo.linea > 0 ? u':' + QString::number(hallazgo.linea) : QString();
+    return hallazgo.fichero + lugar + u": "_s + hallazgo.texto;
+}
+
+// A file that can't be read is a finding, and the others are looked at all the same.
+template <typename Parte> void revisa(Revision &revision, const QString &fichero, Parte &&parte)
+{
+    try {
+        parte();
+    } catch (const host::Failure &fallo) {
+        revision.push_back({ u"unreadable"_s, fichero, 0, {}, TextoDe(fallo) });
+    }
+}
+
+void revisaFicheros(Sesion &sesion, Revision &revision)
+{
+    for (const QString &fichero : { u"Zembro.emu"_s, u"Zembro.sye"_s })
+        revisa(revision, fichero, [&] { RevisaCatalogo(sesion, fichero, revision); });
+    revisa(revision, u"Zembro.rom"_s, [&] { RevisaNotas(sesion, revision); });
+    revisa(revision, u"Zembro.cfg"_s, [&] { RevisaAjustes(sesion, revision); });
+    revisa(revision, u"LNG"_s, [&] { RevisaIdiomas(sesion, revision); });
+}
+
+int revisaTodo(Sesion &sesion)
+{
+    Revision revision;
+    bool hayCatalogo = false;
+    revisa(revision, u"Zembro.emu"_s, [&] {
+        LeeMundo(sesion);
+        hayCatalogo = true;
+    });
+    const QString sistema = sesion.Argumento(0);
+    if (!hayCatalogo && !host::exists(host::programFile(u"Zembro.emu"_s)))
+        return sesion.Falla(sesion.palabras.Zbo_NoDir.arg(host::programDirectory()));
+    if (sistema.isEmpty())
+        revisaFicheros(sesion, revision);
+    const std::vector<Pareja> parejas =
+        hayCatalogo ? ParejasPedidas(sesion, sistema, sesion.Argumento(1)) : std::vector<Pareja>();
+    if (parejas.empty() && !sistema.isEmpty())
+        return NoPudo;
+    QJsonArray cuentas;
+    QStringList lineas;
+    for (const Pareja &pareja : parejas) {
+        const Cuenta cuenta = RevisaPareja(sesion, pareja, revision);
+        cuentas += enJson(pareja, cuenta);
+        lineas += sesion.palabras.Zbo_Cuenta.arg(pareja.nombreSistema, pareja.nombreEmulador,
+            QString::number(cuenta.listados), QString::number(cuenta.otraExtension + cuenta.otroTipo),
+            QString::number(cuenta.filtrados), QString::number(cuenta.sinCaptura));
+    }
+    RevisaCapturas(sesion, parejas, revision);
+    QJsonArray hallazgos;
+    for (const Hallazgo &hallazgo : revision)
+        hallazgos += enJson(hallazgo);
+    if (sesion.EnJson()) {
+        sesion.Json({ { u"findings"_s, hallazgos }, { u"pairs"_s, cuentas } });
+    } else {
+        for (const Hallazgo &hallazgo : revision)
+            sesion.Escribe(enLinea(hallazgo));
+        sesion.Escribe(lineas);
+    }
+    return revision.empty() ? Bien : Hallazgos;
+}
+
+// Shows or makes the repairs, a file after the other. Each is decided by the text that the rewrite has just
+// read.
+int remienda(Sesion &sesion)
+{
+    const bool escribe = sesion.Tiene(u"write"_s);
+    QJsonArray cambios;
+    QStringList lineas;
+    for (const Remiendo &remiendo : Remiendos()) {
+        const QString antes = TextoDelPrograma(remiendo.fichero);
+        const QStringList diferencia = Diferencia(remiendo.fichero, antes, remiendo.cambio(antes));
+        if (diferencia.isEmpty())
+            continue;
+        if (escribe) {
+            sesion.M.Ficheros.closeAll();
+            sesion.M.Ficheros.rewrite(host::programFile(remiendo.fichero), u"Zembro.tmp"_s, remiendo.cambio);
+        }
+        cambios += QJsonObject { { u"file"_s, remiendo.fichero },
+            { u"diff"_s, QJsonArray::fromStringList(diferencia) } };
+        lineas += diferencia;
+    }
+    if (sesion.EnJson())
+        sesion.Json({ { u"written"_s, escribe }, { u"changes"_s, cambios } });
+    else
+        sesion.Escribe(lineas);
+    return cambios.isEmpty() || escribe ? Bien : Hallazgos;
+}
+
+int hazRevision(Sesion &sesion)
+{
+    return sesion.Tiene(u"mend"_s) ? remienda(sesion) : revisaTodo(sesion);
+}
+
+} // namespace
+
+const Orden &OrdenRevisa()
+{
+    static const Orden orden { u"check"_s, u"[SYSTEM [EMULATOR]]"_s, &Palabras::Zbo_Check,
+        { { u"mend"_s, {}, &Palabras::Zbo_OpMend }, { u"write"_s, {}, &Palabras::Zbo_OpWrite } },
+        hazRevision };
+    return orden;
+}
+
+} // namespace companion

@@ -1,0 +1,58 @@
+// What is wrong with the files of the program directory, and with the pairs that it configures.
+#pragma once
+
+#include "companion/mundo.h"
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+namespace companion {
+
+struct Hallazgo {
+    QString clase; // a word of English, the same in every language
+    QString fichero; // of the program directory, or a path; empty for a pair's
+    int linea = 0; // counted from 1, 0 where none is meant
+    QString pareja; // "System / Emulator"; empty for a file's
+    QString texto; // what is wrong and what to do
+};
+
+using Revision = std::vector<Hallazgo>;
+
+// Of Zembro.emu and Zembro.sye; of Zembro.rom; of Zembro.cfg; of the language files.
+void RevisaCatalogo(const Sesion &sesion, const QString &fichero, Revision &revision);
+void RevisaNotas(Sesion &sesion, Revision &revision);
+void RevisaAjustes(Sesion &sesion, Revision &revision);
+void RevisaIdiomas(const Sesion &sesion, Revision &revision);
+
+// What was counted of a pair.
+struct Cuenta {
+    qsizetype listados = 0;
+    qsizetype otraExtension = 0;
+    qsizetype filtrados = 0;
+    qsizetype otroTipo = 0;
+    qsizetype sinCaptura = 0;
+};
+
+// Of one pair: program, directories, list.
+Cuenta RevisaPareja(Sesion &sesion, const Pareja &pareja, Revision &revision);
+
+// Of the captures of these pairs; a directory that pairs share is told of once, and none of its captures is
+// alone that fits a game of any of them.
+void RevisaCapturas(Sesion &sesion, const std::vector<Pareja> &parejas, Revision &revision);
+
+// A text file of the program directory.
+QString TextoDelPrograma(const QString &fichero);
+
+// The names of the systems of the catalogue and of the database.
+QStringList SistemasConocidos();
+
+// A change of a text file that has one answer only.
+struct Remiendo {
+    QString fichero;
+    std::function<QString(const QString &)> cambio;
+};
+std::vector<Remiendo> Remiendos();
+
+} // namespace companion

@@ -1,0 +1,105 @@
+#include "core/remiendos.h"
+
+#include "core/bloques.h"
+#include "core/lineas.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace core {
+
+namespace {
+
+constexpr int LargoDeCierre = 70;
+
+QString conLineas(const QString &texto, const std::vector<SinCierre> &huecos, const QString &cierre)
+{
+    if (huecos.empty())
+        return texto;
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    Copia copia;
+    for (size_t i = 0; i <= lineas.size(); ++i) {
+        if (std::ranges::any_of(huecos, [i](const SinCierre &hueco) { return hueco.fin == i; }))
+            copia.Nueva(cierre);
+        if (i < lineas.size())
+            copia.Copiar(lineas[i]);
+    }
+    return copia.Texto();
+}
+
+} // namespace
+
+std::vector<SinCierre> BloquesSinCierre(const QString &texto)
+{
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    std::vector<SinCierre> huecos;
+    for (size_t i = 0; i < lineas.size(); ++i) {
+        if (!lineas[i].linea.startsWith(u'-'))
+            continue;
+        for (const Bloque &bloque : BloquesDe(lineas, lineas[i].linea)) {
+            if (bloque.inicio == i && !bloque.cerrado)
+                huecos.push_back({ i, bloque.fin });
+        }
+    }
+    return huecos;
+}
+
+QString ConBloquesCerrados(const QString &texto)
+{
+    return conLineas(texto, BloquesSinCierre(texto), u'\'' + QString(LargoDeCierre, u'-'));
+}
+
+bool TieneMarcaFinal(const QString &texto)
+{
+    bool marca = false;
+    for (const LineaConFin &linea : EnLineas(texto)) {
+        if (linea.linea.startsWith(u'-'))
+            marca = false;
+        else if (linea.linea.startsWith(u'['))
+            marca = true;
+    }
+    return marca;
+}
+
+QString ConMarcaFinal(const QString &texto)
+{
+    if (TieneMarcaFinal(texto))
+        return texto;
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    Copia copia;
+    copia.Copiar(lineas, 0, lineas.size());
+    copia.Nueva(u"[EOF]"_s);
+    return copia.Texto();
+}
+
+std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &sistemas)
+{
+    const QSet<QString> nombres(sistemas.begin(), sistemas.end());
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    std::vector<SinCierre> huecos;
+    std::optional<size_t> abierto;
+    for (size_t i = 0; i < lineas.size(); ++i) {
+        const QStringView linea = lineas[i].linea;
+        const bool cabecera = nombres.contains(linea.toString());
+        if (abierto && (cabecera || linea.startsWith(u'[')))
+            huecos.push_back({ *abierto, i });
+        if (linea.startsWith(u'['))
+            break;
+        if (cabecera)
+            abierto = i;
+        else if (linea == u"'")
+            abierto.reset();
+    }
+    return huecos;
+}
+
+QString ConNotasCerradas(const QString &texto, const QStringList &sistemas)
+{
+    return conLineas(texto, NotasSinCierre(texto, sistemas), u"'"_s);
+}
+
+} // namespace core

@@ -1,0 +1,30 @@
+// Repairs of the text files, from text to text: each of what has one answer only. A text that lacks nothing
+// comes back as it is.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace core {
+
+// Indices of lines.
+struct SinCierre {
+    size_t inicio = 0; // of the block
+    size_t fin = 0; // ahead of which its closing line is missing
+};
+
+// The systems of a catalogue whose block has no closing line, and the text with it.
+std::vector<SinCierre> BloquesSinCierre(const QString &texto);
+QString ConBloquesCerrados(const QString &texto);
+
+// Whether a line that begins with "[" ends the systems of a catalogue, and the text with one.
+bool TieneMarcaFinal(const QString &texto);
+QString ConMarcaFinal(const QString &texto);
+
+// The systems of these names whose notes run into the next one's, as their closing apostrophe is missing.
+std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &sistemas);
+QString ConNotasCerradas(const QString &texto, const QStringList &sistemas);
+
+} // namespace core

@@ -1,0 +1,258 @@
+// zembro check.
+#include "mesadepruebas.h"
+
+#include "companion/clasedeprograma.h"
+#include "companion/diferencia.h"
+#include "companion/eleccion.h"
+
+#include "core/textos.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+namespace {
+
+class Check : public MesaConJuegos {
+protected:
+    Check()
+    {
+        Pon(u"Zembro.sye"_s, "-Sis\r\n*.NES\r\n'\r\n+Uno\r\n'------\r\n[EOF]\r\n");
+        QByteArray idioma;
+        for (const core::ClaveDeTexto &clave : core::ClavesDeTexto())
+            idioma += clave.nombre.toString().leftJustified(core::AnchoClave, u'.').toUtf8() + "=\"x \"\r\n";
+        Pon(u"LNG/ZB-ENG.LNG"_s, idioma);
+        Pon(u"img/Sonic.gif"_s, "GIF89a");
+    }
+
+    QStringList clases(const QStringList &argumentos = { u"check"_s }) const
+    {
+        const Respuesta respuesta = Zembro(argumentos + QStringList { u"--json"_s });
+        QStringList todas;
+        for (const QJsonValue &uno : QJsonDocument::fromJson(respuesta.salida)[u"findings"_s].toArray())
+            todas += uno[u"kind"_s].toString();
+        EXPECT_EQ(respuesta.estado, todas.isEmpty() ? companion::Bien : companion::Hallazgos);
+        return todas;
+    }
+    QByteArray dicho() const { return Zembro({ u"check"_s }).salida; }
+};
+
+} // namespace
+
+TEST_F(Check, WhatIsInOrderIsNoFinding_AndIsCounted)
+{
+    EXPECT_THAT(clases(), IsEmpty());
+    EXPECT_EQ(dicho(),
+        "Sis / Dos: 1 listed, 0 of another kind, 0 left out by the filters, 0 without a capture.\n"
+        "Sis / Uno: 3 listed, 1 of another kind, 0 left out by the filters, 2 without a capture.\n");
+}
+
+TEST_F(Check, AMistypedExecutableIsSaid_WithTheOneThatIsMeant)
+{
+    Cambia(u"Zembro.emu"_s, "emu/uno.sh", "emu/unno.sh");
+    EXPECT_THAT(
+        clases({ u"check"_s, u"Sis"_s, u"Uno"_s }), ElementsAre(u"no-program"_s, u"similar-program"_s));
+    EXPECT_TRUE(
+        dicho().contains("Sis / Uno: Perhaps this one is meant: " + Ruta(u"emu/uno.sh"_s).toUtf8() + '\n'))
+        << dicho().toStdString();
+}
+
+TEST_F(Check, AProgramThatMayNotRunOrIsOfAnotherSystemIsSaid)
+{
+    QFile::setPermissions(Ruta(u"emu/uno.sh"_s), QFile::ReadOwner | QFile::WriteOwner);
+    EXPECT_THAT(clases({ u"check"_s, u"Sis"_s, u"Uno"_s }), ElementsAre(u"not-executable"_s));
+    Pon(u"emu/uno.sh"_s, "MZ a program");
+    QFile::setPermissions(Ruta(u"emu/uno.sh"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_THAT(clases({ u"check"_s, u"Sis"_s, u"Uno"_s }), ElementsAre(u"foreign-program"_s));
+    EXPECT_TRUE(dicho().contains("DOS or Windows"));
+}
+
+TEST_F(Check, ABlockWithoutItsClosingLineIsSaid_WithItsLine)
+{
+    Cambia(u"Zembro.emu"_s, "'------\r\n", "");
+    EXPECT_THAT(clases(), ElementsAre(u"block-without-end"_s));
+    EXPECT_TRUE(dicho().startsWith("Zembro.emu:1: The block of Sis has no closing line"))
+        << dicho().toStdString();
+}
+
+TEST_F(Check, AMissingMarkIsSaid)
+{
+    Cambia(u"Zembro.emu"_s, "[EOF]\r\n", "");
+    EXPECT_THAT(clases(), ElementsAre(u"missing-mark"_s));
+}
+
+TEST_F(Check, MendShowsWhatItWouldDo_AndWritesItWhereItIsTold)
+{
+    const QByteArray antes = Bytes(u"Zembro.emu"_s);
+    const QByteArray cierre = "'" + QByteArray(70, '-') + "\r\n";
+    const QByteArray entero = QByteArray(antes).replace("'------\r\n", cierre);
+    Cambia(u"Zembro.emu"_s, "'------\r\n[EOF]\r\n", "");
+    const QByteArray roto = Bytes(u"Zembro.emu"_s);
+    const Respuesta muestra = Zembro({ u"check"_s, u"--mend"_s });
+    EXPECT_EQ(muestra.estado, companion::Hallazgos);
+    EXPECT_TRUE(muestra.salida.startsWith("--- Zembro.emu\n+++ Zembro.emu\n@@ -"))
+        << muestra.salida.toStdString();
+    EXPECT_TRUE(muestra.salida.endsWith("\n+'" + QByteArray(70, '-') + "\n+[EOF]\n"))
+        << muestra.salida.toStdString();
+    EXPECT_EQ(Bytes(u"Zembro.emu"_s), roto);
+    EXPECT_EQ(Zembro({ u"check"_s, u"--mend"_s, u"--write"_s }).estado, companion::Bien);
+    EXPECT_EQ(Bytes(u"Zembro.emu"_s), entero);
+    EXPECT_THAT(clases(), IsEmpty());
+    EXPECT_EQ(Zembro({ u"check"_s, u"--mend"_s }).salida, "");
+    EXPECT_FALSE(QFile::exists(Ruta(u"Zembro.tmp"_s)));
+}
+
+TEST_F(Check, NotesThatRunIntoTheNextSystemsAreSaid_AndMended)
+{
+    Pon(u"Zembro.sye"_s, "-Sis\r\n'\r\n+Uno\r\n'------\r\n-Otro\r\n'\r\n'-----\r\n[EOF]\r\n");
+    const QByteArray entero =
+        "Sis\r\nMARIO.NES,\"Super Mario\"\r\n'\r\nOtro\r\n'\r\n[EOF]\r\nParametros especificos\r\n'\r\n";
+    Pon(u"Zembro.rom"_s, QByteArray(entero).replace("Mario\"\r\n'\r\n", "Mario\"\r\n"));
+    EXPECT_THAT(clases(), testing::Contains(u"block-without-end"_s));
+    EXPECT_EQ(Zembro({ u"check"_s, u"--mend"_s, u"--write"_s }).estado, companion::Bien);
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), entero);
+    EXPECT_THAT(clases(), IsEmpty());
+}
+
+TEST_F(Check, ASystemWithoutNotesIsSaid_AndMended)
+{
+    Cambia(u"Zembro.rom"_s, "Sis\r\nMARIO.NES,\"Super Mario\"\r\n'\r\n", "");
+    EXPECT_THAT(clases(), testing::Contains(u"system-without-notes"_s));
+    Zembro({ u"check"_s, u"--mend"_s, u"--write"_s });
+    EXPECT_THAT(clases({ u"check"_s, u"Sis"_s, u"Uno"_s }), IsEmpty());
+    EXPECT_TRUE(Bytes(u"Zembro.rom"_s).contains("Sis\r\n'\r\n"));
+}
+
+TEST_F(Check, RecordsThatACommaCuts_TwiceTheSameName_AndNotesWithoutAFileAreSaid)
+{
+    Cambia(u"Zembro.rom"_s, "Super Mario\"\r\n",
+        "Super Mario\"\r\nZELDA.NES,Zelda, The\r\nmario.nes,\"x\"\r\nGONE.NES,\"Gone\"\r\n");
+    const QByteArray todo = dicho();
+    EXPECT_TRUE(todo.contains("Zembro.rom:3: This record has another number of fields"))
+        << todo.toStdString();
+    EXPECT_TRUE(todo.contains("Zembro.rom:4: This name stands twice")) << todo.toStdString();
+    EXPECT_TRUE(todo.contains("Zembro.rom:5: The note GONE.NES has no file any more")) << todo.toStdString();
+}
+
+TEST_F(Check, LinesThatNobodyReads_AndNamesThatStandTwiceAreSaid)
+{
+    Cambia(u"Zembro.emu"_s, "+Dos\r\n", "EXXE=/x\r\n+uno\r\n");
+    const QStringList suyas = clases();
+    EXPECT_TRUE(suyas.contains(u"unread-line"_s));
+    EXPECT_TRUE(suyas.contains(u"name-twice"_s));
+    EXPECT_TRUE(
+        dicho().startsWith("Zembro.emu:14: No reader takes this line; correct or remove it: EXXE=/x\n"))
+        << dicho().toStdString();
+}
+
+TEST_F(Check, CapturesOfAnotherSpellingOrOfNoGameAreSaid)
+{
+    Pon(u"img/Zelda II (Europe).gif"_s, "GIF89a");
+    Pon(u"img/Luigi.gif"_s, "GIF89a");
+    const QByteArray todo = Zembro({ u"check"_s, u"Sis"_s, u"Uno"_s }).salida;
+    EXPECT_TRUE(todo.contains("The capture Zelda II (Europe).gif would be found as ZELDA II.GIF.\n"))
+        << todo.toStdString();
+    EXPECT_TRUE(todo.contains("The capture Luigi.gif fits no game.\n")) << todo.toStdString();
+}
+
+TEST_F(Check, SettingsOutOfRangeAreSaid)
+{
+    Cambia(u"Zembro.cfg"_s, "DebugMode = 0", "DebugMode = 7");
+    EXPECT_THAT(clases(), ElementsAre(u"setting-out-of-range"_s));
+    EXPECT_TRUE(dicho().startsWith("Zembro.cfg:18: ")) << dicho().toStdString();
+}
+
+TEST_F(Check, KeysShortLinesAndLostBlanksOfLanguagesAreSaid)
+{
+    Cambia(u"LNG/ZB-ENG.LNG"_s, "TXT_Grabar........=\"x \"\r\n", "TXT\r\n");
+    Cambia(u"LNG/ZB-ENG.LNG"_s, "Msg_BorrarEmu1....=\"x \"", "Msg_BorrarEmu1....=\"x\"");
+    EXPECT_THAT(clases(), UnorderedElementsAre(u"short-line"_s, u"missing-key"_s, u"lost-blank"_s));
+}
+
+TEST_F(Check, ParametersThatNoLaunchFindsAreSaid)
+{
+    Cambia(u"Zembro.rom"_s, "especificos\r\n",
+        "especificos\r\nZelda II.nes,Sis,Uno,-a\r\nZELDA.NES,Sis,Uno,-a\r\nx,y\r\n");
+    EXPECT_THAT(clases(), ElementsAre(u"lost-parameters"_s, u"cut-record"_s));
+    EXPECT_TRUE(dicho().startsWith("Zembro.rom:8: The parameters of Zelda II.nes are never found"))
+        << dicho().toStdString();
+}
+
+TEST_F(Check, ExtensionsThatFitNothingOrTwiceAreSaid)
+{
+    Cambia(u"Zembro.emu"_s, "*.NES", "*.NES\r\n*.ES\r\n*.LONG");
+    const QStringList suyas = clases();
+    EXPECT_EQ(suyas.count(u"long-extension"_s), 1);
+    EXPECT_EQ(suyas.count(u"listed-twice"_s), 3);
+}
+
+TEST_F(Check, AMachineWithoutItsROMsIsSaid)
+{
+    PonGuion(u"emu/mame"_s, "[ \"$1\" = -verifyroms ] && [ \"$2\" = a2600 ]\n");
+    Cambia(u"Zembro.emu"_s, "emu/uno.sh\r\nXDI=NO.0", "emu/mame\r\nXDI=NO.0");
+    Cambia(u"Zembro.emu"_s, "PAR1=-a", "PAR1=A7800 -cart");
+    EXPECT_THAT(clases({ u"check"_s, u"Sis"_s, u"Uno"_s }), ElementsAre(u"machine-without-roms"_s));
+    Cambia(u"Zembro.emu"_s, "PAR1=A7800 -cart", "PAR1=A2600 -cart");
+    EXPECT_THAT(clases({ u"check"_s, u"Sis"_s, u"Uno"_s }), IsEmpty());
+}
+
+TEST_F(Check, FilesOfAnyBytesAreLookedAtToTheEnd)
+{
+    const QByteArray bytes = BytesSinOrden();
+    for (const QString &fichero :
+        { u"Zembro.emu"_s, u"Zembro.sye"_s, u"Zembro.rom"_s, u"Zembro.cfg"_s, u"LNG/ZB-ENG.LNG"_s }) {
+        const QByteArray antes = Bytes(fichero);
+        Pon(fichero, bytes);
+        const Respuesta respuesta = Zembro({ u"check"_s });
+        EXPECT_EQ(respuesta.estado, companion::Hallazgos)
+            << fichero.toStdString() << respuesta.error.toStdString();
+        EXPECT_FALSE(respuesta.salida.contains('\x1b'));
+        Zembro({ u"check"_s, u"--mend"_s });
+        Pon(fichero, antes);
+        Borra(fichero);
+        EXPECT_NE(Zembro({ u"check"_s }).estado, companion::Bien) << fichero.toStdString();
+        Pon(fichero, antes);
+    }
+}
+
+TEST(ClaseDePrograma, IsToldByTheFirstBytes)
+{
+    using companion::ClaseDePrograma;
+    const QByteArray propia = QByteArray("\x7f"
+                                         "ELF\x02\x01\x01",
+                                  7)
+        + QByteArray(9, '\0') + QByteArray("\x02\x00\x3e\x00", 4);
+    QByteArray otra = propia;
+    otra[18] = '\x28';
+    EXPECT_EQ(companion::ClasePorBytes(propia, propia), ClaseDePrograma::DeEstaMaquina);
+    EXPECT_EQ(companion::ClasePorBytes(otra, propia), ClaseDePrograma::OtraMaquina);
+    EXPECT_EQ(companion::ClasePorBytes("#!/bin/sh\n", propia), ClaseDePrograma::DeEstaMaquina);
+    EXPECT_EQ(companion::ClasePorBytes("MZ\x90", propia), ClaseDePrograma::DOSoWindows);
+    EXPECT_EQ(companion::ClasePorBytes("\x7f"
+                                       "EL",
+                  propia),
+        ClaseDePrograma::Desconocida);
+    EXPECT_EQ(companion::ClasePorBytes("", propia), ClaseDePrograma::Desconocida);
+}
+
+TEST(MasParecido, IsTheNameThatDiffersLeast)
+{
+    EXPECT_EQ(companion::MasParecido({ u"stella"_s, u"stelo"_s }, u"Stela"_s), u"stella"_s);
+    EXPECT_EQ(companion::MasParecido({ u"mame"_s }, u"stella"_s), QString());
+    EXPECT_EQ(companion::MasParecido({ u"ab"_s }, QString()), QString());
+}
+
+TEST(Diferencia, ShowsWhatChangesWithThreeLinesAround)
+{
+    EXPECT_EQ(companion::Diferencia(u"f"_s, u"1\n2\n3\n4\n5\n6\n7\n8\n"_s, u"1\n2\n3\n4\nx\n6\n7\n8\n"_s),
+        QStringList({ u"--- f"_s, u"+++ f"_s, u"@@ -2,7 +2,7 @@"_s, u" 2"_s, u" 3"_s, u" 4"_s, u"-5"_s,
+            u"+x"_s, u" 6"_s, u" 7"_s, u" 8"_s }));
+    EXPECT_EQ(companion::Diferencia(u"f"_s, u"a\r\n"_s, u"a\r\n"_s), QStringList());
+    EXPECT_EQ(companion::Diferencia(u"f"_s, QString(), u"a\n"_s),
+        QStringList({ u"--- f"_s, u"+++ f"_s, u"@@ -0,0 +1,1 @@"_s, u"+a"_s }));
+}
