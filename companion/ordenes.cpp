@@ -2,6 +2,7 @@
 
 #include "companion/ayuda.h"
 #include "companion/dicho.h"
+#include "companion/encuentra.h"
 #include "companion/jugada.h"
 #include "companion/lista.h"
 #include "companion/porque.h"
@@ -18,6 +19,7 @@ std::span<const Orden *const> Ordenes()
         &OrdenDicha(),
         &OrdenJugada(),
         &OrdenPorque(),
+        &OrdenEncuentra(),
         &OrdenLista(),
         &OrdenAyuda(),
     };

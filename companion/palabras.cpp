@@ -47,6 +47,9 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_MismaDesc", &P::Zbo_MismaDesc }, { u"Zbo_SinCapturas", &P::Zbo_SinCapturas },
         { u"Zbo_CapturaSola", &P::Zbo_CapturaSola }, { u"Zbo_CapturaMal", &P::Zbo_CapturaMal },
         { u"Zbo_Cuenta", &P::Zbo_Cuenta }, { u"Zbo_ParPerdidos", &P::Zbo_ParPerdidos },
+        { u"Zbo_Find", &P::Zbo_Find }, { u"Zbo_OpAll", &P::Zbo_OpAll },
+        { u"Zbo_Configurado", &P::Zbo_Configurado }, { u"Zbo_Reinicia", &P::Zbo_Reinicia },
+        { u"Zbo_NadaMas", &P::Zbo_NadaMas }, { u"Zbo_NadaNuevo", &P::Zbo_NadaNuevo },
         // Bulk work.
     };
     return claves;

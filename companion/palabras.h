@@ -112,6 +112,16 @@ struct Palabras {
         "%1 / %2: %3 listed, %4 of another kind, %5 left out by the filters, %6 without a capture.");
     QString Zbo_ParPerdidos = QStringLiteral("The parameters of %1 are never found: its name has blanks or "
                                              "several points, so it needs a description.");
+
+    // Finding emulators.
+    QString Zbo_Find = QStringLiteral("finds the emulators that this machine has got since");
+    QString Zbo_OpAll = QStringLiteral("also of systems without games, and every machine of MAME");
+    QString Zbo_Configurado = QStringLiteral("Configured %1: %2, %3");
+    QString Zbo_Reinicia = QStringLiteral("The program shows them at its next start. If it was open "
+                                          "meanwhile, it may begin with another pair selected.");
+    QString Zbo_NadaMas = QStringLiteral("Nothing to add: every emulator that was found is configured.");
+    QString Zbo_NadaNuevo = QStringLiteral(
+        "Nothing to add. Put games into a directory of %1, and try again; --all doesn't ask for games.");
     // Bulk work.
 };
 

@@ -3,6 +3,7 @@
 #include "finder/eleccion.h"
 #include "finder/incorporacion.h"
 #include "finder/juegos.h"
+#include "finder/pistas.h"
 #include "finder/preparacion.h"
 
 #include "core/ajustes.h"
@@ -36,7 +37,7 @@ class Trabajo {
 public:
     explicit Trabajo(const Encargo &encargo)
         : m_encargo(encargo)
-        , m_fichas(LeeFichas(textoDe(encargo.tabla)))
+        , m_fichas(LeeFichas(encargo.tabla.isEmpty() ? TablaDelPrograma() : textoDe(encargo.tabla)))
     {
         LeeTablas(*m_base, textoDe(encargo.directorio + u"/Zembro.sye"_s));
     }
@@ -92,10 +93,12 @@ QString Trabajo::CatalogoCon(const QString &texto)
     leeCatalogo(*m_despues, incorporacion.texto);
     for (const Descarte &descarte : incorporacion.descartados)
         avisaDeDescarte(descarte);
-    for (const Hallazgo &hallazgo : m_enLaMaquina)
-        PreparaJuegos(hallazgo);
-    for (const Hallazgo &hallazgo : incorporacion.puestos)
-        Prepara(hallazgo);
+    if (!m_encargo.ensayo) {
+        for (const Hallazgo &hallazgo : m_enLaMaquina)
+            PreparaJuegos(hallazgo);
+        for (const Hallazgo &hallazgo : incorporacion.puestos)
+            Prepara(hallazgo);
+    }
     resultado.puestos = std::move(incorporacion.puestos);
     return incorporacion.texto;
 }
@@ -199,6 +202,10 @@ void Trabajo::ConservaSeleccion()
 Resultado Configura(const Encargo &encargo)
 {
     Trabajo trabajo(encargo);
+    if (encargo.ensayo) {
+        trabajo.resultado.catalogo = trabajo.CatalogoCon(textoDe(encargo.directorio + u"/Zembro.emu"_s));
+        return std::move(trabajo.resultado);
+    }
     const bool nuevo = !encargo.catalogo.isEmpty();
     host::NumberedFiles().rewrite(nuevo ? encargo.catalogo : encargo.directorio + u"/Zembro.emu"_s, Borrador,
         [&trabajo](const QString &texto) { return trabajo.CatalogoCon(texto); });

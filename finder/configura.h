@@ -6,14 +6,17 @@
 namespace finder {
 
 struct Encargo {
-    QString tabla;
+    QString tabla; // empty for the one that the program brings
     QString directorio; // of the program
     QString catalogo; // a new one, which isn't in its place yet; empty for the one in the directory
     bool todo = false; // also systems without games, and every machine of MAME
+    bool ensayo =
+        false; // writes nothing and makes nothing: only tells what it would add to the one in the directory
 };
 
 struct Resultado {
     std::vector<Hallazgo> puestos;
+    QString catalogo; // the text that it would be, in a rehearsal
     QStringList avisos; // what wasn't done, in English, one line each
 };
 

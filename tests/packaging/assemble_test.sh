@@ -1,7 +1,8 @@
 #!/bin/bash
-# Assembling a program directory: assemble_test.sh FINDER. New, again, from a newer build, over what a user changed.
+# Assembling a program directory: assemble_test.sh FINDER ZEMBRO. New, again, from a newer build, over what a user changed.
 set -u
 finder=$1
+zembro=$2
 assemble=$(dirname "$0")/../../packaging/assemble.sh
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -15,10 +16,12 @@ program="$work/My Programs/zembrolix"
 make_build() { # version
     local name
     mkdir -p "$build"/{converter,companion,finder,data/beside/LNG,data/demo/games}
-    for name in Zembrolix converter/Cvtgif15.exe companion/zembro; do
+    for name in Zembrolix converter/Cvtgif15.exe; do
         printf '#!/bin/sh\necho %s\n' "$1" >"$build/$name"
     done
     cp "$finder" "$build/finder/BuscaEmuladores"
+    printf '#!/bin/sh\n# %s\nexec "%s" "$@"\n' "$1" "$zembro" >"$build/companion/zembro"
+    chmod +x "$build/companion/zembro"
     for name in Zembro.cfg Zembro.txt Zembro.faq Zembro.rom LNG/ZB-ESP.LNG; do
         printf '%s %s\r\n' "$name" "$1" >"$build/data/beside/$name"
     done

@@ -1,0 +1,58 @@
+// zembro find, with the machine's programs in a directory of its own.
+#include "mesadepruebas.h"
+
+#include <QFile>
+#include <QJsonArray>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Find : public MesaConJuegos {
+protected:
+    Find()
+        : m_camino(qgetenv("PATH"))
+    {
+        qputenv("PATH", Ruta(u"bin"_s).toUtf8());
+        qputenv("HOME", Ruta(u"home"_s).toUtf8());
+        Pon(u"Zembro.sye"_s,
+            "-Jaguar\r\nWEB1=\r\n*.ZIP\r\n*.J64\r\n'\r\n+BigPEmu\r\nWEB2=\r\n'------\r\n[EOF]\r\n");
+        PonGuion(u"bin/bigpemu"_s, "exit 0\n");
+    }
+    ~Find() override { qputenv("PATH", m_camino); }
+
+private:
+    QByteArray m_camino;
+};
+
+} // namespace
+
+TEST_F(Find, ShowsWhatItWouldAdd_AndWritesItWhereItIsTold)
+{
+    const QByteArray antes = Bytes(u"Zembro.emu"_s);
+    const Respuesta muestra = Zembro({ u"find"_s, u"--all"_s });
+    EXPECT_EQ(muestra.estado, companion::Hallazgos);
+    EXPECT_TRUE(muestra.salida.contains("\n+-Jaguar\n")) << muestra.salida.toStdString();
+    EXPECT_EQ(Bytes(u"Zembro.emu"_s), antes);
+    EXPECT_FALSE(QFile::exists(Ruta(u"roms/Jaguar"_s)));
+    const Respuesta escrito = Zembro({ u"find"_s, u"--all"_s, u"--write"_s });
+    EXPECT_EQ(escrito.estado, companion::Bien);
+    EXPECT_TRUE(
+        escrito.salida.startsWith("Configured Jaguar: BigPEmu, " + Ruta(u"bin/bigpemu"_s).toUtf8() + '\n'));
+    EXPECT_TRUE(Bytes(u"Zembro.emu"_s).contains("-Jaguar\r\n"));
+    EXPECT_TRUE(QFile::exists(Ruta(u"roms/Jaguar"_s)));
+    const Respuesta otra = Zembro({ u"find"_s, u"--all"_s, u"--write"_s });
+    EXPECT_EQ(otra.salida, "Nothing to add: every emulator that was found is configured.\n");
+}
+
+TEST_F(Find, WithoutGamesItSaysWhereToPutThem)
+{
+    const Respuesta respuesta = Zembro({ u"find"_s });
+    EXPECT_EQ(respuesta.estado, companion::Bien);
+    EXPECT_TRUE(respuesta.salida.startsWith(
+        "Nothing to add. Put games into a directory of " + Ruta(u"roms,"_s).toUtf8()));
+    Pon(u"roms/Jaguar/Game.j64"_s, "x");
+    const QJsonObject json = Json({ u"find"_s }, companion::Hallazgos);
+    EXPECT_EQ(json[u"written"_s].toBool(), false);
+    EXPECT_EQ(json[u"found"_s][0][u"emulator"_s].toString(), u"BigPEmu"_s);
+}
