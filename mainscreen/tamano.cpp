@@ -39,7 +39,9 @@ void Portada::ConectaTamano()
 
 void Portada::PideTamano(bool mayor)
 {
-    const QPoint junto = Titulo1->mapToGlobal(QPoint(0, Titulo1->height()));
+    // A tip that comes up under the pointer goes at once.
+    const bool enTitulo = Titulo1->rect().contains(Titulo1->mapFromGlobal(QCursor::pos()));
+    const QPoint junto = Titulo1->mapToGlobal(QPoint(0, enTitulo ? Titulo1->height() : 0));
     // What the user has set there holds at the next start too.
     if (!host::rememberedVariable("QT_SCALE_FACTOR").value_or(QByteArray()).isEmpty()) {
         QToolTip::showText(junto, forms::asTip(M.Palabras.Zem_NoTamano), Titulo1);

@@ -46,6 +46,23 @@ TEST_F(TamanoTest, SizeOfTheNextStartIsPickedByKeys)
     EXPECT_EQ(portada->devicePixelRatioF(), shown);
 }
 
+TEST_F(TamanoTest, TipOfTheSizeDoesNotComeUpUnderThePointer)
+{
+    startAt(Zeta, 0);
+    for (int y = 10; y < 100; y += 10) {
+        QCursor::setPos(portada->mapToGlobal(QPoint(150, y)));
+        strike(*portada, Qt::Key_Plus, Qt::ControlModifier);
+        int tips = 0;
+        for (const QWidget *window : QApplication::topLevelWidgets()) {
+            if (window->isVisible() && window->inherits("QTipLabel")) {
+                ++tips;
+                EXPECT_FALSE(window->frameGeometry().contains(QCursor::pos())) << y;
+            }
+        }
+        EXPECT_EQ(tips, 1) << y;
+    }
+}
+
 TEST_F(TamanoTest, SizeGrowsByTheKeyOfPlusWithoutShift_AndByTheKeypad)
 {
     startAt(Zeta, 0);
