@@ -108,7 +108,8 @@ void TextBox::keyPressEvent(QKeyEvent *event)
 // Of a box with a text, assistive programs would take it for the description.
 void TextBox::showHint()
 {
-    setPlaceholderText(text().isEmpty() ? m_hint : QString());
+    setPlaceholderText(
+        text().isEmpty() ? fontMetrics().elidedText(shownPart(m_hint), Qt::ElideMiddle, room()) : QString());
 }
 
 void TextBox::showTip()
@@ -124,13 +125,17 @@ void TextBox::showTip()
     m_tells = !lines.isEmpty();
 }
 
-bool TextBox::fits(const QString &text) const
+int TextBox::room() const
 {
     constexpr int inset = 2; // pixels that a line leaves free at each end
     QStyleOptionFrame frame;
     initStyleOption(&frame);
-    const QRect room = style()->subElementRect(QStyle::SE_LineEditContents, &frame, this);
-    return fontMetrics().horizontalAdvance(shownPart(text)) <= room.width() - 2 * inset;
+    return style()->subElementRect(QStyle::SE_LineEditContents, &frame, this).width() - 2 * inset;
+}
+
+bool TextBox::fits(const QString &text) const
+{
+    return fontMetrics().horizontalAdvance(shownPart(text)) <= room();
 }
 
 TextArea::TextArea(QWidget *parent)

@@ -21,8 +21,9 @@ public:
     void SetText(const QString &value);
     void SetTip(); // from now on a text too wide for the box shows in full under the pointer
 
-    // Shows in the empty box, in grey, what Ctrl+Space takes over; it is no text of the box. The words tell
-    // so in its tip. An empty hint is none.
+    // Shows in the empty box, in grey, what Ctrl+Space takes over; it is no text of the box. One too wide is
+    // shortened in its middle. The words tell of it in the tip. An empty hint is none.
+    QString Hint() const { return m_hint; }
     void SetHint(const QString &hint, const QString &words);
     // Of the text that stands there now: its letters in red, and in its tip why. Empty words take that back.
     void SetFault(const QString &words);
@@ -33,6 +34,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    int room() const; // pixels for letters
     bool fits(const QString &text) const;
     void showHint();
     void showTip();

@@ -45,6 +45,8 @@ void Configuracion2::MiraRutas()
 
 void Configuracion2::MiraRuta(forms::TextBox &casilla)
 {
+    if (!m_conocido)
+        return; // all of them are looked at when it is about to show
     const QString ruta = casilla.Text();
     const bool falta = &casilla == Casilla1 ? core::FaltaEjecutable(ruta) : core::FaltaDirectorio(ruta);
     casilla.SetFault(falta ? M.Palabras.Zem_NoEsta : QString());

@@ -92,6 +92,20 @@ TEST_F(TellingTextBoxes, AHintIsTakenOverByItsKeyAloneAndIntoAnEmptyBoxAlone)
     EXPECT_EQ(box.Text(), QString());
 }
 
+// Of a path the beginning and the end tell which it is.
+TEST_F(TellingTextBoxes, AHintTooWideIsShortenedInItsMiddleAndTakenOverWhole)
+{
+    const QString wide = u"/begin/"_s + QString(60, u'm') + u"/end/"_s;
+    box.SetHint(wide, u"words"_s);
+    const QString shown = box.placeholderText();
+    EXPECT_TRUE(shown.startsWith(u"/begin") && shown.contains(u'…') && shown.endsWith(u"/end/"))
+        << shown.toStdString();
+    EXPECT_LE(box.fontMetrics().horizontalAdvance(shown), box.width());
+    takeOver();
+    EXPECT_EQ(box.Text(), wide);
+    EXPECT_EQ(box.placeholderText(), QString());
+}
+
 TEST_F(TellingTextBoxes, AHintSaysItsWordsWhileTheBoxIsEmpty)
 {
     box.SetHint(u"<b>"_s, u"Ctrl+Space: <b>"_s);

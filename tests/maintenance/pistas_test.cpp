@@ -38,7 +38,7 @@ protected:
     {
         QStringList hints;
         for (const QString &name : Boxes)
-            hints += box(form, name).placeholderText();
+            hints += box(form, name).Hint();
         return hints;
     }
     static QStringList texts(const forms::Form &form)
