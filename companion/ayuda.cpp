@@ -1,5 +1,6 @@
 #include "companion/ayuda.h"
 
+#include "companion/completado.h"
 #include "companion/ordenes.h"
 #include "companion/sesion.h"
 
@@ -17,8 +18,28 @@ QJsonObject enJson(const Orden &orden, const Palabras &palabras)
         { u"help"_s, palabras.*orden.ayuda } };
 }
 
+// As it stands: scripts of ours hold nothing that a terminal obeys.
+int completado(Sesion &sesion)
+{
+    static const struct {
+        QString nombre;
+        QString (*texto)();
+    } clases[] = { { u"bash"_s, ParaBash }, { u"zsh"_s, ParaZsh }, { u"fish"_s, ParaFish },
+        { u"man"_s, PaginaMan } };
+    const QString pedida = sesion.Valor(u"completion"_s);
+    for (const auto &clase : clases) {
+        if (clase.nombre != pedida)
+            continue;
+        sesion.Escribe(clase.texto().chopped(1).split(u'\n'));
+        return Bien;
+    }
+    return sesion.Falla(sesion.palabras.Zbo_Uso.arg(u"zembro help --completion bash|zsh|fish|man"_s));
+}
+
 int ayuda(Sesion &sesion)
 {
+    if (sesion.Tiene(u"completion"_s))
+        return completado(sesion);
     const QString nombre = sesion.Argumento(0);
     const Orden *orden = OrdenDe(nombre);
     if (!nombre.isEmpty() && !orden)
@@ -39,7 +60,8 @@ int ayuda(Sesion &sesion)
 
 const Orden &OrdenAyuda()
 {
-    static const Orden orden { u"help"_s, u"[COMMAND]"_s, &Palabras::Zbo_Help, {}, ayuda };
+    static const Orden orden { u"help"_s, u"[COMMAND]"_s, &Palabras::Zbo_Help,
+        { { u"completion"_s, u"KIND"_s, &Palabras::Zbo_OpCompletion } }, ayuda };
     return orden;
 }
 

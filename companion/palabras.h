@@ -122,6 +122,8 @@ struct Palabras {
     QString Zbo_NadaMas = QStringLiteral("Nothing to add: every emulator that was found is configured.");
     QString Zbo_NadaNuevo = QStringLiteral(
         "Nothing to add. Put games into a directory of %1, and try again; --all doesn't ask for games.");
+    QString Zbo_OpCompletion =
+        QStringLiteral("prints the completion for bash, zsh or fish, or the page for man");
     // Bulk work.
 };
 

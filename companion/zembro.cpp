@@ -130,14 +130,13 @@ int Zembro(const QStringList &argumentos, const Consola &consola)
     const QString nombre = pedido.argumentos.value(0);
     const Orden *orden = OrdenDe(nombre);
     Lector suyas(conComunes(orden ? orden->opciones : std::vector<Opcion>()));
-    if (orden)
-        suyas.Lee(pedido.argumentos.mid(1), pedido);
+    suyas.Lee(pedido.argumentos.mid(1), pedido);
 
     const bool hayDirectorio = VaAlDirectorio(pedido);
     const auto M = std::make_unique<core::Modulo>();
     const Palabras palabras = LeeIdioma(*M);
     Sesion sesion(pedido, palabras, *M, consola);
-    const QString error = generales.Error(palabras) + suyas.Error(palabras);
+    const QString error = generales.Error(palabras) + (orden ? suyas.Error(palabras) : QString());
     if (!error.isEmpty())
         return sesion.Falla(error);
     if (sesion.Tiene(OpcionVersion)) {

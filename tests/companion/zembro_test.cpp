@@ -53,7 +53,8 @@ TEST_F(Zembro_, WithoutACommandItTellsOfThem_AndCouldNotRun)
 TEST_F(Zembro_, TellsOfOneCommandInTwoWays)
 {
     const Respuesta respuesta = Zembro({ u"help"_s, u"help"_s });
-    EXPECT_TRUE(respuesta.salida.startsWith("Usage: zembro help [COMMAND] [--directory DIR]"));
+    EXPECT_TRUE(
+        respuesta.salida.startsWith("Usage: zembro help [COMMAND] [--completion KIND] [--directory DIR]"));
     EXPECT_EQ(Zembro({ u"help"_s, u"--help"_s }).salida, respuesta.salida);
     EXPECT_EQ(respuesta.estado, companion::Bien);
 }
@@ -85,7 +86,8 @@ TEST_F(Zembro_, WhatItDoesNotKnowIsSaid_AndNothingIsDone)
         { { u"help"_s, u"-n"_s }, "There is no option -n." },
         { { u"help"_s, u"--directory"_s }, "An option lacks its value." },
         { { u"help"_s, u"--help=yes"_s }, "An option has a value that it doesn't take." },
-        { { u"help"_s, u"a"_s, u"b"_s }, "Usage: zembro help [COMMAND] [--directory DIR] [--json] [--help]" },
+        { { u"help"_s, u"a"_s, u"b"_s },
+            "Usage: zembro help [COMMAND] [--completion KIND] [--directory DIR] [--json] [--help]" },
         { { u"a\x1b[2J%1"_s }, "There is no command a\\x1B[2J%1." },
     };
     for (const auto &fila : filas) {

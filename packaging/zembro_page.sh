@@ -1,0 +1,74 @@
+#!/bin/bash
+# Makes what is told of zembro from zembro itself: zembro_page.sh BUILD. The completions, the page for man, and
+# docs/zembro.md, whose examples are run in a program directory that is assembled and then spoilt.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+build=$1
+for kind in bash:completions/zembro.bash zsh:completions/_zembro fish:completions/zembro.fish man:zembro.1; do
+    "$build/companion/zembro" help --completion "${kind%%:*}" >"packaging/${kind#*:}"
+done
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+packaging/assemble.sh "$build" "$work/zembrolix" >/dev/null
+export XDG_STATE_HOME=$work/state TMPDIR=$work/tmp HOME=$work
+mkdir -p "$work/tmp" "$work/state/zembrolix"
+chmod 700 "$work/tmp"
+cd "$work/zembrolix"
+
+# What each of them answers, with the place of this directory as a user has it.
+example() { # text, arguments
+    printf '\n%s\n\n```\n$ zembro' "$1"
+    shift
+    printf ' %q' "$@"
+    printf '\n'
+    set +e
+    ./zembro "$@" 2>&1 | sed -e "s|$work|/home/me|g" -e "s|, at 20[0-9T:-]*|, at 2026-05-01T20:15:02|"
+    local status=${PIPESTATUS[0]}
+    set -e
+    [ "$status" -eq 0 ] || printf '(status %s)\n' "$status"
+    printf '```\n'
+}
+
+page() {
+    cat <<'END'
+# zembro
+
+`zembro` stands beside the program in its directory. It tells what the program would do and why it did nothing, and does
+in bulk what the screens do one by one. This page is made by `packaging/zembro_page.sh`: each answer below is a true one.
+
+- `--directory DIR` names the program's directory, if `zembro` is called from elsewhere.
+- `--json` gives the answer as JSON; [zembro.schema.json](zembro.schema.json) describes its shape, one definition a command.
+- It ends with 0 where all is well, 1 where something was found or would be changed, 2 where it could not run.
+- It writes only where it is given `--write`, under the lock of every other rewrite; without that it shows a diff.
+- Systems, emulators and games may be cut and in any case, as long as one fits; else those that fit are listed.
+- It speaks the language of the settings. Names from outside are shown so that no terminal obeys them.
+END
+    example "The commands:" help
+    printf '\n## list\n'
+    example "What the screen lists, in its order: entry, file, facts and capture, with a tab between two." list atari
+    printf '\n## command\n'
+    example "What playing a game would do. \`--lines\` gives the arguments alone, \`--shell\` one line for a shell." \
+        command atari stella hedgerow
+    printf '\n## play\n'
+    sed -i "s|^EXE=.*|EXE=$work/dies|" Zembro.emu
+    printf '#!/bin/sh\nkill -SEGV $$\n' >"$work/dies"
+    chmod +x "$work/dies"
+    example "A launch without the screen, here of an emulator that dies at once. Its status is the emulator's." \
+        play atari stella prisma
+    printf '\n## why\n'
+    printf '%s\n' "zembrolix 2026-05-01T20:15:02 4711.1 game 'Atari 2600' Stella Prisma" \
+        "zembrolix 2026-05-01T20:15:02 4711.1 start $work/dies $work/zembrolix/demo/prisma.bin -ld a" \
+        "zembrolix 2026-05-01T20:15:02 4711.1 directory $work" \
+        "zembrolix 2026-05-01T20:15:03 4711.1 signal 11 after 0.1" >"$XDG_STATE_HOME/zembrolix/log"
+    example "What became of the last launch of the main program, if it was started by \`./run.sh\`." why
+    printf '\n## check\n'
+    sed -i -e "s|^EXE=.*|EXE=$work/dyes|" -e "/^'---/d" Zembro.emu
+    mv demo/prisma.gif "demo/prisma (1).gif"
+    example "An executable that is mistyped, a catalogue that lost its closing line, a capture that is never found:" check
+    example "What has one answer only can be repaired; \`--write\` does it." check --mend
+    printf '\n## find\n'
+    example "Emulators that came to the machine since; \`--write\` configures them." find
+}
+page >"$OLDPWD/docs/zembro.md"
