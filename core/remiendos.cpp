@@ -6,7 +6,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -81,18 +80,18 @@ std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &s
     const QSet<QString> nombres(sistemas.begin(), sistemas.end());
     const std::vector<LineaConFin> lineas = EnLineas(texto);
     std::vector<SinCierre> huecos;
-    std::optional<size_t> abierto;
+    bool abierto = false;
+    size_t inicio = 0;
     for (size_t i = 0; i < lineas.size(); ++i) {
         const QStringView linea = lineas[i].linea;
         const bool cabecera = nombres.contains(linea.toString());
         if (abierto && (cabecera || linea.startsWith(u'[')))
-            huecos.push_back({ *abierto, i });
+            huecos.push_back({ inicio, i });
         if (linea.startsWith(u'['))
             break;
         if (cabecera)
-            abierto = i;
-        else if (linea == u"'")
-            abierto.reset();
+            inicio = i;
+        abierto = cabecera || (abierto && linea != u"'");
     }
     return huecos;
 }
