@@ -17,6 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QStringView Prefix = u":/artwork/";
+
 struct Drawing {
     QString name; // as in ":/artwork/NAME.svg"
     QString file;
@@ -35,15 +37,12 @@ QList<Drawing> drawingsIn(const QString &list)
     return drawings;
 }
 
-// The sizes in pixels in which a drawing is shown at the scales.
-QList<QSize> sizesOf(const Drawing &drawing)
+// The sizes in pixels in which a drawing is shown at a scale.
+QList<QSize> sizesOf(const Drawing &drawing, qreal scale)
 {
-    const QSize size = QSvgRenderer(drawing.file).defaultSize();
-    QList<QSize> sizes;
-    for (const qreal scale : forms::RenderedScales)
-        sizes.append(forms::pixelsOf(size, scale));
+    QList<QSize> sizes { forms::pixelsOf(QSvgRenderer(drawing.file).defaultSize(), scale) };
     for (const int side : forms::IconSides) {
-        if (drawing.name == u"icono" && !sizes.contains(QSize(side, side)))
+        if (scale == 1 && drawing.name == u"icono" && !sizes.contains(QSize(side, side)))
             sizes.append({ side, side });
     }
     return sizes;
@@ -66,6 +65,22 @@ QString rendered(const QString &file, const QSize &size, const QDir &directory)
     return name;
 }
 
+// The entries of the resource list for a drawing; empty if it can't be rendered.
+QString entriesOf(const Drawing &drawing, const QDir &directory)
+{
+    QString entries;
+    for (const qreal scale : forms::RenderedScales) {
+        for (const QSize &size : sizesOf(drawing, scale)) {
+            const QString file = rendered(drawing.file, size, directory);
+            if (file.isEmpty())
+                return {};
+            const QString path = forms::renderedPath(drawing.name, size, scale);
+            entries += u"<file alias=\"%1\">%2</file>\n"_s.arg(path.sliced(Prefix.size()), file);
+        }
+    }
+    return entries;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -76,15 +91,12 @@ int main(int argc, char **argv)
     const QList<Drawing> drawings = drawingsIn(QString::fromLocal8Bit(argv[1]));
     QString list = u"<RCC><qresource prefix=\"/artwork\">\n"_s;
     for (const Drawing &drawing : drawings) {
-        for (const QSize &size : sizesOf(drawing)) {
-            const QString file = rendered(drawing.file, size, directory);
-            if (file.isEmpty()) {
-                std::fprintf(stderr, "render_artwork: can't render %s\n", qPrintable(drawing.file));
-                return 1;
-            }
-            const QString alias = QFileInfo(forms::renderedPath(drawing.name, size)).fileName();
-            list += u"<file alias=\"%1\">%2</file>\n"_s.arg(alias, file);
+        const QString entries = entriesOf(drawing, directory);
+        if (entries.isEmpty()) {
+            std::fprintf(stderr, "render_artwork: can't render %s\n", qPrintable(drawing.file));
+            return 1;
         }
+        list += entries;
     }
     list += u"</qresource></RCC>\n"_s;
     QFile out(directory.filePath(u"rendered.qrc"_s));

@@ -4,7 +4,6 @@
 #include "host/numbers.h"
 
 #include <QList>
-#include <QRegularExpression>
 #include <QSet>
 #include <QTextBoundaryFinder>
 
@@ -128,12 +127,21 @@ QString UltimaLineaDeInfo(const Modulo &M, const QString &texto, int tipo, const
 
 namespace {
 
-// Where the size or the mark of a line of facts begins; its length for a text without either.
-qsizetype finDelNombre(const QString &linea)
+// Where the size and the mark of a line of facts begin, or the mark alone; its length for a text without any.
+qsizetype finDelNombre(QStringView linea)
 {
-    static const QRegularExpression datos(u"  ?[^ ]*Kb +\\[(ZIP|NOR)\\]$| \\[DIR\\]$"_s);
-    const qsizetype lugar = linea.indexOf(datos);
-    return lugar < 0 ? linea.size() : lugar;
+    if (linea.endsWith(u" [DIR]"))
+        return linea.chopped(6).size();
+    QStringView resto = linea;
+    if (!resto.endsWith(u" [ZIP]") && !resto.endsWith(u" [NOR]"))
+        return linea.size();
+    resto.chop(5);
+    while (resto.endsWith(u' '))
+        resto.chop(1);
+    const qsizetype blanco = resto.lastIndexOf(u' ');
+    if (!resto.endsWith(u"Kb") || blanco < 0)
+        return linea.size();
+    return blanco > 0 && linea[blanco - 1] == u' ' ? blanco - 1 : blanco;
 }
 
 // Between letters as a reader counts them: the accents of one stay with it.

@@ -34,15 +34,16 @@ void forgetAtTheEnd()
 }
 
 // The build has rendered the artwork in its own size at the usual scales; any other one is drawn here.
-QImage imageOf(const QString &name, const QSize &pixels)
+QImage imageOf(const QString &name, const QSize &pixels, qreal devicePixelRatio)
 {
-    const QImage rendered = unpacked(QResource(renderedPath(name, pixels)).uncompressedData());
+    const QImage rendered =
+        unpacked(QResource(renderedPath(name, pixels, devicePixelRatio)).uncompressedData());
     return rendered.isNull() ? renderSvg(u":/artwork/%1.svg"_s.arg(name), pixels) : rendered;
 }
 
 QPixmap draw(const QString &name, const QSize &size, qreal devicePixelRatio)
 {
-    QPixmap picture = QPixmap::fromImage(imageOf(name, pixelsOf(size, devicePixelRatio)));
+    QPixmap picture = QPixmap::fromImage(imageOf(name, pixelsOf(size, devicePixelRatio), devicePixelRatio));
     picture.setDevicePixelRatio(devicePixelRatio);
     return picture;
 }

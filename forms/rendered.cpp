@@ -23,9 +23,9 @@ void release(void *bytes)
 
 } // namespace
 
-QString renderedPath(const QString &name, const QSize &pixels)
+QString renderedPath(const QString &name, const QSize &pixels, qreal scale)
 {
-    return u":/artwork/%1@%2x%3.raw"_s.arg(name).arg(pixels.width()).arg(pixels.height());
+    return u":/artwork/%1/%2@%3x%4.raw"_s.arg(scale).arg(name).arg(pixels.width()).arg(pixels.height());
 }
 
 QByteArray packed(const QImage &image)

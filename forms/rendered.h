@@ -8,8 +8,9 @@
 
 namespace forms {
 
-// The path of a drawing among the program's resources, rendered in so many pixels.
-QString renderedPath(const QString &name, const QSize &pixels);
+// The path of a drawing among the program's resources, rendered in so many pixels for a screen of this scale.
+// Those of one scale lie together, so that the others take no memory.
+QString renderedPath(const QString &name, const QSize &pixels, qreal scale);
 
 // Width and height as 32-bit numbers, then the pixels, ARGB premultiplied, all in the machine's order.
 QByteArray packed(const QImage &image);

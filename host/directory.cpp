@@ -154,26 +154,23 @@ Directory::Directory(std::vector<Entry> entries)
     });
 }
 
-// The first entry that isn't ahead of this name. Who asks for thousands asks in their order.
-std::size_t Directory::firstNotAheadOf(const QString &name) const
+// The first entry that has this name in any case, or where it would stand. Who asks for thousands asks in
+// their order.
+std::size_t Directory::placeOf(const QString &name) const
 {
-    const auto isAhead = [](const Entry &entry, const QString &wanted) {
-        return compareNames(entry.name, wanted) < 0;
-    };
-    const bool asExpected = m_next > 0 && m_next < m_entries.size() && isAhead(m_entries[m_next - 1], name)
-        && sameName(m_entries[m_next].name, name);
-    if (asExpected)
+    const auto has = [&](std::size_t i) { return i < m_entries.size() && sameName(m_entries[i].name, name); };
+    if (m_next > 0 && has(m_next) && !has(m_next - 1))
         return m_next;
-    const auto first = std::lower_bound(m_entries.begin(), m_entries.end(), name, isAhead);
+    const auto first = std::lower_bound(m_entries.begin(), m_entries.end(), name,
+        [](const Entry &entry, const QString &wanted) { return compareNames(entry.name, wanted) < 0; });
     return static_cast<std::size_t>(first - m_entries.begin());
 }
 
 // Null where no entry has this name in any case.
 const Directory::Entry *Directory::named(const QString &name) const
 {
-    const std::size_t first = firstNotAheadOf(name);
     const Entry *found = nullptr;
-    for (std::size_t i = first; i < m_entries.size() && sameName(m_entries[i].name, name); ++i) {
+    for (std::size_t i = placeOf(name); i < m_entries.size() && sameName(m_entries[i].name, name); ++i) {
         m_next = i + 1;
         if (!found || m_entries[i].name == name)
             found = &m_entries[i];

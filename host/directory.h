@@ -46,7 +46,7 @@ public:
     QString shortForm(const QString &name) const;
 
 private:
-    std::size_t firstNotAheadOf(const QString &name) const;
+    std::size_t placeOf(const QString &name) const;
     const Entry *named(const QString &name) const;
     bool isAloneWith(const QString &name, const QString &plain) const;
     bool mayBeShortForm(const QString &name) const;

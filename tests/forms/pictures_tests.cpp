@@ -148,7 +148,7 @@ TEST_F(Pictures, Artwork_IsDrawnAtItsSizeAndRatio)
     EXPECT_EQ(drawn.toImage().pixelColor(20, 40), QColor(Qt::white));
 }
 
-TEST_F(Pictures, Artwork_RenderedInItsPixels_IsTakenAsItIs)
+TEST_F(Pictures, Artwork_RenderedForItsSizeAndRatio_IsTakenAsItIs)
 {
     // The rendered one is blue, the drawing is red at its left.
     const auto left = [](const QSize &size, qreal ratio) {
@@ -157,8 +157,8 @@ TEST_F(Pictures, Artwork_RenderedInItsPixels_IsTakenAsItIs)
     EXPECT_EQ(left({ 12, 13 }, 2), QColor(Qt::blue));
     EXPECT_EQ(forms::artwork(u"Rendered"_s, { 12, 13 }, 2).devicePixelRatio(), 2);
     EXPECT_EQ(left({ 12, 13 }, 1), QColor(Qt::red));
-    EXPECT_EQ(left({ 24, 26 }, 1), QColor(Qt::blue));
     EXPECT_EQ(left({ 24, 26 }, 2), QColor(Qt::red));
+    EXPECT_EQ(left({ 24, 26 }, 1), QColor(Qt::red));
 }
 
 TEST_F(Pictures, Packed_ComeBackAsTheyWere)

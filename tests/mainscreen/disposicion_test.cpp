@@ -432,7 +432,7 @@ TEST(Artwork, EveryDrawingIsRenderedForEachScale)
         const QString file = u":/artwork/"_s + drawing;
         for (const qreal scale : forms::RenderedScales) {
             const QSize pixels = forms::pixelsOf(QSvgRenderer(file).defaultSize(), scale);
-            const QString path = forms::renderedPath(drawing.chopped(4), pixels);
+            const QString path = forms::renderedPath(drawing.chopped(4), pixels, scale);
             EXPECT_EQ(forms::unpacked(QResource(path).uncompressedData()), forms::renderSvg(file, pixels))
                 << file.toStdString() << " at " << scale;
         }
