@@ -110,6 +110,7 @@ void setColours()
     QApplication::setPalette(controlColours());
     QApplication::setPalette(popupColours(), "QMenu");
     QApplication::setPalette(popupColours(), "QComboBoxListView");
+    QApplication::setPalette(popupColours(), "QComboBoxPrivateContainer"); // its window
     QApplication::setPalette(markColours(), "QCheckBox");
     QApplication::setPalette(markColours(), "QRadioButton");
     QToolTip::setPalette(popupColours());

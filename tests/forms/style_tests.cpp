@@ -316,6 +316,8 @@ TEST_F(Looks, OfAnOpenListAreThoseOfAMenu)
     combo.AddItem(u"Two"_s);
     drive::show(window);
     combo.showPopup();
+    const QPalette around = combo.view()->window()->palette();
+    EXPECT_EQ(around.color(QPalette::Window), popupColours().color(QPalette::Base));
     const QImage list = combo.view()->viewport()->grab().toImage();
     combo.hidePopup();
     EXPECT_EQ(QColor(list.pixel(list.width() - 3, 3)), popupColours().color(QPalette::Base));
