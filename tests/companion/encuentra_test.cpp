@@ -12,17 +12,23 @@ class Find : public MesaConJuegos {
 protected:
     Find()
         : m_camino(qgetenv("PATH"))
+        , m_casa(qgetenv("HOME"))
     {
         qputenv("PATH", Ruta(u"bin"_s).toUtf8());
-        qputenv("HOME", Ruta(u"home"_s).toUtf8());
+        qputenv("HOME", Ruta(u"home"_s).toUtf8()); // where Flatpak would export to
         Pon(u"Zembro.sye"_s,
             "-Jaguar\r\nWEB1=\r\n*.ZIP\r\n*.J64\r\n'\r\n+BigPEmu\r\nWEB2=\r\n'------\r\n[EOF]\r\n");
         PonGuion(u"bin/bigpemu"_s, "exit 0\n");
     }
-    ~Find() override { qputenv("PATH", m_camino); }
+    ~Find() override
+    {
+        qputenv("PATH", m_camino);
+        qputenv("HOME", m_casa);
+    }
 
 private:
     QByteArray m_camino;
+    QByteArray m_casa;
 };
 
 } // namespace
