@@ -23,6 +23,8 @@ LengthsIn::LengthsIn(const QString &directory)
 {
     if (!directory.isEmpty() && lastSeparator(directory) == directory.size() - 1)
         m_found = findOnDisk(directory);
+    m_opened = std::make_shared<const Descriptor>(
+        m_found.isEmpty() ? -1 : open(m_found.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
 }
 
 qint64 LengthsIn::operator()(const QString &path) const
@@ -47,19 +49,24 @@ std::optional<FileState> LengthsIn::state(const QString &path) const
     return stateOf(status);
 }
 
+bool LengthsIn::leadsToFile(const QString &spelling, struct stat &status) const
+{
+    const QByteArray entry = nameToDisk(spelling);
+    const int failed = m_opened->isOpen() ? fstatat(m_opened->number(), entry.constData(), &status, 0)
+                                          : stat(joined(m_found, entry).constData(), &status);
+    return failed == 0 && !S_ISDIR(status.st_mode);
+}
+
 // True if an entry of this name leads to a file.
 bool LengthsIn::look(const QString &name, struct stat &status) const
 {
-    const auto leadsToFile = [&](const QByteArray &entry) {
-        return stat(joined(m_found, entry).constData(), &status) == 0 && !S_ISDIR(status.st_mode);
-    };
-    if (m_listing && leadsToFile(nameToDisk(m_listing->find(name))))
+    if (m_listing && leadsToFile(m_listing->find(name), status))
         return true;
-    if (leadsToFile(nameToDisk(name)))
+    if (leadsToFile(name, status))
         return true;
     if (!m_listing)
         m_listing = Directory::at(m_found);
-    return leadsToFile(entryFor(m_found, name));
+    return leadsToFile(nameFromDisk(entryFor(m_found, name)), status);
 }
 
 QList<qint64> LengthsIn::ofAll(const QStringList &names) const
@@ -68,9 +75,7 @@ QList<qint64> LengthsIn::ofAll(const QStringList &names) const
     spellings.reserve(names.size());
     std::transform(names.begin(), names.end(), std::back_inserter(spellings),
         [this](const QString &name) { return spelling(name); });
-    const Descriptor directory(
-        m_found.isEmpty() ? -1 : open(m_found.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-    const std::vector<Status> statuses = statusesIn(directory, spellings);
+    const std::vector<Status> statuses = statusesIn(*m_opened, spellings);
     QList<qint64> lengths;
     lengths.reserve(names.size());
     try {

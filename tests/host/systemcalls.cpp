@@ -31,7 +31,7 @@ std::size_t mostWritten = std::numeric_limits<std::size_t>::max();
 
 long tickOfChanges = 0;
 std::atomic<long> delayOfLooks = 0;
-int looksAtPaths = 0;
+std::atomic<int> looksAtPaths = 0;
 int flushesDone = 0;
 std::atomic<int> locksAsked = 0;
 
@@ -157,10 +157,13 @@ int lstat(const char *path, struct stat *status) noexcept
 
 int fstatat(int directory, const char *path, struct stat *status, int flags) noexcept
 {
+    ++looksAtPaths;
     const timespec delay { 0, delayOfLooks };
     if (delay.tv_nsec > 0)
         nanosleep(&delay, nullptr);
-    return passed<int(int, const char *, struct stat *, int)>("fstatat", directory, path, status, flags);
+    return withTicks(
+        passed<int(int, const char *, struct stat *, int)>("fstatat", directory, path, status, flags),
+        status);
 }
 
 int unlinkat(int directory, const char *path, int flags) noexcept

@@ -39,7 +39,7 @@ public:
     SlowLooks &operator=(const SlowLooks &) = delete;
 };
 
-// How many looks at a path, by stat or lstat, there have been so far.
+// How many looks at a path, by stat, lstat or fstatat, there have been so far.
 int looks();
 
 // How many times something was flushed to the disk so far.
