@@ -5,6 +5,7 @@
 #include "companion/encuentra.h"
 #include "companion/jugada.h"
 #include "companion/lista.h"
+#include "companion/mudanza.h"
 #include "companion/porque.h"
 #include "companion/revisa.h"
 
@@ -21,6 +22,7 @@ std::span<const Orden *const> Ordenes()
         &OrdenPorque(),
         &OrdenEncuentra(),
         &OrdenLista(),
+        &OrdenMudanza(),
         &OrdenAyuda(),
     };
     return ordenes;

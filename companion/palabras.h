@@ -125,6 +125,21 @@ struct Palabras {
     QString Zbo_OpCompletion =
         QStringLiteral("prints the completion for bash, zsh or fish, or the page for man");
     // Bulk work.
+
+    // Bulk work: what it would change, and what it changed.
+    QString Zbo_NadaCambia = QStringLiteral("Nothing would change.");
+    QString Zbo_NoHay = QStringLiteral("There is no %1.");
+
+    // Moving.
+    QString Zbo_Move = QStringLiteral("changes the leading part of the catalogue's paths");
+    QString Zbo_OpOld =
+        QStringLiteral("the leading part that is to go; without it the old place of this directory");
+    QString Zbo_OpNew = QStringLiteral("what stands in its place; without it this directory");
+    QString Zbo_MuevePide = QStringLiteral("--old and --new need a path of one line.");
+    QString Zbo_MueveVarios =
+        QStringLiteral("The directory may have been in several places; choose one with --old:");
+    QString Zbo_Moveria = QStringLiteral("From %1 to %2: --write writes it.");
+    QString Zbo_Movido = QStringLiteral("Changed from %1 to %2.");
 };
 
 struct ClaveDePalabra {
