@@ -25,6 +25,9 @@ packaging/assemble.sh build/release build/zembrolix
 [ "${1:-}" != --build ] || exit 0
 [ "${1:-}" != --find ] || exec packaging/find.sh build/release build/zembrolix "${@:2}"
 
+# Should an editor, or anything else, spoil one of the text files: as they are now. A start goes on without it.
+build/zembrolix/zembro save >/dev/null || true
+
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     # What becomes of each launch; build/zembrolix/zembro why reads it.
     export ZEMBRO_LOG=${ZEMBRO_LOG-${XDG_STATE_HOME:-${HOME:-}/.local/state}/zembrolix/log}

@@ -1,12 +1,15 @@
 #include "companion/ordenes.h"
 
 #include "companion/ayuda.h"
+#include "companion/descripcion.h"
 #include "companion/dicho.h"
 #include "companion/encuentra.h"
+#include "companion/exportacion.h"
 #include "companion/jugada.h"
 #include "companion/lista.h"
 #include "companion/mudanza.h"
 #include "companion/porque.h"
+#include "companion/reposicion.h"
 #include "companion/revisa.h"
 
 #include <algorithm>
@@ -23,6 +26,10 @@ std::span<const Orden *const> Ordenes()
         &OrdenEncuentra(),
         &OrdenLista(),
         &OrdenMudanza(),
+        &OrdenGuardar(),
+        &OrdenReponer(),
+        &OrdenDescribir(),
+        &OrdenExportar(),
         &OrdenAyuda(),
     };
     return ordenes;

@@ -140,6 +140,38 @@ struct Palabras {
         QStringLiteral("The directory may have been in several places; choose one with --old:");
     QString Zbo_Moveria = QStringLiteral("From %1 to %2: --write writes it.");
     QString Zbo_Movido = QStringLiteral("Changed from %1 to %2.");
+
+    // Copies of the text files.
+    QString Zbo_Save = QStringLiteral("keeps a copy of the text files in copias");
+    QString Zbo_Restore = QStringLiteral("brings back the text files of a copy");
+    QString Zbo_OpList = QStringLiteral("the copies that there are");
+    QString Zbo_Guardado = QStringLiteral("Copied to %1.");
+    QString Zbo_YaGuardado = QStringLiteral("Nothing has changed since the copy %1.");
+    QString Zbo_NoCopia = QStringLiteral("No copy fits %1.");
+    QString Zbo_NoCopias = QStringLiteral("There is no copy that differs.");
+    QString Zbo_Repondria = QStringLiteral("From the copy %1: --write brings it back.");
+    QString Zbo_Repuesto = QStringLiteral("Brought back from the copy %1. What was there is in the copy %2.");
+
+    // Descriptions in bulk.
+    QString Zbo_Describe = QStringLiteral("describes all games of a system at once");
+    QString Zbo_OpFrom = QStringLiteral(
+        "a DAT, a list of MAME, a gamelist.xml, or lines of name, tab, description; - is the standard input");
+    QString Zbo_OpTags = QStringLiteral("keeps what stands in brackets");
+    QString Zbo_OpReplace = QStringLiteral("changes the descriptions that are there too");
+    QString Zbo_Describiria = QStringLiteral("New: %1. Changed: %2. --write writes them.");
+    QString Zbo_Descrito = QStringLiteral("New: %1. Changed: %2.");
+    QString Zbo_NoClave = QStringLiteral("not described, as its name can't be kept");
+    QString Zbo_Repetida = QStringLiteral("not described, as another one is called so");
+    QString Zbo_NoCabe = QStringLiteral("not described, as there is no room for more");
+    QString Zbo_ListaMala = QStringLiteral("%1 can't be read: line %2, %3");
+
+    // Handing the games to other programs.
+    QString Zbo_Export =
+        QStringLiteral("tells other programs of the games: a gamelist.xml, or a file for Pegasus");
+    QString Zbo_OpPegasus = QStringLiteral("for Pegasus");
+    QString Zbo_OpTo = QStringLiteral("the file that --write makes; without it the answer is shown");
+    QString Zbo_NoExporta = QStringLiteral("left out, as its name can't stand in such a file");
+    QString Zbo_Escrito = QStringLiteral("Written: %1");
 };
 
 struct ClaveDePalabra {

@@ -264,18 +264,26 @@ int NotaConTexto(const Modulo &M, const QString &texto)
     return -1;
 }
 
-QString ConDescripcionNueva(
-    const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion)
+std::optional<QString> RegistroDeDescripcion(const QString &clave, const QString &descripcion)
 {
     const std::optional<QString> campo = claveDeNota(clave);
     if (!SePuedeDescribir(clave) || !EsDescripcionEntera(descripcion) || !campo)
+        return std::nullopt;
+    return registroDeNota(*campo, descripcion);
+}
+
+QString ConDescripcionNueva(
+    const QString &texto, const QString &sistema, const QString &clave, const QString &descripcion)
+{
+    const std::optional<QString> registro = RegistroDeDescripcion(clave, descripcion);
+    if (!registro)
         return texto;
     Copia copia;
     bool escrita = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
         copia.Copiar(linea);
         if (!escrita && linea.linea == sistema) {
-            copia.Nueva(registroDeNota(*campo, descripcion));
+            copia.Nueva(*registro);
             escrita = true;
         }
     }
@@ -291,14 +299,14 @@ bool HayDescripcion(const QString &texto, const QString &descripcion, const QStr
 QString ConDescripcionCambiada(
     const QString &texto, const QString &anterior, const QString &clave, const QString &descripcion)
 {
-    const std::optional<QString> campo = claveDeNota(clave);
-    if (!SePuedeDescribir(clave) || !EsDescripcionEntera(descripcion) || !campo)
+    const std::optional<QString> registro = RegistroDeDescripcion(clave, descripcion);
+    if (!registro)
         return texto;
     Copia copia;
     bool cambiada = false;
     for (const LineaConFin &linea : EnLineas(texto)) {
         if (!cambiada && esLaNota(linea.linea, anterior, clave)) {
-            copia.Nueva(registroDeNota(*campo, descripcion));
+            copia.Nueva(*registro);
             cambiada = true;
         } else {
             copia.Copiar(linea);

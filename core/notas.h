@@ -12,6 +12,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace core {
 
 // Loads the notes of a system from index 0 of Nota_Clave (as the file has them) and Nota_Texto; what the
@@ -46,6 +48,9 @@ QString DescripcionLeida(const QString &descripcion);
 // False for parameters of a game that are not kept whole: a comma would cut them for other readers of the
 // file, double quotes at their start anywhere. Blanks at the ends of a text with double quotes are dropped.
 bool SonParametrosEnteros(const QString &texto);
+
+// The record of a description, its key in upper case; none where it wouldn't come back.
+std::optional<QString> RegistroDeDescripcion(const QString &clave, const QString &descripcion);
 
 // The new record stands first in the system's block, its key in upper case; without a block nothing changes.
 QString ConDescripcionNueva(

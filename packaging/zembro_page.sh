@@ -24,7 +24,8 @@ example() { # text, arguments
     printf ' %q' "$@"
     printf '\n'
     set +e
-    ./zembro "$@" 2>&1 | sed -e "s|$work|/home/me|g" -e "s|, at 20[0-9T:-]*|, at 2026-05-01T20:15:02|"
+    ./zembro "$@" 2>&1 | sed -e "s|$work|/home/me|g" -e "s|, at 20[0-9T:-]*|, at 2026-05-01T20:15:02|" \
+        -e "s|20[0-9-]*_[0-9][0-9-]*|2026-05-01_20-15-02|g"
     local status=${PIPESTATUS[0]}
     set -e
     [ "$status" -eq 0 ] || printf '(status %s)\n' "$status"
@@ -70,5 +71,20 @@ END
     example "What has one answer only can be repaired; \`--write\` does it." check --mend
     printf '\n## find\n'
     example "Emulators that came to the machine since; \`--write\` configures them." find
+    ./zembro check --mend --write >/dev/null
+    printf '\n## move\n'
+    sed -i "s|$work/zembrolix|/media/disk/zembrolix|" Zembro.emu
+    example "After the directory went elsewhere; \`--old\` and \`--new\` name any other leading part of the paths." move
+    ./zembro move --write >/dev/null
+    printf '\n## describe\n'
+    printf x >"demo/Legend of Zelda, The (Europe) (Rev 1).bin"
+    example "By the names of the files. \`--from\` takes a DAT, what \`mame -listxml\` says (\`--from -\` reads a pipe), a gamelist.xml, or lines of name, tab, description." describe atari
+    printf '\n## save\n'
+    example "A copy of the text files; \`./run.sh\` makes one before each start. The last twenty that differ are kept." save
+    printf '\n## restore\n'
+    sed -i "/^PAR1=/d" Zembro.emu
+    example "Back to the newest copy that differs, or to the one that is named; \`--list\` shows them all." restore
+    printf '\n## export\n'
+    example "For another program; \`--to FILE --write\` writes it, \`--pegasus\` is for Pegasus." export atari stella
 }
 page >"$OLDPWD/docs/zembro.md"

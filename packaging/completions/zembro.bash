@@ -14,17 +14,23 @@ _zembro()
     done
     case $before in
     --directory) mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
+    --from|--to) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
     esac
     local words=
     case $command in
-    '') words='check command play why find list help --version --directory --json --help' ;;
+    '') words='check command play why find list move save restore describe export help --version --directory --json --help' ;;
     check) words='--mend --write --directory --json --help' ;;
     command) words='--lines --shell --directory --json --help' ;;
     play) words='--directory --json --help' ;;
     why) words='--directory --json --help' ;;
     find) words='--all --write --directory --json --help' ;;
     list) words='--directory --json --help' ;;
-    help) words='check command play why find list help --completion --directory --json --help' ;;
+    move) words='--old --new --write --directory --json --help' ;;
+    save) words='--directory --json --help' ;;
+    restore) words='--list --write --directory --json --help' ;;
+    describe) words='--from --tags --replace --write --directory --json --help' ;;
+    export) words='--pegasus --to --write --directory --json --help' ;;
+    help) words='check command play why find list move save restore describe export help --completion --directory --json --help' ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
 }

@@ -1,0 +1,163 @@
+#include "companion/copias.h"
+
+#include "core/ajustes.h"
+#include "core/lineas.h"
+
+#include "host/encoding.h"
+#include "host/failure.h"
+#include "host/numberedfiles.h"
+#include "host/paths.h"
+#include "host/renaming.h"
+#include "host/replacement.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace companion {
+
+namespace {
+
+const QString Formato = u"yyyy-MM-dd_HH-mm-ss"_s;
+const QString Directorio = u"copias"_s;
+const QString Borrador = u".a-medias"_s; // of a copy on its way, removed by the next one
+const QString Ajustes = u"Zembro.cfg"_s;
+const QStringList Nombres { Ajustes, u"Zembro.emu"_s, u"Zembro.rom"_s, u"Zembro.sye"_s };
+
+QString rutaDe(const QString &copia)
+{
+    return host::programFile(Directorio) + u'/' + copia;
+}
+
+Ficheros leidos(const QString &directorio)
+{
+    Ficheros ficheros;
+    for (const QString &nombre : Nombres) {
+        const QString ruta = directorio + u'/' + nombre;
+        if (host::exists(ruta))
+            ficheros[nombre] = host::readBytes(ruta);
+    }
+    return ficheros;
+}
+
+// The lock of every rewrite, for as long as it lives.
+host::Replacement llave()
+{
+    return host::Replacement(host::programFile(u"Zembro.emu"_s), u"Zembro.tmp"_s);
+}
+
+// The time of the clock that a copy is named after; invalid for another name.
+QDateTime horaDe(const QString &copia)
+{
+    const QDateTime hora(QDate::fromString(copia.left(10), Formato.left(10)),
+        QTime::fromString(copia.mid(11), Formato.mid(11)), Qt::UTC);
+    return hora.toString(Formato) == copia ? hora : QDateTime();
+}
+
+// The settings' lines, those of the last selection without their values.
+QStringList sinSeleccion(const QByteArray &bytes)
+{
+    QStringList claves;
+    for (const QString &linea : core::LineasDeUltimaSeleccion(0, 0))
+        claves += linea.chopped(1);
+    const QString texto = host::decodeText(bytes).text;
+    QStringList lineas;
+    for (const core::LineaConFin &linea : core::EnLineas(texto)) {
+        const auto suya =
+            std::ranges::find_if(claves, [&](const QString &clave) { return linea.linea.startsWith(clave); });
+        lineas += suya == claves.end() ? linea.linea.toString() + linea.fin.toString() : *suya;
+    }
+    return lineas;
+}
+
+// The files that a copy keeps; what else lies there stays, and so does its directory then.
+void borra(const QString &copia)
+{
+    try {
+        host::deleteFiles(rutaDe(copia), Nombres);
+        host::removeDirectory(rutaDe(copia));
+    } catch (const host::Failure &) {
+        // It stays.
+    }
+}
+
+void escribe(const QString &copia, const Ficheros &ficheros)
+{
+    if (!host::exists(host::programFile(Directorio)))
+        host::makeDirectory(host::programFile(Directorio));
+    if (host::exists(rutaDe(Borrador)))
+        borra(Borrador);
+    host::makeDirectory(rutaDe(Borrador));
+    for (auto fichero = ficheros.begin(); fichero != ficheros.end(); ++fichero) {
+        host::Replacement nuevo(rutaDe(Borrador) + u'/' + fichero.key(), u"Zembro.tmp"_s);
+        nuevo.read();
+        nuevo.write(fichero.value());
+        nuevo.commit();
+    }
+    host::renameDirectory(rutaDe(Borrador), copia);
+}
+
+} // namespace
+
+QStringList Copias()
+{
+    QStringList copias;
+    if (!host::exists(host::programFile(Directorio)))
+        return copias;
+    for (const QString &nombre : host::listDirectories(host::programFile(Directorio))) {
+        if (horaDe(nombre).isValid())
+            copias.prepend(nombre);
+    }
+    return copias;
+}
+
+Ficheros FicherosDePrograma()
+{
+    const host::Replacement cerrado = llave();
+    return leidos(host::programDirectory());
+}
+
+Ficheros FicherosDeCopia(const QString &copia)
+{
+    return leidos(rutaDe(copia));
+}
+
+QString RutaDeCopia(const QString &copia, const QString &fichero)
+{
+    return rutaDe(copia) + u'/' + fichero;
+}
+
+bool SonIguales(const Ficheros &unos, const Ficheros &otros)
+{
+    if (unos.keys() != otros.keys())
+        return false;
+    return std::ranges::all_of(Nombres, [&](const QString &nombre) {
+        return unos[nombre] == otros[nombre]
+            || (nombre == Ajustes && sinSeleccion(unos[nombre]) == sinSeleccion(otros[nombre]));
+    });
+}
+
+QString NombreDeCopia(const QString &ahora, const QString &masNueva)
+{
+    return ahora > masNueva ? ahora : horaDe(masNueva).addSecs(1).toString(Formato);
+}
+
+Guardado Guarda()
+{
+    const host::Replacement cerrado = llave();
+    QStringList copias = Copias();
+    Guardado guardado { copias.value(0), false, leidos(host::programDirectory()) };
+    if (!copias.isEmpty() && SonIguales(guardado.ficheros, FicherosDeCopia(copias.first())))
+        return guardado;
+    guardado.copia = NombreDeCopia(QDateTime::currentDateTime().toString(Formato), guardado.copia);
+    guardado.nueva = true;
+    escribe(guardado.copia, guardado.ficheros);
+    copias.prepend(guardado.copia);
+    for (const QString &vieja : copias.mid(MaxCopias))
+        borra(vieja);
+    return guardado;
+}
+
+} // namespace companion

@@ -1,0 +1,228 @@
+#include "companion/descripcion.h"
+
+#include "companion/cambio.h"
+#include "companion/fuentes.h"
+#include "companion/mundo.h"
+#include "companion/rotulos.h"
+
+#include "core/descripciones.h"
+#include "core/lista.h"
+#include "core/romelegida.h"
+
+#include "host/failure.h"
+#include "host/letters.h"
+#include "host/paths.h"
+
+#include <QJsonArray>
+
+#include <cstdio>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace companion {
+
+namespace {
+
+constexpr size_t LargoDeTrozo = 65536;
+
+// A file of a system that a list shows.
+struct FicheroListado {
+    QString clave;
+    QString nombre; // as the disk spells it
+    QString entrada; // its description, if it has one
+    bool descrito = false;
+};
+
+// The files behind a list that has just been made.
+std::vector<FicheroListado> ficherosListados(
+    const core::Modulo &M, const Pareja &pareja, const Listado &listado)
+{
+    const int tipo = TipoDe(M, pareja);
+    const QSet<QString> entradas(listado.recuento.entradas.begin(), listado.recuento.entradas.end());
+    QHash<QString, QString> enDisco; // directories are listed in upper case
+    if (core::UnDirectorioPorJuego(tipo)) {
+        for (const QString &nombre : host::listDirectories(DirectorioDeJuegos(M, pareja)))
+            enDisco.insert(host::upper(nombre), nombre);
+    }
+    QHash<QString, QString> notas;
+    for (int i = 0; i < M.Nota_Clave.tamaño() && !M.Nota_Clave(i).isEmpty(); ++i) {
+        if (!notas.contains(M.Nota_Clave(i)))
+            notas.insert(M.Nota_Clave(i), M.Nota_Texto(i));
+    }
+    std::vector<FicheroListado> ficheros;
+    for (int i = 0; i < listado.recuento.exploradas; ++i) {
+        const QString nombre = M.Arch_Nombre(i);
+        const QString clave = core::ClaveNueva(tipo, nombre);
+        const auto nota = notas.constFind(clave);
+        const bool descrito = nota != notas.constEnd();
+        const QString entrada = descrito ? *nota : nombre;
+        if (!entrada.isEmpty() && entradas.contains(entrada))
+            ficheros.push_back({ clave, enDisco.value(nombre, nombre), entrada, descrito });
+    }
+    return ficheros;
+}
+
+struct Coleccion {
+    std::vector<FicheroListado> ficheros; // each key once
+    QSet<QString> textos; // that something is called already
+};
+
+Coleccion coleccionDe(Sesion &sesion, const std::vector<Pareja> &parejas)
+{
+    Coleccion coleccion;
+    QSet<QString> claves;
+    for (const Pareja &pareja : parejas) {
+        try {
+            const Listado listado = Lista(sesion, pareja);
+            for (const FicheroListado &fichero : ficherosListados(sesion.M, pareja, listado)) {
+                coleccion.textos.insert(fichero.entrada);
+                if (!claves.contains(fichero.clave))
+                    coleccion.ficheros.push_back(fichero);
+                claves.insert(fichero.clave);
+            }
+            for (int i = 0; i < sesion.M.Nota_Clave.tamaño() && !sesion.M.Nota_Clave(i).isEmpty(); ++i)
+                coleccion.textos.insert(sesion.M.Nota_Texto(i));
+        } catch (const host::Failure &fallo) {
+            sesion.Avisa(u"[%1 / %2]  %3"_s.arg(pareja.nombreSistema, pareja.nombreEmulador, TextoDe(fallo)));
+        }
+    }
+    return coleccion;
+}
+
+// None, told already, where the list can't be read.
+std::unique_ptr<LectorDeFuente> leeFuente(const Sesion &sesion, const Coleccion &coleccion)
+{
+    const QString nombre = sesion.Valor(u"from"_s);
+    QSet<QString> buscados;
+    for (const FicheroListado &fichero : coleccion.ficheros)
+        buscados << host::upper(fichero.nombre) << host::upper(SinTerminacion(fichero.nombre));
+    const QByteArray ruta = host::findOnDisk(nombre);
+    const auto cierra = [](std::FILE *fichero) { return fichero == stdin ? 0 : std::fclose(fichero); };
+    const std::unique_ptr<std::FILE, decltype(cierra)> abierto(
+        nombre == u"-" ? stdin : std::fopen(ruta.constData(), "rbe"), cierra);
+    if (!abierto) {
+        sesion.Falla(sesion.palabras.Zbo_NoHay.arg(nombre));
+        return nullptr;
+    }
+    auto lector = std::make_unique<LectorDeFuente>(buscados);
+    QByteArray trozo(LargoDeTrozo, Qt::Uninitialized);
+    while (const size_t leidos = std::fread(trozo.data(), 1, LargoDeTrozo, abierto.get()))
+        lector->Trozo(trozo.first(qsizetype(leidos)));
+    if (std::ferror(abierto.get()) != 0)
+        throw host::Failure(host::PathAccess, u"read a file"_s, nombre);
+    lector->Fin();
+    if (lector->ElError()) {
+        sesion.Falla(sesion.palabras.Zbo_ListaMala.arg(
+            nombre, QString::number(lector->ElError()->linea), lector->ElError()->motivo));
+        return nullptr;
+    }
+    return lector;
+}
+
+// What a file may be called by its name, or by what the list says of it.
+Rotulo rotuloDe(const FicheroListado &fichero, const LectorDeFuente *fuente)
+{
+    const QString nombre = SinTerminacion(fichero.nombre);
+    if (!fuente)
+        return RotuloDe(nombre);
+    const QString texto =
+        fuente->Textos().value(host::upper(fichero.nombre), fuente->Textos().value(host::upper(nombre)));
+    return fuente->EsDeCatalogo() ? RotuloDe(texto) : Rotulo { texto, {} };
+}
+
+std::vector<PorDescribir> porDescribir(
+    const Sesion &sesion, const Coleccion &coleccion, const LectorDeFuente *fuente)
+{
+    std::vector<PorDescribir> juegos;
+    for (const FicheroListado &fichero : coleccion.ficheros) {
+        if (fichero.descrito && !sesion.Tiene(u"replace"_s))
+            continue;
+        const Rotulo rotulo = rotuloDe(fichero, fuente);
+        const QString titulo = sesion.Tiene(u"tags"_s) ? rotulo.Entero() : rotulo.titulo;
+        if (!titulo.isEmpty())
+            juegos.push_back({ fichero.clave, fichero.entrada, titulo, rotulo.Entero() });
+    }
+    return juegos;
+}
+
+QString textoDe(const Sesion &sesion, Motivo motivo)
+{
+    switch (motivo) {
+    case Motivo::SinClave:
+        return sesion.palabras.Zbo_NoClave;
+    case Motivo::Repetida:
+        return sesion.palabras.Zbo_Repetida;
+    default:
+        return sesion.palabras.Zbo_NoCabe;
+    }
+}
+
+QString nombreDe(Motivo motivo)
+{
+    return motivo == Motivo::SinClave ? u"name"_s : motivo == Motivo::Repetida ? u"taken"_s : u"room"_s;
+}
+
+int responde(const Sesion &sesion, int estado, QJsonObject objeto, const core::Descritas &descritas,
+    Bautizados bautizados)
+{
+    for (const core::Descripcion &fuera : descritas.fuera)
+        bautizados.rechazados.push_back({ fuera.texto, Motivo::NoCabe });
+    QJsonArray rechazados;
+    for (const Rechazado &uno : bautizados.rechazados) {
+        rechazados += QJsonObject { { u"entry"_s, uno.entrada }, { u"reason"_s, nombreDe(uno.motivo) } };
+        if (!sesion.EnJson())
+            sesion.EscribeColumnas({ uno.entrada, textoDe(sesion, uno.motivo) });
+    }
+    objeto[u"added"_s] = descritas.nuevas;
+    objeto[u"replaced"_s] = descritas.cambiadas;
+    objeto[u"refused"_s] = rechazados;
+    const QString &dicho = estado == Bien ? sesion.palabras.Zbo_Descrito : sesion.palabras.Zbo_Describiria;
+    if (sesion.EnJson())
+        sesion.Json(objeto);
+    else
+        sesion.Escribe(dicho.arg(descritas.nuevas).arg(descritas.cambiadas));
+    return rechazados.isEmpty() ? estado : Hallazgos;
+}
+
+int describe(Sesion &sesion)
+{
+    LeeMundo(sesion);
+    const std::vector<Pareja> parejas = ParejasPedidas(sesion, sesion.Argumento(0), {});
+    if (parejas.empty())
+        return NoPudo;
+    const QString sistema = parejas.front().nombreSistema;
+    const Coleccion coleccion = coleccionDe(sesion, parejas);
+    std::unique_ptr<LectorDeFuente> fuente;
+    if (sesion.Tiene(u"from"_s)) {
+        fuente = leeFuente(sesion, coleccion);
+        if (!fuente)
+            return NoPudo;
+    }
+    const Bautizados bautizados = Bautiza(porDescribir(sesion, coleccion, fuente.get()), coleccion.textos);
+    std::vector<core::Descripcion> descripciones;
+    for (const auto &[clave, texto] : bautizados.descripciones)
+        descripciones.push_back({ clave, texto });
+    core::Descritas descritas;
+    QJsonObject objeto { { u"system"_s, sistema } };
+    const auto lasQueHay = sesion.Tiene(u"replace"_s) ? core::LasQueHay::Cambian : core::LasQueHay::Quedan;
+    const auto cambio = [&](const QString &texto) {
+        descritas = core::ConDescripciones(texto, sistema, descripciones, lasQueHay);
+        return descritas.texto;
+    };
+    const int estado = HazCambio(sesion, u"Zembro.rom"_s, cambio, objeto);
+    return responde(sesion, estado, objeto, descritas, bautizados);
+}
+
+} // namespace
+
+const Orden &OrdenDescribir()
+{
+    static const Orden orden { u"describe"_s, u"SYSTEM"_s, &Palabras::Zbo_Describe,
+        { { u"from"_s, u"FILE"_s, &Palabras::Zbo_OpFrom }, { u"tags"_s, {}, &Palabras::Zbo_OpTags },
+            { u"replace"_s, {}, &Palabras::Zbo_OpReplace }, OpcionWrite() },
+        describe };
+    return orden;
+}
+
+} // namespace companion

@@ -1,0 +1,136 @@
+#include "companion/exportacion.h"
+
+#include "companion/cambio.h"
+#include "companion/diferencia.h"
+#include "companion/documento.h"
+#include "companion/mundo.h"
+
+#include "core/lista.h"
+
+#include "host/failure.h"
+#include "host/paths.h"
+#include "host/replacement.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace companion {
+
+namespace {
+
+// Of one directory the files go by their names, so that the document may move with them; else by their paths.
+struct Forma {
+    bool pegasus = false;
+    bool unDirectorio = false;
+};
+
+Entrega entregaDe(Sesion &sesion, const Pareja &pareja, const Forma &forma)
+{
+    Entrega entrega { u"%1 (%2)"_s.arg(pareja.nombreSistema, pareja.nombreEmulador),
+        { host::programFile(u"zembro"_s), u"play"_s, u"--directory"_s, host::programDirectory(),
+            pareja.nombreSistema, pareja.nombreEmulador },
+        {} };
+    const QString directorio = host::withClosingSeparator(DirectorioDeJuegos(sesion.M, pareja));
+    const Listado listado = Lista(sesion, pareja);
+    for (const QString &entrada : listado.recuento.entradas) {
+        const Juego juego = JuegoDe(sesion.M, pareja, entrada);
+        const QString delante = !forma.unDirectorio ? directorio : forma.pegasus ? QString() : u"./"_s;
+        entrega.juegos.push_back(
+            { juego.fichero.isEmpty() ? QString() : delante + juego.fichero, entrada, juego.captura });
+    }
+    return entrega;
+}
+
+std::vector<Entrega> entregasDe(Sesion &sesion, const std::vector<Pareja> &parejas, bool &todas)
+{
+    const bool unDirectorio = std::ranges::all_of(parejas, [&](const Pareja &pareja) {
+        return DirectorioDeJuegos(sesion.M, pareja) == DirectorioDeJuegos(sesion.M, parejas.front());
+    });
+    std::vector<Entrega> entregas;
+    for (const Pareja &pareja : parejas) {
+        try {
+            entregas.push_back(entregaDe(sesion, pareja, { sesion.Tiene(u"pegasus"_s), unDirectorio }));
+        } catch (const host::Failure &fallo) {
+            todas = false;
+            sesion.Avisa(u"[%1 / %2]  %3"_s.arg(pareja.nombreSistema, pareja.nombreEmulador, TextoDe(fallo)));
+        }
+    }
+    return entregas;
+}
+
+// Games that the document leaves out.
+QStringList omitidos(const std::vector<Entrega> &entregas, bool (*cabe)(const QString &))
+{
+    QStringList nombres;
+    for (const Entrega &entrega : entregas) {
+        for (const Entregado &juego : entrega.juegos) {
+            if (!cabe(juego.fichero) || !cabe(juego.titulo))
+                nombres += juego.titulo;
+        }
+    }
+    return nombres;
+}
+
+// The file that --to names: the difference, or the file itself with --write. True if it stands as it should.
+bool entrega(const Sesion &sesion, const QString &texto, QJsonObject &objeto)
+{
+    const QString ruta = sesion.Valor(u"to"_s);
+    const bool escribe = sesion.Tiene(u"write"_s);
+    QString antes = host::exists(ruta) ? host::decodeText(host::readBytes(ruta)).text : QString();
+    if (escribe) {
+        host::Replacement nuevo(ruta, u".zembro.tmp"_s);
+        nuevo.read();
+        nuevo.write(texto.toUtf8());
+        nuevo.commit();
+    }
+    const QStringList diferencia = Diferencia(ruta, antes, texto);
+    objeto[u"file"_s] = ruta;
+    objeto[u"changed"_s] = antes != texto;
+    objeto[u"written"_s] = escribe;
+    objeto[u"diff"_s] = QJsonArray::fromStringList(diferencia);
+    if (!sesion.EnJson())
+        sesion.Escribe(escribe ? QStringList { sesion.palabras.Zbo_Escrito.arg(ruta) } : diferencia);
+    return escribe || antes == texto;
+}
+
+int exporta(Sesion &sesion)
+{
+    LeeMundo(sesion);
+    const std::vector<Pareja> parejas = ParejasPedidas(sesion, sesion.Argumento(0), sesion.Argumento(1));
+    if (parejas.empty())
+        return NoPudo;
+    bool bien = true;
+    const std::vector<Entrega> entregas = entregasDe(sesion, parejas, bien);
+    const bool pegasus = sesion.Tiene(u"pegasus"_s);
+    const QString texto = pegasus ? Pegasus(entregas) : Gamelist(entregas);
+    const QStringList fuera = omitidos(entregas, pegasus ? CabeEnPegasus : CabeEnXml);
+    QJsonObject objeto { { u"format"_s, pegasus ? u"pegasus"_s : u"gamelist"_s },
+        { u"omitted"_s, QJsonArray::fromStringList(fuera) } };
+    if (sesion.Tiene(u"to"_s))
+        bien = entrega(sesion, texto, objeto) && bien;
+    else
+        objeto[u"text"_s] = texto;
+    if (sesion.EnJson())
+        sesion.Json(objeto);
+    else if (!sesion.Tiene(u"to"_s))
+        sesion.Escribe(texto.chopped(texto.isEmpty() ? 0 : 1).split(u'\n'));
+    for (const QString &nombre : fuera)
+        sesion.Avisa(nombre + u": "_s + sesion.palabras.Zbo_NoExporta);
+    return bien && fuera.isEmpty() ? Bien : Hallazgos;
+}
+
+} // namespace
+
+const Orden &OrdenExportar()
+{
+    static const Orden orden { u"export"_s, u"SYSTEM [EMULATOR]"_s, &Palabras::Zbo_Export,
+        { { u"pegasus"_s, {}, &Palabras::Zbo_OpPegasus }, { u"to"_s, u"FILE"_s, &Palabras::Zbo_OpTo },
+            OpcionWrite() },
+        exporta };
+    return orden;
+}
+
+} // namespace companion

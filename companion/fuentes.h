@@ -1,0 +1,68 @@
+// Descriptions of games out of lists of other makers, read in pieces of any length.
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QSet>
+#include <QString>
+#include <QXmlStreamReader>
+
+#include <optional>
+
+namespace companion {
+
+// A list is XML where it begins with "<": a DAT, a list of MAME or of its software, or a gamelist.xml. Else
+// it is lines of name, tab, description; other lines are passed over. Only what is asked for is kept, so that
+// a list of any length takes little room.
+class LectorDeFuente {
+public:
+    // Names in upper case, with their endings and without.
+    explicit LectorDeFuente(QSet<QString> buscados);
+
+    // Does nothing behind an error.
+    void Trozo(const QByteArray &bytes);
+    void Fin();
+
+    // The first description of each name asked for, by the names.
+    const QHash<QString, QString> &Textos() const { return m_textos; }
+
+    // Whether the descriptions are those of a DAT or of MAME, with marks in brackets and articles behind.
+    bool EsDeCatalogo() const { return m_deCatalogo; }
+
+    struct Error {
+        qint64 linea;
+        QString motivo;
+    };
+    const std::optional<Error> &ElError() const { return m_error; }
+
+private:
+    enum class Clase { SinSaber, Xml, Lineas };
+
+    void leeXml();
+    void empiezaElemento();
+    void acabaElemento();
+    void leeLineas(bool hastaElFin);
+    void linea(const QByteArray &bytes);
+    void anota(const QString &nombre, const QString &texto);
+
+    const QSet<QString> m_buscados;
+    QHash<QString, QString> m_textos;
+    std::optional<Error> m_error;
+    Clase m_clase = Clase::SinSaber;
+    QByteArray m_pendiente; // bytes without an end of line yet
+    bool m_demasiado = false; // the line that they belong to is none
+
+    QXmlStreamReader m_xml;
+    int m_hondo = 0;
+    int m_juego = 0; // the depth of the game's element, 0 outside of one
+    QString m_elemento; // the child whose text is being read
+    QString m_nombre;
+    QString m_descripcion;
+    QString m_ruta; // of a gamelist.xml
+    QString m_titulo;
+    QString m_rom;
+    int m_roms = 0;
+    bool m_deCatalogo = false;
+};
+
+} // namespace companion

@@ -1,0 +1,160 @@
+// zembro describe.
+#include "mesadepruebas.h"
+
+#include "core/descripciones.h"
+
+#include <QJsonArray>
+
+using namespace Qt::StringLiterals;
+using core::ConDescripciones;
+using core::LasQueHay;
+
+namespace {
+
+class Describe : public MesaConJuegos {
+protected:
+    Describe()
+    {
+        Pon(u"roms/Legend of Zelda, The (Europe) (Rev 1).nes"_s, "z");
+        Pon(u"roms/Tetris (Europe).nes"_s, "t");
+        Pon(u"roms/Tetris (USA).nes"_s, "t");
+        Borra(u"roms/Zelda.nes"_s);
+    }
+
+    // The block's lines behind the system's name.
+    QByteArray Bloque() const
+    {
+        const QByteArray todo = Bytes(u"Zembro.rom"_s);
+        EXPECT_TRUE(todo.startsWith("Sis\r\n"));
+        return todo.sliced(5, todo.indexOf("'\r\n") - 5);
+    }
+};
+
+const QString Notas =
+    u"Other\r\nA.NES,\"O\"\r\n'\r\nSis\r\nA.NES,\"One\"\r\n\"B,\",\"Two\"\r\nC.NES,\"Three\",D.NES,\"Four\"\r\n'\r\n[EOF]\r\n"_s;
+
+} // namespace
+
+TEST(ConDescripciones, NewOnesStandFirstInTheBlock)
+{
+    const core::Descritas hecho = ConDescripciones(
+        Notas, u"Sis"_s, { { u"x.nes"_s, u"X"_s }, { u"a.nes"_s, u"Y"_s } }, LasQueHay::Quedan);
+    EXPECT_EQ(hecho.texto, QString(Notas).replace(u"Sis\r\n"_s, u"Sis\r\nX.NES,\"X\"\r\n"_s));
+    EXPECT_EQ(hecho.nuevas, 1);
+    EXPECT_EQ(hecho.cambiadas, 0);
+    EXPECT_TRUE(hecho.fuera.empty());
+}
+
+TEST(ConDescripciones, ChangesRecordsThatHaveTheirLinesForThemselves)
+{
+    const core::Descritas hecho = ConDescripciones(Notas, u"Sis"_s,
+        { { u"A.NES"_s, u"1"_s }, { u"B,"_s, u"2"_s }, { u"C.NES"_s, u"3"_s } }, LasQueHay::Cambian);
+    EXPECT_EQ(
+        hecho.texto, QString(Notas).replace(u"\"One\""_s, u"\"1\""_s).replace(u"\"Two\""_s, u"\"2\""_s));
+    EXPECT_EQ(hecho.cambiadas, 2);
+    ASSERT_EQ(hecho.fuera.size(), 1u);
+    EXPECT_EQ(hecho.fuera[0].clave, u"C.NES"_s);
+}
+
+TEST(ConDescripciones, WhatIsThereAlreadyOrCannotComeBackStaysOut)
+{
+    const core::Descritas hecho = ConDescripciones(Notas, u"Sis"_s,
+        { { u"X"_s, u"One"_s }, { u""_s, u"Y"_s }, { u"Z"_s, u"a\",b"_s }, { u"N"_s, u"a\r\n'\r\nb"_s } },
+        LasQueHay::Quedan);
+    EXPECT_EQ(hecho.texto, QString(Notas).replace(u"Sis\r\n"_s, u"Sis\r\nN,\"a  '  b\"\r\n"_s));
+    EXPECT_EQ(hecho.fuera.size(), 3u);
+    EXPECT_EQ(ConDescripciones(Notas, u"None"_s, { { u"X"_s, u"X"_s } }, LasQueHay::Quedan).texto, Notas);
+    EXPECT_EQ(
+        ConDescripciones(Notas, u"Sis"_s, { { u"A.NES"_s, u"One"_s } }, LasQueHay::Cambian).texto, Notas);
+}
+
+TEST(ConDescripciones, LeavesTheListReadable)
+{
+    std::vector<core::Descripcion> muchas;
+    for (int i = 0; i < core::MaxROMs + 10; ++i)
+        muchas.push_back({ u"K%1"_s.arg(i), u"T%1"_s.arg(i) });
+    const core::Descritas hecho = ConDescripciones(u"Sis\r\n'\r\n"_s, u"Sis"_s, muchas, LasQueHay::Quedan);
+    EXPECT_EQ(hecho.nuevas, core::MaxROMs - 1);
+    EXPECT_EQ(hecho.fuera.size(), 11u);
+}
+
+TEST_F(Describe, FromTheNamesOfTheFiles)
+{
+    const QByteArray antes = Bytes(u"Zembro.rom"_s);
+    const Respuesta respuesta = Zembro({ u"describe"_s, u"sis"_s });
+    EXPECT_EQ(respuesta.estado, companion::Hallazgos) << respuesta.error.toStdString();
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), antes);
+    EXPECT_TRUE(respuesta.salida.contains(
+        "\n+\"LEGEND OF ZELDA, THE (EUROPE) (REV 1).NES\",\"The Legend of Zelda\"\n"))
+        << respuesta.salida.toStdString();
+    EXPECT_TRUE(respuesta.salida.endsWith("New: 5. Changed: 0. --write writes them.\n"));
+    EXPECT_EQ(Zembro({ u"describe"_s, u"Sis"_s, u"--write"_s }).salida, "New: 5. Changed: 0.\n");
+    EXPECT_EQ(Bloque(),
+        "SONIC,\"Sonic\"\r\n\"LEGEND OF ZELDA, THE (EUROPE) (REV 1).NES\",\"The Legend of Zelda\"\r\n"
+        "TETRIS (EUROPE).NES,\"Tetris (Europe)\"\r\nTETRIS (USA).NES,\"Tetris (USA)\"\r\n"
+        "ZELDA II.NES,\"Zelda II\"\r\nMARIO.NES,\"Super Mario\"\r\n");
+    EXPECT_FALSE(Json({ u"describe"_s, u"Sis"_s })[u"changed"_s].toBool());
+}
+
+TEST_F(Describe, WithTagsTheyStay_AndWithReplaceTheDescriptionsThatWereThereGo)
+{
+    Json({ u"describe"_s, u"Sis"_s, u"--tags"_s, u"--replace"_s, u"--write"_s });
+    EXPECT_TRUE(Bloque().contains("\"The Legend of Zelda (Europe) (Rev 1)\"\r\n"));
+    EXPECT_TRUE(Bloque().contains("MARIO.NES,\"Mario\"\r\n"));
+    EXPECT_FALSE(Bloque().contains("Super Mario"));
+    // Without them once more.
+    EXPECT_EQ(Json({ u"describe"_s, u"Sis"_s, u"--replace"_s, u"--write"_s })[u"replaced"_s].toInt(), 1);
+    EXPECT_TRUE(Bloque().contains("\"The Legend of Zelda\"\r\n"));
+    EXPECT_FALSE(Json({ u"describe"_s, u"Sis"_s, u"--replace"_s })[u"changed"_s].toBool());
+}
+
+TEST_F(Describe, FromAList)
+{
+    Pon(u"x.dat"_s,
+        "<datafile><game name=\"Zelda II\"><description>Zelda II - Quest, The (EU)</description></game>"
+        "<game name=\"m\"><description>Not the old one</description><rom "
+        "name=\"mario.nes\"/></game></datafile>");
+    const QString lista = Ruta(u"x.dat"_s);
+    EXPECT_EQ(Json({ u"describe"_s, u"Sis"_s, u"--from"_s, lista, u"--write"_s })[u"added"_s].toInt(), 1);
+    EXPECT_EQ(Bloque(), "ZELDA II.NES,\"Zelda II - The Quest\"\r\nMARIO.NES,\"Super Mario\"\r\n");
+    Pon(u"x.dat"_s, "Mario.nes\tOne, \"Two\" <&> (EU)\nsonic\tSonic!\n");
+    EXPECT_EQ(
+        Json({ u"describe"_s, u"Sis"_s, u"--from"_s, lista, u"--replace"_s, u"--write"_s })[u"replaced"_s]
+            .toInt(),
+        1);
+    EXPECT_EQ(Bloque(),
+        "SONIC,\"Sonic!\"\r\nZELDA II.NES,\"Zelda II - The Quest\"\r\nMARIO.NES,\"One, 'Two' <&> (EU)\"\r\n");
+}
+
+TEST_F(Describe, OfAListThatCannotBeReadNothingIsTaken)
+{
+    const QByteArray antes = Bytes(u"Zembro.rom"_s);
+    Pon(u"x.dat"_s, "<datafile>\n<game name=\"Zelda II\"><description>Z</description></game>\n<game");
+    const Respuesta rota = Zembro({ u"describe"_s, u"Sis"_s, u"--from"_s, Ruta(u"x.dat"_s), u"--write"_s });
+    EXPECT_EQ(rota.estado, companion::NoPudo);
+    EXPECT_TRUE(rota.error.contains("x.dat can't be read: line 3, ")) << rota.error.toStdString();
+    EXPECT_EQ(
+        Zembro({ u"describe"_s, u"Sis"_s, u"--from"_s, u"/gone"_s }).error, "zembro: There is no /gone.\n");
+    EXPECT_EQ(Zembro({ u"describe"_s, u"Sis"_s, u"--from"_s, Ruta(u"roms"_s) }).estado, companion::NoPudo);
+    EXPECT_EQ(Zembro({ u"describe"_s, u"Nes"_s, u"--write"_s }).estado, companion::NoPudo);
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), antes);
+}
+
+TEST_F(Describe, WhatCannotBeKeptIsSaid)
+{
+    Pon(u"roms/a\nb.nes"_s, "x");
+    Pon(u"roms/Tetris [Europe).nes"_s, "x");
+    const QJsonObject hecho = Json({ u"describe"_s, u"Sis"_s, u"--write"_s }, companion::Hallazgos);
+    ASSERT_EQ(hecho[u"refused"_s].toArray().size(), 1);
+    EXPECT_EQ(hecho[u"refused"_s][0][u"reason"_s].toString(), u"name"_s);
+    EXPECT_TRUE(hecho[u"written"_s].toBool());
+}
+
+TEST_F(Describe, AListOfThousandsIsDescribedInOneRewrite)
+{
+    for (int i = 0; i < 3000; ++i)
+        Pon(u"roms/Game %1 (EU).nes"_s.arg(i), "x");
+    const qint64 antes = TiempoDeTrabajo();
+    EXPECT_GE(Json({ u"describe"_s, u"Sis"_s, u"--write"_s })[u"added"_s].toInt(), 3000);
+    EXPECT_LT(TiempoDeTrabajo() - antes, 3000);
+}
