@@ -139,7 +139,7 @@ void Label::shorten()
     m_shown = m_shorten(text(), [&](const QString &part) {
         return metrics.horizontalAdvance(shownPart(part)) <= contentsRect().width();
     });
-    if (m_whole && m_whole->isVisible())
+    if (underMouse())
         showWhole();
 }
 

@@ -293,6 +293,11 @@ TEST_F(ShortenedLabels, ShowTheirWholeCaptionUnderThePointer)
     leave();
     enter();
     EXPECT_FALSE(whole());
+    label.SetCaption(u"AAAAAAAAAA iiii"_s);
+    EXPECT_TRUE(whole()) << "the pointer rests on it already";
+    leave();
+    label.SetCaption(u"BBBBBBBBBB iiii"_s);
+    EXPECT_FALSE(whole());
 }
 
 TEST_F(ShortenedLabels, ShowAllOfACaptionWiderThanTheWindow_OnSeveralLines)

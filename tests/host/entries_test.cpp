@@ -10,6 +10,7 @@
 #include <chrono>
 #include <optional>
 #include <thread>
+#include <vector>
 
 #include <sys/stat.h>
 
@@ -107,6 +108,16 @@ TEST_F(Attributes, ClearingFollowsNoLink)
 
 using Lengths = DiskTest;
 
+namespace {
+
+std::vector<qint64> allOf(const LengthsIn &lengths, const QStringList &names)
+{
+    const QList<qint64> all = lengths.ofAll(names);
+    return { all.begin(), all.end() };
+}
+
+} // namespace
+
 TEST_F(Lengths, AreInBytes)
 {
     makeFile("Empty", "");
@@ -152,7 +163,8 @@ TEST_F(Lengths, OfManyFilesOfADirectory_AreThoseOfEach)
             SCOPED_TRACE((directory + name).toStdString());
             qint64 length = -1;
             const int failure = failureOf([&] { length = fileLength(directory + name); });
-            EXPECT_EQ(lengths.ofAll({ name }), failure == 0 ? QList { length } : QList<qint64>());
+            EXPECT_EQ(
+                allOf(lengths, { name }), failure == 0 ? std::vector { length } : std::vector<qint64>());
             qint64 ofMany = -1;
             EXPECT_EQ(failureOf([&] { ofMany = lengths(directory + name); }), failure);
             EXPECT_EQ(ofMany, length);
@@ -227,9 +239,10 @@ TEST_F(Lengths, OfAll_EndAheadOfTheFirstThatCannotBeHad)
     makeFile("Roms/One.nes", "abc");
     makeFile("Roms/two.nes", "abcd");
     const LengthsIn lengths(path(u"Roms/"_s));
-    EXPECT_EQ(lengths.ofAll({}), QList<qint64>());
-    EXPECT_EQ(lengths.ofAll({ u"TWO.NES"_s, u"One.nes"_s, u"two.nes"_s }), (QList<qint64> { 4, 3, 4 }));
-    EXPECT_EQ(lengths.ofAll({ u"One.nes"_s, u"gone"_s, u"two.nes"_s }), QList<qint64> { 3 });
+    EXPECT_EQ(allOf(lengths, {}), std::vector<qint64>());
+    EXPECT_EQ(
+        allOf(lengths, { u"TWO.NES"_s, u"One.nes"_s, u"two.nes"_s }), (std::vector<qint64> { 4, 3, 4 }));
+    EXPECT_EQ(allOf(lengths, { u"One.nes"_s, u"gone"_s, u"two.nes"_s }), std::vector<qint64> { 3 });
 }
 
 TEST_F(Lengths, OfAll_AreAskedForTogether_WhereEachTakesLong)
