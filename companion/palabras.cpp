@@ -54,6 +54,8 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_Check", &P::Zbo_Check },
         { u"Zbo_OpMend", &P::Zbo_OpMend },
         { u"Zbo_OpWrite", &P::Zbo_OpWrite },
+        { u"Zbo_MendTodo", &P::Zbo_MendTodo },
+        { u"Zbo_WriteMend", &P::Zbo_WriteMend },
         { u"Zbo_NoLeida", &P::Zbo_NoLeida },
         { u"Zbo_Repetido", &P::Zbo_Repetido },
         { u"Zbo_ExtLarga", &P::Zbo_ExtLarga },

@@ -66,6 +66,9 @@ struct Palabras {
     QString Zbo_Check = QStringLiteral("checks the files, and every configured emulator");
     QString Zbo_OpMend = QStringLiteral("shows how to repair what has one answer only");
     QString Zbo_OpWrite = QStringLiteral("writes it, instead of showing it");
+    QString Zbo_MendTodo =
+        QStringLiteral("--mend is for the whole directory: leave SYSTEM and EMULATOR out.");
+    QString Zbo_WriteMend = QStringLiteral("Of check, --write goes with --mend alone.");
     QString Zbo_NoLeida = QStringLiteral("No reader takes this line; correct or remove it: %1");
     QString Zbo_Repetido = QStringLiteral("This name stands twice; the second one is never found: %1");
     QString Zbo_ExtLarga = QStringLiteral("An extension of more than three letters fits no file: %1");

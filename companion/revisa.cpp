@@ -131,7 +131,12 @@ int remienda(Sesion &sesion)
 
 int hazRevision(Sesion &sesion)
 {
-    return sesion.Tiene(u"mend"_s) ? remienda(sesion) : revisaTodo(sesion);
+    const bool remendando = sesion.Tiene(u"mend"_s);
+    if (remendando && !sesion.Argumentos().isEmpty())
+        return sesion.Falla(sesion.palabras.Zbo_MendTodo);
+    if (!remendando && sesion.Tiene(u"write"_s))
+        return sesion.Falla(sesion.palabras.Zbo_WriteMend);
+    return remendando ? remienda(sesion) : revisaTodo(sesion);
 }
 
 } // namespace

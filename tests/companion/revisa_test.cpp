@@ -107,6 +107,28 @@ TEST_F(Check, MendShowsWhatItWouldDo_AndWritesItWhereItIsTold)
     EXPECT_FALSE(QFile::exists(Ruta(u"Zembro.tmp"_s)));
 }
 
+TEST_F(Check, MendIsForTheWholeDirectory)
+{
+    Cambia(u"Zembro.emu"_s, "'------\r\n[EOF]\r\n", "");
+    const QByteArray roto = Bytes(u"Zembro.emu"_s);
+    for (const QString &sistema : { u"Sis"_s, u"nosuch"_s, QString() }) {
+        const Respuesta respuesta = Zembro({ u"check"_s, sistema, u"--mend"_s, u"--write"_s });
+        EXPECT_EQ(respuesta.estado, companion::NoPudo);
+        EXPECT_EQ(
+            respuesta.error, "zembro: --mend is for the whole directory: leave SYSTEM and EMULATOR out.\n");
+        EXPECT_EQ(respuesta.salida, "");
+    }
+    EXPECT_EQ(Bytes(u"Zembro.emu"_s), roto);
+}
+
+TEST_F(Check, WritesOnlyWhatItMends)
+{
+    const Respuesta respuesta = Zembro({ u"check"_s, u"--write"_s });
+    EXPECT_EQ(respuesta.estado, companion::NoPudo);
+    EXPECT_EQ(respuesta.error, "zembro: Of check, --write goes with --mend alone.\n");
+    EXPECT_EQ(respuesta.salida, "");
+}
+
 TEST_F(Check, NotesThatRunIntoTheNextSystemsAreSaid_AndMended)
 {
     Pon(u"Zembro.sye"_s, "-Sis\r\n'\r\n+Uno\r\n'------\r\n-Otro\r\n'\r\n'-----\r\n[EOF]\r\n");
