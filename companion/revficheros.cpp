@@ -82,7 +82,12 @@ QStringList SistemasConocidos()
 {
     QStringList nombres;
     for (const QString &fichero : { u"Zembro.emu"_s, u"Zembro.sye"_s }) {
-        const QString texto = TextoDelPrograma(fichero);
+        QString texto;
+        try {
+            texto = TextoDelPrograma(fichero);
+        } catch (const host::Failure &) {
+            continue; // a finding of its own
+        }
         for (const core::LineaConFin &linea : core::EnLineas(texto)) {
             if (linea.linea.startsWith(u'-'))
                 nombres += valorDe(linea.linea);

@@ -35,6 +35,19 @@ QJsonObject enJson(const Pareja &pareja, const Cuenta &cuenta)
         { u"without_capture"_s, cuenta.sinCaptura } };
 }
 
+QJsonArray enJson(const Revision &revision)
+{
+    QJsonArray todos;
+    for (const Hallazgo &hallazgo : revision)
+        todos += enJson(hallazgo);
+    return todos;
+}
+
+QJsonObject enJson(const QString &fichero, const QStringList &diferencia)
+{
+    return { { u"file"_s, fichero }, { u"diff"_s, QJsonArray::fromStringList(diferencia) } };
+}
+
 QString enLinea(const Hallazgo &hallazgo)
 {
     if (!hallazgo.pareja.isEmpty())
@@ -77,7 +90,7 @@ int revisaTodo(Sesion &sesion)
         revisaFicheros(sesion, revision);
     const std::vector<Pareja> parejas =
         hayCatalogo ? ParejasPedidas(sesion, sistema, sesion.Argumento(1)) : std::vector<Pareja>();
-    if (parejas.empty() && !sistema.isEmpty())
+    if (parejas.empty() && !(sistema + sesion.Argumento(1)).isEmpty())
         return NoPudo;
     QJsonArray cuentas;
     QStringList lineas;
@@ -89,11 +102,8 @@ int revisaTodo(Sesion &sesion)
             QString::number(cuenta.filtrados), QString::number(cuenta.sinCaptura));
     }
     RevisaCapturas(sesion, parejas, revision);
-    QJsonArray hallazgos;
-    for (const Hallazgo &hallazgo : revision)
-        hallazgos += enJson(hallazgo);
     if (sesion.EnJson()) {
-        sesion.Json({ { u"findings"_s, hallazgos }, { u"pairs"_s, cuentas } });
+        sesion.Json({ { u"findings"_s, enJson(revision) }, { u"pairs"_s, cuentas } });
     } else {
         for (const Hallazgo &hallazgo : revision)
             sesion.Escribe(enLinea(hallazgo));
@@ -102,30 +112,49 @@ int revisaTodo(Sesion &sesion)
     return revision.empty() ? Bien : Hallazgos;
 }
 
-// Shows or makes the repairs, a file after the other. Each is decided by the text that the rewrite has just
-// read.
+// What a repair changes, or would change. It is decided by the text that the rewrite has just read.
+QStringList remendado(Sesion &sesion, const Remiendo &remiendo)
+{
+    QString antes = TextoDelPrograma(remiendo.fichero);
+    QString despues = remiendo.cambio(antes);
+    if (sesion.Tiene(u"write"_s) && !Diferencia(remiendo.fichero, antes, despues).isEmpty()) {
+        sesion.M.Ficheros.closeAll();
+        sesion.M.Ficheros.rewrite(
+            host::programFile(remiendo.fichero), u"Zembro.tmp"_s, [&](const QString &texto) {
+                antes = texto;
+                despues = remiendo.cambio(texto);
+                return despues;
+            });
+    }
+    return Diferencia(remiendo.fichero, antes, despues);
+}
+
+// Shows or makes the repairs, a file after the other. What can't be repaired is told behind what was.
 int remienda(Sesion &sesion)
 {
+    if (!host::exists(host::programFile(u"Zembro.emu"_s)))
+        return sesion.Falla(sesion.palabras.Zbo_NoDir.arg(host::programDirectory()));
     const bool escribe = sesion.Tiene(u"write"_s);
     QJsonArray cambios;
     QStringList lineas;
+    Revision fallos;
     for (const Remiendo &remiendo : Remiendos()) {
-        const QString antes = TextoDelPrograma(remiendo.fichero);
-        const QStringList diferencia = Diferencia(remiendo.fichero, antes, remiendo.cambio(antes));
-        if (diferencia.isEmpty())
-            continue;
-        if (escribe) {
-            sesion.M.Ficheros.closeAll();
-            sesion.M.Ficheros.rewrite(host::programFile(remiendo.fichero), u"Zembro.tmp"_s, remiendo.cambio);
-        }
-        cambios += QJsonObject { { u"file"_s, remiendo.fichero },
-            { u"diff"_s, QJsonArray::fromStringList(diferencia) } };
-        lineas += diferencia;
+        revisa(fallos, remiendo.fichero, [&] {
+            const QStringList diferencia = remendado(sesion, remiendo);
+            if (!diferencia.isEmpty())
+                cambios += enJson(remiendo.fichero, diferencia);
+            lineas += diferencia;
+        });
     }
     if (sesion.EnJson())
-        sesion.Json({ { u"written"_s, escribe }, { u"changes"_s, cambios } });
+        sesion.Json(
+            { { u"written"_s, escribe }, { u"changes"_s, cambios }, { u"findings"_s, enJson(fallos) } });
     else
         sesion.Escribe(lineas);
+    for (const Hallazgo &fallo : fallos)
+        sesion.Avisa(enLinea(fallo));
+    if (!fallos.empty())
+        return NoPudo;
     return cambios.isEmpty() || escribe ? Bien : Hallazgos;
 }
 

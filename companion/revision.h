@@ -45,7 +45,7 @@ void RevisaCapturas(Sesion &sesion, const std::vector<Pareja> &parejas, Revision
 // A text file of the program directory.
 QString TextoDelPrograma(const QString &fichero);
 
-// The names of the systems of the catalogue and of the database.
+// The names of the systems of the catalogue and of the database, of that alone that can be read.
 QStringList SistemasConocidos();
 
 // A change of a text file that has one answer only.

@@ -129,6 +129,43 @@ TEST_F(Check, WritesOnlyWhatItMends)
     EXPECT_EQ(respuesta.salida, "");
 }
 
+TEST_F(Check, WithoutOneFileTheOthersAreMended_AndToldFirst)
+{
+    const QByteArray notas = Bytes(u"Zembro.rom"_s);
+    const QByteArray base = Bytes(u"Zembro.sye"_s);
+    for (const QString &fichero : { u"Zembro.rom"_s, u"Zembro.sye"_s }) {
+        Pon(u"Zembro.rom"_s, QByteArray(notas).replace("Sis\r\nMARIO.NES,\"Super Mario\"\r\n'\r\n", ""));
+        Pon(u"Zembro.sye"_s, QByteArray(base).replace("[EOF]\r\n", ""));
+        Borra(fichero);
+        const QString otro = fichero == u"Zembro.rom" ? u"Zembro.sye"_s : u"Zembro.rom"_s;
+        const QByteArray roto = Bytes(otro);
+        EXPECT_THAT(clases(), testing::Contains(u"unreadable"_s));
+        EXPECT_EQ(Zembro({ u"check"_s, u"--mend"_s }).estado, companion::NoPudo);
+        EXPECT_EQ(Bytes(otro), roto);
+        const Respuesta respuesta = Zembro({ u"check"_s, u"--mend"_s, u"--write"_s });
+        EXPECT_EQ(respuesta.estado, companion::NoPudo);
+        EXPECT_TRUE(respuesta.salida.startsWith("--- " + otro.toUtf8() + '\n'))
+            << respuesta.salida.toStdString();
+        EXPECT_TRUE(respuesta.error.startsWith("zembro: " + fichero.toUtf8() + ": "))
+            << respuesta.error.toStdString();
+        EXPECT_EQ(respuesta.error.count('\n'), 1);
+        EXPECT_NE(Bytes(otro), roto);
+        EXPECT_FALSE(QFile::exists(Ruta(fichero)));
+        const QJsonObject json = Json({ u"check"_s, u"--mend"_s, u"--write"_s }, companion::NoPudo);
+        EXPECT_EQ(json[u"findings"_s][0][u"kind"_s].toString(), u"unreadable"_s);
+        EXPECT_EQ(json[u"findings"_s][0][u"file"_s].toString(), fichero);
+    }
+}
+
+TEST_F(Check, ADirectoryWithoutACatalogueIsNotMended)
+{
+    Borra(u"Zembro.emu"_s);
+    Cambia(u"Zembro.sye"_s, "[EOF]\r\n", "");
+    const QByteArray roto = Bytes(u"Zembro.sye"_s);
+    EXPECT_EQ(Zembro({ u"check"_s, u"--mend"_s, u"--write"_s }).estado, companion::NoPudo);
+    EXPECT_EQ(Bytes(u"Zembro.sye"_s), roto);
+}
+
 TEST_F(Check, NotesThatRunIntoTheNextSystemsAreSaid_AndMended)
 {
     Pon(u"Zembro.sye"_s, "-Sis\r\n'\r\n+Uno\r\n'------\r\n-Otro\r\n'\r\n'-----\r\n[EOF]\r\n");
