@@ -188,7 +188,7 @@ int responde(const Sesion &sesion, int estado, QJsonObject objeto, const core::D
 int describe(Sesion &sesion)
 {
     LeeMundo(sesion);
-    const std::vector<Pareja> parejas = ParejasPedidas(sesion, sesion.Argumento(0), {});
+    const std::vector<Pareja> parejas = ParejasDelSistema(sesion, sesion.Argumento(0), {});
     if (parejas.empty())
         return NoPudo;
     const QString sistema = parejas.front().nombreSistema;

@@ -99,7 +99,7 @@ bool entrega(const Sesion &sesion, const QString &texto, QJsonObject &objeto)
 int exporta(Sesion &sesion)
 {
     LeeMundo(sesion);
-    const std::vector<Pareja> parejas = ParejasPedidas(sesion, sesion.Argumento(0), sesion.Argumento(1));
+    const std::vector<Pareja> parejas = ParejasDelSistema(sesion, sesion.Argumento(0), sesion.Argumento(1));
     if (parejas.empty())
         return NoPudo;
     bool bien = true;

@@ -58,7 +58,7 @@ int lista(Sesion &sesion)
 {
     LeeMundo(sesion);
     const std::vector<Pareja> pedidas = ParejasPedidas(sesion, sesion.Argumento(0), sesion.Argumento(1));
-    if (pedidas.empty() && !sesion.Argumento(0).isEmpty())
+    if (pedidas.empty() && !(sesion.Argumento(0) + sesion.Argumento(1)).isEmpty())
         return NoPudo;
     int estado = Bien;
     QJsonArray parejas;

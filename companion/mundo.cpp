@@ -35,15 +35,28 @@ std::optional<qsizetype> elUnico(
     const QList<qsizetype> posiciones = Candidatos(nombres, texto);
     if (posiciones.size() == 1)
         return posiciones.first();
+    const Palabras &palabras = sesion.palabras;
     if (posiciones.isEmpty()) {
-        sesion.Falla(ninguno.arg(texto));
+        sesion.Falla(ninguno.arg(texto.isEmpty() ? u"\"\""_s : texto));
         return std::nullopt;
     }
-    QStringList lineas { sesion.palabras.Zbo_Varios.arg(texto) };
+    QStringList lineas { texto.isEmpty() ? palabras.Zbo_Cuales : palabras.Zbo_Varios.arg(texto) };
     for (const qsizetype i : posiciones)
         lineas += nombres[i];
     sesion.Falla(lineas);
     return std::nullopt;
+}
+
+// Leaves those of the one name that is meant; none, told already, where it can't be told which.
+void quedaUno(const Sesion &sesion, std::vector<Pareja> &parejas, QString Pareja::*nombre,
+    const QString &texto, const QString &ninguno)
+{
+    QStringList nombres;
+    for (const Pareja &pareja : parejas)
+        nombres += pareja.*nombre;
+    const std::optional<qsizetype> suya = elUnico(sesion, nombres, texto, ninguno);
+    const QString elegido = suya ? nombres[*suya] : QString();
+    std::erase_if(parejas, [&](const Pareja &pareja) { return !suya || pareja.*nombre != elegido; });
 }
 
 QString capturaDe(const core::Modulo &M, const Pareja &pareja, const QString &entrada)
@@ -83,20 +96,29 @@ std::vector<Pareja> Parejas(const core::Modulo &M)
 std::vector<Pareja> ParejasPedidas(Sesion &sesion, const QString &sistema, const QString &emulador)
 {
     std::vector<Pareja> parejas = Parejas(sesion.M);
-    const auto quedan = [&](QString Pareja::*nombre, const QString &texto, const QString &ninguno) {
-        if (texto.isEmpty())
-            return true;
-        QStringList nombres;
-        for (const Pareja &pareja : parejas)
-            nombres += pareja.*nombre;
-        const std::optional<qsizetype> suya = elUnico(sesion, nombres, texto, ninguno);
-        const QString elegido = suya ? nombres[*suya] : QString();
-        std::erase_if(parejas, [&](const Pareja &pareja) { return !suya || pareja.*nombre != elegido; });
-        return suya.has_value();
-    };
-    if (quedan(&Pareja::nombreSistema, sistema, sesion.palabras.Zbo_NoSistema))
-        quedan(&Pareja::nombreEmulador, emulador, sesion.palabras.Zbo_NoEmulador);
+    const Palabras &palabras = sesion.palabras;
+    if (!sistema.isEmpty())
+        quedaUno(sesion, parejas, &Pareja::nombreSistema, sistema, palabras.Zbo_NoSistema);
+    if (!emulador.isEmpty() && !parejas.empty())
+        quedaUno(sesion, parejas, &Pareja::nombreEmulador, emulador, palabras.Zbo_NoEmulador);
     return parejas;
+}
+
+std::vector<Pareja> ParejasDelSistema(Sesion &sesion, const QString &sistema, const QString &emulador)
+{
+    std::vector<Pareja> parejas = Parejas(sesion.M);
+    quedaUno(sesion, parejas, &Pareja::nombreSistema, sistema, sesion.palabras.Zbo_NoSistema);
+    if (!emulador.isEmpty() && !parejas.empty())
+        quedaUno(sesion, parejas, &Pareja::nombreEmulador, emulador, sesion.palabras.Zbo_NoEmulador);
+    return parejas;
+}
+
+std::optional<Pareja> ParejaPedida(Sesion &sesion, const QString &sistema, const QString &emulador)
+{
+    std::vector<Pareja> parejas = ParejasDelSistema(sesion, sistema, {});
+    if (!parejas.empty())
+        quedaUno(sesion, parejas, &Pareja::nombreEmulador, emulador, sesion.palabras.Zbo_NoEmulador);
+    return parejas.empty() ? std::nullopt : std::optional(parejas.front());
 }
 
 QString DirectorioDeJuegos(const core::Modulo &M, const Pareja &pareja)
@@ -152,6 +174,10 @@ std::optional<QString> EntradaPedida(
     const Sesion &sesion, const Pareja &pareja, const Listado &listado, const QString &texto)
 {
     const QStringList &entradas = listado.recuento.entradas;
+    if (entradas.isEmpty() && texto.isEmpty()) {
+        sesion.Falla(sesion.palabras.Zbo_NadaSeLanza);
+        return std::nullopt;
+    }
     if (Candidatos(entradas, texto).isEmpty()) {
         for (const QString &entrada : entradas) {
             if (host::sameName(JuegoDe(sesion.M, pareja, entrada).fichero, texto))

@@ -28,6 +28,13 @@ std::vector<Pareja> Parejas(const core::Modulo &M);
 // where no name fits, or several do.
 std::vector<Pareja> ParejasPedidas(Sesion &sesion, const QString &sistema, const QString &emulador);
 
+// The same of one system: where its name is empty there has to be no other.
+std::vector<Pareja> ParejasDelSistema(Sesion &sesion, const QString &sistema, const QString &emulador);
+
+// The one pair that these names mean; where a name is empty there has to be no other. None, told already,
+// where several are meant, or no one.
+std::optional<Pareja> ParejaPedida(Sesion &sesion, const QString &sistema, const QString &emulador);
+
 // The directory that a line of the catalogue names, as it stands there.
 QString DirectorioDeJuegos(const core::Modulo &M, const Pareja &pareja);
 QString DirectorioDeCapturas(const core::Modulo &M, const Pareja &pareja);

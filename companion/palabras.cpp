@@ -28,6 +28,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_NoEmulador", &P::Zbo_NoEmulador },
         { u"Zbo_NoJuego", &P::Zbo_NoJuego },
         { u"Zbo_Varios", &P::Zbo_Varios },
+        { u"Zbo_Cuales", &P::Zbo_Cuales },
         { u"Zbo_List", &P::Zbo_List },
         { u"Zbo_Command", &P::Zbo_Command },
         { u"Zbo_OpLines", &P::Zbo_OpLines },

@@ -33,6 +33,7 @@ struct Palabras {
     QString Zbo_NoEmulador = QStringLiteral("No emulator of the system fits %1.");
     QString Zbo_NoJuego = QStringLiteral("No listed game fits %1.");
     QString Zbo_Varios = QStringLiteral("Several fit %1:");
+    QString Zbo_Cuales = QStringLiteral("Several fit; name one of them:");
 
     // Listing, and telling what a launch would do.
     QString Zbo_List = QStringLiteral("lists the games as the main screen does");

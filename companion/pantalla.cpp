@@ -30,10 +30,10 @@ void PantallaDeTexto::Aviso(const QString &titulo, const QString &texto)
 std::optional<Pedida> JuegoPedido(Sesion &sesion)
 {
     LeeMundo(sesion);
-    const std::vector<Pareja> parejas = ParejasPedidas(sesion, sesion.Argumento(0), sesion.Argumento(1));
-    if (parejas.empty())
+    const std::optional<Pareja> pedida = ParejaPedida(sesion, sesion.Argumento(0), sesion.Argumento(1));
+    if (!pedida)
         return std::nullopt;
-    const Pareja &pareja = parejas.front();
+    const Pareja &pareja = *pedida;
     const QString texto = sesion.Argumento(2);
     const bool sinJuego = core::CargaSoloElEmulador(TipoDe(sesion.M, pareja));
     if (sinJuego && texto.isEmpty())

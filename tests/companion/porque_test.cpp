@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
+#include <QJsonDocument>
 
 using namespace Qt::StringLiterals;
 
@@ -111,6 +112,41 @@ TEST_F(Play, ASignalIsSaid_AndCountedAsAShellDoes)
     PonGuion(u"emu/uno.sh"_s, "kill -KILL $$\n");
     const QJsonObject json = Json({ u"play"_s, u"Sis"_s, u"Uno"_s, u"Zelda.nes"_s }, 128 + 9);
     EXPECT_EQ(json[u"signal"_s].toInt(), 9);
+}
+
+TEST_F(Play, ANameThatIsLeftEmptyIsNoName)
+{
+    PonGuion(u"emu/uno.sh"_s, "touch out\n");
+    Cambia(u"Zembro.emu"_s, "'------\r\n[EOF]",
+        "'------\r\n-Otro\r\nWEB1=\r\n'\r\n+Tres\r\nEXE=/x\r\nXDI=NO.0\r\nROM=/x/\r\nIMG=/x/\r\n"
+        "PAR1=\r\nPAR2=\r\nWEB2=\r\n'------\r\n[EOF]");
+    for (const QString &orden : { u"play"_s, u"command"_s }) {
+        EXPECT_EQ(Zembro({ orden, {}, {}, u"super"_s }).error,
+            "zembro: Several fit; name one of them:\n    Otro\n    Sis\n");
+        EXPECT_EQ(Zembro({ orden, u"Sis"_s, {} }).error,
+            "zembro: Several fit; name one of them:\n    Dos\n    Uno\n");
+        EXPECT_EQ(Zembro({ orden, u"Sis"_s, u"Uno"_s }).error,
+            "zembro: Several fit; name one of them:\n    Super Mario\n    Zelda II.nes\n    Zelda.nes\n");
+        EXPECT_EQ(Zembro({ orden, {}, {}, u"super"_s }).estado, companion::NoPudo);
+    }
+    for (const QString &orden : { u"describe"_s, u"export"_s }) {
+        const Respuesta respuesta = Zembro({ orden, {} });
+        EXPECT_EQ(respuesta.estado, companion::NoPudo);
+        EXPECT_TRUE(respuesta.error.startsWith("zembro: Several fit; name one of them:\n    Otro\n"));
+    }
+    EXPECT_EQ(Zembro({ u"list"_s, {}, u"nada"_s }).estado, companion::NoPudo);
+    EXPECT_EQ(Zembro({ u"check"_s, {}, u"nada"_s }).estado, companion::NoPudo);
+    EXPECT_FALSE(QFile::exists(Ruta(u"emu/out"_s)));
+    const Respuesta json = Zembro({ u"play"_s, {}, {}, u"super"_s, u"--json"_s });
+    EXPECT_EQ(QJsonDocument::fromJson(json.salida)[u"candidates"_s].toArray().size(), 2);
+}
+
+TEST_F(Play, TheOnlySystemAndEmulatorNeedNoName)
+{
+    const QByteArray catalogo = Bytes(u"Zembro.emu"_s);
+    Pon(u"Zembro.emu"_s,
+        catalogo.first(catalogo.indexOf("+Dos")) + catalogo.sliced(catalogo.indexOf("'------")));
+    EXPECT_EQ(Zembro({ u"play"_s, {}, {}, u"super"_s }).estado, companion::Bien);
 }
 
 TEST_F(Play, AStartThatFailsIsSaid)
