@@ -8,6 +8,9 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QProcess>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -112,6 +115,26 @@ TEST_F(Play, ASignalIsSaid_AndCountedAsAShellDoes)
     PonGuion(u"emu/uno.sh"_s, "kill -KILL $$\n");
     const QJsonObject json = Json({ u"play"_s, u"Sis"_s, u"Uno"_s, u"Zelda.nes"_s }, 128 + 9);
     EXPECT_EQ(json[u"signal"_s].toInt(), 9);
+}
+
+// Of the program itself: the emulator has the same outputs.
+TEST_F(Play, WithJsonTheAnswerStandsAloneOnTheStandardOutput)
+{
+    PonGuion(u"emu/uno.sh"_s, "echo of the emulator; echo beside >&2\n");
+    const auto juega = [&](const QStringList &opciones) {
+        auto proceso = std::make_unique<QProcess>();
+        proceso->start(QStringLiteral(ZEMBRO),
+            QStringList { u"play"_s, u"Sis"_s, u"Uno"_s, u"Zelda.nes"_s, u"--directory"_s, Ruta(QString()) }
+                + opciones);
+        EXPECT_TRUE(proceso->waitForFinished());
+        EXPECT_EQ(proceso->exitCode(), 0);
+        return proceso;
+    };
+    const auto json = juega({ u"--json"_s });
+    const QByteArray salida = json->readAllStandardOutput();
+    EXPECT_EQ(QJsonDocument::fromJson(salida)[u"status"_s].toInt(-1), 0) << salida.toStdString();
+    EXPECT_EQ(json->readAllStandardError(), "of the emulator\nbeside\n");
+    EXPECT_EQ(juega({})->readAllStandardOutput(), "of the emulator\n");
 }
 
 TEST_F(Play, ANameThatIsLeftEmptyIsNoName)
