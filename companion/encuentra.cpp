@@ -1,7 +1,7 @@
 #include "companion/encuentra.h"
 
 #include "companion/diferencia.h"
-#include "companion/revision.h"
+#include "companion/sesion.h"
 
 #include "finder/configura.h"
 
@@ -24,20 +24,39 @@ QJsonArray enJson(const std::vector<finder::Hallazgo> &puestos)
     return todos;
 }
 
+QJsonArray enJson(const std::vector<finder::Cambio> &cambios)
+{
+    QJsonArray todos;
+    for (const finder::Cambio &cambio : cambios)
+        todos += QJsonObject { { u"file"_s, cambio.fichero },
+            { u"diff"_s,
+                QJsonArray::fromStringList(Diferencia(cambio.fichero, cambio.antes, cambio.despues)) } };
+    return todos;
+}
+
+// What it would change and make.
+void cuentaEnsayo(const Sesion &sesion, const finder::Resultado &resultado)
+{
+    for (const finder::Cambio &cambio : resultado.cambios)
+        sesion.Escribe(Diferencia(cambio.fichero, cambio.antes, cambio.despues));
+    for (const QString &hecho : resultado.hechos)
+        sesion.Escribe(sesion.palabras.Zbo_SeHaria.arg(hecho));
+}
+
 void cuenta(const Sesion &sesion, const finder::Resultado &resultado, const finder::Encargo &encargo)
 {
     const Palabras &palabras = sesion.palabras;
     if (resultado.puestos.empty()) {
         sesion.Escribe(encargo.todo ? palabras.Zbo_NadaMas
                                     : palabras.Zbo_NadaNuevo.arg(encargo.directorio + u"/roms"_s));
-    } else if (encargo.ensayo) {
-        sesion.Escribe(Diferencia(u"Zembro.emu"_s, TextoDelPrograma(u"Zembro.emu"_s), resultado.catalogo));
-    } else {
+    } else if (!encargo.ensayo) {
         for (const finder::Hallazgo &puesto : resultado.puestos)
             sesion.Escribe(
                 palabras.Zbo_Configurado.arg(puesto.sistema, puesto.emulador.nombre, puesto.programa));
         sesion.Escribe(palabras.Zbo_Reinicia);
     }
+    if (encargo.ensayo)
+        cuentaEnsayo(sesion, resultado);
 }
 
 int encuentra(Sesion &sesion)
@@ -49,6 +68,8 @@ int encuentra(Sesion &sesion)
         sesion.Avisa(aviso);
     if (sesion.EnJson())
         sesion.Json({ { u"written"_s, !encargo.ensayo }, { u"found"_s, enJson(resultado.puestos) },
+            { u"changes"_s, enJson(resultado.cambios) },
+            { u"makes"_s, QJsonArray::fromStringList(resultado.hechos) },
             { u"notices"_s, QJsonArray::fromStringList(resultado.avisos) } });
     else
         cuenta(sesion, resultado, encargo);

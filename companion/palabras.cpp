@@ -92,6 +92,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_Find", &P::Zbo_Find },
         { u"Zbo_OpAll", &P::Zbo_OpAll },
         { u"Zbo_Configurado", &P::Zbo_Configurado },
+        { u"Zbo_SeHaria", &P::Zbo_SeHaria },
         { u"Zbo_Reinicia", &P::Zbo_Reinicia },
         { u"Zbo_NadaMas", &P::Zbo_NadaMas },
         { u"Zbo_NadaNuevo", &P::Zbo_NadaNuevo },

@@ -121,6 +121,7 @@ struct Palabras {
     QString Zbo_Find = QStringLiteral("finds the emulators that this machine has got since");
     QString Zbo_OpAll = QStringLiteral("also of systems without games, and every machine of MAME");
     QString Zbo_Configurado = QStringLiteral("Configured %1: %2, %3");
+    QString Zbo_SeHaria = QStringLiteral("Would be made: %1");
     QString Zbo_Reinicia = QStringLiteral("The program shows them at its next start. If it was open "
                                           "meanwhile, it may begin with another pair selected.");
     QString Zbo_NadaMas = QStringLiteral("Nothing to add: every emulator that was found is configured.");

@@ -17,6 +17,7 @@
 #include "host/paths.h"
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -44,6 +45,9 @@ public:
 
     // The text of the catalogue with what is chosen; the directories are there then.
     QString CatalogoCon(const QString &texto);
+
+    // Changes a file of the directory, or only tells it. A file is rewritten also where nothing changes.
+    void Cambia(const QString &ruta, const std::function<QString(const QString &)> &cambio);
 
     void EscribeNotas();
     void PonEnDescripciones();
@@ -93,6 +97,11 @@ QString Trabajo::CatalogoCon(const QString &texto)
     leeCatalogo(*m_despues, incorporacion.texto);
     for (const Descarte &descarte : incorporacion.descartados)
         avisaDeDescarte(descarte);
+    for (const Hallazgo &hallazgo : m_enLaMaquina)
+        resultado.hechos += FaltaParaJuegos(hallazgo);
+    for (const Hallazgo &hallazgo : incorporacion.puestos)
+        resultado.hechos += FaltaPara(hallazgo);
+    resultado.hechos.removeDuplicates();
     if (!m_encargo.ensayo) {
         for (const Hallazgo &hallazgo : m_enLaMaquina)
             PreparaJuegos(hallazgo);
@@ -101,6 +110,22 @@ QString Trabajo::CatalogoCon(const QString &texto)
     }
     resultado.puestos = std::move(incorporacion.puestos);
     return incorporacion.texto;
+}
+
+void Trabajo::Cambia(const QString &ruta, const std::function<QString(const QString &)> &cambio)
+{
+    Cambio suyo { ruta.sliced(host::lastSeparator(ruta) + 1), {}, {} };
+    const auto visto = [&](const QString &texto) {
+        suyo.antes = texto;
+        suyo.despues = cambio(texto);
+        return suyo.despues;
+    };
+    if (m_encargo.ensayo)
+        visto(textoDe(ruta));
+    else
+        host::NumberedFiles().rewrite(ruta, Borrador, visto);
+    if (suyo.antes != suyo.despues)
+        resultado.cambios.push_back(suyo);
 }
 
 void Trabajo::avisaDeDescarte(const Descarte &descarte)
@@ -147,8 +172,12 @@ void Trabajo::EscribeNotas()
         if (!nota.otroDirectorio.isEmpty() && hayJuegos(hallazgo))
             resultado.avisos += u"%1: there are games in %2, but its emulator looks in %3."_s.arg(
                 hallazgo.sistema, hallazgo.emulador.rom, nota.otroDirectorio);
+        if (!FaltaNota(hallazgo.emulador.rom, nota))
+            continue;
         try {
-            EscribeNota(hallazgo.emulador.rom, nota);
+            if (!m_encargo.ensayo)
+                EscribeNota(hallazgo.emulador.rom, nota);
+            resultado.hechos += hallazgo.emulador.rom + NombreDeNota;
         } catch (const host::Failure &failure) {
             resultado.avisos += QString::fromUtf8(failure.what());
         }
@@ -173,7 +202,7 @@ void Trabajo::PonEnDescripciones()
     if (!host::exists(fichero) || faltan(textoDe(fichero)).isEmpty())
         return;
     QStringList quedan;
-    host::NumberedFiles().rewrite(fichero, Borrador, [&](const QString &texto) {
+    Cambia(fichero, [&](const QString &texto) {
         QString completo = texto;
         for (const QString &sistema : faltan(texto))
             completo = core::ConSistemaNuevo(completo, sistema);
@@ -194,7 +223,7 @@ void Trabajo::ConservaSeleccion()
         return;
     const QString texto = textoDe(fichero);
     if (cambiado(texto) != texto)
-        host::NumberedFiles().rewrite(fichero, Borrador, cambiado);
+        Cambia(fichero, cambiado);
 }
 
 } // namespace
@@ -202,12 +231,8 @@ void Trabajo::ConservaSeleccion()
 Resultado Configura(const Encargo &encargo)
 {
     Trabajo trabajo(encargo);
-    if (encargo.ensayo) {
-        trabajo.resultado.catalogo = trabajo.CatalogoCon(textoDe(encargo.directorio + u"/Zembro.emu"_s));
-        return std::move(trabajo.resultado);
-    }
     const bool nuevo = !encargo.catalogo.isEmpty();
-    host::NumberedFiles().rewrite(nuevo ? encargo.catalogo : encargo.directorio + u"/Zembro.emu"_s, Borrador,
+    trabajo.Cambia(nuevo ? encargo.catalogo : encargo.directorio + u"/Zembro.emu"_s,
         [&trabajo](const QString &texto) { return trabajo.CatalogoCon(texto); });
     // The catalogue has them now: whatever else goes wrong is told beside what was done.
     const auto intenta = [&trabajo](void (Trabajo::*paso)()) {

@@ -10,13 +10,20 @@ struct Encargo {
     QString directorio; // of the program
     QString catalogo; // a new one, which isn't in its place yet; empty for the one in the directory
     bool todo = false; // also systems without games, and every machine of MAME
-    bool ensayo =
-        false; // writes nothing and makes nothing: only tells what it would add to the one in the directory
+    bool ensayo = false; // writes nothing and makes nothing: only tells what it would do in the directory
 };
 
+struct Cambio {
+    QString fichero; // its name
+    QString antes;
+    QString despues;
+};
+
+// What was done, or would be in a rehearsal.
 struct Resultado {
     std::vector<Hallazgo> puestos;
-    QString catalogo; // the text that it would be, in a rehearsal
+    std::vector<Cambio> cambios; // of text files that were there
+    QStringList hechos; // directories, closed by a separator, links and further files
     QStringList avisos; // what wasn't done, in English, one line each
 };
 

@@ -90,11 +90,16 @@ QString LineaDeNota(const Nota &nota)
         : linea.arg(nota.sistema, tipos, QString(), QString());
 }
 
+bool FaltaNota(const QString &directorio, const Nota &nota)
+{
+    return !host::exists(directorio + NombreDeNota) && !hayFicheros({ NombreDeNota }, nota.extensiones);
+}
+
 void EscribeNota(const QString &directorio, const Nota &nota)
 {
-    const QString ruta = directorio + NombreDeNota;
-    if (!host::exists(ruta) && !hayFicheros({ NombreDeNota }, nota.extensiones))
-        host::NumberedFiles().replace(ruta, u".LEEME.tmp"_s, LineaDeNota(nota) + u"\r\n"_s);
+    if (FaltaNota(directorio, nota))
+        host::NumberedFiles().replace(
+            directorio + NombreDeNota, u".LEEME.tmp"_s, LineaDeNota(nota) + u"\r\n"_s);
 }
 
 } // namespace finder

@@ -28,7 +28,8 @@ struct Nota {
 };
 QString LineaDeNota(const Nota &nota);
 
-// Writes it where there is none, unless the system would list it as a game.
+// Whether it is to be written: where there is none, unless the system would list it as a game.
+bool FaltaNota(const QString &directorio, const Nota &nota);
 void EscribeNota(const QString &directorio, const Nota &nota);
 
 } // namespace finder

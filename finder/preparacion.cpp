@@ -18,19 +18,61 @@ void haceDirectorio(const QString &ruta)
         throw host::Failure(host::PathAccess, u"make a directory"_s, ruta);
 }
 
-void enlaza(const QString &destino, const QString &enlace)
+bool estaEnlazado(const QString &destino, const QString &enlace)
 {
     const QFileInfo anterior(enlace);
-    if (anterior.isSymLink()) {
-        if (anterior.symLinkTarget() == QDir::cleanPath(destino))
-            return;
+    return anterior.isSymLink() && anterior.symLinkTarget() == QDir::cleanPath(destino);
+}
+
+void enlaza(const QString &destino, const QString &enlace)
+{
+    if (estaEnlazado(destino, enlace))
+        return;
+    if (QFileInfo(enlace).isSymLink())
         QFile::remove(enlace);
-    }
     if (!QFile::link(destino, enlace))
         throw host::Failure(host::PathAccess, u"make a link"_s, enlace);
 }
 
+struct Enlace {
+    QString destino;
+    QString lugar;
+};
+
+std::vector<Enlace> enlacesDe(const Hallazgo &hallazgo)
+{
+    if (hallazgo.arranque.isEmpty())
+        return {};
+    return { { hallazgo.programa, hallazgo.emulador.exe },
+        { QDir::cleanPath(hallazgo.emulador.rom), hallazgo.arranque + u"/roms"_s } };
+}
+
+QStringList losQueFaltan(const QStringList &directorios)
+{
+    QStringList faltan;
+    for (const QString &ruta : directorios) {
+        if (!ruta.isEmpty() && !QFileInfo(ruta).isDir())
+            faltan += QDir::cleanPath(ruta) + u'/';
+    }
+    return faltan;
+}
+
 } // namespace
+
+QStringList FaltaParaJuegos(const Hallazgo &hallazgo)
+{
+    return losQueFaltan({ hallazgo.emulador.rom });
+}
+
+QStringList FaltaPara(const Hallazgo &hallazgo)
+{
+    QStringList falta = losQueFaltan({ hallazgo.emulador.rom, hallazgo.emulador.img, hallazgo.arranque });
+    for (const Enlace &enlace : enlacesDe(hallazgo)) {
+        if (!estaEnlazado(enlace.destino, enlace.lugar))
+            falta += enlace.lugar;
+    }
+    return falta;
+}
 
 void PreparaJuegos(const Hallazgo &hallazgo)
 {
@@ -44,8 +86,8 @@ void Prepara(const Hallazgo &hallazgo)
     if (hallazgo.arranque.isEmpty())
         return;
     haceDirectorio(hallazgo.arranque);
-    enlaza(hallazgo.programa, hallazgo.emulador.exe);
-    enlaza(QDir::cleanPath(hallazgo.emulador.rom), hallazgo.arranque + u"/roms"_s);
+    for (const Enlace &enlace : enlacesDe(hallazgo))
+        enlaza(enlace.destino, enlace.lugar);
 }
 
 } // namespace finder

@@ -12,4 +12,8 @@ void PreparaJuegos(const Hallazgo &hallazgo);
 // there already stays, but for a link that leads elsewhere. Fails with 75 for what can't be made.
 void Prepara(const Hallazgo &hallazgo);
 
+// What they would make: directories, closed by a separator, and links.
+QStringList FaltaParaJuegos(const Hallazgo &hallazgo);
+QStringList FaltaPara(const Hallazgo &hallazgo);
+
 } // namespace finder

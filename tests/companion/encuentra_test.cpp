@@ -51,6 +51,38 @@ TEST_F(Find, ShowsWhatItWouldAdd_AndWritesItWhereItIsTold)
     EXPECT_EQ(otra.salida, "Nothing to add: every emulator that was found is configured.\n");
 }
 
+TEST_F(Find, ShowsEveryFileThatItChanges_AndNamesWhatItMakes)
+{
+    const QStringList ficheros { u"Zembro.emu"_s, u"Zembro.rom"_s, u"Zembro.cfg"_s };
+    QHash<QString, QByteArray> antes;
+    for (const QString &fichero : ficheros)
+        antes[fichero] = Bytes(fichero);
+    const QByteArray muestra = Zembro({ u"find"_s, u"--all"_s }).salida;
+    const QJsonObject json = Json({ u"find"_s, u"--all"_s }, companion::Hallazgos);
+    QStringList hechos;
+    for (const QJsonValue &uno : json[u"makes"_s].toArray()) {
+        hechos += uno.toString();
+        EXPECT_FALSE(QFile::exists(uno.toString())) << uno.toString().toStdString();
+        EXPECT_TRUE(muestra.contains("\nWould be made: " + uno.toString().toUtf8() + '\n'));
+    }
+    EXPECT_TRUE(hechos.contains(Ruta(u"roms/Jaguar/"_s))) << hechos.join(u' ').toStdString();
+    QStringList cambiados;
+    for (const QJsonValue &uno : json[u"changes"_s].toArray()) {
+        cambiados += uno[u"file"_s].toString();
+        EXPECT_TRUE(muestra.contains("--- " + uno[u"file"_s].toString().toUtf8() + '\n'));
+    }
+    for (const QString &fichero : ficheros)
+        EXPECT_EQ(Bytes(fichero), antes[fichero]);
+    const QJsonObject escrito = Json({ u"find"_s, u"--all"_s, u"--write"_s });
+    EXPECT_EQ(escrito[u"changes"_s], json[u"changes"_s]);
+    EXPECT_EQ(escrito[u"makes"_s], json[u"makes"_s]);
+    for (const QString &uno : std::as_const(hechos))
+        EXPECT_TRUE(QFile::exists(uno)) << uno.toStdString();
+    for (const QString &fichero : ficheros)
+        EXPECT_EQ(Bytes(fichero) != antes[fichero], cambiados.contains(fichero)) << fichero.toStdString();
+    EXPECT_EQ(cambiados, QStringList({ u"Zembro.emu"_s, u"Zembro.cfg"_s, u"Zembro.rom"_s }));
+}
+
 TEST_F(Find, WithoutGamesItSaysWhereToPutThem)
 {
     const Respuesta respuesta = Zembro({ u"find"_s });
