@@ -35,10 +35,12 @@ QString impedimento(const Sesion &sesion, const launch::Ensayo &ensayo)
 QJsonObject enJson(const launch::Ensayo::Zip &zip)
 {
     return { { u"archive"_s, zip.archivo }, { u"into"_s, zip.destino },
-        { u"files"_s, QJsonArray::fromStringList(zip.miembros.ficheros) },
-        { u"unreadable"_s, QJsonArray::fromStringList(zip.miembros.ilegibles) },
+        { u"files"_s, QJsonArray::fromStringList(zip.miembros.ficheros + zip.miembros.masAbajo) },
+        { u"unreadable"_s,
+            QJsonArray::fromStringList(zip.miembros.ilegibles + zip.miembros.ilegiblesMasAbajo) },
         { u"replaced"_s, QJsonArray::fromStringList(zip.queEstan) },
-        { u"removed"_s, zip.destinoNuevo ? u"directory"_s : u"files"_s } };
+        { u"stays"_s, QJsonArray::fromStringList(zip.seQuedan) },
+        { u"removed"_s, zip.seVaEntero ? u"directory"_s : u"files"_s } };
 }
 
 QJsonObject enJson(const Pedida &pedida, const launch::Ensayo &ensayo, const QString &motivo)
@@ -63,13 +65,15 @@ void cuentaZip(const Sesion &sesion, const launch::Ensayo::Zip &zip)
 {
     const Palabras &palabras = sesion.palabras;
     sesion.Escribe(palabras.Zbo_Desempaqueta.arg(zip.archivo, zip.destino));
-    for (const QString &fichero : zip.miembros.ficheros)
+    for (const QString &fichero : zip.miembros.ficheros + zip.miembros.masAbajo)
         sesion.Escribe(u"    "_s + fichero);
-    for (const QString &fichero : zip.miembros.ilegibles)
+    for (const QString &fichero : zip.miembros.ilegibles + zip.miembros.ilegiblesMasAbajo)
         sesion.Escribe(palabras.Zbo_Ilegible.arg(fichero));
     for (const QString &fichero : zip.queEstan)
         sesion.Escribe(palabras.Zbo_YaEsta.arg(fichero));
-    sesion.Escribe(zip.destinoNuevo ? palabras.Zbo_SeBorraDir : palabras.Zbo_SeBorran);
+    sesion.Escribe(zip.seVaEntero ? palabras.Zbo_SeBorraDir : palabras.Zbo_SeBorran);
+    for (const QString &subdirectorio : zip.seQuedan)
+        sesion.Escribe(palabras.Zbo_SeQueda.arg(zip.destino + u'/' + subdirectorio + u'/'));
 }
 
 void cuenta(const Sesion &sesion, const launch::Ensayo &ensayo, const QString &motivo)

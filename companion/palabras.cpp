@@ -41,6 +41,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_YaEsta", &P::Zbo_YaEsta },
         { u"Zbo_SeBorraDir", &P::Zbo_SeBorraDir },
         { u"Zbo_SeBorran", &P::Zbo_SeBorran },
+        { u"Zbo_SeQueda", &P::Zbo_SeQueda },
         { u"Zbo_NoArranca", &P::Zbo_NoArranca },
         { u"Zbo_NadaSeLanza", &P::Zbo_NadaSeLanza },
         { u"Zbo_SinPrograma", &P::Zbo_SinPrograma },

@@ -48,6 +48,7 @@ struct Palabras {
     QString Zbo_YaEsta = QStringLiteral("Is there already, and would be asked about: %1");
     QString Zbo_SeBorraDir = QStringLiteral("Afterwards the directory is removed with its files.");
     QString Zbo_SeBorran = QStringLiteral("Afterwards the unpacked files are removed.");
+    QString Zbo_SeQueda = QStringLiteral("Stays there afterwards: %1");
     QString Zbo_NoArranca = QStringLiteral("Doesn't start: %1");
     QString Zbo_NadaSeLanza = QStringLiteral("Nothing would be started.");
     QString Zbo_SinPrograma = QStringLiteral("The emulator's executable isn't there.");

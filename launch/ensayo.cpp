@@ -22,6 +22,7 @@ public:
 
     bool HazTemporal(const QString &carpeta) override
     {
+        m_nueva = true; // its plain files are swept ahead of it
         return host::findOnDisk(carpeta).isEmpty() || EsDirectorioPropio(carpeta);
     }
     void VaciaTemporal(const QString &) override { }
@@ -36,13 +37,20 @@ public:
 
     Desempaquetado Desempaqueta(const QString &ArchivoZip, const QString &destino) override
     {
-        Ensayo::Zip zip { host::trueSpelling(ArchivoZip), destino, ContenidoDe(ArchivoZip), {}, m_nueva };
-        if (!m_nueva) {
-            for (const QString &fichero : zip.miembros.ficheros) {
-                if (host::exists(destino + u'/' + fichero))
-                    zip.queEstan += fichero;
-            }
+        Ensayo::Zip zip { host::trueSpelling(ArchivoZip), destino, ContenidoDe(ArchivoZip), {}, {}, m_nueva };
+        const QStringList &posibles =
+            m_nueva ? zip.miembros.masAbajo : zip.miembros.ficheros + zip.miembros.masAbajo;
+        for (const QString &fichero : posibles) {
+            if (host::exists(destino + u'/' + fichero))
+                zip.queEstan += fichero;
         }
+        if (m_nueva) // what earlier launches left in the temporary directory
+            Intenta([&] { zip.seQuedan = host::listDirectories(destino); });
+        for (const QString &subdirectorio : zip.miembros.subdirectorios) {
+            if (!zip.seQuedan.contains(subdirectorio))
+                zip.seQuedan += subdirectorio;
+        }
+        zip.seVaEntero = m_nueva && zip.seQuedan.isEmpty();
         ensayo.zip = zip;
         return zip.miembros;
     }

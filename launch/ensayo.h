@@ -23,7 +23,8 @@ struct Ensayo {
         QString destino;
         Desempaquetado miembros;
         QStringList queEstan; // files of the destination that would be asked about
-        bool destinoNuevo = true; // it goes with all that is in it; else only what was unpacked goes
+        QStringList seQuedan; // subdirectories that would have to go ahead of it, with all in them
+        bool seVaEntero = true; // the destination goes too; else only what was unpacked directly into it
     };
     std::optional<Zip> zip;
 };

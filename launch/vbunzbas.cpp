@@ -145,10 +145,11 @@ private:
 
     void Miembro(archive_entry *miembro);
     void Fichero(archive_entry *miembro, QList<QByteArray> partes);
-    void FicheroEn(const host::Descriptor &directorio, const QByteArray &nombre, archive_entry *miembro,
-        bool directamente);
-    void Leido(
-        archive_entry *miembro, Lectura lectura, const QByteArray &nombre, bool directamente, bool puesto);
+    void FicheroEn(const host::Descriptor &directorio, const QByteArray &lugar, const QByteArray &nombre,
+        archive_entry *miembro);
+    void Leido(archive_entry *miembro, Lectura lectura, const QByteArray &lugar, const QByteArray &nombre,
+        bool puesto);
+    void Subdirectorio(const QList<QByteArray> &partes);
     bool PuedeOcupar(
         const host::Descriptor &directorio, const QByteArray &nombre, const QByteArray &enArchivo);
     Lectura Copia(FicheroNuevo *fichero);
@@ -192,6 +193,7 @@ void Extraccion::Miembro(archive_entry *miembro)
     if (m_discoLleno)
         return;
     if (clase == AE_IFDIR || nombre.endsWith('/') || nombre.endsWith('\\')) {
+        Subdirectorio(partes);
         if (m_destino)
             m_destino->Directorio(partes);
     } else if (clase == AE_IFREG) {
@@ -201,16 +203,24 @@ void Extraccion::Miembro(archive_entry *miembro)
 
 void Extraccion::Fichero(archive_entry *miembro, QList<QByteArray> partes)
 {
-    const bool directamente = partes.size() == 1;
     const QByteArray nombre = partes.takeLast();
+    const QByteArray lugar = partes.isEmpty() ? QByteArray() : partes.join('/') + '/';
+    Subdirectorio(partes);
     if (m_destino)
-        FicheroEn(m_destino->Directorio(partes), nombre, miembro, directamente);
+        FicheroEn(m_destino->Directorio(partes), lugar, nombre, miembro);
     else if (nombre.size() <= NAME_MAX)
-        Leido(miembro, Copia(nullptr), nombre, directamente, true);
+        Leido(miembro, Copia(nullptr), lugar, nombre, true);
 }
 
-void Extraccion::FicheroEn(
-    const host::Descriptor &directorio, const QByteArray &nombre, archive_entry *miembro, bool directamente)
+void Extraccion::Subdirectorio(const QList<QByteArray> &partes)
+{
+    const QString primero = partes.isEmpty() ? QString() : host::nameFromDisk(partes.first());
+    if (!primero.isEmpty() && !m_resultado.subdirectorios.contains(primero))
+        m_resultado.subdirectorios << primero;
+}
+
+void Extraccion::FicheroEn(const host::Descriptor &directorio, const QByteArray &lugar,
+    const QByteArray &nombre, archive_entry *miembro)
 {
     if (!directorio.isOpen() || !PuedeOcupar(directorio, nombre, archive_entry_pathname(miembro)))
         return;
@@ -220,21 +230,21 @@ void Extraccion::FicheroEn(
     const Lectura lectura = Copia(&fichero);
     m_discoLleno = lectura == Lectura::DiscoLleno;
     const bool soloLectura = (archive_entry_perm(miembro) & 0200) == 0;
-    Leido(miembro, lectura, nombre, directamente,
-        lectura == Lectura::Entera && fichero.Termina(nombre, soloLectura));
+    Leido(
+        miembro, lectura, lugar, nombre, lectura == Lectura::Entera && fichero.Termina(nombre, soloLectura));
 }
 
 void Extraccion::Leido(
-    archive_entry *miembro, Lectura lectura, const QByteArray &nombre, bool directamente, bool puesto)
+    archive_entry *miembro, Lectura lectura, const QByteArray &lugar, const QByteArray &nombre, bool puesto)
 {
+    const QString ruta = host::nameFromDisk(lugar + nombre);
     m_enteros += lectura == Lectura::Entera ? 1 : 0;
     if (EsIlegible(miembro, lectura)) {
         ++m_ilegibles;
-        if (directamente)
-            m_resultado.ilegibles << host::nameFromDisk(nombre);
+        (lugar.isEmpty() ? m_resultado.ilegibles : m_resultado.ilegiblesMasAbajo) << ruta;
     }
-    if (lectura == Lectura::Entera && puesto && directamente)
-        m_resultado.ficheros << host::nameFromDisk(nombre);
+    if (lectura == Lectura::Entera && puesto)
+        (lugar.isEmpty() ? m_resultado.ficheros : m_resultado.masAbajo) << ruta;
 }
 
 bool Extraccion::PuedeOcupar(

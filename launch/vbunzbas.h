@@ -9,6 +9,9 @@ namespace launch {
 struct Desempaquetado {
     QStringList ficheros; // plain files written directly into the destination, in the archive's order
     QStringList ilegibles; // those that would lie there, but are damaged or compressed in an unknown way
+    QStringList masAbajo; // plain files written into its subdirectories, by their paths from there
+    QStringList ilegiblesMasAbajo; // and the damaged ones
+    QStringList subdirectorios; // directly in the destination, which were there or were made
     bool nadaLegible = false; // there are such members, in subdirectories too, and no other plain file
 };
 

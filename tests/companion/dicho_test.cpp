@@ -94,7 +94,7 @@ TEST_F(Command, AnExecutableWithoutTheRightToRunIsSaid)
 
 TEST_F(Command, AZipIsToldWithWhatIsInIt_AndStaysPacked)
 {
-    Pon(u"roms/pack.zip"_s, Zip({ { "Read Me.txt" }, { "Castle.NES", "the castle" }, { "sub/x.nes" } }));
+    Pon(u"roms/pack.zip"_s, Zip({ { "Read Me.txt" }, { "Castle.NES", "the castle" } }));
     Cambia(u"Zembro.emu"_s, "*.NES", "*.ZIP\r\n*.NES");
     const QJsonObject pack = Json({ u"command"_s, u"Sis"_s, u"Uno"_s, u"pack"_s });
     const QString carpeta = launch::RutaZBTMP();
@@ -105,6 +105,36 @@ TEST_F(Command, AZipIsToldWithWhatIsInIt_AndStaysPacked)
     EXPECT_EQ(zip[u"files"_s].toArray(), QJsonArray({ u"Read Me.txt"_s, u"Castle.NES"_s }));
     EXPECT_EQ(zip[u"removed"_s].toString(), u"directory"_s);
     EXPECT_EQ(QDir(Ruta(u"tmp"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+}
+
+TEST_F(Command, WhatAZipHoldsInSubdirectoriesIsUnpackedToo_AndStays)
+{
+    Pon(u"roms/pack.zip"_s, Zip({ { "Castle.NES" }, { "sub/dir/in.a26" }, { "empty/" } }));
+    Cambia(u"Zembro.emu"_s, "*.NES", "*.ZIP\r\n*.NES");
+    const QStringList pedido { u"command"_s, u"Sis"_s, u"Uno"_s, u"pack"_s };
+    const QJsonObject zip = Json(pedido)[u"unpacks"_s].toObject();
+    EXPECT_EQ(zip[u"files"_s].toArray(), QJsonArray({ u"Castle.NES"_s, u"sub/dir/in.a26"_s }));
+    EXPECT_EQ(zip[u"removed"_s].toString(), u"files"_s);
+    EXPECT_EQ(zip[u"stays"_s].toArray(), QJsonArray({ u"sub"_s, u"empty"_s }));
+    const QString carpeta = launch::RutaZBTMP();
+    const QByteArray dicho = Zembro(pedido).salida;
+    EXPECT_TRUE(dicho.contains("\n    sub/dir/in.a26\nAfterwards the unpacked files are removed.\n"
+                               "Stays there afterwards: "
+        + carpeta.toUtf8() + "/sub/\n"))
+        << dicho.toStdString();
+    EXPECT_EQ(zip[u"replaced"_s].toArray(), QJsonArray());
+    EXPECT_FALSE(QFileInfo::exists(carpeta));
+
+    // As the launch itself leaves it, and the next one finds it.
+    EXPECT_EQ(Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"pack"_s }).estado, companion::Bien);
+    EXPECT_EQ(QDir(carpeta).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+        QStringList({ u"empty"_s, u"sub"_s }));
+    EXPECT_TRUE(QFileInfo::exists(carpeta + u"/sub/dir/in.a26"_s));
+    EXPECT_EQ(Json(pedido)[u"unpacks"_s][u"replaced"_s].toArray(), QJsonArray({ u"sub/dir/in.a26"_s }));
+    Pon(u"roms/pack.zip"_s, Zip({ { "Castle.NES" } }));
+    EXPECT_EQ(Json(pedido)[u"unpacks"_s][u"removed"_s].toString(), u"files"_s);
+    QDir(carpeta).removeRecursively();
+    EXPECT_EQ(Json(pedido)[u"unpacks"_s][u"removed"_s].toString(), u"directory"_s);
 }
 
 TEST_F(Command, AZipWithoutAGameIsSaidInTheWordsOfTheScreen)
