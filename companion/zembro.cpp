@@ -66,15 +66,15 @@ std::vector<Opcion> conComunes(std::vector<Opcion> opciones)
     return opciones;
 }
 
-// The settings name the language; where they or it can't be read, it is English.
-Palabras LeeIdioma(core::Modulo &M)
+// Takes the words of a language file. False if there is no such file.
+bool LeeFicheroDeIdioma(core::Modulo &M, Palabras &palabras, const QString &fichero)
 {
-    Palabras palabras;
+    M.Ficheros.closeAll();
+    bool abierto = false;
     try {
-        core::LeeAjustes(M);
+        M.Ficheros.openForInput(1, host::programFile(u"LNG/"_s + fichero));
+        abierto = true;
         core::LectorDeTextos textos(M, [](const QString &, const QString &) {});
-        const QString fichero = host::programFile(u"LNG/"_s + M.LanguageFile);
-        M.Ficheros.openForInput(1, fichero);
         while (!M.Ficheros.atEnd(1)) {
             const QString linea = M.Ficheros.readLine(1);
             LeePalabra(palabras, linea);
@@ -89,6 +89,20 @@ Palabras LeeIdioma(core::Modulo &M)
         // What was read stands.
     }
     M.Ficheros.closeAll();
+    return abierto;
+}
+
+// The settings name the language; where they or it can't be read, as before the first run, it is English.
+Palabras LeeIdioma(core::Modulo &M)
+{
+    Palabras palabras;
+    try {
+        core::LeeAjustes(M);
+    } catch (const host::Failure &) {
+        // What was read stands.
+    }
+    if (M.LanguageFile.isEmpty() || !LeeFicheroDeIdioma(M, palabras, M.LanguageFile))
+        LeeFicheroDeIdioma(M, palabras, u"ZB-ENG.LNG"_s);
     return palabras;
 }
 

@@ -137,6 +137,20 @@ TEST_F(Play, WithJsonTheAnswerStandsAloneOnTheStandardOutput)
     EXPECT_EQ(juega({})->readAllStandardOutput(), "of the emulator\n");
 }
 
+TEST_F(Play, BeforeTheFirstRunTheWordsAreEnglish)
+{
+    Pon(u"roms/pack.zip"_s, "no archive");
+    Cambia(u"Zembro.emu"_s, "*.NES", "*.ZIP\r\n*.NES");
+    Cambia(u"Zembro.cfg"_s, "ZB-ENG.LNG", "VACIO");
+    Pon(u"LNG/ZB-ENG.LNG"_s, "Msg_ZipSinRoms1...=\"No ROM in there.\"\r\n");
+    const Respuesta respuesta = Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"pack"_s });
+    EXPECT_EQ(respuesta.estado, companion::NoPudo);
+    EXPECT_TRUE(respuesta.error.contains("No ROM in there.")) << respuesta.error.toStdString();
+    Cambia(u"Zembro.cfg"_s, "VACIO", "ZB-ESP.LNG");
+    Pon(u"LNG/ZB-ESP.LNG"_s, "Msg_ZipSinRoms1...=\"Sin ROMs.\"\r\n");
+    EXPECT_TRUE(Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"pack"_s }).error.contains("Sin ROMs."));
+}
+
 TEST_F(Play, ANameThatIsLeftEmptyIsNoName)
 {
     PonGuion(u"emu/uno.sh"_s, "touch out\n");
