@@ -95,12 +95,11 @@ std::vector<Pareja> Parejas(const core::Modulo &M)
 
 std::vector<Pareja> ParejasPedidas(Sesion &sesion, const QString &sistema, const QString &emulador)
 {
-    std::vector<Pareja> parejas = Parejas(sesion.M);
-    const Palabras &palabras = sesion.palabras;
     if (!sistema.isEmpty())
-        quedaUno(sesion, parejas, &Pareja::nombreSistema, sistema, palabras.Zbo_NoSistema);
+        return ParejasDelSistema(sesion, sistema, emulador);
+    std::vector<Pareja> parejas = Parejas(sesion.M);
     if (!emulador.isEmpty() && !parejas.empty())
-        quedaUno(sesion, parejas, &Pareja::nombreEmulador, emulador, palabras.Zbo_NoEmulador);
+        quedaUno(sesion, parejas, &Pareja::nombreEmulador, emulador, sesion.palabras.Zbo_NoEmulador);
     return parejas;
 }
 

@@ -158,8 +158,7 @@ Directory::Directory(std::vector<Entry> entries)
 // their order.
 std::size_t Directory::placeOf(const QString &name) const
 {
-    const auto has = [&](std::size_t i) { return i < m_entries.size() && sameName(m_entries[i].name, name); };
-    if (m_next > 0 && has(m_next) && !has(m_next - 1))
+    if (m_next < m_entries.size() && sameName(m_entries[m_next].name, name))
         return m_next;
     const auto first = std::lower_bound(m_entries.begin(), m_entries.end(), name,
         [](const Entry &entry, const QString &wanted) { return compareNames(entry.name, wanted) < 0; });

@@ -56,7 +56,7 @@ private:
     mutable QHash<QString, QString> m_shortForms; // by name, of those whose form isn't the name itself
     mutable QHash<QString, QString> m_byShortForm; // by upper-cased form
     mutable bool m_shortFormsNamed = false;
-    mutable std::size_t m_next = 0; // behind the one found last
+    mutable std::size_t m_next = 0; // behind the one found last and its equals
 };
 
 // A path with the slash between that it needs; none behind no directory at all.

@@ -2,23 +2,17 @@
 // line is lost or mixed that an operation doesn't mean to change. Names are unique, as those that the program
 // matches are, and as odd as they are let in. What is removed from the catalogue is what another copy of the
 // program has seen in it some steps ago. The walk is the same for a seed.
-#include "modelodecatalogos.h"
+#include "paseo.h"
 
-#include "directoriodeprograma.h"
-
-#include "core/altas.h"
 #include "core/bajas.h"
 #include "core/basededatos.h"
 #include "core/catalogo.h"
-#include "core/nombres.h"
 #include "core/notas.h"
 
 #include "host/letters.h"
 
 #include <iostream>
 #include <iterator>
-#include <memory>
-#include <random>
 #include <string>
 
 using namespace Qt::StringLiterals;
@@ -43,188 +37,24 @@ template <typename Sistema> Sistema *busca(Fichero<Sistema> &fichero, const QStr
     return nullptr;
 }
 
-class Paseo : public testing::TestWithParam<unsigned> {
-public:
-    Paseo()
-        : m_azar(GetParam())
-    {
-        MontaBase();
-        MontaCatalogo();
-        MontaNotas();
-    }
-
-    void AñadeSistema();
-    void AñadeEmulador();
-    void BorraEmulador();
-    void BorraSistema();
-    void CambiaExtensiones();
-    void CambiaWebDeSistema();
-    void CambiaWebDeEmulador();
-    void Guarda();
-    void QuitaSistema();
-    void QuitaEmulador();
-    void Describe();
-    void DaParametros();
-    void EscribeAMano();
-
-protected:
-    size_t Azar(size_t total) { return m_azar() % total; }
-    QString Textos() const { return m_textoSye + m_textoEmu + m_textoRom; }
-
-    int m_rechazados = 0; // names that weren't let in
-    int m_cambiados = 0; // removals from what had changed since
-    int m_atrasados = 0; // removals from another file than the one that was read
-
-private:
-    QString ConFin(const QString &linea) { return linea + (Azar(3) == 0 ? u"\n"_s : u"\r\n"_s); }
-    QString Propia();
-    QStringList Propias();
-    QString NombreNuevo(const QString &clase);
-    QStringList Extensiones();
-    core::EmuladorNuevo Configurado(const QString &nombre, const QString &web2);
-
-    void MontaBase();
-    SistemaDeBase SistemaAlAzar();
-    void MontaCatalogo();
-    void MontaNotas();
-
-    void GuardaSistema(const SistemaDeBase &sistema, const EmuladorDeBase &emulador);
-    void GuardaEmulador(SistemaDeCatalogo &sistema, const EmuladorDeBase &emulador);
-    void GuardaCambios(EmuladorDeCatalogo &configurado, const EmuladorDeBase &emulador);
-    void QuitaDelModelo(SistemaDeCatalogo &sistema, size_t cual);
-    void LeeTablas();
-    bool EsElLeido(size_t fila);
-    void QuitaDeNotas(const QString &sistema);
-
-    SistemaDeBase *SistemaConEmuladores();
-    EmuladorDeCatalogo *EmuladorConfigurado(const QString &nombre);
-    void PonEmu(const QString &texto)
-    {
-        m_textoEmu = texto;
-        ASSERT_EQ(m_textoEmu, TextoDe(m_emu));
-    }
-    void PonSye(const QString &texto)
-    {
-        m_textoSye = texto;
-        ASSERT_EQ(m_textoSye, TextoDe(m_sye));
-    }
-    void PonRom(const QString &texto)
-    {
-        m_textoRom = texto;
-        ASSERT_EQ(m_textoRom, TextoDe(m_rom));
-    }
-
-    std::mt19937 m_azar;
-    int m_nombres = 0;
-    Fichero<SistemaDeBase> m_sye;
-    Fichero<SistemaDeCatalogo> m_emu;
-    FicheroDeNotas m_rom;
-    QString m_textoSye;
-    QString m_textoEmu;
-    QString m_textoRom;
-
-    // What the other copy has read.
-    std::unique_ptr<core::Modulo> m_tablas;
-    Fichero<SistemaDeCatalogo> m_leido;
-};
-
-// A line of the user's own that is no anchor of any operation.
-QString Paseo::Propia()
+// In the place of the old address and of what stands ahead of it; a line that is none stays.
+void ponWeb(
+    QStringList &antes, QString &web, QStringList &detras, const QString &clave, const QString &direccion)
 {
-    static const QString lineas[] = { QString(), u"mine"_s, u" -S"_s, u"; +E"_s, u"exe=1"_s, u"WEB3=1"_s,
-        u"*"_s, u"\"'\""_s, u"ñ\x81"_s, u"Rom"_s };
-    return ConFin(lineas[Azar(std::size(lineas))]);
+    if (!web.startsWith(clave))
+        detras = antes + QStringList { web } + detras;
+    antes.clear();
+    web = nueva(clave + u'=' + direccion);
 }
 
-QStringList Paseo::Propias()
+EmuladorDeCatalogo escrito(const core::EmuladorNuevo &nuevo)
 {
-    QStringList lineas;
-    while (Azar(4) == 0)
-        lineas += Propia();
-    return lineas;
+    return { nuevo.nombre, nueva(u"'"_s), {}, nueva(u'+' + nuevo.nombre), {}, nueva(nuevo.web2),
+        { nueva(u"EXE="_s + nuevo.exe), nueva(u"XDI="_s + nuevo.tipo), nueva(u"ROM="_s + nuevo.rom + u'/'),
+            nueva(u"IMG="_s + nuevo.img), nueva(u"PAR1="_s + nuevo.par1), nueva(u"PAR2="_s) } };
 }
 
-QString Paseo::NombreNuevo(const QString &clase)
-{
-    static const QString principios[] = { QString(), QString(), u"-"_s, u"+"_s, u"'"_s, u"["_s, u" "_s,
-        u"*."_s, u"WEB1="_s, u"EXE"_s, u"\""_s, u"Parametros "_s };
-    static const QString finales[] = { QString(), u" ñ"_s, u"/b"_s, u" \"q\""_s, u" '"_s, u", c"_s, u" "_s,
-        u",\"q\""_s, u",a,b,c"_s, u"\n-x"_s };
-    for (;;) {
-        const QString nombre = principios[Azar(std::size(principios))] + clase + QString::number(++m_nombres)
-            + finales[Azar(std::size(finales))];
-        if (clase == u"S" ? core::SirveDeSistema(nombre) : core::SirveDeEmulador(nombre))
-            return nombre;
-        ++m_rechazados;
-    }
-}
-
-QStringList Paseo::Extensiones()
-{
-    QStringList extensiones;
-    for (size_t i = Azar(4); i > 0; --i)
-        extensiones += u"E%1"_s.arg(Azar(100));
-    return extensiones;
-}
-
-SistemaDeBase Paseo::SistemaAlAzar()
-{
-    SistemaDeBase sistema;
-    sistema.nombre = NombreNuevo(u"S"_s);
-    sistema.linea = ConFin(u'-' + sistema.nombre);
-    sistema.antesDeWeb = Propias();
-    sistema.web = ConFin(u"WEB1=w"_s);
-    for (const QString &extension : Extensiones())
-        sistema.extensiones += ConFin(u"*."_s + extension);
-    sistema.extensiones += Propias();
-    sistema.apostrofo = ConFin(u"'"_s);
-    sistema.detrasDelApostrofo = Propias();
-    for (size_t i = Azar(3); i > 0; --i) {
-        const QString nombre = NombreNuevo(u"E"_s);
-        sistema.emuladores.push_back(
-            { nombre, ConFin(u'+' + nombre), Propias(), ConFin(u"WEB2=w"_s), Propias() });
-    }
-    sistema.cierre = ConFin(u"'----"_s);
-    sistema.detras = Propias();
-    return sistema;
-}
-
-void Paseo::MontaBase()
-{
-    m_sye.cabecera = { ConFin(u"' top"_s), Propia() };
-    m_sye.fin = { ConFin(u"[EOF]"_s), Propia(), u"last"_s };
-    for (int i = 0; i < 3; ++i)
-        m_sye.sistemas.push_back(SistemaAlAzar());
-    m_textoSye = TextoDe(m_sye);
-}
-
-// One system with blocks that no save has written.
-void Paseo::MontaCatalogo()
-{
-    m_emu.cabecera = { Propia(), ConFin(u"' top"_s) };
-    m_emu.fin = { u"[EOF]"_s };
-    const SistemaDeBase &base = m_sye.sistemas.front();
-    SistemaDeCatalogo sistema { base.nombre, ConFin(u'-' + base.nombre), Propias(), ConFin(u"WEB1=w"_s),
-        { ConFin(u"*.Z"_s) }, {}, {}, ConFin(u"'----"_s), Propias() };
-    for (const EmuladorDeBase &emulador : base.emuladores)
-        sistema.emuladores.push_back({ emulador.nombre, ConFin(u"'"_s), Propias(),
-            ConFin(u'+' + emulador.nombre), Propias(), ConFin(u"WEB2=w"_s), Propias() });
-    if (!sistema.emuladores.empty())
-        m_emu.sistemas.push_back(sistema);
-    m_textoEmu = TextoDe(m_emu);
-}
-
-void Paseo::MontaNotas()
-{
-    m_rom.cabecera = { ConFin(u"' top"_s), ConFin(QString()) };
-    for (const SistemaDeBase &sistema : m_sye.sistemas)
-        m_rom.sistemas.push_back(
-            { sistema.nombre, ConFin(sistema.nombre), { ConFin(u"K,\"d\""_s) }, ConFin(u"'"_s) });
-    m_rom.fin = { ConFin(u"[EOF]"_s), ConFin(u"Parametros especificos"_s) };
-    m_rom.cierre = { ConFin(u"'"_s), ConFin(u"fin"_s), ConFin(u"fin,\"fin\""_s) };
-    m_rom.detras = { ConFin(QString()), u"last"_s };
-    m_textoRom = TextoDe(m_rom);
-}
+} // namespace
 
 core::EmuladorNuevo Paseo::Configurado(const QString &nombre, const QString &web2)
 {
@@ -336,16 +166,6 @@ void Paseo::CambiaExtensiones()
     PonEmu(core::ConExtensiones(m_textoEmu, sistema.nombre, extensiones));
 }
 
-// In the place of the old address and of what stands ahead of it; a line that is none stays.
-void ponWeb(
-    QStringList &antes, QString &web, QStringList &detras, const QString &clave, const QString &direccion)
-{
-    if (!web.startsWith(clave))
-        detras = antes + QStringList { web } + detras;
-    antes.clear();
-    web = nueva(clave + u'=' + direccion);
-}
-
 void Paseo::CambiaWebDeSistema()
 {
     SistemaDeBase &sistema = m_sye.sistemas[Azar(m_sye.sistemas.size())];
@@ -385,13 +205,6 @@ void Paseo::Guarda()
         GuardaEmulador(*configurado, emulador);
     else
         GuardaSistema(*sistema, emulador);
-}
-
-EmuladorDeCatalogo escrito(const core::EmuladorNuevo &nuevo)
-{
-    return { nuevo.nombre, nueva(u"'"_s), {}, nueva(u'+' + nuevo.nombre), {}, nueva(nuevo.web2),
-        { nueva(u"EXE="_s + nuevo.exe), nueva(u"XDI="_s + nuevo.tipo), nueva(u"ROM="_s + nuevo.rom + u'/'),
-            nueva(u"IMG="_s + nuevo.img), nueva(u"PAR1="_s + nuevo.par1), nueva(u"PAR2="_s) } };
 }
 
 void Paseo::GuardaSistema(const SistemaDeBase &sistema, const EmuladorDeBase &emulador)
@@ -598,5 +411,3 @@ TEST_P(Paseo, ChangesNoLineThatItDoesntMeanTo)
 
 INSTANTIATE_TEST_SUITE_P(Semillas, Paseo, testing::Range(1u, 8u),
     [](const auto &caso) { return "Seed" + std::to_string(caso.param); });
-
-} // namespace
