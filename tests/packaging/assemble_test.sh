@@ -93,10 +93,13 @@ grep -q '^Nothing to add: every' "$work/said" || complain "find --all: it doesn'
 # A clean start for what follows.
 anew again
 
-# Again: nothing changes.
+# Again: nothing changes, and no program is written anew.
+places() { (cd "$program" && stat -c '%i %n' Zembrolix zembro Cvtgif15.exe); }
 before=$(state)
+where=$(places)
 run again
 [ "$(state)" = "$before" ] || complain "again: something has changed"
+[ "$(places)" = "$where" ] || complain "again: a program was written that was there"
 [ ! -s "$work/said" ] || complain "again: it says something"
 
 # Again with one emulator more: the catalogue is the user's.
@@ -122,6 +125,18 @@ done
 make_build version3
 run "newer still"
 expect Zembro.txt version3 "newer still"
+
+# Several at once leave what one does.
+anew together
+run "alone"
+alone=$(state)
+make_build version1
+rm -rf "$work/My Programs"
+for _ in 1 2 3 4; do
+    "$assemble" "$build" "$program" >>"$work/several" 2>&1 &
+done
+wait
+[ "$(state)" = "$alone" ] && [ ! -s "$work/several" ] || complain "together: $(state | diff - <(echo "$alone")) $(cat "$work/several")"
 
 # What the user changed stays, and so does a link; what he deleted is there again.
 anew changed

@@ -1,0 +1,87 @@
+#!/bin/bash
+# Makes a program directory, or renews one that is in use: renew.sh PROGRAMS FILES DIRECTORY.
+# PROGRAMS and FILES are directories as delivered. The programs are renewed. So is every other file that is still one of
+# those that were delivered, whose sums stand in .delivered; one that the user has changed, or put a link in the place
+# of, stays. The catalogue is the user's from the beginning: it is written only where there is none, with the
+# demonstration and the emulators of those systems whose directory of games, roms/SYSTEM, holds games already. That
+# directory is made for every system that the machine has an emulator of.
+set -euo pipefail
+
+programs=$1
+files=$2
+mkdir -p "$3/LNG" "$3/demo"
+directory=$(cd "$3" && pwd)
+delivered=$directory/.delivered # lines as sha256sum writes them, one for each version of each file
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+# In one step, also while a copy of a program runs.
+place() { # mode, source, name
+    local new
+    new=$directory/$(dirname "$3")/.$(basename "$3").new
+    install -m "$1" "$2" "$new"
+    mv "$new" "$directory/$3"
+}
+record() { # file, name
+    printf '%s  %s\n' "$(sha256sum <"$1" | cut -d' ' -f1)" "$2"
+}
+missing() { # name
+    [ ! -e "$directory/$1" ] && [ ! -L "$directory/$1" ]
+}
+changed() { # source, name
+    local file=$directory/$2
+    missing "$2" && return 1
+    [ ! -L "$file" ] && [ -f "$file" ] || return 0
+    ! cmp -s "$1" "$file" && ! grep -qxF "$(record "$file" "$2")" "$delivered"
+}
+renew() { # source, name
+    local line
+    line=$(record "$1" "$2")
+    grep -qxF "$line" "$delivered" || printf '%s\n' "$line" >>"$delivered"
+    cmp -s "$1" "$directory/$2" || place 644 "$1" "$2"
+}
+deliver() { # source, name
+    changed "$1" "$2" || renew "$1" "$2"
+}
+
+# Two starts at once renew one behind the other.
+exec 9>>"$delivered"
+flock 9
+for program in Zembrolix Cvtgif15.exe zembro; do
+    cmp -s "$programs/$program" "$directory/$program" && [ -x "$directory/$program" ] ||
+        place 755 "$programs/$program" "$program"
+done
+
+for name in Zembro.cfg Zembro.txt Zembro.faq; do
+    deliver "$files/$name" "$name"
+done
+# Each system of the database has its block in the notes: of these two, one alone would be renewed in vain.
+pair=(Zembro.sye Zembro.rom)
+if changed "$files/Zembro.sye" Zembro.sye || changed "$files/Zembro.rom" Zembro.rom; then
+    for name in "${pair[@]}"; do
+        ! missing "$name" || renew "$files/$name" "$name"
+    done
+else
+    for name in "${pair[@]}"; do
+        renew "$files/$name" "$name"
+    done
+fi
+for language in "$files"/LNG/*.LNG; do
+    deliver "$language" "LNG/$(basename "$language")"
+done
+for game in "$files"/demo/*; do
+    deliver "$game" "demo/$(basename "$game")"
+done
+
+missing Zembro.emu || exit 0
+# The catalogue as delivered lists the demonstration games, and needs to know where they and their emulator are.
+stella=$(command -v stella || true)
+[ -n "$stella" ] || stella=/usr/games/stella
+escaped() { printf '%s' "$1" | sed 's/[&\\|]/\\&/g'; }
+sed -e "s|@STELLA@|$(escaped "$stella")|" -e "s|@DEMO@|$(escaped "$directory/demo")|" "$files/Zembro.emu" \
+    >"$work/Zembro.emu"
+mkdir -p "$directory/roms/Atari 2600"
+"$programs/BuscaEmuladores" "$files/emuladores.tsv" "$directory" "$work/Zembro.emu" >"$work/found" 9>&- ||
+    echo "The emulators of this machine aren't configured." >&2
+[ ! -s "$work/found" ] || sed 's/^/Configured /' "$work/found"
+place 644 "$work/Zembro.emu" Zembro.emu
