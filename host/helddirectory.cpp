@@ -1,6 +1,7 @@
 #include "host/helddirectory.h"
 
 #include "host/directory.h"
+#include "host/drives.h"
 #include "host/encoding.h"
 #include "host/failure.h"
 #include "host/paths.h"
@@ -47,7 +48,7 @@ void deletePlainFile(const Descriptor &directory, const QByteArray &name)
 
 HeldDirectory::HeldDirectory(const QString &path)
 {
-    if (!path.startsWith(u'/') && !path.startsWith(u'\\'))
+    if (!isAbsolute(path))
         throw Failure(InvalidArgument, u"delete files by a path that isn't absolute"_s, path);
     m_descriptor = openItself(path);
     if (!m_descriptor.isOpen())

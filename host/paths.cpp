@@ -1,6 +1,7 @@
 #include "host/paths.h"
 
 #include "host/directory.h"
+#include "host/drives.h"
 #include "host/encoding.h"
 #include "host/failure.h"
 #include "host/retried.h"
@@ -38,6 +39,7 @@ public:
     QByteArray find(const QString &path);
 
 private:
+    bool begin(QStringView &rest);
     bool takePart(const QString &part);
     qsizetype takeLongest(const QStringList &pieces, qsizetype first);
 
@@ -50,16 +52,30 @@ QByteArray Finder::find(const QString &path)
     // A longer path is none that the system takes, and looking for one would take long.
     if (path.isEmpty() || path.size() > PATH_MAX || path.contains(QChar::Null))
         return {};
-    const bool absolute = isSeparator(path.front());
-    if (absolute)
-        m_found = "/";
-    for (const QString &part : path.sliced(absolute ? 1 : 0).split(u'/')) {
-        if (!takePart(part))
+    QStringView rest(path);
+    if (!begin(rest))
+        return {};
+    for (const QStringView part : rest.split(u'/')) {
+        if (!takePart(part.toString()))
             return {};
     }
     if (!m_closed || m_found.endsWith('/'))
         return m_found;
     return isDirectory(m_found) ? m_found + '/' : QByteArray();
+}
+
+// Takes the root off, or the drive; false if the place of the drive is missing.
+bool Finder::begin(QStringView &rest)
+{
+    if (isSeparator(rest.front())) {
+        m_found = "/";
+        rest = rest.sliced(1);
+    } else if (const Drive *drive = driveNamed(driveLetter(rest))) {
+        m_found = Finder().find(drive->place);
+        rest = rest.sliced(2);
+        return !m_found.isEmpty();
+    }
+    return true;
 }
 
 bool Finder::takePart(const QString &part)
@@ -147,11 +163,13 @@ QByteArray findForWriting(const QString &path)
     if (!found.isEmpty() || open.isEmpty() || open.contains(QChar::Null))
         return found;
     const qsizetype separator = lastSeparator(open);
-    const QByteArray name = nameToDisk(open.sliced(separator + 1).toString());
-    if (separator < 0)
+    // Of a name on a drive without a separator the drive is the directory.
+    const qsizetype start = separator < 0 && driveNamed(driveLetter(open)) ? 2 : separator + 1;
+    const QByteArray name = nameToDisk(open.sliced(start).toString());
+    if (start == 0)
         return name;
-    const QByteArray directory = findOnDisk(open.first(separator + 1).toString());
-    return directory.isEmpty() ? directory : directory + name;
+    const QByteArray directory = findOnDisk(open.first(start).toString());
+    return directory.isEmpty() ? directory : joined(directory, name);
 }
 
 QString trueSpelling(const QString &path)

@@ -2,7 +2,9 @@
 //
 // A path is kept as it was typed. Handed to the host it is found as spelled or, component by component, in
 // any case (exact spelling first, then the order of upper-cased code, ties by bytes), or by its short form;
-// where nothing fits, once more without the points and blanks at a component's end.
+// where nothing fits, once more without the points and blanks at a component's end. A path that begins on a
+// drive that there is ("C:\EMUS", host/drives.h) stands below that drive's place; one on any other is a name
+// with a colon.
 #pragma once
 
 #include <QByteArray>

@@ -1,7 +1,9 @@
 #include "host/volumes.h"
 
+#include "host/drives.h"
 #include "host/encoding.h"
 #include "host/letters.h"
+#include "host/paths.h"
 
 #include <QDir>
 #include <QFile>
@@ -121,6 +123,8 @@ QStringList volumes()
 {
     QStringList found = volumesIn(contentOf(MountsFile), contentOf(TableFile), QDir::homePath());
     found.removeIf([](const QString &volume) { return !isDirectory(volume) && isVolumeReady(volume); });
+    for (const Drive &drive : drives())
+        found += drive.letter + u":"_s;
     return found;
 }
 
@@ -133,6 +137,8 @@ bool isVolumeReadyIn(const QByteArray &mounts, const QString &home, const QStrin
 
 bool isVolumeReady(const QString &volume)
 {
+    if (!driveLetter(volume).isNull())
+        return exists(volume + u'/');
     return isVolumeReadyIn(contentOf(MountsFile), QDir::homePath(), volume);
 }
 

@@ -9,15 +9,16 @@
 namespace host {
 
 // Absolute paths without a closing separator: "/", the home, then the mount points in the order of names,
-// those of mounted file systems and those that the table of file systems lets a user mount. Without the file
-// systems that belong to the system (those of the kernel, boot partitions, run-time directories other than
-// those of media).
+// those of mounted file systems and those that the table of file systems lets a user mount; and the drives
+// (host/drives.h), "C:". Without the file systems that belong to the system (those of the kernel, boot
+// partitions, run-time directories other than those of media).
 QStringList volumes();
 
 // The same from the texts of the two tables, as the kernel and the administrator write them.
 QStringList volumesIn(const QByteArray &mounts, const QByteArray &table, const QString &home);
 
-// True for "/" and the home, and for a mount point while something is mounted there.
+// True for "/" and the home, for a mount point while something is mounted there, and for a drive whose place
+// is there.
 bool isVolumeReady(const QString &volume);
 bool isVolumeReadyIn(const QByteArray &mounts, const QString &home, const QString &volume);
 

@@ -297,6 +297,23 @@ TEST_F(ExaminarTest, AVolumePickedIsOpened)
     EXPECT_THAT(notices, IsEmpty());
 }
 
+TEST_F(ExaminarTest, TheDrivesAreVolumesToo)
+{
+    files.write(u"Zembro.uni"_s, "C=" + games().toUtf8() + "\r\nD=" + games().toUtf8() + "/none\r\n");
+    browse(games(), [this](forms::Form &form) {
+        pick(drives(form), u"/"_s);
+        pick(drives(form), u"C:"_s);
+        EXPECT_EQ(tree(form).Path(), games());
+        EXPECT_EQ(programs(form).ListCount(), 3);
+        pick(drives(form), u"D:"_s);
+        EXPECT_EQ(tree(form).Path(), games());
+        press(form, u"Aceptar2"_s);
+    });
+    ASSERT_EQ(notices.size(), 1u);
+    EXPECT_EQ(notices[0].text, u"The drive D: isn't there."_s);
+    EXPECT_EQ(M.RutaExaminar, games());
+}
+
 TEST_F(ExaminarTest, AVolumeThatIsntReadyGivesTheNotice_AndTheOldDirectoryIsStillTheAnswer)
 {
     browse(games(), [this](forms::Form &form) {
