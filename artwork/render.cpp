@@ -1,6 +1,6 @@
-// Renders the artwork while building: render_artwork LIST DIRECTORY
+// Renders the artwork while building: render_artwork LIST DIRECTORY, render_artwork --icon DRAWING SIDE PNG
 // LIST is the resource list of the drawings. Every drawing comes as a packed picture in each scale into
-// DIRECTORY, with a resource list of them all.
+// DIRECTORY, with a resource list of them all. An icon has SIDE pixels each way.
 
 #include "forms/rendered.h"
 #include "forms/svg.h"
@@ -81,11 +81,23 @@ QString entriesOf(const Drawing &drawing, const QDir &directory)
     return entries;
 }
 
+int renderIcon(const QString &drawing, int side, const QString &file)
+{
+    if (side > 0 && QDir().mkpath(QFileInfo(file).path())
+        && forms::renderSvg(drawing, { side, side }).save(file))
+        return 0;
+    std::fprintf(stderr, "render_artwork: can't render %s\n", qPrintable(file));
+    return 1;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (argc < 3)
+    if (argc == 5 && argv[1] == "--icon"_L1)
+        return renderIcon(
+            QString::fromLocal8Bit(argv[2]), QByteArray(argv[3]).toInt(), QString::fromLocal8Bit(argv[4]));
+    if (argc != 3)
         return 2;
     const QDir directory(QString::fromLocal8Bit(argv[2]));
     const QList<Drawing> drawings = drawingsIn(QString::fromLocal8Bit(argv[1]));

@@ -1,0 +1,15 @@
+#!/bin/bash
+# Starts the program that stands in a program directory: start.sh DIRECTORY. Keeps a copy of its text files ahead of
+# that, and a line on each launch.
+set -uo pipefail
+
+# Should an editor, or anything else, spoil one of the text files: as they are now. A start goes on without it.
+"$1/zembro" save >/dev/null || true
+
+# What becomes of each launch; zembro why reads it.
+if [ -z "${ZEMBRO_LOG+set}" ]; then
+    ZEMBRO_LOG=${XDG_STATE_HOME:-${HOME:-}/.local/state}/zembrolix/log
+    mkdir -p "$(dirname "$ZEMBRO_LOG")" || true
+    export ZEMBRO_LOG
+fi
+exec "$1/Zembrolix"

@@ -1,0 +1,123 @@
+#!/bin/bash
+# The installed starter with a home of its own: starter_test.sh BUILD. What is installed comes from the build; only the
+# program itself is one that says how it was started.
+set -u
+build=$1
+sources=$(cd "$(dirname "$0")/../.." && pwd)
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+bad=0
+complain() { echo "starter: $*" >&2; bad=1; }
+
+umask 022
+cmake --install "$build" --prefix "$work/usr" >/dev/null || { complain "what is built can't be installed"; exit 1; }
+files=$work/usr/share/zembrolix
+cat >"$work/usr/lib/zembrolix/Zembrolix" <<'END2'
+#!/bin/sh
+echo "started $0 log ${ZEMBRO_LOG-none}"
+END2
+
+unset LC_ALL LC_MESSAGES DISPLAY WAYLAND_DISPLAY XDG_STATE_HOME ZEMBRO_LOG TERMINAL
+export HOME=$work/home LANG=fr_FR.UTF-8
+mkdir "$HOME"
+cd "$work" || exit 1
+mine=$HOME/Zembrolix
+start() { # expected status, arguments
+    local expected=$1
+    shift
+    said=$("$work/usr/games/zembrolix" "$@" 2>"$work/errors")
+    local status=$?
+    [ "$status" = "$expected" ] || complain "zembrolix $*: status $status: $said $(cat "$work/errors")"
+}
+setting() { sed -n "s/\r$//; s/^$1 = //p" "${2:-$mine}/Zembro.cfg"; }
+# Without the copies of the text files, of which a start makes one where something has changed.
+state() { (cd "$mine" && find . -path ./copias -prune -o -type f -exec sha256sum {} + | sort -k 2); }
+
+# The first start makes the directory, and asks nothing.
+start 0
+[ "$said" = "started $mine/Zembrolix log $HOME/.local/state/zembrolix/log" ] || complain "first: it says $said"
+[ -d "$HOME/.local/state/zembrolix" ] || complain "first: no directory for the log"
+[ "$(setting LanguageFile) $(setting LastSisUsed) $(setting LastEmuUsed)" = "ZB-FRA.LNG 0 0" ] || complain "first: the settings: $(cat "$mine/Zembro.cfg")"
+for name in Zembro.emu Zembro.rom Zembro.sye Zembro.txt Zembro.faq LNG/ZB-CAT.LNG demo/prisma.bin demo/prisma.gif zembro Cvtgif15.exe; do
+    [ -s "$mine/$name" ] || complain "first: no $name"
+done
+[ "$(ls "$mine/copias" | wc -l)" = 1 ] || complain "first: no copy of the text files"
+! grep -q @ "$mine/Zembro.emu" || complain "first: the catalogue has places left to fill in"
+
+# Another one changes nothing, in whatever language.
+before=$(state)
+LANG=de_DE.UTF-8 ZEMBRO_LOG=$work/log start 0
+[ "$said" = "started $mine/Zembrolix log $work/log" ] || complain "again: it says $said"
+[ "$(state)" = "$before" ] || complain "again: $(state | diff - <(echo "$before"))"
+ZEMBRO_LOG='' start 0
+[ "$said" = "started $mine/Zembrolix log " ] || complain "without a log: it says $said"
+
+# A newer version renews what the user hasn't changed.
+printf 'changed\r\n' >>"$mine/LNG/ZB-FRA.LNG"
+printf 'changed\r\n' >>"$mine/Zembro.faq"
+printf 'changed\r\n' >>"$mine/Zembro.rom"
+echo game >"$mine/demo/mine.bin"
+users=$(cd "$mine" && sha256sum LNG/ZB-FRA.LNG Zembro.faq Zembro.rom Zembro.cfg Zembro.emu demo/mine.bin)
+for name in LNG/ZB-FRA.LNG LNG/ZB-ITA.LNG Zembro.faq Zembro.txt Zembro.emu Zembro.rom; do
+    printf 'newer\r\n' >>"$files/$name"
+done
+echo '# newer' >>"$work/usr/lib/zembrolix/Zembrolix"
+start 0
+[ "$(cd "$mine" && sha256sum LNG/ZB-FRA.LNG Zembro.faq Zembro.rom Zembro.cfg Zembro.emu demo/mine.bin)" = "$users" ] || complain "newer: what the user changed is gone"
+for name in LNG/ZB-ITA.LNG Zembro.txt Zembrolix; do
+    grep -q newer "$mine/$name" || complain "newer: $name is old"
+done
+
+# In a directory that is named, also by a path from here.
+start 0 --directory "an other/place"
+[ "$said" = "started $work/an other/place/Zembrolix log $HOME/.local/state/zembrolix/log" ] || complain "directory: it says $said"
+[ "$(setting LanguageFile "$work/an other/place")" = ZB-FRA.LNG ] || complain "directory: the language"
+start 2 --directory
+start 2 --everything
+
+# zembro is about the user's directory, unless another one is named.
+zembro() { "$work/usr/games/zembro" "$@" 2>&1; }
+rm "$work/an other/place/demo/prisma.bin"
+zembro list atari | grep -qi prisma || complain "zembro: $(zembro list atari)"
+zembro --directory "an other/place" list atari | grep -qi hedgerow || complain "zembro elsewhere: $(zembro --directory "an other/place" list atari)"
+! zembro list atari --directory "an other/place" | grep -qi prisma || complain "zembro lists the wrong directory"
+
+# The check shows itself in a terminal.
+printf '#!/bin/sh\nprintf "%%s|" "$@"\n' >"$work/terminal"
+chmod +x "$work/terminal"
+TERMINAL="$work/terminal --wait" start 0 --check
+case $said in
+"--wait|-e|bash|-c|"*"|zembro|$mine/zembro|") ;;
+*) complain "check: the terminal gets $said" ;;
+esac
+
+# Where no directory can be made it says so, and starts nothing.
+rm -rf "$HOME"
+echo >"$HOME"
+start 1
+[ -z "$said" ] && grep -q "directory can't be made" "$work/errors" || complain "no room: $said $(cat "$work/errors")"
+HOME='' start 1
+grep -q 'no home directory' "$work/errors" || complain "no home: $(cat "$work/errors")"
+rm "$HOME"
+zembro --version | grep -q '^zembro ' || complain "zembro without a directory: $(zembro --version)"
+
+# One version everywhere.
+version=$(sed -n 's/^project(Zembrolix VERSION \([0-9.]*\).*/\1/p' "$sources/CMakeLists.txt")
+[ "$(zembro --version)" = "zembro $version" ] || complain "version of zembro: $(zembro --version)"
+start 0 --version
+[ "$said" = "zembro $version" ] || complain "version of zembrolix: $said"
+grep -q "\"Zembrolix $version\"" "$work/usr/share/man/man6/zembrolix.6" || complain "version of the page zembrolix"
+grep -q "\"Zembrolix $version\"" "$work/usr/share/man/man1/zembro.1" || complain "version of the page zembro"
+grep -q "<release version=\"$version\" " "$work/usr/share/metainfo/zembrolix.metainfo.xml" || complain "version of the description"
+[ "$(sed -n 's/^## \([0-9.]*\).*/\1/p' "$sources/CHANGELOG.md" | head -n 1)" = "$version" ] || complain "version of the changes"
+
+desktop-file-validate "$work/usr/share/applications/zembrolix.desktop" || complain "the desktop entry"
+appstreamcli validate --no-net --strict "$work/usr/share/metainfo/zembrolix.metainfo.xml" >"$work/said" || complain "$(cat "$work/said")"
+for side in 16 22 24 32 48 64 96 128 256 512; do
+    [ "$(file -b "$work/usr/share/icons/hicolor/${side}x$side/apps/zembrolix.png" | grep -o "$side x $side")" ] || complain "no icon of $side pixels"
+done
+for page in man1/zembro.1 man6/zembrolix.6; do
+    warnings=$(LC_ALL=C.UTF-8 man --warnings -l "$work/usr/share/man/$page" 2>&1 >/dev/null)
+    [ -z "$warnings" ] || complain "$page: $warnings"
+done
+exit "$bad"
