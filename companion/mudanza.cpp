@@ -4,6 +4,7 @@
 
 #include "core/catalogo.h"
 #include "core/lineas.h"
+#include "core/rutas.h"
 
 #include "host/paths.h"
 
@@ -80,7 +81,7 @@ std::optional<Mudanza> pedida(const Sesion &sesion)
         sesion.Falla(sesion.palabras.Zbo_MuevePide);
         return std::nullopt;
     }
-    if (!host::exists(nuevo))
+    if (!host::exists(core::RutaDeValor(nuevo)))
         sesion.Avisa(sesion.palabras.Zbo_NoHay.arg(nuevo));
     return Mudanza { SinCierre(viejo), SinCierre(nuevo) };
 }

@@ -7,6 +7,7 @@
 #include "core/listado.h"
 #include "core/notas.h"
 #include "core/romelegida.h"
+#include "core/rutas.h"
 
 #include "host/lengths.h"
 #include "host/letters.h"
@@ -122,12 +123,12 @@ std::optional<Pareja> ParejaPedida(Sesion &sesion, const QString &sistema, const
 
 QString DirectorioDeJuegos(const core::Modulo &M, const Pareja &pareja)
 {
-    return core::Valor(M.Cat_ROM(pareja.sistema, pareja.fila), core::PrefijoRuta);
+    return core::RutaDeLinea(M.Cat_ROM(pareja.sistema, pareja.fila));
 }
 
 QString DirectorioDeCapturas(const core::Modulo &M, const Pareja &pareja)
 {
-    return core::ValorExigido(M.Cat_IMG(pareja.sistema, pareja.fila), core::PrefijoRuta);
+    return core::RutaExigida(M.Cat_IMG(pareja.sistema, pareja.fila));
 }
 
 int TipoDe(const core::Modulo &M, const Pareja &pareja)

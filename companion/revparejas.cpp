@@ -7,6 +7,7 @@
 #include "core/catalogo.h"
 #include "core/info.h"
 #include "core/romelegida.h"
+#include "core/rutas.h"
 
 #include "host/letters.h"
 #include "host/paths.h"
@@ -75,7 +76,7 @@ QString parecido(const QString &ruta)
 
 void RevisorDePareja::Programa()
 {
-    const QString exe = core::Valor(M.Cat_EXE(m_pareja.sistema, m_pareja.fila), core::PrefijoRuta);
+    const QString exe = core::RutaDeLinea(M.Cat_EXE(m_pareja.sistema, m_pareja.fila));
     const launch::Programa programa = launch::ProgramaDe(exe);
     if (programa.ExeCorto.enDisco.isEmpty()) {
         const QString otro = parecido(exe);
@@ -239,7 +240,7 @@ void revisaDirectorio(const Sesion &sesion, const QStringList &nombres, const QS
 
 QString capturasEnDisco(const core::Modulo &M, const Pareja &pareja)
 {
-    const QString directorio = core::Valor(M.Cat_IMG(pareja.sistema, pareja.fila), core::PrefijoRuta);
+    const QString directorio = core::RutaDeLinea(M.Cat_IMG(pareja.sistema, pareja.fila));
     return directorio.isEmpty() ? QString() : host::directoryPath(directorio);
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/basededatos.h"
 #include "core/catalogo.h"
+#include "core/rutas.h"
 
 #include "host/paths.h"
 
@@ -60,13 +61,14 @@ Cerrojos CerrojosDe(const Marcas &marcas)
 
 bool FaltaEjecutable(const QString &exe)
 {
-    const bool esFichero = host::exists(exe) && !host::exists(host::withClosingSeparator(exe));
+    const QString ruta = RutaDeValor(exe);
+    const bool esFichero = host::exists(ruta) && !host::exists(host::withClosingSeparator(ruta));
     return !exe.isEmpty() && !esFichero;
 }
 
 bool FaltaDirectorio(const QString &ruta)
 {
-    return !ruta.isEmpty() && !host::exists(host::withClosingSeparator(ruta));
+    return !ruta.isEmpty() && !host::exists(host::withClosingSeparator(RutaDeValor(ruta)));
 }
 
 Rechazo RechazoDe(const QString &sistema, int origen, const Casillas &casillas, const Marcas &marcas)

@@ -1,6 +1,6 @@
 #include "core/listado.h"
 
-#include "core/catalogo.h"
+#include "core/rutas.h"
 
 #include "host/lengths.h"
 
@@ -16,7 +16,7 @@ Recuento ListaDe(Modulo &M, int sistema, int fila, const QString &nombre, const 
 {
     M.TipoEmu = TipoDe(M.Cat_XDI(sistema, fila));
     const int tipo = Numero(M.TipoEmu);
-    const QString directorio = ValorExigido(M.Cat_ROM(sistema, fila), PrefijoRuta);
+    const QString directorio = RutaExigida(M.Cat_ROM(sistema, fila));
     const int entradas = ExploraDirectorio(M, tipo, directorio);
     const int notas = CargaNotasEnMayusculas(M, nombre);
     const int extensiones = CargaExtensiones(M, sistema);

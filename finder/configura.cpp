@@ -93,7 +93,7 @@ QString Trabajo::CatalogoCon(const QString &texto)
         ? ConMAMEDetras(nuevos)
         : Elige(nuevos, *m_antes, [this](const Hallazgo &hallazgo) { return hayJuegos(hallazgo); });
 
-    Incorporacion incorporacion = Incorpora(texto, *m_base, elegidos);
+    Incorporacion incorporacion = Incorpora(texto, *m_base, elegidos, m_encargo.directorio);
     leeCatalogo(*m_despues, incorporacion.texto);
     for (const Descarte &descarte : incorporacion.descartados)
         avisaDeDescarte(descarte);
@@ -150,7 +150,8 @@ Nota Trabajo::notaDe(const QString &sistema) const
     for (const Hallazgo &hallazgo : m_enLaMaquina) {
         if (hallazgo.sistema != sistema)
             continue;
-        const std::optional<QString> suyo = DirectorioDeJuegos(*m_despues, hallazgo.emulador.nombre);
+        const std::optional<QString> suyo =
+            DirectorioDeJuegos(*m_despues, hallazgo.emulador.nombre, m_encargo.directorio);
         nota.faltaConfigurar |= !suyo;
         algunoAqui |= !suyo || *suyo == hallazgo.emulador.rom;
         if (suyo && *suyo != hallazgo.emulador.rom)

@@ -15,7 +15,7 @@ namespace finder {
 
 struct Hallazgo {
     QString sistema;
-    core::EmuladorNuevo emulador; // as it is configured
+    core::EmuladorNuevo emulador; // as it is configured, by whole paths
     QString programa; // the executable that was found
     // The directory that an emulator is started in which gets the bare name of a game: a link to the
     // executable lies there, so that its working directory is this one, and a link named "roms". Empty for

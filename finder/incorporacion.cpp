@@ -2,6 +2,7 @@
 
 #include "core/bloques.h"
 #include "core/catalogo.h"
+#include "core/rutas.h"
 
 #include "host/letters.h"
 
@@ -19,12 +20,15 @@ using core::Modulo;
 
 constexpr size_t MaxEntradas = core::MaxSistemas - 1; // of either list
 
-core::SistemaNuevo sistemaDe(const Modulo &base, const Hallazgo &hallazgo)
+core::SistemaNuevo sistemaDe(const Modulo &base, const Hallazgo &hallazgo, const QString &directorio)
 {
     int s = 0;
     while (base.Cat_Nombre(s, 0) != u'-' + hallazgo.sistema)
         ++s;
     core::SistemaNuevo sistema { hallazgo.sistema, base.Cat_WEB1(s), {}, hallazgo.emulador };
+    core::EmuladorNuevo &emulador = sistema.emulador;
+    for (QString *ruta : { &emulador.exe, &emulador.rom, &emulador.img })
+        *ruta = core::ValorDeRuta(*ruta, directorio);
     for (int k = 0; !base.Cat_EXT(s, k).isEmpty(); ++k)
         sistema.extensiones += base.Cat_EXT(s, k);
     return sistema;
@@ -94,10 +98,10 @@ QString conSistema(
 
 // Only the first block of the system gets it.
 QString conEmulador(const QString &texto, const std::vector<LineaConFin> &lineas,
-    const std::vector<core::Bloque> &bloques, const Hallazgo &hallazgo)
+    const std::vector<core::Bloque> &bloques, const core::SistemaNuevo &sistema)
 {
     const qsizetype hasta = bloques.size() > 1 ? lugarDe(texto, lineas[bloques[1].inicio]) : texto.size();
-    return core::ConEmuladorConfigurado(texto.left(hasta), u'-' + hallazgo.sistema, hallazgo.emulador)
+    return core::ConEmuladorConfigurado(texto.left(hasta), u'-' + sistema.nombre, sistema.emulador)
         + texto.sliced(hasta);
 }
 
@@ -148,13 +152,14 @@ bool encaja(const QString &antes, const QString &despues, const core::SistemaNue
 }
 
 // The text with it, or why it can't have it.
-std::optional<Motivo> pon(QString &texto, const Modulo &base, const Hallazgo &hallazgo)
+std::optional<Motivo> pon(
+    QString &texto, const Modulo &base, const Hallazgo &hallazgo, const QString &directorio)
 {
     if (!esDeUnaLinea(hallazgo.emulador))
         return Motivo::NoVuelve;
     const std::vector<LineaConFin> lineas = core::EnLineas(texto);
     const std::vector<core::Bloque> bloques = core::BloquesDe(lineas, u'-' + hallazgo.sistema);
-    const core::SistemaNuevo sistema = sistemaDe(base, hallazgo);
+    const core::SistemaNuevo sistema = sistemaDe(base, hallazgo, directorio);
     if (bloques.empty()) {
         if (const std::optional<Motivo> motivo = motivoContraSistema(lineas, hallazgo.sistema))
             return motivo;
@@ -162,7 +167,7 @@ std::optional<Motivo> pon(QString &texto, const Modulo &base, const Hallazgo &ha
         return Motivo::Lleno;
     }
     QString nuevo =
-        bloques.empty() ? conSistema(texto, lineas, sistema) : conEmulador(texto, lineas, bloques, hallazgo);
+        bloques.empty() ? conSistema(texto, lineas, sistema) : conEmulador(texto, lineas, bloques, sistema);
     if (!encaja(texto, nuevo, sistema))
         return Motivo::NoEncaja;
     texto = std::move(nuevo);
@@ -171,11 +176,12 @@ std::optional<Motivo> pon(QString &texto, const Modulo &base, const Hallazgo &ha
 
 } // namespace
 
-Incorporacion Incorpora(const QString &texto, const Modulo &base, const std::vector<Hallazgo> &hallazgos)
+Incorporacion Incorpora(const QString &texto, const Modulo &base, const std::vector<Hallazgo> &hallazgos,
+    const QString &directorio)
 {
     Incorporacion resultado { texto, {}, {} };
     for (const Hallazgo &hallazgo : hallazgos) {
-        if (const std::optional<Motivo> motivo = pon(resultado.texto, base, hallazgo))
+        if (const std::optional<Motivo> motivo = pon(resultado.texto, base, hallazgo, directorio))
             resultado.descartados.push_back({ hallazgo, *motivo });
         else
             resultado.puestos.push_back(hallazgo);

@@ -28,8 +28,9 @@ struct Incorporacion {
 
 // The catalogue's text with these emulators, block for block as saving each of them writes it, and each one
 // once, whatever the catalogue has twice. Every line that was there stays, and the reader
-// gives it to whom it gave it before.
-Incorporacion Incorpora(
-    const QString &texto, const core::Modulo &base, const std::vector<Hallazgo> &hallazgos);
+// gives it to whom it gave it before. What lies below the program's directory is named from there, so that it
+// moves along.
+Incorporacion Incorpora(const QString &texto, const core::Modulo &base,
+    const std::vector<Hallazgo> &hallazgos, const QString &directorio);
 
 } // namespace finder

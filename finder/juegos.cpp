@@ -2,6 +2,7 @@
 
 #include "core/catalogo.h"
 #include "core/lista.h"
+#include "core/rutas.h"
 
 #include "host/failure.h"
 #include "host/letters.h"
@@ -65,12 +66,13 @@ bool HayJuegos(const QString &directorio, int tipo, const QStringList &extension
     }
 }
 
-std::optional<QString> DirectorioDeJuegos(const core::Modulo &catalogo, const QString &emulador)
+std::optional<QString> DirectorioDeJuegos(
+    const core::Modulo &catalogo, const QString &emulador, const QString &directorio)
 {
     for (int s = 0; s <= catalogo.Indice_Sistema; ++s) {
         for (int e = 1; e <= core::TotalEmuladores(catalogo, s); ++e) {
             if (catalogo.Cat_Nombre(s, e) == u'+' + emulador)
-                return core::Valor(catalogo.Cat_ROM(s, e), core::PrefijoRuta);
+                return core::RutaDeValor(core::Valor(catalogo.Cat_ROM(s, e), core::PrefijoRuta), directorio);
         }
     }
     return std::nullopt;

@@ -16,8 +16,10 @@ QStringList ExtensionesDe(const core::Modulo &base, const core::Modulo &catalogo
 // Whether the main screen would list anything of this directory but the line of text.
 bool HayJuegos(const QString &directorio, int tipo, const QStringList &extensiones);
 
-// Where the emulator of this name looks for games, empty for nowhere; nothing if the catalogue hasn't got it.
-std::optional<QString> DirectorioDeJuegos(const core::Modulo &catalogo, const QString &emulador);
+// Where the emulator of this name looks for games, empty for nowhere; nothing if the catalogue, that of this
+// program directory, hasn't got it.
+std::optional<QString> DirectorioDeJuegos(
+    const core::Modulo &catalogo, const QString &emulador, const QString &directorio);
 
 // What the line says.
 struct Nota {

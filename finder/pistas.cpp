@@ -2,6 +2,8 @@
 
 #include "finder/hallazgos.h"
 
+#include "core/rutas.h"
+
 #include "host/paths.h"
 
 #include <algorithm>
@@ -47,21 +49,22 @@ Conocido Reconoce(const QString &sistema, const QString &emulador, const std::ve
     const Lugares &lugares, const QString &directorio)
 {
     Conocido conocido;
-    conocido.roms = RutaDeROMs(directorio, sistema);
-    conocido.capturas = RutaDeCapturas(directorio, sistema);
+    conocido.roms = core::ValorDeRuta(RutaDeROMs(directorio, sistema), directorio);
+    conocido.capturas = core::ValorDeRuta(RutaDeCapturas(directorio, sistema), directorio);
     const auto ficha = std::find_if(
         fichas.begin(), fichas.end(), [&](const Ficha &una) { return una.emulador == emulador; });
     if (ficha == fichas.end())
         return conocido;
     conocido.ficha = *ficha;
-    conocido.programa = RutaDePrograma(ficha->ejecutables, lugares);
+    const QString programa = RutaDePrograma(ficha->ejecutables, lugares);
+    conocido.programa = core::ValorDeRuta(programa, directorio);
     const QString nucleo = NucleoDe(*ficha);
     if (!nucleo.isEmpty())
         conocido.nucleo = RutaDeNucleo(nucleo, lugares);
-    if (SeArrancaJuntoASusROMs(*ficha) && !conocido.programa.isEmpty()) {
-        const QString enlace = RutaDeArranque(directorio, emulador)
-            + conocido.programa.sliced(host::lastSeparator(conocido.programa));
-        conocido.enlace = host::exists(enlace) ? enlace : QString();
+    if (SeArrancaJuntoASusROMs(*ficha) && !programa.isEmpty()) {
+        const QString enlace =
+            RutaDeArranque(directorio, emulador) + programa.sliced(host::lastSeparator(programa));
+        conocido.enlace = host::exists(enlace) ? core::ValorDeRuta(enlace, directorio) : QString();
     }
     return conocido;
 }

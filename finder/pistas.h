@@ -12,7 +12,7 @@ namespace finder {
 // The table as it was delivered with the program.
 QString TablaDelPrograma();
 
-// An emulator, and what of it is there.
+// An emulator, and what of it is there. What lies below the program's directory is named from there.
 struct Conocido {
     Ficha ficha; // empty if the table doesn't have it
     QString programa; // its executable, empty if it isn't on this machine

@@ -21,30 +21,33 @@ void haceDirectorio(const QString &ruta)
 bool estaEnlazado(const QString &destino, const QString &enlace)
 {
     const QFileInfo anterior(enlace);
-    return anterior.isSymLink() && anterior.symLinkTarget() == QDir::cleanPath(destino);
-}
-
-void enlaza(const QString &destino, const QString &enlace)
-{
-    if (estaEnlazado(destino, enlace))
-        return;
-    if (QFileInfo(enlace).isSymLink())
-        QFile::remove(enlace);
-    if (!QFile::link(destino, enlace))
-        throw host::Failure(host::PathAccess, u"make a link"_s, enlace);
+    return anterior.isSymLink() && QDir::cleanPath(anterior.symLinkTarget()) == QDir::cleanPath(destino);
 }
 
 struct Enlace {
     QString destino;
     QString lugar;
+    bool mudable = false; // both move with the program's directory, so that it leads from one to the other
 };
+
+void enlaza(const Enlace &enlace)
+{
+    if (estaEnlazado(enlace.destino, enlace.lugar))
+        return;
+    if (QFileInfo(enlace.lugar).isSymLink())
+        QFile::remove(enlace.lugar);
+    const QString destino =
+        enlace.mudable ? QFileInfo(enlace.lugar).dir().relativeFilePath(enlace.destino) : enlace.destino;
+    if (!QFile::link(destino, enlace.lugar))
+        throw host::Failure(host::PathAccess, u"make a link"_s, enlace.lugar);
+}
 
 std::vector<Enlace> enlacesDe(const Hallazgo &hallazgo)
 {
     if (hallazgo.arranque.isEmpty())
         return {};
     return { { hallazgo.programa, hallazgo.emulador.exe },
-        { QDir::cleanPath(hallazgo.emulador.rom), hallazgo.arranque + u"/roms"_s } };
+        { QDir::cleanPath(hallazgo.emulador.rom), hallazgo.arranque + u"/roms"_s, true } };
 }
 
 QStringList losQueFaltan(const QStringList &directorios)
@@ -87,7 +90,7 @@ void Prepara(const Hallazgo &hallazgo)
         return;
     haceDirectorio(hallazgo.arranque);
     for (const Enlace &enlace : enlacesDe(hallazgo))
-        enlaza(enlace.destino, enlace.lugar);
+        enlaza(enlace);
 }
 
 } // namespace finder

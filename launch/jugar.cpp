@@ -2,6 +2,7 @@
 
 #include "core/catalogo.h"
 #include "core/parrom.h"
+#include "core/rutas.h"
 #include "launch/busquedarom.h"
 #include "launch/carpetadejuego.h"
 #include "launch/cronica.h"
@@ -64,6 +65,7 @@ private:
     void Tipo3();
 
     QString LeeCatalogo(const Tabla &tabla, int prefijo) const;
+    QString LeeRuta(const Tabla &tabla) const;
     QStringList Extensiones() const;
     Desempaquetado Desempaqueta(const Ruta &ArchivoZip, const QString &DirectorioDestino);
     void AvisaDeIlegible();
@@ -80,13 +82,13 @@ private:
 void Lanzamiento::SoloExe()
 {
     m_piezas.Par1 = host::lower(LeeCatalogo(M.Cat_PAR1, core::PrefijoParametro));
-    m_piezas.programa = ProgramaDe(LeeCatalogo(M.Cat_EXE, core::PrefijoRuta));
+    m_piezas.programa = ProgramaDe(LeeRuta(M.Cat_EXE));
     Corre(Caso::SoloExe);
 }
 
 void Lanzamiento::ConROM(const QString &entrada)
 {
-    m_piezas.RomDir = RomDirDe(LeeCatalogo(M.Cat_ROM, core::PrefijoRuta));
+    m_piezas.RomDir = RomDirDe(LeeRuta(M.Cat_ROM));
     const Busqueda busqueda = BuscaROM(M, m_seleccion.tipo, entrada);
     m_via = busqueda.via;
     if (m_via == Via::Nota)
@@ -131,7 +133,7 @@ void Lanzamiento::ReunePiezasDelEmulador()
 {
     m_piezas.Par1 = host::lower(LeeCatalogo(M.Cat_PAR1, core::PrefijoParametro));
     m_piezas.Par2 = host::lower(LeeCatalogo(M.Cat_PAR2, core::PrefijoParametro));
-    m_piezas.programa = ProgramaDe(LeeCatalogo(M.Cat_EXE, core::PrefijoRuta));
+    m_piezas.programa = ProgramaDe(LeeRuta(M.Cat_EXE));
     M.TituloDOS = TituloDe(m_piezas.programa.ExeNombre.texto);
 }
 
@@ -210,6 +212,11 @@ QString Lanzamiento::LeeCatalogo(const Tabla &tabla, int prefijo) const
     return valor;
 }
 
+QString Lanzamiento::LeeRuta(const Tabla &tabla) const
+{
+    return core::RutaDeValor(LeeCatalogo(tabla, core::PrefijoRuta));
+}
+
 QStringList Lanzamiento::Extensiones() const
 {
     QStringList extensiones;
@@ -241,7 +248,7 @@ void Lanzamiento::Corre(Caso caso)
     const LineaDeOrden orden = Compone(caso, m_via, m_piezas);
     if (core::NumeroDeAjuste(M.DebugMode) == 1)
         m_obras.EnsenaOrden(orden.EnTexto());
-    m_obras.Arranca(orden, LeeCatalogo(M.Cat_EXE, core::PrefijoRuta));
+    m_obras.Arranca(orden, LeeRuta(M.Cat_EXE));
 }
 
 QString NombreDeSistema(const core::Modulo &M, int sistema)

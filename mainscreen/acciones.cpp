@@ -6,10 +6,10 @@
 
 #include "core/arranque.h"
 #include "core/campos.h"
-#include "core/catalogo.h"
 #include "core/lista.h"
 #include "core/notas.h"
 #include "core/romelegida.h"
+#include "core/rutas.h"
 
 #include "host/paths.h"
 #include "host/questions.h"
@@ -53,7 +53,7 @@ void Portada::Borrar()
     if (!HayROMElegida())
         return;
     const int indice = Lista1->ListIndex();
-    const QString directorio = core::Valor(M.Cat_ROM(Sistema(), Emulador() + 1), core::PrefijoRuta);
+    const QString directorio = core::RutaDeLinea(M.Cat_ROM(Sistema(), Emulador() + 1));
     M.TipoEmu = core::TipoDe(M.Cat_XDI(Sistema(), Emulador() + 1));
     M.Nota_CampoTexto = core::FicheroDeEntrada(M, core::Numero(M.TipoEmu), Lista1->Text());
     // Without a name it would be the whole directory.

@@ -4,9 +4,9 @@
 
 #include "mainscreen/portada.h"
 
-#include "core/catalogo.h"
 #include "core/columnas.h"
 #include "core/documentos.h"
+#include "core/rutas.h"
 
 #include "forms/assistance.h"
 
@@ -78,7 +78,7 @@ void Portada::BotonD2_Release()
 
 QString Portada::RutaDelEmulador() const
 {
-    return core::Valor(M.Cat_EXE(Sistema(), Emulador() + 1), core::PrefijoRuta);
+    return core::RutaDeLinea(M.Cat_EXE(Sistema(), Emulador() + 1));
 }
 
 void Portada::NoHayDocumento(const QString &titulo, const QString &texto)

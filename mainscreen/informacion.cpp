@@ -4,8 +4,8 @@
 
 #include "mainscreen/portada.h"
 
-#include "core/catalogo.h"
 #include "core/info.h"
+#include "core/rutas.h"
 
 #include "forms/pictures.h"
 
@@ -26,7 +26,7 @@ void Portada::LLena_INFO()
         M.TipoEmu = core::TipoDe(M.Cat_XDI(sistema, emulador));
         if (Lista1->ListIndex() < 0)
             return;
-        const QString directorio = core::ValorExigido(M.Cat_ROM(sistema, emulador), core::PrefijoRuta);
+        const QString directorio = core::RutaExigida(M.Cat_ROM(sistema, emulador));
         const host::LengthsIn largos(directorio);
         linea = core::UltimaLineaDeInfo(M, Lista1->Text(), core::Numero(M.TipoEmu), directorio,
             std::cref(largos), [&](const QString &ruta) { return largos.lists(ruta); });
@@ -61,7 +61,7 @@ void Portada::Lista1_Selection()
 void Portada::CargaCaptura()
 {
     Graf_Imagen->show();
-    const QString directorio = core::ValorExigido(M.Cat_IMG(Sistema(), Emulador() + 1), core::PrefijoRuta);
+    const QString directorio = core::RutaExigida(M.Cat_IMG(Sistema(), Emulador() + 1));
     QStringList rutas = core::CapturasDe(M, Lista1->Text(), core::Numero(M.TipoEmu), directorio);
     if (rutas.isEmpty())
         return;

@@ -3,6 +3,7 @@
 #include "maintenance/configuracion2.h"
 
 #include "core/basededatos.h"
+#include "core/rutas.h"
 
 #include "host/failure.h"
 #include "host/paths.h"
@@ -171,7 +172,8 @@ void Configuracion2::BuscaEjecutable()
     if (!CargaExaminar(separador < 0 ? texto : texto.first(separador + 1)))
         return;
     if (Examina())
-        Casilla1->SetText(M.RutaExaminar + host::separatorOf(M.RutaExaminar) + M.ArchivoExaminar);
+        Casilla1->SetText(
+            core::ValorDeRuta(M.RutaExaminar + host::separatorOf(M.RutaExaminar) + M.ArchivoExaminar));
 }
 
 void Configuracion2::BuscaDirectorio(forms::TextBox &casilla)
@@ -184,7 +186,7 @@ void Configuracion2::BuscaDirectorio(forms::TextBox &casilla)
     }
     casilla.setFocus();
     if (aceptado)
-        casilla.SetText(M.RutaExaminar);
+        casilla.SetText(core::ValorDeRuta(M.RutaExaminar));
 }
 
 // Failures are ignored here. False if there is no browser then.
@@ -192,7 +194,7 @@ bool Configuracion2::CargaExaminar(const QString &inicio)
 {
     try {
         dialogs::Examinar &examinar = *m_examinar;
-        examinar.Directorios->SetPath(inicio);
+        examinar.Directorios->SetPath(core::RutaDeValor(inicio));
     } catch (const host::Failure &) {
         // Loaded, it stays where its load has put it.
     }

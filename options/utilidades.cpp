@@ -3,7 +3,7 @@
 #include "options/montaje.h"
 
 #include "core/capturas.h"
-#include "core/catalogo.h"
+#include "core/rutas.h"
 
 #include "dialogs/etiqueta.h"
 
@@ -72,7 +72,7 @@ void Utilidades::Boton1_Click()
         return;
     const int sistema = P.Combo1->ItemData(P.Combo1->ListIndex());
     const int emulador = P.Combo2->ItemData(P.Combo2->ListIndex()) + 1;
-    M.RutaTrabajo = core::ValorExigido(M.Cat_IMG(sistema, emulador), core::PrefijoRuta);
+    M.RutaTrabajo = core::RutaExigida(M.Cat_IMG(sistema, emulador));
     const QStringList capturas = core::CapturasPCX(M.RutaTrabajo);
     if (capturas.isEmpty()) {
         P.Mensaje(3, M.Msg_NingunPCX1, M.Msg_NingunPCX0, M.TXT_Aceptar, TXT_Volver->Caption(), QString());
@@ -118,7 +118,8 @@ void Utilidades::ConvierteUna(const QString &directorio, const QString &captura)
     launch::Intenta([&] {
         conversor = host::Process::start({ host::programFile(u"CVTGIF15.EXE"_s), captura });
     });
-    launch::Vigila(M, std::move(conversor), &forms::WaitForEvents, [] {}, &host::closeWindowTitled);
+    launch::Vigila(
+        M, std::move(conversor), &forms::WaitForEvents, [] {}, &host::closeWindowTitled);
     host::deleteFile(directorio + u'/' + captura);
 }
 

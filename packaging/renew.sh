@@ -74,12 +74,11 @@ for game in "$files"/demo/*; do
 done
 
 missing Zembro.emu || exit 0
-# The catalogue as delivered lists the demonstration games, and needs to know where they and their emulator are.
+# The catalogue as delivered lists the demonstration games, and needs to know where their emulator is.
 stella=$(command -v stella || true)
 [ -n "$stella" ] || stella=/usr/games/stella
 escaped() { printf '%s' "$1" | sed 's/[&\\|]/\\&/g'; }
-sed -e "s|@STELLA@|$(escaped "$stella")|" -e "s|@DEMO@|$(escaped "$directory/demo")|" "$files/Zembro.emu" \
-    >"$work/Zembro.emu"
+sed -e "s|@STELLA@|$(escaped "$stella")|" "$files/Zembro.emu" >"$work/Zembro.emu"
 mkdir -p "$directory/roms/Atari 2600"
 "$programs/BuscaEmuladores" "$files/emuladores.tsv" "$directory" "$work/Zembro.emu" >"$work/found" 9>&- ||
     echo "The emulators of this machine aren't configured." >&2

@@ -73,8 +73,8 @@ END
     example "Emulators that came to the machine since; \`--write\` configures them." find
     ./zembro check --mend --write >/dev/null
     printf '\n## move\n'
-    sed -i "s|$work/zembrolix|/media/disk/zembrolix|" Zembro.emu
-    example "After the directory went elsewhere; \`--old\` and \`--new\` name any other leading part of the paths." move
+    sed -i -E 's#^(ROM|IMG)=#&/media/disk/zembrolix/#' Zembro.emu
+    example "Paths that are written whole, after the directory went elsewhere; \`--old\` and \`--new\` name any other leading part of them." move
     ./zembro move --write >/dev/null
     printf '\n## describe\n'
     printf x >"demo/Legend of Zelda, The (Europe) (Rev 1).bin"

@@ -45,6 +45,8 @@ TEST(ConRutasMudadas, ChangesWholeComponentsOfTheThreeKindsOfLines)
         { u"ROM=/a/b/"_s, u""_s, u"ROM=/N/a/b/"_s },
         { u"ROM=a/b/"_s, u""_s, u"ROM=a/b/"_s },
         { u"ROM="_s, u"/a"_s, u"ROM="_s },
+        { u"ROM=b/"_s, u"/a"_s, u"ROM=b/"_s },
+        { u"ROM=b/"_s, u"/b"_s, u"ROM=b/"_s },
         { u"PAR1=/a/b/x"_s, u"/a/b"_s, u"PAR1=/a/b/x"_s },
         { u"rom=/a/b/x"_s, u"/a/b"_s, u"rom=/a/b/x"_s },
         { u"' ROM=/a/b/x"_s, u"/a/b"_s, u"' ROM=/a/b/x"_s },
@@ -122,6 +124,24 @@ TEST_F(Move, FindsTheOldPlaceOfTheDirectory)
     EXPECT_EQ(Bytes(u"Zembro.emu"_s), bien);
     EXPECT_FALSE(Json({ u"move"_s })[u"changed"_s].toBool());
     EXPECT_EQ(Zembro({ u"move"_s }).salida, "Nothing would change.\n");
+}
+
+TEST_F(Move, LeavesAloneWhatCountsFromTheProgramsDirectory)
+{
+    Pon(u"Zembro.emu"_s, Bytes(u"Zembro.emu"_s).replace("=" + Ruta(QString()).toUtf8(), "="));
+    const QByteArray antes = Bytes(u"Zembro.emu"_s);
+    ASSERT_TRUE(antes.contains("ROM=roms/"));
+    EXPECT_EQ(Zembro({ u"move"_s, u"--write"_s }).salida, "Nothing would change.\n");
+    EXPECT_FALSE(Json({ u"move"_s, u"--old"_s, u"/roms"_s, u"--write"_s })[u"changed"_s].toBool());
+    EXPECT_EQ(Bytes(u"Zembro.emu"_s), antes);
+}
+
+// To where the lines lead then, not by the working directory of the command line.
+TEST_F(Move, WarnsOfANewPlaceThatIsNotThere)
+{
+    EXPECT_EQ(Zembro({ u"move"_s, u"--old"_s, u"/x"_s, u"--new"_s, u"roms"_s }).error, "");
+    EXPECT_TRUE(
+        Zembro({ u"move"_s, u"--old"_s, u"/x"_s, u"--new"_s, u"no-such"_s }).error.contains("no-such"));
 }
 
 TEST_F(Move, OfSeveralOldPlacesTheUserChooses)

@@ -52,6 +52,17 @@ TEST_F(Check, WhatIsInOrderIsNoFinding_AndIsCounted)
         "Sis / Uno: 3 listed, 1 of another kind, 0 left out by the filters, 2 without a capture.\n");
 }
 
+TEST_F(Check, PathsFromTheProgramsDirectoryAreLookedAtThere)
+{
+    const QByteArray entero = dicho();
+    Cambia(u"Zembro.emu"_s, "=" + Ruta(QString()).toUtf8(), "=");
+    ASSERT_TRUE(Bytes(u"Zembro.emu"_s).contains("ROM=roms/"));
+    EXPECT_THAT(clases(), IsEmpty());
+    EXPECT_EQ(dicho(), entero);
+    Cambia(u"Zembro.emu"_s, "emu/uno.sh", "emu/unno.sh");
+    EXPECT_TRUE(dicho().contains(Ruta(u"emu/unno.sh"_s).toUtf8())) << dicho().toStdString();
+}
+
 TEST_F(Check, AMistypedExecutableIsSaid_WithTheOneThatIsMeant)
 {
     Cambia(u"Zembro.emu"_s, "emu/uno.sh", "emu/unno.sh");

@@ -350,13 +350,18 @@ TEST_F(Configuracion, APathIsMissedWhereNothingOfItsKindIs)
     }
 }
 
-// Where a launch would look: an executable's bare name is one of the working directory, never of PATH.
-TEST_F(Configuracion, ABareNameIsOneOfTheWorkingDirectory)
+// Where a launch would look: from the program's directory, never in the working directory or in PATH.
+TEST_F(Configuracion, ABareNameIsOneOfTheProgramsDirectory)
 {
     const QString antes = host::currentDirectory();
     Pon(u"Bin/Mame"_s, "x");
+    PonDirectorio(u"ROMs"_s);
+    EXPECT_FALSE(core::FaltaEjecutable(u"bin/mame"_s));
+    EXPECT_FALSE(core::FaltaDirectorio(u"roms\\"_s));
+    EXPECT_FALSE(core::FaltaDirectorio(u"ROMs"_s));
     host::changeDirectory(Ruta(u"Bin"_s));
-    EXPECT_FALSE(core::FaltaEjecutable(u"mame"_s));
+    EXPECT_TRUE(core::FaltaEjecutable(u"mame"_s));
     EXPECT_TRUE(core::FaltaEjecutable(u"sh"_s));
+    EXPECT_FALSE(core::FaltaDirectorio(u"roms/"_s));
     host::changeDirectory(antes);
 }

@@ -47,7 +47,7 @@ TEST(DeliveredSettings, AreTheMarkOfTheFirstRun)
 TEST(DeliveredCatalogue, HasItsLinesInTheOrderInWhichTheyAreWritten)
 {
     const QStringList beginnings { u"'"_s, u"-Atari 2600"_s, u"WEB1="_s, u"*.ZIP"_s, u"*.A26"_s, u"*.BIN"_s,
-        u"'"_s, u"+Stella"_s, u"WEB2="_s, u"EXE=@STELLA@"_s, u"XDI=0"_s, u"ROM=@DEMO@/"_s, u"IMG=@DEMO@/"_s,
+        u"'"_s, u"+Stella"_s, u"WEB2="_s, u"EXE=@STELLA@"_s, u"XDI=0"_s, u"ROM=demo/"_s, u"IMG=demo/"_s,
         u"PAR1="_s, u"PAR2="_s, u'\'' + QString(70, u'-'), u"["_s };
     const QStringList lines = sources::lines(u"Zembro.emu"_s);
     ASSERT_EQ(lines.size(), beginnings.size());

@@ -69,7 +69,7 @@ protected:
     {
         const auto base = std::make_unique<core::Modulo>();
         finder::LeeTablas(*base, Database);
-        return finder::Incorpora(catalogue, *base, search(catalogue)).texto;
+        return finder::Incorpora(catalogue, *base, search(catalogue), u"/Zembro Dir"_s).texto;
     }
 
     QString exe(const QString &name) const { return u"EXE="_s + maquina.Ruta(name) + u"\r\n"_s; }
@@ -93,11 +93,11 @@ TEST_F(Findings, AreBlocksOfTheCatalogueInTheOrderOfTheDatabase)
     EXPECT_EQ(with(Empty),
         u"' Comment\r\n-NES\r\nWEB1=http://nes\r\n*.ZIP\r\n*.NES\r\n'\r\n+Nestopia\r\nWEB2=http://nestopia\r\n"_s
             + exe(u"bin/nestopia"_s)
-            + u"XDI=0\r\nROM=/Zembro Dir/roms/NES/\r\nIMG=/Zembro Dir/capturas/NES/\r\nPAR1=\r\nPAR2=\r\n"
+            + u"XDI=0\r\nROM=roms/NES/\r\nIMG=capturas/NES/\r\nPAR1=\r\nPAR2=\r\n"
               "'\r\n+FCEUX\r\nWEB2=http://fceux\r\n"_s
             + exe(u"games/fceux"_s)
-            + u"XDI=0\r\nROM=/Zembro Dir/roms/NES/\r\nIMG=/Zembro Dir/capturas/NES/\r\nPAR1=--pal 0\r\nPAR2=-x\r\n"_s
-            + Closing + u"[EOF]\r\n"_s);
+            + u"XDI=0\r\nROM=roms/NES/\r\nIMG=capturas/NES/\r\nPAR1=--pal 0\r\nPAR2=-x\r\n"_s + Closing
+            + u"[EOF]\r\n"_s);
 }
 
 TEST_F(Findings, NeedTheCoreToo)
@@ -153,8 +153,8 @@ TEST_F(Findings, StandBehindTheEmulatorsThatTheirSystemHasAlready)
                            "ROM=/my roms/\r\nIMG=\r\nPAR1=-My\r\nPAR2=\r\n"_s;
     EXPECT_EQ(with(before + Closing + u"[EOF]\r\n"_s),
         before + u"'\r\n+FCEUX\r\nWEB2=http://fceux\r\n"_s + exe(u"bin/fceux"_s)
-            + u"XDI=0\r\nROM=/Zembro Dir/roms/NES/\r\nIMG=/Zembro Dir/capturas/NES/\r\nPAR1=--pal 0\r\nPAR2=-x\r\n"_s
-            + Closing + u"[EOF]\r\n"_s);
+            + u"XDI=0\r\nROM=roms/NES/\r\nIMG=capturas/NES/\r\nPAR1=--pal 0\r\nPAR2=-x\r\n"_s + Closing
+            + u"[EOF]\r\n"_s);
 }
 
 TEST_F(Findings, AreNoneInTheCatalogueThatHasThemAll)

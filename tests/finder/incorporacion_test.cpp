@@ -83,7 +83,7 @@ void expectKept(const core::Modulo &before, const core::Modulo &after)
 
 finder::Incorporacion with(const QString &text, const std::vector<finder::Hallazgo> &findings)
 {
-    finder::Incorporacion result = finder::Incorpora(text, *base(), findings);
+    finder::Incorporacion result = finder::Incorpora(text, *base(), findings, u"/program"_s);
     expectKept(*tables(text), *tables(result.texto));
     return result;
 }

@@ -106,10 +106,8 @@ protected:
 
     QByteArray block(const QByteArray &name, const QByteArray &system) const
     {
-        const QByteArray place = maquina.Ruta(u"Z"_s).toUtf8();
         return "+" + name + "\r\nWEB2=\r\nEXE=" + maquina.Ruta(u"bin/no-such-"_s).toUtf8() + name.toLower()
-            + "\r\nXDI=0\r\nROM=" + place + "/roms/" + system + "/\r\nIMG=" + place + "/capturas/" + system
-            + "/\r\nPAR1=\r\nPAR2=\r\n";
+            + "\r\nXDI=0\r\nROM=roms/" + system + "/\r\nIMG=capturas/" + system + "/\r\nPAR1=\r\nPAR2=\r\n";
     }
 
     Maquina maquina;
@@ -222,7 +220,7 @@ TEST_F(Request, TellsOfGamesThatTheirEmulatorDoesNotLookAt)
 {
     putGame(u"Ahead"_s, u"game.ahe"_s);
     ASSERT_EQ(run({ u"--all"_s }), 0);
-    const QByteArray elsewhere = bytes(u"Zembro.emu"_s).replace("/roms/Ahead/", "/elsewhere/");
+    const QByteArray elsewhere = bytes(u"Zembro.emu"_s).replace("ROM=roms/Ahead/", "ROM=elsewhere/");
     maquina.PonFichero(u"Z/Zembro.emu"_s, elsewhere);
     ASSERT_TRUE(QFile::remove(maquina.Ruta(u"Z/roms/Ahead/LEEME.txt"_s)));
     ASSERT_EQ(run(), 0);

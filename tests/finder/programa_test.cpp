@@ -71,12 +71,11 @@ TEST_F(Finder, ConfiguresWhatIsThereAndMakesItsDirectories)
     putGames();
     maquina.PonPrograma(u"bin/no-such-nes"_s);
     ASSERT_EQ(run(), 0) << errors.toStdString();
-    const QByteArray directory = maquina.Ruta(u"Zembro Dir"_s).toUtf8();
     const QByteArray exe = maquina.Ruta(u"bin/no-such-nes"_s).toUtf8();
     EXPECT_EQ(catalogue(),
         "' Comment\r\n-Games/Home\r\nWEB1=w\r\n*.ZIP\r\n'\r\n+Nes Test\r\nWEB2=n\r\nEXE=" + exe
-            + "\r\nXDI=0\r\nROM=" + directory + "/roms/Games-Home/\r\nIMG=" + directory
-            + "/capturas/Games-Home/\r\nPAR1=\r\nPAR2=\r\n" + Closing + "[EOF]\r\n");
+            + "\r\nXDI=0\r\nROM=roms/Games-Home/\r\nIMG=capturas/Games-Home/\r\nPAR1=\r\nPAR2=\r\n" + Closing
+            + "[EOF]\r\n");
     EXPECT_EQ(maquina.Entradas(u"Zembro Dir"_s),
         QStringList({ u"Zembro.emu"_s, u"Zembro.sye"_s, u"capturas"_s, u"capturas/Games-Home"_s, u"roms"_s,
             u"roms/Arcade"_s, u"roms/Arcade/game.zip"_s, u"roms/Games-Home"_s, u"roms/Games-Home/LEEME.txt"_s,
@@ -120,6 +119,7 @@ TEST_F(Finder, ChangesNothingTheSecondTime)
     EXPECT_EQ(catalogue(), before);
     EXPECT_EQ(maquina.Entradas(u"Zembro Dir"_s), entries);
     EXPECT_EQ(output, "");
+    EXPECT_EQ(errors, "");
 }
 
 TEST_F(Finder, LinksExecutableAndGamesWhereAnEmulatorGetsABareName)
@@ -133,6 +133,18 @@ TEST_F(Finder, LinksExecutableAndGamesWhereAnEmulatorGetsABareName)
     EXPECT_EQ(QFileInfo(maquina.Ruta(start + u"roms"_s)).symLinkTarget(),
         maquina.Ruta(u"Zembro Dir/roms/Arcade"_s));
     EXPECT_THAT(catalogue().toStdString(), HasSubstr("PAR1=-dir roms\r\n"));
+    EXPECT_THAT(catalogue().toStdString(), HasSubstr("EXE=arranque/Arcade Test/no-such-arcade\r\n"));
+}
+
+TEST_F(Finder, LinksGamesSoThatTheyMoveWithTheDirectory)
+{
+    putGames();
+    maquina.PonPrograma(u"bin/no-such-arcade"_s);
+    ASSERT_EQ(run(), 0) << errors.toStdString();
+    ASSERT_TRUE(QDir().rename(maquina.Ruta(u"Zembro Dir"_s), maquina.Ruta(u"Moved"_s)));
+    const QFileInfo roms(maquina.Ruta(u"Moved/arranque/Arcade Test/roms"_s));
+    EXPECT_EQ(roms.canonicalFilePath(), QFileInfo(maquina.Ruta(u"Moved/roms/Arcade"_s)).canonicalFilePath());
+    EXPECT_TRUE(QFileInfo(maquina.Ruta(u"Moved/arranque/Arcade Test/roms/game.zip"_s)).isFile());
 }
 
 TEST_F(Finder, PutsALinkRightThatLeadsElsewhere)

@@ -344,12 +344,26 @@ TEST_F(DocumentosTest, FileManagerOpensTheEmulatorsDirectory)
     EXPECT_TRUE(tools.recorded().startsWith(u"thunar|"_s + files.path(u"emu/"_s) + u'|'));
 }
 
-TEST_F(DocumentosTest, EmulatorWithoutADirectoryMeansTheCurrentOne)
+TEST_F(DocumentosTest, EmulatorByItsBareNameMeansTheProgramsDirectory)
 {
+    const QString before = QDir::currentPath();
     for (const QString &tool : { u"xterm"_s, u"thunar"_s })
         tools.install(tool);
     startAt(Zeta, 0);
     M->Cat_EXE(0, 1) = u"EXE=emu"_s;
+    click(control(u"E1"_s));
+    EXPECT_EQ(tools.recorded(), u"thunar|"_s + files.path() + u"/|"_s + before + u'|');
+    click(control(u"D1"_s));
+    EXPECT_EQ(tools.recorded(), u"xterm|"_s + files.path() + u'|');
+    EXPECT_TRUE(QDir::setCurrent(before));
+}
+
+TEST_F(DocumentosTest, EmulatorWithoutAPathMeansTheCurrentDirectory)
+{
+    for (const QString &tool : { u"xterm"_s, u"thunar"_s })
+        tools.install(tool);
+    startAt(Zeta, 0);
+    M->Cat_EXE(0, 1) = u"EXE="_s;
     const QString directory = QDir::currentPath();
     click(control(u"D1"_s));
     EXPECT_EQ(tools.recorded(), u"xterm|"_s + directory + u'|');

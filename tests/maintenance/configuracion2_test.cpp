@@ -344,7 +344,7 @@ TEST_F(Configuracion2Test, TheExecutableIsBrowsedFor)
             select(programs, u"tool"_s);
             accept(browser);
         });
-        EXPECT_EQ(box(form, u"Casilla1"_s), files.path(u"bin/tool"_s));
+        EXPECT_EQ(box(form, u"Casilla1"_s), u"bin/tool");
     });
 }
 
@@ -354,7 +354,7 @@ TEST_F(Configuracion2Test, WithoutAFileTheExecutableIsTheDirectoryAndASeparator_
     configurePair(u"Own"_s, u"Mame"_s, [this](forms::Form &form) {
         write(form, u"Casilla1"_s, files.path(u"BIN\\old.exe"_s));
         browse(form, u"Boton1"_s, [](forms::Form &browser) { accept(browser); });
-        EXPECT_EQ(box(form, u"Casilla1"_s), files.path(u"bin/"_s));
+        EXPECT_EQ(box(form, u"Casilla1"_s), u"bin/");
         write(form, u"Casilla1"_s, u"/x"_s);
         browse(form, u"Boton1"_s, [](forms::Form &browser) { accept(browser); });
         EXPECT_EQ(box(form, u"Casilla1"_s), u"//"_s);
@@ -374,9 +374,44 @@ TEST_F(Configuracion2Test, DirectoriesAreBrowsedForWithoutTheListOfFiles)
                 EXPECT_EQ(browser.width(), 138); // 2160 twips with the frame
                 accept(browser);
             });
-            EXPECT_EQ(box(form, name), files.path(u"roms"_s));
+            EXPECT_EQ(box(form, name), u"roms");
             EXPECT_EQ(form.focusWidget()->objectName(), name);
         }
+    });
+}
+
+TEST_F(Configuracion2Test, OutsideTheProgramsDirectoryAndForThatItselfTheAnswerIsTheWholePath)
+{
+    const QTemporaryDir outside;
+    begin();
+    configurePair(u"Own"_s, u"Mame"_s, [&](forms::Form &form) {
+        for (const QString &directory : { outside.path(), files.path() }) {
+            write(form, u"Casilla2"_s, directory);
+            browse(form, u"Boton2"_s, [](forms::Form &browser) { accept(browser); });
+            EXPECT_EQ(box(form, u"Casilla2"_s), directory);
+        }
+    });
+}
+
+// What the boxes hold stays as it is; only the browser starts where it leads.
+TEST_F(Configuracion2Test, APathFromTheProgramsDirectoryIsBrowsedThere)
+{
+    const QString working = host::currentDirectory();
+    begin();
+    configurePair(u"Own"_s, u"Mame"_s, [&](forms::Form &form) {
+        host::changeDirectory(u"/"_s);
+        for (const auto &[button, name, value, place] :
+            { std::tuple(u"Boton1"_s, u"Casilla1"_s, u"BIN\\old.exe"_s, u"bin"_s),
+                std::tuple(u"Boton2"_s, u"Casilla2"_s, u"roms/"_s, u"roms"_s),
+                std::tuple(u"Boton3"_s, u"Casilla3"_s, u"bin/../roms"_s, u"roms"_s) }) {
+            write(form, name, value);
+            browse(form, button, [&](forms::Form &browser) {
+                EXPECT_EQ(tree(browser).Path(), files.path(place));
+                goBack(browser);
+            });
+            EXPECT_EQ(box(form, name), value);
+        }
+        host::changeDirectory(working);
     });
 }
 
@@ -410,7 +445,7 @@ TEST_F(Configuracion2Test, TheBrowsersBoxForClosingAnswersWithWhatWasPickedLast)
         write(form, u"Casilla2"_s, files.path(u"roms"_s));
         browse(form, u"Boton2"_s, [](forms::Form &browser) { accept(browser); });
         browse(form, u"Boton3"_s, closeIt);
-        EXPECT_EQ(box(form, u"Casilla3"_s), files.path(u"roms"_s));
+        EXPECT_EQ(box(form, u"Casilla3"_s), u"roms");
     });
 }
 

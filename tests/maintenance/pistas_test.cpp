@@ -72,8 +72,8 @@ TEST_F(PistasTest, EmptyBoxesOfferWhatIsKnownOfTheEmulator)
     begin();
     configurePair(u"Atari 5200"_s, u"Atari800"_s, [this](forms::Form &form) {
         EXPECT_THAT(hints(form),
-            ElementsAre(files.path(u"tools/atari800"_s), files.path(u"roms/Atari 5200/"_s),
-                files.path(u"capturas/Atari 5200/"_s), u"-5200"_s, QString()));
+            ElementsAre(u"tools/atari800"_s, u"roms/Atari 5200/"_s, u"capturas/Atari 5200/"_s, u"-5200"_s,
+                QString()));
         EXPECT_THAT(texts(form), ElementsAre(QString(), QString(), QString(), QString(), QString()));
         EXPECT_EQ(told(form, u"Casilla4"_s), u"Ctrl+Espacio escribe: -5200");
         EXPECT_EQ(told(form, u"Casilla5"_s), QString());
@@ -99,9 +99,8 @@ TEST_F(PistasTest, WhatIsNotTakenOverIsSavedAsEmpty)
     });
     EXPECT_EQ(files.read(u"Zembro.emu"_s),
         "' mine\r\n-Atari 5200\r\nWEB1=\r\n*.A52\r\n'\r\n+Atari800\r\nWEB2=\r\nEXE="
-            + files.path(u"tools/atari800"_s).toUtf8()
-            + "\r\nXDI=0\r\nROM=" + files.path(u"roms/Atari 5200/"_s).toUtf8()
-            + "\r\nIMG=\r\nPAR1=\r\nPAR2=\r\n" + Closing + "[EOF]\r\n");
+        "tools/atari800\r\nXDI=0\r\nROM=roms/Atari 5200/\r\nIMG=\r\nPAR1=\r\nPAR2=\r\n"
+            + Closing + "[EOF]\r\n");
 }
 
 TEST_F(PistasTest, TheMarksMoveTheBlanksOfTheParameters)
@@ -120,8 +119,7 @@ TEST_F(PistasTest, WithoutTheTableOnlyTheDirectoriesAreKnown)
     begin();
     configurePair(u"Arcade"_s, u"Own"_s, [this](forms::Form &form) {
         EXPECT_THAT(hints(form),
-            ElementsAre(QString(), files.path(u"roms/Arcade/"_s), files.path(u"capturas/Arcade/"_s),
-                QString(), QString()));
+            ElementsAre(QString(), u"roms/Arcade/"_s, u"capturas/Arcade/"_s, QString(), QString()));
     });
 }
 
@@ -131,7 +129,7 @@ TEST_F(PistasTest, AnEmulatorThatGetsBareNamesIsOfferedByItsLink)
     files.write(u"arranque/AdvanceMAME/advmame"_s, "x");
     begin();
     configurePair(u"Arcade"_s, u"AdvanceMAME"_s, [this](forms::Form &form) {
-        EXPECT_EQ(hints(form)[0], files.path(u"arranque/AdvanceMAME/advmame"_s));
+        EXPECT_EQ(hints(form)[0], u"arranque/AdvanceMAME/advmame");
         EXPECT_EQ(hints(form)[3], u"-dir_rom roms");
     });
 }
@@ -157,6 +155,23 @@ TEST_F(PistasTest, APathThatLeadsNowhereIsRedAsItIsTyped)
         }
         write(form, u"Casilla4"_s, u"/no/such"_s);
         EXPECT_FALSE(isRed(form, u"Casilla4"_s));
+    });
+}
+
+TEST_F(PistasTest, APathFromTheProgramsDirectoryIsJudgedThere)
+{
+    files.makeDirectory(u"Games"_s);
+    files.write(u"bin/emu"_s, "x");
+    begin();
+    configurePair(u"Atari 5200"_s, u"Atari800"_s, [](forms::Form &form) {
+        for (const auto &[name, there, gone] : { std::tuple(u"Casilla1"_s, u"bin\\EMU"_s, u"emu"_s),
+                 std::tuple(u"Casilla2"_s, u"games"_s, u"bin/emu"_s),
+                 std::tuple(u"Casilla3"_s, u"Games\\"_s, u"C:games"_s) }) {
+            write(form, name, gone);
+            EXPECT_TRUE(isRed(form, name)) << name.toStdString();
+            write(form, name, there);
+            EXPECT_FALSE(isRed(form, name)) << name.toStdString();
+        }
     });
 }
 

@@ -206,6 +206,17 @@ TEST_F(UtilidadesTest, OneCaptureIsToldInTheSingular)
     EXPECT_EQ(converted(), report(u"S:Msg_IMGTrans1I 1 S:Msg_IMGTrans1D"_s));
 }
 
+TEST_F(UtilidadesTest, ADirectoryOfCapturesCountsFromTheProgramsDirectory)
+{
+    writeCaptures({ u"a.pcx"_s });
+    systemsOfCatalogue[0].emulators[0].captures = u"zetacap/"_s;
+    files.writeCatalogue(systemsOfCatalogue);
+    startAt(Zeta, 0);
+    host::changeDirectory(u"/"_s);
+    EXPECT_EQ(converted(), report(u"S:Msg_IMGTrans1I 1 S:Msg_IMGTrans1D"_s));
+    EXPECT_THAT(captures(), testing::Not(testing::Contains(u"a.pcx"_s)));
+}
+
 TEST_F(UtilidadesTest, EachNameIsOneArgumentWhateverItHolds_InTheOrderOfNames)
 {
     writeCaptures({ u"b $(x) \"q\" 'a';.PCX"_s, u"A.Pcx"_s, u"Nopcx"_s, u"-v.pcx"_s });

@@ -30,7 +30,7 @@ make_build() { # version
         printf -- "'\r\n-Jaguar\r\nWEB1=%s\r\n*.ZIP\r\n*.J64\r\n'\r\n+BigPEmu\r\nWEB2=f\r\n" "$1"
         printf "'%s\r\n[EOF]\r\n" "$closing"
     } >"$build/data/beside/Zembro.sye"
-    printf -- "-Atari 2600\r\n'\r\n+Stella\r\nEXE=@STELLA@\r\nROM=@DEMO@/\r\n'%s\r\n[EOF]\r\n" "$closing" \
+    printf -- "-Atari 2600\r\n'\r\n+Stella\r\nEXE=@STELLA@\r\nROM=demo/\r\n'%s\r\n[EOF]\r\n" "$closing" \
         >"$build/data/beside/Zembro.emu"
 }
 closing=----------------------------------------------------------------------
@@ -55,14 +55,14 @@ done
 [ -x "$program/Zembrolix" ] || complain "new: the program can't be run"
 [ -z "$(find "$program" -name '*.new')" ] || complain "new: something is left over"
 stella=$(command -v stella || echo /usr/games/stella)
-printf -- "-Atari 2600\r\n'\r\n+Stella\r\nEXE=%s\r\nROM=%s/demo/\r\n'%s\r\n" "$stella" "$program" "$closing" >"$work/demo"
+printf -- "-Atari 2600\r\n'\r\n+Stella\r\nEXE=%s\r\nROM=demo/\r\n'%s\r\n" "$stella" "$closing" >"$work/demo"
 { cat "$work/demo"; printf '[EOF]\r\n'; } | cmp -s - "$program/Zembro.emu" || complain "new: the catalogue isn't the demonstration"
 [ -d "$program/roms/Atari 2600" ] && grep -q 'games of Jaguar' "$program/roms/Jaguar/LEEME.txt" || complain "new: no directories for the games"
 [ ! -s "$work/said" ] && [ ! -s "$work/errors" ] || complain "new: it says something"
 
 # New, where games lie already: their emulators are in the catalogue behind the demonstration.
 printf -- "-Jaguar\r\nWEB1=version1\r\n*.ZIP\r\n*.J64\r\n'\r\n+BigPEmu\r\nWEB2=f\r\nEXE=%s/bin/bigpemu\r\nXDI=0\r\n" "$work" >"$work/block"
-printf -- "ROM=%s/roms/Jaguar/\r\nIMG=%s/capturas/Jaguar/\r\nPAR1=\r\nPAR2=\r\n'%s\r\n[EOF]\r\n" "$program" "$program" "$closing" >>"$work/block"
+printf -- "ROM=roms/Jaguar/\r\nIMG=capturas/Jaguar/\r\nPAR1=\r\nPAR2=\r\n'%s\r\n[EOF]\r\n" "$closing" >>"$work/block"
 rm -rf "$work/My Programs"
 mkdir -p "$program/roms/Jaguar"
 echo mine >"$program/roms/Jaguar/Game.J64"
