@@ -5,6 +5,7 @@
 #include "forms/comboaccess.h"
 #include "forms/guard.h"
 #include "forms/hold.h"
+#include "forms/ownfonts.h"
 #include "forms/picturebutton.h"
 #include "forms/style.h"
 #include "forms/units.h"
@@ -61,6 +62,8 @@ bool isToolkitsOwn(const QWidget &control)
 Application::Application(int &argc, char **argv)
     : QApplication(argc, argv)
 {
+    setDesktopFileName(u"zembrolix"_s); // so that a desktop finds the icon and the entry of its windows
+    addOwnFonts();
     setLook(*this);
     TellAssistantsOfCombos();
     TellAssistantsOfControls();

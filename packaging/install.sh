@@ -1,5 +1,5 @@
 #!/bin/bash
-# Installs the Debian packages that are missing for the purposes named: build, play, screen, test, package, fuzz.
+# Installs the Debian packages that are missing for the purposes named: build, play, screen, test, package, root, fuzz.
 set -euo pipefail
 
 declare -A packages=(
@@ -9,6 +9,7 @@ declare -A packages=(
     [screen]="xvfb openbox xdotool x11-utils imagemagick"
     [test]="desktop-file-utils appstream file man-db libgtest-dev libgmock-dev zip dbus at-spi2-core python3-gi gir1.2-atspi-2.0 weston qt6-wayland"
     [package]="debhelper dpkg-dev lintian desktop-file-utils appstream patchelf zstd xz-utils"
+    [root]="debootstrap"
     [fuzz]="clang-14 libclang-rt-14-dev"
 )
 

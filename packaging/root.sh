@@ -1,0 +1,36 @@
+# A foreign root for the scripts that try what is packed: sourced by them, as root. Sets root to the system of a SUITE,
+# whose changes are forgotten at the end; all that runs in it ends with the script.
+[ "$(id -u)" -eq 0 ] || { echo "$0 needs root, for a system of its own." >&2; exit 2; }
+if [ -z "${ZEMBROLIX_ROOT_BEGUN:-}" ]; then
+    exec env ZEMBROLIX_ROOT_BEGUN=yes unshare --mount --pid --fork --kill-child --propagation private "$0" "$@"
+fi
+packaging/install.sh screen root
+work=$(mktemp -d)
+finish() {
+    umount -R -l "$work/root" "$work/changes" 2>/dev/null || true
+    rm -rf --one-file-system "$work"
+}
+trap finish EXIT
+
+# The system as it is new, kept in the cache of the user.
+new_root() { # suite
+    local base=${XDG_CACHE_HOME:-$HOME/.cache}/zembrolix-roots/$1
+    if [ ! -e "$base.ready" ]; then
+        rm -rf "$base"
+        mkdir -p "$base"
+        debootstrap --variant=minbase "$1" "$base" "${ZEMBROLIX_MIRROR:-http://deb.debian.org/debian}" >"$base.log" 2>&1 ||
+            { tail "$base.log" >&2; exit 1; }
+        touch "$base.ready"
+    fi
+    root=$work/root
+    mkdir "$work/changes" "$root"
+    mount -t tmpfs tmpfs "$work/changes"
+    mkdir "$work/changes/upper" "$work/changes/work"
+    mount -t overlay overlay -o "lowerdir=$base,upperdir=$work/changes/upper,workdir=$work/changes/work" "$root"
+    mount -t proc proc "$root/proc"
+    mount --rbind /dev "$root/dev"
+    mkdir -p "$root/tmp/.X11-unix"
+    mount --bind /tmp/.X11-unix "$root/tmp/.X11-unix"
+    cp /etc/resolv.conf "$root/etc/resolv.conf"
+}
+inside() { chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive "$@"; }
