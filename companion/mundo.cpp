@@ -164,7 +164,8 @@ Juego JuegoDe(const core::Modulo &M, const Pareja &pareja, const QString &entrad
     });
     siSePuede([&] {
         const host::LengthsIn largos(directorio);
-        juego.datos = core::UltimaLineaDeInfo(M, entrada, tipo, directorio, std::cref(largos),
+        juego.datos = core::UltimaLineaDeInfo(
+            M, entrada, tipo, directorio, [&](const QStringList &nombres) { return largos.ofAll(nombres); },
             [&](const QString &ruta) { return largos.lists(ruta); });
     });
     return juego;

@@ -8,8 +8,6 @@
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
-#include <iterator>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -58,17 +56,15 @@ QString hastaElPunto(const QString &nombre)
     return nombre.left(punto);
 }
 
-// The length that the line tells, in bytes; 0 where it tells none. A ZIP with a note has to have one.
-qint64 medida(int tipo, const QString &directorio, const FichaDeROM &ficha, const LargoDeFichero &largo)
+// Whether the lines of a type tell the length of a file.
+bool seMide(int tipo)
 {
-    if (!UnZipPorJuego(tipo))
-        return FicherosSueltos(tipo) ? largo(directorio + ficha.nombre) : 0;
-    if (!ficha.conNota)
-        return largo(directorio + ficha.nombre);
-    const qint64 bytes = largo(directorio + host::upper(ficha.nombre) + u".ZIP"_s);
-    if (bytes < 1024)
-        comoNumero(kilobytes(bytes));
-    return bytes;
+    return FicherosSueltos(tipo) || UnZipPorJuego(tipo);
+}
+
+QString ficheroDe(int tipo, const FichaDeROM &ficha)
+{
+    return UnZipPorJuego(tipo) && ficha.conNota ? host::upper(ficha.nombre) + u".ZIP"_s : ficha.nombre;
 }
 
 QString lineaConMedida(int tipo, const FichaDeROM &ficha, qint64 bytes)
@@ -87,15 +83,43 @@ QString lineaConMedida(int tipo, const FichaDeROM &ficha, qint64 bytes)
     return mayus + u' ' + kilobytes(bytes) + u"Kb [ZIP]"_s;
 }
 
+// False for a ZIP with a note that is so short that its line can't tell how long.
+bool seDice(int tipo, const FichaDeROM &ficha, qint64 bytes)
+{
+    return bytes >= 1024 || !UnZipPorJuego(tipo) || !ficha.conNota || !kilobytes(bytes).isEmpty();
+}
+
+// The index of the first file that can't be looked at, or told, else of the last. Those that are sure aren't
+// looked at.
+qsizetype primeraQueFalla(int tipo, const QList<FichaDeROM> &fichas,
+    const std::function<bool(const FichaDeROM &)> &segura, const LargosDeFicheros &largos)
+{
+    QStringList ficheros;
+    QList<qsizetype> lugares;
+    const qsizetype ultima = fichas.size() - 1;
+    for (qsizetype i = 0; i < ultima; ++i) {
+        if (segura(fichas[i]))
+            continue;
+        ficheros.append(ficheroDe(tipo, fichas[i]));
+        lugares.append(i);
+    }
+    const QList<qint64> bytes = largos(ficheros);
+    for (qsizetype i = 0; i < lugares.size(); ++i) {
+        if (i >= bytes.size() || !seDice(tipo, fichas[lugares[i]], bytes[i]))
+            return lugares[i];
+    }
+    return ultima;
+}
+
 } // namespace
 
 QString LineaDeInfo(int tipo, const QString &directorio, const FichaDeROM &ficha, const LargoDeFichero &largo)
 {
-    return lineaConMedida(tipo, ficha, medida(tipo, directorio, ficha, largo));
+    return lineaConMedida(tipo, ficha, seMide(tipo) ? largo(directorio + ficheroDe(tipo, ficha)) : 0);
 }
 
 QString UltimaLineaDeInfo(const Modulo &M, const QString &texto, int tipo, const QString &directorio,
-    const LargoDeFichero &largo, const EstaSeguro &esta)
+    const LargosDeFicheros &largos, const EstaSeguro &esta)
 {
     QList<FichaDeROM> fichas;
     try {
@@ -105,24 +129,17 @@ QString UltimaLineaDeInfo(const Modulo &M, const QString &texto, int tipo, const
     }
     if (fichas.isEmpty())
         return {};
-    const auto bytes = [&](const FichaDeROM &ficha) -> std::optional<qint64> {
-        try {
-            return medida(tipo, directorio, ficha, largo);
-        } catch (const host::Failure &) {
-            return std::nullopt;
-        }
+    if (!seMide(tipo))
+        return lineaConMedida(tipo, fichas.last(), 0);
+    const auto segura = [&](const FichaDeROM &ficha) {
+        return FicherosSueltos(tipo) && esta(directorio + ficha.nombre);
     };
-    const auto seLee = [&](const FichaDeROM &ficha) {
-        return (FicherosSueltos(tipo) && esta(directorio + ficha.nombre)) || bytes(ficha);
-    };
-    // The last one that can be looked at ahead of the first that can't.
-    auto ultima = std::find_if_not(fichas.cbegin(), std::prev(fichas.cend()), seLee);
-    for (;; --ultima) {
-        if (const std::optional<qint64> suyos = bytes(*ultima))
-            return lineaConMedida(tipo, *ultima, *suyos);
-        if (ultima == fichas.cbegin())
-            return {};
+    for (qsizetype i = primeraQueFalla(tipo, fichas, segura, largos); i >= 0; --i) {
+        const QList<qint64> bytes = largos({ ficheroDe(tipo, fichas[i]) });
+        if (!bytes.isEmpty() && seDice(tipo, fichas[i], bytes.first()))
+            return lineaConMedida(tipo, fichas[i], bytes.first());
     }
+    return {};
 }
 
 namespace {

@@ -31,9 +31,9 @@ using EstaSeguro = std::function<bool(const QString &ruta)>;
 
 // The line of the last of the notes with this text, or of the text itself; where a file can't be looked at,
 // of the one ahead, and empty where that was the first. Thousands of notes may share a text: only the one
-// line is put together, and of loose files only its length is asked for where the others surely are there.
+// line is put together, and loose files that surely are there aren't looked at for the others' sake.
 QString UltimaLineaDeInfo(const Modulo &M, const QString &texto, int tipo, const QString &directorio,
-    const LargoDeFichero &largo, const EstaSeguro &esta);
+    const LargosDeFicheros &largos, const EstaSeguro &esta);
 
 // What of a line of facts is shown where the whole has no room: letters are left out of the middle of the
 // name, and the size and the mark behind it stay. Where not even they fit, the name's ends are gone.

@@ -5,7 +5,6 @@
 #include "host/lengths.h"
 
 #include <optional>
-#include <utility>
 #include <vector>
 
 namespace forms {
@@ -13,15 +12,12 @@ namespace forms {
 void KnownPictures::Check(const QString &directory, const QStringList &paths)
 {
     // Whatever is missing is found before anything is decoded.
-    std::vector<std::pair<QString, std::optional<host::FileState>>> unknown;
-    const host::LengthsIn files(directory);
-    for (const QString &path : paths) {
-        const std::optional<host::FileState> state = files.state(path);
-        if (!state || !m_loaded.contains(*state))
-            unknown.emplace_back(path, state);
-    }
-    for (const auto &[path, state] : unknown) {
-        LoadPicture(path);
+    const std::vector<std::optional<host::FileState>> states = host::LengthsIn(directory).states(paths);
+    for (qsizetype i = 0; i < paths.size(); ++i) {
+        const std::optional<host::FileState> &state = states[static_cast<std::size_t>(i)];
+        if (state && m_loaded.contains(*state))
+            continue;
+        LoadPicture(paths[i]);
         constexpr qsizetype Most = 50'000;
         if (m_loaded.size() >= Most)
             m_loaded.clear();

@@ -7,9 +7,7 @@
 #include "host/paths.h"
 #include "host/statuses.h"
 
-#include <algorithm>
 #include <climits>
-#include <iterator>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -71,23 +69,52 @@ bool LengthsIn::look(const QString &name, struct stat &status) const
 
 QList<qint64> LengthsIn::ofAll(const QStringList &names) const
 {
-    QStringList spellings;
-    spellings.reserve(names.size());
-    std::transform(names.begin(), names.end(), std::back_inserter(spellings),
-        [this](const QString &name) { return spelling(name); });
-    const std::vector<Status> statuses = statusesIn(*m_opened, spellings);
-    QList<qint64> lengths;
-    lengths.reserve(names.size());
-    try {
-        for (qsizetype i = 0; i < names.size(); ++i) {
-            const Status &status = statuses[static_cast<std::size_t>(i)];
-            const bool isFile = status.mode != 0 && !S_ISDIR(status.mode);
-            lengths.append(isFile ? status.size : (*this)(m_directory + names[i]));
+    constexpr qint64 Unknown = -1;
+    QList<qint64> lengths(names.size(), Unknown);
+    qint64 *const found = lengths.data();
+    lookAtEach(*m_opened, spellings(names), [found](std::size_t name, const struct stat &status) {
+        if (!S_ISDIR(status.st_mode))
+            found[name] = status.st_size;
+    });
+    for (qsizetype i = 0; i < lengths.size(); ++i) {
+        if (lengths[i] != Unknown)
+            continue;
+        try {
+            lengths[i] = (*this)(m_directory + names[i]);
+        } catch (const Failure &) {
+            lengths.resize(i); // the rest isn't asked for
         }
-    } catch (const Failure &) {
-        // The rest isn't asked for.
     }
     return lengths;
+}
+
+std::vector<std::optional<FileState>> LengthsIn::states(const QStringList &paths) const
+{
+    QStringList names;
+    names.reserve(paths.size());
+    for (const QString &path : paths)
+        names.append(path.sliced(m_directory.size()));
+    const auto total = static_cast<std::size_t>(names.size());
+    std::vector<std::optional<FileState>> states(total);
+    std::vector<unsigned char> isFile(total, false);
+    lookAtEach(*m_opened, spellings(names), [&](std::size_t name, const struct stat &status) {
+        isFile[name] = !S_ISDIR(status.st_mode);
+        states[name] = stateOf(status);
+    });
+    for (std::size_t i = 0; i < total; ++i) {
+        if (!isFile[i])
+            states[i] = state(paths[static_cast<qsizetype>(i)]);
+    }
+    return states;
+}
+
+QStringList LengthsIn::spellings(const QStringList &names) const
+{
+    QStringList spellings;
+    spellings.reserve(names.size());
+    for (const QString &name : names)
+        spellings.append(spelling(name));
+    return spellings;
 }
 
 // As the listing has it, if it has it; as it stands where it can be no entry's.

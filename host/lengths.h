@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace host {
 
@@ -34,12 +35,15 @@ public:
     // directory that can be listed but not entered has no lengths. False proves nothing.
     bool lists(const QString &path) const;
 
-    // The state of the file, by which what it holds is known again; none of what is no entry of the directory
-    // itself, of another thing than a file, and shortly after a change. Fails with 53 as the length does.
-    std::optional<FileState> state(const QString &path) const;
+    // The states of these files, which all begin as the directory does, by which what they hold is known
+    // again; none of what is no entry of the directory itself, and shortly after a change. Fails with 53 as
+    // the lengths do. Many are asked for at once.
+    std::vector<std::optional<FileState>> states(const QStringList &paths) const;
 
 private:
     bool leadsToFile(const QString &spelling, struct stat &status) const;
+    std::optional<FileState> state(const QString &path) const;
+    QStringList spellings(const QStringList &names) const;
     bool look(const QString &name, struct stat &status) const;
     bool isEntry(const QString &name) const;
     QString spelling(const QString &name) const;

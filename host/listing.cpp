@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <vector>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -46,22 +47,23 @@ unsigned char ownType(const Listing &listing, const Directory::Entry &entry)
     return static_cast<unsigned char>(IFTODT(status.st_mode));
 }
 
-unsigned char kindOf(const Status &status)
-{
-    return static_cast<unsigned char>(IFTODT(status.mode));
-}
-
 // The reading of a directory doesn't tell the kind of what a link leads to, and on some disks none at all.
 bool isToBeAsked(const Directory::Entry &entry)
 {
     return entry.type == DT_UNKNOWN || entry.type == DT_LNK;
 }
 
-std::vector<Status> statusesOf(const Listing &listing, const QStringList &names)
+// The kinds of what the names lead to; DT_UNKNOWN where it can't be looked at.
+std::vector<unsigned char> kindsOf(const Listing &listing, const QStringList &names)
 {
-    if (names.isEmpty())
-        return {};
-    return statusesIn(Descriptor(open(listing.path.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC)), names);
+    std::vector<unsigned char> kinds(static_cast<std::size_t>(names.size()), DT_UNKNOWN);
+    if (kinds.empty())
+        return kinds;
+    const Descriptor directory(open(listing.path.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    lookAtEach(directory, names, [&](std::size_t name, const struct stat &status) {
+        kinds[name] = static_cast<unsigned char>(IFTODT(status.st_mode));
+    });
+    return kinds;
 }
 
 // The entries that are, or lead to, one of these kinds, as DT_ values, without the hidden ones.
@@ -74,12 +76,12 @@ QStringList namesOfTypes(const QString &path, std::initializer_list<unsigned cha
         if (isToBeAsked(entry))
             asked.append(entry.name);
     }
-    const std::vector<Status> statuses = statusesOf(listing, asked);
-    auto status = statuses.cbegin();
+    const std::vector<unsigned char> kinds = kindsOf(listing, asked);
+    auto kind = kinds.cbegin();
     QStringList names;
     names.reserve(static_cast<qsizetype>(entries.size()));
     for (const Directory::Entry &entry : entries) {
-        const unsigned char type = isToBeAsked(entry) ? kindOf(*status++) : entry.type;
+        const unsigned char type = isToBeAsked(entry) ? *kind++ : entry.type;
         if (!entry.name.startsWith(u'.') && std::ranges::find(types, type) != types.end())
             names.append(entry.name);
     }

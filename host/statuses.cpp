@@ -7,10 +7,9 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
-#include <cstddef>
 #include <system_error>
 #include <thread>
-#include <utility>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -28,24 +27,17 @@ constexpr std::size_t WorthAHelper = 512; // names; fewer are done before it has
 constexpr std::size_t Helpers = 1; // a second processor, where there is one
 constexpr std::size_t HelpersIfSlow = 15; // they only wait
 
-Status statusOf(const Descriptor &directory, const QString &name)
-{
-    struct stat status;
-    const QByteArray bytes = nameToDisk(name);
-    if (retried([&] { return fstatat(directory.number(), bytes.constData(), &status, 0); }) != 0)
-        return {};
-    return { status.st_mode, status.st_size };
-}
-
 // One pass over the names, by as many threads as join in.
 class Looking {
 public:
-    Looking(const Descriptor &directory, const QStringList &names)
-        : statuses(static_cast<std::size_t>(names.size()))
-        , m_directory(directory)
+    Looking(const Descriptor &directory, const QStringList &names, const TellStatus &tell)
+        : m_directory(directory)
         , m_names(names)
+        , m_tell(tell)
     {
     }
+
+    std::size_t total() const { return static_cast<std::size_t>(m_names.size()); }
 
     bool isSlow() const { return m_slow; }
 
@@ -53,20 +45,27 @@ public:
     bool takeSome()
     {
         const std::size_t first = m_next.fetch_add(InOneGo);
-        const std::size_t end = std::min(first + InOneGo, statuses.size());
+        const std::size_t end = std::min(first + InOneGo, total());
         const auto start = Clock::now();
         for (std::size_t i = first; i < end; ++i)
-            statuses[i] = statusOf(m_directory, m_names[static_cast<qsizetype>(i)]);
+            lookAt(i);
         if (Clock::now() - start > Patience)
             m_slow = true;
         return first < end;
     }
 
-    std::vector<Status> statuses;
-
 private:
+    void lookAt(std::size_t i) const
+    {
+        struct stat status;
+        const QByteArray name = nameToDisk(m_names[static_cast<qsizetype>(i)]);
+        if (retried([&] { return fstatat(m_directory.number(), name.constData(), &status, 0); }) == 0)
+            m_tell(i, status);
+    }
+
     const Descriptor &m_directory;
     const QStringList &m_names;
+    const TellStatus &m_tell;
     std::atomic<std::size_t> m_next = 0;
     std::atomic<bool> m_slow = false;
 };
@@ -87,19 +86,16 @@ void addHelpers(std::vector<std::jthread> &helpers, std::size_t wanted, Looking 
 
 } // namespace
 
-std::vector<Status> statusesIn(const Descriptor &directory, const QStringList &names)
+void lookAtEach(const Descriptor &directory, const QStringList &names, const TellStatus &tell)
 {
-    Looking looking(directory, names);
-    {
-        std::vector<std::jthread> helpers;
-        if (looking.statuses.size() >= WorthAHelper)
-            addHelpers(helpers, Helpers, looking);
-        while (looking.takeSome()) {
-            if (looking.isSlow())
-                addHelpers(helpers, HelpersIfSlow, looking);
-        }
+    Looking looking(directory, names, tell);
+    std::vector<std::jthread> helpers;
+    if (looking.total() >= WorthAHelper)
+        addHelpers(helpers, Helpers, looking);
+    while (looking.takeSome()) {
+        if (looking.isSlow())
+            addHelpers(helpers, HelpersIfSlow, looking);
     }
-    return std::move(looking.statuses);
 }
 
 } // namespace host

@@ -4,21 +4,21 @@
 #include <QString>
 #include <QStringList>
 
-#include <vector>
+#include <cstddef>
+#include <functional>
 
-#include <sys/types.h>
+struct stat;
 
 namespace host {
 
 class Descriptor;
 
-struct Status {
-    mode_t mode = 0; // 0 where the entry can't be looked at
-    qint64 size = 0; // in bytes
-};
+// Called by several threads, once for each name that can be looked at, with what it leads to; names count
+// from 0.
+using TellStatus = std::function<void(std::size_t name, const struct stat &status)>;
 
-// Of what each name leads to, spelled as the entries are, in their order. A network's disk may take a
-// millisecond for each: there many are asked for at once.
-std::vector<Status> statusesIn(const Descriptor &directory, const QStringList &names);
+// Looks at each name, spelled as the entries are. A network's disk may take a millisecond for each: there
+// many are looked at at once.
+void lookAtEach(const Descriptor &directory, const QStringList &names, const TellStatus &tell);
 
 } // namespace host

@@ -11,8 +11,6 @@
 
 #include "host/lengths.h"
 
-#include <functional>
-
 namespace mainscreen {
 
 void Portada::LLena_INFO()
@@ -28,8 +26,10 @@ void Portada::LLena_INFO()
             return;
         const QString directorio = core::RutaExigida(M.Cat_ROM(sistema, emulador));
         const host::LengthsIn largos(directorio);
-        linea = core::UltimaLineaDeInfo(M, Lista1->Text(), core::Numero(M.TipoEmu), directorio,
-            std::cref(largos), [&](const QString &ruta) { return largos.lists(ruta); });
+        linea = core::UltimaLineaDeInfo(
+            M, Lista1->Text(), core::Numero(M.TipoEmu), directorio,
+            [&](const QStringList &nombres) { return largos.ofAll(nombres); },
+            [&](const QString &ruta) { return largos.lists(ruta); });
     } catch (const host::Failure &) {
         // The label keeps its text.
     }

@@ -220,16 +220,21 @@ struct DeVarias {
     QStringList miradas;
 };
 
-DeVarias LineaDeVarias(core::Modulo &M, int tipo, const QStringList &seguras, const QStringList &perdidas)
+DeVarias LineaDeVarias(core::Modulo &M, int tipo, const QStringList &seguras, const QStringList &perdidas,
+    const QStringList &pequeñas = {})
 {
     DeVarias todo;
     todo.linea = core::UltimaLineaDeInfo(
         M, u"Same"_s, tipo, QString(),
-        [&](const QString &ruta) -> qint64 {
-            todo.miradas += ruta;
-            if (perdidas.contains(ruta))
-                throw host::Failure(host::FileNotFound, u"look"_s, ruta);
-            return 2048;
+        [&](const QStringList &nombres) {
+            QList<qint64> largos;
+            for (const QString &nombre : nombres) {
+                todo.miradas += nombre;
+                if (perdidas.contains(nombre))
+                    break;
+                largos += pequeñas.contains(nombre) ? 511 : 2048;
+            }
+            return largos;
         },
         [&](const QString &ruta) { return seguras.contains(ruta); });
     return todo;
@@ -252,6 +257,13 @@ TEST_F(Informacion, OfManyNotesOfOneText_TheLastOneIsLookedAt_AndThoseThatNothin
     EXPECT_EQ(caso(todas, { u"D"_s, u"C"_s }).linea, u"B 2Kb  [NOR]");
     EXPECT_EQ(caso({}, { u"A"_s }).linea, QString());
     EXPECT_EQ(caso(todas, todas).linea, QString());
+    const auto deZip = [&](const QStringList &pequeñas) {
+        return LineaDeVarias(M, 2, {}, {}, pequeñas).linea;
+    };
+    EXPECT_EQ(deZip({}), u"D.ZIP  2Kb [ZIP]");
+    EXPECT_EQ(deZip({ u"C.ZIP"_s }), u"B.ZIP  2Kb [ZIP]");
+    EXPECT_EQ(deZip({ u"D.ZIP"_s }), u"C.ZIP  2Kb [ZIP]");
+    EXPECT_EQ(deZip({ u"A.ZIP"_s }), QString());
 }
 
 TEST_F(Informacion, OfManyZips_EachIsLookedAt)

@@ -304,8 +304,10 @@ TEST_P(Mundos, AreListedAndToldAsTheModelDoes)
             const Sabido hallado = Sabe(mundo, directorio, entrada);
             ASSERT_TRUE(hallado.lineas == esperado.lineas);
             const host::LengthsIn largos(Ruta(directorio));
-            ASSERT_TRUE(core::UltimaLineaDeInfo(M, texto(entrada), mundo.tipo, Ruta(directorio),
-                            std::cref(largos), [&](const QString &ruta) { return largos.lists(ruta); })
+            ASSERT_TRUE(core::UltimaLineaDeInfo(
+                            M, texto(entrada), mundo.tipo, Ruta(directorio),
+                            [&](const QStringList &nombres) { return largos.ofAll(nombres); },
+                            [&](const QString &ruta) { return largos.lists(ruta); })
                 == (esperado.lineas.empty() ? QString() : texto(esperado.lineas.back())));
             ASSERT_TRUE(hallado.capturas == esperado.capturas);
         }

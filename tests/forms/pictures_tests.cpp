@@ -80,7 +80,8 @@ protected:
     QString writeSettled(const QString &name, const QByteArray &bytes) const
     {
         QString path = write(name, bytes);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return host::LengthsIn(place).state(path).has_value(); }, 20'000));
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return host::LengthsIn(place).states({ path }).front().has_value(); }, 20'000));
         return path;
     }
 

@@ -198,7 +198,7 @@ TEST_F(Lengths, AndStates_TellOneFileFromAnotherAndFromItselfAfterAChange)
     makeFile("two", "abc");
     makeLink("one", "link");
     const LengthsIn files(path(u""_s) + u'/');
-    const auto state = [&](const QString &name) { return files.state(path(name)); };
+    const auto state = [&](const QString &name) { return files.states({ path(name) }).front(); };
     while (!state(u"two"_s))
         std::this_thread::yield();
     EXPECT_EQ(state(u"one"_s), state(u"ONE"_s));
