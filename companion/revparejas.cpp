@@ -1,10 +1,10 @@
 // The pairs that the catalogue configures: program, directories, list, captures.
 #include "companion/revision.h"
 
-#include "companion/clasedeprograma.h"
 #include "companion/eleccion.h"
 
 #include "core/catalogo.h"
+#include "core/clasedeprograma.h"
 #include "core/info.h"
 #include "core/romelegida.h"
 #include "core/rutas.h"
@@ -90,8 +90,9 @@ void RevisorDePareja::Programa()
     } catch (const host::Failure &) {
         return halla(u"not-executable"_s, m_palabras.Zbo_SinPermiso.arg(exe), exe);
     }
-    const ClaseDePrograma clase = ClaseDe(programa.ExeCorto.enDisco);
-    if (clase == ClaseDePrograma::DOSoWindows)
+    using core::ClaseDePrograma;
+    const ClaseDePrograma clase = core::ClaseDe(programa.ExeCorto.enDisco);
+    if (clase == ClaseDePrograma::DOS || clase == ClaseDePrograma::Windows)
         halla(u"foreign-program"_s, m_palabras.Zbo_DeDOS.arg(exe), exe);
     else if (clase == ClaseDePrograma::OtraMaquina)
         halla(u"foreign-program"_s, m_palabras.Zbo_OtraMaquina.arg(exe), exe);

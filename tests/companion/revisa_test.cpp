@@ -1,7 +1,6 @@
 // zembro check.
 #include "mesadepruebas.h"
 
-#include "companion/clasedeprograma.h"
 #include "companion/diferencia.h"
 #include "companion/eleccion.h"
 
@@ -288,26 +287,6 @@ TEST_F(Check, FilesOfAnyBytesAreLookedAtToTheEnd)
         EXPECT_NE(Zembro({ u"check"_s }).estado, companion::Bien) << fichero.toStdString();
         Pon(fichero, antes);
     }
-}
-
-TEST(ClaseDePrograma, IsToldByTheFirstBytes)
-{
-    using companion::ClaseDePrograma;
-    const QByteArray propia = QByteArray("\x7f"
-                                         "ELF\x02\x01\x01",
-                                  7)
-        + QByteArray(9, '\0') + QByteArray("\x02\x00\x3e\x00", 4);
-    QByteArray otra = propia;
-    otra[18] = '\x28';
-    EXPECT_EQ(companion::ClasePorBytes(propia, propia), ClaseDePrograma::DeEstaMaquina);
-    EXPECT_EQ(companion::ClasePorBytes(otra, propia), ClaseDePrograma::OtraMaquina);
-    EXPECT_EQ(companion::ClasePorBytes("#!/bin/sh\n", propia), ClaseDePrograma::DeEstaMaquina);
-    EXPECT_EQ(companion::ClasePorBytes("MZ\x90", propia), ClaseDePrograma::DOSoWindows);
-    EXPECT_EQ(companion::ClasePorBytes("\x7f"
-                                       "EL",
-                  propia),
-        ClaseDePrograma::Desconocida);
-    EXPECT_EQ(companion::ClasePorBytes("", propia), ClaseDePrograma::Desconocida);
 }
 
 TEST(MasParecido, IsTheNameThatDiffersLeast)
