@@ -52,6 +52,14 @@ struct Palabras {
     QString Zem_FaltaTerm = QStringLiteral("No hay ningún terminal instalado.");
     QString Zem_FaltaGestor = QStringLiteral("No hay ningún gestor de archivos instalado.");
 
+    // A program for another system, and what runs it.
+    QString Zem_FaltaDOSBox = QStringLiteral("Este emulador es de DOS: instala DOSBox.");
+    QString Zem_FaltaWine = QStringLiteral("Este emulador es de Windows: instala Wine.");
+    QString Zem_NoDOS0 = QStringLiteral("DOS no lo admite");
+    QString Zem_NombreDOS = QStringLiteral("DOS no abre un archivo de este nombre: cámbialo.");
+    QString Zem_LargoDOS = QStringLiteral("La línea de órdenes pasa de 126 caracteres.");
+    QString Zem_SignoDOS = QStringLiteral("Los parámetros tienen un signo que DOS no admite.");
+
     // Names of controls that show no word, as screen readers say them.
     QString Zem_Lista1 = QStringLiteral("Juegos");
     QString Zem_Combo1 = QStringLiteral("Sistema");

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <memory>
 #include <vector>
 
 #include <dirent.h>
@@ -168,6 +169,22 @@ QStringList listPlainFiles(const QString &directory)
     for (const Directory::Entry &entry : listing.directory->entries()) {
         if (ownType(listing, entry) == DT_REG)
             names.append(entry.name);
+    }
+    return names;
+}
+
+QByteArrayList listInDiskOrder(const QString &directory)
+{
+    const QByteArray found = findOnDisk(directory);
+    const std::unique_ptr<DIR, int (*)(DIR *)> stream(
+        found.isEmpty() ? nullptr : opendir(found.constData()), &closedir);
+    if (!stream)
+        throw Failure(PathNotFound, u"list a directory"_s, directory);
+    QByteArrayList names;
+    while (const dirent *entry = readdir(stream.get())) {
+        const QByteArray name(entry->d_name);
+        if (name != "." && name != "..")
+            names.append(name);
     }
     return names;
 }

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QString>
 #include <QStringList>
 
@@ -85,6 +86,10 @@ QStringList listFilesAndDirectories(const QString &directory);
 // The plain files of a directory, hidden ones included and links left out: what deleteFiles takes, but for
 // those that their owner may not write. Fails with 76.
 QStringList listPlainFiles(const QString &directory);
+
+// The names of all the entries of a directory, "." and ".." apart, in the order in which the disk lists them.
+// Fails with 76.
+QByteArrayList listInDiskOrder(const QString &directory);
 
 void makeDirectory(const QString &path, int mode = 0777); // fails with 75 or 76, also if it exists
 void removeDirectory(const QString &path); // fails with 75 or 76; only an empty one goes

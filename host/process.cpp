@@ -61,6 +61,17 @@ bool mayRun(const QByteArray &path)
     return access(path.constData(), X_OK) == 0;
 }
 
+std::vector<QByteArray> placesInPath(const QString &name)
+{
+    std::vector<QByteArray> places;
+    const QByteArray bytes = nameToDisk(name);
+    for (const QByteArray &directory : searchPath().split(':')) {
+        if (!directory.isEmpty())
+            places.push_back(directory + '/' + bytes);
+    }
+    return places;
+}
+
 // The places where a program of this name may lie, the best first. A bare name gets a directory in front: an
 // interpreter would take one that begins with a dash for an option.
 std::vector<QByteArray> candidates(const QString &name)
@@ -72,13 +83,7 @@ std::vector<QByteArray> candidates(const QString &name)
     if (lastSeparator(name) >= 0 || isFile(found))
         return { found };
 
-    std::vector<QByteArray> places;
-    const QByteArray bytes = nameToDisk(name);
-    for (const QByteArray &directory : searchPath().split(':')) {
-        if (!directory.isEmpty())
-            places.push_back(directory + '/' + bytes);
-    }
-    return places;
+    return placesInPath(name);
 }
 
 QByteArray programFor(const QString &name)
@@ -203,6 +208,15 @@ QStringList splitArguments(QStringView text)
 QString findProgram(const QString &name)
 {
     return nameFromDisk(programFor(name));
+}
+
+QString findInPath(const QString &name)
+{
+    for (const QByteArray &place : placesInPath(name)) {
+        if (isFile(place) && mayRun(place))
+            return nameFromDisk(place);
+    }
+    return {};
 }
 
 Process::Process(pid_t id)

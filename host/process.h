@@ -49,6 +49,9 @@ struct ProcessEnd {
 // it.
 QString findProgram(const QString &name);
 
+// The path of a program of this name in PATH; empty if there is none that may be run.
+QString findInPath(const QString &name);
+
 // A child process: running, or ended, however it ended. Going out of scope leaves it running, and its end
 // leaves no zombie then either.
 class Process {

@@ -68,6 +68,7 @@ public:
     void Arranca(const LineaDeOrden &orden, const QString &) override
     {
         ensayo.orden = orden;
+        ensayo.encargo = EncargoDe(orden);
         ensayo.directorio = host::currentDirectory();
     }
 

@@ -1,6 +1,7 @@
 // What a launch would do, told without doing it.
 #pragma once
 
+#include "launch/encargo.h"
 #include "launch/lineadeorden.h"
 #include "launch/pantalla.h"
 #include "launch/vbunzbas.h"
@@ -13,6 +14,7 @@ namespace launch {
 
 struct Ensayo {
     std::optional<LineaDeOrden> orden; // none if nothing would be started
+    Encargo encargo; // what would be started for it
     QString directorio; // the working directory, absolute
     bool enDepuracion = false; // the command would be shown first
     QString tituloDeAviso; // what would be told to the user, empty for nothing

@@ -24,8 +24,13 @@ host::ProcessEnd Vigila(core::Modulo &M, host::Process proceso, const std::funct
 
 host::ProcessEnd EsperarEmulador(core::Modulo &M, Pantalla &pantalla, const LineaDeOrden &orden)
 {
+    return EsperarEmulador(M, pantalla, orden.Argumentos());
+}
+
+host::ProcessEnd EsperarEmulador(core::Modulo &M, Pantalla &pantalla, const QStringList &argumentos)
+{
     return Vigila(
-        M, host::Process::start(orden.Argumentos()),
+        M, host::Process::start(argumentos),
         [&pantalla](int descriptor, int milisegundos) { pantalla.Cede(descriptor, milisegundos); },
         [&pantalla] {
             pantalla.InfoEnNegro();

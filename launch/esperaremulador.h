@@ -21,5 +21,6 @@ host::ProcessEnd Vigila(core::Modulo &M, host::Process proceso, const std::funct
 // and the window that a console leaves open behind its program is closed. A start that fails is the caller's:
 // the failure passes through. Yields how it ended. The process lives on when this program ends.
 host::ProcessEnd EsperarEmulador(core::Modulo &M, Pantalla &pantalla, const LineaDeOrden &orden);
+host::ProcessEnd EsperarEmulador(core::Modulo &M, Pantalla &pantalla, const QStringList &argumentos);
 
 } // namespace launch

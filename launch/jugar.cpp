@@ -1,11 +1,14 @@
 #include "launch/jugar.h"
 
 #include "core/catalogo.h"
+#include "core/clasedeprograma.h"
 #include "core/parrom.h"
 #include "core/rutas.h"
 #include "launch/busquedarom.h"
 #include "launch/carpetadejuego.h"
 #include "launch/cronica.h"
+#include "launch/dosbox.h"
+#include "launch/encargo.h"
 #include "launch/intenta.h"
 #include "launch/obras.h"
 #include "launch/piezas.h"
@@ -51,6 +54,8 @@ private:
 
     void BuscaPorNota(const Busqueda &busqueda);
     void BuscaPorFichero(const Busqueda &busqueda);
+    QString EXE() const { return LeeRuta(M.Cat_EXE); }
+    void MiraSiEsDeDOS();
     void ReunePiezasDelEmulador();
     void LeeParRom(const QString &clave);
 
@@ -77,18 +82,22 @@ private:
     const Seleccion m_seleccion;
     Via m_via = Via::Fichero;
     Piezas m_piezas;
+    UnidadesDOS m_unidades;
+    UnidadesDOS *m_dos = nullptr; // them, if the emulator is a program for DOS
 };
 
 void Lanzamiento::SoloExe()
 {
     m_piezas.Par1 = host::lower(LeeCatalogo(M.Cat_PAR1, core::PrefijoParametro));
-    m_piezas.programa = ProgramaDe(LeeRuta(M.Cat_EXE));
+    MiraSiEsDeDOS();
+    m_piezas.programa = ProgramaDe(EXE(), m_dos);
     Corre(Caso::SoloExe);
 }
 
 void Lanzamiento::ConROM(const QString &entrada)
 {
-    m_piezas.RomDir = RomDirDe(LeeRuta(M.Cat_ROM));
+    MiraSiEsDeDOS();
+    m_piezas.RomDir = RomDirDe(LeeRuta(M.Cat_ROM), m_dos);
     const Busqueda busqueda = BuscaROM(M, m_seleccion.tipo, entrada);
     m_via = busqueda.via;
     if (m_via == Via::Nota)
@@ -112,7 +121,7 @@ void Lanzamiento::ConROM(const QString &entrada)
 
 void Lanzamiento::BuscaPorNota(const Busqueda &busqueda)
 {
-    m_piezas.RomCorto = RomCortoDe(m_piezas.RomDir, busqueda.nombre);
+    m_piezas.RomCorto = RomCortoDe(m_piezas.RomDir, busqueda.nombre, m_dos);
     if (m_seleccion.tipo == 2 || m_seleccion.tipo == 3)
         m_piezas.RomCorto.texto.truncate(host::startOfLast(m_piezas.RomCorto.texto, 4));
     M.Nota_Clave(busqueda.nota) = host::lower(busqueda.clave);
@@ -123,17 +132,26 @@ void Lanzamiento::BuscaPorNota(const Busqueda &busqueda)
 // On this route the parameters are kept under the short name.
 void Lanzamiento::BuscaPorFichero(const Busqueda &busqueda)
 {
-    m_piezas.RomCorto = RomCortoDe(m_piezas.RomDir, busqueda.nombre);
+    m_piezas.RomCorto = RomCortoDe(m_piezas.RomDir, busqueda.nombre, m_dos);
     m_piezas.RomBase = RomBaseDe(m_piezas.RomCorto.texto);
     ReunePiezasDelEmulador();
     LeeParRom(m_piezas.RomCorto.texto);
+}
+
+// The letter of its own drive is given out first.
+void Lanzamiento::MiraSiEsDeDOS()
+{
+    if (core::ClaseDe(EXE()) != core::ClaseDePrograma::DOS)
+        return;
+    m_dos = &m_unidades;
+    ProgramaDe(EXE(), m_dos);
 }
 
 void Lanzamiento::ReunePiezasDelEmulador()
 {
     m_piezas.Par1 = host::lower(LeeCatalogo(M.Cat_PAR1, core::PrefijoParametro));
     m_piezas.Par2 = host::lower(LeeCatalogo(M.Cat_PAR2, core::PrefijoParametro));
-    m_piezas.programa = ProgramaDe(LeeRuta(M.Cat_EXE));
+    m_piezas.programa = ProgramaDe(EXE(), m_dos);
     M.TituloDOS = TituloDe(m_piezas.programa.ExeNombre.texto);
 }
 
@@ -248,7 +266,7 @@ void Lanzamiento::Corre(Caso caso)
     const LineaDeOrden orden = Compone(caso, m_via, m_piezas);
     if (core::NumeroDeAjuste(M.DebugMode) == 1)
         m_obras.EnsenaOrden(orden.EnTexto());
-    m_obras.Arranca(orden, LeeRuta(M.Cat_EXE));
+    m_obras.Arranca(orden, EXE());
 }
 
 QString NombreDeSistema(const core::Modulo &M, int sistema)
@@ -320,6 +338,8 @@ public:
     Cronica &LaCronica() { return m_cronica; }
 
 private:
+    void Corre(const QStringList &argumentos);
+
     core::Modulo &M;
     Pantalla &m_pantalla;
     Cronica m_cronica;
@@ -328,15 +348,30 @@ private:
 
 void ObrasDeVerdad::Arranca(const LineaDeOrden &orden, const QString &exe)
 {
-    const QStringList argumentos = orden.Argumentos();
-    if (argumentos.isEmpty()) {
+    const Encargo encargo = EncargoDe(orden);
+    if (encargo.argumentos.isEmpty()) {
         m_cronica.Fallo(u"There is no executable "_s + exe);
         return;
     }
+    if (encargo.traba != Traba::Ninguna) {
+        Aviso(TituloDe(encargo.traba, M.Palabras), TextoDe(encargo.traba, encargo.corredor, M.Palabras));
+        return;
+    }
+    if (encargo.corredor != Corredor::DOSBox)
+        return Corre(encargo.argumentos);
+    const CarpetaDOS carpeta(encargo);
+    if (carpeta.Argumentos().isEmpty())
+        m_cronica.Fallo(u"Failed to write a configuration for DOSBox"_s);
+    else
+        Corre(carpeta.Argumentos());
+}
+
+void ObrasDeVerdad::Corre(const QStringList &argumentos)
+{
     m_cronica.Orden(argumentos, host::currentDirectory());
     const auto principio = std::chrono::steady_clock::now();
     try {
-        const host::ProcessEnd final = EsperarEmulador(M, m_pantalla, orden);
+        const host::ProcessEnd final = EsperarEmulador(M, m_pantalla, argumentos);
         const std::chrono::duration<double> duracion = std::chrono::steady_clock::now() - principio;
         m_cronica.Final(final, duracion.count());
     } catch (const host::Failure &fallo) {

@@ -25,12 +25,15 @@ public:
     // Empty if the first piece, the program, is empty: parameters are never run as a program.
     QStringList Argumentos() const;
 
-private:
     struct Pieza {
         QString texto;
         QString enDisco; // of a path; a piece of parameters has none
         bool ruta = false;
     };
+    // The program first.
+    const std::vector<Pieza> &Piezas() const { return m_piezas; }
+
+private:
     std::vector<Pieza> m_piezas;
 };
 

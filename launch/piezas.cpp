@@ -1,5 +1,6 @@
 #include "launch/piezas.h"
 
+#include "host/drives.h"
 #include "host/letters.h"
 #include "host/paths.h"
 
@@ -9,25 +10,33 @@ namespace launch {
 
 namespace {
 
-Ruta rutaCorta(const QString &ruta)
+Ruta rutaCorta(const QString &ruta, UnidadesDOS *dos)
 {
     const QString corta = host::GetShortPathNameA(ruta);
     if (corta.isEmpty())
         return {};
-    const QString enDisco = host::trueSpelling(ruta);
-    return { host::lower(corta),
-        enDisco.startsWith(u'/') ? enDisco : host::currentDirectory() + u'/' + enDisco };
+    const QString escrita = host::trueSpelling(ruta);
+    const QString enDisco = escrita.startsWith(u'/') ? escrita : host::currentDirectory() + u'/' + escrita;
+    const std::optional<QByteArray> enDOS = dos ? dos->Ruta(enDisco) : std::nullopt;
+    return { host::lower(enDOS ? QString::fromLatin1(*enDOS) : corta), enDisco };
 }
 
-// Found paths are cut at the slash alone: a backslash in one belongs to a name.
+// Found paths are cut at the slash alone: a backslash in one belongs to a name. In those of DOS there is
+// none.
+qsizetype corteDe(const QString &ruta)
+{
+    const QChar separador = host::driveLetter(ruta).isNull() ? u'/' : u'\\';
+    return ruta.lastIndexOf(separador) + 1;
+}
+
 QString nombreDe(const QString &ruta)
 {
-    return ruta.sliced(ruta.lastIndexOf(u'/') + 1);
+    return ruta.sliced(corteDe(ruta));
 }
 
 QString directorioDe(const QString &ruta)
 {
-    return ruta.first(ruta.lastIndexOf(u'/') + 1);
+    return ruta.first(corteDe(ruta));
 }
 
 Ruta nombreDe(const Ruta &ruta)
@@ -110,9 +119,9 @@ Ruta operator+(const Ruta &directorio, const Ruta &nombre)
     return { directorio.texto + nombre.texto, directorio.enDisco + nombre.enDisco };
 }
 
-Programa ProgramaDe(const QString &exe)
+Programa ProgramaDe(const QString &exe, UnidadesDOS *dos)
 {
-    const Ruta corta = rutaCorta(exe);
+    const Ruta corta = rutaCorta(exe, dos);
     return { corta, nombreDe(corta), { directorioDe(corta.texto), directorioDe(corta.enDisco) } };
 }
 
@@ -122,14 +131,14 @@ QString TituloDe(const QString &ExeNombre)
     return punto < 0 ? ExeNombre : ExeNombre.first(punto);
 }
 
-Ruta RomDirDe(const QString &rom)
+Ruta RomDirDe(const QString &rom, UnidadesDOS *dos)
 {
-    return rutaCorta(rom);
+    return rutaCorta(rom, dos);
 }
 
-Ruta RomCortoDe(const Ruta &RomDir, const QString &nombre)
+Ruta RomCortoDe(const Ruta &RomDir, const QString &nombre, UnidadesDOS *dos)
 {
-    return nombreDe(rutaCorta(RomDir.enDisco + host::lower(nombre)));
+    return nombreDe(rutaCorta(RomDir.enDisco + host::lower(nombre), dos));
 }
 
 QString RomBaseDe(const QString &RomCorto)

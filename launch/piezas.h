@@ -3,6 +3,7 @@
 #pragma once
 
 #include "launch/lineadeorden.h"
+#include "launch/unidadesdos.h"
 
 #include <QString>
 
@@ -24,17 +25,18 @@ struct Programa {
     Ruta ExeDir; // with its closing separator
 };
 
-Programa ProgramaDe(const QString &exe);
+// With drives of DOS the text is the path as DOS knows it, "c:\emus\nes.exe", wherever it can be said there.
+Programa ProgramaDe(const QString &exe, UnidadesDOS *dos = nullptr);
 
 // What becomes the title of the emulator's console: the executable's name up to its first point.
 QString TituloDe(const QString &ExeNombre);
 
 // The ROM directory, with the closing separator of its setting; empty if there is no such directory.
-Ruta RomDirDe(const QString &rom);
+Ruta RomDirDe(const QString &rom, UnidadesDOS *dos = nullptr);
 
 // The short name of a file of the ROM directory, which is looked for in lower case; empty if there is no such
 // file.
-Ruta RomCortoDe(const Ruta &RomDir, const QString &nombre);
+Ruta RomCortoDe(const Ruta &RomDir, const QString &nombre, UnidadesDOS *dos = nullptr);
 
 // The name up to its first point; a name without a point gives nothing.
 QString RomBaseDe(const QString &RomCorto);

@@ -7,7 +7,8 @@ declare -A packages=(
              libxcb-ewmh-dev libxcb-randr0-dev libgraphicsmagick++1-dev dasm zip"
     [play]="stella fonts-liberation qt6-wayland"
     [screen]="xvfb openbox xdotool x11-utils imagemagick"
-    [test]="desktop-file-utils appstream file man-db libgtest-dev libgmock-dev zip dbus at-spi2-core python3-gi gir1.2-atspi-2.0 weston qt6-wayland"
+    [test]="desktop-file-utils appstream file man-db libgtest-dev libgmock-dev zip dbus at-spi2-core python3-gi gir1.2-atspi-2.0 weston qt6-wayland
+            nasm dosbox"
     [package]="debhelper dpkg-dev lintian desktop-file-utils appstream patchelf zstd xz-utils"
     [root]="debootstrap"
     [fuzz]="clang-14 libclang-rt-14-dev"

@@ -68,7 +68,9 @@ const QString NotNoted = u"Zem_NoNota0"_s;
 const QStringList NotDescribed { u"Zem_NoDescrip1"_s, u"Zem_NoLinea1"_s };
 const QString MissingTool = u"Zem_Falta0"_s;
 const QStringList MissingTools { u"Zem_FaltaEditor"_s, u"Zem_FaltaEdit"_s, u"Zem_FaltaTerm"_s,
-    u"Zem_FaltaGestor"_s };
+    u"Zem_FaltaGestor"_s, u"Zem_FaltaDOSBox"_s, u"Zem_FaltaWine"_s };
+const QString NotForDOS = u"Zem_NoDOS0"_s;
+const QStringList ReasonsOfDOS { u"Zem_NombreDOS"_s, u"Zem_LargoDOS"_s, u"Zem_SignoDOS"_s };
 
 // As wide as what they show, or shown to nobody: menu entries, plain boxes, tips, and what screen readers
 // say.
@@ -222,8 +224,9 @@ template <class Screens> void expectWholeInLanguage(core::Modulo &M, const Langu
 TEST(FitOfTexts, IsMeasuredForEveryKey)
 {
     QStringList measured = LabelsOfPortada + Unbound + JoinedInNotices + MissingTools + NotDescribed
-        + keysOf(Inputs + Questions + Warnings + Notices)
-        + QStringList { u"TXT_Cargando"_s, u"TXT_Directorios"_s, MissingTool, AskForNote, NotNoted };
+        + ReasonsOfDOS + keysOf(Inputs + Questions + Warnings + Notices)
+        + QStringList { u"TXT_Cargando"_s, u"TXT_Directorios"_s, MissingTool, NotForDOS, AskForNote,
+              NotNoted };
     for (const Shown &shown : ShownByPortada)
         measured += shown.key;
     measured += keysShownBy<ConfigScreens>() + keysShownBy<OptionScreens>();
@@ -299,6 +302,12 @@ TEST_P(TextsOfCaja, ShowWholeInWarningsOfMissingTools)
 {
     for (const QString &tool : MissingTools)
         expectShown(Box::Warning, text(MissingTool), text(tool));
+}
+
+TEST_P(TextsOfCaja, ShowWholeInNoticesOfWhatDOSRefuses)
+{
+    for (const QString &reason : ReasonsOfDOS)
+        expectShown(Box::Notice, text(NotForDOS), text(reason));
 }
 
 TEST_P(TextsOfCaja, ShowWholeInNotices)

@@ -1,0 +1,152 @@
+#include "launch/dosbox.h"
+
+#include "launch/destino.h"
+#include "launch/intenta.h"
+#include "launch/temporal.h"
+
+#include "host/descriptor.h"
+#include "host/encoding.h"
+#include "host/paths.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace launch {
+
+namespace {
+
+const QString Prefijo = u"ZB-DOS-"_s; // and the process, and a number
+
+constexpr qsizetype MasLargoElLugar = 200; // DOSBox keeps a whole path of this disk in 512 bytes
+
+// In a configuration a quote can't be said, nor a line end.
+bool seDiceEnLaConfiguracion(const QByteArray &lugar)
+{
+    return lugar.size() <= MasLargoElLugar && std::ranges::none_of(lugar, [](char c) {
+        return c == '"' || c == 127 || static_cast<unsigned char>(c) < ' ';
+    });
+}
+
+// A percent sign names a variable, unless it is doubled.
+QByteArray comoLinea(QByteArray linea)
+{
+    return linea.replace('%', "%%") + "\r\n";
+}
+
+// With several drives for CDs DOSBox wants their letters in a row.
+std::vector<bool> comoCD(const std::vector<UnidadesDOS::Montaje> &montajes)
+{
+    std::vector<bool> cd;
+    char siguiente = 0;
+    for (const UnidadesDOS::Montaje &montaje : montajes) {
+        cd.push_back(montaje.soloLectura && (siguiente == 0 || montaje.letra == siguiente));
+        if (cd.back())
+            siguiente = static_cast<char>(montaje.letra + 1);
+    }
+    return cd;
+}
+
+void vacia(const QString &ruta)
+{
+    const QByteArray lugar = host::nameToDisk(ruta) + '/';
+    Intenta([&] {
+        for (const QByteArray &nombre : host::listInDiskOrder(ruta))
+            unlink((lugar + nombre).constData());
+    });
+    rmdir(lugar.constData());
+}
+
+// What killed runs left.
+void barre(const QString &temporal)
+{
+    QStringList nombres;
+    Intenta([&] { nombres = host::listDirectories(temporal); });
+    for (const QString &nombre : nombres) {
+        const pid_t proceso = nombre.startsWith(Prefijo) ? nombre.split(u'-').value(2).toInt() : 0;
+        if (proceso > 0 && kill(proceso, 0) != 0 && errno == ESRCH && EsDirectorioPropio(temporal + nombre))
+            vacia(temporal + nombre);
+    }
+}
+
+QString nuevaCarpeta()
+{
+    static int numero = 0;
+    const QString temporal = DirectorioTemporal();
+    if (temporal.isEmpty())
+        return {};
+    barre(temporal);
+    const QString ruta = temporal + Prefijo + QString::number(getpid()) + u'-' + QString::number(++numero);
+    return mkdir(host::nameToDisk(ruta).constData(), 0700) == 0 ? ruta : QString();
+}
+
+bool escribe(const QString &ruta, const QByteArray &nombre, const QByteArray &bytes)
+{
+    const host::Descriptor directorio(
+        open(host::nameToDisk(ruta).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    FicheroNuevo fichero(directorio);
+    return fichero.Abierto() && fichero.Escribe(bytes.constData(), bytes.size())
+        && fichero.Termina(nombre, false);
+}
+
+} // namespace
+
+QByteArray ConfiguracionDOS(const Encargo &encargo)
+{
+    QByteArray texto = "[autoexec]\r\n@echo off\r\n";
+    const std::vector<bool> cd = comoCD(encargo.montajes);
+    for (std::size_t i = 0; i < encargo.montajes.size(); ++i) {
+        const UnidadesDOS::Montaje &montaje = encargo.montajes[i];
+        // The user's own configuration may have given the letter to another place.
+        texto += comoLinea(QByteArray("mount -u ") + montaje.letra + " >nul");
+        texto += comoLinea(QByteArray("mount ") + montaje.letra + " \"" + montaje.lugar + '"'
+            + (cd[i] ? " -t cdrom" : "") + " >nul");
+    }
+    const qsizetype corte = encargo.programaDOS.lastIndexOf('\\');
+    texto += comoLinea(encargo.programaDOS.first(2));
+    texto += comoLinea("cd " + encargo.programaDOS.sliced(2, std::max<qsizetype>(corte - 2, 1)));
+    const bool lotes = encargo.programaDOS.endsWith(".BAT");
+    texto += comoLinea((lotes ? "call " : "") + encargo.programaDOS + encargo.colaDOS);
+    return texto + "exit\r\n";
+}
+
+CarpetaDOS::CarpetaDOS(Encargo encargo)
+    : m_ruta(nuevaCarpeta())
+{
+    if (m_ruta.isEmpty() || !enlaza(encargo.montajes)
+        || !escribe(m_ruta, "dosbox.conf", ConfiguracionDOS(encargo)))
+        return;
+    m_argumentos = encargo.argumentos;
+    if (!encargo.herramienta.endsWith(u"dosbox-staging")) // which takes the user's own anyway
+        m_argumentos += u"-userconf"_s;
+    m_argumentos += { u"-conf"_s, m_ruta + u"/dosbox.conf"_s };
+}
+
+CarpetaDOS::~CarpetaDOS()
+{
+    if (!m_ruta.isEmpty())
+        vacia(m_ruta);
+}
+
+// A place that can't be said is reached by a link.
+bool CarpetaDOS::enlaza(std::vector<UnidadesDOS::Montaje> &montajes) const
+{
+    for (UnidadesDOS::Montaje &montaje : montajes) {
+        if (seDiceEnLaConfiguracion(montaje.lugar))
+            continue;
+        const QByteArray enlace = host::nameToDisk(m_ruta) + '/' + montaje.letra;
+        if (symlink(montaje.lugar.constData(), enlace.constData()) != 0)
+            return false;
+        montaje.lugar = enlace;
+    }
+    return std::ranges::all_of(
+        montajes, [](const UnidadesDOS::Montaje &montaje) { return seDiceEnLaConfiguracion(montaje.lugar); });
+}
+
+} // namespace launch

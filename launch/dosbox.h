@@ -1,0 +1,36 @@
+// A run in DOSBox: the configuration that is written for it.
+#pragma once
+
+#include "launch/encargo.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace launch {
+
+// The text of the configuration: the drives, the emulator's directory, its command, the end.
+// The places are said as they are; none of them may hold a double quote or a control character.
+QByteArray ConfiguracionDOS(const Encargo &encargo);
+
+// The files of one run, in a directory of their own among the temporary ones; they go with it.
+class CarpetaDOS {
+public:
+    explicit CarpetaDOS(Encargo encargo);
+    ~CarpetaDOS();
+    CarpetaDOS(const CarpetaDOS &) = delete;
+    CarpetaDOS &operator=(const CarpetaDOS &) = delete;
+
+    // What is to be started; empty if the files couldn't be written.
+    const QStringList &Argumentos() const { return m_argumentos; }
+
+private:
+    bool enlaza(std::vector<UnidadesDOS::Montaje> &montajes) const;
+
+    QString m_ruta;
+    QStringList m_argumentos;
+};
+
+} // namespace launch

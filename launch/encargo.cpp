@@ -1,0 +1,170 @@
+#include "launch/encargo.h"
+
+#include "launch/codigo437.h"
+#include "launch/wine.h"
+
+#include "core/clasedeprograma.h"
+
+#include "host/encoding.h"
+#include "host/paths.h"
+#include "host/process.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace launch {
+
+namespace {
+
+constexpr qsizetype MasLargaLaCola = 126;
+
+// Absolute, in its true spelling; empty if there is no such file.
+QString enDisco(const QString &programa)
+{
+    const QString encontrado = host::trueSpelling(programa);
+    return encontrado.isEmpty() || encontrado.startsWith(u'/') ? encontrado
+                                                               : host::currentDirectory() + u'/' + encontrado;
+}
+
+QString primeraDe(const QStringList &nombres)
+{
+    for (const QString &nombre : nombres) {
+        const QString ruta = host::findInPath(nombre);
+        if (!ruta.isEmpty())
+            return ruta;
+    }
+    return {};
+}
+
+QString nombreDe(const QString &ruta)
+{
+    return ruta.sliced(ruta.lastIndexOf(u'/') + 1);
+}
+
+bool obedeceElInterprete(const QString &texto)
+{
+    return std::ranges::any_of(texto, [](QChar c) { return QStringView(u"<>|").contains(c); });
+}
+
+class EncargoDOS {
+public:
+    Encargo encargo;
+
+    void Programa(const QString &programa)
+    {
+        const std::optional<QByteArray> dicho = m_unidades.Ruta(programa);
+        encargo.programaDOS = dicho.value_or(QByteArray());
+        if (!dicho)
+            traba(Traba::Nombre, programa);
+    }
+    void Pieza(const LineaDeOrden::Pieza &pieza)
+    {
+        const bool absoluta = pieza.ruta && pieza.enDisco.startsWith(u'/');
+        const QString &texto = pieza.ruta ? pieza.enDisco : pieza.texto;
+        const std::optional<QByteArray> dicho =
+            absoluta ? m_unidades.Ruta(pieza.enDisco) : EnCodigo437(texto);
+        if (!dicho || (!absoluta && obedeceElInterprete(texto)))
+            return traba(pieza.ruta ? Traba::Nombre : Traba::Signo, pieza.ruta ? nombreDe(texto) : texto);
+        encargo.colaDOS += *dicho;
+        if (!pieza.ruta)
+            m_unidades.Nombra(texto);
+    }
+    void Termina()
+    {
+        while (encargo.colaDOS.endsWith(' '))
+            encargo.colaDOS.chop(1);
+        if (encargo.colaDOS.size() > MasLargaLaCola)
+            traba(Traba::Largo, QString::fromLatin1(encargo.colaDOS));
+        encargo.montajes = m_unidades.Montajes();
+    }
+
+private:
+    // The first one counts.
+    void traba(Traba cual, const QString &en)
+    {
+        if (encargo.traba != Traba::Ninguna)
+            return;
+        encargo.traba = cual;
+        encargo.trabadoEn = en;
+    }
+
+    UnidadesDOS m_unidades;
+};
+
+Encargo paraDOS(const LineaDeOrden &orden, const QString &programa)
+{
+    EncargoDOS dos;
+    dos.encargo.corredor = Corredor::DOSBox;
+    dos.encargo.herramienta = primeraDe({ u"dosbox"_s, u"dosbox-x"_s, u"dosbox-staging"_s });
+    dos.encargo.argumentos = { dos.encargo.herramienta };
+    if (dos.encargo.herramienta.isEmpty())
+        dos.encargo.traba = Traba::SinHerramienta;
+    dos.Programa(programa);
+    for (std::size_t i = 1; i < orden.Piezas().size(); ++i)
+        dos.Pieza(orden.Piezas()[i]);
+    dos.Termina();
+    return dos.encargo;
+}
+
+Encargo paraWindows(const LineaDeOrden &orden, const QString &programa)
+{
+    Encargo encargo;
+    encargo.corredor = Corredor::Wine;
+    encargo.herramienta = primeraDe({ u"wine"_s, u"wine64"_s });
+    if (encargo.herramienta.isEmpty())
+        encargo.traba = Traba::SinHerramienta;
+    const std::vector<host::Drive> unidades = UnidadesDeWine();
+    host::ArgumentSplitter divisor;
+    for (std::size_t i = 1; i < orden.Piezas().size(); ++i) {
+        const LineaDeOrden::Pieza &pieza = orden.Piezas()[i];
+        if (pieza.ruta)
+            divisor.addWhole(RutaDeWindows(pieza.enDisco, unidades));
+        else
+            divisor.addText(pieza.texto);
+    }
+    encargo.argumentos =
+        QStringList { encargo.herramienta, RutaDeWindows(programa, unidades) } + divisor.arguments();
+    return encargo;
+}
+
+} // namespace
+
+Encargo EncargoDe(const LineaDeOrden &orden)
+{
+    Encargo encargo;
+    encargo.argumentos = orden.Argumentos();
+    const QString programa = enDisco(encargo.argumentos.value(0));
+    switch (programa.isEmpty() ? core::ClaseDePrograma::Desconocida : core::ClaseDe(programa)) {
+    case core::ClaseDePrograma::DOS:
+        return paraDOS(orden, programa);
+    case core::ClaseDePrograma::Windows:
+        return paraWindows(orden, programa);
+    default:
+        return encargo;
+    }
+}
+
+QString TextoDe(Traba traba, Corredor corredor, const core::Palabras &palabras)
+{
+    switch (traba) {
+    case Traba::SinHerramienta:
+        return corredor == Corredor::Wine ? palabras.Zem_FaltaWine : palabras.Zem_FaltaDOSBox;
+    case Traba::Nombre:
+        return palabras.Zem_NombreDOS;
+    case Traba::Largo:
+        return palabras.Zem_LargoDOS;
+    case Traba::Signo:
+        return palabras.Zem_SignoDOS;
+    case Traba::Ninguna:
+        break;
+    }
+    return {};
+}
+
+QString TituloDe(Traba traba, const core::Palabras &palabras)
+{
+    return traba == Traba::SinHerramienta ? palabras.Zem_Falta0 : palabras.Zem_NoDOS0;
+}
+
+} // namespace launch

@@ -1,0 +1,16 @@
+// The names that DOSBox shows DOS for the files of a directory: eight characters, a point, three.
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayList>
+
+namespace launch {
+
+// For all the entries of a directory, "." and ".." apart, in the order in which the disk lists them: of names
+// that collide the first one listed gets the lowest number. A pure function of that listing.
+QByteArrayList NombresDOS(const QByteArrayList &entradas);
+
+// True if DOS opens a file of this name: of some names that it is shown it can't.
+bool SeAbreEnDOS(const QByteArray &nombre);
+
+} // namespace launch

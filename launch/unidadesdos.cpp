@@ -1,0 +1,148 @@
+#include "launch/unidadesdos.h"
+
+#include "launch/intenta.h"
+#include "launch/nombresdos.h"
+
+#include "host/encoding.h"
+#include "host/paths.h"
+
+#include <algorithm>
+
+#include <unistd.h>
+
+namespace launch {
+
+namespace {
+
+constexpr char UnidadDeDOSBox = 'Z'; // its own programs
+constexpr char PrimeraLibre = 'C';
+constexpr qsizetype MasLargoElDirectorio = 63; // that DOS makes the current one, without the letter
+constexpr qsizetype MasLargaLaRuta = 78;
+
+// The name that DOS knows this entry by; empty if it opens none. One that isn't there yet comes last.
+QByteArray nombreEn(const QByteArray &directorio, const QByteArray &entrada)
+{
+    QByteArrayList entradas;
+    Intenta([&] { entradas = host::listInDiskOrder(host::nameFromDisk(directorio)); });
+    if (!entradas.contains(entrada))
+        entradas.append(entrada);
+    const QByteArray nombre = NombresDOS(entradas)[entradas.indexOf(entrada)];
+    return SeAbreEnDOS(nombre) ? nombre : QByteArray();
+}
+
+// "\EMUS\NES\" of what lies below a place; none if a part of it can't be said.
+std::optional<QByteArray> directoriosDesde(QByteArray lugar, const QByteArray &resto)
+{
+    QByteArray dicho = "\\";
+    for (const QByteArray &parte : resto.split('/')) {
+        if (parte.isEmpty())
+            continue;
+        const QByteArray nombre = nombreEn(lugar, parte);
+        if (nombre.isEmpty())
+            return std::nullopt;
+        dicho += nombre + '\\';
+        lugar += parte + '/';
+    }
+    return dicho.size() - 1 <= MasLargoElDirectorio ? std::optional(dicho) : std::nullopt;
+}
+
+// Without what leads through a directory and back.
+QByteArray directo(const QByteArray &ruta)
+{
+    QByteArrayList partes;
+    for (const QByteArray &parte : ruta.split('/')) {
+        if (parte == ".." && !partes.isEmpty())
+            partes.removeLast();
+        else if (!parte.isEmpty() && parte != "." && parte != "..")
+            partes.append(parte);
+    }
+    return partes.isEmpty() ? QByteArray("/") : '/' + partes.join('/') + '/';
+}
+
+} // namespace
+
+UnidadesDOS::UnidadesDOS(const std::vector<host::Drive> &propias)
+{
+    for (const host::Drive &unidad : propias) {
+        const QByteArray lugar = host::findOnDisk(unidad.place);
+        const char letra = unidad.letter.toLatin1();
+        if (letra != UnidadDeDOSBox && !lugar.isEmpty())
+            m_unidades.push_back({ letra, directo(lugar), false });
+    }
+}
+
+std::optional<QByteArray> UnidadesDOS::Ruta(const QString &enDisco)
+{
+    const QByteArray ruta = host::nameToDisk(enDisco);
+    const qsizetype corte = ruta.lastIndexOf('/') + 1;
+    if (!ruta.startsWith('/'))
+        return std::nullopt;
+    const QByteArray lugar = directo(ruta.first(corte));
+    const QByteArray entrada = ruta.sliced(corte);
+    const QByteArray nombre = entrada.isEmpty() ? QByteArray() : nombreEn(lugar, entrada);
+    if (nombre.isEmpty() != entrada.isEmpty())
+        return std::nullopt;
+    const std::optional<QByteArray> dicho = directorio(lugar);
+    return dicho && dicho->size() + nombre.size() <= MasLargaLaRuta ? std::optional(*dicho + nombre)
+                                                                    : std::nullopt;
+}
+
+// On the drive that lies nearest above it.
+std::optional<QByteArray> UnidadesDOS::directorio(const QByteArray &lugar)
+{
+    Unidad *mejor = nullptr;
+    std::optional<QByteArray> dicho;
+    for (Unidad &unidad : m_unidades) {
+        if (!lugar.startsWith(unidad.lugar) || (mejor && unidad.lugar.size() <= mejor->lugar.size()))
+            continue;
+        const auto posible = directoriosDesde(unidad.lugar, lugar.sliced(unidad.lugar.size()));
+        if (!posible)
+            continue;
+        dicho = posible;
+        mejor = &unidad;
+    }
+    if (!mejor) {
+        mejor = nueva(lugar);
+        dicho = "\\";
+    }
+    if (!mejor)
+        return std::nullopt;
+    mejor->montada = true;
+    return mejor->letra + (':' + *dicho);
+}
+
+UnidadesDOS::Unidad *UnidadesDOS::nueva(const QByteArray &lugar)
+{
+    for (char letra = PrimeraLibre; letra < UnidadDeDOSBox; ++letra) {
+        if (std::ranges::find(m_unidades, letra, &Unidad::letra) == m_unidades.end())
+            return &m_unidades.insert(m_unidades.end(), { letra, lugar, false })[0];
+    }
+    return nullptr;
+}
+
+void UnidadesDOS::Nombra(const QString &parametros)
+{
+    for (qsizetype i = 0; i + 1 < parametros.size(); ++i) {
+        const bool enMedio = i > 0 && parametros[i - 1].isLetterOrNumber();
+        const QChar letra = enMedio ? QChar() : host::driveLetter(QStringView(parametros).sliced(i));
+        const auto unidad = std::ranges::find(m_unidades, letra.toLatin1(), &Unidad::letra);
+        if (unidad != m_unidades.end() && !letra.isNull())
+            unidad->montada = true;
+    }
+}
+
+std::vector<UnidadesDOS::Montaje> UnidadesDOS::Montajes() const
+{
+    std::vector<Montaje> montajes;
+    for (const Unidad &unidad : m_unidades) {
+        QByteArray lugar = unidad.lugar;
+        if (lugar.size() > 1)
+            lugar.chop(1);
+        if (unidad.montada)
+            montajes.push_back({ unidad.letra, lugar, access(lugar.constData(), W_OK) != 0 });
+    }
+    std::ranges::sort(montajes, {}, &Montaje::letra);
+    return montajes;
+}
+
+} // namespace launch

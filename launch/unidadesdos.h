@@ -1,0 +1,50 @@
+// Paths as a program for DOS opens them: letters for places of this disk, and the names that DOSBox shows.
+#pragma once
+
+#include "host/drives.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace launch {
+
+// The drives of one run, given out as its paths ask for them: the user's own, and for a path that lies on
+// none of them, or that can't be said there, its directory as a drive of a free letter. The same paths in the
+// same order always get the same letters.
+class UnidadesDOS {
+public:
+    explicit UnidadesDOS(const std::vector<host::Drive> &propias = host::drives());
+
+    struct Montaje {
+        char letra; // upper case
+        QByteArray lugar; // absolute, as the disk spells it
+        bool soloLectura; // nobody could write there
+    };
+
+    // "D:\ROMS\GAME.NES", for an absolute path in its spelling on the disk; of a directory that ends in a
+    // slash with its backslash. None where DOS can't open a file of this name, or all letters are given.
+    std::optional<QByteArray> Ruta(const QString &enDisco);
+
+    // Of the user's own drives those that a parameter names, "d:\roms".
+    void Nombra(const QString &parametros);
+
+    // What has been asked for, by letter.
+    std::vector<Montaje> Montajes() const;
+
+private:
+    struct Unidad {
+        char letra;
+        QByteArray lugar; // with a closing slash
+        bool montada;
+    };
+
+    std::optional<QByteArray> directorio(const QByteArray &lugar);
+    Unidad *nueva(const QByteArray &lugar);
+
+    std::vector<Unidad> m_unidades;
+};
+
+} // namespace launch

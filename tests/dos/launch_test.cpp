@@ -1,0 +1,197 @@
+// Launches of programs for DOS, from the selection to the end, in the real DOSBox.
+#include "dostest.h"
+
+#include "host/encoding.h"
+#include "host/paths.h"
+#include "host/process.h"
+
+#include "tests/launch/zipdeprueba.h"
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class LaunchesInDosBox : public DosTest {
+protected:
+    LaunchesInDosBox()
+    {
+        makeDirectory("old");
+        makeDirectory("old/EMUS");
+        makeDirectory("old/Emus For Nes");
+        makeDirectory("media");
+        makeDirectory("media/ROMS");
+    }
+    void NameBoth() const { NameDrives("C=" + place("old") + "/\r\nD=" + place("media") + "\r\n"); }
+};
+
+} // namespace
+
+TEST_F(LaunchesInDosBox, AnOldCatalogueWorksAsItIs)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/Nes.com");
+    makeFile("media/ROMS/mario.nes", "a game");
+    Select(0, u"C:\\EMUS\\NES.COM"_s, u"D:\\ROMS\\"_s, u"-X 1"_s);
+    PonParametros("mario.nes,s,e,/Y\r\n");
+    M.DebugMode = u"1"_s;
+    Juega();
+    EXPECT_THAT(Notices(), IsEmpty());
+    EXPECT_THAT(Told("old/EMUS"), ElementsAre(" -x 1 D:\\ROMS\\MARIO.NES  /Y", "EMUS", ""));
+    EXPECT_EQ(
+        respuestas.dichos, QStringList { u"Zembrolix: c:\\emus\\nes.com -x 1 d:\\roms\\mario.nes  /Y"_s });
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty()) << "nothing is left";
+}
+
+TEST_F(LaunchesInDosBox, LongNamesAreHandedOverAsDosBoxShowsThem)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/Emus For Nes/The Emulator.com");
+    makeFile("media/ROMS/Super Mario.nes", "first");
+    makeFile("media/ROMS/Super Mario 2.nes", "second");
+    Select(0, u"C:\\Emus for nes\\The Emulator.com"_s, u"D:\\ROMS\\"_s);
+    for (const auto &[game, content] :
+        { std::pair { u"Super Mario.nes"_s, "first" }, { u"Super Mario 2.nes"_s, "second" } }) {
+        pantalla.lista1 = game;
+        Juega();
+        const QByteArrayList told = Told("old/Emus For Nes");
+        ASSERT_EQ(told.size(), 3);
+        EXPECT_TRUE(told[0].startsWith("  D:\\ROMS\\SUPERM~")) << told[0].constData();
+        EXPECT_EQ(told[1], "EMUSFO~1");
+        EXPECT_EQ(told[2], content);
+    }
+}
+
+TEST_F(LaunchesInDosBox, PlacesOnNoDriveGetLettersOfTheirOwn)
+{
+    PutProgram("tells.com", "emu/nes.com");
+    makeDirectory("my \"roms\" 100% [x]");
+    makeFile("my \"roms\" 100% [x]/mario.nes", "a game");
+    Select(0, path(u"emu/nes.com"_s), path(u"my \"roms\" 100% [x]/"_s));
+    Juega();
+    EXPECT_THAT(Told("emu"), ElementsAre("  D:\\MARIO.NES", "", "a game"));
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
+}
+
+TEST_F(LaunchesInDosBox, APlaceNamedInAnyBytesIsMounted)
+{
+    for (const QByteArray &name : { QByteArray("a\nmount e c:\n[autoexec]\nexit"), QByteArray("ni\xA4os"),
+             QByteArray("ni\xC3\xB1os %PATH% 'x'"), QByteArray("a<b>c|d&e^f"), QByteArray(220, 'd') }) {
+        makeDirectory(name);
+        PutProgram("tells.com", name + "/nes.com");
+        Select(5, host::nameFromDisk(place(name)) + u"/nes.com"_s, {}, u" fine"_s);
+        Juega();
+        EXPECT_THAT(Told(name), ElementsAre(" fine", "", "")) << name.constData();
+    }
+}
+
+TEST_F(LaunchesInDosBox, WhatLiesTooDeepForDosIsADriveOfItsOwn)
+{
+    NameBoth();
+    QByteArray deep = "old";
+    for (int i = 0; i < 9; ++i) {
+        deep += "/ABCDEFG" + QByteArray::number(i);
+        makeDirectory(deep);
+    }
+    PutProgram("tells.com", deep + "/nes.com");
+    makeFile(deep + "/mario.nes", "a game");
+    Select(0, path(QString::fromLatin1(deep)) + u"/nes.com"_s, path(QString::fromLatin1(deep)) + u'/');
+    Juega();
+    EXPECT_THAT(Told(deep), ElementsAre("  E:\\MARIO.NES", "", "a game"));
+}
+
+TEST_F(LaunchesInDosBox, AGameOutOfAZipIsOnADriveToo)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/nes.com");
+    makeFile("media/ROMS/Super Mario (1).zip", Zip({ { "Super Mario Brothers.nes", "zipped" } }));
+    PonExtensiones({ u"*.NES"_s });
+    pantalla.lista1 = u"Super Mario (1).zip"_s;
+    Select(0, u"C:\\EMUS\\NES.COM"_s, u"D:\\ROMS\\"_s);
+    Juega();
+    EXPECT_THAT(Told("old/EMUS"), ElementsAre("  E:\\SUPERM~1.NES", "EMUS", "zipped"));
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
+}
+
+TEST_F(LaunchesInDosBox, AGameUnpackedBesideItsEmulatorIsNamedInEight)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/nes.com");
+    makeFile("media/ROMS/Super Mario.zip", Zip({ { "one.rom", "zipped" } }));
+    HazDuranteElJuego({});
+    pantalla.lista1 = u"Super Mario.zip"_s;
+    Select(2, u"C:\\EMUS\\NES.COM"_s, u"D:\\ROMS\\"_s, {}, u"superm~1\\one.rom"_s);
+    Juega();
+    EXPECT_THAT(Told("old/EMUS"), ElementsAre("   superm~1 superm~1\\one.rom", "EMUS", "zipped"));
+    EXPECT_FALSE(exists("old/EMUS/superm~1"));
+}
+
+TEST_F(LaunchesInDosBox, DrivesThatParametersNameAreThere)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/nes.com");
+    makeFile("media/bios.rom", "bios");
+    Select(5, u"C:\\EMUS\\NES.COM"_s, {}, u" -b D:\\BIOS.ROM"_s);
+    Juega();
+    EXPECT_THAT(Told("old/EMUS"), ElementsAre(" -b d:\\bios.rom", "EMUS", "bios"));
+}
+
+TEST_F(LaunchesInDosBox, ParametersComeAsTheyStand)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/nes.com");
+    Select(5, u"C:\\EMUS\\NES.COM"_s, {}, u" \"two  words\" 100% %path% a&b ^ ; , = + \u00F1"_s);
+    Juega();
+    EXPECT_THAT(Told("old/EMUS").value(0), " \"two  words\" 100% %path% a&b ^ ; , = + \xA4");
+}
+
+TEST_F(LaunchesInDosBox, OfReadOnlyPlacesNothingIsChanged)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/nes.com");
+    makeFile("media/ROMS/mario.nes", "a game");
+    setMode("media", 0555);
+    setMode("media/ROMS", 0555);
+    Select(0, u"C:\\EMUS\\NES.COM"_s, u"D:\\ROMS\\"_s);
+    Juega();
+    EXPECT_THAT(Told("old/EMUS"), ElementsAre("  D:\\ROMS\\MARIO.NES", "EMUS", "a game"));
+}
+
+TEST_F(LaunchesInDosBox, ABatchFileEndsToo)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/nes.com");
+    makeFile("old/EMUS/GO.BAT", "@nes.com from %1\r\n");
+    Select(5, u"C:\\EMUS\\go.bat"_s, {}, u" here"_s);
+    Juega();
+    EXPECT_THAT(Told("old/EMUS"), ElementsAre(" from here", "EMUS", ""));
+}
+
+TEST_F(LaunchesInDosBox, TheUsersOwnConfigurationLiesBelow)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/nes.com");
+    makeDirectory("home/.dosbox");
+    makeDirectory("other");
+    makeFile("home/.dosbox/dosbox-0.74-3.conf",
+        "[autoexec]\nmount c \"" + place("other") + "\"\nmount x \"" + place("media")
+            + "\"\nc:\necho kept > x:\\KEPT\n");
+    Select(5, u"C:\\EMUS\\NES.COM"_s, {}, u" x"_s);
+    Juega();
+    EXPECT_THAT(Told("old/EMUS"), ElementsAre(" x", "EMUS", ""));
+    EXPECT_TRUE(exists("media/KEPT"));
+}
+
+TEST_F(LaunchesInDosBox, ALineOf126CharactersGoes_OneOf127IsRefused)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/nes.com");
+    Select(5, u"C:\\EMUS\\NES.COM"_s, {}, u" "_s + QString(125, u'x'));
+    Juega();
+    EXPECT_EQ(Told("old/EMUS").value(0), ' ' + QByteArray(125, 'x'));
+    Select(5, u"C:\\EMUS\\NES.COM"_s, {}, u" "_s + QString(126, u'x'));
+    Juega();
+    EXPECT_EQ(Told("old/EMUS").value(0), ' ' + QByteArray(125, 'x'));
+    EXPECT_EQ(Notices(), QStringList { u"No: Length"_s });
+}

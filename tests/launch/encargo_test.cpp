@@ -1,0 +1,273 @@
+// What is started for a program of another system, by a DOSBox and a Wine that only record what they get.
+#include "escenario.h"
+
+#include "launch/codigo437.h"
+#include "launch/dosbox.h"
+#include "launch/encargo.h"
+#include "launch/wine.h"
+
+#include "host/paths.h"
+#include "host/process.h"
+
+using namespace Qt::StringLiterals;
+using launch::Corredor;
+using launch::Encargo;
+using launch::LineaDeOrden;
+using launch::Traba;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+const QByteArray ParaDOS = "MZ" + QByteArray(100, '\0');
+const QByteArray ParaWindows = "MZ" + QByteArray(0x3a, '\0') + QByteArray("\x40\0\0\0PE\0\0", 8);
+
+// Neither of them is there but where a test puts it.
+class EncargoTest : public Escenario {
+protected:
+    EncargoTest()
+        : m_camino(qgetenv("PATH"))
+    {
+        makeDirectory("bin");
+        qputenv("PATH", place("bin"));
+        qputenv("WINEPREFIX", place("wine"));
+        host::rememberEnvironment();
+        M.Palabras.Zem_Falta0 = u"Missing"_s;
+        M.Palabras.Zem_FaltaDOSBox = u"DOSBox"_s;
+        M.Palabras.Zem_FaltaWine = u"Wine"_s;
+        M.Palabras.Zem_NoDOS0 = u"No"_s;
+        M.Palabras.Zem_NombreDOS = u"Name"_s;
+        M.Palabras.Zem_LargoDOS = u"Length"_s;
+        M.Palabras.Zem_SignoDOS = u"Sign"_s;
+        PonEmulador(0);
+        M.Cat_EXE(3, 2) = u"EXE="_s + path(u"emu/nes.exe"_s);
+        PonROM("mario.nes");
+    }
+    ~EncargoTest() override
+    {
+        qputenv("PATH", m_camino);
+        qunsetenv("WINEPREFIX");
+        host::rememberEnvironment();
+    }
+
+    void Pon(const QByteArray &bytes) const { makeFile("emu/nes.exe", bytes); }
+
+    // Keeps its arguments, and a copy of the configuration that they name.
+    void PonHerramienta(const QByteArray &nombre) const
+    {
+        makeFile("bin/" + nombre,
+            "#!/bin/sh\nprintf '%s\\0' \"$0\" \"$@\" > '" + place("out/arguments")
+                + "'\nfor a in \"$@\"; do case $a in *.conf) /bin/cat \"$a\" > '" + place("out/conf")
+                + "';; esac; done\n");
+        setMode("bin/" + nombre, 0755);
+    }
+    QStringList Avisos() const
+    {
+        QStringList avisos;
+        for (const QString &llamada : pantalla.llamadas) {
+            if (llamada.startsWith(u"Aviso "))
+                avisos << llamada.sliced(6);
+        }
+        return avisos;
+    }
+    QByteArrayList Configuracion() const { return bytes("out/conf").value_or("none").split('\n'); }
+
+    Encargo De(const QString &parametros) const
+    {
+        LineaDeOrden orden;
+        const QString exe = path(u"emu/nes.exe"_s);
+        orden.Ruta(exe, exe).Texto(parametros);
+        return launch::EncargoDe(orden);
+    }
+
+private:
+    QByteArray m_camino;
+};
+
+} // namespace
+
+TEST_F(EncargoTest, ProgramsOfThisSystemAreStartedThemselves)
+{
+    for (const QByteArray &bytes : { QByteArray("#!/bin/sh\n"), QByteArray("no program"), QByteArray() }) {
+        Pon(bytes);
+        const Encargo encargo = De(u" -x 'a b'"_s);
+        EXPECT_EQ(encargo.corredor, Corredor::Ninguno);
+        EXPECT_EQ(encargo.traba, Traba::Ninguna);
+        EXPECT_EQ(encargo.argumentos, QStringList({ path(u"emu/nes.exe"_s), u"-x"_s, u"'a"_s, u"b'"_s }));
+    }
+    EXPECT_EQ(launch::EncargoDe(LineaDeOrden()).argumentos, QStringList());
+    EXPECT_EQ(launch::EncargoDe(LineaDeOrden().Texto(u"nowhere -x"_s)).argumentos,
+        QStringList({ u"nowhere"_s, u"-x"_s }));
+}
+
+TEST_F(EncargoTest, WhereDosBoxIsMissingTheUserIsTold)
+{
+    Pon(ParaDOS);
+    Juega();
+    EXPECT_EQ(Avisos(), QStringList { u"Missing: DOSBox"_s });
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
+}
+
+TEST_F(EncargoTest, WhereWineIsMissingTheUserIsTold)
+{
+    Pon(ParaWindows);
+    Juega();
+    EXPECT_EQ(Avisos(), QStringList { u"Missing: Wine"_s });
+}
+
+TEST_F(EncargoTest, DosBoxGetsAConfigurationThatGoesWithTheRun)
+{
+    Pon(ParaDOS);
+    PonHerramienta("dosbox");
+    Juega();
+    EXPECT_THAT(Avisos(), IsEmpty());
+    EXPECT_EQ(Programa(), place("bin/dosbox"));
+    const QByteArrayList argumentos = Argumentos();
+    ASSERT_EQ(argumentos.size(), 3);
+    EXPECT_EQ(argumentos[0], "-userconf");
+    EXPECT_EQ(argumentos[1], "-conf");
+    EXPECT_TRUE(argumentos[2].startsWith(place("tmp/ZB-DOS-")));
+    EXPECT_THAT(Configuracion(),
+        ElementsAre("[autoexec]\r", "@echo off\r", "mount -u C >nul\r",
+            "mount C \"" + place("emu") + "\" >nul\r", "mount -u D >nul\r",
+            "mount D \"" + place("roms") + "\" >nul\r", "C:\r", "cd \\\r", "C:\\NES.EXE  D:\\MARIO.NES\r",
+            "exit\r", ""));
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
+}
+
+TEST_F(EncargoTest, TheOthersOfDosBoxServeToo)
+{
+    Pon(ParaDOS);
+    PonHerramienta("dosbox-staging");
+    Juega();
+    EXPECT_EQ(Programa(), place("bin/dosbox-staging"));
+    EXPECT_EQ(Argumentos().value(0), "-conf") << "it reads the user's own configuration always";
+    PonHerramienta("dosbox-x");
+    Juega();
+    EXPECT_EQ(Programa(), place("bin/dosbox-x"));
+    EXPECT_EQ(Argumentos().value(0), "-userconf");
+}
+
+TEST_F(EncargoTest, AFileCalledDosBoxBesideTheEmulatorIsNotTakenForIt)
+{
+    Pon(ParaDOS);
+    makeFile("emu/DOSBOX", "notes");
+    PonHerramienta("dosbox");
+    Juega();
+    EXPECT_EQ(Programa(), place("bin/dosbox"));
+}
+
+TEST_F(EncargoTest, WhatAKilledRunLeftGoes_ThatOfALivingOneStays)
+{
+    Pon(ParaDOS);
+    PonHerramienta("dosbox");
+    const pid_t muerto = startChild([] { return 0; });
+    endOf(muerto);
+    const QByteArray viejo = "tmp/ZB-DOS-" + QByteArray::number(muerto) + "-1";
+    makeDirectory(viejo);
+    makeFile(viejo + "/dosbox.conf");
+    makeLink(place("roms"), viejo + "/D");
+    makeDirectory("tmp/ZB-DOS-1-1");
+    makeDirectory("tmp/ZB-DOS-other");
+    Juega();
+    EXPECT_FALSE(exists(viejo));
+    EXPECT_TRUE(exists("roms/mario.nes"));
+    EXPECT_TRUE(exists("tmp/ZB-DOS-1-1"));
+    EXPECT_TRUE(exists("tmp/ZB-DOS-other"));
+}
+
+TEST_F(EncargoTest, NoLettersSignsOrNamesBreakOut)
+{
+    Pon(ParaDOS);
+    PonHerramienta("dosbox");
+    for (const QString &parametros :
+        { u" > c:\\x"_s, u" a<b"_s, u" a|b"_s, u" a\nexit"_s, u" a\rb"_s, u" \u0001"_s, u" \u4e00"_s }) {
+        const Encargo encargo = De(parametros);
+        EXPECT_EQ(encargo.traba, Traba::Signo) << parametros.toStdString();
+        EXPECT_EQ(encargo.trabadoEn, parametros);
+    }
+    const Encargo encargo = De(u" 100% %path%"_s);
+    EXPECT_EQ(encargo.traba, Traba::Ninguna);
+    EXPECT_THAT(launch::ConfiguracionDOS(encargo).toStdString(), HasSubstr("C:\\NES.EXE 100%% %%path%%\r\n"));
+}
+
+TEST_F(EncargoTest, AGameThatDosCantOpenIsRefusedByItsName)
+{
+    Pon(ParaDOS);
+    PonHerramienta("dosbox");
+    for (const QByteArray &nombre :
+        { QByteArray("ni\xC3\xB1o.nes"), QByteArray("a.b.c"), QByteArray("a=b.nes") }) {
+        PonROM(nombre);
+        pantalla.lista1 = QString::fromUtf8(nombre);
+        pantalla.llamadas.clear();
+        Juega();
+        EXPECT_EQ(Avisos(), QStringList { u"No: Name"_s }) << nombre.constData();
+    }
+    EXPECT_FALSE(HuboJuego());
+}
+
+TEST_F(EncargoTest, ALineOf126CharactersGoes_OneOf127Doesnt)
+{
+    Pon(ParaDOS);
+    PonHerramienta("dosbox");
+    EXPECT_EQ(De(u" "_s + QString(125, u'x')).traba, Traba::Ninguna);
+    EXPECT_EQ(De(u" "_s + QString(125, u'x') + u"   "_s).traba, Traba::Ninguna) << "blanks at the end go";
+    EXPECT_EQ(De(u" "_s + QString(126, u'x')).traba, Traba::Largo);
+    EXPECT_EQ(De(u" "_s + QString(125, u'%')).traba, Traba::Ninguna) << "each is one for DOS";
+}
+
+TEST_F(EncargoTest, DrivesForCdsStandInARow)
+{
+    Encargo encargo;
+    encargo.programaDOS = "C:\\A.EXE";
+    for (const char letra : { 'C', 'D', 'E', 'G' })
+        encargo.montajes.push_back({ letra, QByteArray("/") + letra, letra != 'C' });
+    const std::string texto = launch::ConfiguracionDOS(encargo).toStdString();
+    EXPECT_THAT(texto, HasSubstr("mount C \"/C\" >nul"));
+    EXPECT_THAT(texto, HasSubstr("mount D \"/D\" -t cdrom >nul"));
+    EXPECT_THAT(texto, HasSubstr("mount E \"/E\" -t cdrom >nul"));
+    EXPECT_THAT(texto, HasSubstr("mount G \"/G\" >nul"));
+}
+
+TEST_F(EncargoTest, WineGetsPathsOfItsPrefix)
+{
+    Pon(ParaWindows);
+    PonHerramienta("wine");
+    makeDirectory("wine");
+    makeDirectory("wine/dosdevices");
+    makeLink(place("roms"), "wine/dosdevices/d:");
+    makeLink("/", "wine/dosdevices/z:");
+    PonROM("Super Mario.nes");
+    pantalla.lista1 = u"Super Mario.nes"_s;
+    M.Cat_PAR1(3, 2) = u"PAR1=-x \"a b\""_s;
+    Juega();
+    EXPECT_EQ(Programa(), place("bin/wine"));
+    EXPECT_THAT(Argumentos(),
+        ElementsAre("Z:" + (place("emu/nes.exe")).replace('/', '\\'), "-x", "a b", "D:\\Super Mario.nes"));
+    EXPECT_EQ(DirectorioDelJuego(), "no game");
+}
+
+TEST(RutasDeWindows, AreOnTheNearestDrive)
+{
+    const std::vector<host::Drive> unidades { { u'C', u"/w/drive_c"_s }, { u'Z', u"/"_s } };
+    const auto ruta = [&](const QString &enDisco) { return launch::RutaDeWindows(enDisco, unidades); };
+    EXPECT_EQ(ruta(u"/w/drive_c/a b/x.exe"_s), u"C:\\a b\\x.exe"_s);
+    EXPECT_EQ(ruta(u"/w/drive_c"_s), u"C:\\"_s);
+    EXPECT_EQ(ruta(u"/w/drive_cd/x"_s), u"Z:\\w\\drive_cd\\x"_s);
+    EXPECT_EQ(ruta(u"/roms/"_s), u"Z:\\roms\\"_s);
+    EXPECT_EQ(ruta(u"/w/../roms/./x"_s), u"Z:\\roms\\x"_s);
+    EXPECT_EQ(ruta(u"mario.nes"_s), u"mario.nes"_s);
+    EXPECT_EQ(ruta(u"/a:b/x"_s), u"/a:b/x"_s) << "Windows has no such name";
+    EXPECT_EQ(ruta(u"/a\\b"_s), u"/a\\b"_s);
+    EXPECT_EQ(launch::RutaDeWindows(u"/x"_s, { { u'C', u"/w"_s } }), u"/x"_s);
+}
+
+TEST(Codigo437, HasTheLettersOfItsPageAndNoOthers)
+{
+    EXPECT_EQ(launch::EnCodigo437(u"ñÑáü~ a"_s), QByteArray("\xA4\xA5\xA0\x81~ a"));
+    EXPECT_EQ(launch::EnCodigo437(u"Ç\u00A0■"_s), QByteArray("\x80\xFF\xFE"));
+    EXPECT_EQ(launch::EnCodigo437(QString()), QByteArray());
+    for (const QString &otro : { u"Ã"_s, u"\n"_s, u"\u007f"_s, u"\u0000"_s, u"\uF7A4"_s })
+        EXPECT_EQ(launch::EnCodigo437(otro), std::nullopt);
+}
