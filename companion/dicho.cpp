@@ -1,5 +1,6 @@
 #include "companion/dicho.h"
 
+#include "companion/otrosistema.h"
 #include "companion/pantalla.h"
 
 #include "host/paths.h"
@@ -24,6 +25,9 @@ QString impedimento(const Sesion &sesion, const launch::Ensayo &ensayo)
     const QStringList argumentos = ensayo.orden->Argumentos();
     if (argumentos.isEmpty())
         return sesion.palabras.Zbo_SinPrograma;
+    const launch::Encargo &encargo = ensayo.encargo;
+    if (encargo.corredor != launch::Corredor::Ninguno)
+        return launch::TextoDe(encargo.traba, encargo.corredor, sesion.M.Palabras);
     try {
         host::findProgram(argumentos.first());
         return {};
@@ -52,6 +56,7 @@ QJsonObject enJson(const Pedida &pedida, const launch::Ensayo &ensayo, const QSt
         objeto[u"problem"_s] = motivo;
     if (ensayo.orden) {
         objeto[u"arguments"_s] = QJsonArray::fromStringList(ensayo.orden->Argumentos());
+        AnadeCorredor(objeto, ensayo.encargo);
         objeto[u"text"_s] = ensayo.orden->EnTexto();
         objeto[u"directory"_s] = ensayo.directorio;
         objeto[u"debug"_s] = ensayo.enDepuracion;
@@ -80,7 +85,7 @@ void cuenta(const Sesion &sesion, const launch::Ensayo &ensayo, const QString &m
 {
     const Palabras &palabras = sesion.palabras;
     if (ensayo.orden) {
-        const QStringList argumentos = ensayo.orden->Argumentos();
+        const QStringList argumentos = ArgumentosParaLaConsola(ensayo.encargo);
         if (sesion.Tiene(u"lines"_s))
             return sesion.Escribe(argumentos);
         if (sesion.Tiene(u"shell"_s))
@@ -88,6 +93,7 @@ void cuenta(const Sesion &sesion, const launch::Ensayo &ensayo, const QString &m
         sesion.Escribe(palabras.Zbo_LaOrden.arg(launch::EnShell(argumentos)));
         sesion.Escribe(palabras.Zbo_EnDir.arg(ensayo.directorio));
         sesion.Escribe(palabras.Zbo_ElTexto.arg(ensayo.orden->EnTexto()));
+        sesion.Escribe(DichoDe(sesion, ensayo.encargo));
     }
     if (ensayo.zip)
         cuentaZip(sesion, *ensayo.zip);

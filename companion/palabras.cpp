@@ -75,7 +75,6 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_NoHayEXE", &P::Zbo_NoHayEXE },
         { u"Zbo_Parecido", &P::Zbo_Parecido },
         { u"Zbo_SinPermiso", &P::Zbo_SinPermiso },
-        { u"Zbo_DeDOS", &P::Zbo_DeDOS },
         { u"Zbo_OtraMaquina", &P::Zbo_OtraMaquina },
         { u"Zbo_NoEsPrograma", &P::Zbo_NoEsPrograma },
         { u"Zbo_SinROMs", &P::Zbo_SinROMs },
@@ -132,6 +131,10 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_OpTo", &P::Zbo_OpTo },
         { u"Zbo_NoExporta", &P::Zbo_NoExporta },
         { u"Zbo_Escrito", &P::Zbo_Escrito },
+        { u"Zbo_NoUnidad", &P::Zbo_NoUnidad },
+        { u"Zbo_SinSitio", &P::Zbo_SinSitio },
+        { u"Zbo_CorreEn", &P::Zbo_CorreEn },
+        { u"Zbo_LineaDOS", &P::Zbo_LineaDOS },
     };
     return claves;
 }

@@ -97,8 +97,6 @@ struct Palabras {
     QString Zbo_NoHayEXE = QStringLiteral("There is no program %1; correct its path in the configuration.");
     QString Zbo_Parecido = QStringLiteral("Perhaps this one is meant: %1");
     QString Zbo_SinPermiso = QStringLiteral("The program %1 can't be run: it lacks the right to (chmod +x).");
-    QString Zbo_DeDOS =
-        QStringLiteral("The program %1 is one for DOS or Windows; it needs an emulator of its own.");
     QString Zbo_OtraMaquina = QStringLiteral("The program %1 is for another processor.");
     QString Zbo_NoEsPrograma = QStringLiteral("The file %1 is no program that this machine knows.");
     QString Zbo_SinROMs = QStringLiteral("The machine %1 of MAME lacks ROMs of its own: mame -verifyroms %1");
@@ -178,6 +176,12 @@ struct Palabras {
     QString Zbo_OpTo = QStringLiteral("the file that --write makes; without it the answer is shown");
     QString Zbo_NoExporta = QStringLiteral("left out, as its name can't stand in such a file");
     QString Zbo_Escrito = QStringLiteral("Written: %1");
+
+    // Programs for other systems.
+    QString Zbo_NoUnidad = QStringLiteral("There is no drive %1 for %2: name its place in Zembro.uni.");
+    QString Zbo_SinSitio = QStringLiteral("The drive %1 leads to %2, which is not there.");
+    QString Zbo_CorreEn = QStringLiteral("A program for %1, which runs in %2.");
+    QString Zbo_LineaDOS = QStringLiteral("DOS gets: %1");
 };
 
 struct ClaveDePalabra {

@@ -1,6 +1,7 @@
 #include "companion/revisa.h"
 
 #include "companion/diferencia.h"
+#include "companion/otrosistema.h"
 #include "companion/revision.h"
 
 #include "host/paths.h"
@@ -96,10 +97,14 @@ int revisaTodo(Sesion &sesion)
     QStringList lineas;
     for (const Pareja &pareja : parejas) {
         const Cuenta cuenta = RevisaPareja(sesion, pareja, revision);
-        cuentas += enJson(pareja, cuenta);
+        const launch::Encargo encargo = EncargoDe(sesion.M, pareja);
+        QJsonObject contado = enJson(pareja, cuenta);
+        AnadeCorredor(contado, encargo);
+        cuentas += contado;
         lineas += sesion.palabras.Zbo_Cuenta.arg(pareja.nombreSistema, pareja.nombreEmulador,
             QString::number(cuenta.listados), QString::number(cuenta.otraExtension + cuenta.otroTipo),
             QString::number(cuenta.filtrados), QString::number(cuenta.sinCaptura));
+        lineas += DichoDe(sesion, encargo);
     }
     RevisaCapturas(sesion, parejas, revision);
     if (sesion.EnJson()) {

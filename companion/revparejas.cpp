@@ -2,6 +2,7 @@
 #include "companion/revision.h"
 
 #include "companion/eleccion.h"
+#include "companion/otrosistema.h"
 
 #include "core/catalogo.h"
 #include "core/clasedeprograma.h"
@@ -85,6 +86,8 @@ void RevisorDePareja::Programa()
             halla(u"similar-program"_s, m_palabras.Zbo_Parecido.arg(otro), exe);
         return;
     }
+    if (EncargoDe(M, m_pareja).corredor != launch::Corredor::Ninguno)
+        return;
     try {
         host::findProgram(programa.ExeCorto.enDisco);
     } catch (const host::Failure &) {
@@ -92,9 +95,7 @@ void RevisorDePareja::Programa()
     }
     using core::ClaseDePrograma;
     const ClaseDePrograma clase = core::ClaseDe(programa.ExeCorto.enDisco);
-    if (clase == ClaseDePrograma::DOS || clase == ClaseDePrograma::Windows)
-        halla(u"foreign-program"_s, m_palabras.Zbo_DeDOS.arg(exe), exe);
-    else if (clase == ClaseDePrograma::OtraMaquina)
+    if (clase == ClaseDePrograma::OtraMaquina)
         halla(u"foreign-program"_s, m_palabras.Zbo_OtraMaquina.arg(exe), exe);
     else if (clase == ClaseDePrograma::Desconocida)
         halla(u"foreign-program"_s, m_palabras.Zbo_NoEsPrograma.arg(exe), exe);
@@ -251,6 +252,7 @@ Cuenta RevisaPareja(Sesion &sesion, const Pareja &pareja, Revision &revision)
 {
     RevisorDePareja revisor(sesion, pareja, revision);
     revisor.Programa();
+    RevisaOtroSistema(sesion, pareja, revision);
     revisor.Lista();
     return revisor.cuenta;
 }

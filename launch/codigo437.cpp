@@ -28,4 +28,14 @@ std::optional<QByteArray> EnCodigo437(const QString &texto)
     return bytes;
 }
 
+QString DeCodigo437(const QByteArray &bytes)
+{
+    QString texto;
+    for (const char byte : bytes) {
+        const auto codigo = static_cast<unsigned char>(byte);
+        texto += codigo < PrimeraAlta ? QChar(codigo) : Altas[codigo - PrimeraAlta];
+    }
+    return texto;
+}
+
 } // namespace launch

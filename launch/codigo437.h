@@ -12,4 +12,7 @@ namespace launch {
 // character that the page lacks, or a control character.
 std::optional<QByteArray> EnCodigo437(const QString &texto);
 
+// Back again.
+QString DeCodigo437(const QByteArray &bytes);
+
 } // namespace launch

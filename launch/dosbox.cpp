@@ -34,12 +34,6 @@ bool seDiceEnLaConfiguracion(const QByteArray &lugar)
     });
 }
 
-// A percent sign names a variable, unless it is doubled.
-QByteArray comoLinea(QByteArray linea)
-{
-    return linea.replace('%', "%%") + "\r\n";
-}
-
 // With several drives for CDs DOSBox wants their letters in a row.
 std::vector<bool> comoCD(const std::vector<UnidadesDOS::Montaje> &montajes)
 {
@@ -51,6 +45,28 @@ std::vector<bool> comoCD(const std::vector<UnidadesDOS::Montaje> &montajes)
             siguiente = static_cast<char>(montaje.letra + 1);
     }
     return cd;
+}
+
+// What the shell of DOS is told, from the drives on.
+QByteArrayList lineas(const Encargo &encargo)
+{
+    QByteArrayList dichas;
+    const std::vector<bool> cd = comoCD(encargo.montajes);
+    for (std::size_t i = 0; i < encargo.montajes.size(); ++i) {
+        const UnidadesDOS::Montaje &montaje = encargo.montajes[i];
+        dichas += QByteArray("mount ") + montaje.letra + " \"" + montaje.lugar + '"'
+            + (cd[i] ? " -t cdrom" : "") + " >nul";
+    }
+    const qsizetype corte = encargo.programaDOS.lastIndexOf('\\');
+    const bool lotes = encargo.programaDOS.endsWith(".BAT");
+    dichas += encargo.programaDOS.first(2);
+    dichas += "cd " + encargo.programaDOS.sliced(2, std::max<qsizetype>(corte - 2, 1));
+    dichas += (lotes ? "call " : "") + encargo.programaDOS + encargo.colaDOS;
+    dichas += "exit";
+    // A percent sign names a variable, unless it is doubled.
+    for (QByteArray &linea : dichas)
+        linea.replace('%', "%%");
+    return dichas;
 }
 
 void vacia(const QString &ruta)
@@ -100,20 +116,20 @@ bool escribe(const QString &ruta, const QByteArray &nombre, const QByteArray &by
 QByteArray ConfiguracionDOS(const Encargo &encargo)
 {
     QByteArray texto = "[autoexec]\r\n@echo off\r\n";
-    const std::vector<bool> cd = comoCD(encargo.montajes);
-    for (std::size_t i = 0; i < encargo.montajes.size(); ++i) {
-        const UnidadesDOS::Montaje &montaje = encargo.montajes[i];
-        // The user's own configuration may have given the letter to another place.
-        texto += comoLinea(QByteArray("mount -u ") + montaje.letra + " >nul");
-        texto += comoLinea(QByteArray("mount ") + montaje.letra + " \"" + montaje.lugar + '"'
-            + (cd[i] ? " -t cdrom" : "") + " >nul");
-    }
-    const qsizetype corte = encargo.programaDOS.lastIndexOf('\\');
-    texto += comoLinea(encargo.programaDOS.first(2));
-    texto += comoLinea("cd " + encargo.programaDOS.sliced(2, std::max<qsizetype>(corte - 2, 1)));
-    const bool lotes = encargo.programaDOS.endsWith(".BAT");
-    texto += comoLinea((lotes ? "call " : "") + encargo.programaDOS + encargo.colaDOS);
-    return texto + "exit\r\n";
+    // The user's own configuration may have given the letters to other places.
+    for (const UnidadesDOS::Montaje &montaje : encargo.montajes)
+        texto += QByteArray("mount -u ") + montaje.letra + " >nul\r\n";
+    for (const QByteArray &linea : lineas(encargo))
+        texto += linea + "\r\n";
+    return texto;
+}
+
+QStringList ArgumentosDeDOSBox(const Encargo &encargo)
+{
+    QStringList argumentos = encargo.argumentos;
+    for (const QByteArray &linea : lineas(encargo))
+        argumentos += { u"-c"_s, host::nameFromDisk(linea) };
+    return argumentos;
 }
 
 CarpetaDOS::CarpetaDOS(Encargo encargo)

@@ -15,6 +15,9 @@ namespace launch {
 // The places are said as they are; none of them may hold a double quote or a control character.
 QByteArray ConfiguracionDOS(const Encargo &encargo);
 
+// What starts the same run without a file. Places that can't be said there are said as they are.
+QStringList ArgumentosDeDOSBox(const Encargo &encargo);
+
 // The files of one run, in a directory of their own among the temporary ones; they go with it.
 class CarpetaDOS {
 public:

@@ -72,14 +72,10 @@ TEST_F(Check, AMistypedExecutableIsSaid_WithTheOneThatIsMeant)
         << dicho().toStdString();
 }
 
-TEST_F(Check, AProgramThatMayNotRunOrIsOfAnotherSystemIsSaid)
+TEST_F(Check, AProgramThatMayNotRunIsSaid)
 {
     QFile::setPermissions(Ruta(u"emu/uno.sh"_s), QFile::ReadOwner | QFile::WriteOwner);
     EXPECT_THAT(clases({ u"check"_s, u"Sis"_s, u"Uno"_s }), ElementsAre(u"not-executable"_s));
-    Pon(u"emu/uno.sh"_s, "MZ a program");
-    QFile::setPermissions(Ruta(u"emu/uno.sh"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    EXPECT_THAT(clases({ u"check"_s, u"Sis"_s, u"Uno"_s }), ElementsAre(u"foreign-program"_s));
-    EXPECT_TRUE(dicho().contains("DOS or Windows"));
 }
 
 TEST_F(Check, ABlockWithoutItsClosingLineIsSaid_WithItsLine)

@@ -129,10 +129,9 @@ TEST_F(EncargoTest, DosBoxGetsAConfigurationThatGoesWithTheRun)
     EXPECT_EQ(argumentos[1], "-conf");
     EXPECT_TRUE(argumentos[2].startsWith(place("tmp/ZB-DOS-")));
     EXPECT_THAT(Configuracion(),
-        ElementsAre("[autoexec]\r", "@echo off\r", "mount -u C >nul\r",
-            "mount C \"" + place("emu") + "\" >nul\r", "mount -u D >nul\r",
-            "mount D \"" + place("roms") + "\" >nul\r", "C:\r", "cd \\\r", "C:\\NES.EXE  D:\\MARIO.NES\r",
-            "exit\r", ""));
+        ElementsAre("[autoexec]\r", "@echo off\r", "mount -u C >nul\r", "mount -u D >nul\r",
+            "mount C \"" + place("emu") + "\" >nul\r", "mount D \"" + place("roms") + "\" >nul\r", "C:\r",
+            "cd \\\r", "C:\\NES.EXE  D:\\MARIO.NES\r", "exit\r", ""));
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
 }
 
@@ -263,11 +262,21 @@ TEST(RutasDeWindows, AreOnTheNearestDrive)
     EXPECT_EQ(launch::RutaDeWindows(u"/x"_s, { { u'C', u"/w"_s } }), u"/x"_s);
 }
 
+TEST_F(EncargoTest, TheSameRunCanBeToldWithoutAFile)
+{
+    Pon(ParaDOS);
+    PonHerramienta("dosbox");
+    EXPECT_EQ(launch::ArgumentosDeDOSBox(De(u" -x 5%"_s)),
+        QStringList({ path(u"bin/dosbox"_s), u"-c"_s, u"mount C \""_s + path(u"emu"_s) + u"\" >nul"_s,
+            u"-c"_s, u"C:"_s, u"-c"_s, u"cd \\"_s, u"-c"_s, u"C:\\NES.EXE -x 5%%"_s, u"-c"_s, u"exit"_s }));
+}
+
 TEST(Codigo437, HasTheLettersOfItsPageAndNoOthers)
 {
     EXPECT_EQ(launch::EnCodigo437(u"ñÑáü~ a"_s), QByteArray("\xA4\xA5\xA0\x81~ a"));
     EXPECT_EQ(launch::EnCodigo437(u"Ç\u00A0■"_s), QByteArray("\x80\xFF\xFE"));
     EXPECT_EQ(launch::EnCodigo437(QString()), QByteArray());
+    EXPECT_EQ(launch::DeCodigo437("\xA4\xA5\xA0\x81~ a\xFF"), u"ñÑáü~ a\u00A0"_s);
     for (const QString &otro : { u"Ã"_s, u"\n"_s, u"\u007f"_s, u"\u0000"_s, u"\uF7A4"_s })
         EXPECT_EQ(launch::EnCodigo437(otro), std::nullopt);
 }

@@ -1,0 +1,28 @@
+// What belongs to pairs whose program is for another system: what runs it, and on which drives.
+#pragma once
+
+#include "companion/revision.h"
+
+#include "launch/encargo.h"
+
+#include <QJsonObject>
+#include <QStringList>
+
+namespace companion {
+
+// What would be started for a command, ready for a shell: for DOSBox without a file of its own.
+QStringList ArgumentosParaLaConsola(const launch::Encargo &encargo);
+
+// Lines about what runs it; none for a program of this system.
+QStringList DichoDe(const Sesion &sesion, const launch::Encargo &encargo);
+
+// The same, put into a command's answer.
+void AnadeCorredor(QJsonObject &objeto, const launch::Encargo &encargo);
+
+// What would run the program of a pair, by a command without a game.
+launch::Encargo EncargoDe(const core::Modulo &M, const Pareja &pareja);
+
+// Drives that the pair's paths name and that aren't there, and a missing DOSBox or Wine.
+void RevisaOtroSistema(Sesion &sesion, const Pareja &pareja, Revision &revision);
+
+} // namespace companion
