@@ -8,7 +8,7 @@ namespace launch {
 
 class RitmoDeBusqueda {
 public:
-    static constexpr std::chrono::milliseconds Pausa { 250 };
+    static constexpr std::chrono::milliseconds Pausa { 500 };
 
     // True if a search is due: the first, one a pause or more after the last, and any that has to be.
     bool Toca(std::chrono::steady_clock::time_point ahora, bool siempre)

@@ -33,19 +33,19 @@ protected:
     void espera() { launch::EsperarEmulador(M, pantalla, orden()); }
 };
 
-TEST(RitmoDeBusqueda, WindowsAreSearchedFourTimesASecondAtMost_AndWheneverTheyHaveToBe)
+TEST(RitmoDeBusqueda, WindowsAreSearchedTwiceASecondAtMost_AndWheneverTheyHaveToBe)
 {
     using namespace std::chrono_literals;
     const auto inicio = std::chrono::steady_clock::now();
     launch::RitmoDeBusqueda ritmo;
     EXPECT_TRUE(ritmo.Toca(inicio, false));
     EXPECT_FALSE(ritmo.Toca(inicio + 1ms, false));
-    EXPECT_FALSE(ritmo.Toca(inicio + 249ms, false));
-    EXPECT_TRUE(ritmo.Toca(inicio + 250ms, false));
-    EXPECT_FALSE(ritmo.Toca(inicio + 300ms, false));
-    EXPECT_TRUE(ritmo.Toca(inicio + 300ms, true));
-    EXPECT_FALSE(ritmo.Toca(inicio + 500ms, false));
-    EXPECT_TRUE(ritmo.Toca(inicio + 550ms, false));
+    EXPECT_FALSE(ritmo.Toca(inicio + 499ms, false));
+    EXPECT_TRUE(ritmo.Toca(inicio + 500ms, false));
+    EXPECT_FALSE(ritmo.Toca(inicio + 600ms, false));
+    EXPECT_TRUE(ritmo.Toca(inicio + 600ms, true));
+    EXPECT_FALSE(ritmo.Toca(inicio + 1000ms, false));
+    EXPECT_TRUE(ritmo.Toca(inicio + 1100ms, false));
 }
 
 TEST_F(EsperaTest, EachPassYieldsThenTurnsTheLabelBlackThenFillsTheInformation)
@@ -73,7 +73,7 @@ TEST_F(EsperaTest, AnEmptyListShowsItsWordsBeforeTheInformation)
         QStringList({ u"InfoEnNegro"_s, u"MuestraNingunaROM"_s, u"LLena_INFO"_s }));
 }
 
-TEST_F(EsperaTest, APassWaitsForAQuarterOfASecondAtMost_TheLastOneNotAtAll)
+TEST_F(EsperaTest, APassWaitsForHalfASecondAtMost_TheLastOneNotAtAll)
 {
     HazDuranteElJuego("while [ ! -e \"$OUT/go\" ]; do sleep 0.01; done\n");
     pantalla.enLlamada = [this](const QString &llamada) {
@@ -85,7 +85,7 @@ TEST_F(EsperaTest, APassWaitsForAQuarterOfASecondAtMost_TheLastOneNotAtAll)
     EXPECT_EQ(cesiones.takeLast(), u"Cede 0"_s);
     EXPECT_GE(cesiones.size(), 2);
     for (const QString &cesion : cesiones)
-        EXPECT_EQ(cesion, u"Cede 250"_s);
+        EXPECT_EQ(cesion, u"Cede 500"_s);
 }
 
 TEST_F(EsperaTest, TheEndOfTheProcessWakesTheYieldByItsDescriptor)
