@@ -44,6 +44,14 @@ int ayuda(Sesion &sesion)
     const Orden *orden = OrdenDe(nombre);
     if (!nombre.isEmpty() && !orden)
         return sesion.Falla(sesion.palabras.Zbo_NoOrden.arg(nombre));
+    DaAyuda(sesion, orden);
+    return Bien;
+}
+
+} // namespace
+
+void DaAyuda(const Sesion &sesion, const Orden *orden)
+{
     QJsonArray ordenes;
     for (const Orden *una : Ordenes()) {
         if (!orden || una == orden)
@@ -53,10 +61,7 @@ int ayuda(Sesion &sesion)
         sesion.Json({ { u"commands"_s, ordenes } });
     else
         sesion.Escribe(orden ? AyudaDe(*orden, sesion.palabras) : AyudaDeTodo(sesion.palabras));
-    return Bien;
 }
-
-} // namespace
 
 const Orden &OrdenAyuda()
 {

@@ -84,7 +84,8 @@ Coleccion coleccionDe(Sesion &sesion, const std::vector<Pareja> &parejas)
             for (int i = 0; i < sesion.M.Nota_Clave.tamaño() && !sesion.M.Nota_Clave(i).isEmpty(); ++i)
                 coleccion.textos.insert(sesion.M.Nota_Texto(i));
         } catch (const host::Failure &fallo) {
-            sesion.Avisa(u"[%1 / %2]  %3"_s.arg(pareja.nombreSistema, pareja.nombreEmulador, TextoDe(fallo)));
+            sesion.Avisa(u"[%1 / %2]  %3"_s.arg(
+                pareja.nombreSistema, pareja.nombreEmulador, TextoDe(fallo, sesion.palabras)));
         }
     }
     return coleccion;

@@ -1,10 +1,10 @@
 #include "companion/dicho.h"
 
 #include "companion/otrosistema.h"
+#include "companion/impedimento.h"
 #include "companion/pantalla.h"
 
 #include "host/paths.h"
-#include "host/process.h"
 
 #include "launch/ensayo.h"
 #include "launch/shell.h"
@@ -28,12 +28,11 @@ QString impedimento(const Sesion &sesion, const launch::Ensayo &ensayo)
     const launch::Encargo &encargo = ensayo.encargo;
     if (encargo.corredor != launch::Corredor::Ninguno)
         return launch::TextoDe(encargo.traba, encargo.corredor, sesion.M.Palabras);
-    try {
-        host::findProgram(argumentos.first());
-        return {};
-    } catch (const host::Failure &fallo) {
-        return TextoDe(fallo);
-    }
+    // A bare name is the executable's in its own directory, where it will be started.
+    const QString &programa = argumentos.first();
+    const QString ruta = programa.contains(u'/') ? programa : ensayo.directorio + u'/' + programa;
+    const std::optional<Impedimento> impedimento = ImpedimentoDe(ruta, sesion.palabras);
+    return impedimento ? impedimento->texto : QString();
 }
 
 QJsonObject enJson(const launch::Ensayo::Zip &zip)

@@ -19,11 +19,16 @@ struct Paso {
     QString linea;
 };
 
-std::vector<QString> lineasDe(const QString &texto)
+// Lines that differ in their ends alone are shown with them, those of the rest aren't.
+std::vector<QString> lineasDe(const QString &texto, bool conFines)
 {
     std::vector<QString> lineas;
-    for (const core::LineaConFin &linea : core::EnLineas(texto))
-        lineas.push_back(linea.linea.toString());
+    for (const core::LineaConFin &linea : core::EnLineas(texto)) {
+        const QString fin = linea.fin.isEmpty() ? u"  \\ No newline at end of file"_s
+            : linea.fin.size() > 1              ? u"\r"_s
+                                                : QString();
+        lineas.push_back(linea.linea.toString() + (conFines ? fin : QString()));
+    }
     return lineas;
 }
 
@@ -86,7 +91,8 @@ QString cabecera(size_t antes, size_t total, size_t despues, size_t totalDespues
 
 QStringList Diferencia(const QString &fichero, const QString &antes, const QString &despues)
 {
-    const std::vector<Paso> pasos = pasosDe(lineasDe(antes), lineasDe(despues));
+    const bool soloFines = antes != despues && lineasDe(antes, false) == lineasDe(despues, false);
+    const std::vector<Paso> pasos = pasosDe(lineasDe(antes, soloFines), lineasDe(despues, soloFines));
     std::vector<bool> visibles(pasos.size());
     for (size_t i = 0; i < pasos.size(); ++i) {
         if (pasos[i].signo == ' ')

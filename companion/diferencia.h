@@ -6,7 +6,8 @@
 
 namespace companion {
 
-// Empty where nothing changes. Ends of lines aren't shown, nor compared.
+// Empty where nothing changes. Ends of lines are neither shown nor compared, unless they are all that
+// changes: then a CR stands at the end of each line that has one.
 QStringList Diferencia(const QString &fichero, const QString &antes, const QString &despues);
 
 } // namespace companion

@@ -1,5 +1,8 @@
 #include "companion/eleccion.h"
 
+#include "companion/imprimible.h"
+
+#include "host/encoding.h"
 #include "host/letters.h"
 
 #include <QSet>
@@ -11,11 +14,37 @@
 
 namespace companion {
 
+namespace {
+
+// What stands for bytes that are no text, and what a terminal would obey, comes back from an answer
+// otherwise.
+bool seMuestraAsi(const QString &nombre, const QString &texto)
+{
+    return Imprimible(nombre) == texto || host::nameFromDisk(nombre.toUtf8()) == texto;
+}
+
+} // namespace
+
+qsizetype PosicionDeNombre(const QStringList &nombres, const QString &texto)
+{
+    qsizetype posicion = nombres.indexOf(texto);
+    for (qsizetype i = 0; posicion < 0 && i < nombres.size(); ++i) {
+        if (seMuestraAsi(nombres[i], texto))
+            posicion = i;
+    }
+    for (qsizetype i = 0; posicion < 0 && i < nombres.size(); ++i) {
+        if (host::sameName(nombres[i], texto))
+            posicion = i;
+    }
+    return posicion;
+}
+
 QList<qsizetype> Candidatos(const QStringList &nombres, const QString &texto)
 {
     const QString mayus = host::upper(texto);
     const std::function<bool(const QString &)> pruebas[] = {
         [&](const QString &nombre) { return nombre == texto; },
+        [&](const QString &nombre) { return seMuestraAsi(nombre, texto); },
         [&](const QString &nombre) { return host::upper(nombre) == mayus; },
         [&](const QString &nombre) { return host::upper(nombre).startsWith(mayus); },
         [&](const QString &nombre) { return host::upper(nombre).contains(mayus); },

@@ -35,8 +35,9 @@ Entrega entregaDe(Sesion &sesion, const Pareja &pareja, const Forma &forma)
         {} };
     const QString directorio = host::withClosingSeparator(DirectorioDeJuegos(sesion.M, pareja));
     const Listado listado = Lista(sesion, pareja);
+    const LectorDeJuegos lector(sesion.M, pareja);
     for (const QString &entrada : listado.recuento.entradas) {
-        const Juego juego = JuegoDe(sesion.M, pareja, entrada);
+        const Juego juego = lector.De(entrada);
         const QString delante = !forma.unDirectorio ? directorio : forma.pegasus ? QString() : u"./"_s;
         entrega.juegos.push_back(
             { juego.fichero.isEmpty() ? QString() : delante + juego.fichero, entrada, juego.captura });
@@ -55,7 +56,8 @@ std::vector<Entrega> entregasDe(Sesion &sesion, const std::vector<Pareja> &parej
             entregas.push_back(entregaDe(sesion, pareja, { sesion.Tiene(u"pegasus"_s), unDirectorio }));
         } catch (const host::Failure &fallo) {
             todas = false;
-            sesion.Avisa(u"[%1 / %2]  %3"_s.arg(pareja.nombreSistema, pareja.nombreEmulador, TextoDe(fallo)));
+            sesion.Avisa(u"[%1 / %2]  %3"_s.arg(
+                pareja.nombreSistema, pareja.nombreEmulador, TextoDe(fallo, sesion.palabras)));
         }
     }
     return entregas;

@@ -71,7 +71,7 @@ int hazJugada(Sesion &sesion)
     if (partida.argumentos.isEmpty() && partida.fallo.isEmpty())
         partida.fallo = sesion.palabras.Zbo_NadaSeLanza;
     if (sesion.EnJson()) {
-        sesion.Json(PartidaEnJson(partida));
+        sesion.Json(PartidaEnJson(partida, sesion.palabras));
     } else if (!AcaboBien(partida)) {
         for (const QString &linea : CuentaPartida(partida, sesion.palabras))
             sesion.Avisa(linea);

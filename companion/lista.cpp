@@ -35,8 +35,9 @@ int listaUna(Sesion &sesion, const Pareja &pareja, QJsonArray &parejas)
         if (!json)
             sesion.Escribe(u"[%1 / %2]  %3"_s.arg(
                 pareja.nombreSistema, pareja.nombreEmulador, listado.resumen.trimmed()));
+        const LectorDeJuegos lector(sesion.M, pareja);
         for (const QString &entrada : listado.recuento.entradas) {
-            const Juego juego = JuegoDe(sesion.M, pareja, entrada);
+            const Juego juego = lector.De(entrada);
             if (json)
                 juegos += enJson(juego);
             else
@@ -44,7 +45,7 @@ int listaUna(Sesion &sesion, const Pareja &pareja, QJsonArray &parejas)
         }
     } catch (const host::Failure &fallo) {
         estado = Hallazgos;
-        const QString motivo = TextoDe(fallo);
+        const QString motivo = TextoDe(fallo, sesion.palabras);
         objeto[u"problem"_s] = motivo;
         if (!json)
             sesion.Escribe(u"[%1 / %2]  %3"_s.arg(pareja.nombreSistema, pareja.nombreEmulador, motivo));

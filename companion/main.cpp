@@ -22,6 +22,6 @@ int main(int argc, char **argv)
             std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), fichero);
         };
     };
-    const int estado = companion::Zembro(argumentos, { en(stdout), en(stderr) });
-    return std::fflush(stdout) == 0 ? estado : companion::NoPudo;
+    const auto queda = [] { return std::fflush(stdout) == 0 && std::ferror(stdout) == 0; };
+    return companion::Zembro(argumentos, { en(stdout), en(stderr), queda });
 }

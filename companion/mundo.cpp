@@ -60,17 +60,6 @@ void quedaUno(const Sesion &sesion, std::vector<Pareja> &parejas, QString Pareja
     std::erase_if(parejas, [&](const Pareja &pareja) { return !suya || pareja.*nombre != elegido; });
 }
 
-QString capturaDe(const core::Modulo &M, const Pareja &pareja, const QString &entrada)
-{
-    QString ruta;
-    siSePuede([&] {
-        const QStringList rutas =
-            core::CapturasDe(M, entrada, TipoDe(M, pareja), DirectorioDeCapturas(M, pareja));
-        ruta = rutas.isEmpty() ? QString() : rutas.last();
-    });
-    return ruta.isEmpty() ? QString() : host::trueSpelling(ruta);
-}
-
 } // namespace
 
 void LeeMundo(Sesion &sesion)
@@ -149,24 +138,73 @@ Listado Lista(Sesion &sesion, const Pareja &pareja)
     return listado;
 }
 
-Juego JuegoDe(const core::Modulo &M, const Pareja &pareja, const QString &entrada)
+LectorDeJuegos::LectorDeJuegos(const core::Modulo &modulo, const Pareja &pareja)
+    : M(modulo)
+    , m_tipo(TipoDe(modulo, pareja))
+    , m_directorio(DirectorioDeJuegos(modulo, pareja))
+    , m_notas(modulo)
+    , m_largos(m_directorio)
+    , m_nombres(m_directorio)
 {
-    const int tipo = TipoDe(M, pareja);
-    const QString directorio = DirectorioDeJuegos(M, pareja);
-    Juego juego { entrada, false, {}, {}, {}, capturaDe(M, pareja, entrada) };
-    siSePuede([&] { juego.descrito = core::NotaConTexto(M, entrada) >= 0; });
     siSePuede([&] {
-        const QString ruta = directorio + core::FicheroDeEntrada(M, tipo, entrada);
-        const QString enDisco = host::trueSpelling(ruta);
-        juego.fichero = enDisco.sliced(host::lastSeparator(enDisco) + 1);
-        if (!core::UnDirectorioPorJuego(tipo))
-            juego.bytes = host::fileLength(ruta);
+        m_deCapturas = DirectorioDeCapturas(M, pareja);
+        m_capturas.emplace(*m_deCapturas);
     });
+}
+
+QString LectorDeJuegos::RutaDe(const QString &entrada) const
+{
+    return m_directorio + core::FicheroDeEntrada(M, m_tipo, entrada, m_notas.Primera(entrada));
+}
+
+QString LectorDeJuegos::FicheroDe(const QString &entrada) const
+{
+    // A launch looks for it in lower case, so that of names that differ in case alone one is played.
+    const QString ruta = RutaDe(entrada);
+    QString enDisco = m_nombres.trueSpelling(m_directorio + host::lower(ruta.sliced(m_directorio.size())));
+    if (enDisco.isEmpty())
+        enDisco = m_nombres.trueSpelling(ruta);
+    // Found paths are cut at the slash alone: a backslash in one belongs to a name.
+    return enDisco.sliced(enDisco.lastIndexOf(u'/') + 1);
+}
+
+// It shows only where each of them can be read.
+QString LectorDeJuegos::capturaDe(const QString &entrada) const
+{
+    QString ruta;
+    if (!m_deCapturas)
+        return ruta;
     siSePuede([&] {
-        const host::LengthsIn largos(directorio);
+        for (const QString &suya : core::CapturasDe(m_notas, entrada, m_tipo, *m_deCapturas)) {
+            ruta = m_capturas->trueSpelling(suya);
+            if (ruta.isEmpty())
+                return;
+        }
+    });
+    return ruta;
+}
+
+QString LectorDeJuegos::CapturaBuscada(const QString &entrada) const
+{
+    QString ruta;
+    siSePuede([&] {
+        const QStringList rutas =
+            core::CapturasDe(m_notas, entrada, m_tipo, m_deCapturas.value_or(QString()));
+        ruta = rutas.isEmpty() ? QString() : rutas.last();
+    });
+    return ruta;
+}
+
+Juego LectorDeJuegos::De(const QString &entrada) const
+{
+    Juego juego { entrada, m_notas.Primera(entrada) >= 0, FicheroDe(entrada), {}, {}, capturaDe(entrada) };
+    if (!core::UnDirectorioPorJuego(m_tipo))
+        siSePuede([&] { juego.bytes = m_largos(RutaDe(entrada)); });
+    siSePuede([&] {
         juego.datos = core::UltimaLineaDeInfo(
-            M, entrada, tipo, directorio, [&](const QStringList &nombres) { return largos.ofAll(nombres); },
-            [&](const QString &ruta) { return largos.lists(ruta); });
+            m_notas, entrada, m_tipo, m_directorio,
+            [&](const QStringList &nombres) { return m_largos.ofAll(nombres); },
+            [&](const QString &ruta) { return m_largos.lists(ruta); });
     });
     return juego;
 }
@@ -180,10 +218,13 @@ std::optional<QString> EntradaPedida(
         return std::nullopt;
     }
     if (Candidatos(entradas, texto).isEmpty()) {
-        for (const QString &entrada : entradas) {
-            if (host::sameName(JuegoDe(sesion.M, pareja, entrada).fichero, texto))
-                return entrada;
-        }
+        const LectorDeJuegos juegos(sesion.M, pareja);
+        QStringList ficheros;
+        for (const QString &entrada : entradas)
+            ficheros += juegos.FicheroDe(entrada);
+        const qsizetype suyo = PosicionDeNombre(ficheros, texto);
+        if (suyo >= 0)
+            return entradas[suyo];
     }
     const std::optional<qsizetype> suya = elUnico(sesion, entradas, texto, sesion.palabras.Zbo_NoJuego);
     return suya ? std::optional(entradas[*suya]) : std::nullopt;

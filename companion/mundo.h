@@ -3,7 +3,11 @@
 
 #include "companion/sesion.h"
 
+#include "core/info.h"
 #include "core/lista.h"
+
+#include "host/lengths.h"
+#include "host/namesin.h"
 
 #include <optional>
 #include <vector>
@@ -52,12 +56,37 @@ Listado Lista(Sesion &sesion, const Pareja &pareja);
 struct Juego {
     QString entrada;
     bool descrito = false;
-    QString fichero; // its name in the directory of games, as the disk spells it
+    QString fichero; // the name of the one that a launch takes, as the disk spells it
     std::optional<qint64> bytes; // of a file
     QString datos; // the line of facts
     QString captura; // the path of the one that shows; empty if there is none
 };
-Juego JuegoDe(const core::Modulo &M, const Pareja &pareja, const QString &entrada);
+
+// Tells of the games of a pair that has just been listed. For one pass: what changes on the disk meanwhile
+// isn't seen.
+class LectorDeJuegos {
+public:
+    LectorDeJuegos(const core::Modulo &M, const Pareja &pareja);
+
+    Juego De(const QString &entrada) const;
+    // The name of the file that a launch takes, as the disk spells it; empty where there is none.
+    QString FicheroDe(const QString &entrada) const;
+    // The path where its capture is looked for; empty where none is.
+    QString CapturaBuscada(const QString &entrada) const;
+
+private:
+    QString RutaDe(const QString &entrada) const;
+    QString capturaDe(const QString &entrada) const;
+
+    const core::Modulo &M;
+    const int m_tipo;
+    const QString m_directorio;
+    const core::NotasPorTexto m_notas;
+    const host::LengthsIn m_largos;
+    const host::NamesIn m_nombres;
+    std::optional<QString> m_deCapturas; // none where the pair names none
+    std::optional<host::NamesIn> m_capturas;
+};
 
 // The entry of a listed pair that a text means, in other case or cut, or by its file's name. None, told
 // already, where no one fits, or several do.

@@ -78,6 +78,7 @@ QStringList AyudaDe(const Orden &orden, const Palabras &palabras)
     Columnas opciones = deOpciones(orden.opciones, palabras);
     for (auto &fila : deOpciones(OpcionesComunes(), palabras))
         opciones.push_back(std::move(fila));
+    opciones.emplace_back(u"--"_s, palabras.Zbo_OpFin);
     return QStringList { palabras.Zbo_Uso.arg(Sinopsis(orden)), QString(), palabras.*orden.ayuda, QString(),
         palabras.Zbo_Opciones }
     + alineadas(opciones);

@@ -2,13 +2,15 @@
 // for where there is no language file.
 #pragma once
 
+#include "companion/palabrasderevision.h"
+
 #include <QString>
 
 #include <span>
 
 namespace companion {
 
-struct Palabras {
+struct Palabras : PalabrasDeRevision {
 
     // The help.
     QString Zbo_Uso = QStringLiteral("Usage: %1");
@@ -64,58 +66,6 @@ struct Palabras {
     QString Zbo_ConEstado = QStringLiteral("The emulator ended with the status %1 after %2 seconds.");
     QString Zbo_SinFinal = QStringLiteral("It still runs, or the program was ended ahead of it.");
 
-    // Checking.
-    QString Zbo_Check = QStringLiteral("checks the files, and every configured emulator");
-    QString Zbo_OpMend = QStringLiteral("shows how to repair what has one answer only");
-    QString Zbo_OpWrite = QStringLiteral("writes it, instead of showing it");
-    QString Zbo_MendTodo =
-        QStringLiteral("--mend is for the whole directory: leave SYSTEM and EMULATOR out.");
-    QString Zbo_WriteMend = QStringLiteral("Of check, --write goes with --mend alone.");
-    QString Zbo_NoLeida = QStringLiteral("No reader takes this line; correct or remove it: %1");
-    QString Zbo_Repetido = QStringLiteral("This name stands twice; the second one is never found: %1");
-    QString Zbo_ExtLarga = QStringLiteral("An extension of more than three letters fits no file: %1");
-    QString Zbo_SinCierre = QStringLiteral(
-        "The block of %1 has no closing line of an apostrophe and dashes; --mend puts it there.");
-    QString Zbo_SinMarca =
-        QStringLiteral("The line [EOF] behind the last system is missing; --mend puts it there.");
-    QString Zbo_SinApostrofo =
-        QStringLiteral("The notes of %1 have no closing apostrophe; --mend puts it there.");
-    QString Zbo_SinNotas = QStringLiteral(
-        "There is no block of notes for %1, so none of its games is listed; --mend puts one there.");
-    QString Zbo_SinSeccion =
-        QStringLiteral("The section of parameters, or its closing apostrophe, is missing.");
-    QString Zbo_Cortado =
-        QStringLiteral("This record has another number of fields than it needs; a comma cuts it: %1");
-    QString Zbo_SinFichero =
-        QStringLiteral("The note %1 has no file any more; remove it, or bring the file back.");
-    QString Zbo_MalAjuste = QStringLiteral("This setting has a value that the program doesn't take: %1");
-    QString Zbo_SinBlanco =
-        QStringLiteral("The text of %1 has lost the blank at its end, ahead of the quotation mark.");
-    QString Zbo_LineaCorta = QStringLiteral(
-        "This line is too short for a text, and the program ends at it; correct or remove it: %1");
-    QString Zbo_SinClave = QStringLiteral("The key %1 is missing.");
-    QString Zbo_NoHayEXE = QStringLiteral("There is no program %1; correct its path in the configuration.");
-    QString Zbo_Parecido = QStringLiteral("Perhaps this one is meant: %1");
-    QString Zbo_SinPermiso = QStringLiteral("The program %1 can't be run: it lacks the right to (chmod +x).");
-    QString Zbo_OtraMaquina = QStringLiteral("The program %1 is for another processor.");
-    QString Zbo_NoEsPrograma = QStringLiteral("The file %1 is no program that this machine knows.");
-    QString Zbo_SinROMs = QStringLiteral("The machine %1 of MAME lacks ROMs of its own: mame -verifyroms %1");
-    QString Zbo_SinTipo =
-        QStringLiteral("The XDI line doesn't end in a type from 0 to 3 or from 5 to 8; nothing is listed.");
-    QString Zbo_ListaCortada = QStringLiteral("The list is cut: the length of a file can't be had.");
-    QString Zbo_NoSeLista = QStringLiteral("No game can be listed: %1");
-    QString Zbo_DosVeces = QStringLiteral("%1 is listed twice, as two extensions fit its end.");
-    QString Zbo_NadaEncaja = QStringLiteral(
-        "Nothing of %1 files or directories is listed: no extension, or not the type, fits them.");
-    QString Zbo_MismaDesc = QStringLiteral("Several games have the description %1; the first one is played.");
-    QString Zbo_SinCapturas = QStringLiteral("The captures can't be read: %1");
-    QString Zbo_CapturaSola = QStringLiteral("The capture %1 fits no game.");
-    QString Zbo_CapturaMal = QStringLiteral("The capture %1 would be found as %2.");
-    QString Zbo_Cuenta = QStringLiteral(
-        "%1 / %2: %3 listed, %4 of another kind, %5 left out by the filters, %6 without a capture.");
-    QString Zbo_ParPerdidos = QStringLiteral("The parameters of %1 are never found: its name has blanks or "
-                                             "several points, so it needs a description.");
-
     // Finding emulators.
     QString Zbo_Find = QStringLiteral("finds the emulators that this machine has got since");
     QString Zbo_OpAll = QStringLiteral("also of systems without games, and every machine of MAME");
@@ -128,6 +78,33 @@ struct Palabras {
         "Nothing to add. Put games into a directory of %1, and try again; --all doesn't ask for games.");
     QString Zbo_OpCompletion =
         QStringLiteral("prints the completion for bash, zsh or fish, or the page for man");
+
+    // What fails on the disk; a name follows.
+    QString Zbo_Fallo = QStringLiteral("This failed");
+    QString Zbo_FalloValor = QStringLiteral("This can't be used as it is");
+    QString Zbo_FalloMucho = QStringLiteral("There is more than fits");
+    QString Zbo_FalloFichero = QStringLiteral("There is no such file");
+    QString Zbo_FalloDisco = QStringLiteral("The disk or the device failed");
+    QString Zbo_FalloLleno = QStringLiteral("The disk is full");
+    QString Zbo_FalloFin = QStringLiteral("The file ends too early");
+    QString Zbo_FalloDerecho = QStringLiteral("This isn't permitted");
+    QString Zbo_FalloAcceso = QStringLiteral("This can't be opened, read or written");
+    QString Zbo_FalloDir = QStringLiteral("There is no such directory");
+    QString Zbo_FalloCambio =
+        QStringLiteral("Another program has changed this file meanwhile; nothing was written");
+    QString Zbo_FalloLlave =
+        QStringLiteral("Another program keeps the directory of this file for itself; nothing was written");
+
+    // The last launch.
+    QString Zbo_NoSuyas = QStringLiteral(
+        "Nothing is kept in %1: it has to be a plain file of your own, by an absolute path, and no link.");
+    QString Zbo_FinSinSaber = QStringLiteral("The emulator ended after %1 seconds; how isn't known.");
+
+    // The answer itself.
+    QString Zbo_NoSale = QStringLiteral("The answer can't be written: %1");
+    QString Zbo_OpFin = QStringLiteral("ends the options: what follows may begin with a hyphen");
+    QString Zbo_NoSePide = QStringLiteral("Name a command; zembro help lists them.");
+    QString Zbo_SoloBytes = QStringLiteral("Only the ends of lines or the encoding differ.");
     // Bulk work.
 
     // Bulk work: what it would change, and what it changed.

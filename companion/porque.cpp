@@ -1,11 +1,11 @@
 #include "companion/porque.h"
 
+#include "companion/impedimento.h"
 #include "companion/sesion.h"
 
 #include "host/aside.h"
 #include "host/encoding.h"
-#include "host/numberedfiles.h"
-#include "host/paths.h"
+#include "host/failure.h"
 
 #include "launch/shell.h"
 
@@ -20,15 +20,19 @@ namespace companion {
 namespace {
 
 // The file that the variable names, else the one that the starters name.
-QString ficheroDeLineas()
+QByteArray ficheroDeLineas()
 {
-    const QByteArray nombrado = qgetenv(host::AsideFileVariable);
+    QByteArray nombrado = qgetenv(host::AsideFileVariable);
     if (!nombrado.isEmpty())
-        return host::nameFromDisk(nombrado);
+        return nombrado;
     const QByteArray estado = qgetenv("XDG_STATE_HOME");
     const QByteArray base = estado.isEmpty() ? qgetenv("HOME") + "/.local/state" : estado;
-    return host::nameFromDisk(base + "/zembrolix/log");
+    return base + "/zembrolix/log";
 }
+
+// What loaders and shells end with where something is missing, or may not be run.
+constexpr int EstadoSinCargar = 127;
+constexpr int EstadoSinEjecutar = 126;
 
 QString nombreDeSenal(int senal)
 {
@@ -36,18 +40,39 @@ QString nombreDeSenal(int senal)
     return nombre ? u"SIG"_s + QString::fromLatin1(nombre) : QString::number(senal);
 }
 
+// A bare name is the executable's in its own directory.
+QString programaDe(const launch::Partida &partida)
+{
+    const QString &nombre = partida.argumentos.first();
+    return nombre.contains(u'/') ? nombre : partida.directorio + u'/' + nombre;
+}
+
+// What it lacks, where its loader or its interpreter ended it.
+std::vector<Impedimento> faltasTras(const launch::Partida &partida, const Palabras &palabras)
+{
+    const int estado = partida.final.status.value_or(0);
+    if (partida.argumentos.isEmpty() || (estado != EstadoSinCargar && estado != EstadoSinEjecutar))
+        return {};
+    return LoQueLeFalta(programaDe(partida), palabras);
+}
+
 int porque(Sesion &sesion)
 {
-    const QString fichero = ficheroDeLineas();
-    if (!host::exists(fichero))
+    const QByteArray ruta = ficheroDeLineas();
+    const QString fichero = host::nameFromDisk(ruta);
+    std::optional<QByteArray> lineas;
+    try {
+        lineas = host::readAside(ruta);
+    } catch (const host::Failure &) {
         return sesion.Falla(sesion.palabras.Zbo_SinLineas.arg(fichero));
-    constexpr qint64 mucho = 4 * host::MostOfAsideFile;
-    const QString texto = host::nameFromDisk(host::readBytes(fichero, mucho));
-    const std::optional<launch::Partida> partida = launch::UltimaPartida(texto);
+    }
+    if (!lineas)
+        return sesion.Falla(sesion.palabras.Zbo_NoSuyas.arg(fichero));
+    const std::optional<launch::Partida> partida = launch::UltimaPartida(host::nameFromDisk(*lineas));
     if (!partida)
         return sesion.Falla(sesion.palabras.Zbo_SinPartida.arg(fichero));
     if (sesion.EnJson())
-        sesion.Json(PartidaEnJson(*partida));
+        sesion.Json(PartidaEnJson(*partida, sesion.palabras));
     else
         sesion.Escribe(CuentaPartida(*partida, sesion.palabras));
     return AcaboBien(*partida) ? Bien : Hallazgos;
@@ -69,29 +94,48 @@ QStringList CuentaPartida(const launch::Partida &partida, const Palabras &palabr
                << palabras.Zbo_EnDir.arg(partida.directorio);
     const QString segundos = QString::number(partida.segundos, 'f', 1);
     if (!partida.fallo.isEmpty())
-        lineas << palabras.Zbo_NoArranca.arg(partida.fallo);
+        lineas << palabras.Zbo_NoArranca.arg(MotivoDe(partida, palabras));
     else if (partida.final.signal)
         lineas << palabras.Zbo_PorSenal.arg(nombreDeSenal(*partida.final.signal), segundos);
     else if (partida.final.status)
         lineas << palabras.Zbo_ConEstado.arg(QString::number(*partida.final.status), segundos);
     else
-        lineas << palabras.Zbo_SinFinal;
+        lineas << (partida.acabada ? palabras.Zbo_FinSinSaber.arg(segundos) : palabras.Zbo_SinFinal);
+    for (const Impedimento &falta : faltasTras(partida, palabras))
+        lineas << falta.texto;
     return lineas;
 }
 
-QJsonObject PartidaEnJson(const launch::Partida &partida)
+// The log says it in English, the language of who searches it.
+QString MotivoDe(const launch::Partida &partida, const Palabras &palabras)
+{
+    if (partida.fallo.startsWith(launch::SinEjecutable))
+        return palabras.Zbo_NoHayEXE.arg(partida.fallo.sliced(launch::SinEjecutable.size()));
+    if (!partida.fallo.startsWith(launch::NoArranco) || partida.argumentos.isEmpty())
+        return partida.fallo;
+    const QString programa = programaDe(partida);
+    const std::optional<Impedimento> impedimento = ImpedimentoDe(programa, palabras);
+    return impedimento ? impedimento->texto : palabras.Zbo_NoEsPrograma.arg(programa);
+}
+
+QJsonObject PartidaEnJson(const launch::Partida &partida, const Palabras &palabras)
 {
     QJsonObject objeto { { u"time"_s, partida.momento }, { u"system"_s, partida.sistema },
         { u"emulator"_s, partida.emulador }, { u"entry"_s, partida.entrada },
         { u"arguments"_s, QJsonArray::fromStringList(partida.argumentos) },
         { u"directory"_s, partida.directorio } };
     if (!partida.fallo.isEmpty())
-        objeto[u"problem"_s] = partida.fallo;
+        objeto[u"problem"_s] = MotivoDe(partida, palabras);
     if (partida.final.status)
         objeto[u"status"_s] = *partida.final.status;
     if (partida.final.signal)
         objeto[u"signal"_s] = *partida.final.signal;
-    if (partida.final.status || partida.final.signal)
+    QJsonArray faltas;
+    for (const Impedimento &falta : faltasTras(partida, palabras))
+        faltas += falta.texto;
+    if (!faltas.isEmpty())
+        objeto[u"missing"_s] = faltas;
+    if (partida.acabada)
         objeto[u"seconds"_s] = partida.segundos;
     return objeto;
 }

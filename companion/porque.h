@@ -13,7 +13,9 @@ const Orden &OrdenPorque();
 
 // What became of a launch, in lines and as JSON; and whether it came to a good end, or still runs.
 QStringList CuentaPartida(const launch::Partida &partida, const Palabras &palabras);
-QJsonObject PartidaEnJson(const launch::Partida &partida);
+QJsonObject PartidaEnJson(const launch::Partida &partida, const Palabras &palabras);
+// Why it didn't start, in the words of the language.
+QString MotivoDe(const launch::Partida &partida, const Palabras &palabras);
 bool AcaboBien(const launch::Partida &partida);
 
 } // namespace companion

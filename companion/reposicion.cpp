@@ -92,8 +92,7 @@ void repone(const QString &fichero, const QByteArray &bytes, const Ficheros &act
     host::Replacement nuevo(ruta, u"Zembro.tmp"_s);
     const std::optional<QByteArray> viejo = nuevo.read();
     if (viejo.has_value() != actuales.contains(fichero) || (viejo && *viejo != actuales[fichero]))
-        throw host::Failure(
-            host::PathAccess, u"rewrite a file that another program has changed meanwhile"_s, ruta);
+        throw host::Failure(host::PathAccess, host::ChangedMeanwhile, ruta);
     nuevo.write(bytes);
     nuevo.commit();
 }
@@ -114,8 +113,10 @@ int repone(Sesion &sesion)
         { u"written"_s, escribe } };
     QJsonArray ficheros;
     for (const QString &nombre : nombres) {
-        const QStringList diferencia = Diferencia(
+        QStringList diferencia = Diferencia(
             nombre, host::decodeText(actuales[nombre]).text, host::decodeText(deCopia[nombre]).text);
+        if (diferencia.isEmpty())
+            diferencia += nombre + u": "_s + sesion.palabras.Zbo_SoloBytes;
         ficheros +=
             QJsonObject { { u"file"_s, nombre }, { u"diff"_s, QJsonArray::fromStringList(diferencia) } };
         if (!sesion.EnJson() && !escribe)

@@ -30,10 +30,13 @@ QJsonObject enJson(const Hallazgo &hallazgo)
 
 QJsonObject enJson(const Pareja &pareja, const Cuenta &cuenta)
 {
+    QJsonArray sinCaptura;
+    for (const SinCaptura &una : cuenta.sinCaptura)
+        sinCaptura += QJsonObject { { u"entry"_s, una.entrada }, { u"looked_for"_s, una.ruta } };
     return { { u"system"_s, pareja.nombreSistema }, { u"emulator"_s, pareja.nombreEmulador },
         { u"listed"_s, cuenta.listados }, { u"other_extension"_s, cuenta.otraExtension },
         { u"filtered"_s, cuenta.filtrados }, { u"no_zip"_s, cuenta.otroTipo },
-        { u"without_capture"_s, cuenta.sinCaptura } };
+        { u"without_capture"_s, sinCaptura.size() }, { u"missing_captures"_s, sinCaptura } };
 }
 
 QJsonArray enJson(const Revision &revision)
@@ -51,62 +54,87 @@ QJsonObject enJson(const QString &fichero, const QStringList &diferencia)
 
 QString enLinea(const Hallazgo &hallazgo)
 {
+    QStringList partes;
+    if (!hallazgo.fichero.isEmpty())
+        partes +=
+            hallazgo.fichero + (hallazgo.linea > 0 ? u':' + QString::number(hallazgo.linea) : QString());
     if (!hallazgo.pareja.isEmpty())
-        return hallazgo.pareja + u": "_s + hallazgo.texto;
-    const QString lugar = hallazgo.linea > 0 ? u':' + QString::number(hallazgo.linea) : QString();
-    return hallazgo.fichero + lugar + u": "_s + hallazgo.texto;
+        partes += hallazgo.pareja;
+    return (partes + QStringList { hallazgo.texto }).join(u": "_s);
 }
 
-// A file that can't be read is a finding, and the others are looked at all the same.
-template <typename Parte> void revisa(Revision &revision, const QString &fichero, Parte &&parte)
+// The count of a pair, and which games lack a capture: all of them where the pair was asked for.
+QStringList enLineas(const Sesion &sesion, const Pareja &pareja, const Cuenta &cuenta)
 {
-    try {
-        parte();
-    } catch (const host::Failure &fallo) {
-        revision.push_back({ u"unreadable"_s, fichero, 0, {}, TextoDe(fallo) });
+    constexpr qsizetype unas = 3;
+    const Palabras &palabras = sesion.palabras;
+    const qsizetype total = qsizetype(cuenta.sinCaptura.size());
+    const qsizetype dichas = sesion.Argumento(0).isEmpty() ? std::min(total, unas) : total;
+    QStringList lineas { palabras.Zbo_Cuenta.arg(pareja.nombreSistema, pareja.nombreEmulador,
+        QString::number(cuenta.listados), QString::number(cuenta.otraExtension + cuenta.otroTipo),
+        QString::number(cuenta.filtrados), QString::number(total)) };
+    for (qsizetype i = 0; i < dichas; ++i) {
+        const SinCaptura &una = cuenta.sinCaptura[size_t(i)];
+        lineas += u"    "_s + palabras.Zbo_FaltaCaptura.arg(una.entrada, una.ruta);
     }
+    if (dichas < total)
+        lineas += u"    "_s + palabras.Zbo_FaltanMas.arg(total - dichas);
+    return lineas;
 }
 
 void revisaFicheros(Sesion &sesion, Revision &revision)
 {
+    const Palabras &palabras = sesion.palabras;
     for (const QString &fichero : { u"Zembro.emu"_s, u"Zembro.sye"_s })
-        revisa(revision, fichero, [&] { RevisaCatalogo(sesion, fichero, revision); });
-    revisa(revision, u"Zembro.rom"_s, [&] { RevisaNotas(sesion, revision); });
-    revisa(revision, u"Zembro.cfg"_s, [&] { RevisaAjustes(sesion, revision); });
-    revisa(revision, u"LNG"_s, [&] { RevisaIdiomas(sesion, revision); });
+        Revisa(revision, fichero, palabras, [&] { RevisaCatalogo(sesion, fichero, revision); });
+    Revisa(revision, u"Zembro.rom"_s, palabras, [&] { RevisaNotas(sesion, revision); });
+    Revisa(revision, u"Zembro.cfg"_s, palabras, [&] { RevisaAjustes(sesion, revision); });
+    Revisa(revision, u"LNG"_s, palabras, [&] { RevisaIdiomas(sesion, revision); });
+}
+
+// False where the catalogue isn't read to its end. Of what doesn't fit its own findings tell.
+bool leeCatalogo(Sesion &sesion, Revision &revision)
+{
+    try {
+        LeeMundo(sesion);
+        return true;
+    } catch (const host::Failure &fallo) {
+        if (fallo.number() != host::OutOfRange)
+            revision.push_back({ u"unreadable"_s, u"Zembro.emu"_s, 0, {}, TextoDe(fallo, sesion.palabras) });
+        return false;
+    }
 }
 
 int revisaTodo(Sesion &sesion)
 {
     Revision revision;
-    bool hayCatalogo = false;
-    revisa(revision, u"Zembro.emu"_s, [&] {
-        LeeMundo(sesion);
-        hayCatalogo = true;
-    });
+    const bool hayCatalogo = leeCatalogo(sesion, revision);
     const QString sistema = sesion.Argumento(0);
+    const bool todo = (sistema + sesion.Argumento(1)).isEmpty();
     if (!hayCatalogo && !host::exists(host::programFile(u"Zembro.emu"_s)))
         return sesion.Falla(sesion.palabras.Zbo_NoDir.arg(host::programDirectory()));
+    if (!hayCatalogo && !todo)
+        return sesion.Falla(sesion.palabras.Zbo_CatalogoMal);
     if (sistema.isEmpty())
         revisaFicheros(sesion, revision);
     const std::vector<Pareja> parejas =
         hayCatalogo ? ParejasPedidas(sesion, sistema, sesion.Argumento(1)) : std::vector<Pareja>();
-    if (parejas.empty() && !(sistema + sesion.Argumento(1)).isEmpty())
+    if (parejas.empty() && !todo)
         return NoPudo;
     QJsonArray cuentas;
     QStringList lineas;
+    const LineasDelCatalogo lineasDelCatalogo(
+        parejas.empty() ? QString() : TextoDelPrograma(u"Zembro.emu"_s));
     for (const Pareja &pareja : parejas) {
-        const Cuenta cuenta = RevisaPareja(sesion, pareja, revision);
+        const Cuenta cuenta = RevisaPareja(sesion, pareja, lineasDelCatalogo, revision);
         const launch::Encargo encargo = EncargoDe(sesion.M, pareja);
         QJsonObject contado = enJson(pareja, cuenta);
         AnadeCorredor(contado, encargo);
         cuentas += contado;
-        lineas += sesion.palabras.Zbo_Cuenta.arg(pareja.nombreSistema, pareja.nombreEmulador,
-            QString::number(cuenta.listados), QString::number(cuenta.otraExtension + cuenta.otroTipo),
-            QString::number(cuenta.filtrados), QString::number(cuenta.sinCaptura));
+        lineas += enLineas(sesion, pareja, cuenta);
         lineas += DichoDe(sesion, encargo);
     }
-    RevisaCapturas(sesion, parejas, revision);
+    RevisaCapturas(sesion, parejas, lineasDelCatalogo, revision);
     if (sesion.EnJson()) {
         sesion.Json({ { u"findings"_s, enJson(revision) }, { u"pairs"_s, cuentas } });
     } else {
@@ -122,7 +150,7 @@ QStringList remendado(Sesion &sesion, const Remiendo &remiendo)
 {
     QString antes = TextoDelPrograma(remiendo.fichero);
     QString despues = remiendo.cambio(antes);
-    if (sesion.Tiene(u"write"_s) && !Diferencia(remiendo.fichero, antes, despues).isEmpty()) {
+    if (sesion.Tiene(u"write"_s) && antes != despues) {
         sesion.M.Ficheros.closeAll();
         sesion.M.Ficheros.rewrite(
             host::programFile(remiendo.fichero), u"Zembro.tmp"_s, [&](const QString &texto) {
@@ -144,7 +172,7 @@ int remienda(Sesion &sesion)
     QStringList lineas;
     Revision fallos;
     for (const Remiendo &remiendo : Remiendos()) {
-        revisa(fallos, remiendo.fichero, [&] {
+        Revisa(fallos, remiendo.fichero, sesion.palabras, [&] {
             const QStringList diferencia = remendado(sesion, remiendo);
             if (!diferencia.isEmpty())
                 cambios += enJson(remiendo.fichero, diferencia);

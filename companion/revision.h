@@ -1,6 +1,7 @@
 // What is wrong with the files of the program directory, and with the pairs that it configures.
 #pragma once
 
+#include "companion/lineasdelcatalogo.h"
 #include "companion/mundo.h"
 
 #include <QString>
@@ -12,7 +13,7 @@ namespace companion {
 
 struct Hallazgo {
     QString clase; // a word of English, the same in every language
-    QString fichero; // of the program directory, or a path; empty for a pair's
+    QString fichero; // of the program directory, or a path
     int linea = 0; // counted from 1, 0 where none is meant
     QString pareja; // "System / Emulator"; empty for a file's
     QString texto; // what is wrong and what to do
@@ -20,11 +21,28 @@ struct Hallazgo {
 
 using Revision = std::vector<Hallazgo>;
 
+// A file that can't be read is a finding, and the others are looked at all the same.
+template <typename Parte>
+void Revisa(Revision &revision, const QString &fichero, const Palabras &palabras, Parte &&parte)
+{
+    try {
+        parte();
+    } catch (const host::Failure &fallo) {
+        revision.push_back({ QStringLiteral("unreadable"), fichero, 0, {}, TextoDe(fallo, palabras) });
+    }
+}
+
 // Of Zembro.emu and Zembro.sye; of Zembro.rom; of Zembro.cfg; of the language files.
 void RevisaCatalogo(const Sesion &sesion, const QString &fichero, Revision &revision);
 void RevisaNotas(Sesion &sesion, Revision &revision);
 void RevisaAjustes(Sesion &sesion, Revision &revision);
 void RevisaIdiomas(const Sesion &sesion, Revision &revision);
+
+// A game without a capture, and where it is looked for.
+struct SinCaptura {
+    QString entrada;
+    QString ruta;
+};
 
 // What was counted of a pair.
 struct Cuenta {
@@ -32,15 +50,17 @@ struct Cuenta {
     qsizetype otraExtension = 0;
     qsizetype filtrados = 0;
     qsizetype otroTipo = 0;
-    qsizetype sinCaptura = 0;
+    std::vector<SinCaptura> sinCaptura;
 };
 
-// Of one pair: program, directories, list.
-Cuenta RevisaPareja(Sesion &sesion, const Pareja &pareja, Revision &revision);
+// Of one pair: program, directories, list. The lines are those of Zembro.emu.
+Cuenta RevisaPareja(
+    Sesion &sesion, const Pareja &pareja, const LineasDelCatalogo &lineas, Revision &revision);
 
 // Of the captures of these pairs; a directory that pairs share is told of once, and none of its captures is
 // alone that fits a game of any of them.
-void RevisaCapturas(Sesion &sesion, const std::vector<Pareja> &parejas, Revision &revision);
+void RevisaCapturas(
+    Sesion &sesion, const std::vector<Pareja> &parejas, const LineasDelCatalogo &lineas, Revision &revision);
 
 // A text file of the program directory.
 QString TextoDelPrograma(const QString &fichero);

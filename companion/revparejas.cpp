@@ -1,24 +1,27 @@
-// The pairs that the catalogue configures: program, directories, list, captures.
+// The pairs that the catalogue configures: program, directories, list.
 #include "companion/revision.h"
 
 #include "companion/eleccion.h"
+#include "companion/impedimento.h"
 #include "companion/otrosistema.h"
+
+#include "finder/juegos.h"
 
 #include "core/catalogo.h"
 #include "core/clasedeprograma.h"
-#include "core/info.h"
+#include "core/lineas.h"
 #include "core/romelegida.h"
 #include "core/rutas.h"
 
 #include "host/letters.h"
 #include "host/paths.h"
 #include "host/process.h"
+#include "host/textsource.h"
 
 #include "launch/piezas.h"
 
 #include <QHash>
 #include <QProcess>
-#include <QSet>
 
 #include <optional>
 
@@ -30,11 +33,12 @@ namespace {
 
 class RevisorDePareja {
 public:
-    RevisorDePareja(Sesion &sesion, const Pareja &pareja, Revision &revision)
+    RevisorDePareja(Sesion &sesion, const Pareja &pareja, const LineasDeEmulador &lineas, Revision &revision)
         : m_sesion(sesion)
         , M(sesion.M)
         , m_palabras(sesion.palabras)
         , m_pareja(pareja)
+        , m_lineas(lineas)
         , m_revision(revision)
         , m_tipo(TipoDe(sesion.M, pareja))
     {
@@ -46,19 +50,27 @@ public:
     Cuenta cuenta;
 
 private:
-    void halla(const QString &clase, const QString &dicho, const QString &fichero = {})
+    // Of a line of the catalogue, or where that is missing of the emulator's.
+    void halla(const QString &clase, const QString &dicho, int linea)
     {
         m_revision.push_back(
-            { clase, fichero, 0, m_pareja.nombreSistema + u" / "_s + m_pareja.nombreEmulador, dicho });
+            { clase, u"Zembro.emu"_s, linea > 0 ? linea : m_lineas.nombre, nombre(), dicho });
     }
+    void hallaEn(const QString &clase, const QString &dicho, const QString &ruta, int linea = 0)
+    {
+        m_revision.push_back({ clase, ruta, linea, nombre(), dicho });
+    }
+    QString nombre() const { return m_pareja.nombreSistema + u" / "_s + m_pareja.nombreEmulador; }
     void MaquinaDeMAME(const QString &exe);
     void Juegos(const Listado &listado);
     void NoListados(const QString &directorio);
+    void NadaListado(const QString &directorio);
 
     Sesion &m_sesion;
     core::Modulo &M;
     const Palabras &m_palabras;
     const Pareja &m_pareja;
+    const LineasDeEmulador m_lineas;
     Revision &m_revision;
     const int m_tipo;
 };
@@ -75,32 +87,45 @@ QString parecido(const QString &ruta)
     }
 }
 
+// The line of Zembro.rom, counted from 1, of the second record with this description; 0 if none is.
+int lineaDeDescripcion(const QString &descripcion)
+{
+    const QString texto = TextoDelPrograma(u"Zembro.rom"_s);
+    int numero = 0;
+    int veces = 0;
+    for (const core::LineaConFin &linea : core::EnLineas(texto)) {
+        ++numero;
+        host::TextSource fuente(linea.linea.toString());
+        if (fuente.atEnd() || fuente.readField().isEmpty() || fuente.atEnd())
+            continue;
+        veces += fuente.readField() == descripcion;
+        if (veces == 2)
+            return numero;
+    }
+    return 0;
+}
+
 void RevisorDePareja::Programa()
 {
+    if (m_lineas.EXE == 0)
+        return; // told of the file
     const QString exe = core::RutaDeLinea(M.Cat_EXE(m_pareja.sistema, m_pareja.fila));
     const launch::Programa programa = launch::ProgramaDe(exe);
-    if (programa.ExeCorto.enDisco.isEmpty()) {
+    const QString &enDisco = programa.ExeCorto.enDisco;
+    if (enDisco.isEmpty()) {
         const QString otro = parecido(exe);
-        halla(u"no-program"_s, m_palabras.Zbo_NoHayEXE.arg(exe), exe);
+        halla(u"no-program"_s, m_palabras.Zbo_NoHayEXE.arg(exe), m_lineas.EXE);
         if (!otro.isEmpty() && !otro.endsWith(u'/'))
-            halla(u"similar-program"_s, m_palabras.Zbo_Parecido.arg(otro), exe);
+            halla(u"similar-program"_s, m_palabras.Zbo_Parecido.arg(otro), m_lineas.EXE);
         return;
     }
     if (EncargoDe(M, m_pareja).corredor != launch::Corredor::Ninguno)
         return;
-    try {
-        host::findProgram(programa.ExeCorto.enDisco);
-    } catch (const host::Failure &) {
-        return halla(u"not-executable"_s, m_palabras.Zbo_SinPermiso.arg(exe), exe);
-    }
-    using core::ClaseDePrograma;
-    const ClaseDePrograma clase = core::ClaseDe(programa.ExeCorto.enDisco);
-    if (clase == ClaseDePrograma::OtraMaquina)
-        halla(u"foreign-program"_s, m_palabras.Zbo_OtraMaquina.arg(exe), exe);
-    else if (clase == ClaseDePrograma::Desconocida)
-        halla(u"foreign-program"_s, m_palabras.Zbo_NoEsPrograma.arg(exe), exe);
-    else
-        MaquinaDeMAME(programa.ExeCorto.enDisco);
+    if (core::ClaseDe(enDisco) == core::ClaseDePrograma::OtraMaquina)
+        return halla(u"foreign-program"_s, m_palabras.Zbo_OtraMaquina.arg(exe), m_lineas.EXE);
+    if (const std::optional<Impedimento> falta = ImpedimentoDe(enDisco, m_palabras))
+        return halla(falta->clase, falta->texto, m_lineas.EXE);
+    MaquinaDeMAME(enDisco);
 }
 
 // The first parameter that isn't an option names the machine. MAME itself tells what it lacks.
@@ -118,27 +143,32 @@ void RevisorDePareja::MaquinaDeMAME(const QString &exe)
     mame.start(exe, { u"-verifyroms"_s, parametros.first() });
     const bool acabo = mame.waitForFinished(paciencia);
     if (acabo && mame.exitStatus() == QProcess::NormalExit && mame.exitCode() != 0)
-        halla(u"machine-without-roms"_s, m_palabras.Zbo_SinROMs.arg(parametros.first()));
+        halla(u"machine-without-roms"_s, m_palabras.Zbo_SinROMs.arg(parametros.first()), m_lineas.EXE);
     if (!acabo)
         mame.kill();
 }
 
 void RevisorDePareja::Lista()
 {
-    if (m_tipo < 0 || m_tipo > 8 || m_tipo == 4)
-        halla(u"no-type"_s, m_palabras.Zbo_SinTipo);
+    if (m_lineas.XDI > 0 && (m_tipo < 0 || m_tipo > 8 || m_tipo == 4))
+        halla(u"no-type"_s, m_palabras.Zbo_SinTipo, m_lineas.XDI);
     const QString directorio = DirectorioDeJuegos(M, m_pareja);
-    if (directorio.isEmpty() && core::CargaSoloElEmulador(m_tipo))
+    if (m_lineas.ROM == 0 || (directorio.isEmpty() && core::CargaSoloElEmulador(m_tipo)))
         return;
+    if (core::FicherosSueltos(m_tipo) && core::CargaExtensiones(M, m_pareja.sistema) == 0)
+        halla(u"no-extension"_s, m_palabras.Zbo_SinExt.arg(m_pareja.nombreSistema), m_lineas.XDI);
     try {
         const Listado listado = companion::Lista(m_sesion, m_pareja);
         cuenta.listados = listado.recuento.entradas.size();
+        // Without its separator the directory's name runs into those of the files.
+        if (!core::UnDirectorioPorJuego(m_tipo) && directorio != host::withClosingSeparator(directorio))
+            return;
         if (listado.recuento.interrumpido)
-            halla(u"list-cut"_s, m_palabras.Zbo_ListaCortada);
+            halla(u"list-cut"_s, m_palabras.Zbo_ListaCortada, m_lineas.ROM);
         NoListados(directorio);
         Juegos(listado);
     } catch (const host::Failure &fallo) {
-        halla(u"no-list"_s, m_palabras.Zbo_NoSeLista.arg(TextoDe(fallo)), directorio);
+        halla(u"no-list"_s, m_palabras.Zbo_NoSeLista.arg(TextoDe(fallo, m_palabras)), m_lineas.ROM);
     }
 }
 
@@ -151,149 +181,64 @@ void RevisorDePareja::NoListados(const QString &directorio)
         const QString mayus = host::upper(nombres[i]);
         if (core::UnDirectorioPorJuego(m_tipo))
             cuenta.filtrados += M.Arch_Mayus(static_cast<int>(i)).isEmpty();
+        else if (nombres[i] == finder::NombreDeNota && !extensiones.VecesQueEncaja(mayus))
+            continue; // the line of text that the program itself puts there
         else if (core::FicherosSueltos(m_tipo))
             cuenta.otraExtension += extensiones.VecesQueEncaja(mayus) == 0;
         else
             cuenta.otroTipo += !mayus.endsWith(u"ZIP");
         if (core::FicherosSueltos(m_tipo) && extensiones.VecesQueEncaja(mayus) > 1)
-            halla(u"listed-twice"_s, m_palabras.Zbo_DosVeces.arg(nombres[i]), nombres[i]);
+            hallaEn(u"listed-twice"_s, m_palabras.Zbo_DosVeces.arg(nombres[i]), directorio + nombres[i]);
     }
+    if (cuenta.listados == 0)
+        NadaListado(directorio);
+}
+
+// Why nothing is: what lies there isn't what the type takes.
+void RevisorDePareja::NadaListado(const QString &directorio)
+{
     const qsizetype fuera = cuenta.otraExtension + cuenta.otroTipo + cuenta.filtrados;
-    if (cuenta.listados == 0 && fuera > 0)
-        halla(u"nothing-listed"_s, m_palabras.Zbo_NadaEncaja.arg(fuera), directorio);
+    if (fuera > 0)
+        return halla(u"nothing-listed"_s, m_palabras.Zbo_NadaEncaja.arg(fuera), m_lineas.XDI);
+    QStringList otros =
+        core::UnDirectorioPorJuego(m_tipo) ? host::listFiles(directorio) : host::listDirectories(directorio);
+    otros.removeAll(finder::NombreDeNota);
+    const QString &dicho =
+        core::UnDirectorioPorJuego(m_tipo) ? m_palabras.Zbo_SoloFicheros : m_palabras.Zbo_SoloDirs;
+    if (!otros.isEmpty())
+        halla(u"type-and-content"_s, dicho.arg(directorio).arg(otros.size()), m_lineas.XDI);
 }
 
 void RevisorDePareja::Juegos(const Listado &listado)
 {
     QHash<QString, int> veces;
+    const LectorDeJuegos lector(M, m_pareja);
     for (const QString &entrada : listado.recuento.entradas) {
-        const Juego juego = JuegoDe(M, m_pareja, entrada);
+        const Juego juego = lector.De(entrada);
         if (++veces[entrada] == 2 && juego.descrito)
-            halla(u"description-twice"_s, m_palabras.Zbo_MismaDesc.arg(entrada));
-        if (veces[entrada] == 1)
-            cuenta.sinCaptura += juego.captura.isEmpty();
+            hallaEn(u"description-twice"_s, m_palabras.Zbo_MismaDesc.arg(entrada), u"Zembro.rom"_s,
+                lineaDeDescripcion(entrada));
+        if (veces[entrada] == 1 && juego.captura.isEmpty())
+            cuenta.sinCaptura.push_back({ entrada, lector.CapturaBuscada(entrada) });
     }
-}
-
-// Letters and digits alone, without what stands in brackets.
-QString soloNombre(const QString &nombre)
-{
-    QString resultado;
-    int dentro = 0;
-    for (const QChar letra : host::upper(nombre)) {
-        dentro += letra == u'(' || letra == u'[';
-        if (dentro == 0 && letra.isLetterOrNumber())
-            resultado += letra;
-        dentro -= (letra == u')' || letra == u']') && dentro > 0;
-    }
-    return resultado;
-}
-
-QString sinTerminacion(const QString &nombre)
-{
-    const qsizetype punto = nombre.lastIndexOf(u'.');
-    return punto < 0 ? nombre : nombre.first(punto);
-}
-
-// Upper-cased names of the captures of a pair's games; none where they can't be told.
-std::optional<QSet<QString>> capturasDe(Sesion &sesion, const Pareja &pareja)
-{
-    QSet<QString> nombres;
-    try {
-        const core::Modulo &M = sesion.M;
-        for (const QString &entrada : Lista(sesion, pareja).recuento.entradas) {
-            try {
-                for (const QString &ruta :
-                    core::CapturasDe(M, entrada, TipoDe(M, pareja), DirectorioDeCapturas(M, pareja)))
-                    nombres.insert(host::upper(ruta.sliced(host::lastSeparator(ruta) + 1)));
-            } catch (const host::Failure &) {
-                // It has none.
-            }
-        }
-    } catch (const host::Failure &) {
-        return std::nullopt;
-    }
-    return nombres;
-}
-
-// The captures of a directory, by what they fit.
-void revisaDirectorio(const Sesion &sesion, const QStringList &nombres, const QSet<QString> &capturas,
-    const Pareja &pareja, Revision &revision)
-{
-    QSet<QString> presentes;
-    for (const QString &nombre : nombres)
-        presentes.insert(host::upper(nombre));
-    QHash<QString, QString> esperadas; // by what they have in common with another spelling
-    for (const QString &nombre : capturas) {
-        if (!presentes.contains(nombre))
-            esperadas.insert(soloNombre(sinTerminacion(nombre)), nombre);
-    }
-    for (const QString &nombre : nombres) {
-        if (capturas.contains(host::upper(nombre)))
-            continue;
-        const QString otra = esperadas.value(soloNombre(sinTerminacion(nombre)));
-        const QString clase = otra.isEmpty() ? u"capture-without-game"_s : u"capture-spelling"_s;
-        const QString dicho = otra.isEmpty() ? sesion.palabras.Zbo_CapturaSola.arg(nombre)
-                                             : sesion.palabras.Zbo_CapturaMal.arg(nombre, otra);
-        revision.push_back({ clase, DirectorioDeCapturas(sesion.M, pareja) + nombre, 0,
-            pareja.nombreSistema + u" / "_s + pareja.nombreEmulador, dicho });
-    }
-}
-
-QString capturasEnDisco(const core::Modulo &M, const Pareja &pareja)
-{
-    const QString directorio = core::RutaDeLinea(M.Cat_IMG(pareja.sistema, pareja.fila));
-    return directorio.isEmpty() ? QString() : host::directoryPath(directorio);
 }
 
 } // namespace
 
-Cuenta RevisaPareja(Sesion &sesion, const Pareja &pareja, Revision &revision)
+Cuenta RevisaPareja(Sesion &sesion, const Pareja &pareja, const LineasDelCatalogo &lineas, Revision &revision)
 {
-    RevisorDePareja revisor(sesion, pareja, revision);
+    RevisorDePareja revisor(sesion, pareja, lineas.De(pareja.sistema, pareja.fila), revision);
     revisor.Programa();
+    const size_t antes = revision.size();
     RevisaOtroSistema(sesion, pareja, revision);
+    for (size_t i = antes; i < revision.size(); ++i) {
+        if (revision[i].fichero.isEmpty()) {
+            revision[i].fichero = u"Zembro.emu"_s;
+            revision[i].linea = lineas.De(pareja.sistema, pareja.fila).nombre;
+        }
+    }
     revisor.Lista();
     return revisor.cuenta;
-}
-
-void RevisaCapturas(Sesion &sesion, const std::vector<Pareja> &parejas, Revision &revision)
-{
-    QSet<QString> vistos;
-    for (const Pareja &pareja : parejas) {
-        QStringList nombres;
-        QString directorio;
-        try {
-            directorio = capturasEnDisco(sesion.M, pareja);
-            if (directorio.isEmpty() || vistos.contains(directorio))
-                continue;
-            nombres = host::listFiles(directorio, u"*.gif"_s);
-        } catch (const host::Failure &fallo) {
-            revision.push_back(
-                { u"no-captures"_s, {}, 0, pareja.nombreSistema + u" / "_s + pareja.nombreEmulador,
-                    sesion.palabras.Zbo_SinCapturas.arg(TextoDe(fallo)) });
-            continue;
-        }
-        vistos.insert(directorio);
-        QSet<QString> capturas;
-        bool todas = true;
-        for (const Pareja &otra : Parejas(sesion.M)) {
-            const auto suyo = [&] {
-                try {
-                    return capturasEnDisco(sesion.M, otra);
-                } catch (const host::Failure &) {
-                    return QString();
-                }
-            };
-            if (suyo() != directorio)
-                continue;
-            const std::optional<QSet<QString>> suyas = capturasDe(sesion, otra);
-            todas = todas && suyas;
-            capturas += suyas.value_or(QSet<QString>());
-        }
-        if (todas)
-            revisaDirectorio(sesion, nombres, capturas, pareja, revision);
-    }
 }
 
 } // namespace companion

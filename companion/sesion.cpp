@@ -2,6 +2,8 @@
 
 #include "companion/imprimible.h"
 
+#include "host/replacement.h"
+
 #include <QJsonArray>
 
 #include <utility>
@@ -71,9 +73,26 @@ int Sesion::Falla(const QStringList &lineas) const
     return NoPudo;
 }
 
-QString TextoDe(const host::Failure &fallo)
+QString TextoDe(const host::Failure &fallo, const Palabras &palabras)
 {
-    const QString texto = u"Failed to "_s + fallo.operation();
+    static const QHash<int, QString Palabras::*> clases {
+        { host::InvalidArgument, &Palabras::Zbo_FalloValor },
+        { host::OutOfRange, &Palabras::Zbo_FalloMucho },
+        { host::FileNotFound, &Palabras::Zbo_FalloFichero },
+        { host::DeviceError, &Palabras::Zbo_FalloDisco },
+        { host::DiskFull, &Palabras::Zbo_FalloLleno },
+        { host::PastEndOfFile, &Palabras::Zbo_FalloFin },
+        { host::PermissionDenied, &Palabras::Zbo_FalloDerecho },
+        { host::PathAccess, &Palabras::Zbo_FalloAcceso },
+        { host::PathNotFound, &Palabras::Zbo_FalloDir },
+    };
+    // What was being done is told where the number doesn't say it.
+    if (fallo.operation() == host::ChangedMeanwhile)
+        return palabras.Zbo_FalloCambio + u": "_s + fallo.about();
+    if (fallo.operation().endsWith(host::KeptLocked))
+        return palabras.Zbo_FalloLlave + u": "_s + fallo.about();
+    const auto clase = clases.constFind(fallo.number());
+    const QString &texto = clase == clases.constEnd() ? palabras.Zbo_Fallo : palabras.*clase.value();
     return fallo.about().isEmpty() ? texto + u'.' : texto + u": "_s + fallo.about();
 }
 

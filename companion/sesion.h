@@ -18,6 +18,8 @@ namespace companion {
 struct Consola {
     std::function<void(const QByteArray &)> sale;
     std::function<void(const QByteArray &)> error;
+    // At the end: whether all of the answer has been written; else errno says why not. None asks nobody.
+    std::function<bool()> queda = {};
 };
 
 // What a command line asks for.
@@ -61,7 +63,7 @@ private:
     Consola m_consola;
 };
 
-// What a failure is told as.
-QString TextoDe(const host::Failure &fallo);
+// What a failure is told as, in the words of the language.
+QString TextoDe(const host::Failure &fallo, const Palabras &palabras);
 
 } // namespace companion

@@ -1,5 +1,7 @@
 #include "companion/zembro.h"
 
+#include "companion/ayuda.h"
+#include "companion/imprimible.h"
 #include "companion/ordenes.h"
 
 #include "core/ajustes.h"
@@ -9,7 +11,9 @@
 
 #include <QCommandLineParser>
 
+#include <cerrno>
 #include <memory>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -115,7 +119,7 @@ int corre(const Orden &orden, Sesion &sesion)
     try {
         return orden.haz(sesion);
     } catch (const host::Failure &fallo) {
-        return sesion.Falla(TextoDe(fallo));
+        return sesion.Falla(TextoDe(fallo, sesion.palabras));
     }
 }
 
@@ -133,9 +137,32 @@ bool VaAlDirectorio(const Pedido &pedido)
     }
 }
 
-} // namespace
+// What was asked for without a command, or wrongly; none where a command is to run.
+std::optional<int> sinOrden(const Sesion &sesion, const Orden *orden, const QString &nombre)
+{
+    const Palabras &palabras = sesion.palabras;
+    if (sesion.Tiene(OpcionVersion)) {
+        if (sesion.EnJson())
+            sesion.Json({ { u"version"_s, QStringLiteral(ZEMBRO_VERSION) } });
+        else
+            sesion.Escribe(QStringLiteral("zembro " ZEMBRO_VERSION));
+        return Bien;
+    }
+    if (!nombre.isEmpty() && !orden)
+        return sesion.Falla(palabras.Zbo_NoOrden.arg(nombre));
+    if (sesion.Tiene(u"help"_s)) {
+        DaAyuda(sesion, orden);
+        return Bien;
+    }
+    if (orden)
+        return std::nullopt;
+    if (sesion.EnJson())
+        return sesion.Falla(palabras.Zbo_NoSePide);
+    DaAyuda(sesion, orden);
+    return NoPudo;
+}
 
-int Zembro(const QStringList &argumentos, const Consola &consola)
+int responde(const QStringList &argumentos, const Consola &consola, Palabras &palabras)
 {
     Pedido pedido;
     Lector generales(conComunes({ { OpcionVersion, {}, &Palabras::Zbo_OpVersion } }));
@@ -148,24 +175,29 @@ int Zembro(const QStringList &argumentos, const Consola &consola)
 
     const bool hayDirectorio = VaAlDirectorio(pedido);
     const auto M = std::make_unique<core::Modulo>();
-    const Palabras palabras = LeeIdioma(*M);
+    palabras = LeeIdioma(*M);
     Sesion sesion(pedido, palabras, *M, consola);
     const QString error = generales.Error(palabras) + (orden ? suyas.Error(palabras) : QString());
     if (!error.isEmpty())
         return sesion.Falla(error);
-    if (sesion.Tiene(OpcionVersion)) {
-        sesion.Escribe(QStringLiteral("zembro " ZEMBRO_VERSION));
-        return Bien;
-    }
-    if (!nombre.isEmpty() && !orden)
-        return sesion.Falla(palabras.Zbo_NoOrden.arg(nombre));
-    if (!orden || sesion.Tiene(u"help"_s)) {
-        sesion.Escribe(orden ? AyudaDe(*orden, palabras) : AyudaDeTodo(palabras));
-        return orden || sesion.Tiene(u"help"_s) ? Bien : NoPudo;
-    }
+    if (const std::optional<int> estado = sinOrden(sesion, orden, nombre))
+        return *estado;
     if (!hayDirectorio)
         return sesion.Falla(palabras.Zbo_NoDir.arg(sesion.Valor(u"directory"_s)));
     return corre(*orden, sesion);
+}
+
+} // namespace
+
+int Zembro(const QStringList &argumentos, const Consola &consola)
+{
+    Palabras palabras;
+    const int estado = responde(argumentos, consola, palabras);
+    if (!consola.queda || consola.queda())
+        return estado;
+    const QString motivo = qt_error_string(errno);
+    consola.error("zembro: " + Imprimible(palabras.Zbo_NoSale.arg(motivo)).toUtf8() + '\n');
+    return NoPudo;
 }
 
 } // namespace companion

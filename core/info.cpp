@@ -28,7 +28,37 @@ void BuscaROM(const Modulo &M, const QString &texto, const std::function<void(co
         visita({ texto, false });
 }
 
+NotasPorTexto::NotasPorTexto(const Modulo &modulo)
+    : M(modulo)
+{
+    do {
+        m_notas[M.Nota_Texto(m_recorridas)] += m_recorridas;
+        ++m_recorridas;
+    } while (m_recorridas < M.Nota_Clave.tamaño() && !M.Nota_Clave(m_recorridas).isEmpty());
+}
+
+void NotasPorTexto::Busca(const QString &texto, const std::function<void(const FichaDeROM &)> &visita) const
+{
+    const auto suyas = m_notas.constFind(texto);
+    if (suyas != m_notas.constEnd()) {
+        for (const int i : *suyas)
+            visita({ host::upper(M.Nota_Clave(i)), true });
+    }
+    M.Nota_Clave(m_recorridas); // a full table fails
+    if (suyas == m_notas.constEnd())
+        visita({ texto, false });
+}
+
+int NotasPorTexto::Primera(const QString &texto) const
+{
+    const auto suyas = m_notas.constFind(texto);
+    return suyas == m_notas.constEnd() ? -1 : suyas->first();
+}
+
 namespace {
+
+// Gives the notes with a text, or the text itself; fails behind a full table.
+using Busqueda = std::function<void(const std::function<void(const FichaDeROM &)> &visita)>;
 
 QString kilobytes(qint64 bytes)
 {
@@ -118,12 +148,14 @@ QString LineaDeInfo(int tipo, const QString &directorio, const FichaDeROM &ficha
     return lineaConMedida(tipo, ficha, seMide(tipo) ? largo(directorio + ficheroDe(tipo, ficha)) : 0);
 }
 
-QString UltimaLineaDeInfo(const Modulo &M, const QString &texto, int tipo, const QString &directorio,
+namespace {
+
+QString ultimaLinea(const Busqueda &busca, int tipo, const QString &directorio,
     const LargosDeFicheros &largos, const EstaSeguro &esta)
 {
     QList<FichaDeROM> fichas;
     try {
-        BuscaROM(M, texto, [&](const FichaDeROM &ficha) { fichas.append(ficha); });
+        busca([&](const FichaDeROM &ficha) { fichas.append(ficha); });
     } catch (const host::Failure &) {
         // A full table ends the walk: the notes ahead count.
     }
@@ -140,6 +172,22 @@ QString UltimaLineaDeInfo(const Modulo &M, const QString &texto, int tipo, const
             return lineaConMedida(tipo, fichas[i], bytes.first());
     }
     return {};
+}
+
+} // namespace
+
+QString UltimaLineaDeInfo(const Modulo &M, const QString &texto, int tipo, const QString &directorio,
+    const LargosDeFicheros &largos, const EstaSeguro &esta)
+{
+    return ultimaLinea(
+        [&](const auto &visita) { BuscaROM(M, texto, visita); }, tipo, directorio, largos, esta);
+}
+
+QString UltimaLineaDeInfo(const NotasPorTexto &notas, const QString &texto, int tipo,
+    const QString &directorio, const LargosDeFicheros &largos, const EstaSeguro &esta)
+{
+    return ultimaLinea(
+        [&](const auto &visita) { notas.Busca(texto, visita); }, tipo, directorio, largos, esta);
 }
 
 namespace {
@@ -209,12 +257,14 @@ QString RutaDeCaptura(int tipo, const QString &directorio, const FichaDeROM &fic
     return {};
 }
 
-QStringList CapturasDe(const Modulo &M, const QString &texto, int tipo, const QString &directorio)
+namespace {
+
+QStringList capturas(const Busqueda &busca, int tipo, const QString &directorio)
 {
     QStringList rutas;
     QSet<QString> vistas;
     QString ultima;
-    BuscaROM(M, texto, [&](const FichaDeROM &ficha) {
+    busca([&](const FichaDeROM &ficha) {
         ultima = RutaDeCaptura(tipo, directorio, ficha);
         if (ultima.isEmpty() || vistas.contains(ultima))
             return;
@@ -224,6 +274,18 @@ QStringList CapturasDe(const Modulo &M, const QString &texto, int tipo, const QS
     if (!rutas.isEmpty())
         rutas.move(rutas.lastIndexOf(ultima), rutas.size() - 1);
     return rutas;
+}
+
+} // namespace
+
+QStringList CapturasDe(const Modulo &M, const QString &texto, int tipo, const QString &directorio)
+{
+    return capturas([&](const auto &visita) { BuscaROM(M, texto, visita); }, tipo, directorio);
+}
+
+QStringList CapturasDe(const NotasPorTexto &notas, const QString &texto, int tipo, const QString &directorio)
+{
+    return capturas([&](const auto &visita) { notas.Busca(texto, visita); }, tipo, directorio);
 }
 
 } // namespace core

@@ -4,6 +4,8 @@
 #include "core/lista.h"
 #include "core/modulo.h"
 
+#include <QHash>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -21,6 +23,21 @@ struct FichaDeROM {
 // first note is always tried. Fails with 9 behind a full table.
 void BuscaROM(const Modulo &M, const QString &texto, const std::function<void(const FichaDeROM &)> &visita);
 
+// The notes of the tables by their texts, for thousands of entries: as BuscaROM and NotaConTexto, which walk
+// through all of them. The notes must stay as they are.
+class NotasPorTexto {
+public:
+    explicit NotasPorTexto(const Modulo &M);
+
+    void Busca(const QString &texto, const std::function<void(const FichaDeROM &)> &visita) const;
+    int Primera(const QString &texto) const;
+
+private:
+    const Modulo &M;
+    QHash<QString, QList<int>> m_notas;
+    int m_recorridas = 0;
+};
+
 // The line of facts of an emulator type; empty for a type without one. Fails with 53 if the file is gone, and
 // with 13 for a ZIP with a note whose size rounds to nothing.
 QString LineaDeInfo(
@@ -34,6 +51,8 @@ using EstaSeguro = std::function<bool(const QString &ruta)>;
 // line is put together, and loose files that surely are there aren't looked at for the others' sake.
 QString UltimaLineaDeInfo(const Modulo &M, const QString &texto, int tipo, const QString &directorio,
     const LargosDeFicheros &largos, const EstaSeguro &esta);
+QString UltimaLineaDeInfo(const NotasPorTexto &notas, const QString &texto, int tipo,
+    const QString &directorio, const LargosDeFicheros &largos, const EstaSeguro &esta);
 
 // What of a line of facts is shown where the whole has no room: letters are left out of the middle of the
 // name, and the size and the mark behind it stay. Where not even they fit, the name's ends are gone.
@@ -47,5 +66,6 @@ QString RutaDeCaptura(int tipo, const QString &directorio, const FichaDeROM &fic
 // it stands each other one once; it shows only where they all can be read. None for a type without captures.
 // Fails with 5 as RutaDeCaptura does, and with 9 as BuscaROM.
 QStringList CapturasDe(const Modulo &M, const QString &texto, int tipo, const QString &directorio);
+QStringList CapturasDe(const NotasPorTexto &notas, const QString &texto, int tipo, const QString &directorio);
 
 } // namespace core

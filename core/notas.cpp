@@ -163,9 +163,10 @@ bool esCabecera(const Lineas &lineas, size_t indice, const QStringList &sistemas
     return sistemas.contains(lineas[indice].linea) && !esClaveSola(lineas, indice);
 }
 
-// The line that begins with "[" behind the last system. The key of a note may begin so too; where its
-// description has no quotes, the rest of its block follows.
-bool acabaLosSistemas(const Lineas &lineas, size_t indice, const QStringList &sistemas)
+} // namespace
+
+// Where the description of a note has no quotes, the rest of its block follows.
+bool AcabaLosSistemas(const Lineas &lineas, size_t indice, const QStringList &sistemas)
 {
     const auto esNota = [&](size_t i) { return esRegistroDeNota(lineas[i].linea) || esClaveSola(lineas, i); };
     if (!lineas[indice].linea.startsWith(u'[') || esNota(indice))
@@ -183,11 +184,13 @@ bool acabaLosSistemas(const Lineas &lineas, size_t indice, const QStringList &si
     return true;
 }
 
+namespace {
+
 // What ends a block that has lost its apostrophe.
 bool acabaElBloque(const Lineas &lineas, size_t indice, const QStringList &otros)
 {
     return lineas[indice].linea.startsWith(InicioParametros) || esCabecera(lineas, indice, otros)
-        || acabaLosSistemas(lineas, indice, otros);
+        || AcabaLosSistemas(lineas, indice, otros);
 }
 
 // The next note, if there is one ahead of the closing apostrophe, at this index.
@@ -363,7 +366,7 @@ QString ConSistemaNuevo(const QString &texto, const QString &sistema)
     Copia copia;
     bool escrito = false;
     for (size_t i = 0; i < lineas.size(); ++i) {
-        if (!escrito && acabaLosSistemas(lineas, i, {})) {
+        if (!escrito && AcabaLosSistemas(lineas, i, {})) {
             copia.Nueva(sistema);
             copia.Nueva(u"'"_s);
             escrito = true;

@@ -6,6 +6,7 @@
 // in the file.
 #pragma once
 
+#include "core/lineas.h"
 #include "core/modulo.h"
 #include "core/seccion.h"
 
@@ -13,6 +14,7 @@
 #include <QStringList>
 
 #include <optional>
+#include <vector>
 
 namespace core {
 
@@ -71,6 +73,10 @@ QString ConParametrosNuevos(const QString &texto, const Parametros &parametros);
 // and empty lines outside the section are dropped. Fails with 62 where the section or its closing record is
 // missing.
 QString ConParametrosCambiados(const QString &texto, const Parametros &parametros);
+
+// Whether the line at this index is the one that begins with "[" behind the last system; the key of a note
+// may begin so too. With names of systems, as far as they are known.
+bool AcabaLosSistemas(const std::vector<LineaConFin> &lineas, size_t indice, const QStringList &sistemas);
 
 // An empty block for a system ahead of the first line that begins with "[" and is no note; without such a
 // line nothing changes.

@@ -1,7 +1,11 @@
 #include "core/remiendos.h"
 
 #include "core/bloques.h"
+#include "core/catalogo.h"
 #include "core/lineas.h"
+#include "core/notas.h"
+
+#include "host/paths.h"
 
 #include <QSet>
 
@@ -75,6 +79,20 @@ QString ConMarcaFinal(const QString &texto)
     return copia.Texto();
 }
 
+QString ConSeparadoresFinales(const QString &texto)
+{
+    Copia copia;
+    for (const LineaConFin &linea : EnLineas(texto)) {
+        const bool directorio = linea.linea.startsWith(u"ROM=") || linea.linea.startsWith(u"IMG=");
+        const QString entera = linea.linea.toString();
+        const QString cerrada = directorio
+            ? entera.first(PrefijoRuta) + host::withClosingSeparator(entera.sliced(PrefijoRuta))
+            : entera;
+        copia.Copiar({ cerrada, linea.fin });
+    }
+    return copia.Texto();
+}
+
 std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &sistemas)
 {
     const QSet<QString> nombres(sistemas.begin(), sistemas.end());
@@ -85,9 +103,10 @@ std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &s
     for (size_t i = 0; i < lineas.size(); ++i) {
         const QStringView linea = lineas[i].linea;
         const bool cabecera = nombres.contains(linea.toString());
-        if (abierto && (cabecera || linea.startsWith(u'[')))
+        const bool fin = AcabaLosSistemas(lineas, i, sistemas);
+        if (abierto && (cabecera || fin))
             huecos.push_back({ inicio, i });
-        if (linea.startsWith(u'['))
+        if (fin)
             break;
         if (cabecera)
             inicio = i;

@@ -23,6 +23,10 @@ QString ConBloquesCerrados(const QString &texto);
 bool TieneMarcaFinal(const QString &texto);
 QString ConMarcaFinal(const QString &texto);
 
+// The text of a catalogue in which the directories of the ROM and IMG lines end in a separator, which is
+// added in the kind that the path has.
+QString ConSeparadoresFinales(const QString &texto);
+
 // The systems of these names whose notes run into the next one's, as their closing apostrophe is missing.
 std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &sistemas);
 QString ConNotasCerradas(const QString &texto, const QStringList &sistemas);

@@ -17,7 +17,11 @@ constexpr int LargoDeTerminacion = 4; // ".zip"
 
 QString FicheroDeEntrada(const Modulo &M, int tipo, const QString &entrada)
 {
-    const int nota = NotaConTexto(M, entrada);
+    return FicheroDeEntrada(M, tipo, entrada, NotaConTexto(M, entrada));
+}
+
+QString FicheroDeEntrada(const Modulo &M, int tipo, const QString &entrada, int nota)
+{
     if (nota < 0)
         return entrada;
     return host::upper(M.Nota_Clave(nota)) + (UnZipPorJuego(tipo) ? u".zip"_s : QString());

@@ -14,6 +14,9 @@ namespace core {
 // types that list ZIPs, or the entry as it stands.
 QString FicheroDeEntrada(const Modulo &M, int tipo, const QString &entrada);
 
+// The same where the first note with this text is known; -1 is none.
+QString FicheroDeEntrada(const Modulo &M, int tipo, const QString &entrada, int nota);
+
 // The key of a first description: the upper-cased name, of the types that list ZIPs without its last four
 // characters, also where these are no ending.
 QString ClaveNueva(int tipo, const QString &entrada);

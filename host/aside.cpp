@@ -1,8 +1,11 @@
 #include "host/aside.h"
 
 #include "host/descriptor.h"
+#include "host/encoding.h"
+#include "host/failure.h"
 #include "host/retried.h"
 
+#include <algorithm>
 #include <csignal>
 
 #include <fcntl.h>
@@ -58,15 +61,27 @@ void writeWithoutWaiting(int descriptor, const QByteArray &bytes)
     }
 }
 
+// Only a plain file of the user's own, not a link nor one of several names.
+bool isOurs(const Descriptor &file, struct stat &status)
+{
+    return file.isOpen() && fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode)
+        && status.st_uid == geteuid() && status.st_nlink == 1;
+}
+
+Descriptor openAside(const QByteArray &path, int flags)
+{
+    return Descriptor(retried([&] {
+        return open(path.constData(), flags | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, 0600);
+    }));
+}
+
 void addToFile(const QByteArray &path, const QByteArray &bytes)
 {
     if (!path.startsWith('/'))
         return;
-    constexpr int flags = O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-    const Descriptor file(retried([&] { return open(path.constData(), flags, 0600); }));
+    const Descriptor file = openAside(path, O_WRONLY | O_APPEND | O_CREAT);
     struct stat status { };
-    if (!file.isOpen() || fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode)
-        || status.st_uid != geteuid() || status.st_nlink != 1)
+    if (!isOurs(file, status))
         return;
     if (status.st_size > MostOfAsideFile && ftruncate(file.number(), 0) != 0)
         return;
@@ -82,6 +97,25 @@ void tellAside(const QByteArray &line)
     const QByteArray bytes = line + '\n';
     writeWithoutWaiting(STDERR_FILENO, bytes);
     addToFile(qgetenv(AsideFileVariable), bytes);
+}
+
+std::optional<QByteArray> readAside(const QByteArray &path)
+{
+    constexpr qint64 most = 4 * MostOfAsideFile;
+    struct stat status { };
+    if (!path.startsWith('/'))
+        return std::nullopt;
+    if (lstat(path.constData(), &status) != 0)
+        throw Failure(FileNotFound, QStringLiteral("open a file"), nameFromDisk(path));
+    const Descriptor file = openAside(path, O_RDONLY);
+    if (!isOurs(file, status))
+        return std::nullopt;
+    QByteArray bytes(std::min<qint64>(status.st_size, most), Qt::Uninitialized);
+    const off_t from = status.st_size - bytes.size();
+    const ssize_t taken =
+        retried([&] { return pread(file.number(), bytes.data(), static_cast<size_t>(bytes.size()), from); });
+    bytes.truncate(std::max<ssize_t>(taken, 0));
+    return bytes;
 }
 
 } // namespace host

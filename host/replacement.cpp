@@ -97,7 +97,7 @@ void Replacement::lock()
     const QString holder = lockHolder(m_directory.number());
     throw Failure(PermissionDenied,
         u"rewrite a file, as another program"_s + (holder.isEmpty() ? QString() : u" ("_s + holder + u')')
-            + u" has kept its directory locked for 10 seconds"_s,
+            + KeptLocked,
         m_path);
 }
 
@@ -157,7 +157,7 @@ void Replacement::mustBeAsRead() const
     if (!stands && errno != ENOENT)
         fail(u"look at a file that is to be rewritten"_s);
     if (stands != m_old.has_value() || (stands && !isUnchanged(m_old->status, now)))
-        throw Failure(PathAccess, u"rewrite a file that another program has changed meanwhile"_s, m_path);
+        throw Failure(PathAccess, ChangedMeanwhile, m_path);
 }
 
 void Replacement::mustBeAsWritten() const

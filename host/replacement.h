@@ -10,6 +10,11 @@
 
 namespace host {
 
+// What two of its failures say was being done; the second one is the end of it.
+inline const QString ChangedMeanwhile =
+    QStringLiteral("rewrite a file that another program has changed meanwhile");
+inline const QString KeptLocked = QStringLiteral(" has kept its directory locked for 10 seconds");
+
 // From its making to its end it holds the lock on the directory, which other copies of the program wait for.
 // What it fails with names the path as it was typed. A scratch file that it made doesn't outlive it.
 class Replacement {

@@ -66,6 +66,7 @@ void Cronica::Fallo(const QString &motivo)
 
 void Cronica::Final(const host::ProcessEnd &final, double segundos)
 {
+    m_partida.acabada = true;
     m_partida.final = final;
     m_partida.segundos = segundos;
     const QString duracion = QString::number(segundos, 'f', 1);
@@ -98,6 +99,7 @@ void apunta(Partida &partida, const QString &suceso, const QStringList &resto)
     } else if (suceso == u"failed") {
         partida.fallo = resto.value(0);
     } else if (suceso == u"status" || suceso == u"signal") {
+        partida.acabada = true;
         (suceso == u"signal" ? partida.final.signal : partida.final.status) = numero(resto.value(0));
         partida.segundos = resto.value(2).toDouble();
     }

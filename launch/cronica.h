@@ -15,6 +15,10 @@
 
 namespace launch {
 
+// How the reason begins where there is no executable, its path behind it, and where it didn't start.
+inline const QString SinEjecutable = QStringLiteral("There is no executable ");
+inline const QString NoArranco = QStringLiteral("Failed to start a program: ");
+
 struct Partida {
     QString momento; // the local time of its beginning
     QString sistema;
@@ -23,6 +27,7 @@ struct Partida {
     QStringList argumentos; // as the emulator got them; empty if it came to no start
     QString directorio;
     QString fallo; // why it didn't start; empty if it did
+    bool acabada = false; // it was seen to end, also where how isn't known
     host::ProcessEnd final; // how the emulator ended, if it has
     double segundos = 0; // that it ran
 };

@@ -350,7 +350,7 @@ void ObrasDeVerdad::Arranca(const LineaDeOrden &orden, const QString &exe)
 {
     const Encargo encargo = EncargoDe(orden);
     if (encargo.argumentos.isEmpty()) {
-        m_cronica.Fallo(u"There is no executable "_s + exe);
+        m_cronica.Fallo(SinEjecutable + exe);
         return;
     }
     if (encargo.traba != Traba::Ninguna) {

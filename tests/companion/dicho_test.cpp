@@ -89,7 +89,7 @@ TEST_F(Command, AnExecutableWithoutTheRightToRunIsSaid)
     Pon(u"emu/uno.sh"_s, "no program");
     QFile::setPermissions(Ruta(u"emu/uno.sh"_s), QFile::ReadOwner);
     const QJsonObject mario = Json({ u"command"_s, u"Sis"_s, u"Uno"_s, u"Mario"_s }, companion::Hallazgos);
-    EXPECT_TRUE(mario[u"problem"_s].toString().contains(u"start a program"_s));
+    EXPECT_TRUE(mario[u"problem"_s].toString().contains(u"lacks the right"_s));
 }
 
 TEST_F(Command, AZipIsToldWithWhatIsInIt_AndStaysPacked)

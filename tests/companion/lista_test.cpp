@@ -1,7 +1,11 @@
 // zembro list.
 #include "mesadepruebas.h"
 
+#include "host/encoding.h"
+
 #include <QJsonArray>
+
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -102,4 +106,57 @@ TEST_F(List, AnEmptyCatalogueHasNothingToList)
 {
     Pon(u"Zembro.emu"_s, "'------\r\n[EOF]\r\n");
     EXPECT_EQ(Json({ u"list"_s })[u"pairs"_s].toArray().size(), 0);
+}
+
+TEST_F(List, OfNamesThatDifferInCaseAloneTheOneThatIsPlayedIsTold)
+{
+    Pon(u"roms/ZELDA.NES"_s, "other");
+    Pon(u"roms/zelda.nes"_s, "lower");
+    const QJsonArray juegos = Json({ u"list"_s, u"Sis"_s, u"Uno"_s })[u"pairs"_s][0][u"games"_s].toArray();
+    int iguales = 0;
+    for (const QJsonValue &juego : juegos) {
+        const QString entrada = juego[u"entry"_s].toString();
+        if (entrada.compare(u"zelda.nes"_s, Qt::CaseInsensitive) != 0)
+            continue;
+        ++iguales;
+        const QJsonObject dicho = Json({ u"command"_s, u"Sis"_s, u"Uno"_s, entrada });
+        EXPECT_EQ(dicho[u"entry"_s].toString(), entrada);
+        EXPECT_EQ(dicho[u"arguments"_s].toArray().last().toString(),
+            Ruta(u"roms/"_s) + juego[u"file"_s].toString());
+    }
+    EXPECT_EQ(iguales, 3);
+}
+
+TEST_F(List, NamesWithABackslashAndBytesThatAreNoTextAreToldWhole_AndTakenBack)
+{
+    Pon(u"roms/a\\b.nes"_s, "x");
+    const QByteArray ruta = Ruta(u"roms/"_s).toUtf8() + "caf\xe9.nes";
+    std::FILE *fichero = std::fopen(ruta.constData(), "w");
+    ASSERT_NE(fichero, nullptr);
+    std::fclose(fichero);
+    const QJsonArray juegos = Json({ u"list"_s, u"Sis"_s, u"Uno"_s })[u"pairs"_s][0][u"games"_s].toArray();
+    EXPECT_EQ(juegos[0][u"file"_s].toString(), u"a\\b.nes"_s);
+    const QByteArray salida = Zembro({ u"list"_s, u"Sis"_s, u"Uno"_s }).salida;
+    ASSERT_TRUE(salida.contains("caf\\xE9.nes\t")) << salida.toStdString();
+    const QString deJson = juegos[1][u"entry"_s].toString();
+    for (const QString &texto : { u"caf\\xE9.nes"_s, host::nameFromDisk("caf\xe9.nes"),
+             host::nameFromDisk(deJson.toUtf8()), u"a\\b.nes"_s }) {
+        const QJsonObject dicho = Json({ u"command"_s, u"Sis"_s, u"Uno"_s, texto });
+        EXPECT_EQ(dicho[u"entry"_s].toString(), texto.startsWith(u'a') ? texto : deJson);
+    }
+    std::remove(ruta.constData()); // which the directory's own removal doesn't see
+}
+
+TEST_F(List, ACaptureThatDoesNotShowIsNotTold)
+{
+    // Of two notes with one text the last one's shows, and only where both are there.
+    Cambia(u"Zembro.rom"_s, "Super Mario\"\r\n", "Super Mario\"\r\nZELDA.NES,\"Super Mario\"\r\n");
+    const auto captura = [&] {
+        return Json({ u"list"_s, u"Sis"_s, u"Uno"_s })[u"pairs"_s][0][u"games"_s][0][u"capture"_s].toString();
+    };
+    EXPECT_EQ(captura(), QString());
+    Pon(u"img/Zelda.gif"_s, "GIF89a");
+    EXPECT_EQ(captura(), Ruta(u"img/Zelda.gif"_s));
+    Borra(u"img/mario.gif"_s);
+    EXPECT_EQ(captura(), QString());
 }

@@ -12,6 +12,9 @@
 
 #include <memory>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -71,7 +74,49 @@ TEST_F(Why, AStartThatFailedIsSaid)
     Pon(u"log"_s, Empieza + "zembrolix 2026-01-02T03:04:06 7.1 failed 'There is no executable /x'\n");
     const Respuesta respuesta = Zembro({ u"why"_s });
     EXPECT_EQ(respuesta.estado, companion::Hallazgos);
-    EXPECT_TRUE(respuesta.salida.endsWith("Doesn't start: There is no executable /x\n"));
+    EXPECT_TRUE(respuesta.salida.endsWith(
+        "Doesn't start: There is no program /x; correct its path in the configuration.\n"));
+}
+
+TEST_F(Why, AnEndThatNobodySawHowIsNoRunThatGoesOn)
+{
+    Pon(u"log"_s, Empieza + "zembrolix 2026-01-02T03:04:06 7.1 status unknown after 60.0\n");
+    EXPECT_TRUE(
+        Zembro({ u"why"_s }).salida.endsWith("The emulator ended after 60.0 seconds; how isn't known.\n"));
+    EXPECT_EQ(Json({ u"why"_s })[u"seconds"_s].toDouble(), 60);
+}
+
+TEST_F(Why, WhatTheProgramLacksIsSaidBehindAStartThatFailed_AndBehindItsLoadersStatus)
+{
+    PonGuion(u"emu/uno.sh"_s, "");
+    Pon(u"emu/uno.sh"_s, "#!/no/such/shell\n");
+    const QByteArray programa = Ruta(u"emu/uno.sh"_s).toUtf8();
+    const QByteArray empieza = "zembrolix T 7.1 game a b c\nzembrolix T 7.1 start " + programa + "\n";
+    for (const QByteArray &final : { "failed 'Failed to start a program: " + programa + "'\n",
+             QByteArray("status 127 after 0.0\n"), QByteArray("status 126 after 0.0\n") }) {
+        Pon(u"log"_s, empieza + "zembrolix T 7.1 " + final);
+        EXPECT_TRUE(
+            Zembro({ u"why"_s }).salida.contains(programa + " needs /no/such/shell, which isn't there"))
+            << Zembro({ u"why"_s }).salida.toStdString();
+    }
+    Pon(u"log"_s, empieza + "zembrolix T 7.1 status 1 after 0.0\n");
+    EXPECT_FALSE(Zembro({ u"why"_s }).salida.contains("/no/such/shell"));
+}
+
+TEST_F(Why, AFileThatNothingIsWrittenToIsNotRead)
+{
+    Pon(u"true"_s, Empieza);
+    for (const auto enlaza : { ::symlink, ::link }) {
+        QFile::remove(Ruta(u"log"_s));
+        ASSERT_EQ(enlaza(Ruta(u"true"_s).toUtf8().constData(), Ruta(u"log"_s).toUtf8().constData()), 0);
+        const Respuesta respuesta = Zembro({ u"why"_s });
+        EXPECT_EQ(respuesta.estado, companion::NoPudo);
+        EXPECT_TRUE(respuesta.error.startsWith("zembro: Nothing is kept in " + Ruta(u"log"_s).toUtf8()))
+            << respuesta.error.toStdString();
+    }
+    QFile::remove(Ruta(u"log"_s));
+    ASSERT_EQ(mkfifo(Ruta(u"log"_s).toUtf8().constData(), 0600), 0);
+    EXPECT_EQ(Zembro({ u"why"_s }).estado, companion::NoPudo);
 }
 
 TEST_F(Why, WithoutLinesItCouldNotTell)
@@ -191,8 +236,8 @@ TEST_F(Play, AStartThatFailsIsSaid)
     Cambia(u"Zembro.emu"_s, "emu/uno.sh", "emu/one.sh");
     const Respuesta respuesta = Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"Zelda.nes"_s });
     EXPECT_EQ(respuesta.estado, companion::NoPudo);
-    EXPECT_TRUE(respuesta.error.endsWith(
-        "zembro: Doesn't start: There is no executable " + Ruta(u"emu/one.sh"_s).toUtf8() + "\n"))
+    EXPECT_TRUE(respuesta.error.endsWith("zembro: Doesn't start: There is no program "
+        + Ruta(u"emu/one.sh"_s).toUtf8() + "; correct its path in the configuration.\n"))
         << respuesta.error.toStdString();
 }
 

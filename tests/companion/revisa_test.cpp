@@ -1,10 +1,8 @@
 // zembro check.
-#include "mesadepruebas.h"
+#include "mesaderevision.h"
 
 #include "companion/diferencia.h"
 #include "companion/eleccion.h"
-
-#include "core/textos.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -13,42 +11,16 @@
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::UnorderedElementsAre;
-
-namespace {
-
-class Check : public MesaConJuegos {
-protected:
-    Check()
-    {
-        Pon(u"Zembro.sye"_s, "-Sis\r\n*.NES\r\n'\r\n+Uno\r\n'------\r\n[EOF]\r\n");
-        QByteArray idioma;
-        for (const core::ClaveDeTexto &clave : core::ClavesDeTexto())
-            idioma += clave.nombre.toString().leftJustified(core::AnchoClave, u'.').toUtf8() + "=\"x \"\r\n";
-        Pon(u"LNG/ZB-ENG.LNG"_s, idioma);
-        Pon(u"img/Sonic.gif"_s, "GIF89a");
-    }
-
-    QStringList clases(const QStringList &argumentos = { u"check"_s }) const
-    {
-        const Respuesta respuesta = Zembro(argumentos + QStringList { u"--json"_s });
-        QStringList todas;
-        for (const QJsonValue &uno : QJsonDocument::fromJson(respuesta.salida)[u"findings"_s].toArray())
-            todas += uno[u"kind"_s].toString();
-        EXPECT_EQ(respuesta.estado, todas.isEmpty() ? companion::Bien : companion::Hallazgos);
-        return todas;
-    }
-    QByteArray dicho() const { return Zembro({ u"check"_s }).salida; }
-};
-
-} // namespace
 
 TEST_F(Check, WhatIsInOrderIsNoFinding_AndIsCounted)
 {
     EXPECT_THAT(clases(), IsEmpty());
     EXPECT_EQ(dicho(),
         "Sis / Dos: 1 listed, 0 of another kind, 0 left out by the filters, 0 without a capture.\n"
-        "Sis / Uno: 3 listed, 1 of another kind, 0 left out by the filters, 2 without a capture.\n");
+        "Sis / Uno: 3 listed, 1 of another kind, 0 left out by the filters, 2 without a capture.\n"
+        "    Zelda II.nes has no capture; it is looked for as "
+            + Ruta(u"img/Zelda II.GIF"_s).toUtf8() + "\n    Zelda.nes has no capture; it is looked for as "
+            + Ruta(u"img/Zelda.GIF"_s).toUtf8() + '\n');
 }
 
 TEST_F(Check, PathsFromTheProgramsDirectoryAreLookedAtThere)
@@ -67,8 +39,8 @@ TEST_F(Check, AMistypedExecutableIsSaid_WithTheOneThatIsMeant)
     Cambia(u"Zembro.emu"_s, "emu/uno.sh", "emu/unno.sh");
     EXPECT_THAT(
         clases({ u"check"_s, u"Sis"_s, u"Uno"_s }), ElementsAre(u"no-program"_s, u"similar-program"_s));
-    EXPECT_TRUE(
-        dicho().contains("Sis / Uno: Perhaps this one is meant: " + Ruta(u"emu/uno.sh"_s).toUtf8() + '\n'))
+    EXPECT_TRUE(dicho().contains(
+        "Zembro.emu:6: Sis / Uno: Perhaps this one is meant: " + Ruta(u"emu/uno.sh"_s).toUtf8() + '\n'))
         << dicho().toStdString();
 }
 
@@ -225,20 +197,6 @@ TEST_F(Check, CapturesOfAnotherSpellingOrOfNoGameAreSaid)
     EXPECT_TRUE(todo.contains("The capture Luigi.gif fits no game.\n")) << todo.toStdString();
 }
 
-TEST_F(Check, SettingsOutOfRangeAreSaid)
-{
-    Cambia(u"Zembro.cfg"_s, "DebugMode = 0", "DebugMode = 7");
-    EXPECT_THAT(clases(), ElementsAre(u"setting-out-of-range"_s));
-    EXPECT_TRUE(dicho().startsWith("Zembro.cfg:18: ")) << dicho().toStdString();
-}
-
-TEST_F(Check, KeysShortLinesAndLostBlanksOfLanguagesAreSaid)
-{
-    Cambia(u"LNG/ZB-ENG.LNG"_s, "TXT_Grabar........=\"x \"\r\n", "TXT\r\n");
-    Cambia(u"LNG/ZB-ENG.LNG"_s, "Msg_BorrarEmu1....=\"x \"", "Msg_BorrarEmu1....=\"x\"");
-    EXPECT_THAT(clases(), UnorderedElementsAre(u"short-line"_s, u"missing-key"_s, u"lost-blank"_s));
-}
-
 TEST_F(Check, ParametersThatNoLaunchFindsAreSaid)
 {
     Cambia(u"Zembro.rom"_s, "especificos\r\n",
@@ -300,4 +258,15 @@ TEST(Diferencia, ShowsWhatChangesWithThreeLinesAround)
     EXPECT_EQ(companion::Diferencia(u"f"_s, u"a\r\n"_s, u"a\r\n"_s), QStringList());
     EXPECT_EQ(companion::Diferencia(u"f"_s, QString(), u"a\n"_s),
         QStringList({ u"--- f"_s, u"+++ f"_s, u"@@ -0,0 +1,1 @@"_s, u"+a"_s }));
+}
+
+TEST(Diferencia, ShowsEndsOfLinesWhereNothingElseChanges)
+{
+    EXPECT_EQ(companion::Diferencia(u"f"_s, u"1\r\n2\r\n"_s, u"1\r\n2\n"_s),
+        QStringList({ u"--- f"_s, u"+++ f"_s, u"@@ -1,2 +1,2 @@"_s, u" 1\r"_s, u"-2\r"_s, u"+2"_s }));
+    EXPECT_EQ(companion::Diferencia(u"f"_s, u"1\n"_s, u"1"_s),
+        QStringList({ u"--- f"_s, u"+++ f"_s, u"@@ -1,1 +1,1 @@"_s, u"-1"_s,
+            u"+1  \\ No newline at end of file"_s }));
+    EXPECT_EQ(companion::Diferencia(u"f"_s, u"1\n2\n"_s, u"1\r\nx\n"_s),
+        QStringList({ u"--- f"_s, u"+++ f"_s, u"@@ -1,2 +1,2 @@"_s, u" 1"_s, u"-2"_s, u"+x"_s }));
 }

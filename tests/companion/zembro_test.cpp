@@ -1,6 +1,8 @@
 // zembro from its command line to its status, and the program itself.
 #include "mesadepruebas.h"
 
+#include "companion/ordenes.h"
+
 #include "host/paths.h"
 
 #include <QJsonArray>
@@ -181,4 +183,32 @@ TEST_F(Zembro_, TheProgramLoadsNothingThatDraws)
     EXPECT_TRUE(bibliotecas.contains("libQt6Core"));
     for (const char *dibuja : { "libQt6Gui", "libQt6Widgets", "libxcb", "libX11", "libGL" })
         EXPECT_FALSE(bibliotecas.contains(dibuja)) << dibuja;
+}
+
+TEST_F(Zembro_, WithoutACommandJsonSaysSo_AndOfHelpAndVersionItIsJsonToo)
+{
+    EXPECT_EQ(
+        Json({}, companion::NoPudo)[u"error"_s].toString(), u"Name a command; zembro help lists them."_s);
+    EXPECT_EQ(Json({ u"--version"_s })[u"version"_s].toString(), QStringLiteral(ZEMBRO_VERSION));
+    EXPECT_GT(Json({ u"--help"_s })[u"commands"_s].toArray().size(), 5);
+    EXPECT_EQ(Json({ u"list"_s, u"--help"_s })[u"commands"_s].toArray().size(), 1);
+}
+
+TEST_F(Zembro_, HelpTellsOfTheEndOfTheOptions)
+{
+    EXPECT_TRUE(Zembro({ u"play"_s, u"--help"_s }).salida.contains("\n  --  "));
+}
+
+TEST_F(Zembro_, AnAnswerThatCannotBeWrittenIsSaid_OfEveryCommand)
+{
+    for (const companion::Orden *orden : companion::Ordenes()) {
+        QProcess zembro;
+        zembro.setStandardInputFile(QProcess::nullDevice());
+        zembro.setStandardOutputFile(u"/dev/full"_s);
+        zembro.start(QStringLiteral(ZEMBRO), { orden->nombre, u"--help"_s });
+        ASSERT_TRUE(zembro.waitForFinished());
+        EXPECT_EQ(zembro.exitCode(), companion::NoPudo) << orden->nombre.toStdString();
+        EXPECT_EQ(
+            zembro.readAllStandardError(), "zembro: The answer can't be written: No space left on device\n");
+    }
 }

@@ -1,7 +1,10 @@
 // From an entry of the list back to its file: the look-up, the line of facts, the capture's path.
+#include "azar.h"
 #include "directoriodeprograma.h"
 
 #include "core/info.h"
+#include "core/listado.h"
+#include "core/notas.h"
 
 #include "host/paths.h"
 
@@ -360,4 +363,42 @@ TEST(InfoQueCabe, ANameWithoutEnd_AsksForNoMoreThanAFewLines)
     const QString queda = core::InfoQueCabe(QString(1'000'000, u'x') + u" 1Kb  [NOR]"_s, cabe);
     EXPECT_EQ(queda, QString(9, u'x') + u'…' + QString(9, u'x') + u" 1Kb  [NOR]"_s);
     EXPECT_LT(preguntas, 20);
+}
+
+TEST_F(Informacion, NotesByTheirTextsAnswerAsTheWalkThroughAllOfThem)
+{
+    Dado dado(7);
+    const QStringList claves { u""_s, u"A.BIN"_s, u"b.bin"_s, u"C.ZIP"_s };
+    const QStringList textos { u""_s, u"One"_s, u"Two"_s, u"one"_s, u"A.BIN"_s };
+    for (int mundo = 0; mundo < 500; ++mundo) {
+        core::VaciaLista(M);
+        const int notas = dado.hasta(8);
+        for (int i = 0; i < notas; ++i) {
+            M.Nota_Clave(i) = claves[dado.hasta(int(claves.size()) - 1)];
+            M.Nota_Texto(i) = textos[dado.hasta(int(textos.size()) - 1)];
+        }
+        const core::NotasPorTexto porTexto(M);
+        for (const QString &texto : textos) {
+            QStringList halladas;
+            porTexto.Busca(texto, [&halladas](const FichaDeROM &ficha) {
+                halladas += ficha.conNota ? ficha.nombre + u'*' : ficha.nombre;
+            });
+            ASSERT_EQ(halladas, Buscadas(texto));
+            ASSERT_EQ(porTexto.Primera(texto), core::NotaConTexto(M, texto));
+        }
+    }
+}
+
+TEST_F(Informacion, NotesByTheirTextsRunOffAFullTableToo)
+{
+    for (int i = 0; i < M.Nota_Clave.tamaño(); ++i) {
+        M.Nota_Clave(i) = u"K"_s + QString::number(i);
+        M.Nota_Texto(i) = i == 5 ? u"One"_s : u"Many"_s;
+    }
+    const core::NotasPorTexto porTexto(M);
+    int visitas = 0;
+    EXPECT_THROW(porTexto.Busca(u"One"_s, [&](const FichaDeROM &) { ++visitas; }), host::Failure);
+    EXPECT_EQ(visitas, 1);
+    EXPECT_EQ(porTexto.Primera(u"One"_s), 5);
+    EXPECT_EQ(porTexto.Primera(u"None"_s), -1);
 }

@@ -83,6 +83,30 @@ TEST_F(AsideTest, NothingButAPlainFileOfTheUsersOwnIsWrittenTo)
     host::tellAside("one");
 }
 
+TEST_F(AsideTest, WhatIsWrittenIsRead_AndNothingOfAFileThatNothingIsWrittenTo)
+{
+    EXPECT_EQ(failureOf([&] { host::readAside(place("log")); }), host::FileNotFound);
+    host::tellAside("one");
+    EXPECT_EQ(host::readAside(place("log")), "one\n");
+    EXPECT_EQ(host::readAside("log"), std::nullopt);
+    ASSERT_EQ(link(place("log").constData(), place("second").constData()), 0);
+    EXPECT_EQ(host::readAside(place("log")), std::nullopt);
+    ASSERT_EQ(unlink(place("log").constData()), 0);
+    ASSERT_EQ(symlink(place("second").constData(), place("log").constData()), 0);
+    EXPECT_EQ(host::readAside(place("log")), std::nullopt);
+    ASSERT_EQ(unlink(place("log").constData()), 0);
+    ASSERT_EQ(mkfifo(place("log").constData(), 0600), 0);
+    EXPECT_EQ(host::readAside(place("log")), std::nullopt);
+}
+
+TEST_F(AsideTest, OfALongFileTheEndIsRead)
+{
+    makeFile("log", QByteArray(5 * host::MostOfAsideFile, 'x') + "end");
+    const QByteArray read = host::readAside(place("log")).value_or(QByteArray());
+    EXPECT_EQ(read.size(), 4 * host::MostOfAsideFile);
+    EXPECT_TRUE(read.endsWith("xend"));
+}
+
 TEST_F(AsideTest, ALongFileBeginsAnew)
 {
     makeFile("log", QByteArray(host::MostOfAsideFile + 1, 'x'));

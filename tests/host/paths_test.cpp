@@ -1,5 +1,7 @@
 #include "disktest.h"
 
+#include "host/encoding.h"
+#include "host/namesin.h"
 #include "host/paths.h"
 
 #include <unistd.h>
@@ -290,4 +292,22 @@ TEST_F(Finding, ADirectorysPathIsAbsoluteInItsTrueSpellingWithoutAClosingSeparat
     EXPECT_EQ(directoryPath(u"."_s), path());
     for (const QString &none : { QString(), path(u"none"_s), path(u"file"_s) })
         EXPECT_EQ(failureOf([&none] { directoryPath(none); }), PathNotFound) << none.toStdString();
+}
+
+TEST_F(Finding, NamesInADirectoryAreSpelledAsTheirWholePathsAre)
+{
+    for (const char *name : { "Game.nes", "game.NES", "A B.c.d", "a\\b", "caf\xe9", "dot." })
+        makeFile(name);
+    makeDirectory("Sub");
+    makeFile("Sub/inner");
+    for (const QString &directory :
+        { path() + u'/', path(), path() + u"/sub/"_s, path() + u"/none/"_s, u""_s }) {
+        const NamesIn names(directory);
+        for (const QString &name : { u"Game.nes"_s, u"GAME.NES"_s, u"game.nes"_s, u"a_b_c.d"_s, u"A B.C.D"_s,
+                 u"a\\b"_s, u"sub\\inner"_s, u"Sub/inner"_s, u"none"_s, u""_s, u"."_s, u".."_s, u"dot"_s,
+                 u"dot."_s, u"game.nes. "_s, u"sub"_s, u"sub/"_s, u"/Game.nes"_s, nameFromDisk("caf\xe9"),
+                 QString(300, u'x'), QString(QChar::Null) })
+            EXPECT_EQ(names.trueSpelling(directory + name), trueSpelling(directory + name))
+                << directory.toStdString() << ' ' << name.toStdString();
+    }
 }

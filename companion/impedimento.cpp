@@ -1,0 +1,168 @@
+#include "companion/impedimento.h"
+
+#include "core/clasedeprograma.h"
+
+#include "host/encoding.h"
+#include "host/failure.h"
+#include "host/numberedfiles.h"
+#include "host/paths.h"
+#include "host/process.h"
+
+#include <QProcess>
+#include <QtEndian>
+
+using namespace Qt::StringLiterals;
+
+namespace companion {
+
+namespace {
+
+constexpr qint64 Principio = 4096; // bytes of a program that are looked at
+
+bool seEjecuta(const QString &nombre)
+{
+    try {
+        host::findProgram(nombre);
+        return true;
+    } catch (const host::Failure &) {
+        return false;
+    }
+}
+
+// The interpreter that a script's first line names: its path, and what `env` would look for.
+QString interpreteQueFalta(const QByteArray &principio)
+{
+    // As the system reads it: a CR at the end of the line belongs to the name.
+    const QByteArray linea = principio.sliced(2, std::max<qsizetype>(principio.indexOf('\n'), 2) - 2);
+    QByteArrayList partes;
+    for (const QByteArray &parte : QByteArray(linea).replace('\t', ' ').split(' ')) {
+        if (!parte.isEmpty())
+            partes += parte;
+    }
+    const QString interprete = host::nameFromDisk(partes.value(0));
+    if (interprete.isEmpty() || !host::exists(interprete) || !seEjecuta(interprete))
+        return interprete.isEmpty() ? u"#!"_s : interprete;
+    const QString pedido = host::nameFromDisk(partes.value(1));
+    const bool deEntorno = interprete.endsWith(u"/env") && !pedido.startsWith(u'-') && !pedido.contains(u'=');
+    return deEntorno && !pedido.isEmpty() && !seEjecuta(pedido) ? pedido : QString();
+}
+
+// The loader that a program of 64 bits names in its table of parts; empty for one that names none.
+QString cargadorDe(const QByteArray &principio)
+{
+    constexpr qsizetype cabecera = 64;
+    constexpr qsizetype entrada = 56;
+    constexpr quint32 interprete = 3;
+    if (principio.size() < cabecera || principio[4] != 2 || principio[5] != 1)
+        return {};
+    const auto numero = [&](auto tipo, qsizetype donde) {
+        return qFromLittleEndian<decltype(tipo)>(principio.constData() + donde);
+    };
+    const quint64 tabla = numero(quint64(), 32);
+    const quint16 partes = numero(quint16(), 56);
+    for (quint16 i = 0; i < partes; ++i) {
+        const quint64 donde = tabla + quint64(i) * entrada;
+        if (tabla > quint64(Principio) || donde + entrada > quint64(principio.size()))
+            return {};
+        if (numero(quint32(), qsizetype(donde)) != interprete)
+            continue;
+        const quint64 sitio = numero(quint64(), qsizetype(donde) + 8);
+        const quint64 largo = numero(quint64(), qsizetype(donde) + 32);
+        if (sitio > quint64(principio.size()) || largo > quint64(principio.size()) - sitio || largo == 0)
+            return {};
+        return host::nameFromDisk(principio.sliced(qsizetype(sitio), qsizetype(largo) - 1));
+    }
+    return {};
+}
+
+// What our own loader, which runs nothing of the program, doesn't find for it.
+QStringList bibliotecasQueFaltan(const QString &cargador, const QString &programa)
+{
+    constexpr int paciencia = 5'000; // milliseconds
+    QStringList faltan;
+    QProcess lista;
+    lista.setStandardInputFile(QProcess::nullDevice());
+    QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
+    entorno.insert(u"LC_ALL"_s, u"C"_s);
+    lista.setProcessEnvironment(entorno);
+    lista.start(cargador, { u"--list"_s, programa });
+    if (!lista.waitForFinished(paciencia)) {
+        lista.kill();
+        lista.waitForFinished(paciencia);
+        return faltan;
+    }
+    for (const QByteArray &linea : lista.readAllStandardOutput().split('\n')) {
+        const qsizetype flecha = linea.indexOf(" => not found");
+        if (flecha > 0)
+            faltan += host::nameFromDisk(linea.first(flecha).trimmed());
+    }
+    // Where it asks a library for its versions, it stops at the first one that is missing.
+    const QByteArray aviso = "error while loading shared libraries: ";
+    const QByteArray error = lista.readAllStandardError();
+    const qsizetype desde = error.indexOf(aviso);
+    const qsizetype hasta = error.indexOf(": cannot open shared object file");
+    if (faltan.isEmpty() && desde >= 0 && hasta > desde)
+        faltan += host::nameFromDisk(error.first(hasta).sliced(desde + aviso.size()));
+    return faltan;
+}
+
+bool esDirectorio(const QString &ruta)
+{
+    try {
+        host::directoryPath(ruta);
+        return true;
+    } catch (const host::Failure &) {
+        return false;
+    }
+}
+
+} // namespace
+
+std::vector<Impedimento> LoQueLeFalta(const QString &programa, const Palabras &palabras)
+{
+    QByteArray principio;
+    QByteArray propio;
+    try {
+        principio = host::readBytes(programa, Principio);
+        propio = host::readBytes(u"/proc/self/exe"_s, Principio);
+    } catch (const host::Failure &) {
+        return {}; // one that may be run but not read
+    }
+    if (principio.startsWith("#!")) {
+        const QString falta = interpreteQueFalta(principio);
+        if (falta.isEmpty())
+            return {};
+        return { { u"no-interpreter"_s, palabras.Zbo_SinInterp.arg(programa, falta) } };
+    }
+    const QString cargador = cargadorDe(principio);
+    if (cargador.isEmpty()
+        || core::ClasePorBytes(principio, propio, programa) != core::ClaseDePrograma::DeEstaMaquina)
+        return {};
+    if (!host::exists(cargador))
+        return { { u"no-interpreter"_s, palabras.Zbo_SinInterp.arg(programa, cargador) } };
+    std::vector<Impedimento> faltas;
+    if (cargador == cargadorDe(propio)) {
+        for (const QString &biblioteca : bibliotecasQueFaltan(cargador, programa))
+            faltas.push_back({ u"no-library"_s, palabras.Zbo_SinBiblio.arg(programa, biblioteca) });
+    }
+    return faltas;
+}
+
+std::optional<Impedimento> ImpedimentoDe(const QString &programa, const Palabras &palabras)
+{
+    const QString enDisco = host::trueSpelling(programa);
+    if (enDisco.isEmpty() || !host::exists(programa))
+        return Impedimento { u"no-program"_s, palabras.Zbo_NoHayEXE.arg(programa) };
+    if (esDirectorio(programa))
+        return Impedimento { u"is-directory"_s, palabras.Zbo_EsDirectorio.arg(programa) };
+    if (!seEjecuta(enDisco))
+        return Impedimento { u"not-executable"_s, palabras.Zbo_SinPermiso.arg(programa) };
+    const std::vector<Impedimento> faltas = LoQueLeFalta(enDisco, palabras);
+    if (!faltas.empty())
+        return faltas.front();
+    if (core::ClaseDe(enDisco) == core::ClaseDePrograma::Desconocida)
+        return Impedimento { u"foreign-program"_s, palabras.Zbo_NoEsPrograma.arg(programa) };
+    return std::nullopt;
+}
+
+} // namespace companion

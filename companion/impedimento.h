@@ -1,0 +1,25 @@
+// Why a program doesn't start, or ends at once for want of something.
+#pragma once
+
+#include "companion/palabras.h"
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace companion {
+
+struct Impedimento {
+    QString clase; // a word of English, the same in every language
+    QString texto;
+};
+
+// What a program that is there and may be run lacks: the interpreter of a script, the loader, libraries. By
+// its path as the disk spells it. The program itself isn't started.
+std::vector<Impedimento> LoQueLeFalta(const QString &programa, const Palabras &palabras);
+
+// The first of what keeps the executable of this path from starting; none where nothing is known.
+std::optional<Impedimento> ImpedimentoDe(const QString &programa, const Palabras &palabras);
+
+} // namespace companion

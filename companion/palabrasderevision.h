@@ -1,0 +1,132 @@
+// The words of checking, as companion/palabras.h has the others.
+#pragma once
+
+#include <QString>
+
+namespace companion {
+
+struct PalabrasDeRevision {
+    // Checking.
+    QString Zbo_Check = QStringLiteral("checks the files, and every configured emulator");
+    QString Zbo_OpMend = QStringLiteral("shows how to repair what has one answer only");
+    QString Zbo_OpWrite = QStringLiteral("writes it, instead of showing it");
+    QString Zbo_MendTodo =
+        QStringLiteral("--mend is for the whole directory: leave SYSTEM and EMULATOR out.");
+    QString Zbo_WriteMend = QStringLiteral("Of check, --write goes with --mend alone.");
+    QString Zbo_NoLeida = QStringLiteral("No reader takes this line; correct or remove it: %1");
+    QString Zbo_Repetido = QStringLiteral("This name stands twice; the second one is never found: %1");
+    QString Zbo_ExtLarga = QStringLiteral("An extension of more than three letters fits no file: %1");
+    QString Zbo_SinCierre = QStringLiteral(
+        "The block of %1 has no closing line of an apostrophe and dashes; --mend puts it there.");
+    QString Zbo_SinMarca =
+        QStringLiteral("The line [EOF] behind the last system is missing; --mend puts it there.");
+    QString Zbo_SinApostrofo =
+        QStringLiteral("The notes of %1 have no closing apostrophe; --mend puts it there.");
+    QString Zbo_SinNotas = QStringLiteral(
+        "There is no block of notes for %1, so none of its games is listed; --mend puts one there.");
+    QString Zbo_SinSeccion =
+        QStringLiteral("The section of parameters, or its closing apostrophe, is missing.");
+    QString Zbo_Cortado =
+        QStringLiteral("This record has another number of fields than it needs; a comma cuts it: %1");
+    QString Zbo_SinFichero =
+        QStringLiteral("The note %1 has no file any more; remove it, or bring the file back.");
+    QString Zbo_MalAjuste = QStringLiteral("This setting has a value that the program doesn't take: %1");
+    QString Zbo_SinBlanco =
+        QStringLiteral("The text of %1 has lost the blank at its end, ahead of the quotation mark.");
+    QString Zbo_LineaCorta = QStringLiteral(
+        "This line is too short for a text, and the program ends at it; correct or remove it: %1");
+    QString Zbo_SinClave = QStringLiteral("The key %1 is missing.");
+    QString Zbo_NoHayEXE = QStringLiteral("There is no program %1; correct its path in the configuration.");
+    QString Zbo_Parecido = QStringLiteral("Perhaps this one is meant: %1");
+    QString Zbo_SinPermiso = QStringLiteral("The program %1 can't be run: it lacks the right to (chmod +x).");
+    QString Zbo_OtraMaquina = QStringLiteral("The program %1 is for another processor.");
+    QString Zbo_NoEsPrograma = QStringLiteral("The file %1 is no program that this machine knows.");
+    QString Zbo_SinROMs = QStringLiteral("The machine %1 of MAME lacks ROMs of its own: mame -verifyroms %1");
+    QString Zbo_SinTipo =
+        QStringLiteral("The XDI line doesn't end in a type from 0 to 3 or from 5 to 8; nothing is listed.");
+    QString Zbo_ListaCortada = QStringLiteral("The list is cut: the length of a file can't be had.");
+    QString Zbo_NoSeLista = QStringLiteral("No game can be listed: %1");
+    QString Zbo_DosVeces = QStringLiteral("%1 is listed twice, as two extensions fit its end.");
+    QString Zbo_NadaEncaja = QStringLiteral(
+        "Nothing of %1 files or directories is listed: no extension, or not the type, fits them.");
+    QString Zbo_MismaDesc = QStringLiteral("Several games have the description %1; the first one is played.");
+    QString Zbo_SinCapturas = QStringLiteral("The captures can't be read: %1");
+    QString Zbo_CapturaSola = QStringLiteral("The capture %1 fits no game.");
+    QString Zbo_CapturaMal = QStringLiteral("The capture %1 would be found as %2.");
+    QString Zbo_Cuenta = QStringLiteral(
+        "%1 / %2: %3 listed, %4 of another kind, %5 left out by the filters, %6 without a capture.");
+    QString Zbo_ParPerdidos = QStringLiteral("The parameters of %1 are never found: its name has blanks or "
+                                             "several points, so it needs a description.");
+
+    // What keeps the files from being read as they are meant.
+    QString Zbo_Delante =
+        QStringLiteral("Nothing from this line on is read, as it stands ahead of the first system; put it "
+                       "behind a line that begins with a hyphen, or remove it: %1");
+    QString Zbo_Demasiados =
+        QStringLiteral("Nothing from this line on is read, as there are more than 150: %1");
+    QString Zbo_SinNombre = QStringLiteral("This line names nothing; give it a name, or remove it.");
+    QString Zbo_ExtMala =
+        QStringLiteral("This extension fits no file: it needs capital letters, without blanks: %1");
+    QString Zbo_ExtDetras = QStringLiteral("This extension stands behind an emulator and takes the place of "
+                                           "one ahead of it; move it behind the line of its system: %1");
+    QString Zbo_SinIgual =
+        QStringLiteral("Behind %1 an equal sign is missing, so the first letters of the value are lost: %2");
+    QString Zbo_SinMas = QStringLiteral("No emulator stands ahead of this line in its system, so nobody "
+                                        "reads it; its line that begins with a plus sign may be lost: %1");
+    QString Zbo_DosLineas = QStringLiteral("A second line of %2 for %3, and the first one counts no more; "
+                                           "the line of another emulator may be missing ahead of it: %1");
+    QString Zbo_FaltaLinea = QStringLiteral(
+        "The emulator %1 has no line that begins with %2=; add it, or configure it in the program.");
+    QString Zbo_SinBarra = QStringLiteral("This directory lacks its closing separator, so its name runs into "
+                                          "those of the files; --mend puts it there: %1");
+    QString Zbo_SinEmulador = QStringLiteral("The system %1 has no emulator.");
+    QString Zbo_CatalogoMal =
+        QStringLiteral("The catalogue can't be read to its end; check without a name tells why.");
+    QString Zbo_SinCerrar = QStringLiteral(
+        "The double quotes of this record aren't closed, so it takes in what follows; close them: %1");
+    QString Zbo_SinClaveReg = QStringLiteral(
+        "This record names no game, and none behind it is found; give it a name, or remove it: %1");
+    QString Zbo_NotasAjenas = QStringLiteral("No system of the catalogue or of the database is called so; "
+                                             "correct the name of this block of notes, or remove it: %1");
+    QString Zbo_SinMarcaNot = QStringLiteral("No line that begins with [ ends the notes of the systems, so a "
+                                             "new system gets none; put [EOF] behind the last of them.");
+    QString Zbo_ParDeNadie = QStringLiteral(
+        "The parameters of %1 are for %2 / %3, which isn't configured; correct the names, or remove them.");
+    QString Zbo_ParSinFich =
+        QStringLiteral("The parameters of %1 are of no game any more; remove them, or bring the file back.");
+    QString Zbo_OtroAjuste = QStringLiteral("Here the line of %1 should stand, as the settings are read by "
+                                            "the numbers of their lines; restore brings back an older copy.");
+    QString Zbo_AjustesMal = QStringLiteral(
+        "The program can't read its settings and ends at its start; restore brings back an older copy. %1");
+    QString Zbo_FiltroMalo = QStringLiteral(
+        "This filter leaves no directory out: it needs capital letters, without blanks ahead: %1");
+    QString Zbo_MuchosFiltros =
+        QStringLiteral("With 26 filters or more no directory is listed as a game; remove some.");
+    QString Zbo_ClaveAjena =
+        QStringLiteral("No text of the program has this key; correct it, or remove the line: %1");
+    QString Zbo_ClaveDoble =
+        QStringLiteral("The key %1 stands twice; the text of the second line is the one shown.");
+    QString Zbo_SinComillas = QStringLiteral(
+        "The text of %1 lacks one of its two double quotes, so its first or last letters are lost.");
+    QString Zbo_FaltanPal =
+        QStringLiteral("%1 words of the program are missing, which it then shows as they are built in: %2");
+    QString Zbo_SinIdiomas = QStringLiteral("There is no language file, so the program shows no words.");
+
+    // What keeps a program from starting, and a type from its games.
+    QString Zbo_EsDirectorio = QStringLiteral("%1 is a directory, no program; name the program in it.");
+    QString Zbo_SinInterp = QStringLiteral(
+        "%1 needs %2, which isn't there or may not be run; install it, or correct the first line.");
+    QString Zbo_SinBiblio =
+        QStringLiteral("%1 needs the library %2, which isn't there; install the package that holds it.");
+    QString Zbo_SinExt = QStringLiteral(
+        "The system %1 has no extensions, so no file is listed for this type; add its extensions.");
+    QString Zbo_SoloFicheros =
+        QStringLiteral("The type takes each game in a directory of its own, but in %1 there are only files: "
+                       "%2. Change the type in the configuration.");
+    QString Zbo_SoloDirs = QStringLiteral("The type takes files, but in %1 there are only directories: %2. "
+                                          "Change the type in the configuration.");
+    QString Zbo_FaltaCaptura = QStringLiteral("%1 has no capture; it is looked for as %2");
+    QString Zbo_FaltanMas = QStringLiteral("and %1 more; check SYSTEM EMULATOR names them all");
+};
+
+} // namespace companion

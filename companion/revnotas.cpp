@@ -1,0 +1,243 @@
+// Zembro.rom: the notes of each system, and the parameters of single games.
+#include "companion/revision.h"
+
+#include "core/lineas.h"
+#include "core/notas.h"
+#include "core/remiendos.h"
+#include "core/romelegida.h"
+
+#include "host/letters.h"
+#include "host/paths.h"
+#include "host/textsource.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace companion {
+
+namespace {
+
+const QString Fichero = u"Zembro.rom"_s;
+constexpr qsizetype CamposDeNota = 2;
+constexpr qsizetype CamposDeParametros = 4;
+
+// A line as the field reader takes it.
+struct Registro {
+    QStringList campos;
+    bool abierto = false; // double quotes that the line doesn't close
+};
+
+Registro registroDe(const QString &linea)
+{
+    Registro registro;
+    host::TextSource fuente(linea);
+    while (!fuente.atEnd()) {
+        const QStringView resto = fuente.rest().trimmed();
+        registro.abierto = registro.abierto || (resto.startsWith(u'"') && resto.indexOf(u'"', 1) < 0);
+        registro.campos += fuente.readField();
+    }
+    return registro;
+}
+
+// The names in the directories of games of a system's emulators.
+class Ficheros {
+public:
+    Ficheros(const core::Modulo &M, const QString &sistema)
+    {
+        for (const Pareja &pareja : Parejas(M)) {
+            if (pareja.nombreSistema != sistema)
+                continue;
+            try {
+                for (const QString &nombre : host::listFilesAndDirectories(DirectorioDeJuegos(M, pareja)))
+                    m_nombres.insert(host::upper(nombre));
+                m_hay = true;
+            } catch (const host::Failure &) {
+                m_todos = false; // told of the pair
+            }
+        }
+    }
+
+    // False too where a directory can't be listed.
+    bool Falta(const QString &clave) const
+    {
+        const QString mayus = host::upper(clave);
+        return m_hay && m_todos && !m_nombres.contains(mayus) && !m_nombres.contains(mayus + u".ZIP"_s);
+    }
+
+private:
+    QSet<QString> m_nombres;
+    bool m_hay = false;
+    bool m_todos = true;
+};
+
+class RevisorDeNotas {
+public:
+    RevisorDeNotas(const Sesion &sesion, const std::vector<core::LineaConFin> &lineas,
+        const QStringList &sistemas, Revision &revision)
+        : M(sesion.M)
+        , m_palabras(sesion.palabras)
+        , m_lineas(lineas)
+        , m_sistemas(sistemas)
+        , m_revision(revision)
+    {
+    }
+
+    void Sistema(const QString &sistema, size_t desde);
+    void Ajenas();
+    void Parametros();
+
+private:
+    void halla(const QString &clase, const QString &dicho, size_t indice)
+    {
+        m_revision.push_back({ clase, Fichero, static_cast<int>(indice) + 1, {}, dicho });
+    }
+    bool estaEntero(const QString &linea, const Registro &registro, qsizetype campos, size_t indice);
+    void parametrosDe(const QStringList &campos, size_t indice);
+    const Ficheros &ficherosDe(const QString &sistema);
+
+    const core::Modulo &M;
+    const Palabras &m_palabras;
+    const std::vector<core::LineaConFin> &m_lineas;
+    const QStringList m_sistemas; // known ones
+    Revision &m_revision;
+    std::map<QString, Ficheros> m_ficheros;
+    QSet<QString> m_anotadas; // keys of the notes, in upper case
+    const std::unique_ptr<core::Modulo> m_sinNotas = std::make_unique<core::Modulo>();
+};
+
+const Ficheros &RevisorDeNotas::ficherosDe(const QString &sistema)
+{
+    auto suyos = m_ficheros.find(sistema);
+    if (suyos == m_ficheros.end())
+        suyos = m_ficheros.emplace(sistema, Ficheros(M, sistema)).first;
+    return suyos->second;
+}
+
+bool RevisorDeNotas::estaEntero(
+    const QString &linea, const Registro &registro, qsizetype campos, size_t indice)
+{
+    if (registro.abierto)
+        halla(u"open-quotes"_s, m_palabras.Zbo_SinCerrar.arg(linea), indice);
+    else if (registro.campos.size() != campos)
+        halla(u"cut-record"_s, m_palabras.Zbo_Cortado.arg(linea), indice);
+    else if (registro.campos.first().isEmpty())
+        halla(u"no-name"_s, m_palabras.Zbo_SinClaveReg.arg(linea), indice);
+    else
+        return true;
+    return false;
+}
+
+// The records of one system, up to its apostrophe.
+void RevisorDeNotas::Sistema(const QString &sistema, size_t desde)
+{
+    QSet<QString> vistas;
+    for (size_t i = desde; i < m_lineas.size(); ++i) {
+        const QString linea = m_lineas[i].linea.toString();
+        const Registro registro = registroDe(linea);
+        if (registro.campos.value(0) == u"'" || core::AcabaLosSistemas(m_lineas, i, m_sistemas))
+            return;
+        if (linea.isEmpty() || !estaEntero(linea, registro, CamposDeNota, i))
+            continue;
+        const QString &clave = registro.campos.first();
+        const QString mayus = host::upper(clave);
+        if (vistas.contains(mayus))
+            halla(u"name-twice"_s, m_palabras.Zbo_Repetido.arg(clave), i);
+        else if (ficherosDe(sistema).Falta(clave))
+            halla(u"note-without-file"_s, m_palabras.Zbo_SinFichero.arg(clave), i);
+        vistas.insert(mayus);
+        m_anotadas.insert(mayus);
+    }
+}
+
+// Blocks of notes that no system bears the name of.
+void RevisorDeNotas::Ajenas()
+{
+    bool dentro = false;
+    for (size_t i = 0; i < m_lineas.size(); ++i) {
+        const QString linea = m_lineas[i].linea.toString();
+        if (core::AcabaLosSistemas(m_lineas, i, m_sistemas))
+            return;
+        const bool cabecera = m_sistemas.contains(linea);
+        if (!dentro && !cabecera && !linea.trimmed().isEmpty() && !linea.startsWith(u'\''))
+            halla(u"unknown-system"_s, m_palabras.Zbo_NotasAjenas.arg(linea), i);
+        dentro = (dentro && linea != u"'") || (!linea.trimmed().isEmpty() && !linea.startsWith(u'\''));
+    }
+}
+
+void RevisorDeNotas::parametrosDe(const QStringList &campos, size_t indice)
+{
+    const QString &clave = campos[0];
+    const auto esSuya = [&](const Pareja &pareja) {
+        return host::sameName(pareja.nombreSistema, campos[1])
+            && host::sameName(pareja.nombreEmulador, campos[2]);
+    };
+    const std::vector<Pareja> parejas = Parejas(M);
+    const auto suya = std::ranges::find_if(parejas, esSuya);
+    if (suya == parejas.end())
+        halla(u"parameters-of-nobody"_s, m_palabras.Zbo_ParDeNadie.arg(clave, campos[1], campos[2]), indice);
+    else if (ficherosDe(suya->nombreSistema).Falta(clave))
+        halla(u"parameters-without-file"_s, m_palabras.Zbo_ParSinFich.arg(clave), indice);
+    else if (!m_anotadas.contains(host::upper(clave)) && !core::SeEncuentranSusParametros(*m_sinNotas, clave))
+        halla(u"lost-parameters"_s, m_palabras.Zbo_ParPerdidos.arg(clave), indice);
+}
+
+void RevisorDeNotas::Parametros()
+{
+    const auto cabecera = std::ranges::find_if(m_lineas,
+        [](const core::LineaConFin &linea) { return linea.linea.startsWith(u"Parametros especificos"); });
+    for (auto i = static_cast<size_t>(cabecera - m_lineas.begin()) + 1; i < m_lineas.size(); ++i) {
+        const QString linea = m_lineas[i].linea.toString();
+        const Registro registro = registroDe(linea);
+        if (registro.campos.value(0) == u"'")
+            return;
+        if (!linea.isEmpty() && estaEntero(linea, registro, CamposDeParametros, i))
+            parametrosDe(registro.campos, i);
+    }
+    m_revision.push_back(
+        { u"missing-mark"_s, Fichero, static_cast<int>(m_lineas.size()), {}, m_palabras.Zbo_SinSeccion });
+}
+
+// The systems of the catalogue, each once.
+QStringList sistemasDe(const core::Modulo &M)
+{
+    QStringList nombres;
+    for (const Pareja &pareja : Parejas(M))
+        nombres += pareja.nombreSistema;
+    nombres.removeDuplicates();
+    return nombres;
+}
+
+} // namespace
+
+void RevisaNotas(Sesion &sesion, Revision &revision)
+{
+    const QString texto = TextoDelPrograma(Fichero);
+    const std::vector<core::LineaConFin> lineas = core::EnLineas(texto);
+    const QStringList conocidos = SistemasConocidos();
+    const int ultima = static_cast<int>(lineas.size());
+    for (const core::SinCierre &hueco : core::NotasSinCierre(texto, conocidos))
+        revision.push_back({ u"block-without-end"_s, Fichero, static_cast<int>(hueco.inicio) + 1, {},
+            sesion.palabras.Zbo_SinApostrofo.arg(lineas[hueco.inicio].linea) });
+    RevisorDeNotas revisor(sesion, lineas, conocidos, revision);
+    for (const QString &sistema : sistemasDe(sesion.M)) {
+        const auto suya = std::ranges::find_if(
+            lineas, [&](const core::LineaConFin &linea) { return linea.linea == sistema; });
+        if (suya == lineas.end())
+            revision.push_back({ u"system-without-notes"_s, Fichero, ultima, {},
+                sesion.palabras.Zbo_SinNotas.arg(sistema) });
+        else
+            revisor.Sistema(sistema, static_cast<size_t>(suya - lineas.begin()) + 1);
+    }
+    revisor.Ajenas();
+    if (std::ranges::none_of(
+            lineas, [](const core::LineaConFin &linea) { return linea.linea.startsWith(u'['); }))
+        revision.push_back({ u"missing-mark"_s, Fichero, ultima, {}, sesion.palabras.Zbo_SinMarcaNot });
+    revisor.Parametros();
+}
+
+} // namespace companion

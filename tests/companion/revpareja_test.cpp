@@ -1,0 +1,157 @@
+// What zembro check finds of the pairs: programs, types, lists, captures.
+#include "mesaderevision.h"
+
+#include "companion/impedimento.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class CheckPair : public Check {
+protected:
+    void PonPrograma(const QByteArray &bytes) const
+    {
+        Pon(u"emu/uno.sh"_s, bytes);
+        QFile::setPermissions(Ruta(u"emu/uno.sh"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+};
+
+} // namespace
+
+TEST_F(CheckPair, WhatAScriptLacksIsSaid)
+{
+    PonPrograma("#!/no/such/interpreter -x\n");
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"no-interpreter"_s));
+    EXPECT_TRUE(dicho().contains("Zembro.emu:6: Sis / Uno: " + Ruta(u"emu/uno.sh"_s).toUtf8()
+        + " needs /no/such/interpreter, which isn't there"))
+        << dicho().toStdString();
+    // With the line ends of another system the interpreter's name is another one.
+    PonPrograma("#!/bin/sh\r\nexit 0\r\n");
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"no-interpreter"_s));
+    EXPECT_TRUE(dicho().contains("needs /bin/sh\\x0D, which")) << dicho().toStdString();
+    PonPrograma("#! /usr/bin/env no-such-program-anywhere\n");
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"no-interpreter"_s));
+    PonPrograma("#!/usr/bin/env sh\n");
+    EXPECT_THAT(clases(SisUno), IsEmpty());
+    PonPrograma("#!");
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"no-interpreter"_s));
+}
+
+TEST_F(CheckPair, ADirectoryIsNoProgram)
+{
+    Cambia(u"Zembro.emu"_s, "emu/uno.sh\r\nXDI=NO.0", "emu\r\nXDI=NO.0");
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"is-directory"_s));
+}
+
+TEST_F(CheckPair, ALibraryThatIsMissingIsSaid_AlsoByCommand)
+{
+    // A program of ours whose library is called otherwise.
+    QFile propio(QStringLiteral(ZEMBRO));
+    ASSERT_TRUE(propio.open(QIODevice::ReadOnly));
+    QByteArray bytes = propio.readAll();
+    ASSERT_TRUE(bytes.contains("libQt6Core.so.6"));
+    PonPrograma(bytes.replace("libQt6Core.so.6", "libQt6Gone.so.6"));
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"no-library"_s));
+    EXPECT_TRUE(dicho().contains("needs the library libQt6Gone.so.6, which isn't there"))
+        << dicho().toStdString();
+    const QJsonObject dicha = Json({ u"command"_s, u"Sis"_s, u"Uno"_s, u"mario"_s }, companion::Hallazgos);
+    EXPECT_TRUE(dicha[u"problem"_s].toString().contains(u"libQt6Gone.so.6"));
+    EXPECT_FALSE(dicha[u"starts"_s].toBool());
+}
+
+TEST_F(CheckPair, BeginningsOfProgramsOfAnyBytesAreLookedAt)
+{
+    QFile propio(QStringLiteral(ZEMBRO));
+    ASSERT_TRUE(propio.open(QIODevice::ReadOnly));
+    const QByteArray entero = propio.read(4096);
+    for (const qsizetype largo : { 5, 20, 60, 64, 70, 100, 200, 1000 }) {
+        PonPrograma(entero.first(largo));
+        clases(SisUno);
+    }
+    // The table of parts, and the loader's name, beyond the end.
+    for (const int donde : { 32, 39, 56, 57, 0x40 + 0x38 + 8, 0x40 + 0x38 + 15, 0x40 + 0x38 + 32 }) {
+        QByteArray roto = entero;
+        roto[donde] = '\xff';
+        PonPrograma(roto);
+        clases(SisUno);
+    }
+}
+
+TEST_F(CheckPair, ATypeThatCannotMeetWhatLiesThereIsSaid)
+{
+    Borra(u"img/mario.gif"_s);
+    Cambia(u"Zembro.emu"_s, "XDI=NO.0", "XDI=NO.1");
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"type-and-content"_s));
+    EXPECT_TRUE(dicho().contains(
+        "Zembro.emu:7: Sis / Uno: The type takes each game in a directory of its own, but in "
+        + Ruta(u"roms/"_s).toUtf8() + " there are only files: 4."))
+        << dicho().toStdString();
+    Cambia(u"Zembro.emu"_s, "XDI=NO.1\r\nROM=" + Ruta(u"roms/"_s).toUtf8(),
+        "XDI=NO.0\r\nROM=" + Ruta(u"dirs/"_s).toUtf8());
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"type-and-content"_s));
+    Cambia(u"Zembro.emu"_s, "XDI=NO.0\r\nROM=" + Ruta(u"dirs/"_s).toUtf8(),
+        "XDI=NO.0\r\nROM=" + Ruta(u"roms/"_s).toUtf8());
+    Cambia(u"Zembro.emu"_s, "*.NES\r\n", "");
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"no-extension"_s, u"nothing-listed"_s));
+}
+
+TEST_F(CheckPair, ADirectoryThatTheProgramMadeReadyIsNoFinding)
+{
+    Borra(u"img/mario.gif"_s);
+    Pon(u"ready/LEEME.txt"_s, "games go here");
+    Cambia(u"Zembro.emu"_s, "roms/\r\nIMG", "ready/\r\nIMG");
+    const QByteArray entero = Bytes(u"Zembro.emu"_s);
+    for (const QByteArray &tipo : QList<QByteArray> { "0", "1", "2", "3" }) {
+        Pon(u"Zembro.emu"_s, QByteArray(entero).replace("XDI=NO.0", "XDI=NO." + tipo));
+        EXPECT_THAT(clases(SisUno), IsEmpty()) << tipo.toStdString();
+    }
+}
+
+TEST_F(CheckPair, OfManyGamesWithoutACaptureAFewAreNamed_AndAllOfAPairThatIsAskedFor)
+{
+    for (const QString &nombre : { u"roms/A.nes"_s, u"roms/B.nes"_s, u"roms/C.nes"_s })
+        Pon(nombre, "x");
+    EXPECT_EQ(dicho().count(" has no capture; "), 3);
+    EXPECT_TRUE(dicho().endsWith("    and 2 more; check SYSTEM EMULATOR names them all\n"))
+        << dicho().toStdString();
+    EXPECT_EQ(Zembro({ u"check"_s, u"sis"_s, u"uno"_s }).salida.count(" has no capture; "), 5);
+    const QJsonObject pareja = Json({ u"check"_s })[u"pairs"_s][1].toObject();
+    EXPECT_EQ(pareja[u"missing_captures"_s].toArray().size(), 5);
+    EXPECT_EQ(pareja[u"missing_captures"_s][0][u"looked_for"_s].toString(), Ruta(u"img/A.GIF"_s));
+}
+
+TEST_F(CheckPair, EveryFindingNamesItsFile)
+{
+    PonPrograma("#!/no/such\n");
+    Pon(u"img/Luigi.gif"_s, "GIF89a");
+    Cambia(u"Zembro.emu"_s, "*.NES", "*.NES\r\n*.ES");
+    Cambia(u"Zembro.emu"_s, "XDI=NO.1", "XDI=NO.9");
+    Cambia(u"Zembro.rom"_s, "Mario\"\r\n", "Mario\"\r\nZELDA.NES,\"Super Mario\"\r\n");
+    const QJsonArray hallazgos = Json({ u"check"_s }, companion::Hallazgos)[u"findings"_s].toArray();
+    QStringList clasesVistas;
+    for (const QJsonValue &uno : hallazgos) {
+        clasesVistas += uno[u"kind"_s].toString();
+        EXPECT_FALSE(uno[u"file"_s].toString().isEmpty()) << uno[u"kind"_s].toString().toStdString();
+    }
+    for (const QString &clase : { u"no-interpreter"_s, u"capture-without-game"_s, u"listed-twice"_s,
+             u"no-type"_s, u"description-twice"_s })
+        EXPECT_TRUE(clasesVistas.contains(clase)) << clase.toStdString();
+    EXPECT_TRUE(dicho().contains("Zembro.rom:3: Sis / Uno: Several games have the description Super Mario"))
+        << dicho().toStdString();
+}
+
+TEST_F(CheckPair, WhatFailsIsSaidInTheLanguageOfTheSettings)
+{
+    Pon(u"LNG/ZB-ESP.LNG"_s,
+        Bytes(u"LNG/ZB-ENG.LNG"_s).replace("There is no such directory", "No existe este directorio"));
+    PonAjustes(u"ZB-ESP.LNG"_s);
+    Cambia(u"Zembro.emu"_s, "roms/\r\n", "gone/\r\n");
+    EXPECT_TRUE(dicho().contains("No existe este directorio: " + Ruta(u"gone/"_s).toUtf8()))
+        << dicho().toStdString();
+}
