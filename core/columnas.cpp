@@ -48,16 +48,25 @@ Linea sinTabuladores(const Linea &linea)
     return ancha;
 }
 
-// Where a word begins behind a gap, or an upright stroke stands.
+// The line between the rows of a table: "+---+---+".
+bool esBorde(const Linea &linea)
+{
+    const bool deTrazos = linea.find_first_not_of(U"+-=|: \r") == Linea::npos;
+    const bool largo = linea.find(U"--") != Linea::npos || linea.find(U"==") != Linea::npos;
+    return deTrazos && largo && linea.find(U'+') != Linea::npos;
+}
+
+// Where a word begins behind a gap, or an upright stroke stands; where strokes cross, too.
 QSet<qsizetype> columnasDe(const Linea &linea)
 {
+    const bool borde = esBorde(linea);
     QSet<qsizetype> columnas;
     bool empezada = false;
     for (std::size_t i = 0; i < linea.size(); ++i) {
         if (linea[i] == U' ')
             continue;
         const bool trasHueco = i >= 2 && linea[i - 1] == U' ' && linea[i - 2] == U' ';
-        if ((empezada && trasHueco) || linea[i] == U'|')
+        if ((empezada && trasHueco) || linea[i] == U'|' || (borde && linea[i] == U'+'))
             columnas.insert(qsizetype(i));
         empezada = true;
     }
