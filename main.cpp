@@ -28,12 +28,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The toolkit takes it before its first window, from the environment. What the user set there stands.
-std::optional<double> factorDelArranque()
+std::optional<double> factorDelArranque(int argc, char **argv)
 {
     if (!qEnvironmentVariableIsEmpty("QT_SCALE_FACTOR"))
         return std::nullopt;
-    if (const std::optional<double> guardado = core::FactorGuardado())
-        return guardado;
+    if (const std::optional<double> guardado = core::TamanoGuardado())
+        return core::FactorParaTamano(*guardado, host::desktopFactor(argc, argv));
     const double dePantalla = core::FactorDePantalla(host::linesWithoutScale());
     return dePantalla > 1 ? std::optional(dePantalla) : std::nullopt;
 }
@@ -47,8 +47,8 @@ int main(int argc, char **argv)
         std::fputs("Zembrolix: there is no display to show the screen on.\n", stderr);
         return 1;
     }
-    if (const std::optional<double> factor = factorDelArranque())
-        qputenv("QT_SCALE_FACTOR", QByteArray::number(*factor));
+    if (const std::optional<double> factor = factorDelArranque(argc, argv))
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(*factor, 'g', 12));
     host::DesktopQuestions preguntas;
     host::setQuestions(&preguntas);
     forms::Application aplicacion(argc, argv);

@@ -16,8 +16,7 @@ namespace {
 constexpr double Menor = 1;
 constexpr double Mayor = 4;
 constexpr double Paso = 0.25;
-// What was picked on a desktop that draws everything larger is kept as a part of that.
-constexpr double MenorFactor = 0.25;
+constexpr double MenorParte = 0.25; // of the factor of a desktop that draws everything four times as large
 
 constexpr auto Clave = "Size = "_L1;
 constexpr int LargoDeLinea = 64; // bytes of the file that are read
@@ -37,42 +36,40 @@ double OtroTamano(double actual, bool mayor)
     return std::clamp(siguiente * Paso, Menor, Mayor);
 }
 
-double FactorParaTamano(double pedido, double mostrado, const QByteArray &entorno)
+double FactorParaTamano(double tamano, double delEscritorio)
 {
-    bool esNumero = false;
-    const double propio = entorno.toDouble(&esNumero);
-    const double delEscritorio = esNumero && propio > 0 ? mostrado / propio : mostrado;
-    return pedido / delEscritorio;
+    const double visto = tamano < Menor ? tamano * delEscritorio : tamano;
+    return std::clamp(visto, Menor, Mayor) / delEscritorio;
 }
 
-QString LineaDeFactor(double factor)
+QString LineaDeTamano(double tamano)
 {
-    return Clave + QString::number(factor, 'g', 6) + u"\r\n"_s;
+    return Clave + QString::number(tamano, 'g', 6) + u"\r\n"_s;
 }
 
-std::optional<double> FactorDeTexto(const QString &texto)
+std::optional<double> TamanoDeTexto(const QString &texto)
 {
     if (!texto.startsWith(Clave))
         return std::nullopt;
     const qsizetype fin = texto.indexOf(u'\n');
     bool esNumero = false;
-    const double factor = texto.left(fin < 0 ? texto.size() : fin).sliced(Clave.size()).toDouble(&esNumero);
+    const double tamano = texto.left(fin < 0 ? texto.size() : fin).sliced(Clave.size()).toDouble(&esNumero);
     // A text that is no number may still be read as an infinite one.
-    return esNumero && factor >= MenorFactor && factor <= Mayor ? std::optional(factor) : std::nullopt;
+    return esNumero && tamano >= MenorParte && tamano <= Mayor ? std::optional(tamano) : std::nullopt;
 }
 
-std::optional<double> FactorGuardado()
+std::optional<double> TamanoGuardado()
 {
     try {
-        return FactorDeTexto(QString::fromLatin1(host::readBytes(fichero(), LargoDeLinea)));
+        return TamanoDeTexto(QString::fromLatin1(host::readBytes(fichero(), LargoDeLinea)));
     } catch (const host::Failure &) {
         return std::nullopt;
     }
 }
 
-void GuardaFactor(double factor)
+void GuardaTamano(double tamano)
 {
-    host::NumberedFiles().replace(fichero(), u"Zembro.tmp"_s, LineaDeFactor(factor));
+    host::NumberedFiles().replace(fichero(), u"Zembro.tmp"_s, LineaDeTamano(tamano));
 }
 
 double FactorDePantalla(int lineas)

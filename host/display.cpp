@@ -1,11 +1,14 @@
 #include "host/display.h"
 
 #include <QByteArray>
+#include <QGuiApplication>
 #include <QList>
+#include <QScreen>
 
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
+#include <vector>
 
 #include <sys/stat.h>
 #include <xcb/randr.h>
@@ -116,6 +119,18 @@ int linesWithoutScale()
     const int lines = xcb_connection_has_error(connection) == 0 ? linesWithoutScaleOn(connection) : 0;
     xcb_disconnect(connection);
     return lines;
+}
+
+double desktopFactor(int argc, char **argv)
+{
+    if (linesWithoutScale() > 0)
+        return 1;
+    // It takes out of the arguments what is meant for it.
+    std::vector<char *> arguments(argv, argv + argc);
+    arguments.push_back(nullptr);
+    const QGuiApplication asked(argc, arguments.data());
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? screen->devicePixelRatio() : 1;
 }
 
 } // namespace host

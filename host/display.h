@@ -11,4 +11,8 @@ bool hasDisplay();
 // variables, nor the X resource Xft.dpi, nor the compositor of a Wayland desktop. Else 0.
 int linesWithoutScale();
 
+// The factor by which the desktop draws everything larger on the main monitor. To be asked for ahead of the
+// program's own start of the toolkit, as the toolkit is started and ended for it where nothing else tells.
+double desktopFactor(int argc, char **argv);
+
 } // namespace host

@@ -47,10 +47,9 @@ void Portada::PideTamano(bool mayor)
         QToolTip::showText(junto, forms::asTip(M.Palabras.Zem_NoTamano), Titulo1);
         return;
     }
-    const double actual = devicePixelRatioF();
-    m_tamanoPedido = core::OtroTamano(m_tamanoPedido > 0 ? m_tamanoPedido : actual, mayor);
+    m_tamanoPedido = core::OtroTamano(m_tamanoPedido > 0 ? m_tamanoPedido : devicePixelRatioF(), mayor);
     try {
-        core::GuardaFactor(core::FactorParaTamano(m_tamanoPedido, actual, qgetenv("QT_SCALE_FACTOR")));
+        core::GuardaTamano(m_tamanoPedido);
     } catch (const host::Failure &fallo) {
         Aviso(M.Palabras.Zem_NoParam0, core::TextoDeFallo(fallo, false));
         return;

@@ -46,7 +46,7 @@ pick() { # keys, what is kept then
     xdotool windowfocus --sync "$window"
     xdotool key --clearmodifiers "$1"
     for _ in $(seq 100); do
-        [ "$(tr -d '\r' <"$work/program/Zembro.tam" 2>/dev/null)" = "$2" ] && return
+        [ "$(tr -d '\r' 2>/dev/null <"$work/program/Zembro.tam")" = "$2" ] && return
         sleep 0.05
     done
     fail "what was picked by $1: $(cat "$work/program/Zembro.tam")"
@@ -68,8 +68,26 @@ xdotool key --clearmodifiers ctrl+plus
 sleep 1
 pick ctrl+minus "Size = 2.25" # none of them counts
 leave
+keep() { printf 'Size = %s\r\n' "$1" >"$work/program/Zembro.tam"; }
+keep 0.625
+start
+stand 411 "a part of another desktop's factor"
+leave
+keep 1.1
+start
+stand 452 "a size between the steps"
+pick ctrl+plus "Size = 1.25"
+leave
 rm "$work/program/Zembro.tam"
 xprop -root -f RESOURCE_MANAGER 8s -set RESOURCE_MANAGER $'Xft.dpi:\t144\n'
 start
 stand 617 "the desktop's own factor"
+pick ctrl+plus "Size = 1.75"
+leave
+start
+stand 719 "what was picked on a desktop with a factor of its own"
+leave
+keep 0.5
+start
+stand 411 "less than one"
 leave

@@ -104,14 +104,14 @@ TEST_F(TamanoTest, SizeIsPickedByTheWheelOnTheTitle_WithControl)
     EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 4\r\n");
 }
 
-TEST_F(TamanoTest, SizeIsKeptAsAPartOfWhatTheDesktopMultipliesBy)
+TEST_F(TamanoTest, SizeIsKeptAsItIsSeen_WhateverTheDesktopMultipliesBy)
 {
     startAt(Zeta, 0);
     const QByteArray factor = qgetenv("QT_SCALE_FACTOR");
     qputenv("QT_SCALE_FACTOR", "0.5"); // so the desktop's own would be 2
     strike(*portada, Qt::Key_Plus, Qt::ControlModifier);
     qputenv("QT_SCALE_FACTOR", factor);
-    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 0.625\r\n");
+    EXPECT_EQ(files.read(u"Zembro.tam"_s), "Size = 1.25\r\n");
 }
 
 TEST_F(TamanoTest, SizeThatCannotBeKeptIsToldInWords)
