@@ -34,3 +34,23 @@ new_root() { # suite
     cp /etc/resolv.conf "$root/etc/resolv.conf"
 }
 inside() { chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive "$@"; }
+# Makes a user in it, and a program that runs a command there as that user, on the display that is set: $user.
+new_user() { # name, language, what goes ahead of the command
+    inside useradd --create-home --shell /bin/bash "$1"
+    home=$root/home/$1
+    user=$work/as_$1
+    cat >"$user" <<END2
+#!/bin/sh
+exec ${3:-} chroot --userspec=$1:$1 "$root" env -i PATH=/usr/local/bin:/usr/bin:/bin:/usr/local/games:/usr/games HOME=/home/$1 \\
+    LANG=$2 DISPLAY="\$DISPLAY" "\$@"
+END2
+    chmod +x "$user"
+}
+# Plays the demonstration in a directory of the root, by a command.
+play() { # what is said, directory, command
+    local said=$1 directory=$2
+    shift 2
+    tests/with_screen.sh packaging/tour.sh "$root$directory" "$work/pictures" "$user" "$@" >"$work/log" 2>&1 ||
+        { cat "$work/log"; fail "$said: the demonstration isn't played"; }
+    passed "$said: the demonstration played"
+}

@@ -1,0 +1,53 @@
+#!/bin/bash
+# Starts Zembrolix in the directory in which this stands.
+#   --renew DIRECTORY   brings an older directory of it up to this version instead; what was changed there stays
+#   --check             checks its files and the emulators instead
+set -uo pipefail
+
+here=$(dirname "$(readlink -f "$0")")
+delivered=$here/delivered
+fail() { echo "start.sh: $*" >&2; exit 1; }
+
+# As one step as can be: never half of a directory.
+exchange() { # name, directory
+    rm -rf "$2/.$1.new" "$2/.$1.old"
+    cp -r "$here/$1" "$2/.$1.new" || return 1
+    [ ! -e "$2/$1" ] || mv "$2/$1" "$2/.$1.old" || return 1
+    mv "$2/.$1.new" "$2/$1" && rm -rf "$2/.$1.old"
+}
+renew() { # directory
+    local part
+    [ -x "$1/Zembrolix" ] && [ -f "$1/.delivered" ] || fail "$1 is no directory of the program."
+    [ "$(readlink -f "$1")" != "$here" ] || fail "$1 is this one."
+    for part in lib plugins fonts licenses qt.conf BuscaEmuladores PrimerosAjustes delivered start.sh; do
+        exchange "$part" "$1" || fail "$1 can't be renewed: there is an older $part in it."
+    done
+    exec "$delivered/renew" "$here" "$delivered" "$1"
+}
+
+case "${1:-}" in
+--renew)
+    [ $# -eq 2 ] || fail "which directory?"
+    renew "$2"
+    ;;
+--check) exec "$here/zembro" check ;;
+"") ;;
+*) fail "usage: start.sh [--renew DIRECTORY | --check]" ;;
+esac
+
+[ -x "$here/Zembrolix" ] || fail "programs on this medium can't be run; copy the directory elsewhere."
+
+# On a medium that can be written: the catalogue gets the place of the demonstration's emulator, as long as nobody has
+# changed it, and at the first start the settings get the language of the user.
+first() { cmp -s "$delivered/first/$1" "$here/$1"; }
+if [ -w "$here" ]; then
+    if first Zembro.emu && [ ! -x /usr/games/stella ] && command -v stella >/dev/null; then
+        rm "$here/Zembro.emu"
+    fi
+    [ -e "$here/Zembro.emu" ] || "$delivered/renew" "$here" "$delivered" "$here" >&2
+    if first Zembro.cfg; then
+        cp "$delivered/Zembro.cfg" "$here/Zembro.cfg"
+        "$here/PrimerosAjustes" "$here" "Atari 2600" Stella
+    fi
+fi
+exec "$delivered/start" "$here"

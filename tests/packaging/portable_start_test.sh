@@ -1,0 +1,78 @@
+#!/bin/bash
+# The starter of the portable directory: portable_start_test.sh BUILD. The directory is as the archive has it, but with the
+# machine's libraries, and with a program that says how it was started.
+set -u
+build=$1
+sources=$(cd "$(dirname "$0")/../.." && pwd)
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+bad=0
+complain() { echo "portable start: $*" >&2; bad=1; }
+
+unset LC_ALL LC_MESSAGES DISPLAY WAYLAND_DISPLAY XDG_STATE_HOME ZEMBRO_LOG
+export HOME=$work/home LANG=it_IT.UTF-8
+mkdir "$HOME"
+cmake --install "$build" --prefix "$work/usr" >/dev/null || { complain "what is built can't be installed"; exit 1; }
+make_directory() { # directory, version
+    mkdir -p "$1"/{lib,plugins,fonts,licenses}
+    "$sources/packaging/portable/fill.sh" "$work/usr" "$1"
+    printf '#!/bin/sh\necho "started $0, %s"\n' "$2" >"$1/Zembrolix"
+    touch "$1/qt.conf" "$1/lib/$2"
+}
+start() { # directory, expected status, arguments
+    local directory=$1 expected=$2
+    shift 2
+    said=$("$directory/start.sh" "$@" 2>"$work/errors")
+    local status=$?
+    [ "$status" = "$expected" ] || complain "start.sh $*: status $status: $said $(cat "$work/errors")"
+}
+setting() { sed -n "s/\r$//; s/^$2 = //p" "$1/Zembro.cfg"; }
+state() { (cd "$1" && find . -path ./copias -prune -o -type f -exec sha256sum {} + | sort -k 2); }
+
+mine="$work/Memoria USB/zembrolix"
+make_directory "$mine" one
+# As new it speaks English, where it can't be written.
+[ "$(setting "$mine" LanguageFile) $(setting "$mine" LastSisUsed)" = "ZB-ENG.LNG 0" ] || complain "new: $(cat "$mine/Zembro.cfg")"
+grep -q '^EXE=/usr/games/stella' "$mine/Zembro.emu" || complain "new: the emulator: $(cat "$mine/Zembro.emu")"
+grep -q '^ROM=demo/' "$mine/Zembro.emu" || complain "new: the games aren't its own"
+[ -z "$(ls "$mine/roms" "$mine/copias" 2>/dev/null)" ] || complain "new: it holds something of this machine"
+
+start "$mine" 0
+[ "$said" = "started $mine/Zembrolix, one" ] || complain "first: it says $said"
+[ "$(setting "$mine" LanguageFile)" = ZB-ITA.LNG ] || complain "first: the language: $(cat "$mine/Zembro.cfg")"
+before=$(state "$mine")
+LANG=de_DE.UTF-8 start "$mine" 0
+[ "$(state "$mine")" = "$before" ] || complain "again: $(state "$mine" | diff - <(echo "$before"))"
+# Settings that somebody chose stay, also where they are those of a new directory but for what marks these.
+sed -i 's/ZB-ITA/ZB-ENG/' "$mine/Zembro.cfg"
+start "$mine" 0
+[ "$(setting "$mine" LanguageFile)" = ZB-ENG.LNG ] || complain "chosen: the language is another"
+start "$mine" 0 --check
+grep -qi stella <<<"$said" || complain "check: it says $said"
+start "$mine" 1 --everything
+
+# A newer one renews it.
+make_directory "$work/newer" two
+printf "' newer\r\n" >>"$work/newer/delivered/LNG/ZB-FRA.LNG"
+printf "' newer\r\n" >>"$work/newer/delivered/LNG/ZB-DEU.LNG"
+printf "' mine\r\n" >>"$mine/LNG/ZB-DEU.LNG"
+echo game >"$mine/demo/mine.bin"
+touch "$mine/lib/older"
+kept() { (cd "$mine" && sha256sum LNG/ZB-DEU.LNG Zembro.cfg Zembro.emu demo/mine.bin); }
+users=$(kept)
+start "$work/newer" 0 --renew "$mine"
+[ "$(kept)" = "$users" ] || complain "renewed: what the user changed is gone"
+grep -q newer "$mine/LNG/ZB-FRA.LNG" || complain "renewed: a language is old"
+[ "$(ls "$mine/lib")" = two ] || complain "renewed: the libraries are $(ls "$mine/lib")"
+[ -z "$(find "$mine" -name '.*.new' -o -name '.*.old')" ] || complain "renewed: something is left over"
+start "$mine" 0
+[ "$said" = "started $mine/Zembrolix, two" ] || complain "renewed: it says $said"
+
+# What is no directory of it stays as it is.
+mkdir "$work/other"
+echo mine >"$work/other/lib"
+start "$work/newer" 1 --renew "$work/other"
+[ "$(ls "$work/other")" = lib ] || complain "other: it has changed"
+start "$work/newer" 1 --renew "$work/newer"
+start "$work/newer" 1 --renew
+exit "$bad"
