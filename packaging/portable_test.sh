@@ -41,7 +41,7 @@ glance "starts in the base system, without fonts" bare.png "$place/start.sh"
 ! grep -i 'shared\|libr' "$work/said" || fail "the converter lacks a library"
 
 inside apt-get update -qq
-inside apt-get install -y -qq --no-install-recommends stella >"$work/log" 2>&1 || { tail "$work/log"; fail "no emulator"; }
+inside apt-get install -y -qq --no-install-recommends stella libgl1 libgl1-mesa-dri libegl1 >"$work/log" 2>&1 || { tail "$work/log"; fail "no emulator"; }
 no_toolkit
 play "in $place" "$place" "$place/start.sh"
 "$user" "$place/zembro" check >"$work/said" || fail "zembro check: $(cat "$work/said")"

@@ -8,15 +8,15 @@ program=$2
 delivered=$program/delivered
 
 cp -r "$1/share/zembrolix" "$delivered"
-cp "$programs"/{renew,start} "$delivered"
+cp "$programs"/{renew,start} "$here/stella" "$delivered"
 cp "$programs"/{BuscaEmuladores,PrimerosAjustes} "$program"
 cp "$here"/{start.sh,LEEME.txt} "$here/../../LICENSE" "$program"
 # A catalogue that is there keeps the emulators of this machine out.
-sed -e 's|@STELLA@|/usr/games/stella|' "$delivered/Zembro.emu" >"$program/Zembro.emu"
+sed -e 's|@STELLA@|delivered/stella|' "$delivered/Zembro.emu" >"$program/Zembro.emu"
 "$delivered/renew" "$programs" "$delivered" "$program"
 # From a medium that can't be written it starts without having asked for a language. The line more tells these settings
 # from those that somebody chose.
 LC_ALL=en_US.UTF-8 "$program/PrimerosAjustes" "$program" "Atari 2600" Stella
 printf "'\r\n" >>"$program/Zembro.cfg"
 mkdir "$delivered/first"
-cp "$program"/Zembro.{cfg,emu} "$delivered/first"
+cp "$program/Zembro.cfg" "$delivered/first"

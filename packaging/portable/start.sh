@@ -37,15 +37,10 @@ esac
 
 [ -x "$here/Zembrolix" ] || fail "programs on this medium can't be run; copy the directory elsewhere."
 
-# On a medium that can be written: the catalogue gets the place of the demonstration's emulator, as long as nobody has
-# changed it, and at the first start the settings get the language of the user.
-first() { cmp -s "$delivered/first/$1" "$here/$1"; }
+# On a medium that can be written: at the first start the settings get the language of the user.
 if [ -w "$here" ]; then
-    if first Zembro.emu && [ ! -x /usr/games/stella ] && command -v stella >/dev/null; then
-        rm "$here/Zembro.emu"
-    fi
     [ -e "$here/Zembro.emu" ] || "$delivered/renew" "$here" "$delivered" "$here" >&2
-    if first Zembro.cfg; then
+    if cmp -s "$delivered/first/Zembro.cfg" "$here/Zembro.cfg"; then
         cp "$delivered/Zembro.cfg" "$here/Zembro.cfg"
         "$here/PrimerosAjustes" "$here" "Atari 2600" Stella
     fi

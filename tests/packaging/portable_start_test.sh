@@ -33,7 +33,7 @@ mine="$work/Memoria USB/zembrolix"
 make_directory "$mine" one
 # As new it speaks English, where it can't be written.
 [ "$(setting "$mine" LanguageFile) $(setting "$mine" LastSisUsed)" = "ZB-ENG.LNG 0" ] || complain "new: $(cat "$mine/Zembro.cfg")"
-grep -q '^EXE=/usr/games/stella' "$mine/Zembro.emu" || complain "new: the emulator: $(cat "$mine/Zembro.emu")"
+grep -q '^EXE=delivered/stella' "$mine/Zembro.emu" || complain "new: the emulator: $(cat "$mine/Zembro.emu")"
 grep -q '^ROM=demo/' "$mine/Zembro.emu" || complain "new: the games aren't its own"
 [ -z "$(ls "$mine/roms" "$mine/copias" 2>/dev/null)" ] || complain "new: it holds something of this machine"
 
@@ -50,6 +50,14 @@ start "$mine" 0
 start "$mine" 0 --check
 grep -qi stella <<<"$said" || complain "check: it says $said"
 start "$mine" 1 --everything
+
+# The emulator is that of the machine on which the directory happens to be.
+mkdir "$work/bin"
+printf '#!/bin/sh\necho "stella of the path:$*"\n' >"$work/bin/stella"
+chmod +x "$work/bin/stella"
+[ "$(PATH=$work/bin:$PATH "$mine/delivered/stella" -a 'b c')" = "stella of the path:-a b c" ] || complain "the emulator of the path isn't taken"
+PATH=$work/bin:$PATH "$mine/zembro" play atari stella prisma >"$work/said" 2>&1
+grep -q 'stella of the path:.*risma' "$work/said" || complain "play: $(cat "$work/said")"
 
 # A newer one renews it.
 make_directory "$work/newer" two
