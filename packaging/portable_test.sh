@@ -52,18 +52,6 @@ mv "$root$place" "$root/home/ana/otro sitio"
 place="/home/ana/otro sitio"
 play "moved" "$place" "$place/start.sh"
 
-# A medium that can't be written, as new and as it is left.
-unpack /mnt/new
-mkdir -p "$root/mnt/left"
-cp -a "$root$place/." "$root/mnt/left"
-for medium in /mnt/new /mnt/left; do
-    mount --bind "$root$medium" "$root$medium"
-    mount -o remount,bind,ro "$root$medium"
-    ! "$user" touch "$medium/file" 2>/dev/null || fail "$medium can be written"
-    play "from $medium, which can't be written" "$medium" "$medium/start.sh"
-    umount "$root$medium"
-done
-
 # An older directory, in which a language, the descriptions and a library are of another time.
 old=$root$place
 for name in Zembro.txt LNG/ZB-ITA.LNG; do
@@ -87,3 +75,15 @@ diff -r "$old/lib" "$root/home/ana/newer/lib" || fail "the libraries aren't rene
 passed "renewed what the user hasn't changed, and nothing else"
 play "after the renewal" "$place" "$place/start.sh"
 "$user" "$place/zembro" list atari | grep -q 'Mon prisma' || fail "the description is gone"
+
+# A medium that can't be written, as new and as it is left.
+unpack /mnt/new
+mkdir -p "$root/mnt/left"
+cp -a "$root$place/." "$root/mnt/left"
+for medium in /mnt/new /mnt/left; do
+    mount --bind "$root$medium" "$root$medium"
+    mount -o remount,bind,ro "$root$medium"
+    ! "$user" touch "$medium/file" 2>/dev/null || fail "$medium can be written"
+    play "from $medium, which can't be written" "$medium" "$medium/start.sh"
+    umount "$root$medium"
+done
