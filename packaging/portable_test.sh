@@ -61,9 +61,9 @@ done
 printf "' mine\r\n" >>"$old/LNG/ZB-FRA.LNG"
 printf 'PRISMA.BIN,"Mon prisma"\r\n' >"$work/line"
 sed -i "/^Atari 2600/r $work/line" "$old/Zembro.rom"
-cp "$old/demo/prisma.bin" "$old/demo/autre.bin"
+cp "$old/demo/prisma.bin" "$old/demo/un autre.bin"
 echo old >"$old/lib/libold.so.1"
-kept() { (cd "$old" && sha256sum LNG/ZB-FRA.LNG Zembro.rom Zembro.emu Zembro.cfg demo/autre.bin); }
+kept() { (cd "$old" && sha256sum LNG/ZB-FRA.LNG Zembro.rom Zembro.emu Zembro.cfg "demo/un autre.bin"); }
 users=$(kept)
 unpack /home/ana/newer
 "$user" /home/ana/newer/start.sh --renew "$place" || fail "it can't be renewed"
