@@ -1,5 +1,6 @@
 #include "companion/ordenes.h"
 
+#include "companion/adopcion.h"
 #include "companion/ayuda.h"
 #include "companion/descripcion.h"
 #include "companion/dicho.h"
@@ -30,6 +31,7 @@ std::span<const Orden *const> Ordenes()
         &OrdenReponer(),
         &OrdenDescribir(),
         &OrdenExportar(),
+        &OrdenAdopcion(),
         &OrdenAyuda(),
     };
     return ordenes;

@@ -188,6 +188,12 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_SinSitio", &P::Zbo_SinSitio },
         { u"Zbo_CorreEn", &P::Zbo_CorreEn },
         { u"Zbo_LineaDOS", &P::Zbo_LineaDOS },
+        { u"Zbo_Adopt", &P::Zbo_Adopt },
+        { u"Zbo_Funciona", &P::Zbo_Funciona },
+        { u"Zbo_YaTiene", &P::Zbo_YaTiene },
+        { u"Zbo_NoEncaja", &P::Zbo_NoEncaja },
+        { u"Zbo_Adoptado", &P::Zbo_Adoptado },
+        { u"Zbo_Adoptaria", &P::Zbo_Adoptaria },
     };
     return claves;
 }

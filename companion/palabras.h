@@ -159,6 +159,17 @@ struct Palabras : PalabrasDeRevision {
     QString Zbo_SinSitio = QStringLiteral("The drive %1 leads to %2, which is not there.");
     QString Zbo_CorreEn = QStringLiteral("A program for %1, which runs in %2.");
     QString Zbo_LineaDOS = QStringLiteral("DOS gets: %1");
+
+    // Taking an old directory over.
+    QString Zbo_Adopt =
+        QStringLiteral("takes over the systems, notes and captures of an old program directory");
+    QString Zbo_Funciona = QStringLiteral("works.");
+    QString Zbo_YaTiene = QStringLiteral("is in the catalogue already; yours stays.");
+    QString Zbo_NoEncaja = QStringLiteral("does not fit into the catalogue.");
+    QString Zbo_Adoptado =
+        QStringLiteral("Taken over: %1 emulators, %2 descriptions, %3 parameters, %4 captures, %5 drives.");
+    QString Zbo_Adoptaria = QStringLiteral(
+        "With --write it takes over: %1 emulators, %2 descriptions, %3 parameters, %4 captures, %5 drives.");
 };
 
 struct ClaveDePalabra {

@@ -14,6 +14,7 @@
 #include <climits>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -106,6 +107,12 @@ const std::vector<Drive> *drivesOfFile()
     return &kept;
 }
 
+const std::vector<Drive> *&otherDrives()
+{
+    static const std::vector<Drive> *drives = nullptr;
+    return drives;
+}
+
 } // namespace
 
 std::vector<Drive> drivesIn(const QString &text, const QString &base)
@@ -147,8 +154,21 @@ const std::vector<Drive> &drivesOfWine(const QString &prefix)
     return kept;
 }
 
+OtherDrives::OtherDrives(std::vector<Drive> drives)
+    : m_drives(std::move(drives))
+    , m_before(std::exchange(otherDrives(), &m_drives))
+{
+}
+
+OtherDrives::~OtherDrives()
+{
+    otherDrives() = m_before;
+}
+
 const std::vector<Drive> &drives()
 {
+    if (otherDrives())
+        return *otherDrives();
     const std::vector<Drive> *own = drivesOfFile();
     return own ? *own : drivesOfWine(winePrefix());
 }

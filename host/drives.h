@@ -20,6 +20,19 @@ struct Drive {
 // In the order of letters. Looked up anew where the file or the prefix has changed.
 const std::vector<Drive> &drives();
 
+// Lets these drives count until the object goes, whatever the file says.
+class OtherDrives {
+public:
+    explicit OtherDrives(std::vector<Drive> drives);
+    ~OtherDrives();
+    OtherDrives(const OtherDrives &) = delete;
+    OtherDrives &operator=(const OtherDrives &) = delete;
+
+private:
+    std::vector<Drive> m_drives;
+    const std::vector<Drive> *m_before;
+};
+
 // The letter, in upper case, of a path that begins with a letter and a colon; null for any other. Whether
 // there is such a drive is another matter.
 QChar driveLetter(QStringView path);

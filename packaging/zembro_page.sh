@@ -86,5 +86,13 @@ END
     example "Back to the newest copy that differs, or to the one that is named; \`--list\` shows them all." restore
     printf '\n## export\n'
     example "For another program; \`--to FILE --write\` writes it, \`--pegasus\` is for Pegasus." export atari stella
+    printf '\n## adopt\n'
+    mkdir -p "$work/old/DISK/EMUS"
+    printf '%s\r\n' '-NES' 'WEB1=' '*.NES' "'" '+Oldnes' 'WEB2=' 'EXE=C:\EMUS\OLDNES.EXE' 'XDI=0' 'ROM=D:\ROMS\' 'IMG=' \
+        'PAR1=' 'PAR2=' "'------" '[EOF]' >"$work/old/Zembro.emu"
+    printf 'C=DISK\r\n' >"$work/old/Zembro.uni"
+    printf 'MZ' >"$work/old/DISK/EMUS/OLDNES.EXE"
+    example "An old program directory, made on another system; its own \`Zembro.uni\`, where it has one, names the drives. \`--write\` does it." \
+        adopt ../old
 }
 page >"$OLDPWD/docs/zembro.md"

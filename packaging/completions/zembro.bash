@@ -18,7 +18,7 @@ _zembro()
     esac
     local words=
     case $command in
-    '') words='check command play why find list move save restore describe export help --version --directory --json --help' ;;
+    '') words='check command play why find list move save restore describe export adopt help --version --directory --json --help' ;;
     check) words='--mend --write --directory --json --help' ;;
     command) words='--lines --shell --directory --json --help' ;;
     play) words='--directory --json --help' ;;
@@ -30,7 +30,8 @@ _zembro()
     restore) words='--list --write --directory --json --help' ;;
     describe) words='--from --tags --replace --write --directory --json --help' ;;
     export) words='--pegasus --to --write --directory --json --help' ;;
-    help) words='check command play why find list move save restore describe export help --completion --directory --json --help' ;;
+    adopt) words='--write --directory --json --help' ;;
+    help) words='check command play why find list move save restore describe export adopt help --completion --directory --json --help' ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
 }

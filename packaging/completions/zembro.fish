@@ -30,6 +30,8 @@ complete -c zembro -n __fish_use_subcommand -a export -d 'tells other programs o
 complete -c zembro -n '__fish_seen_subcommand_from export' -l pegasus -d 'for Pegasus'
 complete -c zembro -n '__fish_seen_subcommand_from export' -l to -r -F -d 'the file that --write makes; without it the answer is shown'
 complete -c zembro -n '__fish_seen_subcommand_from export' -l write -d 'writes it, instead of showing it'
+complete -c zembro -n __fish_use_subcommand -a adopt -d 'takes over the systems, notes and captures of an old program directory'
+complete -c zembro -n '__fish_seen_subcommand_from adopt' -l write -d 'writes it, instead of showing it'
 complete -c zembro -n __fish_use_subcommand -a help -d 'tells of the commands, or of one of them'
 complete -c zembro -n '__fish_seen_subcommand_from help' -l completion -r -d 'prints the completion for bash, zsh or fish, or the page for man'
 complete -c zembro -l directory -r -F -d 'the program'\''s directory, if zembro doesn'\''t stand in it'

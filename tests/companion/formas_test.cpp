@@ -109,13 +109,15 @@ protected:
 TEST_F(Shape, OfEveryAnswerIsAsDocumented)
 {
     const QJsonObject defs = definiciones();
+    Pon(u"old/Zembro.emu"_s, "-Old\r\n'\r\n+Emu\r\nEXE=C:\\EMU.EXE\r\nXDI=0\r\n'------\r\n[EOF]\r\n");
     const QList<QStringList> pedidos { { u"help"_s }, { u"list"_s },
         { u"command"_s, u"Sis"_s, u"Uno"_s, u"pack"_s }, { u"command"_s, u"Sis"_s, u"Uno"_s, u"super"_s },
         { u"play"_s, u"Sis"_s, u"Uno"_s, u"super"_s }, { u"why"_s }, { u"check"_s },
         { u"check"_s, u"--mend"_s }, { u"find"_s }, { u"move"_s }, { u"save"_s },
         { u"move"_s, u"--old"_s, Ruta(u"roms"_s), u"--write"_s }, { u"restore"_s, u"--list"_s },
         { u"restore"_s }, { u"restore"_s, u"--write"_s }, { u"describe"_s, u"Sis"_s },
-        { u"export"_s, u"Sis"_s }, { u"export"_s, u"Sis"_s, u"--to"_s, Ruta(u"x"_s) } };
+        { u"adopt"_s, Ruta(u"old"_s) }, { u"export"_s, u"Sis"_s },
+        { u"export"_s, u"Sis"_s, u"--to"_s, Ruta(u"x"_s) } };
     for (const QStringList &pedido : pedidos) {
         const Respuesta respuesta = Zembro(pedido + QStringList { u"--json"_s });
         const QJsonDocument json = QJsonDocument::fromJson(respuesta.salida);

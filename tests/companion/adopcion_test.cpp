@@ -1,0 +1,158 @@
+// zembro adopt.
+#include "mesadepruebas.h"
+
+#include "host/process.h"
+
+#include <QFile>
+#include <QJsonArray>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// An old directory beside one's own: a system that both have, with an emulator of one's own and one of its
+// own, and a system of its own.
+class Adopt : public MesaConJuegos {
+protected:
+    Adopt()
+        : m_camino(qgetenv("PATH"))
+    {
+        PonDirectorio(u"bin"_s);
+        qputenv("PATH", Ruta(u"bin"_s).toUtf8());
+        qputenv("WINEPREFIX", Ruta(u"wine"_s).toUtf8());
+        host::rememberEnvironment();
+        Pon(u"old/Zembro.emu"_s,
+            "-Sis\r\nWEB1=\r\n*.NES\r\n'\r\n+Uno\r\nWEB2=\r\nEXE=C:\\OTHER.EXE\r\nXDI=0\r\nROM=C:"
+            "\\ROMS\\\r\nIMG=\r\nPAR1="
+            "\r\nPAR2=\r\n'\r\n+Viejo\r\nWEB2=http://"
+            "viejo\r\nEXE=C:\\EMUS\\VIEJO.EXE\r\nXDI=3\r\nROM=C:\\ROMS\\\r\nIMG="
+            "IMG\\Old\\\r\nPAR1=-Old\r\nPAR2=/x\r\n'------\r\n-Otro\r\nWEB1=http://"
+            "otro\r\n*.SMC\r\n*.ZIP\r\n'\r\n+Lejos\r\n"
+            "WEB2=\r\nEXE=E:\\L.EXE\r\nXDI=0\r\nROM=\r\nIMG=\r\nPAR1=\r\nPAR2=\r\n'------\r\n[EOF]\r\n");
+        Pon(u"old/Zembro.rom"_s,
+            "Sis\r\nMARIO.NES,\"Another Mario\"\r\nOLD.NES,\"An old "
+            "one\"\r\n'\r\nOtro\r\nNEW.SMC,\"Ni\xF1o\"\r\n'\r\n"
+            "[EOF]\r\n\r\nParametros "
+            "especificos\r\nMARIO.NES,Sis,Viejo,-no\r\nOLD.NES,Sis,Viejo,-yes\r\n'\r\n,\r\n,\"\"\r\n");
+        Pon(u"old/Zembro.uni"_s, "C=disk\r\n");
+        Pon(u"old/disk/EMUS/Viejo.exe"_s, "MZ" + QByteArray(100, '\0'));
+        Pon(u"old/IMG/OLD/a.gif"_s, "GIF89a old");
+        Pon(u"old/IMG/OLD/b.PCX"_s, "pcx");
+        Pon(u"old/IMG/OLD/readme.txt"_s, "text");
+    }
+    ~Adopt() override
+    {
+        qputenv("PATH", m_camino);
+        qunsetenv("WINEPREFIX");
+        host::rememberEnvironment();
+    }
+
+    QJsonObject Adopta(const QStringList &opciones, int estado) const
+    {
+        return Json(QStringList { u"adopt"_s, Ruta(u"old"_s) } + opciones, estado);
+    }
+    static QStringList Estados(const QJsonObject &respuesta)
+    {
+        QStringList estados;
+        for (const QJsonValue &uno : respuesta[u"pairs"_s].toArray())
+            estados += uno[u"emulator"_s].toString() + u' ' + uno[u"state"_s].toString();
+        return estados;
+    }
+
+private:
+    QByteArray m_camino;
+};
+
+} // namespace
+
+TEST_F(Adopt, ShowsWhatWorksAndWhatIsMissing_AndWritesNothing)
+{
+    const QByteArray emu = Bytes(u"Zembro.emu"_s);
+    const QByteArray rom = Bytes(u"Zembro.rom"_s);
+    const QJsonObject respuesta = Adopta({}, companion::Hallazgos);
+    EXPECT_EQ(Estados(respuesta), QStringList({ u"Uno kept"_s, u"Viejo no-tool"_s, u"Lejos no-drive"_s }));
+    EXPECT_EQ(respuesta[u"emulators"_s], 2);
+    EXPECT_EQ(respuesta[u"descriptions"_s], 2);
+    EXPECT_EQ(respuesta[u"parameters"_s], 1);
+    EXPECT_EQ(respuesta[u"captures"_s], 2);
+    EXPECT_EQ(respuesta[u"drives"_s], 1);
+    EXPECT_EQ(respuesta[u"written"_s], false);
+    EXPECT_EQ(Bytes(u"Zembro.emu"_s), emu);
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), rom);
+    EXPECT_FALSE(QFile::exists(Ruta(u"Zembro.uni"_s)));
+    EXPECT_FALSE(QFile::exists(Ruta(u"img/OLD"_s)));
+    const QByteArray dicho = Zembro({ u"adopt"_s, Ruta(u"old"_s) }).salida;
+    EXPECT_TRUE(
+        dicho.contains("\nOtro / Lejos: There is no drive E for E:\\L.EXE: name its place in Zembro.uni.\n"))
+        << dicho.toStdString();
+    EXPECT_TRUE(dicho.endsWith(
+        "With --write it takes over: 2 emulators, 2 descriptions, 1 parameters, 2 captures, 1 drives.\n"));
+}
+
+TEST_F(Adopt, WritesAllOfItBehindWhatIsThere)
+{
+    const QByteArray antes = Bytes(u"Zembro.emu"_s);
+    const QJsonObject respuesta = Adopta({ u"--write"_s }, companion::Bien);
+    EXPECT_EQ(respuesta[u"written"_s], true);
+    QByteArray esperado = antes;
+    esperado.replace("'------\r\n[EOF]",
+        "'\r\n+Viejo\r\nWEB2=http://viejo\r\nEXE=C:\\EMUS\\VIEJO.EXE\r\nXDI=3\r\nROM=C:\\ROMS\\\r\nIMG=IMG/"
+        "OLD/\r\nPAR1="
+        "-Old\r\nPAR2=/x\r\n'------\r\n-Otro\r\nWEB1=http://"
+        "otro\r\n*.SMC\r\n*.ZIP\r\n'\r\n+Lejos\r\nWEB2=\r\nEXE=E:\\L.EXE\r\n"
+        "XDI=0\r\nROM=\r\nIMG=\r\nPAR1=\r\nPAR2=\r\n'"
+            + QByteArray(70, '-') + "\r\n[EOF]");
+    EXPECT_EQ(Bytes(u"Zembro.emu"_s), esperado);
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s),
+        "Sis\r\nOLD.NES,\"An old one\"\r\nMARIO.NES,\"Super "
+        "Mario\"\r\n'\r\n'------\r\nOtro\r\nNEW.SMC,\"Ni\xF1o\"\r\n'\r\n"
+        "[EOF]\r\n\r\nParametros especificos\r\nOLD.NES,Sis,Viejo,-yes\r\nMARIO.NES,Sis,Uno,-fast\r\n'\r\n");
+    EXPECT_EQ(Bytes(u"Zembro.uni"_s), "C=" + Ruta(u"old/disk"_s).toUtf8() + "\r\n");
+    // Below the directory of captures that is there, whatever its case.
+    EXPECT_EQ(Bytes(u"img/OLD/a.gif"_s), "GIF89a old");
+    EXPECT_EQ(Bytes(u"img/OLD/b.PCX"_s), "pcx");
+    EXPECT_FALSE(QFile::exists(Ruta(u"img/OLD/readme.txt"_s)));
+}
+
+TEST_F(Adopt, ASecondTimeNothingIsLeftToDo)
+{
+    Adopta({ u"--write"_s }, companion::Bien);
+    const QByteArray emu = Bytes(u"Zembro.emu"_s);
+    const QByteArray rom = Bytes(u"Zembro.rom"_s);
+    const QJsonObject respuesta = Adopta({}, companion::Bien);
+    EXPECT_EQ(Estados(respuesta), QStringList({ u"Uno kept"_s, u"Viejo kept"_s, u"Lejos kept"_s }));
+    EXPECT_EQ(respuesta[u"changes"_s].toArray(), QJsonArray());
+    Adopta({ u"--write"_s }, companion::Bien);
+    EXPECT_EQ(Bytes(u"Zembro.emu"_s), emu);
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), rom);
+}
+
+TEST_F(Adopt, OnesOwnDrivesAndCapturesStay)
+{
+    Pon(u"Zembro.uni"_s, "E=" + Ruta(u"emu"_s).toUtf8());
+    Pon(u"emu/l.exe"_s, "MZ" + QByteArray(100, '\0'));
+    Pon(u"bin/dosbox"_s, "#!/bin/sh\n");
+    QFile::setPermissions(Ruta(u"bin/dosbox"_s), QFile::ReadOwner | QFile::ExeOwner);
+    Pon(u"img/Old/A.GIF"_s, "my own");
+    const QJsonObject respuesta = Adopta({ u"--write"_s }, companion::Bien);
+    EXPECT_EQ(Estados(respuesta), QStringList({ u"Uno kept"_s, u"Viejo works"_s, u"Lejos works"_s }));
+    EXPECT_EQ(respuesta[u"captures"_s], 1);
+    EXPECT_EQ(Bytes(u"img/Old/A.GIF"_s), "my own");
+    EXPECT_EQ(Bytes(u"Zembro.uni"_s),
+        "E=" + Ruta(u"emu"_s).toUtf8() + "\r\nC=" + Ruta(u"old/disk"_s).toUtf8() + "\r\n");
+}
+
+TEST_F(Adopt, DrivesOfWineStayInUseWhereTheFileIsNew)
+{
+    PonDirectorio(u"wine/dosdevices"_s);
+    ASSERT_TRUE(QFile::link(Ruta(u"emu"_s), Ruta(u"wine/dosdevices/e:"_s)));
+    Adopta({ u"--write"_s }, companion::Bien);
+    EXPECT_EQ(Bytes(u"Zembro.uni"_s),
+        "E=" + Ruta(u"emu"_s).toUtf8() + "\r\nC=" + Ruta(u"old/disk"_s).toUtf8() + "\r\n");
+}
+
+TEST_F(Adopt, WhatIsNoOtherProgramDirectoryIsRefused)
+{
+    for (const QString &ruta : { Ruta(u"roms"_s), Ruta(u"none"_s), Ruta(QString()), QString() })
+        EXPECT_EQ(Zembro({ u"adopt"_s, ruta }).estado, companion::NoPudo) << ruta.toStdString();
+}
