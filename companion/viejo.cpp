@@ -156,13 +156,11 @@ std::optional<QString> ConEmuladorViejo(const QString &texto, const EmuladorViej
 Anotado ConNotasViejas(const QString &texto, const DirectorioViejo &viejo)
 {
     Anotado anotado { texto };
+    // A system without a block lists no games.
     for (const NotasViejas &unas : viejo.notas) {
-        if (unas.notas.empty())
-            continue;
-        const core::Descritas descritas = core::ConDescripciones(
-            conBloque(anotado.texto, unas.sistema), unas.sistema, unas.notas, core::LasQueHay::Quedan);
-        if (descritas.nuevas == 0)
-            continue;
+        anotado.texto = conBloque(anotado.texto, unas.sistema);
+        const core::Descritas descritas =
+            core::ConDescripciones(anotado.texto, unas.sistema, unas.notas, core::LasQueHay::Quedan);
         anotado.texto = descritas.texto;
         anotado.descripciones += descritas.nuevas;
     }

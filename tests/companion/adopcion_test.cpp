@@ -114,6 +114,14 @@ TEST_F(Adopt, WritesAllOfItBehindWhatIsThere)
     EXPECT_FALSE(QFile::exists(Ruta(u"img/OLD/readme.txt"_s)));
 }
 
+TEST_F(Adopt, ASystemWithoutNotesGetsItsBlock)
+{
+    Pon(u"old/Zembro.rom"_s, "[EOF]\r\n");
+    Adopta({ u"--write"_s }, companion::Bien);
+    EXPECT_TRUE(Bytes(u"Zembro.rom"_s).contains("\r\nOtro\r\n'\r\n[EOF]"))
+        << Bytes(u"Zembro.rom"_s).toStdString();
+}
+
 TEST_F(Adopt, ASecondTimeNothingIsLeftToDo)
 {
     Adopta({ u"--write"_s }, companion::Bien);
