@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # Builds the release, and says what it is: sourced by the scripts that pack it, at the root of the sources. Sets version,
 # and SOURCE_DATE_EPOCH to the date of the last change, so that equal sources give equal bytes.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 LC_ALL=C.UTF-8 TZ=UTC

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # A foreign root for the scripts that try what is packed: sourced by them, as root. Sets root to the system of a SUITE,
 # whose changes are forgotten at the end; all that runs in it ends with the script.
 [ "$(id -u)" -eq 0 ] || { echo "$0 needs root, for a system of its own." >&2; exit 2; }
