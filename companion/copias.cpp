@@ -23,6 +23,7 @@ namespace {
 const QString Formato = u"yyyy-MM-dd_HH-mm-ss"_s;
 const QString Directorio = u"copias"_s;
 const QString Borrador = u".a-medias"_s; // of a copy on its way, removed by the next one
+const QString Provisional = u"Zembro.tmp"_s; // of a file on its way
 const QString Ajustes = u"Zembro.cfg"_s;
 const QStringList Nombres { Ajustes, u"Zembro.emu"_s, u"Zembro.rom"_s, u"Zembro.sye"_s };
 
@@ -45,7 +46,7 @@ Ficheros leidos(const QString &directorio)
 // The lock of every rewrite, for as long as it lives.
 host::Replacement llave()
 {
-    return host::Replacement(host::programFile(u"Zembro.emu"_s), u"Zembro.tmp"_s);
+    return host::Replacement(host::programFile(u"Zembro.emu"_s), Provisional);
 }
 
 // The time of the clock that a copy is named after; invalid for another name.
@@ -72,11 +73,12 @@ QStringList sinSeleccion(const QByteArray &bytes)
     return lineas;
 }
 
-// The files that a copy keeps; what else lies there stays, and so does its directory then.
+// The files that a copy keeps, and what a writer that was killed has left of one; what else lies there stays,
+// and so does its directory then.
 void borra(const QString &copia)
 {
     try {
-        host::deleteFiles(rutaDe(copia), Nombres);
+        host::deleteFiles(rutaDe(copia), Nombres + QStringList { Provisional });
         host::removeDirectory(rutaDe(copia));
     } catch (const host::Failure &) {
         // It stays.
@@ -91,7 +93,7 @@ void escribe(const QString &copia, const Ficheros &ficheros)
         borra(Borrador);
     host::makeDirectory(rutaDe(Borrador));
     for (auto fichero = ficheros.begin(); fichero != ficheros.end(); ++fichero) {
-        host::Replacement nuevo(rutaDe(Borrador) + u'/' + fichero.key(), u"Zembro.tmp"_s);
+        host::Replacement nuevo(rutaDe(Borrador) + u'/' + fichero.key(), Provisional);
         nuevo.read();
         nuevo.write(fichero.value());
         nuevo.commit();

@@ -15,6 +15,7 @@
 
 #include <QJsonArray>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -66,6 +67,7 @@ std::vector<FicheroListado> ficherosListados(
 struct Coleccion {
     std::vector<FicheroListado> ficheros; // each key once
     QSet<QString> textos; // that something is called already
+    bool entera = true; // every list could be read
 };
 
 Coleccion coleccionDe(Sesion &sesion, const std::vector<Pareja> &parejas)
@@ -84,6 +86,7 @@ Coleccion coleccionDe(Sesion &sesion, const std::vector<Pareja> &parejas)
             for (int i = 0; i < sesion.M.Nota_Clave.tamaño() && !sesion.M.Nota_Clave(i).isEmpty(); ++i)
                 coleccion.textos.insert(sesion.M.Nota_Texto(i));
         } catch (const host::Failure &fallo) {
+            coleccion.entera = false;
             sesion.Avisa(u"[%1 / %2]  %3"_s.arg(
                 pareja.nombreSistema, pareja.nombreEmulador, TextoDe(fallo, sesion.palabras)));
         }
@@ -212,7 +215,8 @@ int describe(Sesion &sesion)
         return descritas.texto;
     };
     const int estado = HazCambio(sesion, u"Zembro.rom"_s, cambio, objeto);
-    return responde(sesion, estado, objeto, descritas, bautizados);
+    const int respuesta = responde(sesion, estado, objeto, descritas, bautizados);
+    return coleccion.entera ? respuesta : std::max<int>(respuesta, Hallazgos);
 }
 
 } // namespace

@@ -21,24 +21,50 @@ namespace companion {
 
 namespace {
 
-// Of one directory the files go by their names, so that the document may move with them; else by their paths.
+// Of one directory, in which the document lies, the files go by their names, so that it may move with them;
+// else by their paths.
 struct Forma {
     bool pegasus = false;
-    bool unDirectorio = false;
+    bool porNombre = false;
 };
+
+// As the disk spells it, without a closing separator but for the root.
+QString directorioDe(const core::Modulo &M, const Pareja &pareja)
+{
+    return host::directoryPath(DirectorioDeJuegos(M, pareja));
+}
+
+// Whether they go by their names.
+bool porNombre(const Sesion &sesion, const std::vector<Pareja> &parejas)
+{
+    try {
+        const QString primero = directorioDe(sesion.M, parejas.front());
+        if (sesion.Tiene(u"to"_s)) {
+            const QString destino = sesion.Valor(u"to"_s);
+            const QString lugar = destino.first(host::lastSeparator(destino) + 1);
+            if (host::directoryPath(lugar.isEmpty() ? u"."_s : lugar) != primero)
+                return false;
+        }
+        return std::ranges::all_of(
+            parejas, [&](const Pareja &pareja) { return directorioDe(sesion.M, pareja) == primero; });
+    } catch (const host::Failure &) {
+        return false;
+    }
+}
 
 Entrega entregaDe(Sesion &sesion, const Pareja &pareja, const Forma &forma)
 {
+    // An entry may begin with a hyphen.
     Entrega entrega { u"%1 (%2)"_s.arg(pareja.nombreSistema, pareja.nombreEmulador),
-        { host::programFile(u"zembro"_s), u"play"_s, u"--directory"_s, host::programDirectory(),
+        { host::programFile(u"zembro"_s), u"play"_s, u"--directory"_s, host::programDirectory(), u"--"_s,
             pareja.nombreSistema, pareja.nombreEmulador },
         {} };
-    const QString directorio = host::withClosingSeparator(DirectorioDeJuegos(sesion.M, pareja));
     const Listado listado = Lista(sesion, pareja);
+    const QString directorio = host::withClosingSeparator(directorioDe(sesion.M, pareja));
+    const QString delante = !forma.porNombre ? directorio : forma.pegasus ? QString() : u"./"_s;
     const LectorDeJuegos lector(sesion.M, pareja);
     for (const QString &entrada : listado.recuento.entradas) {
         const Juego juego = lector.De(entrada);
-        const QString delante = !forma.unDirectorio ? directorio : forma.pegasus ? QString() : u"./"_s;
         entrega.juegos.push_back(
             { juego.fichero.isEmpty() ? QString() : delante + juego.fichero, entrada, juego.captura });
     }
@@ -47,13 +73,11 @@ Entrega entregaDe(Sesion &sesion, const Pareja &pareja, const Forma &forma)
 
 std::vector<Entrega> entregasDe(Sesion &sesion, const std::vector<Pareja> &parejas, bool &todas)
 {
-    const bool unDirectorio = std::ranges::all_of(parejas, [&](const Pareja &pareja) {
-        return DirectorioDeJuegos(sesion.M, pareja) == DirectorioDeJuegos(sesion.M, parejas.front());
-    });
+    const Forma forma { sesion.Tiene(u"pegasus"_s), porNombre(sesion, parejas) };
     std::vector<Entrega> entregas;
     for (const Pareja &pareja : parejas) {
         try {
-            entregas.push_back(entregaDe(sesion, pareja, { sesion.Tiene(u"pegasus"_s), unDirectorio }));
+            entregas.push_back(entregaDe(sesion, pareja, forma));
         } catch (const host::Failure &fallo) {
             todas = false;
             sesion.Avisa(u"[%1 / %2]  %3"_s.arg(
@@ -100,6 +124,8 @@ bool entrega(const Sesion &sesion, const QString &texto, QJsonObject &objeto)
 
 int exporta(Sesion &sesion)
 {
+    if (sesion.Tiene(u"write"_s) && sesion.Valor(u"to"_s).isEmpty())
+        return sesion.Falla(sesion.palabras.Zbo_WriteTo);
     LeeMundo(sesion);
     const std::vector<Pareja> parejas = ParejasDelSistema(sesion, sesion.Argumento(0), sesion.Argumento(1));
     if (parejas.empty())

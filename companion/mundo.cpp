@@ -217,7 +217,8 @@ std::optional<QString> EntradaPedida(
         sesion.Falla(sesion.palabras.Zbo_NadaSeLanza);
         return std::nullopt;
     }
-    if (Candidatos(entradas, texto).isEmpty()) {
+    // The whole name of a file is meant ahead of a part of another entry.
+    if (PosicionDeNombre(entradas, texto) < 0) {
         const LectorDeJuegos juegos(sesion.M, pareja);
         QStringList ficheros;
         for (const QString &entrada : entradas)

@@ -150,6 +150,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_OpFin", &P::Zbo_OpFin },
         { u"Zbo_NoSePide", &P::Zbo_NoSePide },
         { u"Zbo_SoloBytes", &P::Zbo_SoloBytes },
+        { u"Zbo_WriteTo", &P::Zbo_WriteTo },
         // Bulk work.
         { u"Zbo_NadaCambia", &P::Zbo_NadaCambia },
         { u"Zbo_NoHay", &P::Zbo_NoHay },

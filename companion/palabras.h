@@ -105,6 +105,7 @@ struct Palabras : PalabrasDeRevision {
     QString Zbo_OpFin = QStringLiteral("ends the options: what follows may begin with a hyphen");
     QString Zbo_NoSePide = QStringLiteral("Name a command; zembro help lists them.");
     QString Zbo_SoloBytes = QStringLiteral("Only the ends of lines or the encoding differ.");
+    QString Zbo_WriteTo = QStringLiteral("Of export, --write goes with --to alone.");
     // Bulk work.
 
     // Bulk work: what it would change, and what it changed.

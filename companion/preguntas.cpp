@@ -1,6 +1,7 @@
 #include "companion/preguntas.h"
 
 #include "host/encoding.h"
+#include "host/letters.h"
 #include "host/process.h"
 
 #include <array>
@@ -51,8 +52,11 @@ host::Questions::Answer PreguntasDeTexto::askYesNoCancel(const QString &title, c
 
 bool PreguntasDeTexto::askYesNo(const QString &title, const QString &text)
 {
-    m_sesion.Avisa(title + u": "_s + text + u" (y/n)"_s);
-    return linea().trimmed().toLower() == u"y";
+    const QString si = m_sesion.M.TXT_Si.isEmpty() ? u"Yes"_s : m_sesion.M.TXT_Si;
+    const QString no = m_sesion.M.TXT_No.isEmpty() ? u"No"_s : m_sesion.M.TXT_No;
+    m_sesion.Avisa(title + u": "_s + text + u" ("_s + si + u'/' + no + u')');
+    const QString dicho = host::upper(linea().trimmed());
+    return dicho == host::upper(si) || dicho == host::upper(si).left(1);
 }
 
 void PreguntasDeTexto::tell(const QString &title, const QString &text)

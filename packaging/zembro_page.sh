@@ -1,10 +1,12 @@
 #!/bin/bash
 # Makes what is told of zembro from zembro itself: zembro_page.sh BUILD. The completions, the page for man, and
-# docs/zembro.md, whose examples are run in a program directory that is assembled and then spoilt.
+# docs/zembro.md, whose examples are run in a program directory that is assembled and then spoilt; the
+# main program plays one of them under Xvfb.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-build=$1
+project=$PWD
+build=$(cd "$1" && pwd)
 for kind in bash:completions/zembro.bash zsh:completions/_zembro fish:completions/zembro.fish man:zembro.1; do
     "$build/companion/zembro" help --completion "${kind%%:*}" >"packaging/${kind#*:}"
 done
@@ -32,6 +34,25 @@ example() { # text, arguments
     printf '```\n'
 }
 
+# A launch of the main program itself, by the key on its screen.
+play_on_screen() {
+    LC_ALL=en_GB.UTF-8 "$build/companion/PrimerosAjustes" "$PWD" "Atari 2600" Stella
+    ZEMBRO_LOG=$XDG_STATE_HOME/zembrolix/log "$project/tests/with_screen.sh" bash -c '
+        ./Zembrolix 2>/dev/null &
+        for _ in $(seq 100); do
+            xdotool search --onlyvisible --name "^Zembrolix" >/dev/null 2>&1 && break
+            sleep 0.1
+        done
+        sleep 1
+        xdotool key Return
+        for _ in $(seq 100); do
+            grep -q " after " "$ZEMBRO_LOG" 2>/dev/null && break
+            sleep 0.1
+        done
+        kill $!'
+    grep -q " after " "$XDG_STATE_HOME/zembrolix/log" || { echo "$0: nothing was played" >&2; return 1; }
+}
+
 page() {
     cat <<'END'
 # zembro
@@ -43,6 +64,7 @@ in bulk what the screens do one by one. This page is made by `packaging/zembro_p
 - `--json` gives the answer as JSON; [zembro.schema.json](zembro.schema.json) describes its shape, one definition a command.
 - It ends with 0 where all is well, 1 where something was found or would be changed, 2 where it could not run.
 - It writes only where it is given `--write`, under the lock of every other rewrite; without that it shows a diff.
+- `--` ends the options: a name behind it may begin with a hyphen.
 - Systems, emulators and games may be cut and in any case, as long as one fits; else those that fit are listed.
 - It speaks the language of the settings. Names from outside are shown so that no terminal obeys them.
 END
@@ -59,10 +81,7 @@ END
     example "A launch without the screen, here of an emulator that dies at once. Its status is the emulator's." \
         play atari stella prisma
     printf '\n## why\n'
-    printf '%s\n' "zembrolix 2026-05-01T20:15:02 4711.1 game 'Atari 2600' Stella Prisma" \
-        "zembrolix 2026-05-01T20:15:02 4711.1 start $work/dies $work/zembrolix/demo/prisma.bin -ld a" \
-        "zembrolix 2026-05-01T20:15:02 4711.1 directory $work" \
-        "zembrolix 2026-05-01T20:15:03 4711.1 signal 11 after 0.1" >"$XDG_STATE_HOME/zembrolix/log"
+    play_on_screen
     example "What became of the last launch of the main program, if it was started by \`./run.sh\`." why
     printf '\n## check\n'
     sed -i -e "s|^EXE=.*|EXE=$work/dyes|" -e "/^'---/d" Zembro.emu
@@ -95,4 +114,4 @@ END
     example "An old program directory, made on another system; its own \`Zembro.uni\`, where it has one, names the drives. \`--write\` does it." \
         adopt ../old
 }
-page >"$OLDPWD/docs/zembro.md"
+page >"$project/docs/zembro.md"

@@ -4,6 +4,7 @@
 #include "companion/copias.h"
 
 #include <QDir>
+#include <QFile>
 #include <QJsonArray>
 
 #include <sys/stat.h>
@@ -78,6 +79,29 @@ TEST_F(Save, MakesACopyWhereSomethingDiffersFromTheNewest)
     Pon(u"Zembro.emu"_s, antes);
     EXPECT_GT(Guarda(), segunda);
     EXPECT_EQ(Copias().size(), 3);
+}
+
+TEST_F(Save, WhatAWriterThatWasKilledHasLeftIsNoHindrance)
+{
+    Pon(u"copias/.a-medias/Zembro.emu"_s, "half");
+    Pon(u"copias/.a-medias/Zembro.tmp"_s, "half a file");
+    const QString copia = Guarda();
+    EXPECT_EQ(Copias(), QStringList({ copia }));
+    EXPECT_FALSE(QFile::exists(Ruta(u"copias/"_s + copia + u"/Zembro.tmp"_s)));
+}
+
+TEST_F(Save, RestoreTellsWhereEndsOfLinesOrTheEncodingAloneDiffer)
+{
+    Guarda();
+    const QByteArray antes = Bytes(u"Zembro.sye"_s);
+    Pon(u"Zembro.sye"_s, QByteArray(antes).replace("\r\n", "\n"));
+    EXPECT_TRUE(Zembro({ u"restore"_s }).salida.contains("\n--Sis\n"))
+        << Zembro({ u"restore"_s }).salida.toStdString();
+    EXPECT_TRUE(Zembro({ u"restore"_s }).salida.contains("\n+-Sis\\x0D\n"));
+    Pon(u"Zembro.sye"_s, "\xEF\xBB\xBF" + antes);
+    EXPECT_TRUE(Zembro({ u"restore"_s })
+                    .salida.startsWith("Zembro.sye: Only the ends of lines or the encoding differ.\n"))
+        << Zembro({ u"restore"_s }).salida.toStdString();
 }
 
 TEST_F(Save, KeepsTheLastTwenty_AndWhatIsNoneOfThem)

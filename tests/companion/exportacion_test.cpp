@@ -3,6 +3,8 @@
 
 #include "companion/documento.h"
 
+#include "host/paths.h"
+
 #include <QDir>
 #include <QJsonArray>
 #include <QXmlStreamReader>
@@ -85,6 +87,42 @@ TEST_F(Export, OfSeveralDirectoriesByPaths)
     EXPECT_EQ(pegasus.count(u"collection: "_s), 2);
     EXPECT_TRUE(pegasus.contains(u"\nfile: "_s + Ruta(u"roms/Zelda II.nes"_s) + u'\n'));
     EXPECT_TRUE(pegasus.contains(u"\" \"play\" \"--directory\" \""_s)) << pegasus.toStdString();
+    EXPECT_TRUE(pegasus.contains(u"\" \"--\" \"Sis\" \"Uno\" \"{file.name}\"\n"_s)) << pegasus.toStdString();
+}
+
+TEST_F(Export, TheCommandForPegasusPlaysAGameWhoseNameLooksAsAnOptionOrAPartOfAnother)
+{
+    Pon(u"roms/-json.nes"_s, "x");
+    Pon(u"roms/AMario.nes"_s, "x");
+    PonGuion(u"emu/uno.sh"_s, "printf '%s' \"$2\" >out\n");
+    for (const QString &fichero : { u"-json.nes"_s, u"Mario.nes"_s }) {
+        const QStringList orden { u"play"_s, u"--directory"_s, Ruta(QString()), u"--"_s, u"Sis"_s, u"Uno"_s,
+            fichero };
+        EXPECT_EQ(Zembro(orden).estado, 0) << fichero.toStdString();
+        EXPECT_TRUE(Bytes(u"emu/out"_s).endsWith("/roms/" + fichero.toUtf8()))
+            << Bytes(u"emu/out"_s).toStdString();
+        host::changeDirectory(u"/"_s);
+    }
+}
+
+TEST_F(Export, ADocumentElsewhereNamesPathsAsTheDiskSpellsThem)
+{
+    Cambia(u"Zembro.emu"_s, "roms/\r\n", "ROMS/\r\n");
+    const auto camino = [&](const QString &fichero) {
+        return Json(
+            { u"export"_s, u"Sis"_s, u"Uno"_s, u"--to"_s, Ruta(fichero) }, companion::Hallazgos)[u"diff"_s]
+            .toArray()[6]
+            .toString();
+    };
+    EXPECT_EQ(camino(u"gamelist.xml"_s), u"+    <path>"_s + Ruta(u"roms/Mario.nes"_s) + u"</path>"_s);
+    EXPECT_EQ(camino(u"roms/gamelist.xml"_s), u"+    <path>./Mario.nes</path>"_s);
+}
+
+TEST_F(Export, WritesNothingWithoutAFile)
+{
+    const Respuesta respuesta = Zembro({ u"export"_s, u"Sis"_s, u"--write"_s });
+    EXPECT_EQ(respuesta.estado, companion::NoPudo);
+    EXPECT_EQ(respuesta.error, "zembro: Of export, --write goes with --to alone.\n");
 }
 
 TEST_F(Export, WritesAFileOnlyWithWrite)

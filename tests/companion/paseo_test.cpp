@@ -17,9 +17,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Sistemas = 25;
+// With PASEO=whole in the environment a thousand worlds are walked through, and each is played in; a start
+// takes a while.
+const bool Entero = qgetenv("PASEO") == "whole";
+const int Sistemas = Entero ? 125 : 25;
 constexpr int Emuladores = 8; // of each
-constexpr int CadaCuantos = 3; // one of so many worlds is played in, as a start takes a while
+const int CadaCuantos = Entero ? 1 : 3; // one of so many worlds is played in
 
 QJsonObject json(const QStringList &argumentos)
 {
@@ -64,7 +67,8 @@ protected:
     {
         QString nombre;
         for (int letras = hasta(3); letras >= 0; --letras)
-            nombre += uno({ u"a"_s, u"B"_s, u"ñ"_s, u"1"_s, u" "_s, u"."_s, u"(x)"_s, u"'"_s });
+            nombre += uno({ u"a"_s, u"A"_s, u"B"_s, u"b"_s, u"\\"_s, u"ñ"_s, u"1"_s, u" "_s, u"."_s, u"(x)"_s,
+                u"'"_s });
         return u"g"_s + nombre;
     }
 

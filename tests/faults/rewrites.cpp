@@ -2,10 +2,14 @@
 
 #include "tests/core/catalogosdeprueba.h"
 
+#include "companion/mudanza.h"
+
 #include "core/ajustes.h"
 #include "core/altas.h"
 #include "core/bajas.h"
+#include "core/descripciones.h"
 #include "core/notas.h"
+#include "core/remiendos.h"
 #include "host/paths.h"
 
 using namespace Qt::StringLiterals;
@@ -122,12 +126,43 @@ std::vector<Rewrite> ofTheNotes()
     };
 }
 
+// What zembro makes.
+std::vector<Rewrite> ofTheCommandLine()
+{
+    const QString broken = QString::fromLatin1(Cabecera + SistemaDe(CabezaAlfa, { "A1", "A2" })
+        + SistemaDe(CabezaBeta, { "B1" }).chopped(Cierre.size()))
+                               .replace(u"ROM=/roms/A1/"_s, u"ROM=/roms/A1"_s);
+    const auto mend = [](Text text) {
+        return core::ConMarcaFinal(core::ConBloquesCerrados(core::ConSeparadoresFinales(text)));
+    };
+    const auto describe = [](Text text) {
+        return core::ConDescripciones(text, u"Alfa"_s,
+            { { u"NEW.BIN"_s, u"New"_s }, { u"GAME.BIN"_s, u"Another"_s } }, core::LasQueHay::Cambian)
+            .texto;
+    };
+    const auto move = [](Text text) { return companion::ConRutasMudadas(text, u"/roms"_s, u"/media/ñ"_s); };
+    return {
+        { "mended catalogue", { { Emu, {}, broken }, { Emu, mend, {} } } },
+        { "mended notes",
+            { { Rom,
+                [](Text text) {
+                    return core::ConNotasCerradas(text, { u"Alfa"_s, u"GAME.BIN,\"A game\""_s });
+                },
+                {} } } },
+        { "descriptions in bulk", { { Rom, describe, {} } } },
+        { "moved paths", { { Emu, move, {} } } },
+        { "copy brought back",
+            { { Cfg, {}, u"cfg\r\n"_s }, { Emu, {}, u"emu\r\n"_s }, { Rom, {}, u"rom\r\n"_s } } },
+    };
+}
+
 } // namespace
 
 std::vector<Rewrite> rewrites()
 {
     std::vector<Rewrite> all;
-    for (const auto &some : { ofTheSettings(), ofTheDatabase(), ofTheCatalogue(), ofTheNotes() })
+    for (const auto &some :
+        { ofTheSettings(), ofTheDatabase(), ofTheCatalogue(), ofTheNotes(), ofTheCommandLine() })
         all.insert(all.end(), some.begin(), some.end());
     return all;
 }
