@@ -146,14 +146,19 @@ CarpetaDOS::CarpetaDOS(Encargo encargo)
 
 CarpetaDOS::~CarpetaDOS()
 {
+    m_apodos.clear();
     if (!m_ruta.isEmpty())
         vacia(m_ruta);
 }
 
 // A place that can't be said is reached by a link.
-bool CarpetaDOS::enlaza(std::vector<UnidadesDOS::Montaje> &montajes) const
+bool CarpetaDOS::enlaza(std::vector<UnidadesDOS::Montaje> &montajes)
 {
     for (UnidadesDOS::Montaje &montaje : montajes) {
+        if (!montaje.apodos.empty()) {
+            m_apodos.push_back(std::make_unique<CarpetaDeApodos>(host::nameToDisk(m_ruta), montaje));
+            montaje.lugar = m_apodos.back()->Lugar();
+        }
         if (seDiceEnLaConfiguracion(montaje.lugar))
             continue;
         const QByteArray enlace = host::nameToDisk(m_ruta) + '/' + montaje.letra;

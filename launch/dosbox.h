@@ -1,12 +1,13 @@
 // A run in DOSBox: the configuration that is written for it.
 #pragma once
 
+#include "launch/apodos.h"
 #include "launch/encargo.h"
 
 #include <QByteArray>
 #include <QStringList>
 
-#include <optional>
+#include <memory>
 #include <vector>
 
 namespace launch {
@@ -30,9 +31,10 @@ public:
     const QStringList &Argumentos() const { return m_argumentos; }
 
 private:
-    bool enlaza(std::vector<UnidadesDOS::Montaje> &montajes) const;
+    bool enlaza(std::vector<UnidadesDOS::Montaje> &montajes);
 
     QString m_ruta;
+    std::vector<std::unique_ptr<CarpetaDeApodos>> m_apodos;
     QStringList m_argumentos;
 };
 

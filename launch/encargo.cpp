@@ -63,7 +63,7 @@ public:
         const bool absoluta = pieza.ruta && pieza.enDisco.startsWith(u'/');
         const QString &texto = pieza.ruta ? pieza.enDisco : pieza.texto;
         const std::optional<QByteArray> dicho =
-            absoluta ? m_unidades.Ruta(pieza.enDisco) : EnCodigo437(texto);
+            absoluta ? m_unidades.RutaOApodo(pieza.enDisco) : EnCodigo437(texto);
         if (!dicho || (!absoluta && obedeceElInterprete(texto)))
             return traba(pieza.ruta ? Traba::Nombre : Traba::Signo, pieza.ruta ? nombreDe(texto) : texto);
         encargo.colaDOS += *dicho;

@@ -17,7 +17,7 @@ Ruta rutaCorta(const QString &ruta, UnidadesDOS *dos)
         return {};
     const QString escrita = host::trueSpelling(ruta);
     const QString enDisco = escrita.startsWith(u'/') ? escrita : host::currentDirectory() + u'/' + escrita;
-    const std::optional<QByteArray> enDOS = dos ? dos->Ruta(enDisco) : std::nullopt;
+    const std::optional<QByteArray> enDOS = dos ? dos->RutaOApodo(enDisco) : std::nullopt;
     return { host::lower(enDOS ? QString::fromLatin1(*enDOS) : corta), enDisco };
 }
 

@@ -46,6 +46,26 @@ std::optional<QByteArray> directoriosDesde(QByteArray lugar, const QByteArray &r
     return dicho.size() - 1 <= MasLargoElDirectorio ? std::optional(dicho) : std::nullopt;
 }
 
+// Letters and digits, accents gone; what is left over of a part is cut.
+QByteArray llano(const QString &parte, qsizetype largo)
+{
+    QByteArray resultado;
+    for (const QChar letra : parte.normalized(QString::NormalizationForm_D).toUpper()) {
+        if (letra.unicode() < 128 && letra.isLetterOrNumber() && resultado.size() < largo)
+            resultado += letra.toLatin1();
+    }
+    return resultado;
+}
+
+QByteArray apodoDe(const QByteArray &entrada)
+{
+    const QString nombre = host::nameFromDisk(entrada);
+    const qsizetype punto = nombre.lastIndexOf(u'.');
+    const QByteArray base = llano(nombre.first(punto < 0 ? nombre.size() : punto), 8);
+    const QByteArray terminacion = punto < 0 ? QByteArray() : llano(nombre.sliced(punto + 1), 3);
+    return (base.isEmpty() ? QByteArray("GAME") : base) + (terminacion.isEmpty() ? "" : "." + terminacion);
+}
+
 // Without what leads through a directory and back.
 QByteArray directo(const QByteArray &ruta)
 {
@@ -87,13 +107,35 @@ std::optional<QByteArray> UnidadesDOS::Ruta(const QString &enDisco)
                                                                     : std::nullopt;
 }
 
+std::optional<QByteArray> UnidadesDOS::RutaOApodo(const QString &enDisco)
+{
+    if (const std::optional<QByteArray> ruta = Ruta(enDisco))
+        return ruta;
+    const QByteArray ruta = host::nameToDisk(enDisco);
+    const QByteArray lugar = directo(ruta.first(ruta.lastIndexOf('/') + 1));
+    const QByteArray entrada = ruta.sliced(ruta.lastIndexOf('/') + 1);
+    if (!ruta.startsWith('/') || entrada.isEmpty())
+        return std::nullopt;
+    const auto esSuya = [&](const Unidad &unidad) {
+        return unidad.apodos.size() == 1 && unidad.lugar == lugar && unidad.apodos[0].fichero == entrada;
+    };
+    const auto hecha = std::ranges::find_if(m_unidades, esSuya);
+    Unidad *unidad = hecha == m_unidades.end() ? nueva(lugar) : &*hecha;
+    if (!unidad)
+        return std::nullopt;
+    unidad->apodos = { { apodoDe(entrada), entrada } };
+    unidad->montada = true;
+    return unidad->letra + (":\\" + unidad->apodos[0].nombre);
+}
+
 // On the drive that lies nearest above it.
 std::optional<QByteArray> UnidadesDOS::directorio(const QByteArray &lugar)
 {
     Unidad *mejor = nullptr;
     std::optional<QByteArray> dicho;
     for (Unidad &unidad : m_unidades) {
-        if (!lugar.startsWith(unidad.lugar) || (mejor && unidad.lugar.size() <= mejor->lugar.size()))
+        if (!unidad.apodos.empty() || !lugar.startsWith(unidad.lugar)
+            || (mejor && unidad.lugar.size() <= mejor->lugar.size()))
             continue;
         const auto posible = directoriosDesde(unidad.lugar, lugar.sliced(unidad.lugar.size()));
         if (!posible)
@@ -139,7 +181,8 @@ std::vector<UnidadesDOS::Montaje> UnidadesDOS::Montajes() const
         if (lugar.size() > 1)
             lugar.chop(1);
         if (unidad.montada)
-            montajes.push_back({ unidad.letra, lugar, access(lugar.constData(), W_OK) != 0 });
+            montajes.push_back({ unidad.letra, lugar,
+                unidad.apodos.empty() && access(lugar.constData(), W_OK) != 0, unidad.apodos });
     }
     std::ranges::sort(montajes, {}, &Montaje::letra);
     return montajes;

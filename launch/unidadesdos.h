@@ -18,15 +18,24 @@ class UnidadesDOS {
 public:
     explicit UnidadesDOS(const std::vector<host::Drive> &propias = host::drives());
 
+    // A file under a name of its own making: DOS can't open it by the one that it has.
+    struct Apodo {
+        QByteArray nombre; // "NINO.NES"
+        QByteArray fichero; // in the place of its drive
+    };
     struct Montaje {
         char letra; // upper case
         QByteArray lugar; // absolute, as the disk spells it
         bool soloLectura; // nobody could write there
+        std::vector<Apodo> apodos = {}; // if there are any, the drive shows DOS nothing else of its place
     };
 
     // "D:\ROMS\GAME.NES", for an absolute path in its spelling on the disk; of a directory that ends in a
     // slash with its backslash. None where DOS can't open a file of this name, or all letters are given.
     std::optional<QByteArray> Ruta(const QString &enDisco);
+
+    // The same, of a file that DOS can't open by its name under another one.
+    std::optional<QByteArray> RutaOApodo(const QString &enDisco);
 
     // Of the user's own drives those that a parameter names, "d:\roms".
     void Nombra(const QString &parametros);
@@ -39,6 +48,7 @@ private:
         char letra;
         QByteArray lugar; // with a closing slash
         bool montada;
+        std::vector<Apodo> apodos = {};
     };
 
     std::optional<QByteArray> directorio(const QByteArray &lugar);

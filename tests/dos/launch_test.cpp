@@ -195,3 +195,26 @@ TEST_F(LaunchesInDosBox, ALineOf126CharactersGoes_OneOf127IsRefused)
     EXPECT_EQ(Told("old/EMUS").value(0), ' ' + QByteArray(125, 'x'));
     EXPECT_EQ(Notices(), QStringList { u"No: Length"_s });
 }
+
+TEST_F(LaunchesInDosBox, AGameWithAccentsIsOpened_AndWhatItSavesStaysBesideIt)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/nes.com");
+    // Saves beside the game, over what it finds there.
+    makeFile("old/EMUS/GO.BAT",
+        "@nes.com %1\r\n@type E:\\NINO.SAV > C:\\FOUND\r\n@echo saved > E:\\NINO.SAV\r\n@echo new > "
+        "E:\\NINO.NEW\r\n");
+    makeFile("media/ROMS/el ni\xC3\xB1o.nes", "another");
+    makeFile("media/ROMS/ni\xC3\xB1o.nes", "the child");
+    makeFile("media/ROMS/Nino.sav", "before");
+    pantalla.lista1 = u"niño.nes"_s;
+    Select(0, u"C:\\EMUS\\GO.BAT"_s, u"D:\\ROMS\\"_s);
+    Juega();
+    EXPECT_THAT(Notices(), IsEmpty());
+    EXPECT_THAT(Told("old/EMUS"), ElementsAre(" E:\\NINO.NES", "EMUS", "the child"));
+    EXPECT_EQ(bytes("old/FOUND"), "before");
+    EXPECT_EQ(bytes("media/ROMS/Nino.sav"), "saved\r\n");
+    EXPECT_EQ(bytes("media/ROMS/NINO.NEW"), "new\r\n");
+    EXPECT_EQ(bytes("media/ROMS/ni\xC3\xB1o.nes"), "the child");
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
+}

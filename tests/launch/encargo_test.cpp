@@ -6,6 +6,7 @@
 #include "launch/encargo.h"
 #include "launch/wine.h"
 
+#include "host/encoding.h"
 #include "host/paths.h"
 #include "host/process.h"
 
@@ -191,18 +192,30 @@ TEST_F(EncargoTest, NoLettersSignsOrNamesBreakOut)
     EXPECT_THAT(launch::ConfiguracionDOS(encargo).toStdString(), HasSubstr("C:\\NES.EXE 100%% %%path%%\r\n"));
 }
 
-TEST_F(EncargoTest, AGameThatDosCantOpenIsRefusedByItsName)
+TEST_F(EncargoTest, AGameThatDosCantOpenByItsNameGetsAnotherOne)
 {
     Pon(ParaDOS);
     PonHerramienta("dosbox");
-    for (const QByteArray &nombre :
-        { QByteArray("ni\xC3\xB1o.nes"), QByteArray("a.b.c"), QByteArray("a=b.nes") }) {
+    for (const auto &[nombre, apodo] : std::initializer_list<std::pair<QByteArray, QByteArray>> {
+             { "ni\xC3\xB1o.nes", "NINO.NES" }, { "a.b.c", "AB.C" }, { "a=b.nes", "AB.NES" },
+             { "\xE4\xB8\x80.nes", "GAME.NES" }, { "ni\xA4os\n.nes", "NIOS.NES" } }) {
         PonROM(nombre);
-        pantalla.lista1 = QString::fromUtf8(nombre);
-        pantalla.llamadas.clear();
+        pantalla.lista1 = host::nameFromDisk(nombre);
         Juega();
-        EXPECT_EQ(Avisos(), QStringList { u"No: Name"_s }) << nombre.constData();
+        EXPECT_TRUE(Configuracion().contains("C:\\NES.EXE  D:\\" + apodo + "\r"))
+            << nombre.toPercentEncoding().constData();
     }
+    EXPECT_THAT(Avisos(), IsEmpty());
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
+}
+
+TEST_F(EncargoTest, AnEmulatorThatDosCantOpenByItsNameIsRefused)
+{
+    makeFile("emu/n\xC3\xA9s.exe", ParaDOS);
+    M.Cat_EXE(3, 2) = u"EXE="_s + path(u"emu/nés.exe"_s);
+    PonHerramienta("dosbox");
+    Juega();
+    EXPECT_EQ(Avisos(), QStringList { u"No: Name"_s });
     EXPECT_FALSE(HuboJuego());
 }
 
