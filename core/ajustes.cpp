@@ -372,11 +372,19 @@ void GuardaAjuste(Modulo &M, Ajuste ajuste, const QStringList &lineasNuevas)
 
 void GuardaUltimaSeleccion(Modulo &M, const QString &sistema, const QString &emulador)
 {
-    reescribe(M, [&](const QString &texto) {
-        const Posiciones posiciones = PosicionesEnTexto(M, textoDelCatalogo(), sistema, emulador);
-        return ConAjuste(
-            texto, Ajuste::UltimaSeleccion, LineasDeUltimaSeleccion(posiciones.sistema, posiciones.emulador));
-    });
+    bool igual = false;
+    try {
+        reescribe(M, [&](const QString &texto) {
+            const Posiciones posiciones = PosicionesEnTexto(M, textoDelCatalogo(), sistema, emulador);
+            const QString nuevo = ConAjuste(texto, Ajuste::UltimaSeleccion,
+                LineasDeUltimaSeleccion(posiciones.sistema, posiciones.emulador));
+            igual = nuevo == texto;
+            return nuevo;
+        });
+    } catch (const host::ReadOnlyPlace &) {
+        if (!igual)
+            throw;
+    }
 }
 
 void GuardaFiltros(Modulo &M, const QStringList &filtros)

@@ -33,7 +33,8 @@ enum class Ajuste { UltimaSeleccion, GuardarUltimo, TypeOfEditor, MsgEndDOS, Lan
 QString ConAjuste(const QString &texto, Ajuste ajuste, const QStringList &lineasNuevas);
 
 // Rewrites Zembro.cfg with one setting's new lines, with this pair by Zembro.emu as it is now, or with
-// another [Filters] section.
+// another [Filters] section. Fails with what a rewrite fails with; where the pair stands there already,
+// nothing is lost by a directory that can't be written to.
 void GuardaAjuste(Modulo &M, Ajuste ajuste, const QStringList &lineasNuevas);
 void GuardaUltimaSeleccion(Modulo &M, const QString &sistema, const QString &emulador);
 void GuardaFiltros(Modulo &M, const QStringList &filtros);

@@ -121,6 +121,8 @@ struct Modulo : TextosIdioma {
     Tabla<QString> ListaLNG { MaxIdiomas };
     core::Palabras Palabras; // of the language, as its file gives them or as they are built in
 
+    bool SoloLecturaDicha = false; // the user knows that nothing can be kept in this directory
+
     // Answers of the message box.
     QString Respuesta_Caja;
     int Respuesta_Opcion = 0;

@@ -41,6 +41,12 @@ struct Palabras {
     QString Zem_Cambiado0 = QStringLiteral("Nada ha cambiado");
     QString Zem_Cambiado1 = QStringLiteral("Otro programa ha cambiado el archivo entretanto.");
 
+    // What can't be kept, as it lies where nothing can be written.
+    QString Zem_SoloLeer0 = QStringLiteral("Sin grabar");
+    QString Zem_SoloLeer1 = QStringLiteral("No se puede escribir en el directorio del programa.");
+    QString Zem_SoloFin1 = QStringLiteral("No se puede escribir aquí: la selección no se recuerda.");
+    QString Zem_SoloCapt1 = QStringLiteral("No se puede escribir en el directorio de las capturas.");
+
     // Playing one out of an archive.
     QString Zem_NoZip0 = QStringLiteral("ZIP ilegible");
     QString Zem_NoZip1 = QStringLiteral("El ZIP está dañado, o es demasiado antiguo.");

@@ -45,6 +45,13 @@ private:
     QByteArray m_text; // number, operation and subject in one line, for debuggers and test output
 };
 
+// Nothing can be written in a file's directory at all: it lies on a CD, or belongs to another user. The file
+// stands as it was, and the program may go on.
+class ReadOnlyPlace : public Failure {
+public:
+    using Failure::Failure;
+};
+
 // The failure that an errno of the system stands for.
 Failure systemFailure(int systemError, QString operation, QString about);
 

@@ -112,9 +112,17 @@ void NumberedFiles::takeNumbers(const QString &path)
 
 void NumberedFiles::finish(Replacement &replacement, const DecodedText &text)
 {
-    replacement.write(encodeText(text));
-    close(SourceNumber);
-    close(DestinationNumber);
+    const auto giveNumbersBack = [this] {
+        close(SourceNumber);
+        close(DestinationNumber);
+    };
+    try {
+        replacement.write(encodeText(text));
+    } catch (const ReadOnlyPlace &) {
+        giveNumbersBack();
+        throw;
+    }
+    giveNumbersBack();
     replacement.commit();
 }
 

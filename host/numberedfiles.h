@@ -42,7 +42,7 @@ public:
     // in one atomic step. So at any moment the old or the new file is there, whole. The file's encoding, mode
     // and owner are kept, and a link is followed. Whatever fails leaves the old file as it was, and names it.
     // From the reading to the end of the writing both numbers are in use, and a failure in between, one of
-    // `change` too, leaves them so.
+    // `change` too, leaves them so; ReadOnlyPlace, with which the program goes on, doesn't.
     void rewrite(const QString &path, const QString &scratchName,
         const std::function<QString(const QString &)> &change);
 

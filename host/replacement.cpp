@@ -58,7 +58,24 @@ bool isUnchanged(const struct stat &before, const struct stat &now)
         && before.st_mtim.tv_sec == now.st_mtim.tv_sec && before.st_mtim.tv_nsec == now.st_mtim.tv_nsec;
 }
 
+bool isForbidden(int error)
+{
+    return error == EACCES || error == EPERM || error == EROFS;
+}
+
+bool isReadOnly(int directory, const char *path)
+{
+    const auto ask = [&] { return faccessat(directory, path, W_OK | X_OK, AT_EACCESS); };
+    return retried(ask) != 0 && isForbidden(errno);
+}
+
 } // namespace
+
+bool liesInReadOnlyPlace(const QString &path)
+{
+    const QByteArray place = findForWriting(path);
+    return !place.isEmpty() && isReadOnly(AT_FDCWD, directoryOf(followLinks(place, path)).constData());
+}
 
 Replacement::Replacement(const QString &path, const QString &scratchName)
     : m_path(path)
@@ -114,7 +131,7 @@ std::optional<QByteArray> Replacement::read()
 void Replacement::write(const QByteArray &bytes)
 {
     if (m_old && !mayBeWritten())
-        throw Failure(PathAccess, u"rewrite a file that may not be written"_s, m_path);
+        failForbidden();
     makeScratch();
     if (!writeBytes(m_scratch.number(), bytes.constData(), std::size_t(bytes.size())))
         fail(u"write a file"_s);
@@ -193,10 +210,21 @@ void Replacement::makeScratch()
     m_scratchStands = true;
 }
 
+void Replacement::failForbidden() const
+{
+    const QString operation = u"rewrite a file that may not be written"_s;
+    if (isReadOnly(m_directory.number(), "."))
+        throw ReadOnlyPlace(PathAccess, operation, m_path);
+    throw Failure(PathAccess, operation, m_path);
+}
+
 void Replacement::failIn(const QString &operation) const
 {
-    const bool forbidden = errno == EACCES || errno == EPERM || errno == EROFS;
-    fail(forbidden ? u"write beside a file, where writing isn't allowed"_s : operation);
+    if (!isForbidden(errno))
+        fail(operation);
+    const Failure failure =
+        systemFailure(errno, u"write beside a file, where writing isn't allowed"_s, m_path);
+    throw ReadOnlyPlace(failure.number(), failure.operation(), failure.about());
 }
 
 void Replacement::fail(const QString &operation) const

@@ -31,7 +31,8 @@ public:
     std::optional<QByteArray> read();
 
     // Writes the bytes to the scratch file, whatever lay there, and flushes them to the disk. Fails with 75
-    // if the old file may not be written, else with what the system says.
+    // if the old file may not be written, else with what the system says; as ReadOnlyPlace where nothing may
+    // be written in the directory.
     void write(const QByteArray &bytes);
 
     // Puts the scratch file in the place of the old one. Fails with 75 if either isn't the one any more that
@@ -45,6 +46,7 @@ private:
     void mustBeAsWritten() const;
     bool look(const QByteArray &name, struct stat &status) const; // false, with errno
     bool mayBeWritten() const;
+    [[noreturn]] void failForbidden() const; // of the file or of its directory
     [[noreturn]] void failIn(const QString &operation) const; // as fail, of the directory in plain words
     [[noreturn]] void fail(const QString &operation) const; // with errno
 
@@ -56,5 +58,9 @@ private:
     std::optional<PlainFile> m_old; // without its bytes
     bool m_scratchStands = false;
 };
+
+// Whether a rewrite of this file would fail as nothing can be written in its directory; a link is followed,
+// as there.
+bool liesInReadOnlyPlace(const QString &path);
 
 } // namespace host

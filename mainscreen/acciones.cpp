@@ -2,6 +2,7 @@
 // Controls: BotonA2, BotonB2, Menu_Lista1. Zembro.rom keeps the notes of ROMs that are gone: one of the same
 // name gets them back.
 
+#include "mainscreen/escritura.h"
 #include "mainscreen/portada.h"
 
 #include "core/arranque.h"
@@ -103,7 +104,10 @@ void Portada::Describir()
         Advierte(M.Palabras.Zem_NoNota0, M.Palabras.Zem_NoDescrip1);
         return;
     }
-    if (!GuardaDescripcion(tipo, nota, entrada, descripcion)) {
+    bool guardada = false;
+    if (!Escribe(M, *this, [&] { guardada = GuardaDescripcion(tipo, nota, entrada, descripcion); }))
+        return;
+    if (!guardada) {
         Advierte(M.Palabras.Zem_NoNota0, M.Palabras.Zem_NoLinea1);
         return;
     }
@@ -161,9 +165,11 @@ void Portada::Menu_Parametros_Click()
     const core::Parametros nuevos { clave, Combo1->Text(), Combo2->Text(), M.Respuesta_Caja };
     if (!SePuedenAnotar(nuevos))
         return;
-    ReescribeNotas([&](const QString &texto) {
-        return actuales.isEmpty() ? core::ConParametrosNuevos(texto, nuevos)
-                                  : core::ConParametrosCambiados(texto, nuevos);
+    Escribe(M, *this, [&] {
+        ReescribeNotas([&](const QString &texto) {
+            return actuales.isEmpty() ? core::ConParametrosNuevos(texto, nuevos)
+                                      : core::ConParametrosCambiados(texto, nuevos);
+        });
     });
 }
 

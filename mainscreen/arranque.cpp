@@ -2,6 +2,7 @@
 // values. The window is on the screen before the catalogue is read, and the last selection is saved at the
 // exit alone.
 
+#include "mainscreen/escritura.h"
 #include "mainscreen/portada.h"
 
 #include "core/ajustes.h"
@@ -110,7 +111,7 @@ void Portada::Flecha2_Release()
 
 void Portada::GuardaSeleccion()
 {
-    core::GuardaUltimaSeleccion(M, Combo1->Text(), Combo2->Text());
+    EscribeAlSalir(M, *this, [this] { core::GuardaUltimaSeleccion(M, Combo1->Text(), Combo2->Text()); });
 }
 
 } // namespace mainscreen

@@ -1,6 +1,7 @@
 // How large the screen is: picked by keys, or by the wheel on the title, for the next start. The toolkit
 // can't change it while a window stands. Controls: Titulo1. State: none of the settings; Zembro.tam.
 
+#include "mainscreen/escritura.h"
 #include "mainscreen/portada.h"
 
 #include "core/arranque.h"
@@ -49,7 +50,8 @@ void Portada::PideTamano(bool mayor)
     }
     m_tamanoPedido = core::OtroTamano(m_tamanoPedido > 0 ? m_tamanoPedido : devicePixelRatioF(), mayor);
     try {
-        core::GuardaTamano(m_tamanoPedido);
+        if (!Escribe(M, *this, [this] { core::GuardaTamano(m_tamanoPedido); }))
+            return;
     } catch (const host::Failure &fallo) {
         Aviso(M.Palabras.Zem_NoParam0, core::TextoDeFallo(fallo, false));
         return;

@@ -6,6 +6,7 @@
 
 #include "host/letters.h"
 
+#include "mainscreen/escritura.h"
 #include "mainscreen/portada.h"
 
 #include "maintenance/reescritura.h"
@@ -54,11 +55,12 @@ bool Bajas::Confirma(const QString &titulo, const QString &mensaje)
 }
 
 // Takes out of the catalogue what the tables say. Where it isn't what they hold any more, nothing goes: the
-// user is told so, and sees what it is now.
+// user is told so, and sees what it is now. False then, and where nothing can be written.
 bool Bajas::Quita(const std::function<std::optional<QString>(const QString &)> &baja)
 {
-    if (reescribeSi(M, Zembro_emu, baja))
-        return true;
+    bool escrito = false;
+    if (!mainscreen::Escribe(M, P, [&] { escrito = reescribeSi(M, Zembro_emu, baja); }) || escrito)
+        return escrito;
     releeTodo(M, P);
     avisaDeCambio(M, P);
     return false;

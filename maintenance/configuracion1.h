@@ -82,6 +82,8 @@ private:
     void BorrarEmulador();
     QString PideNombre(const QString &mensaje, const QString &titulo);
     bool Confirma(const QString &mensaje, const QString &titulo);
+    enum class Alta { Hecha, Repetida, SinNombre };
+    Alta AñadeALosFicheros(const QString &nuevo);
     enum class Baja { Hecha, EnUso, Cambiado };
     Baja BorraDeLosFicheros(const QString &sistema, int fila);
 

@@ -12,6 +12,9 @@
 #include "core/nombres.h"
 #include "core/notas.h"
 
+#include "mainscreen/escritura.h"
+#include "mainscreen/portada.h"
+
 #include "maintenance/reescritura.h"
 
 using namespace Qt::StringLiterals;
@@ -55,6 +58,19 @@ void Configuracion1::AñadirSistema()
         Mensaje(3, M.Msg_SisYaAñadido1, M.Msg_SisYaAñadido0);
         return;
     }
+    Alta alta = Alta::Hecha;
+    if (!mainscreen::Escribe(M, P, [&] { alta = AñadeALosFicheros(nuevo); }))
+        return;
+    Llena_Configuracion1();
+    Lista1->SetText(nuevo);
+    if (alta == Alta::Repetida)
+        Mensaje(3, M.Msg_SisYaAñadido1, M.Msg_SisYaAñadido0);
+    else if (alta == Alta::SinNombre)
+        Mensaje(3, M.Palabras.Zem_NoNombre1, M.Palabras.Zem_NoNombre0);
+}
+
+Configuracion1::Alta Configuracion1::AñadeALosFicheros(const QString &nuevo)
+{
     bool repetido = false;
     const bool escrito = reescribeSi(M, Zembro_sye, [&](const QString &texto) -> std::optional<QString> {
         repetido = core::SistemaEnTexto(texto, nuevo); // added by another copy since the tables were read
@@ -62,14 +78,10 @@ void Configuracion1::AñadirSistema()
             return {};
         return core::ConSistemaEnBase(texto, nuevo);
     });
-    if (escrito)
-        reescribe(M, Zembro_rom, [&](const QString &texto) { return core::ConSistemaNuevo(texto, nuevo); });
-    Llena_Configuracion1();
-    Lista1->SetText(nuevo);
-    if (repetido)
-        Mensaje(3, M.Msg_SisYaAñadido1, M.Msg_SisYaAñadido0);
-    else if (!escrito)
-        Mensaje(3, M.Palabras.Zem_NoNombre1, M.Palabras.Zem_NoNombre0);
+    if (!escrito)
+        return repetido ? Alta::Repetida : Alta::SinNombre;
+    reescribe(M, Zembro_rom, [&](const QString &texto) { return core::ConSistemaNuevo(texto, nuevo); });
+    return Alta::Hecha;
 }
 
 void Configuracion1::AñadirEmulador()
@@ -88,12 +100,14 @@ void Configuracion1::AñadirEmulador()
         return;
     }
     core::Hueco hueco = core::Hueco::Libre;
-    reescribeSi(M, Zembro_sye, [&](const QString &texto) -> std::optional<QString> {
+    const auto conEmulador = [&](const QString &texto) -> std::optional<QString> {
         hueco = core::HuecoParaEmulador(texto, sistema, nuevo);
         if (hueco != core::Hueco::Libre)
             return {};
         return core::ConEmuladorEnBase(texto, u'-' + sistema, nuevo);
-    });
+    };
+    if (!mainscreen::Escribe(M, P, [&] { reescribeSi(M, Zembro_sye, conEmulador); }))
+        return;
     LlenaYElige(sistema);
     Lista2->SetText(nuevo);
     if (hueco == core::Hueco::Ocupado)
@@ -116,13 +130,15 @@ void Configuracion1::BorrarEmulador()
     const bool conocido = core::EmuladorEnBase(M, Sistema(), emulador);
     bool enUso = core::EmuladorEnCatalogo(M, emulador);
     bool escrito = false;
-    if (!enUso)
-        escrito = reescribeSi(M, Zembro_sye, [&](const QString &texto) -> std::optional<QString> {
-            enUso = core::EmuladorEnCatalogo(*core::CatalogoDe(textoSiHay(M, Zembro_emu)), emulador);
-            if (enUso || !core::TieneEmulador(texto, sistema, emulador))
-                return {};
-            return core::SinEmuladorEnBase(texto, sistema, emulador);
-        });
+    const auto sinEmulador = [&](const QString &texto) -> std::optional<QString> {
+        enUso = core::EmuladorEnCatalogo(*core::CatalogoDe(textoSiHay(M, Zembro_emu)), emulador);
+        if (enUso || !core::TieneEmulador(texto, sistema, emulador))
+            return {};
+        return core::SinEmuladorEnBase(texto, sistema, emulador);
+    };
+    const auto borra = [&] { escrito = reescribeSi(M, Zembro_sye, sinEmulador); };
+    if (!enUso && !mainscreen::Escribe(M, P, borra))
+        return;
     if (enUso) {
         Mensaje(3, M.Msg_YaAñadido1, M.Msg_YaAñadido0);
         return;
@@ -141,7 +157,10 @@ void Configuracion1::BorrarSistema()
     const int fila = Sistema();
     if (!Confirma(M.Msg_BorrarSis1 + sistema + u'?', M.Msg_BorrarSis0))
         return;
-    const Baja baja = core::SistemaEnCatalogo(M, sistema) ? Baja::EnUso : BorraDeLosFicheros(sistema, fila);
+    Baja baja = Baja::EnUso;
+    const auto borra = [&] { baja = BorraDeLosFicheros(sistema, fila); };
+    if (!core::SistemaEnCatalogo(M, sistema) && !mainscreen::Escribe(M, P, borra))
+        return;
     if (baja == Baja::EnUso) {
         Mensaje(3, M.Msg_YaAñadido1, M.Msg_YaAñadido0);
         return;

@@ -8,6 +8,9 @@
 #include "core/bloques.h"
 #include "core/catalogo.h"
 
+#include "mainscreen/escritura.h"
+#include "mainscreen/portada.h"
+
 #include "maintenance/reescritura.h"
 #include "maintenance/relectura.h"
 
@@ -28,13 +31,16 @@ bool Configuracion1::Pide(const QString &mensaje, const QString &titulo, const Q
 void Configuracion1::CambiaEnAmbos(const Cambio &cambio, const Pareja &pareja)
 {
     const bool conocida = pareja.deEmulador && core::EmuladorEnBase(M, Sistema(), pareja.emulador);
-    const bool escrito = reescribeSi(M, u"Zembro.sye"_s, [&](const QString &texto) -> std::optional<QString> {
+    const auto cambiada = [&](const QString &texto) -> std::optional<QString> {
         const bool queda = conocida ? core::TieneEmulador(texto, pareja.sistema, pareja.emulador)
                                     : core::TieneSistema(texto, pareja.sistema);
         if (!queda)
             return {};
         return cambio(texto);
-    });
+    };
+    bool escrito = false;
+    if (!mainscreen::Escribe(M, P, [&] { escrito = reescribeSi(M, u"Zembro.sye"_s, cambiada); }))
+        return;
     if (!escrito) {
         LlenaYElige(pareja.sistema);
         Mensaje(3, M.Palabras.Zem_Cambiado1, M.Palabras.Zem_Cambiado0);
@@ -45,7 +51,7 @@ void Configuracion1::CambiaEnAmbos(const Cambio &cambio, const Pareja &pareja)
     Llena_Configuracion1();
     M.CambioConfig1 = 0;
     if (EstaEnUso(pareja)) {
-        reescribe(M, u"Zembro.emu"_s, cambio);
+        mainscreen::Escribe(M, P, [&] { reescribe(M, u"Zembro.emu"_s, cambio); });
         releeTablas(M, P);
     }
     if (!SistemasAlDia() || (suyos && !EmuladoresAlDia())) {

@@ -6,6 +6,10 @@
 
 #include "forms/yield.h"
 
+#include "host/paths.h"
+#include "host/replacement.h"
+
+#include "mainscreen/escritura.h"
 #include "mainscreen/portada.h"
 
 #include "maintenance/configuracion1.h"
@@ -52,8 +56,18 @@ void Grabacion::Graba()
         Mensaje(3, M.Msg_SinCambios1, M.Msg_SinCambios0);
         return;
     }
+    // Both steps stay, with what is typed in them.
+    if (host::liesInReadOnlyPlace(host::programFile(Zembro_emu))) {
+        mainscreen::AvisaDeSoloLectura(M, P, M.Palabras.Zem_SoloLeer1);
+        return;
+    }
     OcultaPasos();
-    const bool escrito = Escribe();
+    bool escrito = false;
+    if (!mainscreen::Escribe(M, P, [&] { escrito = Escribe(); })) {
+        m_paso1.Unload();
+        m_paso2.Unload();
+        return;
+    }
     OcultaPasos();
     if (!escrito) {
         AvisaDeCambio();

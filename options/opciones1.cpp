@@ -10,6 +10,7 @@
 #include "host/paths.h"
 #include "host/tools.h"
 
+#include "mainscreen/escritura.h"
 #include "mainscreen/portada.h"
 
 using namespace Qt::StringLiterals;
@@ -156,18 +157,24 @@ void Opciones1::Disco1_Release()
 {
     const int aspecto = core::NumeroDeAjuste(M.TypeOfEditor);
     if (aspecto != M.TypeOfEditorPrevio) {
-        core::GuardaAjuste(M, core::Ajuste::TypeOfEditor, { core::LineaDeEditor(aspecto) });
-        Confirma();
-        M.TypeOfEditorPrevio = aspecto;
+        if (Graba(core::Ajuste::TypeOfEditor, core::LineaDeEditor(aspecto)))
+            M.TypeOfEditorPrevio = aspecto;
     } else if (Combo2->Text() == M.IdiomaPrevio) {
         Advierte(M.Msg_SinCambios0, M.Msg_SinCambios1);
     } else if (!core::VuelveIdioma(Combo2->Text())) {
         Advierte(M.Palabras.Zem_NoFinal0, M.Palabras.Zem_NoNombre1);
     } else {
-        core::GuardaAjuste(M, core::Ajuste::LanguageFile, { core::LineaDeIdioma(Combo2->Text()) });
-        Confirma();
-        M.IdiomaPrevio = Combo2->Text();
+        if (Graba(core::Ajuste::LanguageFile, core::LineaDeIdioma(Combo2->Text())))
+            M.IdiomaPrevio = Combo2->Text();
     }
+}
+
+bool Opciones1::Graba(core::Ajuste ajuste, const QString &linea)
+{
+    if (!mainscreen::Escribe(M, P, [&] { core::GuardaAjuste(M, ajuste, { linea }); }))
+        return false;
+    Confirma();
+    return true;
 }
 
 void Opciones1::Advierte(const QString &titulo, const QString &texto)

@@ -4,6 +4,7 @@
 // nothing, so that after leaving and coming back an unsaved change counts as saved.
 #pragma once
 
+#include "core/ajustes.h"
 #include "core/modulo.h"
 
 #include "forms/combobox.h"
@@ -54,6 +55,7 @@ private:
     void Boton_CFGAv_Click();
     void Disco1_Release();
     void Advierte(const QString &titulo, const QString &texto);
+    bool Graba(core::Ajuste ajuste, const QString &linea); // false, with a word, where it can't be kept
     void Confirma();
 
     core::Modulo &M;

@@ -7,6 +7,7 @@
 #include "dialogs/coloca.h"
 #include "dialogs/etiqueta.h"
 
+#include "mainscreen/escritura.h"
 #include "mainscreen/portada.h"
 
 using namespace Qt::StringLiterals;
@@ -136,7 +137,8 @@ void Opciones2::Disco1_Release()
     }
     if (Rechaza())
         return;
-    Graba();
+    if (!mainscreen::Escribe(M, P, [this] { Graba(); }))
+        return;
     M.MsgEndDOS = CajaTexto2->Text();
     P.Mensaje(4, M.Msg_GrabacionOK1, M.Msg_GrabacionOK0, M.TXT_Aceptar, TXT_Volver->Caption(), QString());
     TomaPrevios();

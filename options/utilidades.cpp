@@ -11,11 +11,13 @@
 
 #include "host/paths.h"
 #include "host/process.h"
+#include "host/replacement.h"
 #include "host/windows.h"
 
 #include "launch/esperaremulador.h"
 #include "launch/intenta.h"
 
+#include "mainscreen/escritura.h"
 #include "mainscreen/portada.h"
 
 using namespace Qt::StringLiterals;
@@ -76,6 +78,11 @@ void Utilidades::Boton1_Click()
     const QStringList capturas = core::CapturasPCX(M.RutaTrabajo);
     if (capturas.isEmpty()) {
         P.Mensaje(3, M.Msg_NingunPCX1, M.Msg_NingunPCX0, M.TXT_Aceptar, TXT_Volver->Caption(), QString());
+        return;
+    }
+    // Each would fail, and be lost where the converter has no say in that.
+    if (host::liesInReadOnlyPlace(host::withClosingSeparator(M.RutaTrabajo) + capturas.front())) {
+        mainscreen::AvisaDeSoloLectura(M, P, M.Palabras.Zem_SoloCapt1);
         return;
     }
     Trabaja(true);

@@ -56,7 +56,7 @@ const QStringList Warnings { u"Msg_EmuYaAñadido"_s, u"Msg_SisYaAñadido"_s, u"M
     u"Msg_Casillas"_s, u"Msg_NingunaROM"_s, u"Msg_SinCambios"_s, u"Msg_NingunPCX"_s, u"Msg_NoEmuLD"_s,
     u"Msg_YaAñadido"_s, u"Msg_AyudaNoEnc"_s, u"Msg_CFGNoEnc"_s, u"Zem_NoPapelera"_s, u"Zem_NoNota"_s,
     u"Zem_NoParam"_s, u"Zem_NoNombre"_s, u"Zem_Cambiado"_s, u"Zem_NoCampo"_s, u"Zem_NoFiltro"_s,
-    u"Zem_NoFinal"_s, u"Zem_Comillas"_s };
+    u"Zem_NoFinal"_s, u"Zem_Comillas"_s, u"Zem_SoloLeer"_s };
 const QStringList Notices { u"Msg_EmuNoWeb"_s, u"Msg_SisNoWeb"_s, u"Msg_ZipSinRoms"_s, u"Msg_CFGGrabada"_s,
     u"Msg_GrabacionOK"_s, u"Msg_ArchGrande"_s, u"Zem_NoZip"_s };
 
@@ -66,6 +66,8 @@ const QStringList JoinedInNotices { u"Msg_IMGTransXX"_s, u"Msg_IMGTrans1I"_s, u"
 // Warnings under one caption.
 const QString NotNoted = u"Zem_NoNota0"_s;
 const QStringList NotDescribed { u"Zem_NoDescrip1"_s, u"Zem_NoLinea1"_s };
+const QString NotWritten = u"Zem_SoloLeer0"_s;
+const QStringList NotKept { u"Zem_SoloFin1"_s, u"Zem_SoloCapt1"_s };
 const QString MissingTool = u"Zem_Falta0"_s;
 const QStringList MissingTools { u"Zem_FaltaEditor"_s, u"Zem_FaltaEdit"_s, u"Zem_FaltaTerm"_s,
     u"Zem_FaltaGestor"_s, u"Zem_FaltaDOSBox"_s, u"Zem_FaltaWine"_s };
@@ -223,7 +225,7 @@ template <class Screens> void expectWholeInLanguage(core::Modulo &M, const Langu
 
 TEST(FitOfTexts, IsMeasuredForEveryKey)
 {
-    QStringList measured = LabelsOfPortada + Unbound + JoinedInNotices + MissingTools + NotDescribed
+    QStringList measured = LabelsOfPortada + Unbound + JoinedInNotices + MissingTools + NotDescribed + NotKept
         + ReasonsOfDOS + keysOf(Inputs + Questions + Warnings + Notices)
         + QStringList { u"TXT_Cargando"_s, u"TXT_Directorios"_s, MissingTool, NotForDOS, AskForNote,
               NotNoted };
@@ -296,6 +298,8 @@ TEST_P(TextsOfCaja, ShowWholeInWarningsOfRefusedDescriptions)
 {
     for (const QString &reason : NotDescribed)
         expectShown(Box::Warning, text(NotNoted), text(reason));
+    for (const QString &reason : NotKept)
+        expectShown(Box::Warning, text(NotWritten), text(reason));
 }
 
 TEST_P(TextsOfCaja, ShowWholeInWarningsOfMissingTools)

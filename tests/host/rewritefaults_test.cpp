@@ -234,6 +234,66 @@ TEST_F(RewriteFaults, FailureSaysThatWritingIsNotAllowedThere_AndOnlyThen)
     EXPECT_EQ(wordsOf("unlinkat", EIO), u"remove a left-over scratch file"_s);
 }
 
+// With which the program goes on: the numbers are free for the next try.
+TEST_F(RewriteFaults, WhereNothingCanBeWrittenTheFailureSaysSoByItsKind)
+{
+    const auto kindOf = [this](const char *call, int error) {
+        const systemcalls::FaultOf fault(call, error);
+        host::NumberedFiles files;
+        try {
+            files.rewrite(path(u"Zembro.cfg"_s), u"Zembro.tmp"_s, [](const QString &) { return u"new"_s; });
+        } catch (const host::ReadOnlyPlace &failure) {
+            EXPECT_TRUE(failure.about().endsWith(u"Zembro.cfg"));
+            return files.isOpen(1) || files.isOpen(2) ? u"read-only, in use"_s : u"read-only"_s;
+        } catch (const host::Failure &) {
+            return files.isOpen(1) && files.isOpen(2) ? u"fatal, in use"_s : u"fatal"_s;
+        }
+        return u"none"_s;
+    };
+    for (const int error : { EACCES, EPERM, EROFS })
+        EXPECT_EQ(kindOf("unlinkat", error), u"read-only"_s) << error;
+    for (const int error : { EIO, ENOSPC, EISDIR })
+        EXPECT_EQ(kindOf("unlinkat", error), u"fatal, in use"_s) << error;
+    EXPECT_EQ(bytes("Zembro.cfg"), Old);
+}
+
+TEST_F(RewriteFaults, AFileIsReadOnlyWithItsDirectory_OrAloneAndThenFatally)
+{
+    const auto kind = [this] {
+        return inChildOfOrdinaryUser([this] {
+            const int place = host::liesInReadOnlyPlace(path(u"Zembro.cfg"_s)) ? 10 : 0;
+            try {
+                rewrite();
+            } catch (const host::ReadOnlyPlace &) {
+                return place + 1;
+            } catch (const host::Failure &) {
+                return place + 2;
+            }
+            return place;
+        });
+    };
+    for (const mode_t file : { 0644, 0444, 0666 }) {
+        setMode("Zembro.cfg", file);
+        setMode({}, 0555);
+        EXPECT_EQ(kind(), 11) << file;
+        setMode({}, 0777);
+        EXPECT_EQ(kind(), file == 0666 ? 0 : 2) << file;
+        setMode("Zembro.cfg", 0666);
+    }
+    // By a link, the place of what it leads to counts.
+    makeDirectory("other");
+    ASSERT_TRUE(QFile::rename(path(u"Zembro.cfg"_s), path(u"other/real"_s)));
+    ASSERT_TRUE(QFile::link(u"other/real"_s, path(u"Zembro.cfg"_s)));
+    setMode("other", 0777);
+    setMode({}, 0555);
+    EXPECT_EQ(kind(), 0);
+    setMode({}, 0777);
+    setMode("other", 0555);
+    EXPECT_EQ(kind(), 11);
+    setMode("other", 0777);
+    setMode({}, 0755);
+}
+
 TEST_F(RewriteFaults, RewriteFails_OfAFileThatOthersMayWriteButNotTheUser)
 {
     if (geteuid() != 0)

@@ -1,6 +1,7 @@
 // The two small buttons that take a system or an emulator out of the catalogue: the question, the file, and
 // what the screen shows then.
 
+#include "tests/support/ordinaryuser.h"
 #include "tests/support/portadatest.h"
 
 #include "maintenance/bajas.h"
@@ -142,6 +143,29 @@ TEST_F(BajasTest, GoingBackChangesNothingAndGivesTheComboTheFocus)
         EXPECT_THAT(listed(), ElementsAre(u"three.rom"_s, u"two.rom"_s));
         EXPECT_EQ(word(), u"Jugar"_s);
     }
+}
+
+TEST_F(BajasTest, WhereNothingCanBeWrittenItIsTold_AndNothingGoes)
+{
+    begin(Top + Gamma + Beta + Alfa + End, 2, 1);
+    const QByteArray before = catalogue();
+    const QStringList games = listed();
+    QStringList told;
+    for (const QString &button : { u"Menos2b"_s, u"Menos2a"_s }) {
+        atModal(u"Caja"_s, [](forms::Form &box) { click(controlOf<QWidget>(box, u"Aceptar2"_s)); });
+        atModal(u"Caja"_s, [&told](forms::Form &box) {
+            told << controlOf<forms::Label>(box, u"Texto2"_s).Caption();
+            click(controlOf<QWidget>(box, u"Flecha2"_s));
+        });
+        const AsOrdinaryUser user(files.path());
+        click(control(button));
+    }
+    const QString words = u"No se puede escribir en el directorio del programa."_s;
+    EXPECT_THAT(told, ElementsAre(words, words));
+    EXPECT_EQ(catalogue(), before);
+    EXPECT_EQ(systems().Text(), u"Gamma"_s);
+    EXPECT_EQ(emulators().Text(), u"G2"_s);
+    EXPECT_EQ(listed(), games);
 }
 
 TEST_F(BajasTest, TheFirstSystemGivesWayToTheNewFirst)

@@ -2,6 +2,8 @@
 
 #include "configuraciontest.h"
 
+#include "tests/support/ordinaryuser.h"
+
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -94,6 +96,20 @@ TEST_F(Configuracion1DatosTest, TheAddressOfTheEmulatorChangesInBothFiles)
                    "WEB2=\r\n"
             + Closing),
         catalogueOf("http://alfa", "*.ZIP\r\n*.BIN\r\n'\r\n", "http://new"), notes);
+}
+
+TEST_F(Configuracion1DatosTest, WhereNothingCanBeWrittenItIsTold_AndNothingChanges)
+{
+    begin();
+    {
+        const AsOrdinaryUser user(files.path());
+        configure([this](forms::Form &form) {
+            atInput(u"Msg_EXT"_s, u"ZIP,BIN"_s, u"rom"_s);
+            atNotWritten();
+            click(controlOf<QWidget>(form, u"Boton_E"_s));
+        });
+    }
+    expectFilesUnchanged();
 }
 
 TEST_F(Configuracion1DatosTest, AnEmptiedBoxIsAnAnswer)

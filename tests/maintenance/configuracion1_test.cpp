@@ -2,6 +2,8 @@
 
 #include "configuraciontest.h"
 
+#include "tests/support/ordinaryuser.h"
+
 #include "forms/commandbutton.h"
 
 #include <QAccessible>
@@ -140,6 +142,29 @@ TEST_F(Configuracion1Test, ANewSystemIsOnTheDiskAtOnceAndSelected)
         EXPECT_THAT(entriesOf(emulatorsOf(form)), IsEmpty());
         EXPECT_EQ(pair(form), u"  Aleph & Co -> "_s);
     });
+}
+
+TEST_F(Configuracion1Test, WhereNothingCanBeWrittenItIsTold_AndNothingChanges)
+{
+    begin();
+    configure([this](forms::Form &form) {
+        const AsOrdinaryUser user(files.path());
+        const QStringList systems = entriesOf(systemsOf(form));
+        atInput(u"Msg_AñadirSis"_s, {}, u"New"_s);
+        atNotWritten();
+        press(form, u"Mas1"_s);
+        atInput(u"Msg_AñadirEmu"_s, {}, u"New"_s);
+        atNotWritten();
+        press(form, u"Boton_Mas2"_s);
+        atQuestion(u"Msg_BorrarEmu"_s, emulatorsOf(form).Text(), true);
+        atNotWritten();
+        press(form, u"Boton_Menos2"_s);
+        atQuestion(u"Msg_BorrarSis"_s, systemsOf(form).Text(), true);
+        atNotWritten();
+        press(form, u"Menos1"_s);
+        EXPECT_EQ(entriesOf(systemsOf(form)), systems);
+    });
+    expectFilesUnchanged();
 }
 
 TEST_F(Configuracion1Test, AKnownSystemInAnotherCaseIsRefused)

@@ -111,6 +111,13 @@ void ConfiguracionTest::atNotice(const QString &key)
     atBox(key, u"Texto2"_s, key + u'1', u"Aceptar2"_s);
 }
 
+void ConfiguracionTest::atNotWritten()
+{
+    M->Palabras.Zem_SoloLeer0 = u"Zem_SoloLeer0"_s;
+    M->Palabras.Zem_SoloLeer1 = u"Zem_SoloLeer1"_s;
+    atWarning(u"Zem_SoloLeer"_s);
+}
+
 void ConfiguracionTest::expectFiles(
     const QByteArray &newDatabase, const QByteArray &newCatalogue, const QByteArray &newNotes)
 {

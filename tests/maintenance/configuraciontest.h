@@ -33,6 +33,7 @@ protected:
     void atQuestion(const QString &key, const QString &name, bool accepted);
     void atWarning(const QString &key);
     void atNotice(const QString &key);
+    void atNotWritten(); // the warning that nothing can be written
 
     // The three files that configuring may change; the settings never change.
     void expectFiles(const QByteArray &database, const QByteArray &catalogue, const QByteArray &notes);

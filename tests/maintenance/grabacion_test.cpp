@@ -2,6 +2,8 @@
 
 #include "grabaciontest.h"
 
+#include "tests/support/ordinaryuser.h"
+
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -208,6 +210,23 @@ TEST_F(GrabacionTest, AChangedEmulatorTakesThePlaceOfItsOldBlock_AndTheCombosSta
     EXPECT_EQ(M->Combo1Listo, 1);
     EXPECT_EQ(M->Combo2Listo, 1);
     EXPECT_EQ(focused(), u"Lista1"_s);
+}
+
+TEST_F(GrabacionTest, WhereNothingCanBeWrittenBothStepsStayWithWhatIsTyped)
+{
+    withNes({ .roms = at(u"a/"_s) });
+    configurePair(u"NES"_s, u"N1"_s, [this](forms::Form &form) {
+        write(form, u"Casilla1"_s, u"/bin/other"_s);
+        atNotWritten();
+        {
+            const AsOrdinaryUser user(files.path());
+            save(form);
+        }
+        EXPECT_TRUE(form.isVisible());
+        EXPECT_EQ(controlOf<forms::TextBox>(form, u"Casilla1"_s).Text(), u"/bin/other"_s);
+        expectFilesUnchanged();
+        saveWell(form); // where it can be written again
+    });
 }
 
 TEST_F(GrabacionTest, AnotherRomDirectoryIsListedAtOnce)

@@ -2,6 +2,8 @@
 
 #include "opcionestest.h"
 
+#include "tests/support/ordinaryuser.h"
+
 #include "tests/support/desktoptools.h"
 
 #include "forms/commandbutton.h"
@@ -561,4 +563,20 @@ TEST_F(Opciones1Test, EverythingIsReachedByTabInTheOrderOfTheScreen)
         EXPECT_THAT(order,
             ElementsAre(u"Combo1"_s, u"Combo2"_s, u"Boton2"_s, u"Boton_CFGAv"_s, u"Disco1"_s, u"Flecha2"_s));
     });
+}
+
+TEST_F(Opciones1Test, WhatCannotBeKeptIsTold_AndHoldsForThisRun)
+{
+    startAt(Zeta, 0);
+    const QByteArray before = settings();
+    options([this](forms::Form &form) {
+        const AsOrdinaryUser user(files.path());
+        comboOf(form, u"Combo1"_s).SetListIndex(0);
+        EXPECT_EQ(save(form), warningOf(u"Zem_SoloLeer"_s));
+        comboOf(form, u"Combo1"_s).SetListIndex(1);
+        comboOf(form, u"Combo2"_s).SetText(u"ZB-ENG.LNG"_s);
+        EXPECT_TRUE(save(form).warning);
+        EXPECT_EQ(captionOf(form, u"TXT_Grabar"_s), u"E:TXT_Grabar"_s);
+    });
+    EXPECT_EQ(settings(), before);
 }

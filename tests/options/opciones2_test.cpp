@@ -2,6 +2,8 @@
 
 #include "opcionestest.h"
 
+#include "tests/support/ordinaryuser.h"
+
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 
@@ -487,4 +489,21 @@ TEST_F(Opciones2Test, EverythingIsReachedByTabInTheOrderOfTheScreen)
         EXPECT_THAT(
             order, ElementsAre(u"Opcion1"_s, u"CajaTexto1"_s, u"CajaTexto2"_s, u"Disco1"_s, u"Flecha2"_s));
     });
+}
+
+TEST_F(Opciones2Test, WhatCannotBeKeptIsTold_AndStaysInTheBoxes)
+{
+    startAt(Zeta, 0);
+    const QByteArray before = settings();
+    advanced([this](forms::Form &form) {
+        controlOf<forms::TextBox>(form, u"CajaTexto1"_s).SetText(u"ONE,TWO"_s);
+        controlOf<forms::TextBox>(form, u"CajaTexto2"_s).SetText(u"Over"_s);
+        {
+            const AsOrdinaryUser user(files.path());
+            EXPECT_EQ(save(form), warningOf(u"Zem_SoloLeer"_s));
+        }
+        EXPECT_EQ(controlOf<forms::TextBox>(form, u"CajaTexto1"_s).Text(), u"ONE,TWO"_s);
+        EXPECT_EQ(save(form), noticeOf(u"Msg_GrabacionOK"_s)); // where it can be written again
+    });
+    EXPECT_NE(settings(), before);
 }

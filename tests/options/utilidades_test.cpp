@@ -2,6 +2,8 @@
 
 #include "opcionestest.h"
 
+#include "tests/support/ordinaryuser.h"
+
 #include "forms/commandbutton.h"
 
 #include "host/paths.h"
@@ -215,6 +217,19 @@ TEST_F(UtilidadesTest, ADirectoryOfCapturesCountsFromTheProgramsDirectory)
     host::changeDirectory(u"/"_s);
     EXPECT_EQ(converted(), report(u"S:Msg_IMGTrans1I 1 S:Msg_IMGTrans1D"_s));
     EXPECT_THAT(captures(), testing::Not(testing::Contains(u"a.pcx"_s)));
+}
+
+TEST_F(UtilidadesTest, WhereNothingCanBeWrittenNoCaptureIsTouched)
+{
+    writeCaptures({ u"a.pcx"_s, u"b.pcx"_s });
+    startAt(Zeta, 0);
+    utilities([this](forms::Form &form) {
+        const AsOrdinaryUser user(files.path());
+        EXPECT_EQ(convert(form),
+            (Box { u"S:Zem_SoloLeer0"_s, u"S:Zem_SoloCapt1"_s, warningOf(u"Msg_NingunPCX"_s).words, true }));
+    });
+    EXPECT_EQ(captures().size(), 2);
+    EXPECT_EQ(record(), QString());
 }
 
 TEST_F(UtilidadesTest, EachNameIsOneArgumentWhateverItHolds_InTheOrderOfNames)
