@@ -6,7 +6,7 @@
 namespace options::creditos {
 
 inline constexpr QStringView Programa = u"Zembrolix";
-inline constexpr QStringView Version = u"V2.0";
+inline constexpr QStringView Version = u"V" ZEMBROLIX_VERSION;
 inline constexpr QStringView Licencia = u"(FreeWare)";
 
 // What a link shows, and what it opens.

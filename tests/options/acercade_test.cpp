@@ -38,7 +38,7 @@ TEST_F(AcercaDeTest, ItTellsNameVersionAndLicenceAndShowsTheLogo)
         QStringList shown;
         for (const auto *label : form.findChildren<QLabel *>())
             shown << label->text();
-        for (const QString &text : { u"Zembrolix"_s, u"V2.0"_s, u"(FreeWare)"_s })
+        for (const QString &text : { u"Zembrolix"_s, u"V" ZEMBROLIX_VERSION ""_s, u"(FreeWare)"_s })
             EXPECT_THAT(shown, Contains(text));
         EXPECT_EQ(form.Caption(), u"S:TXT_AcercaDe"_s);
         EXPECT_EQ(captionOf(form, u"Label4"_s), u"S:Zem_Autores"_s);
