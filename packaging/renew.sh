@@ -83,4 +83,5 @@ mkdir -p "$directory/roms/Atari 2600"
 "$programs/BuscaEmuladores" "$files/emuladores.tsv" "$directory" "$work/Zembro.emu" >"$work/found" 9>&- ||
     echo "The emulators of this machine aren't configured." >&2
 [ ! -s "$work/found" ] || sed 's/^/Configured /' "$work/found"
+record "$work/Zembro.emu" Zembro.emu >>"$delivered" # so that it can be told from one that the user has changed
 place 644 "$work/Zembro.emu" Zembro.emu
