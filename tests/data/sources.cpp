@@ -23,7 +23,7 @@ QStringList lines(const QString &name)
     EXPECT_EQ(text.toUtf8(), bytes) << name.toStdString() << " isn't UTF-8";
     EXPECT_FALSE(text.contains(u'\r')) << name.toStdString();
     EXPECT_TRUE(text.endsWith(u'\n')) << name.toStdString();
-    return text.chopped(1).split(u'\n');
+    return text.chopped(1).replace(u"@VERSION@"_s, QStringLiteral(ZEMBROLIX_VERSION)).split(u'\n');
 }
 
 QString delivered(const QString &name)

@@ -12,7 +12,7 @@ version=$(sed -n 's/^project(Zembrolix VERSION \([0-9.]*\).*/\1/p' CMakeLists.tx
 pattern=$(printf '%s' "$version" | sed 's/\./\\./g')
 told=$(grep -rInE "(zembro(lix)?[ _-]?v?|[^a-z]v)$pattern([^0-9]|\$)" --ignore-case --exclude-dir=demo \
     main.cpp companion converter core data dialogs finder forms host launch mainscreen maintenance options packaging run.sh |
-    grep -vE '^mainscreen/disposicion\.cpp:[0-9]+:.*SetCaption|^packaging/zembro\.1:2:|^packaging/README\.md:')
+    grep -vE '^mainscreen/disposicion\.cpp:[0-9]+:.*SetCaption|^packaging/zembro\.1:2:|^packaging/README\.md:|windowname')
 [ -z "$told" ] || complain "it is written elsewhere too: $told"
 
 [ "$("$build/companion/zembro" --version)" = "zembro $version" ] || complain "zembro tells another one"
