@@ -4,7 +4,7 @@
 set -uo pipefail
 
 # Should an editor, or anything else, spoil one of the text files: as they are now. A start goes on without it.
-"$1/zembro" save >/dev/null || true
+[ ! -w "$1" ] || "$1/zembro" save >/dev/null || true
 
 # What becomes of each launch; zembro why reads it.
 if [ -z "${ZEMBRO_LOG+set}" ]; then
