@@ -139,7 +139,9 @@ void RevisaCapturas(
                 continue;
             vistos.insert(directorio);
             const QStringList nombres = host::listFiles(directorio, u"*.gif"_s);
-            if (const std::optional<QSet<QString>> capturas = capturasDeTodas(sesion, directorio))
+            const std::optional<QSet<QString>> capturas = capturasDeTodas(sesion, directorio);
+            // Where no game is listed, that is what is amiss.
+            if (capturas && !capturas->isEmpty())
                 revisaDirectorio(sesion, nombres, *capturas, pareja, revision);
         } catch (const host::Failure &fallo) {
             revision.push_back({ u"no-captures"_s, u"Zembro.emu"_s, suyas.IMG, nombreDe(pareja),

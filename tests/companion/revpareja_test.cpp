@@ -101,6 +101,14 @@ TEST_F(CheckPair, ATypeThatCannotMeetWhatLiesThereIsSaid)
     EXPECT_THAT(clases(SisUno), ElementsAre(u"no-extension"_s, u"nothing-listed"_s));
 }
 
+TEST_F(CheckPair, CapturesAreNotSaidToFitNothing_WhereNothingIsListed)
+{
+    Cambia(u"Zembro.emu"_s, "*.NES\r\n", "");
+    Borra(u"img/Sonic.gif"_s);
+    QDir(Ruta(u"dirs/Sonic"_s)).removeRecursively();
+    EXPECT_THAT(clases(), testing::Not(testing::Contains(u"capture-without-game"_s)));
+}
+
 TEST_F(CheckPair, ADirectoryThatTheProgramMadeReadyIsNoFinding)
 {
     Borra(u"img/mario.gif"_s);
