@@ -1,5 +1,7 @@
 #include "converter/gif.h"
 
+#include "converter/magick.h"
+
 #include <Magick++.h>
 
 #include <algorithm>
@@ -51,16 +53,6 @@ Picture withPalette(const Picture &picture, const std::vector<std::uint32_t> &co
         result.pixels.push_back(static_cast<std::uint8_t>(place - colours.begin()));
     }
     return result;
-}
-
-// Without the library's handlers of signals, which end the process as if it had ended by itself.
-void startLibrary()
-{
-    MagickLib::ExceptionInfo exception;
-    MagickLib::GetExceptionInfo(&exception);
-    MagickLib::InitializeMagickEx(nullptr, MAGICK_OPT_NO_SIGNAL_HANDER, &exception);
-    MagickLib::DestroyExceptionInfo(&exception);
-    Magick::InitializeMagick(nullptr);
 }
 
 Magick::Image indexedImage(const Picture &picture)

@@ -1,5 +1,7 @@
 #!/usr/bin/python3
-"""Makes the pictures of tests/converter/fixtures anew: NAME.ppm is a picture, NAME-TOOL.pcx what a program made of it.
+"""Makes the pictures of tests/converter/fixtures anew: NAME.ppm is a picture, NAME-TOOL.pcx what a program made of it,
+others/NAME-TOOL.ENDING another kind of picture. Called with "others" it makes those alone, for which imagemagick, webp and
+python3-pil suffice.
 
 Needs Debian's netpbm, imagemagick, graphicsmagick, ffmpeg, ghostscript and python3-pil; the tests need none of them.
 Two and three planes of 1 bit and one plane of 2 bits come from netpbm alone: no other of Debian's programs was found
@@ -7,6 +9,7 @@ that writes them.
 """
 import pathlib
 import subprocess
+import sys
 
 from PIL import Image
 
@@ -82,8 +85,66 @@ def write_pcx():
             f"-sOutputFile={name}-ghostscript.pcx", "-", given=page.encode() + b"showpage\n")
 
 
+def write_others():
+    """NAME is a picture that comes back pixel by pixel; the names with a further word are told in the test."""
+    others = fixtures / "others"
+    pictures = {name: Image.open(fixtures / f"{name}.ppm") for name in ("true", "all256", "grey", "mono")}
+    indexed = pictures["all256"].quantize(256, dither=Image.Dither.NONE)
+    true = pictures["true"]
+    for ending, options in (("png", {}), ("bmp", {}), ("tif", {"compression": "tiff_lzw"}), ("webp", {"lossless": True})):
+        true.save(others / f"true-pillow.{ending}", **options)
+    for ending in ("png", "bmp", "gif"):
+        indexed.save(others / f"all256-pillow.{ending}")
+    indexed.save(others / "palette-pillow.tif")
+    pictures["grey"].convert("L").save(others / "grey-pillow.png")
+    mono = pictures["mono"].convert("1", dither=Image.Dither.NONE)
+    mono.save(others / "mono-pillow.png")
+    mono.save(others / "mono-pillow.tif", compression="group4")
+    true.save(others / "lossy-pillow.jpg", quality=95, subsampling=0)
+    true.save(others / "lossy-progressive.jpg", quality=95, subsampling=0, progressive=True)
+    true.convert("CMYK").save(others / "lossy-cmyk.jpg", quality=95)
+    turned = Image.Exif()
+    turned[0x0112] = 6  # its right side is the top
+    true.save(others / "turned-pillow.jpg", quality=95, subsampling=0, exif=turned)
+    true.save(others / "turned-pillow.tif", tiffinfo={274: 6})
+    half = true.convert("RGBA")
+    half.putalpha(128)
+    for ending in ("png", "tif"):
+        half.save(others / f"half-pillow.{ending}")
+    half.save(others / "half-pillow.webp", lossless=True, exact=True)
+    invisible = true.convert("RGBA")
+    invisible.putalpha(0)
+    invisible.save(others / "true-fourthbyte.bmp")
+    deep = Image.new("I;16", (width, height))
+    deep.putdata([value * 257 for value in pictures["grey"].convert("L").getdata()])
+    deep.save(others / "grey-deep.png")
+    deep.save(others / "grey-deep.tif")
+    frames = [Image.new("RGB", (60, 40), colour) for colour in ("red", "lime", "blue")]
+    for ending in ("png", "gif", "webp", "tif"):
+        options = {"duration": 100, "lossless": True} if ending == "webp" else {}
+        frames[0].save(others / f"several-pillow.{ending}", save_all=True, append_images=frames[1:], **options)
+    frames[0].resize((20, 10)).save(others / "part.png")
+    run("cwebp", "-quiet", "-lossless", "others/part.png", "-o", "others/part.webp")
+    run("webpmux", "-frame", "others/part.webp", "+100+6+4", "-frame", "others/part.webp", "+100+20+20", "-o",
+        "others/part-webpmux.webp")
+    (others / "part.png").unlink()
+    (others / "part.webp").unlink()
+    run("convert", "-size", "60x40", "xc:none", "-page", "+6+4", "(", "-size", "20x10", "xc:red", ")", "-delete", "0",
+        "-repage", "60x40+6+4", "others/part-imagemagick.gif")
+    run("convert", "true.ppm", "-interlace", "PNG", "others/true-interlaced.png")
+    run("convert", "all256.ppm", "-type", "palette", "-compress", "RLE", "others/all256-packed.bmp")
+    run("convert", "true.ppm", "-endian", "MSB", "-compress", "zip", "others/true-bigendian.tif")
+    large = true.resize((1000, 700), Image.Resampling.NEAREST).quantize(8)
+    large.save(others / "large-pillow.png")
+
+
 fixtures.mkdir(exist_ok=True)
-for old in (*fixtures.glob("*.ppm"), *fixtures.glob("*.pcx")):
+(fixtures / "others").mkdir(exist_ok=True)
+if sys.argv[1:] != ["others"]:
+    for old in (*fixtures.glob("*.ppm"), *fixtures.glob("*.pcx")):
+        old.unlink()
+    write_sources()
+    write_pcx()
+for old in (fixtures / "others").iterdir():
     old.unlink()
-write_sources()
-write_pcx()
+write_others()
