@@ -2,12 +2,11 @@
 
 #include "companion/cambio.h"
 #include "companion/fuentes.h"
+#include "companion/listados.h"
 #include "companion/mundo.h"
 #include "companion/rotulos.h"
 
 #include "core/descripciones.h"
-#include "core/lista.h"
-#include "core/romelegida.h"
 
 #include "host/failure.h"
 #include "host/letters.h"
@@ -27,43 +26,6 @@ namespace {
 
 constexpr size_t LargoDeTrozo = 65536;
 
-// A file of a system that a list shows.
-struct FicheroListado {
-    QString clave;
-    QString nombre; // as the disk spells it
-    QString entrada; // its description, if it has one
-    bool descrito = false;
-};
-
-// The files behind a list that has just been made.
-std::vector<FicheroListado> ficherosListados(
-    const core::Modulo &M, const Pareja &pareja, const Listado &listado)
-{
-    const int tipo = TipoDe(M, pareja);
-    const QSet<QString> entradas(listado.recuento.entradas.begin(), listado.recuento.entradas.end());
-    QHash<QString, QString> enDisco; // directories are listed in upper case
-    if (core::UnDirectorioPorJuego(tipo)) {
-        for (const QString &nombre : host::listDirectories(DirectorioDeJuegos(M, pareja)))
-            enDisco.insert(host::upper(nombre), nombre);
-    }
-    QHash<QString, QString> notas;
-    for (int i = 0; i < M.Nota_Clave.tamaño() && !M.Nota_Clave(i).isEmpty(); ++i) {
-        if (!notas.contains(M.Nota_Clave(i)))
-            notas.insert(M.Nota_Clave(i), M.Nota_Texto(i));
-    }
-    std::vector<FicheroListado> ficheros;
-    for (int i = 0; i < listado.recuento.exploradas; ++i) {
-        const QString nombre = M.Arch_Nombre(i);
-        const QString clave = core::ClaveNueva(tipo, nombre);
-        const auto nota = notas.constFind(clave);
-        const bool descrito = nota != notas.constEnd();
-        const QString entrada = descrito ? *nota : nombre;
-        if (!entrada.isEmpty() && entradas.contains(entrada))
-            ficheros.push_back({ clave, enDisco.value(nombre, nombre), entrada, descrito });
-    }
-    return ficheros;
-}
-
 struct Coleccion {
     std::vector<FicheroListado> ficheros; // each key once
     QSet<QString> textos; // that something is called already
@@ -77,7 +39,7 @@ Coleccion coleccionDe(Sesion &sesion, const std::vector<Pareja> &parejas)
     for (const Pareja &pareja : parejas) {
         try {
             const Listado listado = Lista(sesion, pareja);
-            for (const FicheroListado &fichero : ficherosListados(sesion.M, pareja, listado)) {
+            for (const FicheroListado &fichero : FicherosListados(sesion.M, pareja, listado)) {
                 coleccion.textos.insert(fichero.entrada);
                 if (!claves.contains(fichero.clave))
                     coleccion.ficheros.push_back(fichero);
