@@ -70,11 +70,12 @@ QString ParaBash()
         "        *)\n            command=${COMP_WORDS[i]}\n            break\n            ;;\n"
         "        esac\n    done\n"
         "    case $before in\n"_s;
-    texto += u"    "_s + conValor(u"DIR"_s)
-        + u") mapfile -t COMPREPLY < <(compgen -d -- \"$word\"); return ;;\n"_s;
+    // Where one command takes a file and another a directory, files go ahead: directories are among them.
     const QString ficheros = conValor(u"FILE"_s);
     if (!ficheros.isEmpty())
         texto += u"    "_s + ficheros + u") mapfile -t COMPREPLY < <(compgen -f -- \"$word\"); return ;;\n"_s;
+    texto += u"    "_s + conValor(u"DIR"_s)
+        + u") mapfile -t COMPREPLY < <(compgen -d -- \"$word\"); return ;;\n"_s;
     texto += u"    esac\n    local words=\n    case $command in\n"_s;
     texto += u"    '') words='"_s + nombresDeOrdenes() + u" --version "_s + nombresDe(OpcionesComunes())
         + u"' ;;\n"_s;

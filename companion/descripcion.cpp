@@ -3,6 +3,7 @@
 #include "companion/cambio.h"
 #include "companion/fuentes.h"
 #include "companion/listados.h"
+#include "companion/mame.h"
 #include "companion/mundo.h"
 #include "companion/rotulos.h"
 
@@ -56,34 +57,61 @@ Coleccion coleccionDe(Sesion &sesion, const std::vector<Pareja> &parejas)
     return coleccion;
 }
 
-// None, told already, where the list can't be read.
-std::unique_ptr<LectorDeFuente> leeFuente(const Sesion &sesion, const Coleccion &coleccion)
+std::unique_ptr<LectorDeFuente> lectorPara(const Coleccion &coleccion)
 {
-    const QString nombre = sesion.Valor(u"from"_s);
     QSet<QString> buscados;
     for (const FicheroListado &fichero : coleccion.ficheros)
         buscados << host::upper(fichero.nombre) << host::upper(SinTerminacion(fichero.nombre));
+    return std::make_unique<LectorDeFuente>(buscados);
+}
+
+// False, told already, where there is no such file.
+bool leeFichero(const Sesion &sesion, const QString &nombre, LectorDeFuente &lector)
+{
     const QByteArray ruta = host::findOnDisk(nombre);
     const auto cierra = [](std::FILE *fichero) { return fichero == stdin ? 0 : std::fclose(fichero); };
     const std::unique_ptr<std::FILE, decltype(cierra)> abierto(
         nombre == u"-" ? stdin : std::fopen(ruta.constData(), "rbe"), cierra);
     if (!abierto) {
         sesion.Falla(sesion.palabras.Zbo_NoHay.arg(nombre));
-        return nullptr;
+        return false;
     }
-    auto lector = std::make_unique<LectorDeFuente>(buscados);
     QByteArray trozo(LargoDeTrozo, Qt::Uninitialized);
     while (const size_t leidos = std::fread(trozo.data(), 1, LargoDeTrozo, abierto.get()))
-        lector->Trozo(trozo.first(qsizetype(leidos)));
+        lector.Trozo(trozo.first(qsizetype(leidos)));
     if (std::ferror(abierto.get()) != 0)
         throw host::Failure(host::PathAccess, u"read a file"_s, nombre);
-    lector->Fin();
-    if (lector->ElError()) {
-        sesion.Falla(sesion.palabras.Zbo_ListaMala.arg(
-            nombre, QString::number(lector->ElError()->linea), lector->ElError()->motivo));
-        return nullptr;
+    return true;
+}
+
+// False, told already, where there is no MAME, or it doesn't come to its end.
+bool leeMAME(const Sesion &sesion, const QString &mame, LectorDeFuente &lector)
+{
+    if (mame.isEmpty()) {
+        sesion.Falla(sesion.palabras.Zbo_SinMAME);
+        return false;
     }
-    return lector;
+    const QString motivo = LeeListaDeMAME(mame, [&](const QByteArray &trozo) { lector.Trozo(trozo); });
+    if (!motivo.isEmpty())
+        sesion.Falla(sesion.palabras.Zbo_MAMEMal.arg(mame, motivo));
+    return motivo.isEmpty();
+}
+
+// None, told already, where the list can't be read.
+std::unique_ptr<LectorDeFuente> leeFuente(
+    const Sesion &sesion, const Coleccion &coleccion, const std::vector<Pareja> &parejas)
+{
+    std::unique_ptr<LectorDeFuente> lector = lectorPara(coleccion);
+    const bool deMAME = sesion.Tiene(u"mame"_s);
+    const QString nombre = deMAME ? MAMEDe(sesion.M, parejas) : sesion.Valor(u"from"_s);
+    if (!(deMAME ? leeMAME(sesion, nombre, *lector) : leeFichero(sesion, nombre, *lector)))
+        return nullptr;
+    lector->Fin();
+    if (!lector->ElError())
+        return lector;
+    sesion.Falla(sesion.palabras.Zbo_ListaMala.arg(
+        nombre, QString::number(lector->ElError()->linea), lector->ElError()->motivo));
+    return nullptr;
 }
 
 // What a file may be called by its name, or by what the list says of it.
@@ -160,8 +188,8 @@ int describe(Sesion &sesion)
     const QString sistema = parejas.front().nombreSistema;
     const Coleccion coleccion = coleccionDe(sesion, parejas);
     std::unique_ptr<LectorDeFuente> fuente;
-    if (sesion.Tiene(u"from"_s)) {
-        fuente = leeFuente(sesion, coleccion);
+    if (sesion.Tiene(u"from"_s) || sesion.Tiene(u"mame"_s)) {
+        fuente = leeFuente(sesion, coleccion, parejas);
         if (!fuente)
             return NoPudo;
     }
@@ -186,8 +214,9 @@ int describe(Sesion &sesion)
 const Orden &OrdenDescribir()
 {
     static const Orden orden { u"describe"_s, u"SYSTEM"_s, &Palabras::Zbo_Describe,
-        { { u"from"_s, u"FILE"_s, &Palabras::Zbo_OpFrom }, { u"tags"_s, {}, &Palabras::Zbo_OpTags },
-            { u"replace"_s, {}, &Palabras::Zbo_OpReplace }, OpcionWrite() },
+        { { u"from"_s, u"FILE"_s, &Palabras::Zbo_OpFrom }, { u"mame"_s, {}, &Palabras::Zbo_OpMame },
+            { u"tags"_s, {}, &Palabras::Zbo_OpTags }, { u"replace"_s, {}, &Palabras::Zbo_OpReplace },
+            OpcionWrite() },
         describe };
     return orden;
 }

@@ -2,6 +2,7 @@
 
 #include "companion/adopcion.h"
 #include "companion/ayuda.h"
+#include "companion/capturas.h"
 #include "companion/descripcion.h"
 #include "companion/dicho.h"
 #include "companion/encuentra.h"
@@ -30,6 +31,7 @@ std::span<const Orden *const> Ordenes()
         &OrdenGuardar(),
         &OrdenReponer(),
         &OrdenDescribir(),
+        &OrdenCapturas(),
         &OrdenExportar(),
         &OrdenAdopcion(),
         &OrdenAyuda(),

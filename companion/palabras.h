@@ -171,6 +171,36 @@ struct Palabras : PalabrasDeRevision {
         QStringLiteral("Taken over: %1 emulators, %2 descriptions, %3 parameters, %4 captures, %5 drives.");
     QString Zbo_Adoptaria = QStringLiteral(
         "With --write it takes over: %1 emulators, %2 descriptions, %3 parameters, %4 captures, %5 drives.");
+
+    // Captures.
+    QString Zbo_Captures = QStringLiteral("makes captures of pictures for the games that they fit");
+    QString Zbo_OpFromDir = QStringLiteral("the directory of the pictures; without it that of the captures, "
+                                           "and where the emulator keeps its own");
+    QString Zbo_OpLast =
+        QStringLiteral("only the newest picture of the emulator, or of --from, for the game played last");
+    QString Zbo_OpRehacer = QStringLiteral("makes anew the captures that are there too");
+    QString Zbo_CapHaria = QStringLiteral(
+        "%1 / %2: %3 to be made, %4 there already, %5 games without a picture; --write makes them.");
+    QString Zbo_CapHechas = QStringLiteral("%1 / %2: %3 made, %4 there already, %5 games without a picture.");
+    QString Zbo_CapSobran = QStringLiteral("Pictures that fit no game: %1.");
+    QString Zbo_CapSinDir =
+        QStringLiteral("It has no directory of captures; its configuration gives it one.");
+    QString Zbo_CapNoImagen = QStringLiteral("it is no picture of a kind that can be read");
+    QString Zbo_CapGrande = QStringLiteral("the picture is too large");
+    QString Zbo_CapRota = QStringLiteral("the picture is damaged");
+    QString Zbo_CapIlegible = QStringLiteral("the picture can't be read");
+    QString Zbo_CapNoEscrita = QStringLiteral("the capture can't be written");
+    QString Zbo_CapNoHecha = QStringLiteral("the converter did not do it");
+    QString Zbo_UltNadie = QStringLiteral("No launch of a game is known: %1");
+    QString Zbo_UltOtra = QStringLiteral("The game played last is one of %1 / %2: %3");
+    QString Zbo_UltSinFoto = QStringLiteral("No picture was taken while %1 was played; looked in:");
+    QString Zbo_UltYaHay = QStringLiteral("%1 has a capture already; --replace makes it anew from %2");
+
+    // Descriptions by MAME.
+    QString Zbo_OpMame = QStringLiteral("by what the installed MAME says of its machines");
+    QString Zbo_SinMAME =
+        QStringLiteral("There is no MAME on this machine; install it, or give its list by --from.");
+    QString Zbo_MAMEMal = QStringLiteral("%1 did not come to the end of its list: %2");
 };
 
 struct ClaveDePalabra {

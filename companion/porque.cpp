@@ -17,10 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace companion {
 
-namespace {
-
-// The file that the variable names, else the one that the starters name.
-QByteArray ficheroDeLineas()
+QByteArray FicheroDeLineas()
 {
     QByteArray nombrado = qgetenv(host::AsideFileVariable);
     if (!nombrado.isEmpty())
@@ -29,6 +26,8 @@ QByteArray ficheroDeLineas()
     const QByteArray base = estado.isEmpty() ? qgetenv("HOME") + "/.local/state" : estado;
     return base + "/zembrolix/log";
 }
+
+namespace {
 
 // What loaders and shells end with where something is missing, or may not be run.
 constexpr int EstadoSinCargar = 127;
@@ -58,7 +57,7 @@ std::vector<Impedimento> faltasTras(const launch::Partida &partida, const Palabr
 
 int porque(Sesion &sesion)
 {
-    const QByteArray ruta = ficheroDeLineas();
+    const QByteArray ruta = FicheroDeLineas();
     const QString fichero = host::nameFromDisk(ruta);
     std::optional<QByteArray> lineas;
     try {

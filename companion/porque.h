@@ -11,6 +11,9 @@ namespace companion {
 
 const Orden &OrdenPorque();
 
+// The file of the lines about launches: the one that the variable names, else the one that the starters name.
+QByteArray FicheroDeLineas();
+
 // What became of a launch, in lines and as JSON; and whether it came to a good end, or still runs.
 QStringList CuentaPartida(const launch::Partida &partida, const Palabras &palabras);
 QJsonObject PartidaEnJson(const launch::Partida &partida, const Palabras &palabras);

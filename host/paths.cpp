@@ -228,14 +228,17 @@ QString currentDirectory()
     return getcwd(buffer.data(), buffer.size()) ? nameFromDisk(QByteArray(buffer.data())) : QString();
 }
 
-QString programDirectory()
+QString executableDirectory()
 {
-    if (!chosenProgramDirectory().isEmpty())
-        return chosenProgramDirectory();
     std::array<char, PATH_MAX> buffer;
     const ssize_t length = readlink("/proc/self/exe", buffer.data(), buffer.size());
     const QByteArray executable(buffer.data(), std::max<ssize_t>(length, 0));
     return nameFromDisk(executable.first(std::max<qsizetype>(executable.lastIndexOf('/'), 0)));
+}
+
+QString programDirectory()
+{
+    return chosenProgramDirectory().isEmpty() ? executableDirectory() : chosenProgramDirectory();
 }
 
 void setProgramDirectory(const QString &path)

@@ -108,8 +108,11 @@ void deleteFile(const QString &path);
 void changeDirectory(const QString &path); // fails with 76
 QString currentDirectory(); // empty if it has been deleted
 
-// The directory of the executable, without a closing separator, read anew at each call. A test sets another;
-// an empty path puts the executable's own back.
+// The directory of the executable, without a closing separator, read anew at each call.
+QString executableDirectory();
+
+// The directory of the program's files: the executable's own, unless another is set. An empty path puts the
+// executable's own back.
 QString programDirectory();
 void setProgramDirectory(const QString &path);
 

@@ -9,7 +9,7 @@ trap 'rm -rf "$delivery"' EXIT
 
 # As it is delivered, by links.
 mkdir "$delivery"/{programs,files,files/demo}
-ln -s "$build/Zembrolix" "$build/converter/Cvtgif15.exe" "$build/companion/zembro" "$build/finder/BuscaEmuladores" \
+ln -s "$build/Zembrolix" "$build"/converter/Cvt{gif15,cap}.exe "$build/companion/zembro" "$build/finder/BuscaEmuladores" \
     "$delivery/programs"
 ln -s "$build"/data/beside/* "$packaging/../data/emuladores.tsv" "$delivery/files"
 ln -s "$build"/data/demo/games/* "$packaging"/../data/demo/captures/* "$delivery/files/demo"

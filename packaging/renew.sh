@@ -47,7 +47,7 @@ deliver() { # source, name
 # Two starts at once renew one behind the other.
 exec 9>>"$delivered"
 flock 9
-for program in Zembrolix Cvtgif15.exe zembro; do
+for program in Zembrolix Cvtgif15.exe Cvtcap.exe zembro; do
     cmp -s "$programs/$program" "$directory/$program" && [ -x "$directory/$program" ] ||
         place 755 "$programs/$program" "$program"
 done

@@ -98,6 +98,14 @@ END
     printf '\n## describe\n'
     printf x >"demo/Legend of Zelda, The (Europe) (Rev 1).bin"
     example "By the names of the files. \`--from\` takes a DAT, what \`mame -listxml\` says (\`--from -\` reads a pipe), a gamelist.xml, or lines of name, tab, description." describe atari
+    printf '\n## captures\n'
+    rm "demo/prisma (1).gif"
+    mkdir "$work/pictures"
+    base64 -d >"$work/pictures/PRISMA [a1].png" <<<'iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAIAAACQd1PeAAAADElEQVR4nGP4z8AAAAMBAQDJ/pLvAAAAAElFTkSuQmCC'
+    printf 'no picture' >"$work/pictures/The Legend of Zelda.jpg"
+    example "Pictures of any kind become the captures of the games that they fit: by the file's name, by that without what stands in brackets, by the description." captures atari --from ../pictures
+    example "\`--write\` makes them, at most 640 wide; the pictures stay as they are." captures atari --from ../pictures --write
+    example "Without \`--from\` it takes those that lie among the captures, and the newest one that the emulator took of the game that was played last. \`--last\` takes that one alone." captures atari --last
     printf '\n## save\n'
     example "A copy of the text files; \`./run.sh\` makes one before each start. The last twenty that differ are kept." save
     printf '\n## restore\n'

@@ -13,12 +13,12 @@ _zembro()
         esac
     done
     case $before in
-    --directory) mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
     --from|--to) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+    --directory|--from) mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
     esac
     local words=
     case $command in
-    '') words='check command play why find list move save restore describe export adopt help --version --directory --json --help' ;;
+    '') words='check command play why find list move save restore describe captures export adopt help --version --directory --json --help' ;;
     check) words='--mend --write --directory --json --help' ;;
     command) words='--lines --shell --directory --json --help' ;;
     play) words='--directory --json --help' ;;
@@ -28,10 +28,11 @@ _zembro()
     move) words='--old --new --write --directory --json --help' ;;
     save) words='--directory --json --help' ;;
     restore) words='--list --write --directory --json --help' ;;
-    describe) words='--from --tags --replace --write --directory --json --help' ;;
+    describe) words='--from --mame --tags --replace --write --directory --json --help' ;;
+    captures) words='--from --last --replace --write --directory --json --help' ;;
     export) words='--pegasus --to --write --directory --json --help' ;;
     adopt) words='--write --directory --json --help' ;;
-    help) words='check command play why find list move save restore describe export adopt help --completion --directory --json --help' ;;
+    help) words='check command play why find list move save restore describe captures export adopt help --completion --directory --json --help' ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
 }

@@ -54,6 +54,8 @@ TEST(Completado, BashOffersCommandsAndTheirOptions)
     EXPECT_EQ(ofrecido({ u"zembro"_s, u"--directory"_s, u"check"_s, u"why"_s, u"--js"_s }),
         QStringList({ u"--json"_s }));
     EXPECT_TRUE(ofrecido({ u"zembro"_s, u"list"_s, u"--directory"_s, u"/us"_s }).contains(u"/usr"_s));
+    EXPECT_TRUE(ofrecido({ u"zembro"_s, u"describe"_s, u"x"_s, u"--from"_s, u"/etc/pass"_s })
+                    .contains(u"/etc/passwd"_s));
     EXPECT_GE(ofrecido({ u"zembro"_s, QString() }).size(), qsizetype(companion::Ordenes().size()));
 }
 

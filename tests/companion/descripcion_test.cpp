@@ -3,6 +3,7 @@
 
 #include "core/descripciones.h"
 
+#include <QFile>
 #include <QJsonArray>
 
 using namespace Qt::StringLiterals;
@@ -138,6 +139,61 @@ TEST_F(Describe, OfAListThatCannotBeReadNothingIsTaken)
     EXPECT_EQ(Zembro({ u"describe"_s, u"Sis"_s, u"--from"_s, Ruta(u"roms"_s) }).estado, companion::NoPudo);
     EXPECT_EQ(Zembro({ u"describe"_s, u"Nes"_s, u"--write"_s }).estado, companion::NoPudo);
     EXPECT_EQ(Bytes(u"Zembro.rom"_s), antes);
+}
+
+// A MAME that says what these lines do.
+TEST_F(Describe, ByTheListOfTheMAMEThatTheSystemIsPlayedWith)
+{
+    PonGuion(u"emu/mame"_s,
+        "[ \"$*\" = -listxml ] || exit 9\n"
+        "echo '<?xml version=\"1.0\"?><mame build=\"0\">'\n"
+        "i=0; while [ $i -lt 2000 ]; do echo \"<machine "
+        "name=\\\"m$i\\\"><description>M</description></machine>\"; "
+        "i=$((i + 1)); done\n"
+        "echo '<machine name=\"zelda ii\"><description>Zelda 2 (World, set "
+        "1)</description></machine></mame>'\n");
+    Cambia(u"Zembro.emu"_s, "+Uno\r\nEXE=" + Ruta(u"emu/uno.sh"_s).toUtf8(),
+        "+Uno\r\nEXE=" + Ruta(u"emu/mame"_s).toUtf8());
+    EXPECT_EQ(Json({ u"describe"_s, u"Sis"_s, u"--mame"_s, u"--write"_s })[u"added"_s].toInt(), 1);
+    EXPECT_EQ(Bloque(), "ZELDA II.NES,\"Zelda 2\"\r\nMARIO.NES,\"Super Mario\"\r\n");
+}
+
+TEST_F(Describe, ByTheListOfAMAMEThatBreaksOffNothingIsTaken)
+{
+    const QByteArray antes = Bytes(u"Zembro.rom"_s);
+    Cambia(u"Zembro.emu"_s, "+Uno\r\nEXE=" + Ruta(u"emu/uno.sh"_s).toUtf8(),
+        "+Uno\r\nEXE=" + Ruta(u"emu/mame"_s).toUtf8());
+    const QByteArray nombre = Ruta(u"emu/mame"_s).toUtf8();
+    const QByteArray lista =
+        "echo '<mame><machine name=\"zelda ii\"><description>Z</description></machine>'\n";
+    const std::pair<QByteArray, QByteArray> finales[] = {
+        { "echo '</mame>'; exit 3\n", nombre + " did not come to the end of its list: status 3\n" },
+        { "kill -SEGV $$\n", nombre + " did not come to the end of its list: signal 11\n" },
+        { "exit 0\n", nombre + " can't be read: line 2, " },
+    };
+    for (const auto &[final, dicho] : finales) {
+        PonGuion(u"emu/mame"_s, lista + final);
+        const Respuesta respuesta = Zembro({ u"describe"_s, u"Sis"_s, u"--mame"_s, u"--write"_s });
+        EXPECT_EQ(respuesta.estado, companion::NoPudo);
+        EXPECT_TRUE(respuesta.error.contains(dicho)) << respuesta.error.toStdString();
+    }
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), antes);
+}
+
+TEST_F(Describe, WithoutAMAMEIsToldSo)
+{
+    const QByteArray caminos = qgetenv("PATH");
+    const QByteArray casa = qgetenv("HOME");
+    qputenv("PATH", "/bin");
+    qputenv("HOME", Ruta(u"home"_s).toUtf8());
+    const Respuesta respuesta = Zembro({ u"describe"_s, u"Sis"_s, u"--mame"_s });
+    qputenv("PATH", caminos);
+    qputenv("HOME", casa);
+    if (QFile::exists(u"/usr/games/mame"_s) || QFile::exists(u"/bin/mame"_s))
+        GTEST_SKIP() << "this machine has one";
+    EXPECT_EQ(respuesta.estado, companion::NoPudo);
+    EXPECT_EQ(respuesta.error,
+        "zembro: There is no MAME on this machine; install it, or give its list by --from.\n");
 }
 
 TEST_F(Describe, WhatCannotBeKeptIsSaid)

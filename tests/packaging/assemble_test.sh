@@ -16,7 +16,7 @@ program="$work/My Programs/zembrolix"
 make_build() { # version
     local name
     mkdir -p "$build"/{converter,companion,finder,data/beside/LNG,data/demo/games}
-    for name in Zembrolix converter/Cvtgif15.exe; do
+    for name in Zembrolix converter/Cvtgif15.exe converter/Cvtcap.exe; do
         printf '#!/bin/sh\necho %s\n' "$1" >"$build/$name"
     done
     cp "$finder" "$build/finder/BuscaEmuladores"
@@ -49,7 +49,7 @@ plain=$PATH
 # New: everything is there, and the catalogue is the demonstration alone: no other system has games.
 PATH=$work/bin:$plain
 anew new
-for name in Zembrolix Cvtgif15.exe zembro Zembro.cfg Zembro.txt Zembro.faq Zembro.rom Zembro.sye LNG/ZB-ESP.LNG demo/GAME.A26; do
+for name in Zembrolix Cvtgif15.exe Cvtcap.exe zembro Zembro.cfg Zembro.txt Zembro.faq Zembro.rom Zembro.sye LNG/ZB-ESP.LNG demo/GAME.A26; do
     expect "$name" version1 new
 done
 [ -x "$program/Zembrolix" ] || complain "new: the program can't be run"
@@ -94,7 +94,7 @@ grep -q '^Nothing to add: every' "$work/said" || complain "find --all: it doesn'
 anew again
 
 # Again: nothing changes, and no program is written anew.
-places() { (cd "$program" && stat -c '%i %n' Zembrolix zembro Cvtgif15.exe); }
+places() { (cd "$program" && stat -c '%i %n' Zembrolix zembro Cvtgif15.exe Cvtcap.exe); }
 before=$(state)
 where=$(places)
 run again
@@ -118,7 +118,7 @@ anew newer
 catalogue=$(sha256sum <"$program/Zembro.emu")
 make_build version2
 run newer
-for name in Zembrolix Cvtgif15.exe zembro Zembro.cfg Zembro.txt Zembro.faq Zembro.rom Zembro.sye LNG/ZB-ESP.LNG demo/GAME.A26; do
+for name in Zembrolix Cvtgif15.exe Cvtcap.exe zembro Zembro.cfg Zembro.txt Zembro.faq Zembro.rom Zembro.sye LNG/ZB-ESP.LNG demo/GAME.A26; do
     expect "$name" version2 newer
 done
 [ "$(sha256sum <"$program/Zembro.emu")" = "$catalogue" ] || complain "newer: the catalogue has changed"

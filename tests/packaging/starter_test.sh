@@ -38,7 +38,7 @@ start 0
 [ "$said" = "started $mine/Zembrolix log $HOME/.local/state/zembrolix/log" ] || complain "first: it says $said"
 [ -d "$HOME/.local/state/zembrolix" ] || complain "first: no directory for the log"
 [ "$(setting LanguageFile) $(setting LastSisUsed) $(setting LastEmuUsed)" = "ZB-FRA.LNG 0 0" ] || complain "first: the settings: $(cat "$mine/Zembro.cfg")"
-for name in Zembro.emu Zembro.rom Zembro.sye Zembro.txt Zembro.faq LNG/ZB-CAT.LNG demo/prisma.bin demo/prisma.gif zembro Cvtgif15.exe; do
+for name in Zembro.emu Zembro.rom Zembro.sye Zembro.txt Zembro.faq LNG/ZB-CAT.LNG demo/prisma.bin demo/prisma.gif zembro Cvtgif15.exe Cvtcap.exe; do
     [ -s "$mine/$name" ] || complain "first: no $name"
 done
 [ "$(ls "$mine/copias" | wc -l)" = 1 ] || complain "first: no copy of the text files"

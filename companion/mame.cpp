@@ -1,0 +1,48 @@
+#include "companion/mame.h"
+
+#include "core/rutas.h"
+
+#include "finder/lugares.h"
+
+#include "host/paths.h"
+#include "host/reading.h"
+
+#include "launch/piezas.h"
+
+using namespace Qt::StringLiterals;
+
+namespace companion {
+
+namespace {
+
+// It begins to write at once; a disk that has to wake up takes its time.
+constexpr std::chrono::minutes Paciencia(1);
+
+bool esMAME(const QString &ruta)
+{
+    const QString nombre = ruta.sliced(host::lastSeparator(ruta) + 1);
+    return nombre == u"mame" || nombre == u"mame64" || nombre == u"org.mamedev.MAME";
+}
+
+} // namespace
+
+QString MAMEDe(const core::Modulo &M, const std::vector<Pareja> &parejas)
+{
+    for (const Pareja &pareja : parejas) {
+        const QString exe = core::RutaDeLinea(M.Cat_EXE(pareja.sistema, pareja.fila));
+        const QString enDisco = esMAME(exe) ? launch::ProgramaDe(exe).ExeCorto.enDisco : QString();
+        if (!enDisco.isEmpty())
+            return enDisco;
+    }
+    return finder::RutaDePrograma({ u"mame"_s, u"org.mamedev.MAME"_s }, finder::LugaresDeLaMaquina());
+}
+
+QString LeeListaDeMAME(const QString &mame, const std::function<void(const QByteArray &)> &toma)
+{
+    const host::ProcessEnd final = host::readProgram({ mame, u"-listxml"_s }, {}, Paciencia, toma);
+    if (final.signal)
+        return u"signal "_s + QString::number(*final.signal);
+    return final.status == 0 ? QString() : u"status "_s + QString::number(final.status.value_or(-1));
+}
+
+} // namespace companion

@@ -1,0 +1,49 @@
+// Which captures of a pair are to be made, and of what.
+#pragma once
+
+#include "companion/mundo.h"
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace companion {
+
+// A game of a pair, and the path where its capture is looked for.
+struct JuegoConCaptura {
+    QString entrada;
+    QString fichero; // its name, or its directory's
+    QString descripcion; // empty if it has none
+    QString captura; // empty where none can be looked for
+};
+
+// Those of a pair, in the order of its list. Reads the list; fails as Lista, and where the pair has no line
+// for its captures.
+std::vector<JuegoConCaptura> JuegosConCaptura(
+    Sesion &sesion, const Pareja &pareja, const QString &directorio);
+
+// The files of a directory that may be pictures, by what they hold or by their names' endings: what only
+// seems to be one is told of. GIFs are left out where they are captures.
+QStringList PosiblesImagenes(const QString &directorio, bool sonCapturas);
+
+struct PorHacer {
+    QString entrada;
+    QString imagen; // paths
+    QString captura;
+};
+
+struct Plan {
+    std::vector<PorHacer> nuevas;
+    int habia = 0; // that stay as they are
+    int sinImagen = 0; // games without a capture for which there is no picture
+    QSet<QString> usadas; // names of pictures that fit a game, whether it needs one or not
+};
+
+// The captures that pictures of a directory become. Those of `hechas`, in upper case, are made already, and
+// the new ones join them.
+Plan PlanDeCapturas(const std::vector<JuegoConCaptura> &juegos, const QString &directorio,
+    const QStringList &imagenes, bool rehace, QSet<QString> &hechas);
+
+} // namespace companion
