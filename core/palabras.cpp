@@ -85,6 +85,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zem_Espacio", &P::Zem_Espacio },
         { u"Zem_Ins", &P::Zem_Ins },
         { u"Zem_Supr", &P::Zem_Supr },
+        { u"Zem_Cancelar", &P::Zem_Cancelar },
         { u"Zem_Logotipo", &P::Zem_Logotipo },
         { u"Zem_Autores", &P::Zem_Autores },
         { u"Zem_Correo", &P::Zem_Correo },

@@ -109,6 +109,9 @@ struct Palabras {
     QString Zem_Ins = QStringLiteral("Ins");
     QString Zem_Supr = QStringLiteral("Supr");
 
+    // Of a button of the desktop's boxes.
+    QString Zem_Cancelar = QStringLiteral("Cancelar");
+
     // Who made the program, and where they are reached.
     QString Zem_Logotipo = QStringLiteral("Logotipo");
     QString Zem_Autores = QStringLiteral("Los autores de Zembrolix");

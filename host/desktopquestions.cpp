@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <cstdio>
 
@@ -31,7 +32,7 @@ QString caption(const QString &text)
 
 void name(QAbstractButton *button, const QString &word)
 {
-    if (!word.isEmpty())
+    if (button && !word.isEmpty())
         button->setText(caption(word));
 }
 
@@ -43,6 +44,10 @@ public:
     {
         setTextFormat(Qt::PlainText);
         setText(text);
+        name(button(Yes), words().yes);
+        name(button(No), words().no);
+        name(button(Ok), words().accept);
+        name(button(Cancel), words().cancel);
     }
 };
 
@@ -51,8 +56,6 @@ QMessageBox::StandardButton ask(
 {
     PlainBox box(QMessageBox::Question, title, text, buttons, QApplication::activeWindow());
     box.setDefaultButton(QMessageBox::No);
-    name(box.button(QMessageBox::Yes), words().yes);
-    name(box.button(QMessageBox::No), words().no);
     return QMessageBox::StandardButton(box.exec());
 }
 
@@ -90,6 +93,10 @@ QString DesktopQuestions::askText(const QString &prompt)
     box.setTextEchoMode(QLineEdit::Password);
     box.setLabelText(caption(prompt));
     box.findChild<QLabel *>()->setTextFormat(Qt::PlainText);
+    if (!words().accept.isEmpty())
+        box.setOkButtonText(caption(words().accept));
+    if (!words().cancel.isEmpty())
+        box.setCancelButtonText(caption(words().cancel));
     return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 

@@ -5,10 +5,12 @@
 
 namespace host {
 
-// The words on the buttons of yes and no, from then on; an empty one leaves the toolkit's.
+// The words on the buttons, from then on; an empty one leaves the toolkit's.
 struct AnswerWords {
     QString yes;
     QString no;
+    QString accept;
+    QString cancel;
 };
 void setAnswerWords(const AnswerWords &words);
 const AnswerWords &answerWords();

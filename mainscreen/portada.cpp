@@ -75,7 +75,7 @@ void Portada::Textos()
     });
     M.Ficheros.closeAll();
     NombraControles();
-    host::setAnswerWords({ M.TXT_Si, M.TXT_No });
+    host::setAnswerWords({ M.TXT_Si, M.TXT_No, M.TXT_Aceptar, M.Palabras.Zem_Cancelar });
 }
 
 } // namespace mainscreen

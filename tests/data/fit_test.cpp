@@ -83,7 +83,7 @@ const QStringList Unbound { u"Menu_Describir"_s, u"Menu_Borrar"_s, u"Menu_Parame
     u"Zem_Discos"_s, u"Zem_Directorios"_s, u"Zem_Archivos"_s, u"Zem_D1"_s, u"Zem_E1"_s, u"Zem_Flecha2"_s,
     u"Zem_Editor"_s, u"Zem_FlechaE2"_s, u"Zem_Edit2"_s, u"Zem_BlocNotas2"_s, u"Zem_Pista"_s, u"Zem_NoEsta"_s,
     u"Zem_Tamano"_s, u"Zem_NoTamano"_s, u"Zem_Ctrl"_s, u"Zem_Mayus"_s, u"Zem_Espacio"_s, u"Zem_Ins"_s,
-    u"Zem_Supr"_s, u"Zem_Logotipo"_s };
+    u"Zem_Supr"_s, u"Zem_Cancelar"_s, u"Zem_Logotipo"_s };
 
 class TextsOfLanguage : public ScreenTest, public testing::WithParamInterface<Language> {
 protected:

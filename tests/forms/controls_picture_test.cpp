@@ -239,7 +239,7 @@ void putPopups(Sheet &sheet)
 void putBoxes(Sheet &sheet)
 {
     host::DesktopQuestions questions;
-    host::setAnswerWords({ u"Sí"_s, u"No"_s });
+    host::setAnswerWords({ u"Sí"_s, u"No"_s, u"Aceptar"_s, u"Cancelar"_s });
     sheet.putWindow(box([&] { questions.askYesNo(u"Borrar"_s, u"¿Borrar prisma.bin?"_s); }), 250, 300);
     sheet.putWindow(box([&] { questions.askText(u"Clave del archivo:"_s); }), 250, 405);
     sheet.putWindow(box([&] { questions.tell(u"Orden"_s, u"stella prisma.bin"_s); }), 460, 405);

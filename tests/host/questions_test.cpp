@@ -102,10 +102,49 @@ TEST_F(QuestionsTest, YesAndNoHaveTheWordsThatWereSet_OrElseTheToolkits)
         box->close();
     };
     whenUp<QMessageBox>(read);
-    host::setAnswerWords({ u"Ja"_s, QString() });
+    host::setAnswerWords({ u"Ja"_s, {}, {}, {} });
     m_questions.askYesNo(u"T"_s, u"x"_s);
     host::setAnswerWords({});
     EXPECT_EQ(words, QStringList({ u"Ja"_s, u"&No"_s }));
+}
+
+class WordsOfAnswers : public QuestionsTest {
+protected:
+    WordsOfAnswers() { host::setAnswerWords({ u"Ja"_s, u"Nein"_s, u"Gut & schön"_s, u"Abbrechen"_s }); }
+    ~WordsOfAnswers() override { host::setAnswerWords({}); }
+
+    template <typename Box> void readWhenUp()
+    {
+        whenUp<Box>([this](Box *box) {
+            for (QAbstractButton *button : box->template findChildren<QAbstractButton *>())
+                words << told(*button);
+            words.sort();
+            box->close();
+        });
+    }
+
+    QStringList words;
+};
+
+TEST_F(WordsOfAnswers, AreThoseThatWereSet_OnTheOverwriteBox)
+{
+    readWhenUp<QMessageBox>();
+    m_questions.askYesNoCancel(u"T"_s, u"x"_s);
+    EXPECT_EQ(words, QStringList({ u"Abbrechen"_s, u"Ja"_s, u"Nein"_s }));
+}
+
+TEST_F(WordsOfAnswers, AreThoseThatWereSet_OnTheBoxThatTells)
+{
+    readWhenUp<QMessageBox>();
+    m_questions.tell(u"T"_s, u"x"_s);
+    EXPECT_EQ(words, QStringList({ u"Gut & schön"_s }));
+}
+
+TEST_F(WordsOfAnswers, AreThoseThatWereSet_OnTheBoxOfThePassword)
+{
+    readWhenUp<QInputDialog>();
+    m_questions.askText(u"x"_s);
+    EXPECT_EQ(words, QStringList({ u"Abbrechen"_s, u"Gut & schön"_s }));
 }
 
 TEST_F(QuestionsTest, MarkupInTheOverwriteBoxIsText)
@@ -143,7 +182,7 @@ TEST(QuestionsDeathTest, MarkupInTheBoxOfAFatalEndIsText)
 
 TEST_F(QuestionsTest, MarksInTitlesAndWordsStandForThemselves)
 {
-    host::setAnswerWords({ u"R&D"_s, u"&&"_s });
+    host::setAnswerWords({ u"R&D"_s, u"&&"_s, {}, {} });
     whenUp<QMessageBox>([](QMessageBox *box) {
         EXPECT_EQ(box->windowHandle()->title(), u"Title [*]"_s);
         EXPECT_EQ(told(*box->button(QMessageBox::Yes)), u"R&D"_s);

@@ -36,9 +36,13 @@ TEST_F(TextosTest, LabelsAndMenuEntriesTakeTheirTextsDirectly)
 
 TEST_F(TextosTest, QuestionsAreAnsweredInTheLanguage)
 {
-    startWith(languageLines() << languageLine(u"TXT_Si"_s, u"Oui"_s) << languageLine(u"TXT_No"_s, u"Non"_s));
+    startWith(languageLines() << languageLine(u"TXT_Si"_s, u"Oui"_s) << languageLine(u"TXT_No"_s, u"Non"_s)
+                              << languageLine(u"TXT_Aceptar"_s, u"D'accord"_s)
+                              << languageLine(u"Zem_Cancelar"_s, u"Annuler"_s));
     EXPECT_EQ(host::answerWords().yes, u"Oui"_s);
     EXPECT_EQ(host::answerWords().no, u"Non"_s);
+    EXPECT_EQ(host::answerWords().accept, u"D'accord"_s);
+    EXPECT_EQ(host::answerWords().cancel, u"Annuler"_s);
 }
 
 TEST_F(TextosTest, MissingKeysLeaveTheWordsOfTheDesign)
