@@ -1,6 +1,7 @@
 #include "forms/form.h"
 
 #include "forms/control.h"
+#include "forms/ownedge.h"
 #include "forms/picturebutton.h"
 #include "forms/pictures.h"
 #include "forms/plaintext.h"
@@ -279,8 +280,14 @@ void Form::paintEvent(QPaintEvent *)
     QPainter painter(this);
     if (!m_state->background.isEmpty())
         painter.drawPixmap(0, 0, artwork(m_state->background, size(), devicePixelRatioF()));
-    if (m_state->tile.isNull() || m_state->tileWidth <= 0 || m_state->tileHeight <= 0)
-        return;
+    if (!m_state->tile.isNull() && m_state->tileWidth > 0 && m_state->tileHeight > 0)
+        paintTile(painter);
+    if (m_state->border != Border::None)
+        drawOwnEdge(painter, *this);
+}
+
+void Form::paintTile(QPainter &painter) const
+{
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     for (int y = 0; y <= twips(height()); y += m_state->tileHeight) {
         for (int x = 0; x <= twips(width()); x += m_state->tileWidth)

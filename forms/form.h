@@ -13,6 +13,7 @@
 
 namespace forms {
 
+// With a border, it draws an edge of its own where no window manager frames it.
 class Form : public QWidget {
 public:
     enum class Border { None, FixedSingle, FixedWithCloseBox };
@@ -69,6 +70,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void paintTile(QPainter &painter) const;
+
     struct State;
     std::unique_ptr<State> m_state;
 };

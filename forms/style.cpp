@@ -6,6 +6,7 @@
 #include "forms/styleparts.h"
 
 #include <QAbstractScrollArea>
+#include <QDialog>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
@@ -43,6 +44,8 @@ void Style::polish(QWidget *widget)
     QProxyStyle::polish(widget);
     // Nothing changes under the pointer: it needn't be told of.
     widget->setAttribute(Qt::WA_Hover, false);
+    if (qobject_cast<QDialog *>(widget))
+        widget->installEventFilter(&m_edge);
 }
 
 int Style::styleHint(
@@ -161,6 +164,12 @@ void Style::drawControl(
     if (const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
         item && element == CE_MenuItem)
         return drawMenuItem(*painter, *item, *proxy());
+    if (const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+        combo && element == CE_ComboBoxLabel) {
+        QStyleOptionComboBox shown = *combo;
+        shown.currentText = shownInCombo(*combo, *proxy(), widget);
+        return QProxyStyle::drawControl(element, &shown, painter, widget);
+    }
     switch (element) {
     case CE_CheckBox:
     case CE_RadioButton:

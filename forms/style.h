@@ -2,6 +2,8 @@
 // change under the pointer.
 #pragma once
 
+#include "forms/ownedge.h"
+
 #include <QProxyStyle>
 
 namespace forms {
@@ -33,6 +35,8 @@ public:
 private:
     void drawMark(
         ControlElement element, const QStyleOption &option, QPainter &painter, const QWidget *widget) const;
+
+    OwnEdge m_edge; // of the desktop's boxes
 };
 
 } // namespace forms

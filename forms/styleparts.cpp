@@ -1,6 +1,7 @@
 #include "forms/styleparts.h"
 
 #include "forms/pieces.h"
+#include "forms/shownpart.h"
 
 #include <QPainter>
 #include <QStyleOption>
@@ -112,6 +113,15 @@ void drawCombo(QPainter &painter, const QStyleOptionComboBox &option, const QRec
     drawArrow(painter, button, Qt::DownArrow, colour(option, QPalette::ButtonText));
     if (is(option, QStyle::State_HasFocus))
         drawDots(painter, field, colour(option, QPalette::BrightText));
+}
+
+QString shownInCombo(const QStyleOptionComboBox &option, const QStyle &style, const QWidget *widget)
+{
+    constexpr int Margin = 1; // pixels that the toolkit leaves free at each end
+    const QRect field =
+        style.subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, widget);
+    return option.fontMetrics.elidedText(
+        shownPart(option.currentText), Qt::ElideRight, field.width() - 2 * Margin);
 }
 
 void drawScrollBar(QPainter &painter, const QStyleOptionSlider &option, const BarPlaces &places)

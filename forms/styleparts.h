@@ -19,6 +19,9 @@ void drawOptionButton(QPainter &painter, const QStyleOption &option);
 // A field with its text's place, and a button with an arrow at its end. The text is the style's to draw.
 void drawCombo(QPainter &painter, const QStyleOptionComboBox &option, const QRect &arrow);
 
+// Of the text as much as has room in the field, and dots.
+QString shownInCombo(const QStyleOptionComboBox &option, const QStyle &style, const QWidget *widget);
+
 // Where the arrows and the slider of a bar stand.
 struct BarPlaces {
     QRect back;

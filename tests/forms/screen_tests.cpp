@@ -17,6 +17,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
+#include <QMessageBox>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
@@ -107,6 +108,46 @@ TEST_F(Screen, AFormWithoutABorder_HasNoFrameOfTheWindowManager)
     show();
     EXPECT_EQ(frameOf(owner), u"0, 0, 0, 0"_s);
     EXPECT_EQ(owner.size(), QSize(300, 300));
+}
+
+bool hasOwnEdge(QWidget &window)
+{
+    const QImage picture = window.grab().toImage();
+    const QColor frame = window.palette().color(QPalette::Dark);
+    const QPoint last = picture.rect().bottomRight();
+    return picture.pixelColor(0, 0) == frame && picture.pixelColor(last) == frame
+        && picture.pixelColor(last.x(), 0) == frame && picture.pixelColor(0, last.y() / 2) == frame;
+}
+
+TEST_F(Screen, AFormWithABorderHasAnEdgeOfItsOwnWhereNoWindowManagerFramesIt)
+{
+    for (const bool framed : { true, false }) {
+        Form form(u"Caja"_s, 1500, 1500, Form::Border::FixedSingle);
+        if (!framed)
+            form.setWindowFlag(Qt::X11BypassWindowManagerHint);
+        form.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
+        if (framed) {
+            EXPECT_TRUE(comes([&] { return frameOf(form).section(u", "_s, 2, 2).toInt() > 0; }));
+        }
+        EXPECT_NE(hasOwnEdge(form), framed);
+    }
+    EXPECT_FALSE(hasOwnEdge(owner));
+}
+
+TEST_F(Screen, ABoxOfTheDesktopHasAnEdgeOfItsOwnWhereNoWindowManagerFramesIt)
+{
+    for (const bool framed : { true, false }) {
+        QMessageBox box(QMessageBox::NoIcon, u"T"_s, u"text"_s);
+        if (!framed)
+            box.setWindowFlag(Qt::X11BypassWindowManagerHint);
+        box.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&box));
+        if (framed) {
+            EXPECT_TRUE(comes([&] { return frameOf(box).section(u", "_s, 2, 2).toInt() > 0; }));
+        }
+        EXPECT_NE(hasOwnEdge(box), framed);
+    }
 }
 
 TEST_F(Screen, AFormWithABorder_HasATitleBarAndStandsCentredOverItsOwner)
