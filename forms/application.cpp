@@ -43,6 +43,25 @@ bool isEnter(const QKeyEvent &event)
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
+// The key for menus is one that the toolkit knows by itself; not every keyboard has it.
+bool asksForMenu(const QKeyEvent &event)
+{
+    return event.type() == QEvent::KeyPress && event.key() == Qt::Key_F10
+        && event.modifiers() == Qt::ShiftModifier && !event.isAutoRepeat();
+}
+
+// As the toolkit does for that key. Returns false where the receiver is none of the controls.
+bool askForMenu(QObject *receiver)
+{
+    auto *control = qobject_cast<QWidget *>(receiver);
+    if (!control || QApplication::activePopupWidget())
+        return false;
+    const QPoint place = control->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, place, control->mapToGlobal(place));
+    QApplication::sendEvent(control, &event);
+    return true;
+}
+
 bool isInDialog(const QObject *receiver)
 {
     const auto *control = qobject_cast<const QWidget *>(receiver);
@@ -194,6 +213,10 @@ bool Application::deliverKey(QObject *receiver, QKeyEvent *event)
     if (event->type() == QEvent::ShortcutOverride)
         return deliverOverride(receiver, event);
     if (m_shutBy != 0 && event->key() == m_shutBy) {
+        event->accept();
+        return true;
+    }
+    if (asksForMenu(*event) && askForMenu(receiver)) {
         event->accept();
         return true;
     }

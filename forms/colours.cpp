@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QToolTip>
 
+#include <cmath>
+
 namespace forms {
 
 namespace {
@@ -103,6 +105,18 @@ QColor inkColour()
 QColor faultColour()
 {
     return QColor(Red);
+}
+
+QColor dotsOn(const QColor &ground)
+{
+    // As bright as this it stands as far from white as from black.
+    constexpr double Middle = 0.179;
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    const double bright =
+        0.2126 * linear(ground.redF()) + 0.7152 * linear(ground.greenF()) + 0.0722 * linear(ground.blueF());
+    return bright > Middle ? Qt::black : Qt::white;
 }
 
 void setColours()

@@ -15,6 +15,9 @@ QPalette markColours(); // of check boxes and option buttons: Base and Text are 
 QColor inkColour(); // of letters on paper
 QColor faultColour(); // of those that name what isn't there
 
+// Of the focus on this ground, as far from it as can be.
+QColor dotsOn(const QColor &ground);
+
 // Makes them the program's, so that nothing of the desktop's theme shows through.
 void setColours();
 

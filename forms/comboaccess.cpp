@@ -23,15 +23,16 @@ public:
         return kind == QAccessible::Value ? m_combo.Text() : QAccessibleWidget::text(kind);
     }
 
-    // The list that drops down.
-    int childCount() const override { return 1; }
+    // The list that drops down. While it is shut it is none: its entries would count as showing.
+    int childCount() const override { return m_combo.view()->isVisible() ? 1 : 0; }
     QAccessibleInterface *child(int index) const override
     {
-        return index == 0 ? QAccessible::queryAccessibleInterface(m_combo.view()) : nullptr;
+        return index == 0 && childCount() > 0 ? QAccessible::queryAccessibleInterface(m_combo.view())
+                                              : nullptr;
     }
     int indexOfChild(const QAccessibleInterface *child) const override
     {
-        return child && child->object() == m_combo.view() ? 0 : -1;
+        return child && childCount() > 0 && child->object() == m_combo.view() ? 0 : -1;
     }
 
     QAccessible::State state() const override

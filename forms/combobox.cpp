@@ -1,11 +1,18 @@
 #include "forms/combobox.h"
 
+#include "forms/plaintext.h"
 #include "forms/rows.h"
+#include "forms/shownpart.h"
+#include "forms/styleparts.h"
 
 #include "host/failure.h"
 #include "host/letters.h"
 
+#include <QHelpEvent>
 #include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+#include <QToolTip>
 #include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
@@ -106,6 +113,18 @@ void ComboBox::select(int index)
     }
     if (index >= 0)
         Selection.raise();
+}
+
+bool ComboBox::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return Control::event(event);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    if (shownInCombo(option, *style(), this) == shownPart(option.currentText))
+        return Control::event(event);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), asTipOfLines(Text()), this);
+    return true;
 }
 
 void ComboBox::wheelEvent(QWheelEvent *event)

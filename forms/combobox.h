@@ -32,6 +32,7 @@ public:
             &text); // selects the first entry with exactly this text; fails with 383 if there is none
 
 protected:
+    bool event(QEvent *event) override; // a text that is cut off shows whole as a tip
     void wheelEvent(QWheelEvent *event) override;
 
 private:

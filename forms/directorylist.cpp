@@ -1,12 +1,12 @@
 #include "forms/directorylist.h"
 
+#include "forms/pieces.h"
 #include "forms/plaintext.h"
 
 #include "host/failure.h"
 #include "host/paths.h"
 
 #include <QPainter>
-#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -31,9 +31,8 @@ QPixmap folder(const QWidget &widget, int depth, bool open)
     QPixmap picture((QSizeF(indent + FolderSize, FolderSize) * ratio).toSize());
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
-    const QIcon icon = widget.style()->standardIcon(open ? QStyle::SP_DirOpenIcon : QStyle::SP_DirIcon);
     QPainter painter(&picture);
-    icon.paint(&painter, indent, 0, FolderSize, FolderSize);
+    drawFolder(painter, { indent, 0, FolderSize, FolderSize }, open);
     return picture;
 }
 

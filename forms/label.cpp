@@ -1,13 +1,15 @@
 #include "forms/label.h"
 
 #include "forms/growth.h"
+#include "forms/plaintext.h"
 #include "forms/shape.h"
 #include "forms/shownpart.h"
 #include "forms/wholetext.h"
 
-#include <QEvent>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QToolTip>
 
 #include <algorithm>
 #include <utility>
@@ -179,15 +181,44 @@ void Label::hideEvent(QHideEvent *event)
     hideWhole();
 }
 
+// Of a wrapped caption that is higher than its place: the height of the lines that have room, in pixels; else
+// 0.
+int Label::wholeLines() const
+{
+    if (m_growing || !wordWrap())
+        return 0;
+    const QFontMetrics metrics = fontMetrics();
+    const int room = contentsRect().height();
+    const QRect needed =
+        metrics.boundingRect(contentsRect(), int(alignment()) | Qt::TextWordWrap, shownPart(text()));
+    if (needed.height() <= room)
+        return 0;
+    const int lines = (room + metrics.leading()) / metrics.lineSpacing();
+    return lines * metrics.lineSpacing();
+}
+
 void Label::paintEvent(QPaintEvent *event)
 {
-    if (m_shown == text()) {
+    const int whole = wholeLines();
+    if (m_shown == text() && whole == 0) {
         Control::paintEvent(event);
         return;
     }
     QPainter painter(this);
-    style()->drawItemText(
-        &painter, contentsRect(), int(alignment()), palette(), isEnabled(), m_shown, foregroundRole());
+    int flags = int(alignment());
+    if (whole > 0) {
+        flags |= Qt::TextWordWrap;
+        painter.setClipRect(contentsRect().x(), contentsRect().y(), contentsRect().width(), whole);
+    }
+    style()->drawItemText(&painter, contentsRect(), flags, palette(), isEnabled(), m_shown, foregroundRole());
+}
+
+bool Label::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || wholeLines() == 0)
+        return Control::event(event);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), asTipOfLines(text()), this);
+    return true;
 }
 
 void Label::showEvent(QShowEvent *event)

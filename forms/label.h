@@ -24,7 +24,8 @@ public:
     void SetForeColor(const QColor &colour); // nothing is posted if it stands already
     QColor ForeColor() const;
     void SetPlace(const Place &place); // the place of the design, from which the label grows
-    void SetGrowing(bool growing); // false: a caption too long for its place is clipped
+    // false: a caption too long for its place is clipped, behind its last whole line, and is the tip
+    void SetGrowing(bool growing);
     void SetRoom(const Place &room); // beyond this part of its parent it doesn't grow
     // A caption that has no room even so is painted as the function gives it back, which asks what fits. The
     // caption itself stays whole, and shows so under the pointer.
@@ -34,6 +35,7 @@ public:
     void Redraw(); // at once
 
 protected:
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
@@ -43,6 +45,7 @@ protected:
 
 private:
     void grow();
+    int wholeLines() const;
     void shorten();
     void showWhole();
     void hideWhole();

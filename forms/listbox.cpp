@@ -56,6 +56,11 @@ void ListBox::SetHorizontalBar()
     setUniformItemSizes(false); // else all count for as wide as one of them
 }
 
+void ListBox::SetTips(bool tips)
+{
+    m_rows->SetTips(tips);
+}
+
 int ListBox::rowsEnd() const
 {
     const int height = viewport()->height();

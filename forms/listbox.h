@@ -49,6 +49,9 @@ public:
     // A bar along the bottom where an entry is wider than the list. Without one it is cut off.
     void SetHorizontalBar();
 
+    // Whether an entry that is cut off shows as a tip; it does, unless the screen shows it by itself.
+    void SetTips(bool tips);
+
     // For letters typed with which no entry begins as they stand: the index to select, or -1. With one for
     // going on, F4 and Shift+F4 (`back`) select the entry that it gives for the letters typed last.
     std::function<int(const QString &typed)> Find;

@@ -7,6 +7,8 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <cmath>
+#include <initializer_list>
 
 namespace forms {
 
@@ -135,6 +137,36 @@ void drawTick(QPainter &painter, const QRect &place, const QColor &colour)
     path.lineTo(at(0.43, 0.73));
     path.lineTo(at(0.77, 0.27));
     painter.strokePath(path, QPen(colour, 0.15 * area.height(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+}
+
+void drawFolder(QPainter &painter, const QRect &place, bool open)
+{
+    // Those of the folder on the main screen.
+    const QColor outline(qRgb(74, 44, 8));
+    const QColor back(qRgb(201, 138, 44));
+    constexpr double Side = 12;
+    const Sharp sharp(painter, place);
+    const QRect &area = sharp.place();
+    const auto at = [&area](double x, double y) {
+        return QPointF(area.left() + std::round(x * area.width() / Side),
+            area.top() + std::round(y * area.height() / Side));
+    };
+    const auto fill = [&](std::initializer_list<QPointF> corners, const QBrush &brush) {
+        QPainterPath path;
+        path.addPolygon(QPolygonF(QList<QPointF>(corners)));
+        path.closeSubpath();
+        painter.fillPath(path, brush);
+    };
+    QLinearGradient light(at(0, 5), at(0, 11));
+    light.setColorAt(0, QColor(qRgb(255, 233, 168)));
+    light.setColorAt(1, QColor(qRgb(232, 168, 60)));
+    const double right = open ? 11 : 12;
+    fill({ at(0, 1), at(5, 1), at(6, 3), at(right, 3), at(right, 11), at(0, 11) }, outline);
+    fill({ at(1, 2), at(4, 2), at(5, 4), at(right - 1, 4), at(right - 1, 10), at(1, 10) }, back);
+    if (!open)
+        return fill({ at(1, 5), at(11, 5), at(11, 10), at(1, 10) }, light);
+    fill({ at(3, 5), at(12, 5), at(11, 11), at(0, 11) }, outline);
+    fill({ at(4, 6), at(11, 6), at(10, 10), at(2, 10) }, light);
 }
 
 void drawGrip(QPainter &painter, const QRect &place, Qt::Orientation bar, const QPalette &palette)

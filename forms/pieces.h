@@ -26,6 +26,8 @@ void drawDots(QPainter &painter, const QRect &place, const QColor &colour);
 void drawArrow(QPainter &painter, const QRect &place, Qt::ArrowType direction, const QColor &colour);
 void drawTick(QPainter &painter, const QRect &place, const QColor &colour);
 
+void drawFolder(QPainter &painter, const QRect &place, bool open);
+
 // Three short lines across the length of a bar's slider.
 void drawGrip(QPainter &painter, const QRect &place, Qt::Orientation bar, const QPalette &palette);
 

@@ -8,12 +8,27 @@ using namespace Qt::StringLiterals;
 
 namespace forms {
 
-QString asTip(const QString &text)
+namespace {
+
+QString tip(const QString &text, const QString &blanks)
 {
     if (text.isEmpty())
         return {};
     const QString letters = shownPart(text).toHtmlEscaped().replace(u'\n', u"<br>"_s);
-    return u"<p style=\"white-space:pre\">"_s + letters + u"</p>"_s;
+    return u"<p style=\"white-space:"_s + blanks + u"\">"_s + letters + u"</p>"_s;
+}
+
+} // namespace
+
+QString asTip(const QString &text)
+{
+    return tip(text, u"pre"_s);
+}
+
+QString asTipOfLines(const QString &text)
+{
+    constexpr qsizetype Line = 80; // letters that stand in a line on any screen
+    return tip(text, text.size() > Line ? u"pre-wrap"_s : u"pre"_s);
 }
 
 QString asCaption(const QString &text)

@@ -11,6 +11,7 @@ namespace forms {
 // Of a control or of a row: it would be taken for HTML, which loads files. Of one without end it is the
 // beginning.
 QString asTip(const QString &text);
+QString asTipOfLines(const QString &text); // a long one on several lines, broken at its blanks
 QString asCaption(const QString &text); // of a button: '&' would mark an accelerator
 
 // Of a window: "[*]" would be the place of a mark. Of one that no bar shows whole it is the beginning, and

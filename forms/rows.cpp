@@ -1,11 +1,15 @@
 #include "forms/rows.h"
 
+#include "forms/colours.h"
+#include "forms/plaintext.h"
 #include "forms/shownpart.h"
 
-#include <QAbstractScrollArea>
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QImage>
 #include <QPainter>
 #include <QStyle>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -149,12 +153,27 @@ void drawGround(QPainter &painter, const QStyleOptionViewItem &row, const Ground
     if (isSelected(row))
         painter.fillRect(whole, row.palette.brush(groupOf(row.state), QPalette::Highlight));
     if (row.state.testFlag(QStyle::State_HasFocus)) {
-        const QImage ink =
-            inkOf(row.text, row.font, ground.scale(), whole.size(), start - whole.topLeft());
+        const QImage ink = inkOf(row.text, row.font, ground.scale(), whole.size(), start - whole.topLeft());
         drawFrame(painter, whole, ink, std::max(qRound(ground.scale()), 1),
-            isSelected(row) ? Qt::white : Qt::black);
+            dotsOn(row.palette.color(
+                groupOf(row.state), isSelected(row) ? QPalette::Highlight : QPalette::Base)));
     }
     painter.setWorldTransform(own);
+}
+
+// Where a row's letters stand, in pixels of its view.
+struct Room {
+    int left;
+    int width; // up to the view's edge
+};
+
+Room roomOf(const QStyleOptionViewItem &row)
+{
+    const QStyle &style = *row.widget->style();
+    const QRect text = style.subElementRect(QStyle::SE_ItemViewItemText, &row, row.widget);
+    const int left = text.left() + style.pixelMetric(QStyle::PM_FocusFrameHMargin, &row, row.widget) + 1;
+    const auto *view = qobject_cast<const QAbstractScrollArea *>(row.widget);
+    return { left, (view ? view->viewport()->width() : row.rect.right() + 1) - left };
 }
 
 void drawIcon(QPainter &painter, const QStyle &style, const QStyleOptionViewItem &row)
@@ -190,18 +209,41 @@ QSize Rows::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &inde
     return { QStyledItemDelegate::sizeHint(option, index).width(), option.fontMetrics.height() + room };
 }
 
-void Rows::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+QStyleOptionViewItem Rows::rowOf(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     QStyleOptionViewItem row = option;
     initStyleOption(&row, index);
     row.text = letters(row.text);
+    return row;
+}
+
+bool Rows::helpEvent(
+    QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    if (event->type() != QEvent::ToolTip || !index.isValid()
+        || !index.data(Qt::ToolTipRole).toString().isEmpty())
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    const QStyleOptionViewItem row = rowOf(option, index);
+    const bool whole = row.fontMetrics.horizontalAdvance(row.text) <= roomOf(row).width;
+    QToolTip::showText(event->globalPos(), m_tips && !whole ? asTipOfLines(row.text) : QString(),
+        view->viewport(), view->visualRect(index));
+    return true;
+}
+
+void Rows::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QStyleOptionViewItem row = rowOf(option, index);
+    const Room room = roomOf(row);
+    if (m_height == Height::WithRoom) {
+        row.text = row.fontMetrics.elidedText(row.text, Qt::ElideRight, room.width);
+        row.state.setFlag(
+            QStyle::State_Selected, isSelected(row) || row.state.testFlag(QStyle::State_HasFocus));
+    }
     const auto *view = qobject_cast<const QAbstractScrollArea *>(row.widget);
     const Ground ground(*painter, row.rect, view ? view->viewport()->rect() : row.rect);
     const Reach &reach = reachOf(row.font, ground.scale());
     const QStyle &style = *row.widget->style();
-    const QRect text = style.subElementRect(QStyle::SE_ItemViewItemText, &row, row.widget);
-    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &row, row.widget) + 1;
-    const QPointF left = ground.toDots.map(QPointF(text.left() + margin, 0));
+    const QPointF left = ground.toDots.map(QPointF(room.left, 0));
     const QPoint start(qRound(left.x()), baseLine(ground, reach));
     painter->save();
     if (m_layer != Layer::Letters)

@@ -3,6 +3,8 @@
 #include "forms/shownpart.h"
 
 #include <QPainter>
+#include <QTextLayout>
+#include <QTextOption>
 
 #include <algorithm>
 
@@ -11,7 +13,29 @@ namespace forms {
 namespace {
 
 constexpr int Air = 2; // pixels around the letters
-constexpr int Wrapping = Qt::TextWrapAnywhere;
+
+// Between words; within one only where a line is too short for it.
+QTextOption wrapping()
+{
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return option;
+}
+
+// As the painter lays it out.
+QSize sizeOf(const QString &text, const QFont &font, int width)
+{
+    QTextLayout layout(text, font);
+    layout.setTextOption(wrapping());
+    QSizeF size;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        size = { std::max(size.width(), line.naturalTextWidth()), size.height() + line.height() };
+    }
+    layout.endLayout();
+    return { qCeil(size.width()), qCeil(size.height()) };
+}
 
 } // namespace
 
@@ -27,8 +51,7 @@ void WholeText::ShowOver(const QWidget &control, const QString &text)
 {
     m_text = shownPart(text);
     const QRect window = parentWidget()->rect();
-    const QRect letters = fontMetrics().boundingRect(window.adjusted(Air, 0, -Air, 0), Wrapping, m_text);
-    QRect place(QPoint(0, 0), letters.size() + QSize(2 * Air, Air));
+    QRect place(QPoint(0, 0), sizeOf(m_text, font(), window.width() - 2 * Air) + QSize(2 * Air, Air));
     place.moveCenter(control.mapTo(parentWidget(), control.rect().center()));
     place.moveTop(control.mapTo(parentWidget(), QPoint(0, 0)).y());
     place.moveRight(std::min(place.right(), window.right()));
@@ -44,7 +67,7 @@ void WholeText::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.fillRect(rect(), QColor(NotePaper));
     painter.setPen(Qt::black);
-    painter.drawText(rect().adjusted(Air, 0, -Air, 0), Wrapping, m_text);
+    painter.drawText(QRectF(rect().adjusted(Air, 0, -Air, 0)), m_text, wrapping());
 }
 
 } // namespace forms

@@ -6,6 +6,7 @@
 
 #include "core/catalogo.h"
 
+#include "forms/plaintext.h"
 #include "forms/shownpart.h"
 #include "forms/wholetext.h"
 #include "forms/windowmove.h"
@@ -53,6 +54,7 @@ void Portada::ConectaSuperficie()
     MouseMove = escondeConsejo;
     for (forms::Image *imagen : { Graf_TV, Graf_Imagen })
         imagen->MouseMove = escondeConsejo;
+    Lista1->SetTips(false); // entries too long show in the floating one
     Lista1->MouseMove = [this](const forms::Mouse &raton) { Lista1_MouseMove(raton); };
     // The tip stays while the pointer rests on it: the move isn't the screen's.
     IMGDescripcionLarga->MouseMove = [](const forms::Mouse &) {};
@@ -111,6 +113,9 @@ void Portada::Lista1_MouseMove(const forms::Mouse &raton)
     const int fila = ElementoBajoRaton - Lista1->TopIndex();
     forms::move(
         *IMGDescripcionLarga, { lista.left + 50, alto * fila + lista.top + 20, ancho + 50, alto + 50 });
+    // What the window's edge cuts off can be read a little later.
+    const bool entero = rect().contains(IMGDescripcionLarga->geometry());
+    IMGDescripcionLarga->setToolTip(entero ? QString() : forms::asTipOfLines(texto));
     EscribeConsejo(texto);
 }
 

@@ -14,6 +14,7 @@ namespace {
 constexpr QRgb Amarillo = qRgb(255, 255, 0);
 constexpr QRgb Rojo = qRgb(255, 0, 0);
 constexpr int Alto = 210; // twips
+constexpr int Margen = 2; // pixels at each side, for the dots of the focus
 
 } // namespace
 
@@ -27,7 +28,10 @@ Enlace::Enlace(QWidget *padre, const QString &nombre, int izquierda, int arriba,
     SetForeColor(QColor(Rojo));
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
-    SetPlace({ izquierda, arriba, forms::twips(fontMetrics().horizontalAdvance(texto)), Alto });
+    setContentsMargins(Margen, 0, Margen, 0);
+    const int margen = forms::twips(Margen);
+    const int ancho = forms::twips(fontMetrics().horizontalAdvance(texto));
+    SetPlace({ izquierda - margen, arriba, ancho + 2 * margen, Alto });
     SetCaption(texto);
     MouseDown = [this](const forms::Mouse &) { Pulsa(); };
     MouseUp = [this](const forms::Mouse &) { Suelta(); };

@@ -9,7 +9,7 @@ namespace options {
 // the focus by Tab and shows it; Space and Enter are press and release.
 class Enlace : public forms::Label {
 public:
-    // As wide as its text, from this point on, in twips.
+    // Its text begins at this point, in twips.
     Enlace(QWidget *padre, const QString &nombre, int izquierda, int arriba, const QString &texto,
         const QString &destino);
 

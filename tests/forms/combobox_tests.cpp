@@ -340,16 +340,33 @@ TEST_F(Combos, AssistivePrograms_DropTheListDownAndReachItsEntries)
     combo.Clear();
     combo.AddItem(u"Amiga"_s);
     QAccessibleInterface *access = QAccessible::queryAccessibleInterface(&combo);
+    EXPECT_FALSE(access->state().expanded);
+    access->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(combo.view()->isVisible());
     ASSERT_EQ(access->childCount(), 1);
     QAccessibleInterface *list = access->child(0);
     EXPECT_EQ(access->indexOfChild(list), 0);
     EXPECT_EQ(list->child(0)->text(QAccessible::Name), u"Amiga"_s);
-    EXPECT_FALSE(access->state().expanded);
-    access->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_TRUE(combo.view()->isVisible());
     EXPECT_TRUE(access->state().expanded);
     access->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_FALSE(combo.view()->isVisible());
+}
+
+TEST_F(Combos, AssistivePrograms_SeeTheListOnlyWhileItIsOpen)
+{
+    fill({ u"a"_s, u"b"_s });
+    drive::show(form);
+    QAccessibleInterface *access = QAccessible::queryAccessibleInterface(&combo);
+    QAccessibleInterface *list = QAccessible::queryAccessibleInterface(combo.view());
+    EXPECT_EQ(access->childCount(), 0);
+    EXPECT_EQ(access->child(0), nullptr);
+    EXPECT_EQ(access->indexOfChild(list), -1);
+    combo.showPopup();
+    EXPECT_EQ(access->childCount(), 1);
+    EXPECT_EQ(access->child(0), list);
+    EXPECT_EQ(access->indexOfChild(list), 0);
+    combo.hidePopup();
+    EXPECT_EQ(access->childCount(), 0);
 }
 
 } // namespace

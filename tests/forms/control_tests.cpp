@@ -53,6 +53,36 @@ protected:
     drive::Log log;
 };
 
+TEST_F(Controls, ShiftAndF10_AskForTheMenuAsTheKeyForItDoes)
+{
+    int menus = 0;
+    outer.MenuKey = [&] { ++menus; };
+    outer.setFocusPolicy(Qt::TabFocus);
+    drive::show(form);
+    outer.setFocus();
+    QTest::keyClick(form.windowHandle(), Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(menus, 1);
+    QTest::keyClick(form.windowHandle(), Qt::Key_F10);
+    QTest::keyClick(form.windowHandle(), Qt::Key_F10, Qt::ShiftModifier | Qt::ControlModifier);
+    EXPECT_EQ(menus, 1);
+    drive::repeatedKey(outer, Qt::Key_F10);
+    EXPECT_EQ(menus, 1);
+}
+
+TEST_F(Controls, ShiftAndF10_OpenTheMenuOfATextBoxWhereItsCursorStands)
+{
+    box.setText(u"some text"_s);
+    drive::show(form);
+    box.setFocus();
+    box.end(false);
+    const int cursor = box.inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
+    QTest::keyClick(form.windowHandle(), Qt::Key_F10, Qt::ShiftModifier);
+    QWidget *menu = QApplication::activePopupWidget();
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(box.mapFromGlobal(menu->pos()).x(), cursor);
+    menu->close();
+}
+
 TEST_F(Controls, LeftAndMiddleClick_RaisePressReleaseAndClick)
 {
     logButtons(inner);

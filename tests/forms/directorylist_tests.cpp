@@ -6,6 +6,7 @@
 #include "host/failure.h"
 
 #include <QDir>
+#include <QPixmap>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -187,6 +188,33 @@ TEST_F(DirectoryLists, TheOpenDirectoryIsInView_WhateverLiesInIt)
     list.SetPath(path(u"alfa"_s));
     EXPECT_TRUE(list.viewport()->rect().contains(
         list.visualRect(list.model()->index(list.ListCount() - 1, 0)).center()));
+}
+
+// The folders are those of the main screen, in yellow, drawn in the screen's own pixels.
+TEST_F(DirectoryLists, TheirFoldersAreYellow_OpenOnesOthersThanShutOnes)
+{
+    list.SetPath(path());
+    const auto pictureOf = [this](const QString &name) {
+        return list.model()->index(rowOf(name), 0).data(Qt::DecorationRole).value<QPixmap>().toImage();
+    };
+    const auto yellow = [](const QImage &picture) {
+        int count = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const QColor colour = picture.pixelColor(x, y);
+                if (colour.alpha() == 255) {
+                    EXPECT_GT(colour.red(), colour.blue() + 40) << x << ' ' << y;
+                    count += colour.red() > 200;
+                }
+            }
+        }
+        return count;
+    };
+    const QImage open = pictureOf(u"/"_s);
+    const QImage shut = pictureOf(u"Zeta"_s);
+    EXPECT_GT(yellow(open), 30);
+    EXPECT_GT(yellow(shut), 30);
+    EXPECT_NE(open, shut.copy(shut.width() - open.width(), 0, open.width(), open.height()));
 }
 
 } // namespace

@@ -1,8 +1,10 @@
 #include "drive.h"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QTest>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <QWindow>
 
@@ -109,6 +111,19 @@ void wheel(QWidget &widget)
     QWheelEvent event(point, widget.mapToGlobal(point), QPoint(), QPoint(0, -120), Qt::NoButton,
         Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&widget, &event);
+}
+
+QString tipAt(QWidget &widget, const QPoint &point)
+{
+    QHelpEvent ask(QEvent::ToolTip, point, widget.mapToGlobal(point));
+    QApplication::sendEvent(&widget, &ask);
+    const QString shown = QToolTip::text();
+    // One that is only hidden stays for a while.
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->inherits("QTipLabel"))
+            delete window;
+    }
+    return shown;
 }
 
 QColor colourAt(QWidget &widget, const QPoint &point)

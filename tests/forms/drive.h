@@ -47,6 +47,9 @@ void repeatedKey(QWidget &receiver, Qt::Key key);
 // One notch of the wheel towards the user, over the middle of the widget.
 void wheel(QWidget &widget);
 
+// What the toolkit shows as a tip when it is asked for one there; empty if nothing.
+QString tipAt(QWidget &widget, const QPoint &point);
+
 QColor colourAt(QWidget &widget, const QPoint &point);
 
 } // namespace drive

@@ -2,6 +2,7 @@
 
 #include "forms/form.h"
 #include "forms/label.h"
+#include "forms/plaintext.h"
 #include "forms/shape.h"
 #include "forms/wholetext.h"
 
@@ -214,6 +215,48 @@ TEST_F(Labels, ALabelThatMustNotGrow_ClipsItsCaption)
     EXPECT_EQ(label.width(), natural(wide));
 }
 
+class ClippedLabels : public Labels {
+protected:
+    ClippedLabels()
+    {
+        label.SetGrowing(false);
+        const int high = 2 * label.fontMetrics().lineSpacing() + label.fontMetrics().height() / 2;
+        label.SetPlace({ 600, 600, 1200, forms::twips(high) });
+        form.SetBackColour(Qt::white);
+        drive::show(form);
+    }
+    int lowestInk() // from the label's top
+    {
+        const QImage picture = form.grab(label.geometry()).toImage();
+        for (int y = picture.height() - 1; y >= 0; --y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (picture.pixelColor(x, y) != QColor(Qt::white))
+                    return y;
+            }
+        }
+        return -1;
+    }
+    QString tip() { return drive::tipAt(label, label.rect().center()); }
+};
+
+TEST_F(ClippedLabels, EndBehindTheirLastWholeLine_AndShowAllAsATip)
+{
+    const int line = label.fontMetrics().lineSpacing();
+    label.SetCaption(u"gjq\ngjq\ngjq\ngjq"_s);
+    EXPECT_LT(lowestInk(), 2 * line);
+    EXPECT_GE(lowestInk(), line + line / 2);
+    EXPECT_EQ(tip(), forms::asTipOfLines(u"gjq\ngjq\ngjq\ngjq"_s));
+}
+
+TEST_F(ClippedLabels, ThatHaveRoomLookAsTheToolkitPaintsThem_WithoutATip)
+{
+    label.SetCaption(u"gjq\ngjq"_s);
+    const QImage picture = label.grab().toImage();
+    label.SetGrowing(true);
+    EXPECT_EQ(label.grab().toImage(), picture);
+    EXPECT_EQ(tip(), QString());
+}
+
 TEST_F(Labels, ARoom_EndsItsGrowth)
 {
     label.SetRoom({ 600, 600, 900, 210 });
@@ -298,6 +341,20 @@ TEST_F(ShortenedLabels, ShowTheirWholeCaptionUnderThePointer)
     leave();
     label.SetCaption(u"BBBBBBBBBB iiii"_s);
     EXPECT_FALSE(whole());
+}
+
+TEST_F(ShortenedLabels, BreakTheirWholeCaptionBetweenItsWords)
+{
+    const int letters = form.width() * 6 / 10 / natural(u"W"_s);
+    const QString word(letters, u'W'); // two have no room in a line, three would have on two lines
+    label.SetCaption(word + u' ' + word + u' ' + word);
+    enter();
+    ASSERT_TRUE(whole());
+    const int line = label.fontMetrics().height();
+    EXPECT_GE(whole()->height(), 3 * line);
+    EXPECT_LT(whole()->height(), 4 * line);
+    EXPECT_LT(whole()->width(), natural(word) + 10);
+    leave();
 }
 
 TEST_F(ShortenedLabels, ShowAllOfACaptionWiderThanTheWindow_OnSeveralLines)

@@ -102,6 +102,24 @@ TEST_F(PlainTexts, ATipTooLongForALine_IsNotBroken)
     }
 }
 
+TEST_F(PlainTexts, ATipOfLines_IsBrokenAtItsBlanks)
+{
+    const QString text = u"<b>name  of a game</b> "_s.repeated(20).trimmed();
+    form.setToolTip(forms::asTipOfLines(text));
+    drive::show(form);
+    EXPECT_EQ(tipAt(form, { 5, 5 }), text);
+    int tips = 0;
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->inherits("QTipLabel")) {
+            ++tips;
+            EXPECT_GT(window->height(), 2 * window->fontMetrics().height());
+            EXPECT_LT(window->width(), window->fontMetrics().horizontalAdvance(text) / 2);
+        }
+    }
+    EXPECT_EQ(tips, 1);
+    EXPECT_EQ(forms::asTipOfLines(u"short"_s), forms::asTip(u"short"_s));
+}
+
 TEST_F(PlainTexts, TheTipOfADirectory_ShowsMarkupAsItIs)
 {
     // A slash parts directories: the mark names it by its number.
@@ -179,7 +197,7 @@ TEST_F(PlainTexts, EntriesOfLists_ReadNoMarks)
     combo.view()->grab();
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&list)->child(0)->text(QAccessible::Name), markup);
     EXPECT_EQ(told(combo, QAccessible::Value), markup);
-    EXPECT_EQ(tipAt(*list.viewport(), { 5, 5 }), QString());
+    EXPECT_EQ(tipAt(*list.viewport(), { 5, 5 }), markup); // it has no room
     combo.hidePopup();
 }
 

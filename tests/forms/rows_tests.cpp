@@ -4,11 +4,13 @@
 #include "forms/combobox.h"
 #include "forms/form.h"
 #include "forms/listbox.h"
+#include "forms/plaintext.h"
 
 #include <QAbstractItemView>
 #include <QImage>
 #include <QPainter>
 #include <QPixmap>
+#include <QStyle>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -183,6 +185,120 @@ TEST_P(RowPictures, BelowTheLastWholeRowNothingOfTheNextShows)
         list.AddItem(Letters);
         expectWhole(Rows - 1, pictureOf(form, GetParam()), false);
     }
+}
+
+// What the toolkit is asked for when the pointer rests on a row.
+QString tipOf(QAbstractItemView &view, int row)
+{
+    return drive::tipAt(*view.viewport(), view.visualRect(view.model()->index(row, 0)).center());
+}
+
+class RowTips : public testing::Test {
+protected:
+    RowTips()
+    {
+        list.setGeometry(9, 7, 120, 100);
+        list.AddItem(u"short"_s);
+        list.AddItem(Long);
+        drive::show(form);
+    }
+
+    const QString Long = u"<b>A name</b> & one that has no room in the list"_s;
+    forms::Form form { u"Form"_s, 4000, 2000, forms::Form::Border::None };
+    forms::ListBox list { &form };
+};
+
+TEST_F(RowTips, AreTheWholeEntryWhereItIsCutOff)
+{
+    EXPECT_EQ(tipOf(list, 0), QString());
+    EXPECT_EQ(tipOf(list, 1), forms::asTipOfLines(Long));
+    list.resize(list.fontMetrics().horizontalAdvance(Long) + 20, 100);
+    EXPECT_EQ(tipOf(list, 1), QString());
+}
+
+TEST_F(RowTips, AreThoseThatTheRowHasItself)
+{
+    list.SetLook(0, { {}, u"own"_s });
+    list.SetLook(1, { {}, u"own"_s });
+    EXPECT_EQ(tipOf(list, 0), u"own"_s);
+    EXPECT_EQ(tipOf(list, 1), u"own"_s);
+}
+
+TEST_F(RowTips, AreNoneWhereTheScreenHasItsOwn)
+{
+    list.SetTips(false);
+    EXPECT_EQ(tipOf(list, 1), QString());
+}
+
+class OpenLists : public testing::Test {
+protected:
+    OpenLists()
+    {
+        combo.setGeometry(9, 7, 120, 22);
+        combo.AddItem(Long);
+        combo.AddItem(u"Other"_s);
+    }
+    QAbstractItemView &open()
+    {
+        drive::show(form);
+        combo.showPopup();
+        return *combo.view();
+    }
+
+    const QString Long = u"A name that has no room in the list"_s;
+    forms::Form form { u"Form"_s, 4000, 2000, forms::Form::Border::None };
+    forms::ComboBox combo { &form };
+};
+
+TEST_F(OpenLists, ShowTheRowOfTheKeysAsTheOneToBePicked_AlsoWhileNoneIs)
+{
+    QAbstractItemView &view = open();
+    ASSERT_EQ(combo.ListIndex(), -1);
+    ASSERT_EQ(view.currentIndex().row(), 0);
+    const QImage picture = pictureOf(*view.viewport(), 1);
+    const QRect shown = picture.rect();
+    const QRect row = view.visualRect(view.currentIndex()) & shown;
+    const QColor ground = picture.pixelColor(row.right() - 1, row.center().y());
+    EXPECT_EQ(ground, combo.palette().color(QPalette::Highlight));
+    int white = 0;
+    for (int x = row.left(); x <= row.right(); ++x)
+        white += picture.pixelColor(x, row.top()) == QColor(Qt::white);
+    EXPECT_GT(white, row.width() / 3);
+    const QRect other = view.visualRect(view.model()->index(1, 0)) & shown;
+    EXPECT_NE(picture.pixelColor(other.right() - 1, other.center().y()), ground);
+    combo.hidePopup();
+}
+
+TEST_F(OpenLists, EndTheirLongEntriesInDots_WholeAsATip)
+{
+    QAbstractItemView &view = open();
+    EXPECT_EQ(tipOf(view, 0), forms::asTipOfLines(Long));
+    EXPECT_EQ(tipOf(view, 1), QString());
+    const QImage cut = pictureOf(*view.viewport(), 1);
+    const int left = view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1;
+    combo.setItemText(
+        0, view.fontMetrics().elidedText(Long, Qt::ElideRight, view.viewport()->width() - left));
+    EXPECT_EQ(pictureOf(*view.viewport(), 1), cut);
+    combo.hidePopup();
+}
+
+TEST_F(OpenLists, ShutTheyShowALongNameInDots_WholeAsATip)
+{
+    combo.SetListIndex(0);
+    drive::show(form);
+    const auto tip = [this] { return drive::tipAt(combo, QPoint(5, 5)); };
+    EXPECT_EQ(tip(), forms::asTipOfLines(Long));
+    const QImage cut = pictureOf(combo, 1);
+    QString part = Long;
+    int equal = 0;
+    while (part.size() > 1) {
+        part.chop(1);
+        combo.setItemText(0, part + u'…');
+        equal += pictureOf(combo, 1) == cut && tip().isEmpty();
+    }
+    EXPECT_GE(equal, 1);
+    combo.SetListIndex(1);
+    EXPECT_EQ(tip(), QString());
 }
 
 INSTANTIATE_TEST_SUITE_P(Scales, RowPictures, testing::Values(1, 1.1, 1.25, 1.33, 1.5, 1.75, 2, 2.5, 3),

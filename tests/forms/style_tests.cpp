@@ -166,6 +166,18 @@ TEST(Colours, OfHintsAndFaultsCanBeReadAndToldFromAText)
     EXPECT_GE(fault.hslSaturation() - hint.hslSaturation(), 200);
 }
 
+TEST(Colours, OfTheFocusOnAListStandFarFromItsGround)
+{
+    for (int part = 0; part < 256; ++part) {
+        for (const QColor &ground :
+            { QColor(part, part, part), QColor(part, 0, 64), QColor(0, part, part), QColor(0, 0, part) })
+            EXPECT_GE(contrast(forms::dotsOn(ground), ground), 4.5) << ground.name().toStdString();
+    }
+    EXPECT_EQ(forms::dotsOn(controlColours().color(QPalette::Base)), QColor(Qt::black));
+    for (const auto role : { QPalette::Base, QPalette::Highlight })
+        EXPECT_EQ(forms::dotsOn(popupColours().color(role)), QColor(Qt::white));
+}
+
 TEST(Colours, OfWhatIsDisabledAreTheProgramsToo)
 {
     for (const QPalette &palette : { controlColours(), popupColours(), markColours() }) {
@@ -320,7 +332,7 @@ TEST_F(Looks, OfAnOpenListAreThoseOfAMenu)
     EXPECT_EQ(around.color(QPalette::Window), popupColours().color(QPalette::Base));
     const QImage list = combo.view()->viewport()->grab().toImage();
     combo.hidePopup();
-    EXPECT_EQ(QColor(list.pixel(list.width() - 3, 3)), popupColours().color(QPalette::Base));
+    EXPECT_EQ(QColor(list.pixel(list.width() - 3, list.height() - 3)), popupColours().color(QPalette::Base));
 }
 
 TEST(Frames, BetweenTheLineAndWhatItFramesNothingOfTheScreenShows)

@@ -5,10 +5,14 @@
 #include "tests/support/browser.h"
 #include "tests/support/witness.h"
 
+#include "forms/plaintext.h"
+
 #include <QApplication>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cstddef>
@@ -40,6 +44,19 @@ protected:
         const QRect shown = list().visualRect(list().model()->index(row, 0));
         return list().viewport()->mapTo(&list(), QPoint(20, shown.center().y()));
     }
+    // What the toolkit shows where the pointer rests on the list.
+    QString tipOfTheList(int row)
+    {
+        const QPoint place = list().viewport()->mapFrom(&list(), pointOfRow(row));
+        QHelpEvent ask(QEvent::ToolTip, place, list().viewport()->mapToGlobal(place));
+        QApplication::sendEvent(list().viewport(), &ask);
+        QString shown = QToolTip::text();
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            if (window->inherits("QTipLabel"))
+                delete window; // hidden, it would stay for a while
+        }
+        return shown;
+    }
     void hover(int row) { moveTo(list(), pointOfRow(row)); }
     bool dark(const QImage &image, QRect where) const
     {
@@ -67,6 +84,19 @@ TEST_F(SuperficieTest, TipShowsALongEntryInFullOverItsRow)
     hover(2);
     EXPECT_EQ(tip().y(), forms::inPixels({ 0, 1340 + 2 * height, 0, 0 }).y());
     EXPECT_EQ(portada->childAt(tip().geometry().topLeft()), &tip());
+}
+
+TEST_F(SuperficieTest, TipThatTheWindowsEdgeCutsOffHasTheWholeEntryAsATipOfItsOwn)
+{
+    startWithLongNames();
+    list().AddItem(Long + Long);
+    hover(3);
+    ASSERT_FALSE(portada->rect().contains(tip().geometry()));
+    EXPECT_EQ(tip().toolTip(), forms::asTipOfLines(Long + Long));
+    EXPECT_EQ(tipOfTheList(3), QString());
+    hover(0);
+    ASSERT_TRUE(portada->rect().contains(tip().geometry()));
+    EXPECT_EQ(tip().toolTip(), QString());
 }
 
 TEST_F(SuperficieTest, TipIsBlackOnPaleYellow)
@@ -492,6 +522,19 @@ TEST_F(SuperficieTest, KeysOfTheTelevision)
     strike(*portada, Qt::Key_1, Qt::ControlModifier);
     strike(*portada, Qt::Key_1, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_THAT(browser.opened, ElementsAre(u"http://a.example/"_s, u"http://b.example/"_s));
+}
+
+TEST_F(SuperficieTest, ShiftAndF10OpenTheMenuOfTheControl)
+{
+    startAt(Zeta, 0);
+    const auto askIn = [this](const QString &name) {
+        control(name).setFocus();
+        QTest::keyClick(portada->windowHandle(), Qt::Key_F10, Qt::ShiftModifier);
+    };
+    EXPECT_TRUE(popsUp(*portada->Menu_Lista1, [&] { askIn(u"Lista1"_s); }));
+    EXPECT_TRUE(popsUp(*portada->Menu_Graf_Imagen, [&] { askIn(u"Graf_Imagen"_s); }));
+    list().SetListIndex(-1);
+    EXPECT_FALSE(popsUp(*portada->Menu_Lista1, [&] { askIn(u"Lista1"_s); }));
 }
 
 TEST_F(SuperficieTest, MenuKeyOpensTheMenuOfTheControl)

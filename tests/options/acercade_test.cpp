@@ -116,6 +116,29 @@ TEST_F(AcercaDeTest, LinksOpenByTheKeyboardOnceTheUserIsThere)
     });
 }
 
+TEST_F(AcercaDeTest, DotsOfTheFocusStandBesideTheLettersOfALink)
+{
+    about([](forms::Form &form) {
+        for (const QString &name : Links) {
+            forms::Label &label = link(form, name);
+            form.setFocus();
+            const QImage without = pictureOf(label);
+            label.setFocus();
+            const QImage with = pictureOf(label);
+            int dots = 0;
+            for (int y = 0; y < with.height(); ++y) {
+                for (int x = 0; x < with.width(); ++x) {
+                    if (with.pixel(x, y) == without.pixel(x, y))
+                        continue;
+                    ++dots;
+                    EXPECT_LT(without.pixelColor(x, y).red(), 64) << x << ' ' << y;
+                }
+            }
+            EXPECT_GT(dots, with.width() / 2);
+        }
+    });
+}
+
 TEST_F(AcercaDeTest, LinksAreToldAsLinks_AndOpenByTheirPressAction)
 {
     about([this](forms::Form &form) {
