@@ -15,10 +15,10 @@ build=$work/build/release
 fresh=$work/build/zembrolix
 mkdir -p "$build"/{converter,companion,finder,data/beside/LNG,data/demo/games} "$work/home" "$work/bin"
 printf '#!/bin/sh\necho "started in $(dirname "$0")"\n' >"$build/Zembrolix"
-printf '#!/bin/sh\n' >"$build/converter/Cvtgif15.exe"
+printf '#!/bin/sh\n' | tee "$build/converter/Cvtgif15.exe" >"$build/converter/Cvtcap.exe"
 cp "$finder" "$build/finder/BuscaEmuladores"
 printf '#!/bin/sh\nexec "%s" --directory "$(dirname "$0")" "$@"\n' "$zembro" >"$build/companion/zembro"
-chmod +x "$build"/{Zembrolix,converter/Cvtgif15.exe,companion/zembro}
+chmod +x "$build"/{Zembrolix,converter/Cvtgif15.exe,converter/Cvtcap.exe,companion/zembro}
 for name in Zembro.cfg Zembro.txt Zembro.faq Zembro.rom LNG/ZB-ESP.LNG; do
     printf '%s\r\n' "$name" >"$build/data/beside/$name"
 done
