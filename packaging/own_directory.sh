@@ -14,7 +14,7 @@ has_own() { # directory
     while IFS= read -r -d '' name; do
         name=${name#./}
         case $name in
-        Zembrolix | Cvtgif15.exe | zembro | .delivered | roms/*/LEEME.txt | arranque/*) continue ;;
+        Zembrolix | Cvtgif15.exe | Cvtcap.exe | zembro | .delivered | roms/*/LEEME.txt | arranque/*) continue ;;
         esac
         [ ! -L "$1/$name" ] || return 0
         sum=$(sha256sum <"$1/$name" | cut -d' ' -f1)
