@@ -86,18 +86,16 @@ QString hastaElPunto(const QString &nombre)
     return nombre.left(punto);
 }
 
-// Whether the lines of a type tell the length of a file.
-bool seMide(int tipo)
+} // namespace
+
+std::optional<QString> FicheroMedido(int tipo, const FichaDeROM &ficha)
 {
-    return FicherosSueltos(tipo) || UnZipPorJuego(tipo);
+    if (UnZipPorJuego(tipo) && ficha.conNota)
+        return host::upper(ficha.nombre) + u".ZIP"_s;
+    return FicherosSueltos(tipo) || UnZipPorJuego(tipo) ? std::optional(ficha.nombre) : std::nullopt;
 }
 
-QString ficheroDe(int tipo, const FichaDeROM &ficha)
-{
-    return UnZipPorJuego(tipo) && ficha.conNota ? host::upper(ficha.nombre) + u".ZIP"_s : ficha.nombre;
-}
-
-QString lineaConMedida(int tipo, const FichaDeROM &ficha, qint64 bytes)
+QString LineaDeInfo(int tipo, const FichaDeROM &ficha, qint64 bytes)
 {
     const QString mayus = host::upper(ficha.nombre);
     if (FicherosSueltos(tipo)) {
@@ -112,6 +110,8 @@ QString lineaConMedida(int tipo, const FichaDeROM &ficha, qint64 bytes)
         return mayus + u".ZIP "_s + comoNumero(kilobytes(bytes)) + u"Kb [ZIP]"_s;
     return mayus + u' ' + kilobytes(bytes) + u"Kb [ZIP]"_s;
 }
+
+namespace {
 
 // False for a ZIP with a note that is so short that its line can't tell how long.
 bool seDice(int tipo, const FichaDeROM &ficha, qint64 bytes)
@@ -130,7 +130,7 @@ qsizetype primeraQueFalla(int tipo, const QList<FichaDeROM> &fichas,
     for (qsizetype i = 0; i < ultima; ++i) {
         if (segura(fichas[i]))
             continue;
-        ficheros.append(ficheroDe(tipo, fichas[i]));
+        ficheros.append(FicheroMedido(tipo, fichas[i]).value());
         lugares.append(i);
     }
     const QList<qint64> bytes = largos(ficheros);
@@ -140,15 +140,6 @@ qsizetype primeraQueFalla(int tipo, const QList<FichaDeROM> &fichas,
     }
     return ultima;
 }
-
-} // namespace
-
-QString LineaDeInfo(int tipo, const QString &directorio, const FichaDeROM &ficha, const LargoDeFichero &largo)
-{
-    return lineaConMedida(tipo, ficha, seMide(tipo) ? largo(directorio + ficheroDe(tipo, ficha)) : 0);
-}
-
-namespace {
 
 QString ultimaLinea(const Busqueda &busca, int tipo, const QString &directorio,
     const LargosDeFicheros &largos, const EstaSeguro &esta)
@@ -161,15 +152,15 @@ QString ultimaLinea(const Busqueda &busca, int tipo, const QString &directorio,
     }
     if (fichas.isEmpty())
         return {};
-    if (!seMide(tipo))
-        return lineaConMedida(tipo, fichas.last(), 0);
+    if (!FicheroMedido(tipo, fichas.last()))
+        return LineaDeInfo(tipo, fichas.last(), 0);
     const auto segura = [&](const FichaDeROM &ficha) {
         return FicherosSueltos(tipo) && esta(directorio + ficha.nombre);
     };
     for (qsizetype i = primeraQueFalla(tipo, fichas, segura, largos); i >= 0; --i) {
-        const QList<qint64> bytes = largos({ ficheroDe(tipo, fichas[i]) });
+        const QList<qint64> bytes = largos({ FicheroMedido(tipo, fichas[i]).value() });
         if (!bytes.isEmpty() && seDice(tipo, fichas[i], bytes.first()))
-            return lineaConMedida(tipo, fichas[i], bytes.first());
+            return LineaDeInfo(tipo, fichas[i], bytes.first());
     }
     return {};
 }

@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 namespace core {
 
@@ -38,10 +39,12 @@ private:
     int m_recorridas = 0;
 };
 
-// The line of facts of an emulator type; empty for a type without one. Fails with 53 if the file is gone, and
-// with 13 for a ZIP with a note whose size rounds to nothing.
-QString LineaDeInfo(
-    int tipo, const QString &directorio, const FichaDeROM &ficha, const LargoDeFichero &largo);
+// The file of the ROM directory whose length the line of facts tells; none for a type whose lines tell none.
+std::optional<QString> FicheroMedido(int tipo, const FichaDeROM &ficha);
+
+// The line of facts of an emulator type; empty for a type without one. Fails with 13 for a ZIP with a note
+// whose size rounds to nothing.
+QString LineaDeInfo(int tipo, const FichaDeROM &ficha, qint64 bytes);
 
 // Whether a file is surely there, told without a look at it: false proves nothing.
 using EstaSeguro = std::function<bool(const QString &ruta)>;

@@ -53,9 +53,6 @@ struct Recuento {
     bool interrumpido = false; // a length could not be had: what is here was added before
 };
 
-// Length in bytes of a file; fails with 53.
-using LargoDeFichero = std::function<qint64(const QString &ruta)>;
-
 // Lengths in bytes of files of the ROM directory, up to the first that can't be had.
 using LargosDeFicheros = std::function<QList<qint64>(const QStringList &nombres)>;
 

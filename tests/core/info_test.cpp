@@ -6,6 +6,7 @@
 #include "core/listado.h"
 #include "core/notas.h"
 
+#include "host/lengths.h"
 #include "host/paths.h"
 
 using namespace Qt::StringLiterals;
@@ -21,6 +22,15 @@ protected:
             M.Nota_Clave(i) = notas[i].first;
             M.Nota_Texto(i) = notas[i].second;
         }
+    }
+
+    QString LineaDe(int tipo, const QString &texto) const
+    {
+        const host::LengthsIn largos(Ruta(QString()));
+        return core::UltimaLineaDeInfo(
+            M, texto, tipo, Ruta(QString()),
+            [&](const QStringList &nombres) { return largos.ofAll(nombres); },
+            [&](const QString &ruta) { return largos.lists(ruta); });
     }
 
     // What an entry stands for, one after the other: "KEY*" with a note, "name" without.
@@ -110,7 +120,7 @@ struct CasoDeInfo {
     FichaDeROM ficha;
     qint64 largo;
     QString linea;
-    QString fichero; // whose length is asked for
+    QString fichero; // whose length it is
 };
 
 void PrintTo(const CasoDeInfo &caso, std::ostream *salida)
@@ -124,33 +134,28 @@ class LineaDeInfo : public testing::TestWithParam<CasoDeInfo> { };
 TEST_P(LineaDeInfo, TellsNameSizeAndKind)
 {
     const CasoDeInfo &caso = GetParam();
-    QString preguntado;
-    const QString linea = core::LineaDeInfo(caso.tipo, u"R/"_s, caso.ficha, [&](const QString &ruta) {
-        preguntado = ruta;
-        return caso.largo;
-    });
-    EXPECT_EQ(linea, caso.linea);
-    EXPECT_EQ(preguntado, caso.fichero);
+    EXPECT_EQ(core::LineaDeInfo(caso.tipo, caso.ficha, caso.largo), caso.linea);
+    EXPECT_EQ(core::FicheroMedido(caso.tipo, caso.ficha).value_or(QString()), caso.fichero);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sueltos, LineaDeInfo,
     testing::Values(
-        CasoDeInfo { 0, { u"GAME.BIN"_s, true }, 40960, u"GAME.BIN 40Kb  [NOR]"_s, u"R/GAME.BIN"_s },
-        CasoDeInfo { 5, { u"GAME.ZIP"_s, true }, 40960, u"GAME.ZIP 40Kb  [ZIP]"_s, u"R/GAME.ZIP"_s },
+        CasoDeInfo { 0, { u"GAME.BIN"_s, true }, 40960, u"GAME.BIN 40Kb  [NOR]"_s, u"GAME.BIN"_s },
+        CasoDeInfo { 5, { u"GAME.ZIP"_s, true }, 40960, u"GAME.ZIP 40Kb  [ZIP]"_s, u"GAME.ZIP"_s },
         // Without a note the name keeps its case.
-        CasoDeInfo { 0, { u"Game.bin"_s, false }, 40960, u"Game.bin 40Kb  [NOR]"_s, u"R/Game.bin"_s },
-        CasoDeInfo { 5, { u"Game.Zip"_s, false }, 40960, u"Game.Zip 40Kb  [ZIP]"_s, u"R/Game.Zip"_s },
-        CasoDeInfo { 0, { u"GAMEZIP"_s, true }, 1024, u"GAMEZIP 1Kb  [ZIP]"_s, u"R/GAMEZIP"_s },
+        CasoDeInfo { 0, { u"Game.bin"_s, false }, 40960, u"Game.bin 40Kb  [NOR]"_s, u"Game.bin"_s },
+        CasoDeInfo { 5, { u"Game.Zip"_s, false }, 40960, u"Game.Zip 40Kb  [ZIP]"_s, u"Game.Zip"_s },
+        CasoDeInfo { 0, { u"GAMEZIP"_s, true }, 1024, u"GAMEZIP 1Kb  [ZIP]"_s, u"GAMEZIP"_s },
         // Whole Kb, half away from zero, nothing for what rounds to none.
-        CasoDeInfo { 0, { u"G.BIN"_s, false }, 1000, u"G.BIN 1Kb  [NOR]"_s, u"R/G.BIN"_s },
-        CasoDeInfo { 0, { u"NAME"_s, false }, 400, u"NAME Kb  [NOR]"_s, u"R/NAME"_s },
-        CasoDeInfo { 0, { u"NAME"_s, true }, 0, u"NAME Kb  [NOR]"_s, u"R/NAME"_s },
-        CasoDeInfo { 0, { u"NAME"_s, true }, 511, u"NAME Kb  [NOR]"_s, u"R/NAME"_s },
-        CasoDeInfo { 0, { u"NAME"_s, true }, 512, u"NAME 1Kb  [NOR]"_s, u"R/NAME"_s },
-        CasoDeInfo { 0, { u"NAME"_s, true }, 1535, u"NAME 1Kb  [NOR]"_s, u"R/NAME"_s },
-        CasoDeInfo { 0, { u"NAME"_s, true }, 1536, u"NAME 2Kb  [NOR]"_s, u"R/NAME"_s },
-        CasoDeInfo { 0, { u"NAME"_s, true }, 2560, u"NAME 3Kb  [NOR]"_s, u"R/NAME"_s },
-        CasoDeInfo { 0, { u"NAME"_s, true }, 1234567LL * 1024, u"NAME 1,234,567Kb  [NOR]"_s, u"R/NAME"_s }));
+        CasoDeInfo { 0, { u"G.BIN"_s, false }, 1000, u"G.BIN 1Kb  [NOR]"_s, u"G.BIN"_s },
+        CasoDeInfo { 0, { u"NAME"_s, false }, 400, u"NAME Kb  [NOR]"_s, u"NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 0, u"NAME Kb  [NOR]"_s, u"NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 511, u"NAME Kb  [NOR]"_s, u"NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 512, u"NAME 1Kb  [NOR]"_s, u"NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 1535, u"NAME 1Kb  [NOR]"_s, u"NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 1536, u"NAME 2Kb  [NOR]"_s, u"NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 2560, u"NAME 3Kb  [NOR]"_s, u"NAME"_s },
+        CasoDeInfo { 0, { u"NAME"_s, true }, 1234567LL * 1024, u"NAME 1,234,567Kb  [NOR]"_s, u"NAME"_s }));
 
 INSTANTIATE_TEST_SUITE_P(Directorios, LineaDeInfo,
     testing::Values(CasoDeInfo { 1, { u"GAME"_s, true }, 0, u"GAME [DIR]"_s, QString() },
@@ -160,17 +165,17 @@ INSTANTIATE_TEST_SUITE_P(Directorios, LineaDeInfo,
 INSTANTIATE_TEST_SUITE_P(Zips, LineaDeInfo,
     testing::Values(
         // With a note: two blanks ahead of the number, and no separators in it.
-        CasoDeInfo { 2, { u"GAME"_s, true }, 40960, u"GAME.ZIP  40Kb [ZIP]"_s, u"R/GAME.ZIP"_s },
+        CasoDeInfo { 2, { u"GAME"_s, true }, 40960, u"GAME.ZIP  40Kb [ZIP]"_s, u"GAME.ZIP"_s },
         CasoDeInfo {
-            3, { u"GAME"_s, true }, 1234567LL * 1024, u"GAME.ZIP  1234567Kb [ZIP]"_s, u"R/GAME.ZIP"_s },
-        CasoDeInfo { 7, { u"GAME"_s, true }, 512, u"GAME.ZIP  1Kb [ZIP]"_s, u"R/GAME.ZIP"_s },
-        CasoDeInfo { 8, { u"GAME.ZIP"_s, true }, 2048, u"GAME.ZIP.ZIP  2Kb [ZIP]"_s, u"R/GAME.ZIP.ZIP"_s },
+            3, { u"GAME"_s, true }, 1234567LL * 1024, u"GAME.ZIP  1234567Kb [ZIP]"_s, u"GAME.ZIP"_s },
+        CasoDeInfo { 7, { u"GAME"_s, true }, 512, u"GAME.ZIP  1Kb [ZIP]"_s, u"GAME.ZIP"_s },
+        CasoDeInfo { 8, { u"GAME.ZIP"_s, true }, 2048, u"GAME.ZIP.ZIP  2Kb [ZIP]"_s, u"GAME.ZIP.ZIP"_s },
         // Without: the name in upper case, the separators stay.
-        CasoDeInfo { 2, { u"Game.zip"_s, false }, 40960, u"GAME.ZIP 40Kb [ZIP]"_s, u"R/Game.zip"_s },
+        CasoDeInfo { 2, { u"Game.zip"_s, false }, 40960, u"GAME.ZIP 40Kb [ZIP]"_s, u"Game.zip"_s },
         CasoDeInfo {
-            3, { u"Game.zip"_s, false }, 1234567LL * 1024, u"GAME.ZIP 1,234,567Kb [ZIP]"_s, u"R/Game.zip"_s },
-        CasoDeInfo { 7, { u"Game.zip"_s, false }, 400, u"GAME.ZIP Kb [ZIP]"_s, u"R/Game.zip"_s },
-        CasoDeInfo { 8, { u"Game.zip"_s, false }, 512, u"GAME.ZIP 1Kb [ZIP]"_s, u"R/Game.zip"_s }));
+            3, { u"Game.zip"_s, false }, 1234567LL * 1024, u"GAME.ZIP 1,234,567Kb [ZIP]"_s, u"Game.zip"_s },
+        CasoDeInfo { 7, { u"Game.zip"_s, false }, 400, u"GAME.ZIP Kb [ZIP]"_s, u"Game.zip"_s },
+        CasoDeInfo { 8, { u"Game.zip"_s, false }, 512, u"GAME.ZIP 1Kb [ZIP]"_s, u"Game.zip"_s }));
 
 INSTANTIATE_TEST_SUITE_P(Otros, LineaDeInfo,
     testing::Values(CasoDeInfo { 4, { u"GAME"_s, true }, 1024, QString(), QString() },
@@ -183,7 +188,7 @@ TEST(LineaDeInfo, FailsAsATypeMismatch_ForANotedZipWhoseSizeRoundsToNothing)
     for (const int tipo : { 2, 3, 7, 8 }) {
         for (const qint64 largo : { 0, 511 }) {
             EXPECT_EQ(NumeroDeFallo([&] {
-                core::LineaDeInfo(tipo, u"R/"_s, { u"GAME"_s, true }, [&](const QString &) { return largo; });
+                core::LineaDeInfo(tipo, { u"GAME"_s, true }, largo);
             }),
                 host::TypeMismatch)
                 << tipo << ' ' << largo;
@@ -191,16 +196,12 @@ TEST(LineaDeInfo, FailsAsATypeMismatch_ForANotedZipWhoseSizeRoundsToNothing)
     }
 }
 
-TEST_F(Informacion, FailsAsNotFound_WhereTheFileIsGone)
+TEST_F(Informacion, OfAFileThatIsGoneThereIsNoLine)
 {
+    PonNotas({ { u"GONE.ZIP"_s, u"Gone"_s } });
     for (const int tipo : { 0, 2, 3, 5, 7, 8 }) {
-        for (const bool conNota : { true, false }) {
-            EXPECT_EQ(NumeroDeFallo([&] {
-                core::LineaDeInfo(tipo, Ruta(QString()), { u"GONE.ZIP"_s, conNota }, host::fileLength);
-            }),
-                host::FileNotFound)
-                << tipo << conNota;
-        }
+        for (const QString &texto : { u"Gone"_s, u"GONE.ZIP"_s })
+            EXPECT_EQ(LineaDe(tipo, texto), QString()) << tipo;
     }
 }
 
@@ -208,10 +209,9 @@ TEST_F(Informacion, LengthIsFoundByAKeyInUpperCase)
 {
     Pon(u"mario.nes"_s, QByteArray(2048, 'x'));
     Pon(u"Castle.zip"_s, QByteArray(3072, 'x'));
-    EXPECT_EQ(core::LineaDeInfo(0, Ruta(QString()), { u"MARIO.NES"_s, true }, host::fileLength),
-        u"MARIO.NES 2Kb  [NOR]");
-    EXPECT_EQ(core::LineaDeInfo(3, Ruta(QString()), { u"CASTLE"_s, true }, host::fileLength),
-        u"CASTLE.ZIP  3Kb [ZIP]");
+    PonNotas({ { u"MARIO.NES"_s, u"Mario"_s }, { u"CASTLE"_s, u"Castle"_s } });
+    EXPECT_EQ(LineaDe(0, u"Mario"_s), u"MARIO.NES 2Kb  [NOR]");
+    EXPECT_EQ(LineaDe(3, u"Castle"_s), u"CASTLE.ZIP  3Kb [ZIP]");
 }
 
 namespace {

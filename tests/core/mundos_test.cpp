@@ -267,8 +267,9 @@ protected:
         const host::LengthsIn largo(Ruta(directorio));
         NumeroDeFallo([&] {
             core::BuscaROM(M, buscada, [&](const core::FichaDeROM &ficha) {
-                todo.lineas.push_back(
-                    core::LineaDeInfo(mundo.tipo, Ruta(directorio), ficha, largo).toStdU32String());
+                const std::optional<QString> fichero = core::FicheroMedido(mundo.tipo, ficha);
+                const qint64 bytes = fichero ? largo(Ruta(directorio) + *fichero) : 0;
+                todo.lineas.push_back(core::LineaDeInfo(mundo.tipo, ficha, bytes).toStdU32String());
             });
         });
         NumeroDeFallo([&] {

@@ -52,7 +52,7 @@ protected:
 
     static QString Info(int tipo, const core::FichaDeROM &ficha)
     {
-        return core::LineaDeInfo(tipo, u"R/"_s, ficha, [](const QString &) { return 1234567LL * 1024; });
+        return core::LineaDeInfo(tipo, ficha, 1234567LL * 1024);
     }
 
 private:
