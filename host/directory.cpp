@@ -23,15 +23,9 @@ namespace {
 
 using Place = std::pair<dev_t, ino_t>;
 
-constexpr qint64 NanosecondsPerSecond = 1'000'000'000;
 constexpr std::size_t MostReadings = 256;
 
 int readingCount = 0;
-
-qint64 nanoseconds(const timespec &time)
-{
-    return time.tv_sec * NanosecondsPerSecond + time.tv_nsec;
-}
 
 struct Reading {
     qint64 changed; // when anything last changed; not the modification time, which unpackers and copiers set
@@ -242,6 +236,13 @@ void Directory::nameShortForms() const
     for (auto form = m_shortForms.cbegin(); form != m_shortForms.cend(); ++form)
         m_byShortForm.insert(upper(form.value()), form.key());
     m_shortFormsNamed = true;
+}
+
+QByteArray withoutClosing(QByteArray path)
+{
+    while (path.size() > 1 && path.endsWith('/'))
+        path.chop(1);
+    return path;
 }
 
 QByteArray joined(const QByteArray &directory, const QByteArray &name)

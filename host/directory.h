@@ -59,6 +59,9 @@ private:
     mutable std::size_t m_next = 0; // behind the one found last and its equals
 };
 
+// A directory's own entry, also where the path is closed: behind a slash the system would follow a link.
+QByteArray withoutClosing(QByteArray path);
+
 // A path with the slash between that it needs; none behind no directory at all.
 QByteArray joined(const QByteArray &directory, const QByteArray &name);
 

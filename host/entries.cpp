@@ -1,6 +1,7 @@
 // Attributes, lengths, making and deleting.
 #include "host/paths.h"
 
+#include "host/directory.h"
 #include "host/failure.h"
 #include "host/helddirectory.h"
 
@@ -15,14 +16,6 @@ using namespace Qt::StringLiterals;
 namespace host {
 
 namespace {
-
-// A directory's own entry, also where the path is closed: behind a slash the system would follow a link.
-QByteArray withoutClosing(QByteArray path)
-{
-    while (path.size() > 1 && path.endsWith('/'))
-        path.chop(1);
-    return path;
-}
 
 bool isHidden(const QByteArray &path)
 {

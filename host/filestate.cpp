@@ -10,12 +10,12 @@ constexpr qint64 NanosecondsPerSecond = 1'000'000'000;
 constexpr qint64 SureAfter = 20'000'000;
 constexpr qint64 SureAfterCoarse = 4 * NanosecondsPerSecond;
 
+} // namespace
+
 qint64 nanoseconds(const timespec &time)
 {
     return time.tv_sec * NanosecondsPerSecond + time.tv_nsec;
 }
-
-} // namespace
 
 size_t qHash(const FileState &state, size_t seed) noexcept
 {

@@ -24,6 +24,9 @@ size_t qHash(const FileState &state, size_t seed = 0) noexcept;
 // Of a plain file; none where it changed so lately that another change might leave no trace.
 std::optional<FileState> stateOf(const struct stat &status);
 
+// Since the clock's beginning.
+qint64 nanoseconds(const timespec &time);
+
 // False while a further change might leave the same time: the file systems' clocks tick coarsely.
 bool isSettled(const timespec &changed);
 

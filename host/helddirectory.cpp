@@ -17,14 +17,6 @@ namespace host {
 
 namespace {
 
-// A directory's own entry, also where the path is closed: behind a slash the system would follow a link.
-QByteArray withoutClosing(QByteArray path)
-{
-    while (path.size() > 1 && path.endsWith('/'))
-        path.chop(1);
-    return path;
-}
-
 Descriptor openItself(const QString &path)
 {
     const QByteArray found = withoutClosing(findOnDisk(path));
