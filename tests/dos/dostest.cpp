@@ -27,13 +27,7 @@ DosTest::DosTest()
     qputenv("WINEPREFIX", place("wine"));
     makeDirectory("home");
     host::rememberEnvironment();
-    M.Palabras.Zem_Falta0 = u"Missing"_s;
-    M.Palabras.Zem_FaltaDOSBox = u"DOSBox"_s;
-    M.Palabras.Zem_FaltaWine = u"Wine"_s;
-    M.Palabras.Zem_NoDOS0 = u"No"_s;
-    M.Palabras.Zem_NombreDOS = u"Name"_s;
-    M.Palabras.Zem_LargoDOS = u"Length"_s;
-    M.Palabras.Zem_SignoDOS = u"Sign"_s;
+    PonPalabrasDeEncargo();
 }
 
 DosTest::~DosTest()

@@ -24,15 +24,7 @@
         mov di, 81h
         add di, cx
         mov byte [di], 0
-.back:  dec di
-        cmp di, 80h
-        jbe .word
-        cmp byte [di], ' '
-        jne .back
-.word:  inc di
-        mov dx, di
-        mov ax, 3d00h
-        int 21h
+%include "lastword.inc"
         jc wait_key
         mov bx, ax
         mov dx, buffer

@@ -32,15 +32,7 @@
         xor ch, ch
         mov di, 81h
         add di, cx
-.back:  dec di
-        cmp di, 80h
-        jbe .word
-        cmp byte [di], ' '
-        jne .back
-.word:  inc di
-        mov dx, di
-        mov ax, 3d00h
-        int 21h
+%include "lastword.inc"
         jc ended
         mov bx, ax
         mov dx, buffer

@@ -34,13 +34,7 @@ protected:
         qputenv("PATH", place("bin"));
         qputenv("WINEPREFIX", place("wine"));
         host::rememberEnvironment();
-        M.Palabras.Zem_Falta0 = u"Missing"_s;
-        M.Palabras.Zem_FaltaDOSBox = u"DOSBox"_s;
-        M.Palabras.Zem_FaltaWine = u"Wine"_s;
-        M.Palabras.Zem_NoDOS0 = u"No"_s;
-        M.Palabras.Zem_NombreDOS = u"Name"_s;
-        M.Palabras.Zem_LargoDOS = u"Length"_s;
-        M.Palabras.Zem_SignoDOS = u"Sign"_s;
+        PonPalabrasDeEncargo();
         PonEmulador(0);
         M.Cat_EXE(3, 2) = u"EXE="_s + path(u"emu/nes.exe"_s);
         PonROM("mario.nes");

@@ -91,6 +91,9 @@ protected:
     // What the emulator does beside recording: lines of a script; "$OUT" is the directory of the records.
     void HazDuranteElJuego(const QByteArray &lineas) const;
 
+    // Short words for what keeps a program for another system from its start.
+    void PonPalabrasDeEncargo();
+
     void Juega();
 
     bool HuboJuego() const;
