@@ -44,6 +44,14 @@ Registro registroDe(const QString &linea)
     return registro;
 }
 
+// The index of the heading of the parameters, or behind the last line.
+size_t cabeceraDeParametros(const std::vector<core::LineaConFin> &lineas)
+{
+    const auto cabecera = std::ranges::find_if(lineas,
+        [](const core::LineaConFin &linea) { return linea.linea.startsWith(core::CabeceraParametros); });
+    return static_cast<size_t>(cabecera - lineas.begin());
+}
+
 // The names in the directories of games of a system's emulators.
 class Ficheros {
 public:
@@ -83,6 +91,7 @@ public:
         , m_palabras(sesion.palabras)
         , m_lineas(lineas)
         , m_sistemas(sistemas)
+        , m_parametros(cabeceraDeParametros(lineas))
         , m_revision(revision)
     {
     }
@@ -104,6 +113,7 @@ private:
     const Palabras &m_palabras;
     const std::vector<core::LineaConFin> &m_lineas;
     const QStringList m_sistemas; // known ones
+    const size_t m_parametros; // the index of their heading
     Revision &m_revision;
     std::map<QString, Ficheros> m_ficheros;
     QSet<QString> m_anotadas; // keys of the notes, in upper case
@@ -160,7 +170,7 @@ void RevisorDeNotas::Ajenas()
     bool dentro = false;
     for (size_t i = 0; i < m_lineas.size(); ++i) {
         const QString linea = m_lineas[i].linea.toString();
-        if (core::AcabaLosSistemas(m_lineas, i, m_sistemas))
+        if (core::AcabaLosSistemas(m_lineas, i, m_sistemas) || i == m_parametros)
             return;
         const bool cabecera = m_sistemas.contains(linea);
         if (!dentro && !cabecera && !linea.trimmed().isEmpty() && !linea.startsWith(u'\''))
@@ -188,9 +198,7 @@ void RevisorDeNotas::parametrosDe(const QStringList &campos, size_t indice)
 
 void RevisorDeNotas::Parametros()
 {
-    const auto cabecera = std::ranges::find_if(m_lineas,
-        [](const core::LineaConFin &linea) { return linea.linea.startsWith(u"Parametros especificos"); });
-    for (auto i = static_cast<size_t>(cabecera - m_lineas.begin()) + 1; i < m_lineas.size(); ++i) {
+    for (size_t i = m_parametros + 1; i < m_lineas.size(); ++i) {
         const QString linea = m_lineas[i].linea.toString();
         const Registro registro = registroDe(linea);
         if (registro.campos.value(0) == u"'")
@@ -236,7 +244,9 @@ void RevisaNotas(Sesion &sesion, Revision &revision)
     revisor.Ajenas();
     if (std::ranges::none_of(
             lineas, [](const core::LineaConFin &linea) { return linea.linea.startsWith(u'['); }))
-        revision.push_back({ u"missing-mark"_s, Fichero, ultima, {}, sesion.palabras.Zbo_SinMarcaNot });
+        revision.push_back({ u"missing-mark"_s, Fichero,
+            std::min(static_cast<int>(cabeceraDeParametros(lineas)) + 1, ultima), {},
+            sesion.palabras.Zbo_SinMarcaNot });
     revisor.Parametros();
 }
 

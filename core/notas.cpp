@@ -13,7 +13,6 @@ namespace core {
 
 namespace {
 
-constexpr char16_t CabeceraParametros[] = u"Parametros especificos";
 constexpr char16_t InicioParametros[] = u"Parametros";
 
 // In upper case. A description is changed only in a line that begins behind the apostrophe in the code, or in

@@ -18,6 +18,9 @@
 
 namespace core {
 
+// How the heading of the parameter section begins.
+inline constexpr QStringView CabeceraParametros = u"Parametros especificos";
+
 // Loads the notes of a system from index 0 of Nota_Clave (as the file has them) and Nota_Texto; what the
 // tables held behind the last record stays. Returns the number of records. Reads under number 1. Fails with
 // 62 where there is no line that equals the system's name, or no closing apostrophe behind it, and with 9 for

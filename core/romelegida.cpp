@@ -47,7 +47,7 @@ bool SeEncuentranSusParametros(const Modulo &M, const QString &entrada)
 QString ParametrosEscritos(
     host::TextSource &fuente, const QString &clave, const QString &sistema, const QString &emulador)
 {
-    while (!fuente.readLine().startsWith(u"Parametros especificos")) { }
+    while (!fuente.readLine().startsWith(CabeceraParametros)) { }
     for (;;) {
         const QString claveLeida = fuente.readField();
         if (claveLeida == u"'")

@@ -47,5 +47,9 @@ TEST_F(Check, ANoteThatBeginsAsAMarkEndsNothing)
 TEST_F(Check, NotesWithoutTheMarkOfTheirEndAreSaid)
 {
     Cambia(u"Zembro.rom"_s, "[EOF]\r\n", "");
-    EXPECT_THAT(clases(), Contains(u"missing-mark"_s));
+    EXPECT_THAT(clases(), ElementsAre(u"missing-mark"_s));
+    const qsizetype cabecera = Bytes(u"Zembro.rom"_s).split('\n').indexOf("Parametros especificos\r");
+    ASSERT_GE(cabecera, 0);
+    EXPECT_TRUE(dicho().startsWith("Zembro.rom:" + QByteArray::number(cabecera + 1) + ": "))
+        << dicho().toStdString();
 }
