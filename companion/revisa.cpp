@@ -115,8 +115,7 @@ int revisaTodo(Sesion &sesion)
         return sesion.Falla(sesion.palabras.Zbo_NoDir.arg(host::programDirectory()));
     if (!hayCatalogo && !todo)
         return sesion.Falla(sesion.palabras.Zbo_CatalogoMal);
-    if (sistema.isEmpty())
-        revisaFicheros(sesion, revision);
+    revisaFicheros(sesion, revision);
     const std::vector<Pareja> parejas =
         hayCatalogo ? ParejasPedidas(sesion, sistema, sesion.Argumento(1)) : std::vector<Pareja>();
     if (parejas.empty() && !todo)

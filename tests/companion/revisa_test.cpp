@@ -176,6 +176,15 @@ TEST_F(Check, RecordsThatACommaCuts_TwiceTheSameName_AndNotesWithoutAFileAreSaid
     EXPECT_TRUE(todo.contains("Zembro.rom:5: The note GONE.NES has no file any more")) << todo.toStdString();
 }
 
+TEST_F(Check, WhatTheFilesLackIsSaidOfOnePairToo)
+{
+    Cambia(u"Zembro.emu"_s, "roms/\r\nIMG", "roms\r\nIMG");
+    EXPECT_THAT(clases(SisUno), testing::Contains(u"no-closing-separator"_s));
+    Cambia(u"Zembro.emu"_s, "roms\r\nIMG", "roms/\r\nIMG");
+    Cambia(u"Zembro.rom"_s, "Super Mario\"\r\n'\r\n'------\r\n", "Super Mario\"\r\n");
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"block-without-end"_s, u"no-list"_s));
+}
+
 TEST_F(Check, LinesThatNobodyReads_AndNamesThatStandTwiceAreSaid)
 {
     Cambia(u"Zembro.emu"_s, "+Dos\r\n", "EXXE=/x\r\n+uno\r\n");

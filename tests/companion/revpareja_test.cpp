@@ -13,6 +13,8 @@ using testing::IsEmpty;
 
 namespace {
 
+constexpr char SinNotas[] = "Sis\r\n'\r\n[EOF]\r\nParametros especificos\r\n'\r\n";
+
 class CheckPair : public Check {
 protected:
     void PonPrograma(const QByteArray &bytes) const
@@ -86,6 +88,7 @@ TEST_F(CheckPair, BeginningsOfProgramsOfAnyBytesAreLookedAt)
 TEST_F(CheckPair, ATypeThatCannotMeetWhatLiesThereIsSaid)
 {
     Borra(u"img/mario.gif"_s);
+    Pon(u"Zembro.rom"_s, SinNotas);
     Cambia(u"Zembro.emu"_s, "XDI=NO.0", "XDI=NO.1");
     EXPECT_THAT(clases(SisUno), ElementsAre(u"type-and-content"_s));
     EXPECT_TRUE(dicho().contains(
@@ -112,6 +115,7 @@ TEST_F(CheckPair, CapturesAreNotSaidToFitNothing_WhereNothingIsListed)
 TEST_F(CheckPair, ADirectoryThatTheProgramMadeReadyIsNoFinding)
 {
     Borra(u"img/mario.gif"_s);
+    Pon(u"Zembro.rom"_s, SinNotas);
     Pon(u"ready/LEEME.txt"_s, "games go here");
     Cambia(u"Zembro.emu"_s, "roms/\r\nIMG", "ready/\r\nIMG");
     const QByteArray entero = Bytes(u"Zembro.emu"_s);
