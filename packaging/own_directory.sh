@@ -37,7 +37,7 @@ if [ -L "$new" ] || { [ -e "$new" ] && ! { [ -d "$new" ] && [ -z "$(ls -A "$new"
     exit 0
 fi
 
-mkdir -p "$(dirname "$new")"
+mkdir -p "$(dirname "$new")" 2>/dev/null || fail "$(dirname "$new") can't be made: what you have in $old stays there."
 half=$new.moving # a copy, which may have been cut short before
 if [ -e "$half" ]; then
     [ "$(cat "$half/.moving-from" 2>/dev/null)" = "$old" ] || fail "$half is in the way of moving $old to $new."

@@ -2,14 +2,31 @@
 # Makes a program directory, or renews one that is in use: renew.sh PROGRAMS FILES DIRECTORY.
 # PROGRAMS and FILES are directories as delivered. The programs are renewed. So is every other file that is still one of
 # those that were delivered, whose sums stand in .delivered; one that the user has changed, or put a link in the place
-# of, stays. The catalogue is the user's from the beginning: it is written only where there is none, with the
-# demonstration and the emulators of those systems whose directory of games, roms/SYSTEM, holds games already. That
-# directory is made for every system that the machine has an emulator of.
+# of, stays, and a file of the demonstration that he has deleted stays away. The catalogue is the user's from the
+# beginning: it is written only where there is none, with the demonstration and the emulators of those systems whose
+# directory of games, roms/SYSTEM, holds games already. That directory is made for every system that the machine has an
+# emulator of.
 set -euo pipefail
 
 programs=$1
 files=$2
-mkdir -p "$3/LNG" "$3/demo"
+
+# Why a place can't be made or written, in plain words; else what the system said.
+reason() { # path, what the system said
+    local place=$1
+    while [ ! -e "$place" ] && [ ! -L "$place" ]; do
+        place=$(dirname "$place")
+    done
+    if [ ! -d "$place" ]; then
+        echo "$place is no directory."
+    elif [ ! -w "$place" ]; then
+        echo "$place can't be written."
+    else
+        echo "$2"
+    fi >&2
+}
+said=$(mkdir -p "$3" 2>&1) && [ -w "$3" ] || { reason "$3" "$said"; exit 1; }
+said=$(mkdir -p "$3/LNG" 2>&1) || { reason "$3/LNG" "$said"; exit 1; }
 directory=$(cd "$3" && pwd)
 delivered=$directory/.delivered # lines as sha256sum writes them, one for each version of each file
 work=$(mktemp -d)
@@ -69,14 +86,26 @@ fi
 for language in "$files"/LNG/*.LNG; do
     deliver "$language" "LNG/$(basename "$language")"
 done
+# The catalogue as delivered, which comes again where there is none, lists these games.
+deleted() { # name
+    missing "$1" && ! missing Zembro.emu && grep -qxF "$1" < <(cut -c 67- "$delivered")
+}
 for game in "$files"/demo/*; do
-    deliver "$game" "demo/$(basename "$game")"
+    name=demo/$(basename "$game")
+    deleted "$name" && continue
+    mkdir -p "$directory/demo"
+    deliver "$game" "$name"
+done
+# What tells of a directory that goes from place to place.
+for name in LEEME.txt LICENSE; do
+    [ ! -e "$files/$name" ] || deliver "$files/$name" "$name"
 done
 
 missing Zembro.emu || exit 0
 # The catalogue as delivered lists the demonstration games, and needs to know where their emulator is.
 stella=$(command -v stella || true)
 [ -n "$stella" ] || stella=/usr/games/stella
+[ ! -x "$directory/delivered/stella" ] || stella=delivered/stella # what finds it on each machine
 escaped() { printf '%s' "$1" | sed 's/[&\\|]/\\&/g'; }
 sed -e "s|@STELLA@|$(escaped "$stella")|" "$files/Zembro.emu" >"$work/Zembro.emu"
 mkdir -p "$directory/roms/Atari 2600"

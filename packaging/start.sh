@@ -9,7 +9,10 @@ set -uo pipefail
 # What becomes of each launch; zembro why reads it.
 if [ -z "${ZEMBRO_LOG+set}" ]; then
     ZEMBRO_LOG=${XDG_STATE_HOME:-${HOME:-}/.local/state}/zembrolix/log
-    mkdir -p "$(dirname "$ZEMBRO_LOG")" || true
+    if ! mkdir -p "$(dirname "$ZEMBRO_LOG")" 2>/dev/null; then
+        echo "Zembrolix: no line is kept on what is played: $(dirname "$ZEMBRO_LOG") can't be made." >&2
+        ZEMBRO_LOG=
+    fi
     export ZEMBRO_LOG
 fi
 exec "$1/Zembrolix"

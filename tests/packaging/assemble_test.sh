@@ -155,6 +155,24 @@ after=$(sha256sum "$program"/Zembro.{cfg,emu} "$program/LNG/ZB-ESP.LNG" "$progra
 expect Zembro.txt version2 changed
 expect Zembro.sye version2 changed
 
+# A game of the demonstration that he deleted stays away, whatever else is renewed or new, until the catalogue is written anew.
+anew deleted
+rm "$program/demo/GAME.A26"
+run deleted
+make_build version2
+cp "$build/data/demo/games/GAME.A26" "$build/data/demo/games/NEW.A26"
+run deleted
+[ ! -e "$program/demo/GAME.A26" ] || complain "deleted: the game is there again"
+expect demo/NEW.A26 version2 deleted
+expect Zembro.txt version2 deleted
+rm -r "$program/demo"
+run "all deleted"
+[ ! -e "$program/demo" ] || complain "all deleted: the directory is there again"
+rm "$program/Zembro.emu"
+run "new catalogue"
+expect demo/GAME.A26 version2 "new catalogue"
+rm "$build/data/demo/games/NEW.A26"
+
 # The database and the notes are renewed together or not at all.
 for mine in Zembro.rom Zembro.sye; do
     anew pair

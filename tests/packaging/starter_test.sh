@@ -91,7 +91,26 @@ case $said in
 *) complain "check: the terminal gets $said" ;;
 esac
 
-# Where no directory can be made it says so, and starts nothing.
+# Where no directory can be made it says so in plain words, and starts nothing; where only the line on a launch can't be
+# kept, it says that and starts.
+as_user() { # command...
+    if [ "$(id -u)" -eq 0 ]; then setpriv --reuid=65534 --regid=65534 --clear-groups -- "$@"; else "$@"; fi
+}
+chmod 755 "$work"
+chmod -R a+rX "$work/usr"
+mkdir "$work/locked"
+chmod 555 "$work/locked"
+said=$(HOME=$work/locked as_user "$work/usr/games/zembrolix" 2>&1) && complain "locked: it starts"
+[ "$said" = "zembrolix: Its directory can't be made: $work/locked can't be written." ] || complain "locked: it says $said"
+cp -a "$mine" "$work/open"
+chmod -R a+rwX "$work/open"
+said=$(HOME=$work/locked as_user "$work/usr/games/zembrolix" --directory "$work/open" 2>&1) || complain "no log: it doesn't start: $said"
+[ "$said" = "Zembrolix: no line is kept on what is played: $work/locked/.local/state/zembrolix can't be made.
+started $work/open/Zembrolix log " ] || complain "no log: it says $said"
+chmod 555 "$work/open"
+said=$("$sources/packaging/renew.sh" "$work/usr/lib/zembrolix" "$files" "$work/usr/lib/zembrolix/zembro" 2>&1) && complain "a file: it is renewed"
+[ "$said" = "$work/usr/lib/zembrolix/zembro is no directory." ] || complain "a file: it says $said"
+
 rm -rf "$HOME"
 echo >"$HOME"
 start 1
