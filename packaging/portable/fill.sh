@@ -10,7 +10,8 @@ delivered=$program/delivered
 cp -r "$1/share/zembrolix" "$delivered"
 cp "$programs"/{renew,start} "$here/stella" "$delivered"
 cp "$programs"/{BuscaEmuladores,PrimerosAjustes} "$program"
-cp "$here"/{start.sh,LEEME.txt} "$here/../../LICENSE" "$program"
+cp "$here"/start.sh "$program"
+cp "$here"/LEEME.txt "$here/../../LICENSE" "$delivered"
 # A catalogue that is there keeps the emulators of this machine out.
 sed -e 's|@STELLA@|delivered/stella|' "$delivered/Zembro.emu" >"$program/Zembro.emu"
 "$delivered/renew" "$programs" "$delivered" "$program"

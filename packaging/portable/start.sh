@@ -11,16 +11,19 @@ fail() { echo "start.sh: $*" >&2; exit 1; }
 # As one step as can be: never half of a directory.
 exchange() { # name, directory
     rm -rf "$2/.$1.new" "$2/.$1.old"
-    cp -r "$here/$1" "$2/.$1.new" || return 1
+    cp -r "$here/$1" "$2/.$1.new" || { rm -rf "$2/.$1.new"; return 1; }
     [ ! -e "$2/$1" ] || mv "$2/$1" "$2/.$1.old" || return 1
-    mv "$2/.$1.new" "$2/$1" && rm -rf "$2/.$1.old"
+    mv "$2/.$1.new" "$2/$1" || { mv "$2/.$1.old" "$2/$1"; return 1; }
+    rm -rf "$2/.$1.old"
 }
 renew() { # directory
     local part
+    [ -d "$1" ] && [ -x "$1" ] || fail "there is no directory $1 that can be entered."
     [ -x "$1/Zembrolix" ] && [ -f "$1/.delivered" ] || fail "$1 is no directory of the program."
     [ "$(readlink -f "$1")" != "$here" ] || fail "$1 is this one."
+    [ -w "$1" ] || fail "$1 can't be written; it stays as it is."
     for part in lib plugins fonts licenses qt.conf BuscaEmuladores PrimerosAjustes delivered start.sh; do
-        exchange "$part" "$1" || fail "$1 can't be renewed: there is an older $part in it."
+        exchange "$part" "$1" || fail "$part in $1 can't be exchanged for the newer one. Once that is mended, renew it again."
     done
     exec "$delivered/renew" "$here" "$delivered" "$1"
 }
@@ -37,12 +40,15 @@ esac
 
 [ -x "$here/Zembrolix" ] || fail "programs on this medium can't be run; copy the directory elsewhere."
 
-# On a medium that can be written: at the first start the settings get the language of the user.
+# On a medium that can be written: at the first start the settings get the language of the user, and there are directories
+# for the games of the systems that this machine has an emulator of.
 if [ -w "$here" ]; then
     [ -e "$here/Zembro.emu" ] || "$delivered/renew" "$here" "$delivered" "$here" >&2
     if cmp -s "$delivered/first/Zembro.cfg" "$here/Zembro.cfg"; then
         cp "$delivered/Zembro.cfg" "$here/Zembro.cfg"
         "$here/PrimerosAjustes" "$here" "Atari 2600" Stella
+        mkdir -p "$here/roms/Atari 2600"
+        "$here/BuscaEmuladores" "$delivered/emuladores.tsv" "$here" | sed 's/^/Configured /' >&2
     fi
 fi
 exec "$delivered/start" "$here"

@@ -37,9 +37,19 @@ grep -q '^EXE=delivered/stella' "$mine/Zembro.emu" || complain "new: the emulato
 grep -q '^ROM=demo/' "$mine/Zembro.emu" || complain "new: the games aren't its own"
 [ -z "$(ls "$mine/roms" "$mine/copias" 2>/dev/null)" ] || complain "new: it holds something of this machine"
 
+mkdir "$work/machine"
+printf '#!/bin/sh\n' | tee "$work/machine/stella" >"$work/machine/bigpemu"
+chmod +x "$work"/machine/*
+plain=$PATH
+PATH=$work/machine:$PATH
+cp "$mine/Zembro.emu" "$work/catalogue"
 start "$mine" 0
+cmp "$work/catalogue" "$mine/Zembro.emu" || complain "first: the catalogue has changed"
+PATH=$plain
 [ "$said" = "started $mine/Zembrolix, one" ] || complain "first: it says $said"
 [ "$(setting "$mine" LanguageFile)" = ZB-ITA.LNG ] || complain "first: the language: $(cat "$mine/Zembro.cfg")"
+[ -d "$mine/roms/Atari 2600" ] || complain "first: no directory for games"
+[ -s "$mine/roms/Atari 2600/LEEME.txt" ] && [ -s "$mine/roms/Jaguar/LEEME.txt" ] || complain "first: no word in the directories for games"
 before=$(state "$mine")
 LANG=de_DE.UTF-8 start "$mine" 0
 [ "$(state "$mine")" = "$before" ] || complain "again: $(state "$mine" | diff - <(echo "$before"))"
@@ -63,6 +73,8 @@ grep -q 'stella of the path:.*risma' "$work/said" || complain "play: $(cat "$wor
 make_directory "$work/newer" two
 printf "' newer\r\n" >>"$work/newer/delivered/LNG/ZB-FRA.LNG"
 printf "' newer\r\n" >>"$work/newer/delivered/LNG/ZB-DEU.LNG"
+echo newer | tee -a "$work/newer/delivered/LEEME.txt" >>"$work/newer/delivered/LICENSE"
+rm "$mine/demo/prisma.gif"
 printf "' mine\r\n" >>"$mine/LNG/ZB-DEU.LNG"
 echo game >"$mine/demo/mine.bin"
 touch "$mine/lib/older"
@@ -71,6 +83,10 @@ users=$(kept)
 start "$work/newer" 0 --renew "$mine"
 [ "$(kept)" = "$users" ] || complain "renewed: what the user changed is gone"
 grep -q newer "$mine/LNG/ZB-FRA.LNG" || complain "renewed: a language is old"
+for name in LEEME.txt LICENSE; do
+    cmp -s "$work/newer/delivered/$name" "$mine/$name" || complain "renewed: $name is old"
+done
+[ ! -e "$mine/demo/prisma.gif" ] || complain "renewed: what the user deleted is there again"
 [ "$(ls "$mine/lib")" = two ] || complain "renewed: the libraries are $(ls "$mine/lib")"
 [ -z "$(find "$mine" -name '.*.new' -o -name '.*.old')" ] || complain "renewed: something is left over"
 start "$mine" 0
@@ -82,5 +98,18 @@ echo mine >"$work/other/lib"
 start "$work/newer" 1 --renew "$work/other"
 [ "$(ls "$work/other")" = lib ] || complain "other: it has changed"
 start "$work/newer" 1 --renew "$work/newer"
+start "$work/newer" 1 --renew "$work/nowhere"
+[ "$(cat "$work/errors")" = "start.sh: there is no directory $work/nowhere that can be entered." ] || complain "nowhere: $(cat "$work/errors")"
+before=$(state "$mine")
+said=$(
+    chmod 755 "$work"
+    chmod -R a+rX "$work/newer" "$mine"
+    chmod 555 "$mine"
+    [ "$(id -u)" -ne 0 ] || as_user=(setpriv --reuid=65534 --regid=65534 --clear-groups --)
+    "${as_user[@]}" "$work/newer/start.sh" --renew "$mine" 2>&1
+) && complain "locked: it is renewed"
+[ "$said" = "start.sh: $mine can't be written; it stays as it is." ] || complain "locked: it says $said"
+[ "$(state "$mine")" = "$before" ] || complain "locked: it has changed"
+chmod 755 "$mine"
 start "$work/newer" 1 --renew
 exit "$bad"
