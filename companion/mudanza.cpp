@@ -41,6 +41,16 @@ std::optional<QStringView> restoTras(QStringView inicio, QStringView ruta)
     return ruta.sliced(inicio.size());
 }
 
+// What lies below the program's directory is named from there, unless that would be read as another place.
+QString valorDe(const QString &ruta, const QString &directorio)
+{
+    const std::optional<QStringView> resto = restoTras(directorio, ruta);
+    if (!resto || resto->isEmpty())
+        return ruta;
+    const QStringView valor = resto->sliced(1);
+    return core::EsRutaRelativa(valor) ? valor.toString() : ruta;
+}
+
 // The path of a line that holds one.
 std::optional<QStringView> rutaDeLinea(QStringView linea)
 {
@@ -109,7 +119,11 @@ int muda(Sesion &sesion)
     QJsonObject objeto { { u"old"_s, mudanza->viejo }, { u"new"_s, mudanza->nuevo } };
     const int estado = HazCambio(
         sesion, Catalogo,
-        [&](const QString &texto) { return ConRutasMudadas(texto, mudanza->viejo, mudanza->nuevo); }, objeto);
+        [&](const QString &texto) {
+            return ConRutasMudadas(
+                texto, mudanza->viejo, mudanza->nuevo, SinCierre(host::programDirectory()));
+        },
+        objeto);
     if (sesion.EnJson())
         sesion.Json(objeto);
     else if (!objeto[u"changed"_s].toBool())
@@ -138,8 +152,11 @@ QString SinCierre(QString ruta)
     return ruta;
 }
 
-QString ConRutasMudadas(const QString &texto, const QString &viejo, const QString &nuevo)
+QString ConRutasMudadas(
+    const QString &texto, const QString &viejo, const QString &nuevo, const QString &directorio)
 {
+    if (viejo == nuevo)
+        return texto;
     core::Copia copia;
     for (const core::LineaConFin &linea : core::EnLineas(texto)) {
         const std::optional<QStringView> ruta = rutaDeLinea(linea.linea);
@@ -148,7 +165,8 @@ QString ConRutasMudadas(const QString &texto, const QString &viejo, const QStrin
             copia.Copiar(linea);
             continue;
         }
-        const QString nueva = linea.linea.first(core::PrefijoRuta).toString() + nuevo + resto->toString();
+        const QString nueva =
+            linea.linea.first(core::PrefijoRuta).toString() + valorDe(nuevo + resto->toString(), directorio);
         copia.Copiar({ nueva, linea.fin });
     }
     return copia.Texto();

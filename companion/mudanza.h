@@ -14,8 +14,10 @@ const Orden &OrdenMudanza();
 QString SinCierre(QString ruta);
 
 // The text of a catalogue with the leading part of its EXE, ROM and IMG lines changed: whole components of
-// it, either separator for the other. Both parts are without a closing separator. All else stays as it is.
-QString ConRutasMudadas(const QString &texto, const QString &viejo, const QString &nuevo);
+// it, either separator for the other. Both parts, and the program's directory, are without a closing
+// separator. What comes to lie below that directory is named from there. All else stays as it is.
+QString ConRutasMudadas(
+    const QString &texto, const QString &viejo, const QString &nuevo, const QString &directorio);
 
 // Where the program's directory, given without a closing separator, may have been, by the lines that lead
 // elsewhere: what they name isn't there any more, or lies in another directory with a catalogue, and what

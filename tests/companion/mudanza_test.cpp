@@ -53,13 +53,38 @@ TEST(ConRutasMudadas, ChangesWholeComponentsOfTheThreeKindsOfLines)
         { u"WEB1=/a/b/x"_s, u"/a/b"_s, u"WEB1=/a/b/x"_s },
     };
     for (const Caso &caso : casos)
-        EXPECT_EQ(ConRutasMudadas(caso.linea + u"\r\n"_s, caso.viejo, u"/N"_s), caso.mudada + u"\r\n"_s);
+        EXPECT_EQ(ConRutasMudadas(caso.linea + u"\r\n"_s, caso.viejo, u"/N"_s, u"/here"_s),
+            caso.mudada + u"\r\n"_s);
 }
 
 TEST(ConRutasMudadas, KeepsEveryEndOfLine)
 {
-    EXPECT_EQ(ConRutasMudadas(u"ROM=/a/\nEXE=/a/x\r\nIMG=/a"_s, u"/a"_s, u"/b"_s),
+    EXPECT_EQ(ConRutasMudadas(u"ROM=/a/\nEXE=/a/x\r\nIMG=/a"_s, u"/a"_s, u"/b"_s, u"/here"_s),
         u"ROM=/b/\nEXE=/b/x\r\nIMG=/b"_s);
+}
+
+TEST(ConRutasMudadas, NamesWhatLiesBelowTheProgramsDirectoryFromThere)
+{
+    const struct {
+        QString linea;
+        QString nuevo;
+        QString mudada;
+    } casos[] = {
+        { u"ROM=/old/roms/x/"_s, u"/here"_s, u"ROM=roms/x/"_s },
+        { u"ROM=/old/x/"_s, u"/here/roms"_s, u"ROM=roms/x/"_s },
+        { u"ROM=/old\\roms\\"_s, u"/here"_s, u"ROM=roms\\"_s },
+        { u"EXE=/old/x"_s, u"/heres"_s, u"EXE=/heres/x"_s },
+        // The directory itself has no such name, nor has what would be read as another place.
+        { u"ROM=/old/"_s, u"/here"_s, u"ROM=/here/"_s },
+        { u"ROM=/old"_s, u"/here"_s, u"ROM=/here"_s },
+        { u"ROM=/old/C:/x/"_s, u"/here"_s, u"ROM=/here/C:/x/"_s },
+        { u"ROM=/old//x/"_s, u"/here"_s, u"ROM=/here//x/"_s },
+    };
+    for (const auto &caso : casos)
+        EXPECT_EQ(ConRutasMudadas(caso.linea, u"/old"_s, caso.nuevo, u"/here"_s), caso.mudada);
+    // Nothing goes anywhere.
+    EXPECT_EQ(
+        ConRutasMudadas(u"ROM=/here/roms/"_s, u"/here"_s, u"/here"_s, u"/here"_s), u"ROM=/here/roms/"_s);
 }
 
 TEST(LugaresViejos, AreWhereWhatLiesInThisDirectoryHasGoneFrom)
@@ -92,7 +117,7 @@ TEST_F(Move, ShowsWhatItWouldChange_AndChangesNothing)
     const QByteArray base = Ruta(QString()).toUtf8();
     EXPECT_TRUE(respuesta.salida.contains("--- Zembro.emu\n+++ Zembro.emu\n@@ "))
         << respuesta.salida.toStdString();
-    EXPECT_TRUE(respuesta.salida.contains("\n-ROM=" + base + "roms/\n+ROM=" + base + "img/\n"));
+    EXPECT_TRUE(respuesta.salida.contains("\n-ROM=" + base + "roms/\n+ROM=img/\n"));
     EXPECT_EQ(respuesta.salida.count("\n-"), 1);
     EXPECT_EQ(respuesta.salida.count("\n+"), 2);
 }
@@ -101,7 +126,7 @@ TEST_F(Move, WithWriteChangesTheLinesAndNothingElse)
 {
     const QByteArray base = Ruta(QString()).toUtf8();
     QByteArray despues = Bytes(u"Zembro.emu"_s);
-    despues.replace("ROM=" + base + "roms/", "ROM=" + base + "img/");
+    despues.replace("ROM=" + base + "roms/", "ROM=img/");
     const QStringList nombres = Nombres();
     EXPECT_EQ(
         Zembro({ u"move"_s, u"--old"_s, Ruta(u"roms"_s), u"--new"_s, Ruta(u"img"_s), u"--write"_s }).estado,
@@ -112,7 +137,7 @@ TEST_F(Move, WithWriteChangesTheLinesAndNothingElse)
 
 TEST_F(Move, FindsTheOldPlaceOfTheDirectory)
 {
-    const QByteArray bien = Bytes(u"Zembro.emu"_s);
+    const QByteArray bien = Bytes(u"Zembro.emu"_s).replace('=' + Ruta(QString()).toUtf8(), "=");
     MudaDesde("/where/it/was/");
     const QJsonObject oferta = Json({ u"move"_s }, companion::Hallazgos);
     EXPECT_EQ(oferta[u"old"_s].toString(), u"/where/it/was"_s);

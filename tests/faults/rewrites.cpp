@@ -140,7 +140,9 @@ std::vector<Rewrite> ofTheCommandLine()
             { { u"NEW.BIN"_s, u"New"_s }, { u"GAME.BIN"_s, u"Another"_s } }, core::LasQueHay::Cambian)
             .texto;
     };
-    const auto move = [](Text text) { return companion::ConRutasMudadas(text, u"/roms"_s, u"/media/ñ"_s); };
+    const auto move = [](Text text) {
+        return companion::ConRutasMudadas(text, u"/roms"_s, u"/media/ñ"_s, u"/here"_s);
+    };
     return {
         { "mended catalogue", { { Emu, {}, broken }, { Emu, mend, {} } } },
         { "mended notes",

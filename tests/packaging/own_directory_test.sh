@@ -49,7 +49,7 @@ own() { # what a user leaves
 }
 expect_mine() { # directory, situation
     [ "$(cat "$1/roms/Jaguar/Game.j64" 2>&1)" = play ] && grep -q '^mine' "$1/Zembro.cfg" || complain "$2: what the user had isn't there"
-    grep -q "^ROM=$1/roms/Jaguar/" "$1/Zembro.emu" && grep -q "^EXE=$1/arranque/B/bigpemu" "$1/Zembro.emu" ||
+    grep -q "^ROM=roms/Jaguar/" "$1/Zembro.emu" && grep -q "^EXE=arranque/B/bigpemu" "$1/Zembro.emu" ||
         complain "$2: the catalogue leads elsewhere: $(cat "$1/Zembro.emu")"
     [ "$(readlink "$1/arranque/B/roms")" = ../../roms/Jaguar ] || complain "$2: the link leads elsewhere"
     [ "$(readlink "$1/arranque/B/bigpemu")" = "$work/bin/bigpemu" ] || complain "$2: the program's link has changed"
