@@ -3,6 +3,7 @@
 #include "companion/cambio.h"
 #include "companion/conversion.h"
 #include "companion/fotos.h"
+#include "companion/gifs.h"
 #include "companion/plandecapturas.h"
 #include "companion/porque.h"
 
@@ -69,6 +70,17 @@ std::vector<DePareja> lasDe(Sesion &sesion, const std::vector<Pareja> &parejas)
     return todas;
 }
 
+// The GIFs among the captures that are no game's.
+QStringList sueltosDe(Sesion &sesion, const QString &directorio)
+{
+    QStringList nombres;
+    if (const std::optional<GifsDeJuegos> gifs = GifsDe(sesion, host::directoryPath(directorio))) {
+        for (const GifSuelto &suelto : gifs->sueltos)
+            nombres += suelto.nombre;
+    }
+    return nombres;
+}
+
 bool esElMismo(const QString &directorio, const QString &otro)
 {
     return host::exists(otro) && host::directoryPath(directorio) == host::directoryPath(otro);
@@ -76,7 +88,7 @@ bool esElMismo(const QString &directorio, const QString &otro)
 
 // By names: of the directory that is asked for, else of each pair's own captures; of none for the game played
 // last alone.
-void planeaPorNombres(const Sesion &sesion, Encargo &encargo, QSet<QString> &hechas)
+void planeaPorNombres(Sesion &sesion, Encargo &encargo, QSet<QString> &hechas)
 {
     const bool rehace = sesion.Tiene(u"replace"_s);
     QSet<QString> usadas;
@@ -85,13 +97,16 @@ void planeaPorNombres(const Sesion &sesion, Encargo &encargo, QSet<QString> &hec
             continue;
         const QString pedido = sesion.Valor(u"from"_s);
         const QString origen = pedido.isEmpty() ? una.directorio : pedido;
-        const bool suyo = pedido.isEmpty() || esElMismo(pedido, una.directorio);
         const bool mira = !sesion.Tiene(u"last"_s) && host::exists(origen);
-        const QStringList imagenes = mira ? PosiblesImagenes(origen, suyo) : QStringList();
+        const bool suyo = mira && (pedido.isEmpty() || esElMismo(pedido, una.directorio));
+        const std::optional<QStringList> sueltos =
+            suyo ? std::optional(sueltosDe(sesion, origen)) : std::nullopt;
+        const QStringList imagenes = mira ? PosiblesImagenes(origen, sueltos) : QStringList();
         const Plan plan = PlanDeCapturas(una.juegos, origen, imagenes, rehace, hechas);
         // That of the game played last is one of those that are made already.
         una.plan.habia = plan.habia - static_cast<int>(una.plan.nuevas.size());
         una.plan.sinImagen = plan.sinImagen;
+        una.plan.malas = plan.malas;
         una.plan.nuevas.insert(una.plan.nuevas.end(), plan.nuevas.begin(), plan.nuevas.end());
         const QString delante = pedido.isEmpty() ? host::withClosingSeparator(origen) : QString();
         for (const QString &imagen : imagenes) {
@@ -168,13 +183,18 @@ void planeaUltima(Sesion &sesion, Encargo &encargo, QSet<QString> &hechas)
     const std::optional<QString> foto = fotoDe(sesion, *una, *partida, encargo.dichos);
     if (!foto)
         return;
-    if (host::exists(juego->captura) && !sesion.Tiene(u"replace"_s)) {
+    const EstadoDeCaptura estado = EstadoDe(juego->captura);
+    const bool libre = estado == EstadoDeCaptura::Ninguna || SeReemplaza(estado);
+    if (!libre && estado != EstadoDeCaptura::SeVe)
+        return; // it is told of with the others
+    if (!libre && !sesion.Tiene(u"replace"_s)) {
         encargo.dichos += sesion.palabras.Zbo_UltYaHay.arg(partida->entrada, *foto);
         encargo.hayYa = true;
         return;
     }
     hechas += host::upper(juego->captura);
-    una->plan.nuevas.push_back({ partida->entrada, *foto, juego->captura });
+    una->plan.nuevas.push_back(
+        { partida->entrada, *foto, juego->captura, libre && estado != EstadoDeCaptura::Ninguna });
 }
 
 // The picture of the game played last goes ahead of those that fit by their names.
@@ -246,6 +266,8 @@ QJsonObject enJson(const DePareja &una)
         const PorHacer &nueva = una.plan.nuevas[i];
         QJsonObject captura { { u"entry"_s, nueva.entrada }, { u"picture"_s, nueva.imagen },
             { u"capture"_s, nueva.captura } };
+        if (nueva.enSuSitio)
+            captura[u"replaces"_s] = true;
         if (i < una.hechas.size()) {
             captura[u"written"_s] = una.hechas[i].problema.isEmpty();
             if (!una.hechas[i].problema.isEmpty())
@@ -255,9 +277,13 @@ QJsonObject enJson(const DePareja &una)
         }
         capturas += captura;
     }
+    QJsonArray malas;
+    for (const CapturaMala &mala : una.plan.malas)
+        malas += QJsonObject { { u"capture"_s, mala.ruta }, { u"kind"_s, ClaseDe(mala.estado) } };
     QJsonObject objeto { { u"system"_s, una.pareja.nombreSistema },
         { u"emulator"_s, una.pareja.nombreEmulador }, { u"directory"_s, una.directorio },
-        { u"captures"_s, capturas }, { u"kept"_s, una.plan.habia }, { u"without"_s, una.plan.sinImagen } };
+        { u"no_pictures"_s, malas }, { u"captures"_s, capturas }, { u"kept"_s, una.plan.habia },
+        { u"without"_s, una.plan.sinImagen } };
     if (!una.problema.isEmpty())
         objeto[u"problem"_s] = una.problema;
     return objeto;
@@ -276,8 +302,12 @@ void cuenta(const Sesion &sesion, const DePareja &una)
         QStringList columnas { nueva.entrada, nombreEn(nueva.imagen), nombreEn(nueva.captura) };
         if (i < una.hechas.size() && !una.hechas[i].problema.isEmpty())
             columnas += palabraDe(palabras, una.hechas[i]);
+        else if (nueva.enSuSitio)
+            columnas += palabras.Zbo_CapEnSuSitio;
         sesion.EscribeColumnas(columnas);
     }
+    for (const CapturaMala &mala : una.plan.malas)
+        sesion.Escribe(TextoDe(mala.estado, mala.ruta, palabras));
     const bool escrito = sesion.Tiene(u"write"_s);
     const qsizetype nuevas = escrito ? logradas(una) : static_cast<qsizetype>(una.plan.nuevas.size());
     sesion.Escribe((escrito ? palabras.Zbo_CapHechas : palabras.Zbo_CapHaria)
@@ -290,7 +320,8 @@ int responde(const Sesion &sesion, const Encargo &encargo)
     bool bien = !sesion.Tiene(u"last"_s) || encargo.dichos.isEmpty();
     QJsonArray parejas;
     for (const DePareja &una : encargo.parejas) {
-        bien = bien && una.problema.isEmpty() && static_cast<size_t>(logradas(una)) == una.plan.nuevas.size();
+        bien = bien && una.problema.isEmpty() && una.plan.malas.empty()
+            && static_cast<size_t>(logradas(una)) == una.plan.nuevas.size();
         if (sesion.EnJson())
             parejas += enJson(una);
         else

@@ -1,5 +1,6 @@
 #include "companion/mundo.h"
 
+#include "companion/captura.h"
 #include "companion/eleccion.h"
 
 #include "core/catalogo.h"
@@ -177,6 +178,8 @@ QString LectorDeJuegos::capturaDe(const QString &entrada) const
     siSePuede([&] {
         for (const QString &suya : core::CapturasDe(m_notas, entrada, m_tipo, *m_deCapturas)) {
             ruta = m_capturas->trueSpelling(suya);
+            if (!ruta.isEmpty() && EstadoDe(ruta) != EstadoDeCaptura::SeVe)
+                ruta.clear();
             if (ruta.isEmpty())
                 return;
         }

@@ -39,7 +39,7 @@ struct PalabrasDeRevision {
     QString Zbo_NoHayEXE = QStringLiteral("There is no program %1; correct its path in the configuration.");
     QString Zbo_Parecido = QStringLiteral("Perhaps this one is meant: %1");
     QString Zbo_SinPermiso = QStringLiteral("The program %1 can't be run: it lacks the right to (chmod +x).");
-    QString Zbo_OtraMaquina = QStringLiteral("The program %1 is for another processor.");
+    QString Zbo_OtraMaquina = QStringLiteral("The program %1 is for another processor: %2.");
     QString Zbo_NoEsPrograma = QStringLiteral("The file %1 is no program that this machine knows.");
     QString Zbo_SinROMs = QStringLiteral("The machine %1 of MAME lacks ROMs of its own: mame -verifyroms %1");
     QString Zbo_SinTipo =
@@ -52,7 +52,8 @@ struct PalabrasDeRevision {
     QString Zbo_MismaDesc = QStringLiteral("Several games have the description %1; the first one is played.");
     QString Zbo_SinCapturas = QStringLiteral("The captures can't be read: %1");
     QString Zbo_CapturaSola = QStringLiteral("The capture %1 fits no game.");
-    QString Zbo_CapturaMal = QStringLiteral("The capture %1 would be found as %2.");
+    QString Zbo_CapturaMal =
+        QStringLiteral("The capture %1 would be found as %2; rename it, or let captures make one of it.");
     QString Zbo_Cuenta = QStringLiteral(
         "%1 / %2: %3 listed, %4 of another kind, %5 left out by the filters, %6 without a capture.");
     QString Zbo_ParPerdidos = QStringLiteral("The parameters of %1 are never found: its name has blanks or "
@@ -127,6 +128,48 @@ struct PalabrasDeRevision {
                                           "Change the type in the configuration.");
     QString Zbo_FaltaCaptura = QStringLiteral("%1 has no capture; it is looked for as %2");
     QString Zbo_FaltanMas = QStringLiteral("and %1 more; check SYSTEM EMULATOR names them all");
+
+    // What lies among the captures and the games, and isn't what it is taken for.
+    QString Zbo_CapNoMuestra =
+        QStringLiteral("%1 is no picture that the screen shows; remove it, or let captures make it anew.");
+    QString Zbo_CapEnlace = QStringLiteral(
+        "%1 is a link that leads nowhere; correct or remove it, or let captures put a picture there.");
+    QString Zbo_CapNoFich = QStringLiteral("%1 is no file, but a directory or the like, and no capture can "
+                                           "take its place; rename or remove it.");
+    QString Zbo_CapNoLee = QStringLiteral("%1 can't be read; give its owner the right to (chmod u+r).");
+    QString Zbo_CapEnSuSitio = QStringLiteral("in the place of what is no picture");
+    QString Zbo_CapIguales = QStringLiteral(
+        "%1 and %2 differ in case alone, and %3 is the one that shows; rename or remove the other.");
+    QString Zbo_CapSobra = QStringLiteral("The capture %1 never shows, as its game has %2; remove it.");
+    QString Zbo_FichIguales =
+        QStringLiteral("%1 and %2 differ in case alone, and %3 is played for both; rename one of them.");
+    QString Zbo_NoFicheros = QStringLiteral("%1 are no files, but directories, pipes or the like: %2");
+    QString Zbo_NoDirs = QStringLiteral("%1 are no directories: %2");
+    QString Zbo_FalloLeerDir =
+        QStringLiteral("This directory can't be read; the right to may be missing (chmod u+rx)");
+    QString Zbo_FalloNoDir = QStringLiteral("This is no directory");
+    QString Zbo_MendQuedan = QStringLiteral("Findings that have no one answer: %1; check names them.");
+    QString Zbo_SinEXE =
+        QStringLiteral("The path of the program is empty; name the program in the configuration.");
+    QString Zbo_SinCierrePar =
+        QStringLiteral("The section of parameters has no closing apostrophe; --mend puts it there.");
+
+    // Why nothing came of it.
+    QString Zbo_MueveOld = QStringLiteral("--new goes with --old: name the old place too.");
+    QString Zbo_DesNada =
+        QStringLiteral("No game of the system is listed, so there is nothing to describe; check tells why.");
+    QString Zbo_DesLista = QStringLiteral(
+        "Of %1 games %2 have a description already (--replace makes them anew), and %3 aren't in the list.");
+    QString Zbo_DesNombres = QStringLiteral("Of %1 games %2 have a description already (--replace makes them "
+                                            "anew), and the names of %3 give no other one.");
+    QString Zbo_ListaVacia =
+        QStringLiteral("%1 holds no name with a description; it should be a DAT, what mame -listxml says, a "
+                       "gamelist.xml, or lines of name, tab, description.");
+    QString Zbo_NadaRepuesto =
+        QStringLiteral("Nothing was restored, and all files are as they were. What failed: %1");
+    QString Zbo_MedioRepuesto =
+        QStringLiteral("Of the copy %1 these are restored: %2. The others are as they were; the former ones "
+                       "are in the copy %3. What failed: %4");
 };
 
 } // namespace companion

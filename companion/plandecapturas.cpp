@@ -50,12 +50,18 @@ std::vector<JuegoConCaptura> JuegosConCaptura(Sesion &sesion, const Pareja &pare
     return juegos;
 }
 
-QStringList PosiblesImagenes(const QString &directorio, bool sonCapturas)
+Nombrado NombradoDe(const JuegoConCaptura &juego)
+{
+    const QString captura = juego.captura.sliced(host::lastSeparator(juego.captura) + 1);
+    return { juego.fichero, SinTerminacion(captura), juego.descripcion };
+}
+
+QStringList PosiblesImagenes(const QString &directorio, const std::optional<QStringList> &sueltos)
 {
     const QString base = host::withClosingSeparator(directorio);
     QStringList imagenes;
     for (const QString &nombre : host::listFiles(directorio)) {
-        if (sonCapturas && host::fitsPattern(nombre, u"*.gif"_s))
+        if (sueltos && host::fitsPattern(nombre, u"*.gif"_s) && !sueltos->contains(nombre))
             continue;
         if (pareceImagen(nombre) || EsImagen(base + nombre))
             imagenes += nombre;
@@ -67,10 +73,8 @@ Plan PlanDeCapturas(const std::vector<JuegoConCaptura> &juegos, const QString &d
     const QStringList &imagenes, bool rehace, QSet<QString> &hechas)
 {
     std::vector<Nombrado> nombrados;
-    for (const JuegoConCaptura &juego : juegos) {
-        const QString captura = juego.captura.sliced(host::lastSeparator(juego.captura) + 1);
-        nombrados.push_back({ juego.fichero, SinTerminacion(captura), juego.descripcion });
-    }
+    for (const JuegoConCaptura &juego : juegos)
+        nombrados.push_back(NombradoDe(juego));
     const std::vector<std::optional<qsizetype>> encajadas = Encajan(nombrados, imagenes);
     const QString base = host::withClosingSeparator(directorio);
     Plan plan;
@@ -79,15 +83,21 @@ Plan PlanDeCapturas(const std::vector<JuegoConCaptura> &juegos, const QString &d
         if (encajadas[i])
             plan.usadas += imagenes[*encajadas[i]];
         const QString suya = host::upper(juego.captura);
-        const bool existe =
-            !juego.captura.isEmpty() && (hechas.contains(suya) || host::exists(juego.captura));
-        if (existe && (!rehace || !encajadas[i] || hechas.contains(suya))) {
+        const EstadoDeCaptura estado =
+            juego.captura.isEmpty() ? EstadoDeCaptura::Ninguna : EstadoDe(juego.captura);
+        const bool libre = estado == EstadoDeCaptura::Ninguna || SeReemplaza(estado);
+        const bool seHace = encajadas[i] && !juego.captura.isEmpty()
+            && (libre || (rehace && estado == EstadoDeCaptura::SeVe));
+        if (hechas.contains(suya) || (estado == EstadoDeCaptura::SeVe && !seHace)) {
             ++plan.habia;
-        } else if (juego.captura.isEmpty() || !encajadas[i]) {
-            ++plan.sinImagen;
-        } else {
+        } else if (seHace) {
             hechas += suya;
-            plan.nuevas.push_back({ juego.entrada, base + imagenes[*encajadas[i]], juego.captura });
+            plan.nuevas.push_back({ juego.entrada, base + imagenes[*encajadas[i]], juego.captura,
+                estado != EstadoDeCaptura::Ninguna && estado != EstadoDeCaptura::SeVe });
+        } else {
+            ++plan.sinImagen;
+            if (estado != EstadoDeCaptura::Ninguna)
+                plan.malas.push_back({ juego.captura, estado });
         }
     }
     return plan;

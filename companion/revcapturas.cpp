@@ -1,16 +1,12 @@
 // The captures of the pairs that the catalogue configures.
+#include "companion/gifs.h"
 #include "companion/revision.h"
 
 #include "core/catalogo.h"
-#include "core/info.h"
 
-#include "host/letters.h"
 #include "host/paths.h"
 
-#include <QHash>
 #include <QSet>
-
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -18,110 +14,48 @@ namespace companion {
 
 namespace {
 
-// Letters and digits alone, without what stands in brackets.
-QString soloNombre(const QString &nombre)
-{
-    QString resultado;
-    int dentro = 0;
-    for (const QChar letra : host::upper(nombre)) {
-        dentro += letra == u'(' || letra == u'[';
-        if (dentro == 0 && letra.isLetterOrNumber())
-            resultado += letra;
-        dentro -= (letra == u')' || letra == u']') && dentro > 0;
+class RevisorDeCapturas {
+public:
+    RevisorDeCapturas(const Sesion &sesion, const Pareja &pareja, Revision &revision)
+        : m_palabras(sesion.palabras)
+        , m_directorio(DirectorioDeCapturas(sesion.M, pareja))
+        , m_pareja(pareja.nombreSistema + u" / "_s + pareja.nombreEmulador)
+        , m_revision(revision)
+    {
     }
-    return resultado;
-}
 
-QString sinTerminacion(const QString &nombre)
-{
-    const qsizetype punto = nombre.lastIndexOf(u'.');
-    return punto < 0 ? nombre : nombre.first(punto);
-}
-
-// Upper-cased names of the captures of a pair's games; none where they can't be told.
-std::optional<QSet<QString>> capturasDe(Sesion &sesion, const Pareja &pareja)
-{
-    QSet<QString> nombres;
-    try {
-        const core::Modulo &M = sesion.M;
-        for (const QString &entrada : Lista(sesion, pareja).recuento.entradas) {
-            try {
-                for (const QString &ruta :
-                    core::CapturasDe(M, entrada, TipoDe(M, pareja), DirectorioDeCapturas(M, pareja)))
-                    nombres.insert(host::upper(ruta.sliced(host::lastSeparator(ruta) + 1)));
-            } catch (const host::Failure &) {
-                // It has none.
-            }
-        }
-    } catch (const host::Failure &) {
-        return std::nullopt;
+    void Mira(const GifsDeJuegos &gifs)
+    {
+        for (const GifsDeJuegos::Malo &malo : gifs.malos)
+            halla(ClaseDe(malo.estado), malo.nombre, TextoDe(malo.estado, malo.nombre, m_palabras));
+        for (const GifsDeJuegos::Iguales &par : gifs.iguales)
+            halla(u"capture-twice"_s, par.otro, m_palabras.Zbo_CapIguales.arg(par.uno, par.otro, par.seVe));
+        for (const GifSuelto &suelto : gifs.sueltos)
+            Suelto(suelto);
     }
-    return nombres;
-}
 
-QString nombreDe(const Pareja &pareja)
-{
-    return pareja.nombreSistema + u" / "_s + pareja.nombreEmulador;
-}
-
-// The captures of a directory, by what they fit.
-void revisaDirectorio(const Sesion &sesion, const QStringList &nombres, const QSet<QString> &capturas,
-    const Pareja &pareja, Revision &revision)
-{
-    QSet<QString> presentes;
-    for (const QString &nombre : nombres)
-        presentes.insert(host::upper(nombre));
-    QHash<QString, QString> esperadas; // by what they have in common with another spelling
-    for (const QString &nombre : capturas) {
-        if (!presentes.contains(nombre))
-            esperadas.insert(soloNombre(sinTerminacion(nombre)), nombre);
+private:
+    void halla(const QString &clase, const QString &nombre, const QString &dicho)
+    {
+        m_revision.push_back({ clase, m_directorio + nombre, 0, m_pareja, dicho });
     }
-    for (const QString &nombre : nombres) {
-        if (capturas.contains(host::upper(nombre)))
-            continue;
-        const QString otra = esperadas.value(soloNombre(sinTerminacion(nombre)));
-        const QString clase = otra.isEmpty() ? u"capture-without-game"_s : u"capture-spelling"_s;
-        const QString dicho = otra.isEmpty() ? sesion.palabras.Zbo_CapturaSola.arg(nombre)
-                                             : sesion.palabras.Zbo_CapturaMal.arg(nombre, otra);
-        revision.push_back(
-            { clase, DirectorioDeCapturas(sesion.M, pareja) + nombre, 0, nombreDe(pareja), dicho });
+    void Suelto(const GifSuelto &suelto)
+    {
+        if (suelto.captura.isEmpty())
+            halla(u"capture-without-game"_s, suelto.nombre, m_palabras.Zbo_CapturaSola.arg(suelto.nombre));
+        else if (suelto.hace)
+            halla(u"capture-spelling"_s, suelto.nombre,
+                m_palabras.Zbo_CapturaMal.arg(suelto.nombre, suelto.captura));
+        else
+            halla(u"capture-unused"_s, suelto.nombre,
+                m_palabras.Zbo_CapSobra.arg(suelto.nombre, suelto.captura));
     }
-}
 
-// Empty for none.
-QString capturasEnDisco(const core::Modulo &M, const Pareja &pareja)
-{
-    const QString directorio = DirectorioDeCapturas(M, pareja);
-    return directorio.isEmpty() ? QString() : host::directoryPath(directorio);
-}
-
-// Without its separator the directory's name runs into those of the captures.
-bool estaCerrado(const core::Modulo &M, const Pareja &pareja)
-{
-    const QString directorio = DirectorioDeCapturas(M, pareja);
-    return directorio == host::withClosingSeparator(directorio);
-}
-
-// The names of the captures that fit the games of all pairs with this directory; none where they can't be
-// told.
-std::optional<QSet<QString>> capturasDeTodas(Sesion &sesion, const QString &directorio)
-{
-    QSet<QString> capturas;
-    for (const Pareja &otra : Parejas(sesion.M)) {
-        try {
-            if (capturasEnDisco(sesion.M, otra) != directorio)
-                continue;
-        } catch (const host::Failure &) {
-            continue;
-        }
-        const std::optional<QSet<QString>> suyas =
-            estaCerrado(sesion.M, otra) ? capturasDe(sesion, otra) : std::nullopt;
-        if (!suyas)
-            return std::nullopt;
-        capturas += *suyas;
-    }
-    return capturas;
-}
+    const Palabras &m_palabras;
+    const QString m_directorio;
+    const QString m_pareja;
+    Revision &m_revision;
+};
 
 } // namespace
 
@@ -134,17 +68,16 @@ void RevisaCapturas(
         if (suyas.IMG == 0)
             continue; // told of the file
         try {
-            const QString directorio = capturasEnDisco(sesion.M, pareja);
+            const QString directorio = CapturasEnDisco(sesion.M, pareja);
             if (directorio.isEmpty() || vistos.contains(directorio))
                 continue;
             vistos.insert(directorio);
-            const QStringList nombres = host::listFiles(directorio, u"*.gif"_s);
-            const std::optional<QSet<QString>> capturas = capturasDeTodas(sesion, directorio);
             // Where no game is listed, that is what is amiss.
-            if (capturas && !capturas->isEmpty())
-                revisaDirectorio(sesion, nombres, *capturas, pareja, revision);
+            if (const std::optional<GifsDeJuegos> gifs = GifsDe(sesion, directorio))
+                RevisorDeCapturas(sesion, pareja, revision).Mira(*gifs);
         } catch (const host::Failure &fallo) {
-            revision.push_back({ u"no-captures"_s, u"Zembro.emu"_s, suyas.IMG, nombreDe(pareja),
+            revision.push_back({ u"no-captures"_s, u"Zembro.emu"_s, suyas.IMG,
+                pareja.nombreSistema + u" / "_s + pareja.nombreEmulador,
                 sesion.palabras.Zbo_SinCapturas.arg(TextoDe(fallo, sesion.palabras)) });
         }
     }

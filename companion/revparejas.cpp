@@ -65,6 +65,7 @@ private:
     void Juegos(const Listado &listado);
     void NoListados(const QString &directorio);
     void NadaListado(const QString &directorio);
+    void SoloPorMayusculas(const QStringList &nombres, const QString &directorio);
 
     Sesion &m_sesion;
     core::Modulo &M;
@@ -177,21 +178,44 @@ void RevisorDePareja::NoListados(const QString &directorio)
     const core::ExtensionesEnVigor extensiones(M, core::CargaExtensiones(M, m_pareja.sistema));
     const QStringList nombres =
         core::UnDirectorioPorJuego(m_tipo) ? host::listDirectories(directorio) : host::listFiles(directorio);
+    QStringList listados;
     for (qsizetype i = 0; i < nombres.size(); ++i) {
         const QString mayus = host::upper(nombres[i]);
+        bool fuera = false;
         if (core::UnDirectorioPorJuego(m_tipo))
-            cuenta.filtrados += M.Arch_Mayus(static_cast<int>(i)).isEmpty();
+            cuenta.filtrados += fuera = M.Arch_Mayus(static_cast<int>(i)).isEmpty();
         else if (nombres[i] == finder::NombreDeNota && !extensiones.VecesQueEncaja(mayus))
             continue; // the line of text that the program itself puts there
         else if (core::FicherosSueltos(m_tipo))
-            cuenta.otraExtension += extensiones.VecesQueEncaja(mayus) == 0;
+            cuenta.otraExtension += fuera = extensiones.VecesQueEncaja(mayus) == 0;
         else
-            cuenta.otroTipo += !mayus.endsWith(u"ZIP");
+            cuenta.otroTipo += fuera = !mayus.endsWith(u"ZIP");
         if (core::FicherosSueltos(m_tipo) && extensiones.VecesQueEncaja(mayus) > 1)
             hallaEn(u"listed-twice"_s, m_palabras.Zbo_DosVeces.arg(nombres[i]), directorio + nombres[i]);
+        if (!fuera)
+            listados += nombres[i];
     }
+    SoloPorMayusculas(listados, directorio);
     if (cuenta.listados == 0)
         NadaListado(directorio);
+}
+
+// Of these a launch finds one, whichever was chosen.
+void RevisorDePareja::SoloPorMayusculas(const QStringList &nombres, const QString &directorio)
+{
+    QHash<QString, QString> vistos;
+    for (const QString &nombre : nombres) {
+        const QString mayus = host::upper(nombre);
+        if (!vistos.contains(mayus)) {
+            vistos.insert(mayus, nombre);
+            continue;
+        }
+        const QString jugado = host::trueSpelling(directorio + host::lower(nombre));
+        hallaEn(u"names-differ-in-case"_s,
+            m_palabras.Zbo_FichIguales.arg(
+                vistos[mayus], nombre, jugado.sliced(jugado.lastIndexOf(u'/') + 1)),
+            directorio + nombre);
+    }
 }
 
 // Why nothing is: what lies there isn't what the type takes.

@@ -95,7 +95,7 @@ TEST_F(Captures, MakesThem_AndLeavesTheSourcesAndWhatWasThere)
         "Zelda.nes\tZelda.png\tZelda.GIF\n"
         "Sis / Uno: 1 made, 1 there already, 1 games without a picture.\n");
     EXPECT_TRUE(EsGif(u"img/Zelda.GIF"_s));
-    EXPECT_EQ(Bytes(u"img/mario.gif"_s), "GIF89a");
+    EXPECT_EQ(Bytes(u"img/mario.gif"_s), UnGif());
     EXPECT_EQ(Bytes(u"pics/Zelda.png"_s), imagen());
     EXPECT_EQ(
         Zembro({ u"captures"_s, u"Sis"_s, u"Uno"_s, u"--from"_s, Ruta(u"pics"_s) }).estado, companion::Bien);
@@ -140,15 +140,98 @@ TEST_F(Captures, SaysWhyOneCouldNotBeMade_AndMakesTheOthers)
 TEST_F(Captures, WithoutADirectoryTakesWhatLiesAmongTheCaptures)
 {
     Pon(u"img/Zelda.png"_s, imagen());
-    Pon(u"img/Zelda II.gif"_s, "GIF89a");
+    Pon(u"img/Zelda II.gif"_s, UnGif());
     EXPECT_EQ(Zembro({ u"captures"_s, u"Sis"_s, u"Uno"_s, u"--write"_s }).salida,
         "Zelda.nes\tZelda.png\tZelda.GIF\n"
         "Sis / Uno: 1 made, 2 there already, 0 games without a picture.\n");
-    // GIFs of the directory itself are captures, however it is named.
-    Pon(u"img/Sonic the Hedgehog.gif"_s, "GIF89a");
+    // GIFs of the directory itself are captures, however it is named; one that is no game's fits none.
+    Pon(u"img/Sonic the Hedgehog.gif"_s, UnGif());
     EXPECT_EQ(Zembro({ u"captures"_s, u"Sis"_s, u"Dos"_s, u"--from"_s, Ruta(u"img/../img/"_s) }).salida,
         "Sis / Dos: 0 to be made, 0 there already, 1 games without a picture; --write makes them.\n"
-        "Pictures that fit no game: 1.\n");
+        "Pictures that fit no game: 2.\n");
+}
+
+// In the place of Zelda's capture stands what isn't one.
+TEST_F(Captures, WhatIsNoPictureIsNoCapture_AndAPictureTakesItsPlace)
+{
+    Pon(u"pics/Zelda.png"_s, imagen());
+    const QStringList pedido { u"captures"_s, u"Sis"_s, u"Uno"_s, u"--from"_s, Ruta(u"pics"_s) };
+    const QByteArrayList contenidos { "", "no picture but a text of some length", "GIF89a",
+        "\x0a\x05\x01\x08 a PCX, which no screen shows" };
+    for (const QByteArray &contenido : contenidos) {
+        Pon(u"img/zelda.gif"_s, contenido);
+        EXPECT_EQ(Zembro(pedido).salida,
+            "Zelda.nes\tZelda.png\tZelda.GIF\tin the place of what is no picture\n"
+            "Sis / Uno: 1 to be made, 1 there already, 1 games without a picture; --write makes them.\n");
+        EXPECT_EQ(Bytes(u"img/zelda.gif"_s), contenido);
+        EXPECT_EQ(Json(pedido, companion::Hallazgos)[u"pairs"_s][0][u"captures"_s][0][u"replaces"_s], true);
+        EXPECT_EQ(Zembro(pedido + QStringList { u"--write"_s }).estado, companion::Bien);
+        EXPECT_TRUE(EsGif(u"img/zelda.gif"_s));
+        EXPECT_EQ(host::listFiles(Ruta(u"img"_s)).size(), 2);
+    }
+}
+
+TEST_F(Captures, WhatIsNoPictureIsTold_WhereThereIsNoPictureForIt)
+{
+    Pon(u"img/Zelda.gif"_s, "");
+    const QStringList pedido { u"captures"_s, u"Sis"_s, u"Uno"_s };
+    const Respuesta respuesta = Zembro(pedido);
+    EXPECT_EQ(respuesta.estado, companion::Hallazgos);
+    EXPECT_EQ(respuesta.salida,
+        Ruta(u"img/Zelda.GIF"_s).toUtf8()
+            + " is no picture that the screen shows; remove it, or let captures make it anew.\n"
+              "Sis / Uno: 0 to be made, 1 there already, 2 games without a picture; --write makes them.\n");
+    EXPECT_EQ(Json(pedido, companion::Hallazgos)[u"pairs"_s][0][u"no_pictures"_s][0][u"kind"_s],
+        u"capture-no-picture"_s);
+}
+
+TEST_F(Captures, ALinkThatLeadsNowhereGivesItsPlace_ADirectoryNever)
+{
+    Pon(u"pics/Zelda.png"_s, imagen());
+    Pon(u"pics/Zelda II.png"_s, imagen());
+    ASSERT_TRUE(QFile::link(Ruta(u"gone.gif"_s), Ruta(u"img/Zelda.gif"_s)));
+    PonDirectorio(u"img/Zelda II.gif"_s);
+    for (const QStringList &mas :
+        { QStringList {}, { u"--replace"_s }, { u"--write"_s }, { u"--replace"_s, u"--write"_s } }) {
+        const Respuesta respuesta =
+            Zembro(QStringList { u"captures"_s, u"Sis"_s, u"Uno"_s, u"--from"_s, Ruta(u"pics"_s) } + mas);
+        EXPECT_EQ(respuesta.estado, companion::Hallazgos);
+        EXPECT_TRUE(respuesta.salida.contains(
+            Ruta(u"img/Zelda II.GIF"_s).toUtf8() + " is no file, but a directory or the like"))
+            << respuesta.salida.toStdString();
+        EXPECT_EQ(respuesta.salida.contains("Zelda.GIF\tin the place"),
+            mas.value(0) != u"--replace" || mas.size() == 1);
+    }
+    EXPECT_TRUE(EsGif(u"img/Zelda.gif"_s));
+    EXPECT_FALSE(host::exists(Ruta(u"gone.gif"_s)));
+    EXPECT_TRUE(host::listFiles(Ruta(u"img/Zelda II.gif"_s)).isEmpty());
+}
+
+// What check says of a GIF of another spelling is what captures does with it.
+TEST_F(Captures, AGIFOfAnotherSpellingBecomesTheCapture_AsCheckSays)
+{
+    Pon(u"img/ZELDA - ii [a].gif"_s, UnGif());
+    Pon(u"img/mario (Europe).gif"_s, UnGif());
+    const QStringList pedido { u"captures"_s, u"Sis"_s, u"Uno"_s };
+    EXPECT_EQ(Zembro(pedido).salida,
+        "Zelda II.nes\tZELDA - ii [a].gif\tZelda II.GIF\n"
+        "Sis / Uno: 1 to be made, 1 there already, 1 games without a picture; --write makes them.\n");
+    const auto revisado = [&] {
+        QStringList clases;
+        for (const QJsonValue &uno :
+            Json({ u"check"_s, u"Sis"_s, u"Uno"_s }, companion::Hallazgos)[u"findings"_s].toArray())
+            clases += uno[u"kind"_s].toString() + u' ' + uno[u"text"_s].toString();
+        return clases.filter(u"capture"_s);
+    };
+    EXPECT_EQ(revisado(),
+        (QStringList {
+            u"capture-unused The capture mario (Europe).gif never shows, as its game has MARIO.GIF; remove it."_s,
+            u"capture-spelling The capture ZELDA - ii [a].gif would be found as Zelda II.GIF; rename it, or let captures make one of it."_s }));
+    EXPECT_EQ(Zembro(pedido + QStringList { u"--write"_s }).estado, companion::Bien);
+    EXPECT_TRUE(EsGif(u"img/Zelda II.GIF"_s));
+    EXPECT_EQ(Bytes(u"img/ZELDA - ii [a].gif"_s), UnGif());
+    EXPECT_TRUE(
+        revisado().join(u'\n').contains(u"ZELDA - ii [a].gif never shows, as its game has Zelda II.GIF"));
 }
 
 TEST_F(Captures, OfAllEmulatorsOfASystem_EachCaptureOnce)

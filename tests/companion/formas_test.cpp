@@ -118,8 +118,8 @@ TEST_F(Shape, OfEveryAnswerIsAsDocumented)
         { u"check"_s, u"--mend"_s }, { u"find"_s }, { u"move"_s }, { u"save"_s },
         { u"move"_s, u"--old"_s, Ruta(u"roms"_s), u"--write"_s }, { u"restore"_s, u"--list"_s },
         { u"restore"_s }, { u"restore"_s, u"--write"_s }, { u"describe"_s, u"Sis"_s },
-        { u"adopt"_s, Ruta(u"old"_s) }, { u"captures"_s, u"Sis"_s },
-        { u"captures"_s, u"Sis"_s, u"--last"_s }, { u"captures"_s, u"Sis"_s, u"--from"_s, Ruta(u"pics"_s) },
+        { u"adopt"_s, Ruta(u"old"_s) }, { u"captures"_s, u"Sis"_s }, { u"captures"_s, u"Sis"_s, u"--last"_s },
+        { u"captures"_s, u"Sis"_s, u"--from"_s, Ruta(u"pics"_s) },
         { u"captures"_s, u"Sis"_s, u"--from"_s, Ruta(u"pics"_s), u"--write"_s }, { u"export"_s, u"Sis"_s },
         { u"export"_s, u"Sis"_s, u"--to"_s, Ruta(u"x"_s) } };
     for (const QStringList &pedido : pedidos) {

@@ -155,7 +155,7 @@ TEST_F(List, ACaptureThatDoesNotShowIsNotTold)
         return Json({ u"list"_s, u"Sis"_s, u"Uno"_s })[u"pairs"_s][0][u"games"_s][0][u"capture"_s].toString();
     };
     EXPECT_EQ(captura(), QString());
-    Pon(u"img/Zelda.gif"_s, "GIF89a");
+    Pon(u"img/Zelda.gif"_s, UnGif());
     EXPECT_EQ(captura(), Ruta(u"img/Zelda.gif"_s));
     Borra(u"img/mario.gif"_s);
     EXPECT_EQ(captura(), QString());

@@ -49,7 +49,12 @@ MesaConJuegos::MesaConJuegos()
     Pon(u"roms/Zelda II.nes"_s, QByteArray(1024, 'z'));
     Pon(u"roms/other.txt"_s, "no game");
     PonDirectorio(u"dirs/Sonic"_s);
-    Pon(u"img/mario.gif"_s, "GIF89a");
+    Pon(u"img/mario.gif"_s, UnGif());
+}
+
+QByteArray MesaConJuegos::UnGif()
+{
+    return QByteArray::fromBase64("R0lGODlhAQABAIAAAP///wAAACH5BAAAAAAALAAAAAABAAEAAAICRAEAOw==");
 }
 
 void MesaConJuegos::PonGuion(const QString &nombre, const QByteArray &lineas) const

@@ -31,6 +31,9 @@ protected:
     // executable, three games, a description, a capture.
     MesaConJuegos();
 
+    // A picture of one pixel.
+    static QByteArray UnGif();
+
     // An executable of the emulators.
     void PonGuion(const QString &nombre, const QByteArray &lineas) const;
 

@@ -33,7 +33,7 @@ Check::Check()
     for (const companion::ClaveDePalabra &clave : companion::ClavesDePalabras())
         idioma += linea(clave.nombre, palabras.*clave.variable);
     Pon(u"LNG/ZB-ENG.LNG"_s, idioma);
-    Pon(u"img/Sonic.gif"_s, "GIF89a");
+    Pon(u"img/Sonic.gif"_s, UnGif());
 }
 
 QStringList Check::clases(const QStringList &argumentos) const

@@ -198,12 +198,55 @@ TEST_F(Check, LinesThatNobodyReads_AndNamesThatStandTwiceAreSaid)
 
 TEST_F(Check, CapturesOfAnotherSpellingOrOfNoGameAreSaid)
 {
-    Pon(u"img/Zelda II (Europe).gif"_s, "GIF89a");
-    Pon(u"img/Luigi.gif"_s, "GIF89a");
+    Pon(u"img/Zelda II (Europe).gif"_s, UnGif());
+    Pon(u"img/Luigi.gif"_s, UnGif());
     const QByteArray todo = Zembro({ u"check"_s, u"Sis"_s, u"Uno"_s }).salida;
-    EXPECT_TRUE(todo.contains("The capture Zelda II (Europe).gif would be found as ZELDA II.GIF.\n"))
+    EXPECT_TRUE(todo.contains("The capture Zelda II (Europe).gif would be found as Zelda II.GIF; rename it,"))
         << todo.toStdString();
     EXPECT_TRUE(todo.contains("The capture Luigi.gif fits no game.\n")) << todo.toStdString();
+}
+
+TEST_F(Check, WhatStandsForACaptureAndIsNoneIsSaid)
+{
+    Pon(u"img/Zelda.gif"_s, "");
+    PonDirectorio(u"img/ZELDA II.gif"_s);
+    ASSERT_TRUE(QFile::link(Ruta(u"none"_s), Ruta(u"img/Luigi.gif"_s)));
+    PonDirectorio(u"img/other.gif"_s);
+    EXPECT_THAT(
+        clases(), ElementsAre(u"capture-broken-link"_s, u"capture-no-file"_s, u"capture-no-picture"_s));
+    const QByteArray todo = dicho();
+    EXPECT_TRUE(todo.contains(Ruta(u"img/Zelda.gif"_s).toUtf8()
+        + ": Sis / Dos: Zelda.gif is no picture that the screen shows; remove it, or let captures make it "
+          "anew.\n"))
+        << todo.toStdString();
+    EXPECT_TRUE(todo.contains(
+        "Sis / Uno: 3 listed, 1 of another kind, 0 left out by the filters, 2 without a capture."));
+}
+
+TEST_F(Check, CapturesThatDifferInCaseAloneAreSaidBoth)
+{
+    Pon(u"img/Mario.GIF"_s, UnGif());
+    EXPECT_THAT(clases(), ElementsAre(u"capture-twice"_s));
+    EXPECT_TRUE(
+        dicho().contains("Mario.GIF and mario.gif differ in case alone, and Mario.GIF is the one that shows"))
+        << dicho().toStdString();
+    // That of a note in upper case, where it is there.
+    Pon(u"img/MARIO.GIF"_s, UnGif());
+    EXPECT_THAT(clases(), ElementsAre(u"capture-twice"_s, u"capture-twice"_s));
+    EXPECT_TRUE(dicho().contains("MARIO.GIF and mario.gif differ in case alone, and MARIO.GIF is the one"));
+}
+
+TEST_F(Check, GamesThatDifferInCaseAloneAreSaidBoth)
+{
+    Pon(u"roms/ZELDA.nes"_s, "x");
+    Pon(u"img/Zelda.gif"_s, UnGif());
+    EXPECT_THAT(clases(), ElementsAre(u"names-differ-in-case"_s));
+    const QString jugado =
+        Json({ u"command"_s, u"Sis"_s, u"Uno"_s, u"Zelda.nes"_s })[u"arguments"_s][2].toString();
+    EXPECT_TRUE(dicho().contains("ZELDA.nes and Zelda.nes differ in case alone, and "
+        + jugado.sliced(jugado.lastIndexOf(u'/') + 1).toUtf8()
+        + " is played for both; rename one of them.\n"))
+        << dicho().toStdString();
 }
 
 TEST_F(Check, ParametersThatNoLaunchFindsAreSaid)

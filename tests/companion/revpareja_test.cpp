@@ -141,7 +141,7 @@ TEST_F(CheckPair, OfManyGamesWithoutACaptureAFewAreNamed_AndAllOfAPairThatIsAske
 TEST_F(CheckPair, EveryFindingNamesItsFile)
 {
     PonPrograma("#!/no/such\n");
-    Pon(u"img/Luigi.gif"_s, "GIF89a");
+    Pon(u"img/Luigi.gif"_s, UnGif());
     Cambia(u"Zembro.emu"_s, "*.NES", "*.NES\r\n*.ES");
     Cambia(u"Zembro.emu"_s, "XDI=NO.1", "XDI=NO.9");
     Cambia(u"Zembro.rom"_s, "Mario\"\r\n", "Mario\"\r\nZELDA.NES,\"Super Mario\"\r\n");
