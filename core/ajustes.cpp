@@ -145,7 +145,10 @@ void LeeAjustes(Modulo &M)
         (M.*(ajuste.variable)).clear();
     const QString fichero = host::programFile(u"Zembro.cfg"_s);
     LeeFichero(fichero, [&] {
-        M.Ficheros.openForInput(1, fichero);
+        if (M.AjustesSinGrabar.isEmpty())
+            M.Ficheros.openForInput(1, fichero);
+        else
+            M.Ficheros.openText(1, fichero, M.AjustesSinGrabar);
         leeLineas(M);
         M.Ficheros.close(1);
         for (const LineaDeAjuste &ajuste : LineasDeAjustes)

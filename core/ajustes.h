@@ -14,8 +14,9 @@ inline const QString MarcaVacio = QStringLiteral("VACIO");
 // True if a field of Zembro.cfg is the first-run mark. Fails with 62 for an empty file. Reads under number 1.
 bool EsPrimeraVez(Modulo &M);
 
-// Reads Zembro.cfg under number 1 into the settings. Fails with 62 for an empty file, 5 for a setting without
-// a value and for a list of filters that is empty, 9 for one that fills the table.
+// Reads Zembro.cfg, or what a first run couldn't write into it, under number 1 into the settings. Fails with
+// 62 for an empty file, 5 for a setting without a value and for a list of filters that is empty, 9 for one
+// that fills the table.
 void LeeAjustes(Modulo &M);
 
 // What stands behind the last "=" of a line and one character more. Fails with 5 where nothing does.

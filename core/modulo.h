@@ -121,6 +121,7 @@ struct Modulo : TextosIdioma {
     Tabla<QString> ListaLNG { MaxIdiomas };
     core::Palabras Palabras; // of the language, as its file gives them or as they are built in
 
+    QString AjustesSinGrabar; // those of a first run where nothing can be written, in the place of Zembro.cfg
     bool SoloLecturaDicha = false; // the user knows that nothing can be kept in this directory
 
     // Answers of the message box.

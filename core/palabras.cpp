@@ -29,6 +29,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zem_Cambiado1", &P::Zem_Cambiado1 },
         { u"Zem_SoloLeer0", &P::Zem_SoloLeer0 },
         { u"Zem_SoloLeer1", &P::Zem_SoloLeer1 },
+        { u"Zem_SoloIdioma1", &P::Zem_SoloIdioma1 },
         { u"Zem_SoloFin1", &P::Zem_SoloFin1 },
         { u"Zem_SoloCapt1", &P::Zem_SoloCapt1 },
         { u"Zem_NoZip0", &P::Zem_NoZip0 },

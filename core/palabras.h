@@ -44,6 +44,7 @@ struct Palabras {
     // What can't be kept, as it lies where nothing can be written.
     QString Zem_SoloLeer0 = QStringLiteral("Sin grabar");
     QString Zem_SoloLeer1 = QStringLiteral("No se puede escribir en el directorio del programa.");
+    QString Zem_SoloIdioma1 = QStringLiteral("No se puede escribir aquí: el idioma no se recuerda.");
     QString Zem_SoloFin1 = QStringLiteral("No se puede escribir aquí: la selección no se recuerda.");
     QString Zem_SoloCapt1 = QStringLiteral("No se puede escribir en el directorio de las capturas.");
 

@@ -33,9 +33,14 @@ template <typename Operation> auto namingTheFile(const QString &path, Operation 
 
 void NumberedFiles::openForInput(int number, const QString &path)
 {
-    if (isOpen(number))
-        throw Failure(FileAlreadyOpen, u"open a file under number %1, which is in use"_s.arg(number), path);
+    mustBeFree(number, path);
     m_open.emplace(number, OpenFile { path, TextSource(decodeText(readBytes(path)).text) });
+}
+
+void NumberedFiles::openText(int number, const QString &path, const QString &text)
+{
+    mustBeFree(number, path);
+    m_open.emplace(number, OpenFile { path, TextSource(text) });
 }
 
 QString NumberedFiles::readLine(int number)
@@ -96,6 +101,12 @@ void NumberedFiles::replace(const QString &path, const QString &scratchName, con
     const std::optional<QByteArray> old = replacement.read();
     takeNumbers(path);
     finish(replacement, { text, old ? decodeText(*old).encoding : Encoding::Windows1252, false });
+}
+
+void NumberedFiles::mustBeFree(int number, const QString &path) const
+{
+    if (isOpen(number))
+        throw Failure(FileAlreadyOpen, u"open a file under number %1, which is in use"_s.arg(number), path);
 }
 
 void NumberedFiles::mustBeFree(const QString &path) const

@@ -23,6 +23,9 @@ public:
     // if it can't be read. The text is read whole; the file itself is never changed by reading.
     void openForInput(int number, const QString &path);
 
+    // The same of a text that stands for the file. Fails with 55.
+    void openText(int number, const QString &path, const QString &text);
+
     // Fail with 52 if the number isn't open, 62 at the end of the text.
     QString readLine(int number);
     QString readField(int number);
@@ -55,7 +58,8 @@ private:
         TextSource source;
     };
     OpenFile &open(int number, const char *operation);
-    void mustBeFree(const QString &path) const;
+    void mustBeFree(int number, const QString &path) const;
+    void mustBeFree(const QString &path) const; // both numbers of a rewrite
     void takeNumbers(const QString &path);
     void finish(Replacement &replacement, const DecodedText &text);
 

@@ -45,6 +45,8 @@ void Portada::Carga()
     Llena_Lista();
     LLena_INFO();
     MuestraEstado();
+    if (!M.AjustesSinGrabar.isEmpty())
+        AvisaDeSoloLectura(M, *this, M.Palabras.Zem_SoloIdioma1);
 }
 
 void Portada::LeeConfiguracion()

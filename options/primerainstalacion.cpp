@@ -79,8 +79,12 @@ void PrimeraInstalacion::Aceptar2_Press()
     if (List1->ListCount() == 0 && host::exists(host::programFile(u"LNG"_s)))
         throw host::Failure(
             host::FileNotFound, u"find a language file that can be chosen"_s, host::programFile(u"LNG/"_s));
-    M.Ficheros.replace(
-        host::programFile(u"Zembro.cfg"_s), u"Zembro.tmp"_s, core::AjustesPorDefecto(List1->Text()));
+    const QString ajustes = core::AjustesPorDefecto(List1->Text());
+    try {
+        M.Ficheros.replace(host::programFile(u"Zembro.cfg"_s), u"Zembro.tmp"_s, ajustes);
+    } catch (const host::ReadOnlyPlace &) {
+        M.AjustesSinGrabar = ajustes; // the main screen tells so, in the language chosen
+    }
 }
 
 void PrimeraInstalacion::Aceptar2_Release()

@@ -364,12 +364,38 @@ TEST_F(PrimerArranqueTest, FirstSystemAndItsFirstEmulatorComeUp)
     EXPECT_THAT(listed(), ElementsAre(u"a.bin"_s));
 }
 
-TEST_F(PrimerArranqueTest, DirectoryThatCannotBeWrittenEndsTheFirstRunAndKeepsItsMark)
+TEST_F(PrimerArranqueTest, InADirectoryThatCannotBeWrittenTheLanguageHolds_AndIsToldNotToBeKept)
+{
+    QStringList told;
+    atModal(u"PrimeraInstalacion"_s, [this](forms::Form &form) {
+        clickRow(controlOf<forms::ListBox>(form, u"List1"_s), 0);
+        const AsOrdinaryUser user(files.path());
+        click(controlOf<QWidget>(form, u"Aceptar2"_s));
+    });
+    atModal(u"Caja"_s, [this, &told](forms::Form &form) {
+        EXPECT_TRUE(portada->isVisible());
+        told << form.Caption() << controlOf<forms::Label>(form, u"Texto2"_s).Caption();
+        click(controlOf<QWidget>(form, u"Flecha2"_s));
+    });
+    start();
+    EXPECT_THAT(told,
+        ElementsAre(M->Palabras.Zem_SoloLeer0, u"No se puede escribir aquí: el idioma no se recuerda."_s));
+    EXPECT_EQ(M->LanguageFile, u"ZB-ENG.LNG"_s);
+    EXPECT_EQ(info(), u"No ROM"_s);
+    EXPECT_EQ(M->Filtros(18), u"ZIPSAMPL"_s);
+    EXPECT_TRUE(M->SoloLecturaDicha);
+    EXPECT_EQ(files.read(u"Zembro.cfg"_s), QByteArray("VACIO\r\n"));
+    EXPECT_FALSE(files.exists(u"Zembro.tmp"_s));
+}
+
+// Not all that keeps from writing is the directory.
+TEST_F(PrimerArranqueTest, SettingsThatAloneCannotBeWrittenEndTheFirstRunAndKeepItsMark)
 {
     atModal(u"PrimeraInstalacion"_s, [this](forms::Form &form) {
         std::optional<ProcessEnd> end;
         {
-            const AsOrdinaryUser user(files.path());
+            EXPECT_EQ(chmod(files.path(u"Zembro.cfg"_s).toUtf8().constData(), 0444), 0);
+            const AsOrdinaryUser user(files.path(), 0777);
             // Not by the mouse, whose delivery the end of the process would leave half done.
             end = endOf([&] { controlOf<forms::PictureButton>(form, u"Aceptar2"_s).Press.raise(); });
         }
