@@ -106,14 +106,10 @@ QStringList bibliotecasQueFaltan(const QString &cargador, const QString &program
     return faltan;
 }
 
+// With a closing separator only a directory is found.
 bool esDirectorio(const QString &ruta)
 {
-    try {
-        host::directoryPath(ruta);
-        return true;
-    } catch (const host::Failure &) {
-        return false;
-    }
+    return host::exists(host::withClosingSeparator(ruta));
 }
 
 } // namespace

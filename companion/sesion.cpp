@@ -2,11 +2,15 @@
 
 #include "companion/imprimible.h"
 
+#include "host/paths.h"
 #include "host/replacement.h"
 
 #include <QJsonArray>
 
 #include <utility>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -73,6 +77,39 @@ int Sesion::Falla(const QStringList &lineas) const
     return NoPudo;
 }
 
+namespace {
+
+// With a closing separator only a directory is found.
+bool esDirectorio(const QString &ruta)
+{
+    return host::exists(host::withClosingSeparator(ruta));
+}
+
+bool sePuedeEntrar(const QString &directorio)
+{
+    return faccessat(AT_FDCWD, host::findOnDisk(directorio).constData(), X_OK, AT_EACCESS) == 0;
+}
+
+// A directory that wasn't found, or that couldn't be listed: what is behind one that can't be entered isn't
+// found either.
+QString textoDeDirectorio(QString ruta, const Palabras &palabras)
+{
+    while (ruta.size() > 1 && host::withClosingSeparator(ruta) == ruta)
+        ruta.chop(1);
+    if (esDirectorio(ruta))
+        return palabras.Zbo_FalloLeerDir + u": "_s + ruta;
+    if (host::exists(ruta))
+        return palabras.Zbo_FalloNoDir + u": "_s + ruta;
+    QString encima = ruta;
+    for (qsizetype corte = 0; (corte = host::lastSeparator(encima)) > 0 && !host::exists(encima);)
+        encima.truncate(corte);
+    if (esDirectorio(encima) && !sePuedeEntrar(encima))
+        return palabras.Zbo_FalloLeerDir + u": "_s + encima;
+    return palabras.Zbo_FalloDir + u": "_s + ruta;
+}
+
+} // namespace
+
 QString TextoDe(const host::Failure &fallo, const Palabras &palabras)
 {
     static const QHash<int, QString Palabras::*> clases {
@@ -92,6 +129,8 @@ QString TextoDe(const host::Failure &fallo, const Palabras &palabras)
     if (fallo.operation().endsWith(host::KeptLocked))
         return palabras.Zbo_FalloLlave + u": "_s + fallo.about();
     const auto clase = clases.constFind(fallo.number());
+    if (fallo.number() == host::PathNotFound && !fallo.about().isEmpty())
+        return textoDeDirectorio(fallo.about(), palabras);
     const QString &texto = clase == clases.constEnd() ? palabras.Zbo_Fallo : palabras.*clase.value();
     return fallo.about().isEmpty() ? texto + u'.' : texto + u": "_s + fallo.about();
 }

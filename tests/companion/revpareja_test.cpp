@@ -7,6 +7,9 @@
 #include <QFile>
 #include <QJsonArray>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -158,12 +161,44 @@ TEST_F(CheckPair, EveryFindingNamesItsFile)
         << dicho().toStdString();
 }
 
+TEST_F(CheckPair, ADirectoryThatCannotBeReadIsToldFromOneThatIsNotThere)
+{
+    PonDirectorio(u"closed/inner"_s);
+    PonDirectorio(u"listed"_s);
+    Pon(u"afile"_s, "x");
+    // The administrator may read all.
+    const bool administrador = geteuid() == 0;
+    ASSERT_EQ(chmod(Ruta(QString()).toUtf8().constData(), 0755), 0);
+    ASSERT_EQ(chmod(Ruta(u"closed"_s).toUtf8().constData(), 0), 0);
+    ASSERT_EQ(chmod(Ruta(u"listed"_s).toUtf8().constData(), 0311), 0);
+    const QByteArray entero = Bytes(u"Zembro.emu"_s);
+    const auto dichos = [&](const QByteArray &directorio) {
+        Pon(u"Zembro.emu"_s,
+            QByteArray(entero).replace("ROM=" + Ruta(u"roms/"_s).toUtf8(), "ROM=" + directorio));
+        constexpr uid_t nadie = 65534;
+        EXPECT_TRUE(!administrador || seteuid(nadie) == 0);
+        const QByteArray todo = dicho() + Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"x"_s }).error;
+        EXPECT_TRUE(!administrador || seteuid(0) == 0);
+        return todo;
+    };
+    const QByteArray base = Ruta(QString()).toUtf8();
+    const QByteArray sinDerecho =
+        "This directory can't be read; the right to may be missing (chmod u+rx): " + base;
+    for (const QByteArray &cual : QByteArrayList { "listed/", "closed/" })
+        EXPECT_EQ(dichos(base + cual).count(sinDerecho + cual.chopped(1) + '\n'), 2)
+            << cual.toStdString() << dichos(base + cual).toStdString();
+    EXPECT_EQ(dichos(base + "closed/inner/").count(sinDerecho + "closed\n"), 2);
+    EXPECT_EQ(dichos(base + "afile/").count("This is no directory: " + base + "afile\n"), 2);
+    EXPECT_EQ(dichos(base + "gone/a/").count("There is no such directory: " + base + "gone/a\n"), 2);
+    chmod(Ruta(u"closed"_s).toUtf8().constData(), 0700);
+}
+
 TEST_F(CheckPair, WhatFailsIsSaidInTheLanguageOfTheSettings)
 {
     Pon(u"LNG/ZB-ESP.LNG"_s,
         Bytes(u"LNG/ZB-ENG.LNG"_s).replace("There is no such directory", "No existe este directorio"));
     PonAjustes(u"ZB-ESP.LNG"_s);
     Cambia(u"Zembro.emu"_s, "roms/\r\n", "gone/\r\n");
-    EXPECT_TRUE(dicho().contains("No existe este directorio: " + Ruta(u"gone/"_s).toUtf8()))
+    EXPECT_TRUE(dicho().contains("No existe este directorio: " + Ruta(u"gone"_s).toUtf8()))
         << dicho().toStdString();
 }
