@@ -66,17 +66,21 @@ int hazJugada(Sesion &sesion)
     if (!pedida)
         return NoPudo;
     const PreguntasDeTexto preguntas(sesion);
+    host::CaughtSignals senales;
     PantallaDeTexto pantalla(sesion, pedida->pareja, pedida->entradas, pedida->entrada);
+    pantalla.Entrega(senales);
     launch::Partida partida = juega(sesion, pantalla);
     if (partida.argumentos.isEmpty() && partida.fallo.isEmpty())
         partida.fallo = sesion.palabras.Zbo_NadaSeLanza;
     if (sesion.EnJson()) {
         sesion.Json(PartidaEnJson(partida, sesion.palabras));
-    } else if (!AcaboBien(partida)) {
-        for (const QString &linea : CuentaPartida(partida, sesion.palabras))
+    } else {
+        // Of a good end the last line: that, and after how long.
+        const QStringList lineas = CuentaPartida(partida, sesion.palabras);
+        for (const QString &linea : AcaboBien(partida) ? lineas.last(1) : lineas)
             sesion.Avisa(linea);
     }
-    return estadoDe(partida);
+    return pantalla.Entregada() ? SobreSenal + *pantalla.Entregada() : estadoDe(partida);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <poll.h>
 
+#include <iterator>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -16,10 +17,16 @@ PantallaDeTexto::PantallaDeTexto(const Sesion &sesion, Pareja pareja, int entrad
 {
 }
 
+// No time to wait: it has ended, and its number may be another's by now.
 void PantallaDeTexto::Cede(int descriptor, int milisegundos)
 {
-    pollfd fin { descriptor, POLLIN, 0 };
-    poll(&fin, 1, milisegundos);
+    pollfd fin[] { { descriptor, POLLIN, 0 }, { m_senales ? m_senales->descriptor() : -1, POLLIN, 0 } };
+    poll(fin, std::size(fin), milisegundos);
+    while (const std::optional<int> senal = m_senales ? m_senales->take() : std::nullopt) {
+        m_entregada = senal;
+        if (milisegundos > 0)
+            host::signalSession(m_emulador, *senal);
+    }
 }
 
 void PantallaDeTexto::Aviso(const QString &titulo, const QString &texto)

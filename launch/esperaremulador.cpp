@@ -2,6 +2,8 @@
 
 #include "launch/ritmo.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace launch {
@@ -29,8 +31,10 @@ host::ProcessEnd EsperarEmulador(core::Modulo &M, Pantalla &pantalla, const Line
 
 host::ProcessEnd EsperarEmulador(core::Modulo &M, Pantalla &pantalla, const QStringList &argumentos)
 {
+    host::Process proceso = host::Process::start(argumentos);
+    pantalla.EnMarcha(proceso.id());
     return Vigila(
-        M, host::Process::start(argumentos),
+        M, std::move(proceso),
         [&pantalla](int descriptor, int milisegundos) { pantalla.Cede(descriptor, milisegundos); },
         [&pantalla] {
             pantalla.InfoEnNegro();

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <sys/types.h>
+
 namespace launch {
 
 class Pantalla {
@@ -29,6 +31,9 @@ public:
     // the focus.
     virtual void SeleccionaEnLista1(const QString &texto) = 0;
     virtual void EnfocaLista1() = 0;
+
+    // The emulator has been started, as the leader of a session of its own.
+    virtual void EnMarcha(pid_t) { }
 
     // Lets the event loop run until something happened there, the descriptor (-1: none) is readable, or the
     // time in milliseconds is over.

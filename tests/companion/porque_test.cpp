@@ -1,6 +1,8 @@
 // zembro why, and zembro play.
 #include "mesadepruebas.h"
 
+#include "tests/launch/zipdeprueba.h"
+
 #include "host/aside.h"
 #include "host/paths.h"
 
@@ -10,7 +12,10 @@
 #include <QJsonDocument>
 #include <QProcess>
 
+#include <functional>
 #include <memory>
+
+#include <signal.h>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -38,6 +43,13 @@ protected:
 const QByteArray Empieza = "zembrolix 2026-01-02T03:04:05 7.1 game Sis Uno 'Super Mario'\n"
                            "zembrolix 2026-01-02T03:04:05 7.1 start /emu/uno.sh '/roms/a b.nes'\n"
                            "zembrolix 2026-01-02T03:04:05 7.1 directory /emu\n";
+
+bool EsperaA(const std::function<bool()> &llega)
+{
+    for (int pasos = 0; pasos < 1000 && !llega(); ++pasos)
+        usleep(10'000);
+    return llega();
+}
 
 } // namespace
 
@@ -148,11 +160,49 @@ TEST_F(Play, StartsTheGame_AndEndsWithItsStatus)
     EXPECT_FALSE(QFile::exists(Ruta(u"log"_s))); // which tells of the main program
 }
 
-TEST_F(Play, AGoodEndIsSilent)
+TEST_F(Play, AGoodEndIsSaidInOneLine)
 {
     const Respuesta respuesta = Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"Zelda.nes"_s });
     EXPECT_EQ(respuesta.estado, 0);
-    EXPECT_EQ(respuesta.error + respuesta.salida, "");
+    EXPECT_EQ(respuesta.salida, "");
+    EXPECT_TRUE(respuesta.error.startsWith("zembro: The emulator ended with the status 0 after 0."));
+    EXPECT_EQ(respuesta.error.count('\n'), 1) << respuesta.error.toStdString();
+}
+
+// Of the program itself, whose emulator is asked to end with it.
+TEST_F(Play, ASignalIsHandedOn_AndWhatWasUnpackedIsRemoved)
+{
+    PonDirectorio(u"tmp"_s);
+    ASSERT_EQ(chmod(Ruta(u"tmp"_s).toUtf8().constData(), 0700), 0);
+    Pon(u"roms/Packed.zip"_s, Zip({ { .nombre = "Packed.nes" } }));
+    // A starter that doesn't make way for the emulator.
+    PonGuion(u"emu/uno.sh"_s,
+        "echo \"$2\" >\"$0.file\"\nsh -c 'echo $$ >\"$0\"; exec sleep 60' \"$0.pid\"\nexit 3\n");
+    Cambia(u"Zembro.emu"_s, "*.NES", "*.ZIP\r\n*.NES");
+    for (const int senal : { SIGTERM, SIGINT, SIGHUP }) {
+        QFile::remove(Ruta(u"emu/uno.sh.pid"_s));
+        QProcess proceso;
+        QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
+        entorno.insert(u"TMPDIR"_s, Ruta(u"tmp"_s));
+        proceso.setProcessEnvironment(entorno);
+        proceso.start(QStringLiteral(ZEMBRO),
+            { u"play"_s, u"Sis"_s, u"Uno"_s, u"Packed"_s, u"--directory"_s, Ruta(QString()) });
+        ASSERT_TRUE(EsperaA([&] {
+            return QFile::exists(Ruta(u"emu/uno.sh.pid"_s)) && Bytes(u"emu/uno.sh.pid"_s).endsWith('\n');
+        }));
+        const QString desempaquetado = QString::fromUtf8(Bytes(u"emu/uno.sh.file"_s).trimmed());
+        EXPECT_TRUE(QFile::exists(desempaquetado)) << desempaquetado.toStdString();
+        const pid_t emulador = Bytes(u"emu/uno.sh.pid"_s).trimmed().toInt();
+        ASSERT_GT(emulador, 1);
+        ASSERT_GT(proceso.processId(), 1);
+        ASSERT_EQ(kill(pid_t(proceso.processId()), senal), 0);
+        ASSERT_TRUE(proceso.waitForFinished());
+        EXPECT_EQ(proceso.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(proceso.exitCode(), 128 + senal);
+        EXPECT_TRUE(EsperaA([&] { return kill(emulador, 0) != 0; }));
+        EXPECT_FALSE(QFile::exists(desempaquetado));
+        EXPECT_TRUE(proceso.readAllStandardError().contains("The emulator was ended by the signal SIG"));
+    }
 }
 
 TEST_F(Play, ASignalIsSaid_AndCountedAsAShellDoes)
