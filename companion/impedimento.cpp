@@ -2,6 +2,8 @@
 
 #include "core/clasedeprograma.h"
 
+#include "finder/lugares.h"
+
 #include "host/encoding.h"
 #include "host/failure.h"
 #include "host/numberedfiles.h"
@@ -45,6 +47,26 @@ QString interpreteQueFalta(const QByteArray &principio)
     const QString pedido = host::nameFromDisk(partes.value(1));
     const bool deEntorno = interprete.endsWith(u"/env") && !pedido.startsWith(u'-') && !pedido.contains(u'=');
     return deEntorno && !pedido.isEmpty() && !seEjecuta(pedido) ? pedido : QString();
+}
+
+// A script that goes from machine to machine says in a line of its own which program it starts, by the names
+// that this has.
+std::optional<Impedimento> suplidoQueFalta(const QByteArray &principio, const Palabras &palabras)
+{
+    const QByteArray aviso = "\n# Stands for ";
+    const qsizetype desde = principio.indexOf(aviso);
+    const qsizetype hasta = desde < 0 ? -1 : principio.indexOf('\n', desde + aviso.size());
+    if (hasta < 0)
+        return std::nullopt;
+    const QString linea = host::nameFromDisk(principio.first(hasta).sliced(desde + aviso.size()));
+    const QStringList nombres = linea.section(u':', 1).split(u' ', Qt::SkipEmptyParts);
+    if (nombres.isEmpty() || !finder::RutaDePrograma(nombres, finder::LugaresDeLaMaquina()).isEmpty())
+        return std::nullopt;
+    QStringList maneras;
+    for (const QString &nombre : nombres)
+        maneras += (nombre.contains(u'.') ? u"flatpak install flathub "_s : u"sudo apt install "_s) + nombre;
+    const QString dicho = palabras.Zbo_SinSuplido.arg(linea.section(u':', 0, 0), maneras.join(u", "_s));
+    return Impedimento { u"not-installed"_s, dicho };
 }
 
 // The loader that a program of 64 bits names in its table of parts; empty for one that names none.
@@ -126,9 +148,10 @@ std::vector<Impedimento> LoQueLeFalta(const QString &programa, const Palabras &p
     }
     if (principio.startsWith("#!")) {
         const QString falta = interpreteQueFalta(principio);
-        if (falta.isEmpty())
-            return {};
-        return { { u"no-interpreter"_s, palabras.Zbo_SinInterp.arg(programa, falta) } };
+        if (!falta.isEmpty())
+            return { { u"no-interpreter"_s, palabras.Zbo_SinInterp.arg(programa, falta) } };
+        const std::optional<Impedimento> suplido = suplidoQueFalta(principio, palabras);
+        return suplido ? std::vector { *suplido } : std::vector<Impedimento>();
     }
     const QString cargador = cargadorDe(principio);
     if (cargador.isEmpty()

@@ -15,8 +15,9 @@ struct Impedimento {
     QString texto;
 };
 
-// What a program that is there and may be run lacks: the interpreter of a script, the loader, libraries. By
-// its path as the disk spells it. The program itself isn't started.
+// What a program that is there and may be run lacks: the interpreter of a script, the program that a script
+// stands for by a line "# Stands for NAME: PROGRAM...", the loader, libraries. By its path as the disk spells
+// it. The program itself isn't started.
 std::vector<Impedimento> LoQueLeFalta(const QString &programa, const Palabras &palabras);
 
 // The first of what keeps the executable of this path from starting; none where nothing is known.

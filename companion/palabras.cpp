@@ -126,6 +126,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_SinIdiomas", &P::Zbo_SinIdiomas },
         { u"Zbo_EsDirectorio", &P::Zbo_EsDirectorio },
         { u"Zbo_SinInterp", &P::Zbo_SinInterp },
+        { u"Zbo_SinSuplido", &P::Zbo_SinSuplido },
         { u"Zbo_SinBiblio", &P::Zbo_SinBiblio },
         { u"Zbo_SinExt", &P::Zbo_SinExt },
         { u"Zbo_SoloFicheros", &P::Zbo_SoloFicheros },

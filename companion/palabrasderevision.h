@@ -117,6 +117,9 @@ struct PalabrasDeRevision {
     QString Zbo_EsDirectorio = QStringLiteral("%1 is a directory, no program; name the program in it.");
     QString Zbo_SinInterp = QStringLiteral(
         "%1 needs %2, which isn't there or may not be run; install it, or correct the first line.");
+    QString Zbo_SinSuplido =
+        QStringLiteral("%1 isn't on this machine. Install it from your system's store of "
+                       "programs, or in a terminal, by one of these: %2");
     QString Zbo_SinBiblio =
         QStringLiteral("%1 needs the library %2, which isn't there; install the package that holds it.");
     QString Zbo_SinExt = QStringLiteral(

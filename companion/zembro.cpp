@@ -1,11 +1,9 @@
 #include "companion/zembro.h"
 
 #include "companion/ayuda.h"
+#include "companion/idioma.h"
 #include "companion/imprimible.h"
 #include "companion/ordenes.h"
-
-#include "core/ajustes.h"
-#include "core/textos.h"
 
 #include "host/paths.h"
 
@@ -68,46 +66,6 @@ std::vector<Opcion> conComunes(std::vector<Opcion> opciones)
 {
     opciones.insert(opciones.end(), OpcionesComunes().begin(), OpcionesComunes().end());
     return opciones;
-}
-
-// Takes the words of a language file. False if there is no such file.
-bool LeeFicheroDeIdioma(core::Modulo &M, Palabras &palabras, const QString &fichero)
-{
-    M.Ficheros.closeAll();
-    bool abierto = false;
-    try {
-        M.Ficheros.openForInput(1, host::programFile(u"LNG/"_s + fichero));
-        abierto = true;
-        core::LectorDeTextos textos(M, [](const QString &, const QString &) {});
-        while (!M.Ficheros.atEnd(1)) {
-            const QString linea = M.Ficheros.readLine(1);
-            LeePalabra(palabras, linea);
-            try {
-                textos.Linea(linea);
-                core::LeePalabra(M.Palabras, linea);
-            } catch (const host::Failure &) {
-                // A line without its text: its word stays as it is built in.
-            }
-        }
-    } catch (const host::Failure &) {
-        // What was read stands.
-    }
-    M.Ficheros.closeAll();
-    return abierto;
-}
-
-// The settings name the language; where they or it can't be read, as before the first run, it is English.
-Palabras LeeIdioma(core::Modulo &M)
-{
-    Palabras palabras;
-    try {
-        core::LeeAjustes(M);
-    } catch (const host::Failure &) {
-        // What was read stands.
-    }
-    if (M.LanguageFile.isEmpty() || !LeeFicheroDeIdioma(M, palabras, M.LanguageFile))
-        LeeFicheroDeIdioma(M, palabras, u"ZB-ENG.LNG"_s);
-    return palabras;
 }
 
 int corre(const Orden &orden, Sesion &sesion)

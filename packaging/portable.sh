@@ -14,6 +14,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 umask 022
 cmake --install build/release --prefix "$work/usr" --strip >/dev/null
+cmake --install build/release --prefix "$work/usr" --strip --component portable >/dev/null
 program=$work/$name
 mkdir -p "$program"/{lib,plugins,fonts,licenses}
 packaging/portable/fill.sh "$work/usr" "$program"

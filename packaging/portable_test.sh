@@ -40,6 +40,13 @@ glance "starts in the base system, without fonts" bare.png "$place/start.sh"
 "$user" "$place/Cvtgif15.exe" >/dev/null 2>"$work/said" || [ "$(cat "$work/said")" ] || fail "the converter says nothing"
 ! grep -i 'shared\|libr' "$work/said" || fail "the converter lacks a library"
 
+# Without the emulator the play button says how to get it, and so does the check.
+! "$user" "$place/zembro" check >"$work/said" || fail "zembro check finds nothing amiss without an emulator"
+grep -q 'sudo apt install stella' "$work/said" || fail "zembro check: $(cat "$work/said")"
+tests/with_screen.sh packaging/absent.sh "$pictures/absent.png" "$user" "$place/start.sh" >"$work/log" 2>&1 || { cat "$work/log"; fail "no box"; }
+"$user" "$place/zembro" why | grep -q 'sudo apt install stella' || fail "zembro why: $("$user" "$place/zembro" why)"
+passed "without an emulator the play button shows how to get it, and zembro check and zembro why tell it"
+
 inside apt-get update -qq
 inside apt-get install -y -qq --no-install-recommends stella libgl1 libgl1-mesa-dri libegl1 >"$work/log" 2>&1 || { tail "$work/log"; fail "no emulator"; }
 no_toolkit

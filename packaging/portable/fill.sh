@@ -9,7 +9,7 @@ delivered=$program/delivered
 
 cp -r "$1/share/zembrolix" "$delivered"
 cp "$programs"/{renew,start} "$here/stella" "$delivered"
-cp "$programs"/{BuscaEmuladores,PrimerosAjustes} "$program"
+cp "$programs"/{BuscaEmuladores,PrimerosAjustes,FaltaEmulador} "$program"
 cp "$here"/start.sh "$program"
 cp "$here"/LEEME.txt "$here/../../LICENSE" "$delivered"
 # A catalogue that is there keeps the emulators of this machine out.

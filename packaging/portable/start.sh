@@ -22,7 +22,7 @@ renew() { # directory
     [ -x "$1/Zembrolix" ] && [ -f "$1/.delivered" ] || fail "$1 is no directory of the program."
     [ "$(readlink -f "$1")" != "$here" ] || fail "$1 is this one."
     [ -w "$1" ] || fail "$1 can't be written; it stays as it is."
-    for part in lib plugins fonts licenses qt.conf BuscaEmuladores PrimerosAjustes delivered start.sh; do
+    for part in lib plugins fonts licenses qt.conf BuscaEmuladores PrimerosAjustes FaltaEmulador delivered start.sh; do
         exchange "$part" "$1" || fail "$part in $1 can't be exchanged for the newer one. Once that is mended, renew it again."
     done
     exec "$delivered/renew" "$here" "$delivered" "$1"

@@ -48,6 +48,30 @@ TEST_F(CheckPair, WhatAScriptLacksIsSaid)
     EXPECT_THAT(clases(SisUno), ElementsAre(u"no-interpreter"_s));
 }
 
+// A directory that goes from machine to machine starts its emulators so.
+TEST_F(CheckPair, WhatAScriptStandsForHasToBeOnTheMachine)
+{
+    PonPrograma("#!/bin/sh\n# Stands for No Such: no-such-emulator org.nowhere.NoSuch\nexit 0\n");
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"not-installed"_s));
+    EXPECT_TRUE(dicho().contains(
+        "Zembro.emu:6: Sis / Uno: No Such isn't on this machine. Install it from your system's store of "
+        "programs, or in a terminal, by one of these: sudo apt install no-such-emulator, flatpak install "
+        "flathub org.nowhere.NoSuch\n"))
+        << dicho().toStdString();
+    const QJsonObject dicha = Json({ u"command"_s, u"Sis"_s, u"Uno"_s, u"mario"_s }, companion::Hallazgos);
+    EXPECT_TRUE(dicha[u"problem"_s].toString().startsWith(u"No Such isn't on this machine"));
+    // Under any of its names, but as a program.
+    PonPrograma("#!/bin/sh\n# Stands for the shell: no-such-emulator sh\n");
+    EXPECT_THAT(clases(SisUno), IsEmpty());
+    // Only as a line of its own that is whole, with names.
+    for (const char *otra : { "#!/bin/sh\necho # Stands for No Such: no-such\n",
+             "#!/bin/sh\n# Stands for No Such: no-such", "#!/bin/sh\n# Stands for No Such:\n",
+             "#!/bin/sh\n# Stands for No Such\n", "#!/bin/sh # Stands for No Such: no-such\n" }) {
+        PonPrograma(otra);
+        EXPECT_THAT(clases(SisUno), IsEmpty()) << otra;
+    }
+}
+
 TEST_F(CheckPair, ADirectoryIsNoProgram)
 {
     Cambia(u"Zembro.emu"_s, "emu/uno.sh\r\nXDI=NO.0", "emu\r\nXDI=NO.0");

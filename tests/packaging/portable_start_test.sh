@@ -12,7 +12,7 @@ complain() { echo "portable start: $*" >&2; bad=1; }
 unset LC_ALL LC_MESSAGES DISPLAY WAYLAND_DISPLAY XDG_STATE_HOME ZEMBRO_LOG
 export HOME=$work/home LANG=it_IT.UTF-8
 mkdir "$HOME"
-cmake --install "$build" --prefix "$work/usr" >/dev/null || { complain "what is built can't be installed"; exit 1; }
+cmake --install "$build" --prefix "$work/usr" >/dev/null && cmake --install "$build" --prefix "$work/usr" --component portable >/dev/null || { complain "what is built can't be installed"; exit 1; }
 make_directory() { # directory, version
     mkdir -p "$1"/{lib,plugins,fonts,licenses}
     "$sources/packaging/portable/fill.sh" "$work/usr" "$1"
@@ -68,6 +68,35 @@ chmod +x "$work/bin/stella"
 [ "$(PATH=$work/bin:$PATH "$mine/delivered/stella" -a 'b c')" = "stella of the path:-a b c" ] || complain "the emulator of the path isn't taken"
 PATH=$work/bin:$PATH "$mine/zembro" play atari stella prisma >"$work/said" 2>&1
 grep -q 'stella of the path:.*risma' "$work/said" || complain "play: $(cat "$work/said")"
+
+# Wherever the finder looks, it does, by each of the names; where there is none, it says so, and so do check and why, and a
+# screen would show it.
+cp "$mine/delivered/stella" "$work/stella"
+sed -i 's/^# Stands for .*/# Stands for No Such: no-such-emulator org.nowhere.NoSuch/' "$mine/delivered/stella"
+start "$mine" 1 --check
+grep -q "^Zembro.emu:[0-9]*: Atari 2600 / Stella: No Such .*: sudo apt install no-such-emulator, flatpak install flathub org.nowhere.NoSuch" <<<"$said" ||
+    complain "missing: check says $said"
+ZEMBRO_LOG=$work/log "$mine/zembro" play atari stella prisma >"$work/said" 2>&1 && complain "missing: it is played"
+grep -q "^No Such isn't installed on this machine" "$work/said" || complain "missing: play says $(cat "$work/said")"
+mv "$mine/FaltaEmulador" "$work/box"
+printf '#!/bin/sh\necho "box: $*"\n' >"$mine/FaltaEmulador"
+chmod +x "$mine/FaltaEmulador"
+said=$(cd / && DISPLAY=:none "$mine/roms/../delivered/stella" game 2>/dev/null)
+[ "$? $said" = "127 box: $mine/roms/../delivered/stella" ] || complain "missing: on a screen it says $said"
+mv "$work/box" "$mine/FaltaEmulador"
+"$mine/FaltaEmulador" "$mine/delivered/stella" && complain "missing: a box without a screen"
+for exports in "$HOME/.local/share" "$work/data home"; do
+    mkdir -p "$exports/flatpak/exports/bin"
+    printf '#!/bin/sh\necho "stella of flatpak:$*"\n' >"$exports/flatpak/exports/bin/org.nowhere.NoSuch"
+    chmod +x "$exports/flatpak/exports/bin/org.nowhere.NoSuch"
+    [ "$exports" = "$HOME/.local/share" ] || export XDG_DATA_HOME=$exports
+    [ "$("$mine/delivered/stella" -a 'b c')" = "stella of flatpak:-a b c" ] || complain "flatpak: $exports: it isn't found"
+    start "$mine" 0 --check
+    rm -r "$exports"
+    start "$mine" 1 --check
+done
+unset XDG_DATA_HOME
+cp "$work/stella" "$mine/delivered/stella"
 
 # A newer one renews it.
 make_directory "$work/newer" two
