@@ -84,12 +84,11 @@ qsizetype distancia(const QString &a, const QString &b)
 
 } // namespace
 
-QString MasParecido(const QStringList &nombres, const QString &texto)
+QString MasParecido(const QStringList &nombres, const QString &texto, qsizetype letras)
 {
-    constexpr qsizetype mucha = 3;
     constexpr qsizetype larga = 255; // no name of a file is longer
     QString mejor;
-    qsizetype menor = mucha + 1;
+    qsizetype menor = letras + 1;
     for (const QString &nombre : nombres) {
         if (nombre.size() > larga || texto.size() > larga)
             continue;

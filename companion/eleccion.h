@@ -14,7 +14,7 @@ QList<qsizetype> Candidatos(const QStringList &nombres, const QString &texto);
 // The position of the name that equals a text, else that does in any case; -1 if none does.
 qsizetype PosicionDeNombre(const QStringList &nombres, const QString &texto);
 
-// The name that differs least from a text, in three letters at most and in any case; empty if none does.
-QString MasParecido(const QStringList &nombres, const QString &texto);
+// The name that differs least from a text, in so many letters at most and in any case; empty if none does.
+QString MasParecido(const QStringList &nombres, const QString &texto, qsizetype letras = 3);
 
 } // namespace companion

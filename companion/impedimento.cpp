@@ -1,5 +1,7 @@
 #include "companion/impedimento.h"
 
+#include "companion/eleccion.h"
+
 #include "core/clasedeprograma.h"
 
 #include "finder/lugares.h"
@@ -10,6 +12,7 @@
 #include "host/paths.h"
 #include "host/process.h"
 
+#include <QHash>
 #include <QProcess>
 #include <QtEndian>
 
@@ -134,6 +137,15 @@ bool esDirectorio(const QString &ruta)
     return host::exists(host::withClosingSeparator(ruta));
 }
 
+QStringList programasEn(const QString &directorio)
+{
+    try {
+        return host::listPrograms(directorio, u"*.exe;*.com;*.bat"_s);
+    } catch (const host::Failure &) {
+        return {};
+    }
+}
+
 } // namespace
 
 std::vector<Impedimento> LoQueLeFalta(const QString &programa, const Palabras &palabras)
@@ -167,19 +179,67 @@ std::vector<Impedimento> LoQueLeFalta(const QString &programa, const Palabras &p
     return faltas;
 }
 
+QString NoHayPrograma(const QString &programa, const Palabras &palabras)
+{
+    return programa.trimmed().isEmpty() ? palabras.Zbo_SinEXE : palabras.Zbo_NoHayEXE.arg(programa);
+}
+
+QString ProgramaParecido(const QString &programa)
+{
+    const qsizetype corte = host::lastSeparator(programa) + 1;
+    const QString nombre = programa.sliced(corte);
+    if (nombre.trimmed().isEmpty())
+        return {};
+    const QString vecino = MasParecido(programasEn(programa.first(corte)), nombre);
+    if (!vecino.isEmpty())
+        return programa.first(corte) + vecino;
+    const QString mismo = host::findInPath(nombre);
+    if (!mismo.isEmpty())
+        return mismo;
+    QStringList nombres;
+    for (const QByteArray &lugar : host::rememberedVariable("PATH").value_or(QByteArray()).split(':'))
+        nombres += lugar.isEmpty() ? QStringList() : programasEn(host::nameFromDisk(lugar) + u'/');
+    // Of thousands some short name is always near.
+    constexpr qsizetype corto = 5;
+    const QString otro =
+        nombre.size() < corto ? QString() : MasParecido(nombres, nombre, nombre.size() == corto ? 1 : 2);
+    return otro.isEmpty() ? QString() : host::findInPath(otro);
+}
+
+QString ProcesadorDe(const QByteArray &principio)
+{
+    static const QHash<quint16, QString> nombres { { 2, u"SPARC"_s }, { 3, u"Intel 386"_s },
+        { 4, u"Motorola 68000"_s }, { 8, u"MIPS"_s }, { 15, u"PA-RISC"_s }, { 20, u"PowerPC"_s },
+        { 21, u"PowerPC 64"_s }, { 22, u"S390"_s }, { 40, u"ARM"_s }, { 42, u"SuperH"_s },
+        { 43, u"SPARC 64"_s }, { 50, u"Itanium"_s }, { 62, u"x86-64"_s }, { 183, u"ARM 64"_s },
+        { 243, u"RISC-V"_s }, { 258, u"LoongArch"_s } };
+    constexpr qsizetype lugar = 18;
+    constexpr qsizetype orden = 5; // 2: the high byte first
+    if (principio.size() < lugar + 2)
+        return u"?"_s;
+    const char *bytes = principio.constData() + lugar;
+    const auto numero =
+        principio[orden] == 2 ? qFromBigEndian<quint16>(bytes) : qFromLittleEndian<quint16>(bytes);
+    return nombres.value(numero, u"ELF "_s + QString::number(numero));
+}
+
 std::optional<Impedimento> ImpedimentoDe(const QString &programa, const Palabras &palabras)
 {
     const QString enDisco = host::trueSpelling(programa);
     if (enDisco.isEmpty() || !host::exists(programa))
-        return Impedimento { u"no-program"_s, palabras.Zbo_NoHayEXE.arg(programa) };
+        return Impedimento { u"no-program"_s, NoHayPrograma(programa, palabras) };
     if (esDirectorio(programa))
         return Impedimento { u"is-directory"_s, palabras.Zbo_EsDirectorio.arg(programa) };
     if (!seEjecuta(enDisco))
         return Impedimento { u"not-executable"_s, palabras.Zbo_SinPermiso.arg(programa) };
+    const core::ClaseDePrograma clase = core::ClaseDe(enDisco);
+    if (clase == core::ClaseDePrograma::OtraMaquina)
+        return Impedimento { u"foreign-program"_s,
+            palabras.Zbo_OtraMaquina.arg(programa, ProcesadorDe(host::readBytes(enDisco, Principio))) };
     const std::vector<Impedimento> faltas = LoQueLeFalta(enDisco, palabras);
     if (!faltas.empty())
         return faltas.front();
-    if (core::ClaseDe(enDisco) == core::ClaseDePrograma::Desconocida)
+    if (clase == core::ClaseDePrograma::Desconocida)
         return Impedimento { u"foreign-program"_s, palabras.Zbo_NoEsPrograma.arg(programa) };
     return std::nullopt;
 }

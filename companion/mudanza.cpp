@@ -87,6 +87,10 @@ std::optional<Mudanza> pedida(const Sesion &sesion)
 {
     const QString nuevo = sesion.Tiene(u"new"_s) ? sesion.Valor(u"new"_s) : host::programDirectory();
     const QString viejo = sesion.Valor(u"old"_s);
+    if (!sesion.Tiene(u"old"_s)) {
+        sesion.Falla(sesion.palabras.Zbo_MueveOld);
+        return std::nullopt;
+    }
     if (nuevo.isEmpty() || viejo.isEmpty() || nuevo.contains(u'\n') || nuevo.contains(u'\r')) {
         sesion.Falla(sesion.palabras.Zbo_MuevePide);
         return std::nullopt;

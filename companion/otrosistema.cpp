@@ -1,6 +1,7 @@
 #include "companion/otrosistema.h"
 
 #include "core/catalogo.h"
+#include "core/lineas.h"
 #include "core/rutas.h"
 
 #include "host/drives.h"
@@ -18,6 +19,9 @@ namespace companion {
 
 namespace {
 
+const QString Catalogo = u"Zembro.emu"_s;
+const QString Unidades = u"Zembro.uni"_s;
+
 QString nombreDe(launch::Corredor corredor)
 {
     return corredor == launch::Corredor::Wine ? u"Windows"_s : u"DOS"_s;
@@ -33,17 +37,37 @@ QString lugarDe(const launch::UnidadesDOS::Montaje &montaje)
     return host::nameFromDisk(montaje.lugar);
 }
 
-class Unidades {
+// The line of Zembro.uni, counted from 1, that names a drive; 0 if none does.
+int lineaDeUnidad(QChar letra)
+{
+    int numero = 0;
+    try {
+        for (const core::LineaConFin &linea : core::EnLineas(TextoDelPrograma(Unidades))) {
+            ++numero;
+            const std::vector<host::Drive> suyas =
+                host::drivesIn(linea.linea.toString(), host::programDirectory());
+            if (!suyas.empty() && suyas.front().letter == letra)
+                return numero;
+        }
+    } catch (const host::Failure &) {
+        // They are those of Wine.
+    }
+    return 0;
+}
+
+class RevisorDeUnidades {
 public:
-    Unidades(Sesion &sesion, const Pareja &pareja, Revision &revision)
+    RevisorDeUnidades(
+        Sesion &sesion, const Pareja &pareja, const LineasDeEmulador &lineas, Revision &revision)
         : m_sesion(sesion)
         , m_pareja(pareja)
+        , m_lineas(lineas)
         , m_revision(revision)
     {
     }
 
-    // A path of the catalogue: its drive has to be named, and its place to be there.
-    void Mira(const QString &ruta)
+    // A path of the catalogue, and its line there: its drive has to be named, and its place to be there.
+    void Mira(const QString &ruta, int linea)
     {
         const QChar letra = host::driveLetter(ruta);
         if (letra.isNull() || m_vistas.contains(letra))
@@ -51,28 +75,31 @@ public:
         m_vistas += letra;
         const host::Drive *unidad = host::driveNamed(letra);
         const Palabras &palabras = m_sesion.palabras;
-        if (!unidad)
-            halla(u"no-drive"_s, palabras.Zbo_NoUnidad.arg(QString(letra), ruta), ruta);
-        else if (!host::exists(unidad->place))
-            halla(
-                u"drive-missing"_s, palabras.Zbo_SinSitio.arg(QString(letra), unidad->place), unidad->place);
+        if (!unidad) {
+            halla(u"no-drive"_s, palabras.Zbo_NoUnidad.arg(QString(letra), ruta), Catalogo, linea);
+        } else if (!host::exists(unidad->place)) {
+            const int suya = lineaDeUnidad(letra);
+            halla(u"drive-missing"_s, palabras.Zbo_SinSitio.arg(QString(letra), unidad->place),
+                suya > 0 ? Unidades : Catalogo, suya > 0 ? suya : linea);
+        }
     }
     void Corredor(const launch::Encargo &encargo)
     {
         if (encargo.traba != launch::Traba::Ninguna)
             halla(u"foreign-program"_s, launch::TextoDe(encargo.traba, encargo.corredor, m_sesion.M.Palabras),
-                encargo.trabadoEn);
+                Catalogo, m_lineas.EXE);
     }
 
 private:
-    void halla(const QString &clase, const QString &dicho, const QString &fichero)
+    void halla(const QString &clase, const QString &dicho, const QString &fichero, int linea)
     {
-        m_revision.push_back(
-            { clase, fichero, 0, m_pareja.nombreSistema + u" / "_s + m_pareja.nombreEmulador, dicho });
+        m_revision.push_back({ clase, fichero, linea > 0 ? linea : m_lineas.nombre,
+            m_pareja.nombreSistema + u" / "_s + m_pareja.nombreEmulador, dicho });
     }
 
     Sesion &m_sesion;
     const Pareja &m_pareja;
+    const LineasDeEmulador m_lineas;
     Revision &m_revision;
     QString m_vistas; // letters
 };
@@ -120,12 +147,15 @@ launch::Encargo EncargoDe(const core::Modulo &M, const Pareja &pareja)
     return launch::EncargoDe(orden);
 }
 
-void RevisaOtroSistema(Sesion &sesion, const Pareja &pareja, Revision &revision)
+void RevisaOtroSistema(
+    Sesion &sesion, const Pareja &pareja, const LineasDeEmulador &lineas, Revision &revision)
 {
-    Unidades unidades(sesion, pareja, revision);
-    for (const auto *tabla : { &sesion.M.Cat_EXE, &sesion.M.Cat_ROM, &sesion.M.Cat_IMG })
-        unidades.Mira(core::RutaDeLinea((*tabla)(pareja.sistema, pareja.fila)));
-    unidades.Corredor(EncargoDe(sesion.M, pareja));
+    RevisorDeUnidades revisor(sesion, pareja, lineas, revision);
+    const core::Modulo &M = sesion.M;
+    revisor.Mira(core::RutaDeLinea(M.Cat_EXE(pareja.sistema, pareja.fila)), lineas.EXE);
+    revisor.Mira(core::RutaDeLinea(M.Cat_ROM(pareja.sistema, pareja.fila)), lineas.ROM);
+    revisor.Mira(core::RutaDeLinea(M.Cat_IMG(pareja.sistema, pareja.fila)), lineas.IMG);
+    revisor.Corredor(EncargoDe(M, pareja));
 }
 
 } // namespace companion

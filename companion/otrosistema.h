@@ -22,7 +22,9 @@ void AnadeCorredor(QJsonObject &objeto, const launch::Encargo &encargo);
 // What would run the program of a pair, by a command without a game.
 launch::Encargo EncargoDe(const core::Modulo &M, const Pareja &pareja);
 
-// Drives that the pair's paths name and that aren't there, and a missing DOSBox or Wine.
-void RevisaOtroSistema(Sesion &sesion, const Pareja &pareja, Revision &revision);
+// At the lines of the pair in Zembro.emu: drives that its paths name and that aren't there, and a missing
+// DOSBox or Wine.
+void RevisaOtroSistema(
+    Sesion &sesion, const Pareja &pareja, const LineasDeEmulador &lineas, Revision &revision);
 
 } // namespace companion

@@ -109,7 +109,7 @@ QStringList CuentaPartida(const launch::Partida &partida, const Palabras &palabr
 QString MotivoDe(const launch::Partida &partida, const Palabras &palabras)
 {
     if (partida.fallo.startsWith(launch::SinEjecutable))
-        return palabras.Zbo_NoHayEXE.arg(partida.fallo.sliced(launch::SinEjecutable.size()));
+        return NoHayPrograma(partida.fallo.sliced(launch::SinEjecutable.size()), palabras);
     if (!partida.fallo.startsWith(launch::NoArranco) || partida.argumentos.isEmpty())
         return partida.fallo;
     const QString programa = programaDe(partida);

@@ -189,6 +189,16 @@ void RevisaAjustes(Sesion &sesion, Revision &revision)
     revisor.Filtros();
 }
 
+bool TieneRemiendo(const Hallazgo &hallazgo)
+{
+    const bool deNotas = hallazgo.fichero == u"Zembro.rom";
+    if (!deNotas && hallazgo.fichero != u"Zembro.emu" && hallazgo.fichero != u"Zembro.sye")
+        return false;
+    return hallazgo.clase == u"block-without-end"
+        || (deNotas ? hallazgo.clase == u"system-without-notes"
+                    : hallazgo.clase == u"missing-mark" || hallazgo.clase == u"no-closing-separator");
+}
+
 std::vector<Remiendo> Remiendos()
 {
     const auto catalogo = [](const QString &texto) {
@@ -205,7 +215,7 @@ std::vector<Remiendo> Remiendos()
             if (!esta)
                 resultado = core::ConSistemaNuevo(resultado, sistema);
         }
-        return resultado;
+        return core::ConParametrosCerrados(resultado);
     };
     return { { u"Zembro.emu"_s, catalogo }, { u"Zembro.sye"_s, catalogo }, { u"Zembro.rom"_s, notas } };
 }

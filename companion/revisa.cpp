@@ -36,7 +36,8 @@ QJsonObject enJson(const Pareja &pareja, const Cuenta &cuenta)
     return { { u"system"_s, pareja.nombreSistema }, { u"emulator"_s, pareja.nombreEmulador },
         { u"listed"_s, cuenta.listados }, { u"other_extension"_s, cuenta.otraExtension },
         { u"filtered"_s, cuenta.filtrados }, { u"no_zip"_s, cuenta.otroTipo },
-        { u"without_capture"_s, sinCaptura.size() }, { u"missing_captures"_s, sinCaptura } };
+        { u"other_things"_s, cuenta.otraCosa.size() }, { u"without_capture"_s, sinCaptura.size() },
+        { u"missing_captures"_s, sinCaptura } };
 }
 
 QJsonArray enJson(const Revision &revision)
@@ -71,8 +72,16 @@ QStringList enLineas(const Sesion &sesion, const Pareja &pareja, const Cuenta &c
     const qsizetype total = qsizetype(cuenta.sinCaptura.size());
     const qsizetype dichas = sesion.Argumento(0).isEmpty() ? std::min(total, unas) : total;
     QStringList lineas { palabras.Zbo_Cuenta.arg(pareja.nombreSistema, pareja.nombreEmulador,
-        QString::number(cuenta.listados), QString::number(cuenta.otraExtension + cuenta.otroTipo),
+        QString::number(cuenta.listados),
+        QString::number(cuenta.otraExtension + cuenta.otroTipo + cuenta.otraCosa.size()),
         QString::number(cuenta.filtrados), QString::number(total)) };
+    const QString &otraCosa =
+        core::UnDirectorioPorJuego(TipoDe(sesion.M, pareja)) ? palabras.Zbo_NoDirs : palabras.Zbo_NoFicheros;
+    if (!cuenta.otraCosa.isEmpty())
+        lineas += u"    "_s
+            + otraCosa.arg(QString::number(cuenta.otraCosa.size()),
+                cuenta.otraCosa.first(std::min(cuenta.otraCosa.size(), unas)).join(u", "_s)
+                    + (cuenta.otraCosa.size() > unas ? u" ..."_s : QString()));
     for (qsizetype i = 0; i < dichas; ++i) {
         const SinCaptura &una = cuenta.sinCaptura[size_t(i)];
         lineas += u"    "_s + palabras.Zbo_FaltaCaptura.arg(una.entrada, una.ruta);
@@ -105,6 +114,32 @@ bool leeCatalogo(Sesion &sesion, Revision &revision)
     }
 }
 
+struct Respuesta {
+    Revision revision;
+    QJsonArray cuentas;
+    QStringList lineas;
+};
+
+// The files, and these pairs.
+Respuesta revisado(Sesion &sesion, const std::vector<Pareja> &parejas, Revision revision)
+{
+    Respuesta respuesta { std::move(revision), {}, {} };
+    revisaFicheros(sesion, respuesta.revision);
+    const LineasDelCatalogo lineasDelCatalogo(
+        parejas.empty() ? QString() : TextoDelPrograma(u"Zembro.emu"_s));
+    for (const Pareja &pareja : parejas) {
+        const Cuenta cuenta = RevisaPareja(sesion, pareja, lineasDelCatalogo, respuesta.revision);
+        const launch::Encargo encargo = EncargoDe(sesion.M, pareja);
+        QJsonObject contado = enJson(pareja, cuenta);
+        AnadeCorredor(contado, encargo);
+        respuesta.cuentas += contado;
+        respuesta.lineas += enLineas(sesion, pareja, cuenta);
+        respuesta.lineas += DichoDe(sesion, encargo);
+    }
+    RevisaCapturas(sesion, parejas, lineasDelCatalogo, respuesta.revision);
+    return respuesta;
+}
+
 int revisaTodo(Sesion &sesion)
 {
     Revision revision;
@@ -115,33 +150,30 @@ int revisaTodo(Sesion &sesion)
         return sesion.Falla(sesion.palabras.Zbo_NoDir.arg(host::programDirectory()));
     if (!hayCatalogo && !todo)
         return sesion.Falla(sesion.palabras.Zbo_CatalogoMal);
-    revisaFicheros(sesion, revision);
     const std::vector<Pareja> parejas =
         hayCatalogo ? ParejasPedidas(sesion, sistema, sesion.Argumento(1)) : std::vector<Pareja>();
     if (parejas.empty() && !todo)
         return NoPudo;
-    QJsonArray cuentas;
-    QStringList lineas;
-    const LineasDelCatalogo lineasDelCatalogo(
-        parejas.empty() ? QString() : TextoDelPrograma(u"Zembro.emu"_s));
-    for (const Pareja &pareja : parejas) {
-        const Cuenta cuenta = RevisaPareja(sesion, pareja, lineasDelCatalogo, revision);
-        const launch::Encargo encargo = EncargoDe(sesion.M, pareja);
-        QJsonObject contado = enJson(pareja, cuenta);
-        AnadeCorredor(contado, encargo);
-        cuentas += contado;
-        lineas += enLineas(sesion, pareja, cuenta);
-        lineas += DichoDe(sesion, encargo);
-    }
-    RevisaCapturas(sesion, parejas, lineasDelCatalogo, revision);
+    const Respuesta respuesta = revisado(sesion, parejas, std::move(revision));
     if (sesion.EnJson()) {
-        sesion.Json({ { u"findings"_s, enJson(revision) }, { u"pairs"_s, cuentas } });
+        sesion.Json({ { u"findings"_s, enJson(respuesta.revision) }, { u"pairs"_s, respuesta.cuentas } });
     } else {
-        for (const Hallazgo &hallazgo : revision)
+        for (const Hallazgo &hallazgo : respuesta.revision)
             sesion.Escribe(enLinea(hallazgo));
-        sesion.Escribe(lineas);
+        sesion.Escribe(respuesta.lineas);
     }
-    return revision.empty() ? Bien : Hallazgos;
+    return respuesta.revision.empty() ? Bien : Hallazgos;
+}
+
+// How many findings no repair is for. What a repair has been written for and is found still is one of them.
+int losQueQuedan(Sesion &sesion, bool escritos)
+{
+    Revision revision;
+    const bool hayCatalogo = leeCatalogo(sesion, revision);
+    const std::vector<Pareja> parejas = hayCatalogo ? Parejas(sesion.M) : std::vector<Pareja>();
+    const Respuesta respuesta = revisado(sesion, parejas, std::move(revision));
+    return static_cast<int>(std::ranges::count_if(
+        respuesta.revision, [&](const Hallazgo &hallazgo) { return escritos || !TieneRemiendo(hallazgo); }));
 }
 
 // What a repair changes, or would change. It is decided by the text that the rewrite has just read.
@@ -178,16 +210,19 @@ int remienda(Sesion &sesion)
             lineas += diferencia;
         });
     }
+    const int quedan = losQueQuedan(sesion, escribe);
     if (sesion.EnJson())
-        sesion.Json(
-            { { u"written"_s, escribe }, { u"changes"_s, cambios }, { u"findings"_s, enJson(fallos) } });
+        sesion.Json({ { u"written"_s, escribe }, { u"changes"_s, cambios }, { u"findings"_s, enJson(fallos) },
+            { u"remaining"_s, quedan } });
     else
         sesion.Escribe(lineas);
+    if (quedan > 0 && fallos.empty())
+        sesion.Avisa(sesion.palabras.Zbo_MendQuedan.arg(quedan));
     for (const Hallazgo &fallo : fallos)
         sesion.Avisa(enLinea(fallo));
     if (!fallos.empty())
         return NoPudo;
-    return cambios.isEmpty() || escribe ? Bien : Hallazgos;
+    return quedan == 0 && (cambios.isEmpty() || escribe) ? Bien : Hallazgos;
 }
 
 int hazRevision(Sesion &sesion)

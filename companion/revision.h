@@ -50,6 +50,7 @@ struct Cuenta {
     qsizetype otraExtension = 0;
     qsizetype filtrados = 0;
     qsizetype otroTipo = 0;
+    QStringList otraCosa; // names of what is no file, or where directories are games no directory
     std::vector<SinCaptura> sinCaptura;
 };
 
@@ -74,5 +75,8 @@ struct Remiendo {
     std::function<QString(const QString &)> cambio;
 };
 std::vector<Remiendo> Remiendos();
+
+// Whether one of them is for this.
+bool TieneRemiendo(const Hallazgo &hallazgo);
 
 } // namespace companion

@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -98,7 +99,7 @@ public:
 
     void Sistema(const QString &sistema, size_t desde);
     void Ajenas();
-    void Parametros();
+    void Parametros(const QString &texto);
 
 private:
     void halla(const QString &clase, const QString &dicho, size_t indice)
@@ -196,7 +197,7 @@ void RevisorDeNotas::parametrosDe(const QStringList &campos, size_t indice)
         halla(u"lost-parameters"_s, m_palabras.Zbo_ParPerdidos.arg(clave), indice);
 }
 
-void RevisorDeNotas::Parametros()
+void RevisorDeNotas::Parametros(const QString &texto)
 {
     for (size_t i = m_parametros + 1; i < m_lineas.size(); ++i) {
         const QString linea = m_lineas[i].linea.toString();
@@ -206,8 +207,10 @@ void RevisorDeNotas::Parametros()
         if (!linea.isEmpty() && estaEntero(linea, registro, CamposDeParametros, i))
             parametrosDe(registro.campos, i);
     }
-    m_revision.push_back(
-        { u"missing-mark"_s, Fichero, static_cast<int>(m_lineas.size()), {}, m_palabras.Zbo_SinSeccion });
+    if (const std::optional<size_t> inicio = core::ParametrosSinCierre(texto))
+        halla(u"block-without-end"_s, m_palabras.Zbo_SinCierrePar, *inicio);
+    else
+        halla(u"missing-mark"_s, m_palabras.Zbo_SinSeccion, std::max<size_t>(m_lineas.size(), 1) - 1);
 }
 
 // The systems of the catalogue, each once.
@@ -247,7 +250,7 @@ void RevisaNotas(Sesion &sesion, Revision &revision)
         revision.push_back({ u"missing-mark"_s, Fichero,
             std::min(static_cast<int>(cabeceraDeParametros(lineas)) + 1, ultima), {},
             sesion.palabras.Zbo_SinMarcaNot });
-    revisor.Parametros();
+    revisor.Parametros(texto);
 }
 
 } // namespace companion

@@ -1,18 +1,17 @@
 // The pairs that the catalogue configures: program, directories, list.
 #include "companion/revision.h"
 
-#include "companion/eleccion.h"
 #include "companion/impedimento.h"
 #include "companion/otrosistema.h"
 
 #include "finder/juegos.h"
 
 #include "core/catalogo.h"
-#include "core/clasedeprograma.h"
 #include "core/lineas.h"
 #include "core/romelegida.h"
 #include "core/rutas.h"
 
+#include "host/encoding.h"
 #include "host/letters.h"
 #include "host/paths.h"
 #include "host/process.h"
@@ -22,6 +21,7 @@
 
 #include <QHash>
 #include <QProcess>
+#include <QSet>
 
 #include <optional>
 
@@ -65,6 +65,7 @@ private:
     void Juegos(const Listado &listado);
     void NoListados(const QString &directorio);
     void NadaListado(const QString &directorio);
+    void OtrasCosas(const QStringList &nombres, const QString &directorio);
     void SoloPorMayusculas(const QStringList &nombres, const QString &directorio);
 
     Sesion &m_sesion;
@@ -75,18 +76,6 @@ private:
     Revision &m_revision;
     const int m_tipo;
 };
-
-// What is meant may lie beside it: a name that differs in a letter or two.
-QString parecido(const QString &ruta)
-{
-    const qsizetype corte = host::lastSeparator(ruta) + 1;
-    try {
-        const QStringList nombres = host::listPrograms(ruta.first(corte), u"*.exe;*.com;*.bat"_s);
-        return ruta.first(corte) + MasParecido(nombres, ruta.sliced(corte));
-    } catch (const host::Failure &) {
-        return {};
-    }
-}
 
 // The line of Zembro.rom, counted from 1, of the second record with this description; 0 if none is.
 int lineaDeDescripcion(const QString &descripcion)
@@ -114,16 +103,14 @@ void RevisorDePareja::Programa()
     const launch::Programa programa = launch::ProgramaDe(exe);
     const QString &enDisco = programa.ExeCorto.enDisco;
     if (enDisco.isEmpty()) {
-        const QString otro = parecido(exe);
-        halla(u"no-program"_s, m_palabras.Zbo_NoHayEXE.arg(exe), m_lineas.EXE);
-        if (!otro.isEmpty() && !otro.endsWith(u'/'))
+        const QString otro = ProgramaParecido(exe);
+        halla(u"no-program"_s, NoHayPrograma(exe, m_palabras), m_lineas.EXE);
+        if (!otro.isEmpty())
             halla(u"similar-program"_s, m_palabras.Zbo_Parecido.arg(otro), m_lineas.EXE);
         return;
     }
     if (EncargoDe(M, m_pareja).corredor != launch::Corredor::Ninguno)
         return;
-    if (core::ClaseDe(enDisco) == core::ClaseDePrograma::OtraMaquina)
-        return halla(u"foreign-program"_s, m_palabras.Zbo_OtraMaquina.arg(exe), m_lineas.EXE);
     if (const std::optional<Impedimento> falta = ImpedimentoDe(enDisco, m_palabras))
         return halla(falta->clase, falta->texto, m_lineas.EXE);
     MaquinaDeMAME(enDisco);
@@ -195,9 +182,22 @@ void RevisorDePareja::NoListados(const QString &directorio)
         if (!fuera)
             listados += nombres[i];
     }
+    OtrasCosas(nombres, directorio);
     SoloPorMayusculas(listados, directorio);
     if (cuenta.listados == 0)
         NadaListado(directorio);
+}
+
+// What is no game by its kind: directories among files, files among directories, pipes, links to nothing.
+void RevisorDePareja::OtrasCosas(const QStringList &nombres, const QString &directorio)
+{
+    const QSet<QString> vistos(nombres.begin(), nombres.end());
+    for (const QByteArray &bytes : host::listInDiskOrder(directorio)) {
+        const QString nombre = host::nameFromDisk(bytes);
+        if (!nombre.startsWith(u'.') && !vistos.contains(nombre) && nombre != finder::NombreDeNota)
+            cuenta.otraCosa += nombre;
+    }
+    cuenta.otraCosa.sort();
 }
 
 // Of these a launch finds one, whichever was chosen.
@@ -253,14 +253,7 @@ Cuenta RevisaPareja(Sesion &sesion, const Pareja &pareja, const LineasDelCatalog
 {
     RevisorDePareja revisor(sesion, pareja, lineas.De(pareja.sistema, pareja.fila), revision);
     revisor.Programa();
-    const size_t antes = revision.size();
-    RevisaOtroSistema(sesion, pareja, revision);
-    for (size_t i = antes; i < revision.size(); ++i) {
-        if (revision[i].fichero.isEmpty()) {
-            revision[i].fichero = u"Zembro.emu"_s;
-            revision[i].linea = lineas.De(pareja.sistema, pareja.fila).nombre;
-        }
-    }
+    RevisaOtroSistema(sesion, pareja, lineas.De(pareja.sistema, pareja.fila), revision);
     revisor.Lista();
     return revisor.cuenta;
 }

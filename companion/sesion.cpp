@@ -92,15 +92,13 @@ bool sePuedeEntrar(const QString &directorio)
 
 // A directory that wasn't found, or that couldn't be listed: what is behind one that can't be entered isn't
 // found either.
-QString textoDeDirectorio(QString ruta, const Palabras &palabras)
+QString textoDeDirectorio(const QString &ruta, const Palabras &palabras)
 {
-    while (ruta.size() > 1 && host::withClosingSeparator(ruta) == ruta)
-        ruta.chop(1);
-    if (esDirectorio(ruta))
-        return palabras.Zbo_FalloLeerDir + u": "_s + ruta;
-    if (host::exists(ruta))
-        return palabras.Zbo_FalloNoDir + u": "_s + ruta;
     QString encima = ruta;
+    while (encima.size() > 1 && host::withClosingSeparator(encima) == encima)
+        encima.chop(1);
+    if (host::exists(encima))
+        return (esDirectorio(encima) ? palabras.Zbo_FalloLeerDir : palabras.Zbo_FalloNoDir) + u": "_s + ruta;
     for (qsizetype corte = 0; (corte = host::lastSeparator(encima)) > 0 && !host::exists(encima);)
         encima.truncate(corte);
     if (esDirectorio(encima) && !sePuedeEntrar(encima))

@@ -6,6 +6,7 @@
 #include "core/notas.h"
 
 #include "host/paths.h"
+#include "host/textsource.h"
 
 #include <QSet>
 
@@ -118,6 +119,50 @@ std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &s
 QString ConNotasCerradas(const QString &texto, const QStringList &sistemas)
 {
     return conLineas(texto, NotasSinCierre(texto, sistemas), u"'"_s);
+}
+
+namespace {
+
+bool esRegistroDeParametros(QStringView linea)
+{
+    constexpr int campos = 4;
+    // Quotes that the line doesn't close take in the lines behind it.
+    if (linea.count(u'"') % 2 != 0 || linea.startsWith(u'['))
+        return false;
+    host::TextSource fuente(linea.toString());
+    int leidos = 0;
+    for (; !fuente.atEnd(); ++leidos) {
+        if (fuente.readField().isEmpty() && leidos == 0)
+            return false;
+    }
+    return leidos == campos;
+}
+
+} // namespace
+
+std::optional<size_t> ParametrosSinCierre(const QString &texto)
+{
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    const auto cabecera = std::ranges::find_if(
+        lineas, [](const LineaConFin &linea) { return linea.linea.startsWith(u"Parametros"); });
+    if (cabecera == lineas.end())
+        return std::nullopt;
+    const bool soloRegistros = std::all_of(cabecera + 1, lineas.end(), [](const LineaConFin &linea) {
+        return linea.linea.isEmpty() || esRegistroDeParametros(linea.linea);
+    });
+    return soloRegistros ? std::optional(size_t(cabecera - lineas.begin())) : std::nullopt;
+}
+
+QString ConParametrosCerrados(const QString &texto)
+{
+    const std::optional<size_t> inicio = ParametrosSinCierre(texto);
+    if (!inicio)
+        return texto;
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    size_t fin = lineas.size();
+    while (lineas[fin - 1].linea.isEmpty())
+        --fin;
+    return conLineas(texto, { { *inicio, fin } }, u"'"_s);
 }
 
 } // namespace core

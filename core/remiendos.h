@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace core {
@@ -30,5 +31,10 @@ QString ConSeparadoresFinales(const QString &texto);
 // The systems of these names whose notes run into the next one's, as their closing apostrophe is missing.
 std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &sistemas);
 QString ConNotasCerradas(const QString &texto, const QStringList &sistemas);
+
+// The index of the line that begins the section of parameters, where its closing apostrophe is missing and
+// nothing but whole records follows: else it may belong in several places. And the text with it.
+std::optional<size_t> ParametrosSinCierre(const QString &texto);
+QString ConParametrosCerrados(const QString &texto);
 
 } // namespace core

@@ -193,6 +193,8 @@ TEST_F(Move, RefusesWhatIsNoPath_AndSaysWhatIsNotThere)
         EXPECT_EQ(Zembro(QStringList { u"move"_s, u"--write"_s } + malo).estado, companion::NoPudo);
         EXPECT_EQ(Bytes(u"Zembro.emu"_s), antes);
     }
+    EXPECT_EQ(Zembro({ u"move"_s, u"--new"_s, u"/x"_s }).error,
+        "zembro: --new goes with --old: name the old place too.\n");
     EXPECT_EQ(Zembro({ u"move"_s, u"--old"_s, Ruta(u"roms"_s), u"--new"_s, u"/not/mounted yet"_s }).error,
         "zembro: There is no /not/mounted yet.\n");
 }

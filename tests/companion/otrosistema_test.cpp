@@ -132,12 +132,18 @@ TEST_F(OtroSistema, CheckNamesADriveThatIsMissing)
     EXPECT_EQ(Hallazgos(u"no-drive"_s), QStringList());
     EXPECT_EQ(Hallazgos(u"drive-missing"_s),
         QStringList { u"The drive D leads to /none/at all, which is not there."_s });
+    EXPECT_TRUE(Zembro({ u"check"_s, u"Sis"_s, u"Uno"_s })
+                    .salida.contains("\nZembro.uni:2: Sis / Uno: The drive D leads to "))
+        << Zembro({ u"check"_s, u"Sis"_s, u"Uno"_s }).salida.toStdString();
 }
 
 TEST_F(OtroSistema, CheckNamesAMissingToolAndADriveOnce)
 {
     EXPECT_EQ(Hallazgos(u"foreign-program"_s), QStringList { u"Install DOSBox."_s });
     Pon(u"Zembro.uni"_s, "D=roms\r\n");
+    const QByteArray todo = Zembro({ u"check"_s, u"Sis"_s, u"Uno"_s }).salida;
+    EXPECT_TRUE(todo.contains("Zembro.emu:6: Sis / Uno: There is no drive C for C:\\EMU"))
+        << todo.toStdString();
     EXPECT_EQ(Hallazgos(u"no-drive"_s),
         QStringList { u"There is no drive C for C:\\EMU\\UNO.EXE: name its place in Zembro.uni."_s });
 }

@@ -8,6 +8,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -83,6 +85,69 @@ TEST_F(Check, MendShowsWhatItWouldDo_AndWritesItWhereItIsTold)
     EXPECT_THAT(clases(), IsEmpty());
     EXPECT_EQ(Zembro({ u"check"_s, u"--mend"_s }).salida, "");
     EXPECT_FALSE(QFile::exists(Ruta(u"Zembro.tmp"_s)));
+}
+
+TEST_F(Check, MendSaysHowManyFindingsHaveNoOneAnswer)
+{
+    Cambia(u"Zembro.emu"_s, "'------\r\n[EOF]\r\n", "");
+    Pon(u"img/Luigi.gif"_s, UnGif());
+    Cambia(u"Zembro.rom"_s, "Super Mario\"\r\n", "Super Mario\"\r\nGONE.NES,\"Gone\"\r\n");
+    const QByteArray dicho = "zembro: Findings that have no one answer: 2; check names them.\n";
+    const Respuesta muestra = Zembro({ u"check"_s, u"--mend"_s });
+    EXPECT_EQ(muestra.estado, companion::Hallazgos);
+    EXPECT_EQ(muestra.error, dicho);
+    EXPECT_EQ(Json({ u"check"_s, u"--mend"_s }, companion::Hallazgos)[u"remaining"_s].toInt(), 2);
+    const Respuesta escrito = Zembro({ u"check"_s, u"--mend"_s, u"--write"_s });
+    EXPECT_EQ(escrito.estado, companion::Hallazgos);
+    EXPECT_EQ(escrito.error, dicho);
+    EXPECT_EQ(clases().size(), 2);
+    const Respuesta nada = Zembro({ u"check"_s, u"--mend"_s });
+    EXPECT_EQ(nada.salida + nada.error, dicho);
+    EXPECT_EQ(nada.estado, companion::Hallazgos);
+}
+
+TEST_F(Check, ParametersWithoutTheirEndAreSaid_AndMendedWhereItsPlaceIsSure)
+{
+    const QByteArray entero = Bytes(u"Zembro.rom"_s);
+    for (const QByteArray &final : QByteArrayList { "", "\r\n", "\r\n\r\n" }) {
+        Pon(u"Zembro.rom"_s, entero.chopped(3) + final);
+        EXPECT_THAT(clases(), ElementsAre(u"block-without-end"_s));
+        EXPECT_TRUE(dicho().startsWith("Zembro.rom:7: The section of parameters has no closing apostrophe"))
+            << dicho().toStdString();
+        EXPECT_EQ(Zembro({ u"check"_s, u"--mend"_s, u"--write"_s }).estado, companion::Bien);
+        EXPECT_EQ(Bytes(u"Zembro.rom"_s), entero + final);
+        EXPECT_THAT(clases(), IsEmpty());
+    }
+    for (const QByteArray &resto :
+        QByteArrayList { "some line\r\n", " \r\n", "X,Sis,Uno,\"-a\r\n", "[EOF]\r\n", ",Sis,Uno,-a\r\n" }) {
+        Pon(u"Zembro.rom"_s, entero.chopped(3) + resto);
+        const QByteArray roto = Bytes(u"Zembro.rom"_s);
+        EXPECT_THAT(clases(), testing::Contains(u"missing-mark"_s)) << resto.toStdString();
+        EXPECT_EQ(Zembro({ u"check"_s, u"--mend"_s, u"--write"_s }).estado, companion::Hallazgos);
+        EXPECT_EQ(Bytes(u"Zembro.rom"_s), roto);
+    }
+}
+
+TEST_F(Check, WhatIsNoFileIsCounted_AndNamed)
+{
+    PonDirectorio(u"roms/saves"_s);
+    ASSERT_EQ(mkfifo(Ruta(u"roms/a.nes"_s).toUtf8().constData(), 0600), 0);
+    ASSERT_TRUE(QFile::link(Ruta(u"nothing"_s), Ruta(u"roms/b.nes"_s)));
+    PonDirectorio(u"roms/.hidden"_s);
+    Pon(u"dirs/readme.txt"_s, "x");
+    EXPECT_THAT(clases(), IsEmpty());
+    const QByteArray todo = dicho();
+    EXPECT_TRUE(todo.contains(
+        "Sis / Uno: 3 listed, 4 of another kind, 0 left out by the filters, 2 without a capture.\n"
+        "    3 are no files, but directories, pipes or the like: a.nes, b.nes, saves\n"))
+        << todo.toStdString();
+    EXPECT_TRUE(todo.contains(
+        "Sis / Dos: 1 listed, 1 of another kind, 0 left out by the filters, 0 without a capture.\n"
+        "    1 are no directories: readme.txt\n"));
+    EXPECT_EQ(Json({ u"check"_s })[u"pairs"_s][1][u"other_things"_s].toInt(), 3);
+    PonDirectorio(u"roms/zzz"_s);
+    EXPECT_TRUE(dicho().contains(
+        "    4 are no files, but directories, pipes or the like: a.nes, b.nes, saves ...\n"));
 }
 
 TEST_F(Check, MendIsForTheWholeDirectory)
@@ -299,6 +364,8 @@ TEST(MasParecido, IsTheNameThatDiffersLeast)
 {
     EXPECT_EQ(companion::MasParecido({ u"stella"_s, u"stelo"_s }, u"Stela"_s), u"stella"_s);
     EXPECT_EQ(companion::MasParecido({ u"mame"_s }, u"stella"_s), QString());
+    EXPECT_EQ(companion::MasParecido({ u"stellas"_s }, u"stela"_s, 1), QString());
+    EXPECT_EQ(companion::MasParecido({ u"stellas"_s }, u"stela"_s, 2), u"stellas"_s);
     EXPECT_EQ(companion::MasParecido({ u"ab"_s }, QString()), QString());
 }
 

@@ -3,6 +3,8 @@
 
 #include "companion/impedimento.h"
 
+#include "host/process.h"
+
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
@@ -112,6 +114,60 @@ TEST_F(CheckPair, BeginningsOfProgramsOfAnyBytesAreLookedAt)
     }
 }
 
+TEST_F(CheckPair, AnEmptyPathOfTheProgramIsSaidAsThat)
+{
+    Cambia(u"Zembro.emu"_s, "EXE=" + Ruta(u"emu/uno.sh"_s).toUtf8() + "\r\nXDI=NO.0", "EXE=\r\nXDI=NO.0");
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"no-program"_s));
+    const QByteArray vacia = "The path of the program is empty; name the program in the configuration.\n";
+    EXPECT_TRUE(dicho().contains("Zembro.emu:6: Sis / Uno: " + vacia)) << dicho().toStdString();
+    const Respuesta jugado = Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"mario"_s });
+    EXPECT_EQ(jugado.estado, companion::NoPudo);
+    EXPECT_TRUE(jugado.error.contains("Doesn't start: " + vacia)) << jugado.error.toStdString();
+}
+
+TEST_F(CheckPair, AProgramForAnotherProcessorIsSaid_WithWhich)
+{
+    QFile propio(QStringLiteral(ZEMBRO));
+    ASSERT_TRUE(propio.open(QIODevice::ReadOnly));
+    QByteArray bytes = propio.readAll();
+    bytes[18] = '\x08';
+    bytes[19] = '\x00';
+    PonPrograma(bytes);
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"foreign-program"_s));
+    const QByteArray texto = "The program " + Ruta(u"emu/uno.sh"_s).toUtf8() + " is for another processor: ";
+    EXPECT_TRUE(dicho().contains("Zembro.emu:6: Sis / Uno: " + texto + "MIPS.\n")) << dicho().toStdString();
+    const QJsonObject dicha = Json({ u"command"_s, u"Sis"_s, u"Uno"_s, u"mario"_s }, companion::Hallazgos);
+    EXPECT_EQ(dicha[u"problem"_s].toString().toUtf8(), texto + "MIPS.");
+    bytes[18] = '\x34';
+    bytes[19] = '\x12';
+    PonPrograma(bytes);
+    EXPECT_TRUE(dicho().contains(texto + "ELF 4660.\n")) << dicho().toStdString();
+}
+
+TEST_F(CheckPair, AMistypedProgramIsLookedForInThePathToo)
+{
+    PonGuion(u"bin/stellarium-emu"_s, "");
+    const QByteArray antes = qgetenv("PATH");
+    qputenv("PATH", Ruta(u"bin"_s).toUtf8());
+    host::rememberEnvironment();
+    const QByteArray entero = Bytes(u"Zembro.emu"_s);
+    const auto dichoDe = [&](const QByteArray &programa) {
+        Pon(u"Zembro.emu"_s,
+            QByteArray(entero).replace(
+                Ruta(u"emu/uno.sh"_s).toUtf8() + "\r\nXDI=NO.0", programa + "\r\nXDI=NO.0"));
+        return Zembro(SisUno).salida;
+    };
+    const QByteArray suya = "Zembro.emu:6: Sis / Uno: Perhaps this one is meant: "
+        + Ruta(u"bin/stellarium-emu"_s).toUtf8() + '\n';
+    for (const QByteArray &programa :
+        QByteArrayList { "/usr/games/stellarium-emu", "/gone/stelarium-emu", "/gone/Setllarium-emu" })
+        EXPECT_TRUE(dichoDe(programa).contains(suya)) << programa.toStdString();
+    for (const QByteArray &programa : QByteArrayList { "/gone/stellarium", "/gone/emu", "/gone/" })
+        EXPECT_FALSE(dichoDe(programa).contains("Perhaps")) << programa.toStdString();
+    qputenv("PATH", antes);
+    host::rememberEnvironment();
+}
+
 TEST_F(CheckPair, ATypeThatCannotMeetWhatLiesThereIsSaid)
 {
     Borra(u"img/mario.gif"_s);
@@ -209,11 +265,11 @@ TEST_F(CheckPair, ADirectoryThatCannotBeReadIsToldFromOneThatIsNotThere)
     const QByteArray sinDerecho =
         "This directory can't be read; the right to may be missing (chmod u+rx): " + base;
     for (const QByteArray &cual : QByteArrayList { "listed/", "closed/" })
-        EXPECT_EQ(dichos(base + cual).count(sinDerecho + cual.chopped(1) + '\n'), 2)
+        EXPECT_EQ(dichos(base + cual).count(sinDerecho + cual + '\n'), 2)
             << cual.toStdString() << dichos(base + cual).toStdString();
     EXPECT_EQ(dichos(base + "closed/inner/").count(sinDerecho + "closed\n"), 2);
-    EXPECT_EQ(dichos(base + "afile/").count("This is no directory: " + base + "afile\n"), 2);
-    EXPECT_EQ(dichos(base + "gone/a/").count("There is no such directory: " + base + "gone/a\n"), 2);
+    EXPECT_EQ(dichos(base + "afile/").count("This is no directory: " + base + "afile/\n"), 2);
+    EXPECT_EQ(dichos(base + "gone/a/").count("There is no such directory: " + base + "gone/a/\n"), 2);
     chmod(Ruta(u"closed"_s).toUtf8().constData(), 0700);
 }
 
@@ -223,6 +279,6 @@ TEST_F(CheckPair, WhatFailsIsSaidInTheLanguageOfTheSettings)
         Bytes(u"LNG/ZB-ENG.LNG"_s).replace("There is no such directory", "No existe este directorio"));
     PonAjustes(u"ZB-ESP.LNG"_s);
     Cambia(u"Zembro.emu"_s, "roms/\r\n", "gone/\r\n");
-    EXPECT_TRUE(dicho().contains("No existe este directorio: " + Ruta(u"gone"_s).toUtf8()))
+    EXPECT_TRUE(dicho().contains("No existe este directorio: " + Ruta(u"gone/"_s).toUtf8()))
         << dicho().toStdString();
 }
