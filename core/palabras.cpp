@@ -50,6 +50,8 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zem_NoDOS0", &P::Zem_NoDOS0 },
         { u"Zem_NombreDOS", &P::Zem_NombreDOS },
         { u"Zem_LargoDOS", &P::Zem_LargoDOS },
+        { u"Zem_NoWindows0", &P::Zem_NoWindows0 },
+        { u"Zem_NombreWin", &P::Zem_NombreWin },
         { u"Zem_SignoDOS", &P::Zem_SignoDOS },
         { u"Zem_Lista1", &P::Zem_Lista1 },
         { u"Zem_Combo1", &P::Zem_Combo1 },

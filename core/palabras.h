@@ -65,6 +65,8 @@ struct Palabras {
     QString Zem_NoDOS0 = QStringLiteral("DOS no lo admite");
     QString Zem_NombreDOS = QStringLiteral("DOS no abre un archivo de este nombre: cámbialo.");
     QString Zem_LargoDOS = QStringLiteral("La línea de órdenes pasa de 126 caracteres.");
+    QString Zem_NoWindows0 = QStringLiteral("Windows no lo admite");
+    QString Zem_NombreWin = QStringLiteral("Windows no abre un archivo de este nombre: cámbialo.");
     QString Zem_SignoDOS = QStringLiteral("Los parámetros tienen un signo que DOS no admite.");
 
     // Names of controls that show no word, as screen readers say them.

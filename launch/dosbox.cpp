@@ -1,19 +1,9 @@
 #include "launch/dosbox.h"
 
-#include "launch/destino.h"
-#include "launch/intenta.h"
-#include "launch/temporal.h"
-
-#include "host/descriptor.h"
 #include "host/encoding.h"
-#include "host/paths.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <csignal>
 
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -22,16 +12,14 @@ namespace launch {
 
 namespace {
 
-const QString Prefijo = u"ZB-DOS-"_s; // and the process, and a number
-
 constexpr qsizetype MasLargoElLugar = 200; // DOSBox keeps a whole path of this disk in 512 bytes
 
-// In a configuration a quote can't be said, nor a line end.
+// In a configuration a quote can't be said, nor a line end; what isn't ASCII is read by one DOSBox as it
+// stands and by another by a code page.
 bool seDiceEnLaConfiguracion(const QByteArray &lugar)
 {
-    return lugar.size() <= MasLargoElLugar && std::ranges::none_of(lugar, [](char c) {
-        return c == '"' || c == 127 || static_cast<unsigned char>(c) < ' ';
-    });
+    return lugar.size() <= MasLargoElLugar
+        && std::ranges::none_of(lugar, [](char c) { return c == '"' || c < ' ' || c >= 127; });
 }
 
 // With several drives for CDs DOSBox wants their letters in a row.
@@ -69,48 +57,6 @@ QByteArrayList lineas(const Encargo &encargo)
     return dichas;
 }
 
-void vacia(const QString &ruta)
-{
-    const QByteArray lugar = host::nameToDisk(ruta) + '/';
-    Intenta([&] {
-        for (const QByteArray &nombre : host::listInDiskOrder(ruta))
-            unlink((lugar + nombre).constData());
-    });
-    rmdir(lugar.constData());
-}
-
-// What killed runs left.
-void barre(const QString &temporal)
-{
-    QStringList nombres;
-    Intenta([&] { nombres = host::listDirectories(temporal); });
-    for (const QString &nombre : nombres) {
-        const pid_t proceso = nombre.startsWith(Prefijo) ? nombre.split(u'-').value(2).toInt() : 0;
-        if (proceso > 0 && kill(proceso, 0) != 0 && errno == ESRCH && EsDirectorioPropio(temporal + nombre))
-            vacia(temporal + nombre);
-    }
-}
-
-QString nuevaCarpeta()
-{
-    static int numero = 0;
-    const QString temporal = DirectorioTemporal();
-    if (temporal.isEmpty())
-        return {};
-    barre(temporal);
-    const QString ruta = temporal + Prefijo + QString::number(getpid()) + u'-' + QString::number(++numero);
-    return mkdir(host::nameToDisk(ruta).constData(), 0700) == 0 ? ruta : QString();
-}
-
-bool escribe(const QString &ruta, const QByteArray &nombre, const QByteArray &bytes)
-{
-    const host::Descriptor directorio(
-        open(host::nameToDisk(ruta).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    FicheroNuevo fichero(directorio);
-    return fichero.Abierto() && fichero.Escribe(bytes.constData(), bytes.size())
-        && fichero.Termina(nombre, false);
-}
-
 } // namespace
 
 QByteArray ConfiguracionDOS(const Encargo &encargo)
@@ -133,35 +79,28 @@ QStringList ArgumentosDeDOSBox(const Encargo &encargo)
 }
 
 CarpetaDOS::CarpetaDOS(Encargo encargo)
-    : m_ruta(nuevaCarpeta())
 {
-    if (m_ruta.isEmpty() || !enlaza(encargo.montajes)
-        || !escribe(m_ruta, "dosbox.conf", ConfiguracionDOS(encargo)))
+    if (m_carpeta.Ruta().isEmpty() || !enlaza(encargo.montajes)
+        || !m_carpeta.Escribe("dosbox.conf", ConfiguracionDOS(encargo)))
         return;
     m_argumentos = encargo.argumentos;
     if (!encargo.herramienta.endsWith(u"dosbox-staging")) // which takes the user's own anyway
         m_argumentos += u"-userconf"_s;
-    m_argumentos += { u"-conf"_s, m_ruta + u"/dosbox.conf"_s };
-}
-
-CarpetaDOS::~CarpetaDOS()
-{
-    m_apodos.clear();
-    if (!m_ruta.isEmpty())
-        vacia(m_ruta);
+    m_argumentos += { u"-conf"_s, m_carpeta.Ruta() + u"/dosbox.conf"_s };
 }
 
 // A place that can't be said is reached by a link.
 bool CarpetaDOS::enlaza(std::vector<UnidadesDOS::Montaje> &montajes)
 {
+    const QByteArray lugar = host::nameToDisk(m_carpeta.Ruta());
     for (UnidadesDOS::Montaje &montaje : montajes) {
         if (!montaje.apodos.empty()) {
-            m_apodos.push_back(std::make_unique<CarpetaDeApodos>(host::nameToDisk(m_ruta), montaje));
+            m_apodos.push_back(std::make_unique<CarpetaDeApodos>(lugar, montaje));
             montaje.lugar = m_apodos.back()->Lugar();
         }
         if (seDiceEnLaConfiguracion(montaje.lugar))
             continue;
-        const QByteArray enlace = host::nameToDisk(m_ruta) + '/' + montaje.letra;
+        const QByteArray enlace = lugar + '/' + montaje.letra;
         if (symlink(montaje.lugar.constData(), enlace.constData()) != 0)
             return false;
         montaje.lugar = enlace;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "launch/apodos.h"
+#include "launch/carpetadecorrida.h"
 #include "launch/encargo.h"
 
 #include <QByteArray>
@@ -19,13 +20,10 @@ QByteArray ConfiguracionDOS(const Encargo &encargo);
 // What starts the same run without a file. Places that can't be said there are said as they are.
 QStringList ArgumentosDeDOSBox(const Encargo &encargo);
 
-// The files of one run, in a directory of their own among the temporary ones; they go with it.
+// The files of one run; they go with it.
 class CarpetaDOS {
 public:
     explicit CarpetaDOS(Encargo encargo);
-    ~CarpetaDOS();
-    CarpetaDOS(const CarpetaDOS &) = delete;
-    CarpetaDOS &operator=(const CarpetaDOS &) = delete;
 
     // What is to be started; empty if the files couldn't be written.
     const QStringList &Argumentos() const { return m_argumentos; }
@@ -33,7 +31,7 @@ public:
 private:
     bool enlaza(std::vector<UnidadesDOS::Montaje> &montajes);
 
-    QString m_ruta;
+    CarpetaDeCorrida m_carpeta;
     std::vector<std::unique_ptr<CarpetaDeApodos>> m_apodos;
     QStringList m_argumentos;
 };

@@ -114,17 +114,14 @@ Encargo paraWindows(const LineaDeOrden &orden, const QString &programa)
     encargo.herramienta = primeraDe({ u"wine"_s, u"wine64"_s });
     if (encargo.herramienta.isEmpty())
         encargo.traba = Traba::SinHerramienta;
-    const std::vector<host::Drive> unidades = UnidadesDeWine();
-    host::ArgumentSplitter divisor;
-    for (std::size_t i = 1; i < orden.Piezas().size(); ++i) {
-        const LineaDeOrden::Pieza &pieza = orden.Piezas()[i];
-        if (pieza.ruta)
-            divisor.addWhole(RutaDeWindows(pieza.enDisco, unidades));
-        else
-            divisor.addText(pieza.texto);
-    }
-    encargo.argumentos =
-        QStringList { encargo.herramienta, RutaDeWindows(programa, unidades) } + divisor.arguments();
+    else if (!SeDiceEnWindows(programa))
+        encargo.traba = Traba::Nombre;
+    if (encargo.traba == Traba::Nombre)
+        encargo.trabadoEn = programa;
+    encargo.orden = orden;
+    encargo.programa = programa;
+    encargo.apodos = ApodosDeWindows(orden);
+    encargo.argumentos = ArgumentosDeWine(encargo, [](const QString &enDisco) { return enDisco; });
     return encargo;
 }
 
@@ -151,7 +148,7 @@ QString TextoDe(Traba traba, Corredor corredor, const core::Palabras &palabras)
     case Traba::SinHerramienta:
         return corredor == Corredor::Wine ? palabras.Zem_FaltaWine : palabras.Zem_FaltaDOSBox;
     case Traba::Nombre:
-        return palabras.Zem_NombreDOS;
+        return corredor == Corredor::Wine ? palabras.Zem_NombreWin : palabras.Zem_NombreDOS;
     case Traba::Largo:
         return palabras.Zem_LargoDOS;
     case Traba::Signo:
@@ -162,9 +159,11 @@ QString TextoDe(Traba traba, Corredor corredor, const core::Palabras &palabras)
     return {};
 }
 
-QString TituloDe(Traba traba, const core::Palabras &palabras)
+QString TituloDe(Traba traba, Corredor corredor, const core::Palabras &palabras)
 {
-    return traba == Traba::SinHerramienta ? palabras.Zem_Falta0 : palabras.Zem_NoDOS0;
+    if (traba == Traba::SinHerramienta)
+        return palabras.Zem_Falta0;
+    return corredor == Corredor::Wine ? palabras.Zem_NoWindows0 : palabras.Zem_NoDOS0;
 }
 
 } // namespace launch

@@ -20,7 +20,7 @@ enum class Corredor { Ninguno, DOSBox, Wine };
 enum class Traba {
     Ninguna,
     SinHerramienta, // neither is installed
-    Nombre, // one that DOS can't open
+    Nombre, // one that the other system can't open
     Largo, // of the line
     Signo // that DOS's shell would take for something else, or that its code page lacks
 };
@@ -30,11 +30,16 @@ struct Encargo {
     QString herramienta; // the path of DOSBox or Wine
     Traba traba = Traba::Ninguna;
     QString trabadoEn; // the file, or the line
-    QStringList argumentos; // to be started; for DOSBox there is a configuration to be made first
+    QStringList
+        argumentos; // to be started; there may be files to be made first: see CarpetaDOS and CarpetaDeWine
 
     std::vector<UnidadesDOS::Montaje> montajes;
     QByteArray programaDOS; // "C:\EMUS\NES.EXE"
     QByteArray colaDOS; // what stands behind it, blanks and all, in DOS's code page
+
+    LineaDeOrden orden; // for Wine: the line itself, and its program in its true spelling
+    QString programa;
+    std::vector<UnidadesDOS::Montaje> apodos; // files of it that Wine can't open by their names
 };
 
 // By what lies on the disk now; nothing is started or written. A program that isn't found is taken for one of
@@ -43,6 +48,6 @@ Encargo EncargoDe(const LineaDeOrden &orden);
 
 // In the user's language; empty if nothing hinders it.
 QString TextoDe(Traba traba, Corredor corredor, const core::Palabras &palabras);
-QString TituloDe(Traba traba, const core::Palabras &palabras);
+QString TituloDe(Traba traba, Corredor corredor, const core::Palabras &palabras);
 
 } // namespace launch

@@ -13,6 +13,7 @@
 #include "launch/obras.h"
 #include "launch/piezas.h"
 #include "launch/vbunzbas.h"
+#include "launch/wine.h"
 
 #include "host/aside.h"
 #include "host/encoding.h"
@@ -354,9 +355,12 @@ void ObrasDeVerdad::Arranca(const LineaDeOrden &orden, const QString &exe)
         return;
     }
     if (encargo.traba != Traba::Ninguna) {
-        Aviso(TituloDe(encargo.traba, M.Palabras), TextoDe(encargo.traba, encargo.corredor, M.Palabras));
+        Aviso(TituloDe(encargo.traba, encargo.corredor, M.Palabras),
+            TextoDe(encargo.traba, encargo.corredor, M.Palabras));
         return;
     }
+    if (encargo.corredor == Corredor::Wine)
+        return Corre(CarpetaDeWine(encargo).Argumentos());
     if (encargo.corredor != Corredor::DOSBox)
         return Corre(encargo.argumentos);
     const CarpetaDOS carpeta(encargo);

@@ -1,6 +1,11 @@
 #include "launch/wine.h"
 
+#include "host/encoding.h"
+#include "host/process.h"
+
 #include <QDir>
+#include <QHash>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -10,17 +15,50 @@ namespace launch {
 
 namespace {
 
-bool seDiceEnWindows(QStringView ruta)
+constexpr char PrimerApodo = 'A';
+constexpr char UltimoApodo = 'Z';
+
+bool esMalo(QChar letra)
 {
-    for (const QStringView parte : ruta.split(u'/')) {
-        const auto malo = [](QChar c) { return c < u' ' || QStringView(u"\\:*?\"<>|").contains(c); };
-        if (parte.endsWith(u' ') || parte.endsWith(u'.') || std::ranges::any_of(parte, malo))
-            return false;
+    return letra < u' ' || QStringView(u"\\:*?\"<>|").contains(letra);
+}
+
+// "CON.NES" too: a device of DOS, in whatever directory.
+bool esDispositivo(const QString &nombre)
+{
+    static const QRegularExpression dispositivo(
+        u"^(CON|PRN|AUX|NUL|(COM|LPT)[1-9]) *(\\..*)?$"_s, QRegularExpression::CaseInsensitiveOption);
+    return dispositivo.match(nombre).hasMatch();
+}
+
+QString nombreDe(const QString &ruta)
+{
+    return ruta.sliced(ruta.lastIndexOf(u'/') + 1);
+}
+
+// What Windows can't say replaced, or gone at the end.
+QString apodoDe(QString nombre)
+{
+    for (QChar &letra : nombre) {
+        if (esMalo(letra))
+            letra = u'_';
     }
-    return true;
+    while (nombre.endsWith(u' ') || nombre.endsWith(u'.'))
+        nombre.chop(1);
+    if (esDispositivo(nombre))
+        nombre.prepend(u'_');
+    return nombre.isEmpty() ? u"GAME"_s : nombre;
 }
 
 } // namespace
+
+bool SeDiceEnWindows(const QString &ruta)
+{
+    return std::ranges::all_of(QDir::cleanPath(ruta).split(u'/'), [](const QString &parte) {
+        return !parte.endsWith(u' ') && !parte.endsWith(u'.') && !esDispositivo(parte)
+            && std::ranges::none_of(parte, esMalo);
+    });
+}
 
 QString RutaDeWindows(const QString &enDisco, const std::vector<host::Drive> &unidades)
 {
@@ -33,7 +71,7 @@ QString RutaDeWindows(const QString &enDisco, const std::vector<host::Drive> &un
         if (dentro && (!mejor || unidad.place.size() > mejor->place.size()))
             mejor = &unidad;
     }
-    if (!mejor || !ruta.startsWith(u'/') || !seDiceEnWindows(ruta))
+    if (!mejor || !ruta.startsWith(u'/') || !SeDiceEnWindows(ruta))
         return enDisco;
     QString resto = ruta.sliced(mejor->place == u"/" ? 0 : mejor->place.size());
     if (!resto.startsWith(u'/'))
@@ -50,6 +88,54 @@ std::vector<host::Drive> UnidadesDeWine()
     if (!unidades.empty())
         return unidades;
     return { { u'C', prefijo + u"/drive_c"_s }, { u'Z', u"/"_s } };
+}
+
+std::vector<UnidadesDOS::Montaje> ApodosDeWindows(const LineaDeOrden &orden)
+{
+    std::vector<UnidadesDOS::Montaje> apodos;
+    char letra = PrimerApodo;
+    for (std::size_t i = 1; i < orden.Piezas().size(); ++i) {
+        const QString &enDisco = orden.Piezas()[i].enDisco;
+        if (!enDisco.startsWith(u'/') || enDisco.endsWith(u'/') || SeDiceEnWindows(enDisco)
+            || letra > UltimoApodo)
+            continue;
+        const QString nombre = nombreDe(enDisco);
+        apodos.push_back({ letra++, host::nameToDisk(enDisco.chopped(nombre.size() + 1)), false,
+            { { host::nameToDisk(apodoDe(nombre)), host::nameToDisk(nombre) } } });
+    }
+    return apodos;
+}
+
+QStringList ArgumentosDeWine(const Encargo &encargo, const std::function<QString(const QString &)> &lugarDe)
+{
+    const std::vector<host::Drive> unidades = UnidadesDeWine();
+    const std::vector<LineaDeOrden::Pieza> &piezas = encargo.orden.Piezas();
+    host::ArgumentSplitter divisor;
+    for (std::size_t i = 1; i < piezas.size(); ++i) {
+        if (piezas[i].ruta)
+            divisor.addWhole(RutaDeWindows(lugarDe(piezas[i].enDisco), unidades));
+        else
+            divisor.addText(piezas[i].texto);
+    }
+    return QStringList { encargo.herramienta, RutaDeWindows(encargo.programa, unidades) }
+    + divisor.arguments();
+}
+
+CarpetaDeWine::CarpetaDeWine(const Encargo &encargo)
+    : m_argumentos(encargo.argumentos)
+{
+    if (encargo.apodos.empty() || m_carpeta.emplace().Ruta().isEmpty())
+        return;
+    const QByteArray dentroDe = host::nameToDisk(m_carpeta->Ruta());
+    QHash<QString, QString> lugares;
+    for (const UnidadesDOS::Montaje &montaje : encargo.apodos) {
+        m_apodos.push_back(std::make_unique<CarpetaDeApodos>(dentroDe, montaje));
+        const UnidadesDOS::Apodo &apodo = montaje.apodos[0];
+        lugares[host::nameFromDisk(montaje.lugar + '/' + apodo.fichero)] =
+            host::nameFromDisk(m_apodos.back()->Lugar() + '/' + apodo.nombre);
+    }
+    m_argumentos =
+        ArgumentosDeWine(encargo, [&](const QString &enDisco) { return lugares.value(enDisco, enDisco); });
 }
 
 } // namespace launch

@@ -73,6 +73,8 @@ const QStringList MissingTools { u"Zem_FaltaEditor"_s, u"Zem_FaltaEdit"_s, u"Zem
     u"Zem_FaltaGestor"_s, u"Zem_FaltaDOSBox"_s, u"Zem_FaltaWine"_s };
 const QString NotForDOS = u"Zem_NoDOS0"_s;
 const QStringList ReasonsOfDOS { u"Zem_NombreDOS"_s, u"Zem_LargoDOS"_s, u"Zem_SignoDOS"_s };
+const QString NotForWindows = u"Zem_NoWindows0"_s;
+const QString ReasonOfWindows = u"Zem_NombreWin"_s;
 
 // As wide as what they show, or shown to nobody: menu entries, plain boxes, tips, and what screen readers
 // say.
@@ -227,8 +229,8 @@ TEST(FitOfTexts, IsMeasuredForEveryKey)
 {
     QStringList measured = LabelsOfPortada + Unbound + JoinedInNotices + MissingTools + NotDescribed + NotKept
         + ReasonsOfDOS + keysOf(Inputs + Questions + Warnings + Notices)
-        + QStringList { u"TXT_Cargando"_s, u"TXT_Directorios"_s, MissingTool, NotForDOS, AskForNote,
-              NotNoted };
+        + QStringList { u"TXT_Cargando"_s, u"TXT_Directorios"_s, MissingTool, NotForDOS, NotForWindows,
+              ReasonOfWindows, AskForNote, NotNoted };
     for (const Shown &shown : ShownByPortada)
         measured += shown.key;
     measured += keysShownBy<ConfigScreens>() + keysShownBy<OptionScreens>();
@@ -312,6 +314,7 @@ TEST_P(TextsOfCaja, ShowWholeInNoticesOfWhatDOSRefuses)
 {
     for (const QString &reason : ReasonsOfDOS)
         expectShown(Box::Notice, text(NotForDOS), text(reason));
+    expectShown(Box::Notice, text(NotForWindows), text(ReasonOfWindows));
 }
 
 TEST_P(TextsOfCaja, ShowWholeInNotices)

@@ -254,6 +254,55 @@ TEST_F(EncargoTest, WineGetsPathsOfItsPrefix)
     EXPECT_EQ(DirectorioDelJuego(), "no game");
 }
 
+TEST_F(EncargoTest, AGameThatWindowsCantOpenByItsNameGetsAnotherOne)
+{
+    Pon(ParaWindows);
+    PonHerramienta("wine");
+    for (const auto &[nombre, apodo] : std::initializer_list<std::pair<QByteArray, QByteArray>> {
+             { "what?.nes", "what_.nes" }, { "a\\b*.nes", "a_b_.nes" }, { "ends. ", "ends" },
+             { " .. ", "GAME" }, { "Con.nes", "_Con.nes" }, { "com1", "_com1" } }) {
+        PonROM(nombre, nombre);
+        pantalla.lista1 = host::nameFromDisk(nombre);
+        Juega();
+        const QByteArray dicho = Argumentos().value(1);
+        EXPECT_TRUE(dicho.startsWith("Z:" + place("tmp/ZB-DOS-").replace('/', '\\'))) << dicho.constData();
+        EXPECT_TRUE(dicho.endsWith("\\files-A\\" + apodo)) << dicho.constData();
+    }
+    EXPECT_THAT(Avisos(), IsEmpty());
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
+}
+
+TEST_F(EncargoTest, WhatSuchAGameSavesStaysBesideIt)
+{
+    Pon(ParaWindows);
+    makeFile("bin/wine",
+        "#!/bin/sh\ncd '" + place("tmp") + "'/ZB-DOS-*/files-A && echo saved > what_.sav && cat what_.nes > '"
+            + place("out/read") + "'\n");
+    setMode("bin/wine", 0755);
+    qputenv("PATH", place("bin") + ":/usr/bin:/bin");
+    host::rememberEnvironment();
+    PonROM("what?.nes", "the game");
+    pantalla.lista1 = u"what?.nes"_s;
+    Juega();
+    EXPECT_EQ(bytes("out/read"), "the game");
+    EXPECT_EQ(bytes("roms/what_.sav"), "saved\n");
+    EXPECT_EQ(bytes("roms/what?.nes"), "the game");
+}
+
+TEST_F(EncargoTest, AnEmulatorThatWindowsCantOpenByItsNameIsRefused)
+{
+    PonHerramienta("wine");
+    for (const QByteArray &directorio : { QByteArray("a?b"), QByteArray("a\\b"), QByteArray("ends.") }) {
+        makeDirectory(directorio);
+        makeFile(directorio + "/nes.exe", ParaWindows);
+        M.Cat_EXE(3, 2) = u"EXE="_s + host::nameFromDisk(place(directorio)) + u"/nes.exe"_s;
+        pantalla.llamadas.clear();
+        Juega();
+        EXPECT_EQ(Avisos(), QStringList { u"No Windows: Name of Windows"_s }) << directorio.constData();
+    }
+    EXPECT_FALSE(HuboJuego());
+}
+
 TEST(RutasDeWindows, AreOnTheNearestDrive)
 {
     const std::vector<host::Drive> unidades { { u'C', u"/w/drive_c"_s }, { u'Z', u"/"_s } };
@@ -265,6 +314,9 @@ TEST(RutasDeWindows, AreOnTheNearestDrive)
     EXPECT_EQ(ruta(u"/w/../roms/./x"_s), u"Z:\\roms\\x"_s);
     EXPECT_EQ(ruta(u"mario.nes"_s), u"mario.nes"_s);
     EXPECT_EQ(ruta(u"/a:b/x"_s), u"/a:b/x"_s) << "Windows has no such name";
+    EXPECT_EQ(ruta(u"/control/com10/auxiliary.c"_s), u"Z:\\control\\com10\\auxiliary.c"_s);
+    EXPECT_TRUE(launch::SeDiceEnWindows(u"/roms/./../x/"_s));
+    EXPECT_EQ(ruta(u"/nul/x"_s), u"/nul/x"_s);
     EXPECT_EQ(ruta(u"/a\\b"_s), u"/a\\b"_s);
     EXPECT_EQ(launch::RutaDeWindows(u"/x"_s, { { u'C', u"/w"_s } }), u"/x"_s);
 }

@@ -183,6 +183,8 @@ void Escenario::PonPalabrasDeEncargo()
     M.Palabras.Zem_NombreDOS = u"Name"_s;
     M.Palabras.Zem_LargoDOS = u"Length"_s;
     M.Palabras.Zem_SignoDOS = u"Sign"_s;
+    M.Palabras.Zem_NoWindows0 = u"No Windows"_s;
+    M.Palabras.Zem_NombreWin = u"Name of Windows"_s;
 }
 
 void Escenario::Juega()
