@@ -38,7 +38,7 @@ DosTest::~DosTest()
 
 void DosTest::SetUp()
 {
-    if (host::findInPath(u"dosbox"_s).isEmpty())
+    if (host::findInPath(u"dosbox"_s).isEmpty() && host::findInPath(u"dosbox-x"_s).isEmpty())
         GTEST_SKIP() << "DOSBox isn't installed.";
     if (!QFile::exists(programs() + u"/tells.com"_s))
         GTEST_SKIP() << "There was no nasm to assemble the programs for DOS.";
