@@ -1,5 +1,6 @@
 #include "finder/configura.h"
 
+#include "finder/dedos.h"
 #include "finder/eleccion.h"
 #include "finder/incorporacion.h"
 #include "finder/juegos.h"
@@ -87,8 +88,16 @@ QString Trabajo::CatalogoCon(const QString &texto)
     leeCatalogo(*m_antes, texto);
     const Lugares lugares = LugaresDeLaMaquina();
     const auto ninguno = std::make_unique<core::Modulo>();
-    m_enLaMaquina = Busca(*m_base, *ninguno, m_fichas, lugares, m_encargo.directorio);
-    const std::vector<Hallazgo> nuevos = Busca(*m_base, *m_antes, m_fichas, lugares, m_encargo.directorio);
+    const std::vector<FichaDOS> fichasDOS = LeeFichasDOS(TablaDOSDelPrograma());
+    const std::vector<EnUnidad> enUnidades = RecorreUnidades(fichasDOS, host::drives());
+    const auto busca = [&](const core::Modulo &catalogo) {
+        std::vector<Hallazgo> todos = Busca(*m_base, catalogo, m_fichas, lugares, m_encargo.directorio);
+        const std::vector<Hallazgo> deDOS = HallazgosDOS(*m_base, catalogo, enUnidades, m_encargo.directorio);
+        todos.insert(todos.end(), deDOS.begin(), deDOS.end());
+        return todos;
+    };
+    m_enLaMaquina = busca(*ninguno);
+    const std::vector<Hallazgo> nuevos = busca(*m_antes);
     const std::vector<Hallazgo> elegidos = m_encargo.todo
         ? ConMAMEDetras(nuevos)
         : Elige(nuevos, *m_antes, [this](const Hallazgo &hallazgo) { return hayJuegos(hallazgo); });

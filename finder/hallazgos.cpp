@@ -6,7 +6,6 @@
 #include "host/textsource.h"
 
 #include <QHash>
-#include <QSet>
 
 #include <optional>
 
@@ -15,16 +14,6 @@ using namespace Qt::StringLiterals;
 namespace finder {
 
 namespace {
-
-QSet<QString> nombresConfigurados(const core::Modulo &catalogo)
-{
-    QSet<QString> nombres;
-    for (int s = 0; s <= catalogo.Indice_Sistema; ++s) {
-        for (int e = 1; e <= core::TotalEmuladores(catalogo, s); ++e)
-            nombres += catalogo.Cat_Nombre(s, e);
-    }
-    return nombres;
-}
 
 // The emulator of a card with its paths, if all of it is on the machine.
 std::optional<Hallazgo> hallazgoDe(
@@ -65,6 +54,16 @@ std::optional<Hallazgo> hallazgoDe(
 
 } // namespace
 
+QSet<QString> NombresConfigurados(const core::Modulo &catalogo)
+{
+    QSet<QString> nombres;
+    for (int s = 0; s <= catalogo.Indice_Sistema; ++s) {
+        for (int e = 1; e <= core::TotalEmuladores(catalogo, s); ++e)
+            nombres += catalogo.Cat_Nombre(s, e);
+    }
+    return nombres;
+}
+
 QString NombreDeDirectorio(QString sistema)
 {
     return sistema.replace(u'/', u'-');
@@ -99,7 +98,7 @@ std::vector<Hallazgo> Busca(const core::Modulo &base, const core::Modulo &catalo
     QHash<QString, const Ficha *> porNombre;
     for (const Ficha &ficha : fichas)
         porNombre[u'+' + ficha.emulador] = &ficha;
-    const QSet<QString> configurados = nombresConfigurados(catalogo);
+    const QSet<QString> configurados = NombresConfigurados(catalogo);
 
     std::vector<Hallazgo> hallazgos;
     for (int s = 0; s <= base.Indice_Sistema; ++s) {

@@ -7,6 +7,7 @@
 #include "finder/fichas.h"
 #include "finder/lugares.h"
 
+#include <QSet>
 #include <QString>
 
 #include <vector>
@@ -27,6 +28,9 @@ struct Hallazgo {
 
 // The catalogue tables of a file's text, read by the program's own reader; fails as that does.
 void LeeTablas(core::Modulo &M, const QString &texto);
+
+// The emulators of a catalogue, "+" ahead of each.
+QSet<QString> NombresConfigurados(const core::Modulo &catalogo);
 
 // A system's name as that of a directory.
 QString NombreDeDirectorio(QString sistema);

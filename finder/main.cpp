@@ -8,6 +8,9 @@
 
 #include "host/encoding.h"
 #include "host/failure.h"
+#include "host/paths.h"
+
+#include <QDir>
 
 #include <cstdio>
 
@@ -26,6 +29,8 @@ int main(int argc, char **argv)
     const auto say = [](FILE *where, const QString &text) {
         std::fprintf(where, "%s\n", host::nameToDisk(text).constData());
     };
+    // The drives are those of the directory.
+    host::setProgramDirectory(QDir::cleanPath(QDir::current().absoluteFilePath(arguments[1])));
     try {
         const finder::Resultado resultado =
             finder::Configura({ arguments[0], arguments[1], arguments.value(2), todo });

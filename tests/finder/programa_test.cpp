@@ -168,6 +168,21 @@ TEST_F(Finder, LeavesTheCatalogueAsItWasWhereADirectoryCannotBeMade)
     EXPECT_THAT(errors.toStdString(), HasSubstr("roms/Games-Home"));
 }
 
+TEST_F(Finder, FindsEmulatorsForDosBelowTheDrivesOfTheDirectory)
+{
+    maquina.PonFichero(u"old/EMUS/NESTICLE.EXE"_s, "MZ" + QByteArray(100'000, '\0'));
+    maquina.PonFichero(u"Zembro Dir/Zembro.uni"_s, "C=../old\r\n");
+    maquina.PonFichero(u"Zembro Dir/Zembro.sye"_s,
+        "-NES\r\nWEB1=w\r\n*.NES\r\n'\r\n+Nes Test\r\nWEB2=n\r\n" + Closing + "[EOF]\r\n");
+    maquina.PonFichero(u"Zembro Dir/roms/NES/game.nes"_s);
+    ASSERT_EQ(run(), 0) << errors.toStdString();
+    EXPECT_EQ(catalogue(),
+        "' Comment\r\n-NES\r\nWEB1=w\r\n*.NES\r\n'\r\n+NESticle\r\nWEB2=\r\n"
+        "EXE=C:\\EMUS\\NESTICLE.EXE\r\nXDI=0\r\nROM=roms/NES/\r\nIMG=capturas/NES/\r\nPAR1=\r\n"
+        "PAR2=\r\n"
+            + Closing + "[EOF]\r\n");
+}
+
 TEST_F(Finder, NamesTheFileThatIsMissing)
 {
     EXPECT_EQ(run({ maquina.Ruta(u"none"_s), maquina.Ruta(u"Zembro Dir"_s),
