@@ -16,6 +16,7 @@ std::span<const Tema> Temas()
         { "notas", probarNotas },
         { "nombrescortos", probarNombresCortos },
         { "rutas", probarRutas },
+        { "unidades", probarUnidades },
         { "ordenes", probarOrdenes },
         { "archivos", probarArchivos },
         { "pcx", probarPcx },

@@ -14,6 +14,7 @@ void probarDocumentos(Bytes bytes); // texts that emulators come with
 void probarNotas(Bytes bytes); // reading notes and parameters
 void probarNombresCortos(Bytes bytes); // short forms of names
 void probarRutas(Bytes bytes); // paths and what they lead to
+void probarUnidades(Bytes bytes); // drives, and what programs of other systems get of paths
 void probarOrdenes(Bytes bytes); // command lines, and the file chosen out of an archive
 void probarArchivos(Bytes bytes); // unpacking
 void probarPcx(Bytes bytes); // pictures for the converter
