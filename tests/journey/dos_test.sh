@@ -1,6 +1,6 @@
 #!/bin/bash
-# An old program directory, made on two drives of another system, is taken over, and its game for DOS played from the main
-# screen: dos_test.sh BUILD. Skipped, with status 77, where there is no DOSBox or no nasm.
+# An old program directory, made on two drives of another system, is taken over, and its games for DOS are played from the
+# main screen, ten emulators of five systems: dos_test.sh BUILD. Skipped, with status 77, where there is no DOSBox or no nasm.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 if [ "${1:-}" != --inside ]; then
@@ -31,23 +31,82 @@ printf '%s\r\n' \' \' \' \' \' \' \' \' \' '' '[General]' 'LastSisUsed = 0' 'Las
     >"$work/program/Zembro.cfg"
 
 # The old machine's two disks.
-mkdir -p "$work/old c/EMUS/Painter 1" "$work/old c/ZEMBRO" "$work/cd/Roms"
-cp "$build/tests/dos/paints.com" "$work/old c/EMUS/Painter 1/PAINTS.COM"
-printf 'a picture' >"$work/cd/Roms/The first picture.pic"
-printf '%s\r\n' '-Pictures' 'WEB1=' '*.PIC' "'" '+Painter' 'WEB2=' 'EXE=C:\EMUS\PAINTER 1\PAINTS.COM' 'XDI=0' 'ROM=D:\ROMS\' \
-    'IMG=' 'PAR1=-A' 'PAR2=' "'------" '[EOF]' >"$work/old c/ZEMBRO/Zembro.emu"
-printf '%s\r\n' Pictures 'THE FIRST PICTURE.PIC,"First of all"' "'" '[EOF]' 'Parametros especificos' "'" , ',""' \
-    >"$work/old c/ZEMBRO/Zembro.rom"
+c="$work/old c" d=$work/cd
+mkdir -p "$c/EMUS/Painter 1" "$c/ZEMBRO" "$d/PROGS" "$d/Roms/Dirs/Game One" "$d/Roms/Zips" "$d/Roms/Accents" "$d/Roms/Notes"
+cp "$build/tests/dos/paints.com" "$c/EMUS/Painter 1/PAINTS.COM"
+printf 'a picture' >"$d/Roms/The first picture.pic"
+printf 'a second one' >"$d/Roms/Notes/The second picture.pic"
+printf 'a child' >"$d/Roms/Accents/niño.pic"
+printf 'zipped' >"$work/Long name inside.pic"
+for name in 'Zipped game.zip' super.zip 'Long Game (1).zip' alone.zip; do
+    (cd "$work" && zip -q "$d/Roms/Zips/$name" 'Long name inside.pic')
+done
+rm "$work/Long name inside.pic"
+for place in "$c/EMUS/ALPHA" "$c/EMUS/Beta the Second" "$c/EMUS/GAMMA" "$c/EMUS/DELTA" "$d/PROGS"; do
+    mkdir -p "$place"
+    cp "$build/tests/dos/tells.com" "$place/TELLS.COM"
+done
+pair() { # name, executable, type, games, parameters ahead and behind
+    printf '%s\r\n' "+$1" 'WEB2=' "EXE=$2" "XDI=$3" "ROM=$4" 'IMG=' "PAR1=$5" "PAR2=$6"
+}
+system() { printf '%s\r\n' "-$1" 'WEB1=' "${@:2}" "'"; }
+close_system() { printf '%s\r\n' "'------"; }
+next_pair() { printf '%s\r\n' "'"; }
+{
+    system Art '*.PIC' '*.ZIP'
+    pair Painter 'C:\EMUS\PAINTER 1\PAINTS.COM' 0 'D:\ROMS\' -A ''
+    next_pair
+    pair Unpacker 'C:\EMUS\ALPHA\TELLS.COM' 0 'D:\ROMS\ZIPS\' '-X 1' ''
+    close_system
+    system Boxes '*.PIC'
+    pair 'Box by name' 'C:\EMUS\ALPHA\TELLS.COM' 1 'D:\ROMS\DIRS\' -Dir ''
+    next_pair
+    pair 'Box of two' 'c:\emus\beta the second\tells.com' 1 'd:/roms/dirs' '' -last
+    close_system
+    system Cases '*.ZIP'
+    pair 'Case beside' 'C:\EMUS\GAMMA\TELLS.COM' 2 'D:\ROMS\ZIPS\' '' 'alone\longna~1.pic'
+    next_pair
+    pair 'Case of zip' 'D:\PROGS\TELLS.COM' 3 'D:\ROMS\ZIPS\' '-zip' ''
+    close_system
+    system Direct '*.PIC'
+    pair 'Direct one' 'C:\EMUS\DELTA\TELLS.COM' 5 '' ' -b D:\ROMS\THEFIR~1.PIC' ''
+    next_pair
+    pair 'Direct two' 'D:\PROGS\TELLS.COM' 5 '' '' ''
+    close_system
+    system Extra '*.PIC'
+    pair 'Extra accents' 'C:\EMUS\DELTA\TELLS.COM' 0 'D:\ROMS\ACCENTS\' '' ''
+    next_pair
+    pair 'Extra note' 'D:\PROGS\TELLS.COM' 0 'D:\ROMS\NOTES\' '' ''
+    close_system
+    printf '[EOF]\r\n'
+} >"$c/ZEMBRO/Zembro.emu"
+{
+    printf '%s\r\n' Art 'THE FIRST PICTURE.PIC,"First of all"' "'" Boxes "'" Cases "'" Direct "'" \
+        Extra 'THE SECOND PICTURE.PIC,"The only note"' "'" '[EOF]' 'Parametros especificos' \
+        'THE SECOND PICTURE.PIC,Extra,Extra note,-Mine' "'" , ',""'
+} | iconv -t cp1252 >"$c/ZEMBRO/Zembro.rom"
 
-printf 'C=%s\nD=%s\n' "$work/old c" "$work/cd" >"$work/program/Zembro.uni"
-said=$("$work/program/zembro" adopt "$work/old c/ZEMBRO" --write) || fail "adopt: $said"
-grep -q '^Pictures / Painter: works\.$' <<<"$said" || fail "adopt: $said"
+printf 'C=%s\nD=%s\n' "$c" "$d" >"$work/program/Zembro.uni"
+said=$("$work/program/zembro" adopt "$c/ZEMBRO" --write) || fail "adopt: $said"
+[ "$(grep -c ': works\.$' <<<"$said")" -eq 10 ] || fail "adopt: $said"
+grep -q '^Art / Painter: works\.$' <<<"$said" || fail "adopt: $said"
 
-"$work/program/Zembrolix" 2>"$work/log" &
-program=$!
-main=$(timeout 60 xdotool search --sync --onlyvisible --pid $program --name '^Zembrolix v2' | head -1)
-xdotool windowfocus --sync "$main"
-xdotool key --clearmodifiers F9
+start() { # the places of system and emulator in their lists: the program with these selected, and its game begun
+    sed -i "s/^LastSisUsed = .*/LastSisUsed = $1\r/;s/^LastEmuUsed = .*/LastEmuUsed = $2\r/" "$work/program/Zembro.cfg"
+    "$work/program/Zembrolix" 2>"$work/log" &
+    program=$!
+    main=$(timeout 60 xdotool search --sync --onlyvisible --pid $program --name '^Zembrolix v2' | head -1)
+    xdotool windowfocus --sync "$main"
+    xdotool key --clearmodifiers F9
+}
+finish() {
+    wait_for 30 grep -q ' status 0 after ' "$work/log" || fail "the end wasn't seen: $(cat "$work/log")"
+    xdotool windowfocus --sync "$main"
+    xdotool key --clearmodifiers ctrl+q
+    wait $program || fail "it ended with status $?"
+    program=
+}
+start 0 0
 dosbox=$(timeout 60 xdotool search --sync --onlyvisible --name 'DOSBox.*PAINTS' | head -1)
 [ -n "$dosbox" ] || fail "no window of DOSBox: $(cat "$work/log")"
 is_magenta() {
@@ -61,8 +120,23 @@ xdotool windowfocus --sync "$dosbox"
 xdotool key --clearmodifiers space
 gone() { ! xdotool search --onlyvisible --name DOSBox >/dev/null; }
 wait_for 30 gone || fail "DOSBox stays"
-wait_for 10 grep -q ' status 0 after ' "$work/log" || fail "the end wasn't seen: $(cat "$work/log")"
-xdotool windowfocus --sync "$main"
-xdotool key --clearmodifiers ctrl+q
-wait $program || fail "it ended with status $?"
-program=
+finish
+
+# The others tell what they got: the line behind the program's name, the directory, what the line's last file holds.
+plays() { # places of system and emulator, directory of its program, what is told
+    rm -f "$3/OUT"
+    start "$1" "$2"
+    finish
+    local told
+    told=$(tr '\0' '|' <"$3/OUT" | iconv -f cp437) || fail "pair $1 $2: no game: $(cat "$work/log")"
+    [ "$told" = "$4" ] || fail "pair $1 $2 tells '$told' instead of '$4'"
+}
+plays 0 1 "$c/EMUS/ALPHA" ' -x 1 E:\LONGNA~1.PIC|EMUS\ALPHA|zipped'
+plays 1 0 "$c/EMUS/ALPHA" ' -dir gameon~1|EMUS\ALPHA|'
+plays 1 1 "$c/EMUS/Beta the Second" '  gameon~1 -last|EMUS\BETATH~1|'
+plays 2 0 "$c/EMUS/GAMMA" '   alone alone\longna~1.pic|EMUS\GAMMA|zipped'
+plays 2 1 "$d/PROGS" ' -zip alone|PROGS|'
+plays 3 0 "$c/EMUS/DELTA" ' -b d:\roms\thefir~1.pic|EMUS\DELTA|a picture'
+plays 3 1 "$d/PROGS" '|PROGS|'
+plays 4 0 "$c/EMUS/DELTA" '  E:\NINO.PIC|EMUS\DELTA|a child'
+plays 4 1 "$d/PROGS" '  D:\ROMS\NOTES\THESEC~1.PIC  -Mine|PROGS|'
