@@ -127,9 +127,22 @@ bool SeAbreEnDOS(const QByteArray &nombre)
         return std::isalnum(static_cast<unsigned char>(letra)) != 0
             || QByteArrayView("$#@()!%{}`~_-&'+^").contains(letra);
     };
-    return !nombre.endsWith('.') && finDelNombre(nombre) > 0 && finDelNombre(nombre) <= LargoDelNombre
-        && punto == nombre.lastIndexOf('.') && terminacion <= LargoDeLaTerminacion
+    return !EsDispositivo(nombre) && !nombre.endsWith('.') && finDelNombre(nombre) > 0
+        && finDelNombre(nombre) <= LargoDelNombre && punto == nombre.lastIndexOf('.')
+        && terminacion <= LargoDeLaTerminacion
         && std::ranges::all_of(QByteArray(nombre).remove(punto, punto < 0 ? 0 : 1), vale);
+}
+
+bool EsDispositivo(const QByteArray &nombre)
+{
+    static const std::set<QByteArray> sueltos { "CON", "PRN", "AUX", "NUL", "CLOCK$", "EMMXXXX0", "XMSXXXX0",
+        "MSCD001" };
+    QByteArray base = nombre.first(finDelNombre(nombre)).toUpper();
+    while (base.endsWith(' '))
+        base.chop(1);
+    const bool numerado = base.size() == 4 && (base.startsWith("COM") || base.startsWith("LPT"))
+        && base[3] >= '1' && base[3] <= '9';
+    return numerado || sueltos.contains(base);
 }
 
 } // namespace launch

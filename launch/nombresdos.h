@@ -13,4 +13,7 @@ QByteArrayList NombresDOS(const QByteArrayList &entradas);
 // True if DOS opens a file of this name: of some names that it is shown it can't.
 bool SeAbreEnDOS(const QByteArray &nombre);
 
+// True for a device of DOS and Windows, in whatever directory: "CON.NES" is the keyboard too.
+bool EsDispositivo(const QByteArray &nombre);
+
 } // namespace launch

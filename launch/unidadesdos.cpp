@@ -63,7 +63,8 @@ QByteArray apodoDe(const QByteArray &entrada)
     const qsizetype punto = nombre.lastIndexOf(u'.');
     const QByteArray base = llano(nombre.first(punto < 0 ? nombre.size() : punto), 8);
     const QByteArray terminacion = punto < 0 ? QByteArray() : llano(nombre.sliced(punto + 1), 3);
-    return (base.isEmpty() ? QByteArray("GAME") : base) + (terminacion.isEmpty() ? "" : "." + terminacion);
+    return (base.isEmpty() || EsDispositivo(base) ? QByteArray("GAME") : base)
+        + (terminacion.isEmpty() ? "" : "." + terminacion);
 }
 
 // Without what leads through a directory and back.

@@ -1,11 +1,12 @@
 #include "launch/wine.h"
 
+#include "launch/nombresdos.h"
+
 #include "host/encoding.h"
 #include "host/process.h"
 
 #include <QDir>
 #include <QHash>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -23,14 +24,6 @@ bool esMalo(QChar letra)
     return letra < u' ' || QStringView(u"\\:*?\"<>|").contains(letra);
 }
 
-// "CON.NES" too: a device of DOS, in whatever directory.
-bool esDispositivo(const QString &nombre)
-{
-    static const QRegularExpression dispositivo(
-        u"^(CON|PRN|AUX|NUL|(COM|LPT)[1-9]) *(\\..*)?$"_s, QRegularExpression::CaseInsensitiveOption);
-    return dispositivo.match(nombre).hasMatch();
-}
-
 QString nombreDe(const QString &ruta)
 {
     return ruta.sliced(ruta.lastIndexOf(u'/') + 1);
@@ -45,7 +38,7 @@ QString apodoDe(QString nombre)
     }
     while (nombre.endsWith(u' ') || nombre.endsWith(u'.'))
         nombre.chop(1);
-    if (esDispositivo(nombre))
+    if (EsDispositivo(nombre.toUtf8()))
         nombre.prepend(u'_');
     return nombre.isEmpty() ? u"GAME"_s : nombre;
 }
@@ -55,7 +48,7 @@ QString apodoDe(QString nombre)
 bool SeDiceEnWindows(const QString &ruta)
 {
     return std::ranges::all_of(QDir::cleanPath(ruta).split(u'/'), [](const QString &parte) {
-        return !parte.endsWith(u' ') && !parte.endsWith(u'.') && !esDispositivo(parte)
+        return !parte.endsWith(u' ') && !parte.endsWith(u'.') && !EsDispositivo(parte.toUtf8())
             && std::ranges::none_of(parte, esMalo);
     });
 }

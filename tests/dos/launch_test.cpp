@@ -220,3 +220,44 @@ TEST_F(LaunchesInDosBox, AGameWithAccentsIsOpened_AndWhatItSavesStaysBesideIt)
     EXPECT_EQ(bytes("media/ROMS/ni\xC3\xB1o.nes"), "the child");
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
 }
+
+// As old disks have them: in code page 437 or 1252, in no encoding at all, or made to break a line of DOS.
+TEST_F(LaunchesInDosBox, GamesOfAnyBytesAreListedAndPlayed)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/nes.com");
+    const QByteArrayList names { "ni\xA4o.nes", "ni\xF1o.nes", "\xA4\xF1.nes", "\x80\xFF\xFE.NES",
+        "\xEF\x80\x80private.nes", "cut \xC3.nes", "100% %PATH%.nes", "a;b,c=d+e[f].nes",
+        "<in >out |pipe.nes", "-x \"q\".nes", "two\nlines.nes", "echo off&exit.nes", ".hid.nes", "con.nes",
+        "aux", "a.b.nes." };
+    for (const QByteArray &name : names)
+        makeFile("media/ROMS/" + name, name);
+    Select(0, u"C:\\EMUS\\NES.COM"_s, u"D:\\ROMS\\"_s);
+    QStringList listed = host::listFiles(path(u"media/ROMS"_s));
+    EXPECT_EQ(listed.removeAll(u".hid.nes"_s), 0) << "hidden names aren't listed";
+    EXPECT_EQ(listed.size(), names.size() - 1);
+    for (const QString &name : std::as_const(listed)) {
+        pantalla.lista1 = name;
+        Juega();
+        EXPECT_EQ(Told("old/EMUS").value(2), host::nameToDisk(name)) << Told("old/EMUS").value(0).constData();
+        makeFile("old/EMUS/OUT", "no game");
+    }
+    EXPECT_THAT(Notices(), IsEmpty());
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
+}
+
+TEST_F(LaunchesInDosBox, DirectoriesAndArchivesOfAnyBytesToo)
+{
+    makeDirectory("media/ju\xA4gos");
+    makeDirectory("old/em\xFA");
+    NameDrives("C=" + place("old") + "\r\nD=" + place("media") + "\r\n");
+    PutProgram("tells.com", "old/em\xFA/nes.com");
+    makeFile("media/ju\xA4gos/ni\xA4o.zip", Zip({ { "ni\xA4o.nes", "zipped" } }));
+    PonExtensiones({ u"*.NES"_s });
+    Select(0, u"C:\\"_s + host::nameFromDisk("em\xFA") + u"\\NES.COM"_s,
+        u"D:\\"_s + host::nameFromDisk("ju\xA4gos") + u"\\"_s);
+    pantalla.lista1 = host::nameFromDisk("ni\xA4o.zip");
+    Juega();
+    EXPECT_THAT(Notices(), IsEmpty());
+    EXPECT_EQ(Told("old/em\xFA").value(2), "zipped");
+}

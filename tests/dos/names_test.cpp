@@ -136,9 +136,11 @@ TEST(NamesOfDos, AreEightAndThreeInCapitals)
 TEST(NamesOfDos, SomeCannotBeOpened)
 {
     using launch::SeAbreEnDOS;
-    for (const char *name : { "A", "MARIO.NES", "SUPERM~1.NES", "12345678.123", "(A)!.X", "A&B'C.X" })
+    for (const char *name : { "A", "MARIO.NES", "SUPERM~1.NES", "12345678.123", "(A)!.X", "A&B'C.X", "CONS.X",
+             "COM0", "COM10.A", "A.CON" })
         EXPECT_TRUE(SeAbreEnDOS(name)) << name;
-    for (const char *name : { "", ".", "..", "A.", "A.B.C", "123456789", "A.1234", "A B", "A+\xA4",
-             "\xC3\x91.X", "A=B", "A*.X", "A?.X", "A\"", "A<B", "A\nB", ".X", "A[1]" })
+    for (const char *name :
+        { "", ".", "..", "A.", "A.B.C", "123456789", "A.1234", "A B", "A+\xA4", "\xC3\x91.X", "A=B", "A*.X",
+            "A?.X", "A\"", "A<B", "A\nB", ".X", "A[1]", "CON", "con.NES", "NUL .X", "COM1.A", "LPT9" })
         EXPECT_FALSE(SeAbreEnDOS(name)) << name;
 }

@@ -190,9 +190,10 @@ TEST_F(EncargoTest, AGameThatDosCantOpenByItsNameGetsAnotherOne)
 {
     Pon(ParaDOS);
     PonHerramienta("dosbox");
-    for (const auto &[nombre, apodo] : std::initializer_list<std::pair<QByteArray, QByteArray>> {
-             { "ni\xC3\xB1o.nes", "NINO.NES" }, { "a.b.c", "AB.C" }, { "a=b.nes", "AB.NES" },
-             { "\xE4\xB8\x80.nes", "GAME.NES" }, { "ni\xA4os\n.nes", "NIOS.NES" } }) {
+    for (const auto &[nombre, apodo] :
+        std::initializer_list<std::pair<QByteArray, QByteArray>> { { "ni\xC3\xB1o.nes", "NINO.NES" },
+            { "a.b.c", "AB.C" }, { "a=b.nes", "AB.NES" }, { "\xE4\xB8\x80.nes", "GAME.NES" },
+            { "ni\xA4os\n.nes", "NIOS.NES" }, { "Con.nes", "GAME.NES" }, { "aux", "GAME" } }) {
         PonROM(nombre);
         pantalla.lista1 = host::nameFromDisk(nombre);
         Juega();
