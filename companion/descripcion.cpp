@@ -107,6 +107,10 @@ std::unique_ptr<LectorDeFuente> leeFuente(
     if (!(deMAME ? leeMAME(sesion, nombre, *lector) : leeFichero(sesion, nombre, *lector)))
         return nullptr;
     lector->Fin();
+    if (!lector->ElError() && lector->Nombres() == 0) {
+        sesion.Falla(sesion.palabras.Zbo_ListaVacia.arg(nombre));
+        return nullptr;
+    }
     if (!lector->ElError())
         return lector;
     sesion.Falla(sesion.palabras.Zbo_ListaMala.arg(
@@ -125,17 +129,18 @@ Rotulo rotuloDe(const FicheroListado &fichero, const LectorDeFuente *fuente)
     return fuente->EsDeCatalogo() ? RotuloDe(texto) : Rotulo { texto, {} };
 }
 
+// Those that are described already have a part in what tells two of one title apart: what one run does isn't
+// done otherwise by the next one.
 std::vector<PorDescribir> porDescribir(
     const Sesion &sesion, const Coleccion &coleccion, const LectorDeFuente *fuente)
 {
     std::vector<PorDescribir> juegos;
     for (const FicheroListado &fichero : coleccion.ficheros) {
-        if (fichero.descrito && !sesion.Tiene(u"replace"_s))
-            continue;
+        const bool queda = fichero.descrito && !sesion.Tiene(u"replace"_s);
         const Rotulo rotulo = rotuloDe(fichero, fuente);
         const QString titulo = sesion.Tiene(u"tags"_s) ? rotulo.Entero() : rotulo.titulo;
         if (!titulo.isEmpty())
-            juegos.push_back({ fichero.clave, fichero.entrada, titulo, rotulo.Entero() });
+            juegos.push_back({ fichero.clave, fichero.entrada, titulo, rotulo.Entero(), queda });
     }
     return juegos;
 }
@@ -157,8 +162,40 @@ QString nombreDe(Motivo motivo)
     return motivo == Motivo::SinClave ? u"name"_s : motivo == Motivo::Repetida ? u"taken"_s : u"room"_s;
 }
 
+// What the games of a system were before.
+struct Recuento {
+    qsizetype juegos = 0;
+    qsizetype descritos = 0; // that stay so
+    qsizetype desconocidos = 0; // that the list or their names say nothing new of
+    bool conLista = false;
+};
+
+Recuento cuenta(
+    const Coleccion &coleccion, const std::vector<PorDescribir> &juegos, const LectorDeFuente *fuente)
+{
+    Recuento recuento;
+    recuento.conLista = fuente != nullptr;
+    recuento.juegos = static_cast<qsizetype>(coleccion.ficheros.size());
+    recuento.descritos = std::ranges::count_if(coleccion.ficheros, &FicheroListado::descrito);
+    const qsizetype porHacer = std::ranges::count_if(juegos,
+        [](const PorDescribir &juego) { return !juego.estaDescrito && juego.titulo != juego.entrada; });
+    recuento.desconocidos = std::max<qsizetype>(recuento.juegos - recuento.descritos - porHacer, 0);
+    return recuento;
+}
+
+// Why nothing came of it.
+QString porqueNada(const Palabras &palabras, const Recuento &recuento)
+{
+    if (recuento.juegos == 0)
+        return palabras.Zbo_DesNada;
+    return (recuento.conLista ? palabras.Zbo_DesLista : palabras.Zbo_DesNombres)
+        .arg(recuento.juegos)
+        .arg(recuento.descritos)
+        .arg(recuento.desconocidos);
+}
+
 int responde(const Sesion &sesion, int estado, QJsonObject objeto, const core::Descritas &descritas,
-    Bautizados bautizados)
+    Bautizados bautizados, const Recuento &recuento)
 {
     for (const core::Descripcion &fuera : descritas.fuera)
         bautizados.rechazados.push_back({ fuera.texto, Motivo::NoCabe });
@@ -171,11 +208,16 @@ int responde(const Sesion &sesion, int estado, QJsonObject objeto, const core::D
     objeto[u"added"_s] = descritas.nuevas;
     objeto[u"replaced"_s] = descritas.cambiadas;
     objeto[u"refused"_s] = rechazados;
+    objeto[u"games"_s] = recuento.juegos;
+    objeto[u"described"_s] = recuento.descritos;
+    objeto[u"unknown"_s] = recuento.desconocidos;
     const QString &dicho = estado == Bien ? sesion.palabras.Zbo_Descrito : sesion.palabras.Zbo_Describiria;
     if (sesion.EnJson())
         sesion.Json(objeto);
     else
         sesion.Escribe(dicho.arg(descritas.nuevas).arg(descritas.cambiadas));
+    if (!sesion.EnJson() && descritas.nuevas + descritas.cambiadas == 0)
+        sesion.Escribe(porqueNada(sesion.palabras, recuento));
     return rechazados.isEmpty() ? estado : Hallazgos;
 }
 
@@ -193,7 +235,8 @@ int describe(Sesion &sesion)
         if (!fuente)
             return NoPudo;
     }
-    const Bautizados bautizados = Bautiza(porDescribir(sesion, coleccion, fuente.get()), coleccion.textos);
+    const std::vector<PorDescribir> juegos = porDescribir(sesion, coleccion, fuente.get());
+    const Bautizados bautizados = Bautiza(juegos, coleccion.textos);
     std::vector<core::Descripcion> descripciones;
     for (const auto &[clave, texto] : bautizados.descripciones)
         descripciones.push_back({ clave, texto });
@@ -205,7 +248,8 @@ int describe(Sesion &sesion)
         return descritas.texto;
     };
     const int estado = HazCambio(sesion, u"Zembro.rom"_s, cambio, objeto);
-    const int respuesta = responde(sesion, estado, objeto, descritas, bautizados);
+    const int respuesta =
+        responde(sesion, estado, objeto, descritas, bautizados, cuenta(coleccion, juegos, fuente.get()));
     return coleccion.entera ? respuesta : std::max<int>(respuesta, Hallazgos);
 }
 

@@ -154,6 +154,7 @@ void LectorDeFuente::anota(const QString &nombre, const QString &texto)
 {
     const QString clave = host::upper(nombre);
     const QString descripcion = texto.simplified();
+    m_nombres += !descripcion.isEmpty() && !clave.isEmpty();
     if (!descripcion.isEmpty() && m_buscados.contains(clave) && !m_textos.contains(clave))
         m_textos.insert(clave, descripcion);
 }

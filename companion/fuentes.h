@@ -26,6 +26,9 @@ public:
     // The first description of each name asked for, by the names.
     const QHash<QString, QString> &Textos() const { return m_textos; }
 
+    // How many names with a description it has, asked for or not.
+    qint64 Nombres() const { return m_nombres; }
+
     // Whether the descriptions are those of a DAT or of MAME, with marks in brackets and articles behind.
     bool EsDeCatalogo() const { return m_deCatalogo; }
 
@@ -47,6 +50,7 @@ private:
 
     const QSet<QString> m_buscados;
     QHash<QString, QString> m_textos;
+    qint64 m_nombres = 0;
     std::optional<Error> m_error;
     Clase m_clase = Clase::SinSaber;
     QByteArray m_pendiente; // bytes without an end of line yet

@@ -104,7 +104,7 @@ Bautizados Bautiza(const std::vector<PorDescribir> &juegos, const QSet<QString> 
     Bautizados bautizados;
     for (const PorDescribir &juego : juegos) {
         const QString titulo = Anotable(juego.titulo);
-        if (juego.titulo.isEmpty() || titulo == juego.entrada)
+        if (juego.estaDescrito || juego.titulo.isEmpty() || titulo == juego.entrada)
             continue;
         const bool solo = veces[titulo] == 1 && !usados.contains(titulo);
         const QString texto = solo ? titulo : Anotable(juego.entero);

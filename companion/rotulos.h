@@ -32,6 +32,7 @@ struct PorDescribir {
     QString entrada; // how it is told of
     QString titulo; // empty where nothing is known of it
     QString entero; // to tell it from another of that title
+    bool estaDescrito = false; // it stays as it is, and its title tells it from the others
 };
 
 enum class Motivo { SinClave, Repetida, NoCabe };

@@ -3,6 +3,7 @@
 
 #include "core/descripciones.h"
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 
@@ -95,6 +96,60 @@ TEST_F(Describe, FromTheNamesOfTheFiles)
         "TETRIS (EUROPE).NES,\"Tetris (Europe)\"\r\nTETRIS (USA).NES,\"Tetris (USA)\"\r\n"
         "ZELDA II.NES,\"Zelda II\"\r\nMARIO.NES,\"Super Mario\"\r\n");
     EXPECT_FALSE(Json({ u"describe"_s, u"Sis"_s })[u"changed"_s].toBool());
+}
+
+// Two names that say the same but for a blank.
+TEST_F(Describe, DoesTheSameInEachRun)
+{
+    Pon(u"roms/dup (USA).nes"_s, "x");
+    Pon(u"roms/dup (USA) .nes"_s, "x");
+    const QStringList pedido { u"describe"_s, u"Sis"_s, u"--write"_s };
+    const QByteArray primera = Zembro(pedido).salida;
+    EXPECT_TRUE(primera.contains("dup (USA).nes\t")) << primera.toStdString();
+    const QByteArray escrito = Bytes(u"Zembro.rom"_s);
+    EXPECT_EQ(Bloque().count("\"dup (USA)\""), 1);
+    for (int vez = 0; vez < 3; ++vez) {
+        const QByteArray otra = Zembro(pedido).salida;
+        EXPECT_EQ(otra.first(otra.indexOf('\n')), primera.first(primera.indexOf('\n')));
+        EXPECT_EQ(Bytes(u"Zembro.rom"_s), escrito);
+    }
+    // Nor does one that came later take the title that tells nothing.
+    Pon(u"roms/Zelda II (Japan).nes"_s, "x");
+    Zembro(pedido);
+    EXPECT_TRUE(Bloque().contains("\"Zelda II (Japan)\""));
+}
+
+TEST_F(Describe, SaysWhyNothingCameOfIt)
+{
+    Pon(u"list.txt"_s, "other\tOther\n");
+    const QStringList conLista { u"describe"_s, u"Sis"_s, u"--from"_s, Ruta(u"list.txt"_s) };
+    EXPECT_EQ(Zembro(conLista).salida,
+        "New: 0. Changed: 0.\n"
+        "Of 6 games 1 have a description already (--replace makes them anew), and 5 aren't in the list.\n");
+    const QJsonObject objeto = Json(conLista);
+    EXPECT_EQ(objeto[u"games"_s].toInt(), 6);
+    EXPECT_EQ(objeto[u"described"_s].toInt(), 1);
+    EXPECT_EQ(objeto[u"unknown"_s].toInt(), 5);
+    EXPECT_FALSE(Zembro({ u"describe"_s, u"Sis"_s, u"--write"_s }).salida.contains("Of "));
+    EXPECT_EQ(Zembro({ u"describe"_s, u"Sis"_s }).salida,
+        "New: 0. Changed: 0.\n"
+        "Of 6 games 6 have a description already (--replace makes them anew), and the names of 0 give no "
+        "other one.\n");
+    for (const QByteArray &vacia :
+        QByteArrayList { "", "\n\n", "no tab in here\n", "<datafile></datafile>" }) {
+        Pon(u"list.txt"_s, vacia);
+        const Respuesta respuesta = Zembro(conLista);
+        EXPECT_EQ(respuesta.estado, companion::NoPudo);
+        EXPECT_TRUE(respuesta.error.startsWith(
+            "zembro: " + Ruta(u"list.txt"_s).toUtf8() + " holds no name with a description; it should be"))
+            << respuesta.error.toStdString();
+    }
+    Cambia(u"Zembro.emu"_s, "*.NES", "*.XYZ");
+    QDir(Ruta(u"dirs/Sonic"_s)).removeRecursively();
+    EXPECT_TRUE(
+        Zembro({ u"describe"_s, u"Sis"_s })
+            .salida.endsWith(
+                "No game of the system is listed, so there is nothing to describe; check tells why.\n"));
 }
 
 TEST_F(Describe, WithTagsTheyStay_AndWithReplaceTheDescriptionsThatWereThereGo)
