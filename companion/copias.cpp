@@ -36,9 +36,8 @@ Ficheros leidos(const QString &directorio)
 {
     Ficheros ficheros;
     for (const QString &nombre : Nombres) {
-        const QString ruta = directorio + u'/' + nombre;
-        if (host::exists(ruta))
-            ficheros[nombre] = host::readBytes(ruta);
+        if (const std::optional<QByteArray> bytes = host::readIfThere(directorio + u'/' + nombre))
+            ficheros[nombre] = *bytes;
     }
     return ficheros;
 }
@@ -160,6 +159,62 @@ Guardado Guarda()
     for (const QString &vieja : copias.mid(MaxCopias))
         borra(vieja);
     return guardado;
+}
+
+namespace {
+
+// What has changed since it was looked at is in no copy, and stays.
+void pon(const QString &fichero, const QByteArray &bytes, const std::optional<QByteArray> &visto)
+{
+    const QString ruta = host::programFile(fichero);
+    host::Replacement nuevo(ruta, Provisional);
+    if (nuevo.read() != visto)
+        throw host::Failure(host::PathAccess, host::ChangedMeanwhile, ruta);
+    nuevo.write(bytes);
+    nuevo.commit();
+}
+
+std::optional<QByteArray> bytesDe(const Ficheros &ficheros, const QString &nombre)
+{
+    const auto suyo = ficheros.find(nombre);
+    return suyo == ficheros.end() ? std::nullopt : std::optional(*suyo);
+}
+
+// True where it stands as before again.
+bool vuelve(const QString &fichero, const QByteArray &puesto, const std::optional<QByteArray> &antes)
+{
+    try {
+        if (antes) {
+            pon(fichero, *antes, puesto);
+        } else {
+            const host::Replacement cerrado = llave();
+            host::deleteFile(host::programFile(fichero));
+        }
+        return true;
+    } catch (const host::Failure &) {
+        return false;
+    }
+}
+
+} // namespace
+
+Reposicion Repon(const QStringList &nombres, const Ficheros &deCopia, const Ficheros &actuales)
+{
+    Reposicion reposicion;
+    for (const QString &nombre : nombres) {
+        try {
+            pon(nombre, deCopia[nombre], bytesDe(actuales, nombre));
+            reposicion.repuestos += nombre;
+        } catch (const host::Failure &fallo) {
+            reposicion.fallo = fallo;
+            break;
+        }
+    }
+    if (reposicion.fallo)
+        reposicion.repuestos.removeIf([&](const QString &nombre) {
+            return vuelve(nombre, deCopia[nombre], bytesDe(actuales, nombre));
+        });
+    return reposicion;
 }
 
 } // namespace companion

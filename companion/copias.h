@@ -1,10 +1,14 @@
 // Dated copies of the program's text files, in directories under "copias".
 #pragma once
 
+#include "host/failure.h"
+
 #include <QByteArray>
 #include <QMap>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 namespace companion {
 
@@ -42,5 +46,15 @@ struct Guardado {
 // Makes a copy where the newest isn't equal, and removes those past MaxCopias. A copy stands whole or not at
 // all. Fails as what it does.
 Guardado Guarda();
+
+// What came of bringing files back.
+struct Reposicion {
+    QStringList repuestos; // that stand as the copy has them
+    std::optional<host::Failure> fallo; // what kept the others
+};
+
+// Puts these files of a copy in the place of the program's, all of them or none: where one can't be written,
+// or isn't as it was looked at, those ahead of it go back. What can't even go back is told.
+Reposicion Repon(const QStringList &nombres, const Ficheros &deCopia, const Ficheros &actuales);
 
 } // namespace companion

@@ -7,7 +7,6 @@
 
 #include "host/failure.h"
 #include "host/paths.h"
-#include "host/replacement.h"
 
 #include <QJsonArray>
 
@@ -85,16 +84,29 @@ std::optional<QString> copiaPedida(const Sesion &sesion, const Ficheros &actuale
     return std::nullopt;
 }
 
-// What has changed since it was looked at is in no copy, and stays.
-void repone(const QString &fichero, const QByteArray &bytes, const Ficheros &actuales)
+// Says what came of it, where it isn't all; none where it is.
+std::optional<int> fallida(
+    const Sesion &sesion, const QString &copia, const QString &guardada, const Reposicion &reposicion)
 {
-    const QString ruta = host::programFile(fichero);
-    host::Replacement nuevo(ruta, u"Zembro.tmp"_s);
-    const std::optional<QByteArray> viejo = nuevo.read();
-    if (viejo.has_value() != actuales.contains(fichero) || (viejo && *viejo != actuales[fichero]))
-        throw host::Failure(host::PathAccess, host::ChangedMeanwhile, ruta);
-    nuevo.write(bytes);
-    nuevo.commit();
+    if (!reposicion.fallo)
+        return std::nullopt;
+    const QString motivo = TextoDe(*reposicion.fallo, sesion.palabras);
+    if (reposicion.repuestos.isEmpty())
+        return sesion.Falla(sesion.palabras.Zbo_NadaRepuesto.arg(motivo));
+    return sesion.Falla(
+        sesion.palabras.Zbo_MedioRepuesto.arg(copia, reposicion.repuestos.join(u", "_s), guardada, motivo));
+}
+
+// The former ones are kept first.
+Reposicion guardaYRepon(const QStringList &nombres, const Ficheros &deCopia, QString &guardada)
+{
+    try {
+        const Guardado guardado = Guarda();
+        guardada = guardado.copia;
+        return Repon(nombres, deCopia, guardado.ficheros);
+    } catch (const host::Failure &fallo) {
+        return { {}, fallo };
+    }
 }
 
 int repone(Sesion &sesion)
@@ -126,11 +138,12 @@ int repone(Sesion &sesion)
     QString dicho =
         nombres.isEmpty() ? sesion.palabras.Zbo_NadaCambia : sesion.palabras.Zbo_Repondria.arg(*copia);
     if (escribe) {
-        const Guardado guardado = Guarda();
-        for (const QString &nombre : nombres)
-            repone(nombre, deCopia[nombre], guardado.ficheros);
-        objeto[u"kept"_s] = guardado.copia;
-        dicho = sesion.palabras.Zbo_Repuesto.arg(*copia, guardado.copia);
+        QString guardada;
+        const Reposicion reposicion = guardaYRepon(nombres, deCopia, guardada);
+        if (const std::optional<int> estado = fallida(sesion, *copia, guardada, reposicion))
+            return *estado;
+        objeto[u"kept"_s] = guardada;
+        dicho = sesion.palabras.Zbo_Repuesto.arg(*copia, guardada);
     }
     if (sesion.EnJson())
         sesion.Json(objeto);

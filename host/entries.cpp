@@ -4,6 +4,7 @@
 #include "host/directory.h"
 #include "host/failure.h"
 #include "host/helddirectory.h"
+#include "host/retried.h"
 
 #include <cerrno>
 
@@ -77,7 +78,7 @@ qint64 fileLength(const QString &path)
 void makeDirectory(const QString &path, int mode)
 {
     const QByteArray place = findForWriting(path);
-    if (mkdir(place.constData(), mode_t(mode)) != 0)
+    if (retried([&] { return mkdir(place.constData(), mode_t(mode)); }) != 0)
         failOnDirectory(errno, u"make a directory"_s, path);
 }
 

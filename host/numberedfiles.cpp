@@ -6,7 +6,6 @@
 #include "host/replacement.h"
 
 #include <cerrno>
-#include <optional>
 
 #include <fcntl.h>
 
@@ -157,6 +156,17 @@ QByteArray readBytes(const QString &path, qint64 most)
     if (!file)
         throw Failure(PathAccess, u"read a file"_s, path);
     return file->bytes;
+}
+
+std::optional<QByteArray> readIfThere(const QString &path)
+{
+    std::optional<PlainFile> file = readPlainFile(AT_FDCWD, nameToDisk(path), O_RDONLY);
+    if (file)
+        return file->bytes;
+    if (errno != ENOENT)
+        throw Failure(PathAccess, u"read a file"_s, path);
+    const bool otherwiseSpelled = exists(path);
+    return otherwiseSpelled ? std::optional(readBytes(path)) : std::nullopt;
 }
 
 } // namespace host

@@ -12,6 +12,7 @@
 #include <functional>
 #include <limits>
 #include <map>
+#include <optional>
 
 namespace host {
 
@@ -68,5 +69,8 @@ private:
 
 // A file's bytes, the first `most` of them. Fails with 53 or 75.
 QByteArray readBytes(const QString &path, qint64 most = std::numeric_limits<qint64>::max());
+
+// The bytes of a file; none where there surely is no such file. Fails with 75 where that can't be told.
+std::optional<QByteArray> readIfThere(const QString &path);
 
 } // namespace host

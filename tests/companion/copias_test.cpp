@@ -3,10 +3,14 @@
 
 #include "companion/copias.h"
 
+#include "host/replacement.h"
+
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
 
+#include <signal.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -27,6 +31,28 @@ protected:
     }
 
     QString Guarda() const { return Json({ u"save"_s })[u"copy"_s].toString(); }
+};
+
+// A disk that takes no more of the one file that is larger.
+class SinSitio {
+public:
+    explicit SinSitio(rlim_t bytes)
+    {
+        signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_antes);
+        const rlimit poco { bytes, m_antes.rlim_max };
+        setrlimit(RLIMIT_FSIZE, &poco);
+    }
+    ~SinSitio()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_antes);
+        signal(SIGXFSZ, SIG_DFL);
+    }
+    SinSitio(const SinSitio &) = delete;
+    SinSitio &operator=(const SinSitio &) = delete;
+
+private:
+    rlimit m_antes {};
 };
 
 } // namespace
@@ -170,6 +196,56 @@ TEST_F(Save, RestoreWithWriteBringsTheBytesBack_AndKeepsWhatWasThere)
     // And back again.
     EXPECT_TRUE(Json({ u"restore"_s, u"--write"_s })[u"written"_s].toBool());
     EXPECT_EQ(Bytes(u"Zembro.rom"_s), otro);
+}
+
+TEST_F(Save, RestoreThatFailsHalfwayRestoresNothing)
+{
+    Pon(u"Zembro.rom"_s, QByteArray(100'000, 'n'));
+    const QString copia = Guarda();
+    const QByteArray suyo = Bytes(u"Zembro.cfg"_s);
+    Pon(u"Zembro.cfg"_s, suyo + "more\r\n");
+    Borra(u"Zembro.emu"_s);
+    Pon(u"Zembro.rom"_s, "Sis\r\n'\r\n");
+    Pon(u"Zembro.sye"_s, "x");
+    Guarda();
+    const QStringList pedido { u"restore"_s, copia, u"--write"_s };
+    {
+        const SinSitio poco(50'000);
+        const Respuesta respuesta = Zembro(pedido);
+        EXPECT_EQ(respuesta.estado, companion::NoPudo);
+        EXPECT_TRUE(respuesta.error.startsWith(
+            "zembro: Nothing was restored, and all files are as they were. What failed: "))
+            << respuesta.error.toStdString();
+        EXPECT_TRUE(respuesta.error.contains("Zembro.rom")) << respuesta.error.toStdString();
+        EXPECT_TRUE(
+            Json(pedido, companion::NoPudo)[u"error"_s].toString().startsWith(u"Nothing was restored"));
+    }
+    EXPECT_EQ(Bytes(u"Zembro.cfg"_s), suyo + "more\r\n");
+    EXPECT_FALSE(QFile::exists(Ruta(u"Zembro.emu"_s)));
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), "Sis\r\n'\r\n");
+    EXPECT_EQ(Bytes(u"Zembro.sye"_s), "x");
+    EXPECT_FALSE(QFile::exists(Ruta(u"Zembro.tmp"_s)));
+    EXPECT_EQ(Zembro(pedido).estado, companion::Bien);
+    EXPECT_EQ(Bytes(u"Zembro.cfg"_s), suyo);
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s).size(), 100'000);
+}
+
+TEST_F(Save, RestoreTellsWhichFilesCouldNotGoBack)
+{
+    const companion::Ficheros deCopia { { u"Zembro.cfg"_s, "old" }, { u"Zembro.rom"_s, "old" } };
+    // One is too large to go back, the other is not as it was looked at.
+    const companion::Ficheros actuales { { u"Zembro.cfg"_s, QByteArray(1000, 'n') },
+        { u"Zembro.rom"_s, "new" } };
+    Pon(u"Zembro.cfg"_s, actuales[u"Zembro.cfg"_s]);
+    Pon(u"Zembro.rom"_s, "another");
+    const SinSitio poco(500);
+    const companion::Reposicion reposicion =
+        companion::Repon({ u"Zembro.cfg"_s, u"Zembro.rom"_s }, deCopia, actuales);
+    EXPECT_EQ(reposicion.repuestos, QStringList { u"Zembro.cfg"_s });
+    ASSERT_TRUE(reposicion.fallo);
+    EXPECT_EQ(reposicion.fallo->operation(), host::ChangedMeanwhile);
+    EXPECT_EQ(Bytes(u"Zembro.cfg"_s), "old");
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), "another");
 }
 
 TEST_F(Save, RestoreOfTheOldestOfTwentyBringsItBack)

@@ -134,3 +134,14 @@ TEST_F(Reading, Fails_OfAFileThatTheUserMayNotRead)
         inChildOfOrdinaryUser([this] { return failureOf([this] { readBytes(path(u"secret"_s)); }); });
     EXPECT_EQ(status, PathAccess);
 }
+
+TEST_F(FileNumbers, WhatIsThereIsRead_AndWhatCannotBeReadIsNotTakenForMissing)
+{
+    makeFile("Zembro.rom", "x");
+    makeFile("any.CASE", "y");
+    EXPECT_EQ(readIfThere(path(u"Zembro.rom"_s)), "x");
+    EXPECT_EQ(readIfThere(path(u"Any.case"_s)), "y");
+    EXPECT_EQ(readIfThere(path(u"none"_s)), std::nullopt);
+    ASSERT_EQ(mkdir(path(u"directory"_s).toUtf8().constData(), 0700), 0);
+    EXPECT_EQ(failureOf([&] { readIfThere(path(u"directory"_s)); }), PathAccess);
+}
