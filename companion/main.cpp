@@ -22,6 +22,11 @@ int main(int argc, char **argv)
             std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), fichero);
         };
     };
+    // What is said beside the answer stands where it is said.
+    const auto error = [&](const QByteArray &bytes) {
+        std::fflush(stdout);
+        en(stderr)(bytes);
+    };
     const auto queda = [] { return std::fflush(stdout) == 0 && std::ferror(stdout) == 0; };
-    return companion::Zembro(argumentos, { en(stdout), en(stderr), queda });
+    return companion::Zembro(argumentos, { en(stdout), error, queda });
 }

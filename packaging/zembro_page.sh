@@ -78,7 +78,7 @@ END
     sed -i "s|^EXE=.*|EXE=$work/dies|" Zembro.emu
     printf '#!/bin/sh\nkill -SEGV $$\n' >"$work/dies"
     chmod +x "$work/dies"
-    example "A launch without the screen, here of an emulator that dies at once. Its status is the emulator's." \
+    example "A launch without the screen, here of an emulator that dies at once. Its status is the emulator's. A signal that would end \`zembro play\` is handed on to the emulator; then the status is that signal's." \
         play atari stella prisma
     printf '\n## why\n'
     play_on_screen
@@ -97,20 +97,20 @@ END
     ./zembro move --write >/dev/null
     printf '\n## describe\n'
     printf x >"demo/Legend of Zelda, The (Europe) (Rev 1).bin"
-    example "By the names of the files. \`--from\` takes a DAT, what \`mame -listxml\` says (\`--from -\` reads a pipe), a gamelist.xml, or lines of name, tab, description." describe atari
+    example "By the names of the files. \`--from\` takes a DAT, what \`mame -listxml\` says (\`--from -\` reads a pipe), a gamelist.xml, or lines of name, tab, description. Where nothing comes of it, it says why." describe atari
     printf '\n## captures\n'
     rm "demo/prisma (1).gif"
     mkdir "$work/pictures"
     base64 -d >"$work/pictures/PRISMA [a1].png" <<<'iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAIAAACQd1PeAAAADElEQVR4nGP4z8AAAAMBAQDJ/pLvAAAAAElFTkSuQmCC'
     printf 'no picture' >"$work/pictures/The Legend of Zelda.jpg"
     example "Pictures of any kind become the captures of the games that they fit: by the file's name, by that without what stands in brackets, by the description." captures atari --from ../pictures
-    example "\`--write\` makes them, at most 640 wide; the pictures stay as they are." captures atari --from ../pictures --write
+    example "\`--write\` makes them, at most 640 wide; the pictures stay as they are. What stands in the place of a capture and is no picture gives way to one that fits." captures atari --from ../pictures --write
     example "Without \`--from\` it takes those that lie among the captures, and the newest one that the emulator took of the game that was played last. \`--last\` takes that one alone." captures atari --last
     printf '\n## save\n'
     example "A copy of the text files; \`./run.sh\` makes one before each start. The last twenty that differ are kept." save
     printf '\n## restore\n'
     sed -i "/^PAR1=/d" Zembro.emu
-    example "Back to the newest copy that differs, or to the one that is named; \`--list\` shows them all." restore
+    example "Back to the newest copy that differs, or to the one that is named; \`--list\` shows them all. It brings back all of the files or none." restore
     printf '\n## export\n'
     example "For another program; \`--to FILE --write\` writes it, \`--pegasus\` is for Pegasus." export atari stella
     printf '\n## adopt\n'

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QProcess>
 
 #include <sys/stat.h>
 
@@ -104,6 +105,19 @@ TEST_F(Check, MendSaysHowManyFindingsHaveNoOneAnswer)
     const Respuesta nada = Zembro({ u"check"_s, u"--mend"_s });
     EXPECT_EQ(nada.salida + nada.error, dicho);
     EXPECT_EQ(nada.estado, companion::Hallazgos);
+}
+
+// Of the program itself, whose answer goes through a buffer.
+TEST_F(Check, WhatIsSaidBesideTheAnswerStandsBehindWhatCameBefore)
+{
+    Cambia(u"Zembro.emu"_s, "[EOF]\r\n", "");
+    Pon(u"img/Luigi.gif"_s, UnGif());
+    QProcess proceso;
+    proceso.setProcessChannelMode(QProcess::MergedChannels);
+    proceso.start(QStringLiteral(ZEMBRO), { u"check"_s, u"--mend"_s, u"--directory"_s, Ruta(QString()) });
+    ASSERT_TRUE(proceso.waitForFinished());
+    EXPECT_TRUE(proceso.readAll().endsWith(
+        "+[EOF]\nzembro: Findings that have no one answer: 1; check names them.\n"));
 }
 
 TEST_F(Check, ParametersWithoutTheirEndAreSaid_AndMendedWhereItsPlaceIsSure)
