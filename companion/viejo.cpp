@@ -192,7 +192,8 @@ QString ConUnidadesViejas(const std::optional<QString> &texto, const std::vector
     if (!nuevo.isEmpty() && !nuevo.endsWith(u'\n'))
         nuevo += u"\r\n"_s;
     const auto pon = [&nuevo](const host::Drive &unidad) {
-        nuevo += unidad.letter + u"="_s + unidad.place + u"\r\n"_s;
+        const QString linea = host::lineOf(unidad);
+        nuevo += linea.isEmpty() ? QString() : linea + u"\r\n"_s;
     };
     if (!texto)
         std::ranges::for_each(actuales, pon);

@@ -133,6 +133,15 @@ std::vector<Drive> drivesIn(const QString &text, const QString &base)
     return found;
 }
 
+QString lineOf(const Drive &drive)
+{
+    // Behind a separator a blank at the end belongs to the place.
+    const QString closing = drive.place != drive.place.trimmed() ? u"/"_s : QString();
+    const QString line = drive.letter + u"="_s + drive.place + closing;
+    const std::vector<Drive> read = drivesIn(line, {});
+    return read.size() == 1 && read[0].place == drive.place ? line : QString();
+}
+
 QString winePrefix()
 {
     const QByteArray chosen = qgetenv("WINEPREFIX");

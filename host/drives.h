@@ -48,6 +48,9 @@ bool isAbsolute(QStringView path);
 // first counts; a line that names none is passed over.
 std::vector<Drive> drivesIn(const QString &text, const QString &base);
 
+// The line that names it, without an end; empty where none can, as its place holds a line's end.
+QString lineOf(const Drive &drive);
+
 // The user's Wine prefix, absolute: $WINEPREFIX, else ".wine" in the home.
 QString winePrefix();
 

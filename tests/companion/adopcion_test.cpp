@@ -150,6 +150,14 @@ TEST_F(Adopt, OnesOwnDrivesAndCapturesStay)
         "E=" + Ruta(u"emu"_s).toUtf8() + "\r\nC=" + Ruta(u"old/disk"_s).toUtf8() + "\r\n");
 }
 
+TEST_F(Adopt, ADriveWhosePlaceEndsInABlankIsTakenOverWhole)
+{
+    PonDirectorio(u"old/disk "_s);
+    Pon(u"old/Zembro.uni"_s, "C=disk /\r\n");
+    Adopta({ u"--write"_s }, companion::Bien);
+    EXPECT_EQ(Bytes(u"Zembro.uni"_s), "C=" + Ruta(u"old/disk"_s).toUtf8() + " /\r\n");
+}
+
 TEST_F(Adopt, DrivesOfWineStayInUseWhereTheFileIsNew)
 {
     PonDirectorio(u"wine/dosdevices"_s);

@@ -49,7 +49,7 @@ void escritas(const std::vector<host::Drive> &unidades)
 {
     QString texto;
     for (const host::Drive &unidad : unidades)
-        texto += unidad.letter + u"="_s + unidad.place + u"\r\n"_s;
+        texto += host::lineOf(unidad) + u"\r\n"_s;
     const std::vector<host::Drive> otra = host::drivesIn(texto, u"/base"_s);
     Exige(otra.size() == unidades.size(), "as many drives are read back", texto);
     for (std::size_t i = 0; i < otra.size(); ++i) {

@@ -72,6 +72,18 @@ TEST(DriveLines, APlaceThatIsNotAbsoluteCountsFromTheExecutable)
     EXPECT_THAT(drivesIn(u"C=../oldc/"_s, u"/p"_s), ElementsAre(Drive { u'C', u"/p/../oldc"_s }));
 }
 
+TEST(DriveLines, AreReadBackAsTheyAreWritten)
+{
+    for (const QString &place : { u"/"_s, u"/media/cd"_s, u"/a b "_s, u"/ "_s, u"/a=b, \"c\""_s, u"/C:"_s,
+             u"/tab\t"_s, u"/ni\uF7A4o"_s }) {
+        const QString line = lineOf({ u'D', place });
+        EXPECT_THAT(drivesIn(line, u"/p"_s), ElementsAre(Drive { u'D', place })) << line.toStdString();
+    }
+    EXPECT_EQ(lineOf({ u'D', u"/media/cd"_s }), u"D=/media/cd");
+    EXPECT_EQ(lineOf({ u'D', u"/a\nb"_s }), QString()) << "no line can name it";
+    EXPECT_EQ(lineOf({ u'D', u"/a\\"_s }), QString());
+}
+
 TEST(DriveLines, OfTwoForALetterTheFirstCounts)
 {
     EXPECT_THAT(drivesIn(u"C=/a\nc:=/b"_s, u"/p"_s), ElementsAre(Drive { u'C', u"/a"_s }));
