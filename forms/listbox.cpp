@@ -95,10 +95,11 @@ void ListBox::scrollContentsBy(int dx, int dy)
     viewport()->update();
 }
 
-void ListBox::paintEvent(QPaintEvent *)
+void ListBox::paintEvent(QPaintEvent *event)
 {
-    // Letters may hang over the row's edge: all rows are painted, wherever one has to be.
-    QPaintEvent rows(QRect(0, 0, viewport()->width(), rowsEnd()));
+    // Letters may hang over the row's edge: with a row its neighbours are painted.
+    const int row = fontMetrics().height();
+    QPaintEvent rows(event->rect().adjusted(0, -row, 0, row) & QRect(0, 0, viewport()->width(), rowsEnd()));
     for (const Rows::Layer layer : { Rows::Layer::Grounds, Rows::Layer::Letters }) {
         m_rows->SetLayer(layer);
         Control::paintEvent(&rows);

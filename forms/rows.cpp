@@ -170,8 +170,11 @@ struct Room {
 Room roomOf(const QStyleOptionViewItem &row)
 {
     const QStyle &style = *row.widget->style();
-    const QRect text = style.subElementRect(QStyle::SE_ItemViewItemText, &row, row.widget);
-    const int left = text.left() + style.pixelMetric(QStyle::PM_FocusFrameHMargin, &row, row.widget) + 1;
+    // Without a picture ahead of it the toolkit need not lay it out, which takes longer than to paint it.
+    const int text = row.icon.isNull()
+        ? row.rect.left()
+        : style.subElementRect(QStyle::SE_ItemViewItemText, &row, row.widget).left();
+    const int left = text + style.pixelMetric(QStyle::PM_FocusFrameHMargin, &row, row.widget) + 1;
     const auto *view = qobject_cast<const QAbstractScrollArea *>(row.widget);
     return { left, (view ? view->viewport()->width() : row.rect.right() + 1) - left };
 }
@@ -232,6 +235,8 @@ bool Rows::helpEvent(
 
 void Rows::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
+    if (m_layer == Layer::Grounds && !isSelected(option) && !option.state.testFlag(QStyle::State_HasFocus))
+        return;
     QStyleOptionViewItem row = rowOf(option, index);
     const Room room = roomOf(row);
     if (m_height == Height::WithRoom) {

@@ -167,6 +167,28 @@ TEST_P(RowPictures, TheDotsOfTheFocusLeaveTheLettersOut)
     }
 }
 
+TEST_P(RowPictures, AStripThatIsPaintedAloneShowsWhatTheWholeShows)
+{
+    list.Clear();
+    for (int i = 0; i < Rows; ++i)
+        list.AddItem(u"ÅÑgjpqy_"_s);
+    list.SetListIndex(2);
+    const QImage whole = pictureOf(list, GetParam());
+    for (int y = 0; y + 3 <= list.height(); ++y) {
+        const QRect strip(0, y, list.width(), 3);
+        const QRect inside = QTransform::fromScale(GetParam(), GetParam())
+                                 .mapRect(QRectF(strip))
+                                 .toRect()
+                                 .adjusted(0, 1, 0, -1);
+        QPixmap picture((QSizeF(list.size()) * GetParam()).toSize());
+        picture.setDevicePixelRatio(GetParam());
+        picture.fill(Qt::magenta);
+        list.render(&picture, strip.topLeft(), strip);
+        EXPECT_EQ(picture.toImage().convertToFormat(QImage::Format_RGB32).copy(inside), whole.copy(inside))
+            << y;
+    }
+}
+
 TEST_P(RowPictures, BelowTheLastWholeRowNothingOfTheNextShows)
 {
     constexpr int Many = 40;
