@@ -61,7 +61,7 @@ bool NumberedFiles::atEnd(int number)
 
 QString NumberedFiles::rest(int number)
 {
-    return open(number, "read the rest").source.rest().toString();
+    return open(number, "read the rest").source.restOfText();
 }
 
 void NumberedFiles::close(int number)

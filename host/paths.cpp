@@ -110,9 +110,12 @@ qsizetype Finder::takeLongest(const QStringList &pieces, qsizetype first)
 
 QByteArray shortForm(const QByteArray &directory, const QByteArray &name)
 {
+    const QString plain = plainShortForm(nameFromDisk(name));
+    if (plain == nameFromDisk(name))
+        return name;
     const auto names = Directory::at(directory);
     // A directory that can be entered but not listed shows no names to collide with.
-    return nameToDisk(names ? names->shortForm(nameFromDisk(name)) : plainShortForm(nameFromDisk(name)));
+    return nameToDisk(names ? names->shortForm(nameFromDisk(name)) : plain);
 }
 
 QString &chosenProgramDirectory()

@@ -12,8 +12,10 @@ namespace host {
 
 namespace {
 
-bool readBegin(const Descriptor &file, qint64 most, QByteArray &bytes)
+bool readBegin(const Descriptor &file, qint64 size, qint64 most, QByteArray &bytes)
 {
+    constexpr qint64 InOnePiece = 16 << 20; // room that a wrong size may take in vain
+    bytes.reserve(std::min({ size, most, InOnePiece }));
     std::array<char, 65536> buffer;
     while (bytes.size() < most) {
         const size_t wanted = size_t(std::min<qint64>(most - bytes.size(), buffer.size()));
@@ -40,7 +42,7 @@ std::optional<PlainFile> readPlainFile(int directory, const QByteArray &name, in
         errno = EISDIR;
         return std::nullopt;
     }
-    if (!readBegin(result.descriptor, most, result.bytes))
+    if (!readBegin(result.descriptor, result.status.st_size, most, result.bytes))
         return std::nullopt;
     return result;
 }

@@ -28,7 +28,7 @@ bool TextSource::passLine(QStringView beginning)
             m_position = m_text.size();
             return false;
         }
-        if (place == m_position || m_text[place - 1] == u'\n') {
+        if (place == m_position || m_text.at(place - 1) == u'\n') {
             takeUntil(m_text.indexOf(u'\n', place));
             return true;
         }
@@ -40,9 +40,9 @@ QString TextSource::readField()
 {
     if (atEnd())
         throw Failure(PastEndOfFile, u"read a field past the end"_s);
-    while (!atEnd() && m_text[m_position] == u' ')
+    while (!atEnd() && m_text.at(m_position) == u' ')
         ++m_position;
-    if (!atEnd() && m_text[m_position] == u'"')
+    if (!atEnd() && m_text.at(m_position) == u'"')
         return readQuotedField();
     QStringView field = takeUntil(fieldEnd(m_position));
     while (field.endsWith(u' '))
@@ -72,7 +72,7 @@ QStringView TextSource::takeUntil(qsizetype end)
     const bool endsHere = end >= 0 && end < m_text.size();
     QStringView piece = QStringView(m_text).sliced(m_position, (endsHere ? end : m_text.size()) - m_position);
     m_position += piece.size() + (endsHere ? 1 : 0);
-    if (endsHere && m_text[end] == u'\n' && piece.endsWith(u'\r'))
+    if (endsHere && m_text.at(end) == u'\n' && piece.endsWith(u'\r'))
         piece.chop(1);
     return piece;
 }

@@ -27,6 +27,9 @@ public:
     // What hasn't been read yet.
     QStringView rest() const { return QStringView(m_text).sliced(m_position); }
 
+    // The same as a text of its own, which at the beginning costs no copy.
+    QString restOfText() const { return m_text.mid(m_position); }
+
 private:
     QString readQuotedField();
     qsizetype fieldEnd(qsizetype from) const; // index of the next comma or line end, or the size of the text
