@@ -100,6 +100,11 @@ QStringList CuentaPartida(const launch::Partida &partida, const Palabras &palabr
         lineas << palabras.Zbo_ConEstado.arg(QString::number(*partida.final.status), segundos);
     else
         lineas << (partida.acabada ? palabras.Zbo_FinSinSaber.arg(segundos) : palabras.Zbo_SinFinal);
+    const QString otro = partida.fallo.startsWith(launch::SinEjecutable)
+        ? ProgramaParecido(partida.fallo.sliced(launch::SinEjecutable.size()))
+        : QString();
+    if (!otro.isEmpty())
+        lineas << palabras.Zbo_Parecido.arg(otro);
     for (const Impedimento &falta : faltasTras(partida, palabras))
         lineas << falta.texto;
     return lineas;

@@ -281,13 +281,15 @@ TEST_F(Play, TheOnlySystemAndEmulatorNeedNoName)
     EXPECT_EQ(Zembro({ u"play"_s, {}, {}, u"super"_s }).estado, companion::Bien);
 }
 
-TEST_F(Play, AStartThatFailsIsSaid)
+TEST_F(Play, AStartThatFailsIsSaid_WithTheProgramThatIsMeant)
 {
     Cambia(u"Zembro.emu"_s, "emu/uno.sh", "emu/one.sh");
     const Respuesta respuesta = Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"Zelda.nes"_s });
     EXPECT_EQ(respuesta.estado, companion::NoPudo);
     EXPECT_TRUE(respuesta.error.endsWith("zembro: Doesn't start: There is no program "
-        + Ruta(u"emu/one.sh"_s).toUtf8() + "; correct its path in the configuration.\n"))
+        + Ruta(u"emu/one.sh"_s).toUtf8()
+        + "; correct its path in the configuration.\nzembro: Perhaps this one is meant: "
+        + Ruta(u"emu/uno.sh"_s).toUtf8() + '\n'))
         << respuesta.error.toStdString();
 }
 
