@@ -1,5 +1,6 @@
 #include "host/desktopquestions.h"
 
+#include "host/focus.h"
 #include "host/process.h"
 
 #include <QAbstractButton>
@@ -8,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 #include <cstdio>
@@ -49,14 +51,43 @@ public:
         name(button(Ok), words().accept);
         name(button(Cancel), words().cancel);
     }
+
+protected:
+    void showEvent(QShowEvent *event) override
+    {
+        QMessageBox::showEvent(event);
+        centreWithoutManager(*this);
+    }
 };
+
+class PasswordBox final : public QInputDialog {
+public:
+    using QInputDialog::QInputDialog;
+
+protected:
+    void showEvent(QShowEvent *event) override
+    {
+        QInputDialog::showEvent(event);
+        centreWithoutManager(*this);
+    }
+};
+
+// The window below may be gone by the end.
+int answerTo(QDialog &box)
+{
+    const QPointer<QWidget> below = box.parentWidget();
+    const int answer = box.exec();
+    if (below)
+        takeFreeFocus(*below);
+    return answer;
+}
 
 QMessageBox::StandardButton ask(
     const QString &title, const QString &text, QMessageBox::StandardButtons buttons)
 {
     PlainBox box(QMessageBox::Question, title, text, buttons, QApplication::activeWindow());
     box.setDefaultButton(QMessageBox::No);
-    return QMessageBox::StandardButton(box.exec());
+    return QMessageBox::StandardButton(answerTo(box));
 }
 
 // Without what a terminal would obey.
@@ -88,7 +119,7 @@ const AnswerWords &answerWords()
 
 QString DesktopQuestions::askText(const QString &prompt)
 {
-    QInputDialog box(QApplication::activeWindow());
+    PasswordBox box(QApplication::activeWindow());
     box.setWindowTitle(QGuiApplication::applicationDisplayName());
     box.setTextEchoMode(QLineEdit::Password);
     box.setLabelText(caption(prompt));
@@ -97,7 +128,7 @@ QString DesktopQuestions::askText(const QString &prompt)
         box.setOkButtonText(caption(words().accept));
     if (!words().cancel.isEmpty())
         box.setCancelButtonText(caption(words().cancel));
-    return box.exec() == QDialog::Accepted ? box.textValue() : QString();
+    return answerTo(box) == QDialog::Accepted ? box.textValue() : QString();
 }
 
 Questions::Answer DesktopQuestions::askYesNoCancel(const QString &title, const QString &text)
@@ -119,7 +150,8 @@ bool DesktopQuestions::askYesNo(const QString &title, const QString &text)
 
 void DesktopQuestions::tell(const QString &title, const QString &text)
 {
-    PlainBox(QMessageBox::NoIcon, title, text, QMessageBox::Ok, QApplication::activeWindow()).exec();
+    PlainBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok, QApplication::activeWindow());
+    answerTo(box);
 }
 
 void DesktopQuestions::endWithError(const QString &title, const QString &text)

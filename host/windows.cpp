@@ -1,8 +1,7 @@
 #include "host/windows.h"
 
 #include "host/letters.h"
-
-#include <QGuiApplication>
+#include "host/x11.h"
 
 #include <xcb/xcb_ewmh.h>
 
@@ -12,13 +11,6 @@
 namespace host {
 
 namespace {
-
-xcb_connection_t *x11Connection()
-{
-    auto *application = qobject_cast<QGuiApplication *>(QCoreApplication::instance());
-    auto *x11 = application ? application->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
-    return x11 ? x11->connection() : nullptr;
-}
 
 // The window manager's vocabulary on a connection, which takes some hundred questions to learn.
 class WindowManager {

@@ -6,6 +6,7 @@
 
 #include "forms/yield.h"
 
+#include "host/focus.h"
 #include "host/letters.h"
 #include "host/windows.h"
 
@@ -37,6 +38,7 @@ void Portada::ConectaLanzamiento()
 void Portada::Jugar()
 {
     launch::Jugar(M, *this);
+    host::takeFreeFocus(*this);
 }
 
 QString Portada::TextoCombo2() const

@@ -1,6 +1,7 @@
 #!/bin/bash
 # Runs one command under an X server and a window manager of its own, and passes its exit status on. With ONE_PROCESSOR
-# in the environment all of them share one; SCREEN_SIZE makes it another screen than 1280x1024x24.
+# in the environment all of them share one; SCREEN_SIZE makes it another screen than 1280x1024x24; with NO_MANAGER there is
+# no window manager.
 # Server, manager and command are bound to the life of this script, so that nothing is left when it is interrupted.
 set -u
 
@@ -33,8 +34,10 @@ fi
 export DISPLAY=:$number
 unset WAYLAND_DISPLAY
 
-(bound TERM openbox --sm-disable >/dev/null 2>&1) &
-manager=$!
+if [ -z "${NO_MANAGER-}" ]; then
+    (bound TERM openbox --sm-disable >/dev/null 2>&1) &
+    manager=$!
+fi
 
 # A window manager is up once the window that the root names names itself.
 manager_is_up() {
@@ -43,11 +46,12 @@ manager_is_up() {
     [ -n "$window" ] && xprop -id "$window" _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q "$window"
 }
 for _ in $(seq 600); do
+    [ -n "$manager" ] || break
     manager_is_up && break
     kill -0 "$manager" 2>/dev/null || break
     sleep 0.1
 done
-if ! manager_is_up; then
+if [ -n "$manager" ] && ! manager_is_up; then
     echo "$0: no window manager" >&2
     exit 2
 fi

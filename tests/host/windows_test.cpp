@@ -1,6 +1,8 @@
 // Other programs' windows by title, under a real window manager.
 #include "host/windows.h"
 
+#include "host/focus.h"
+
 #include <QElapsedTimer>
 #include <QTest>
 #include <QWidget>
@@ -188,6 +190,11 @@ TEST(Windows, ClosingAWindowThatIsGoneDoesNothing)
     }
     host::closeWindow(id);
     EXPECT_FALSE(isFound(u"no such window"_s));
+}
+
+TEST(Windows, AScreenWithAWindowManagerIsKnown)
+{
+    EXPECT_FALSE(host::isWithoutManager());
 }
 
 } // namespace
