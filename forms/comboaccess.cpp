@@ -6,9 +6,18 @@
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace forms {
 
 namespace {
+
+QString withEntry(const QString &name, const QString &entry)
+{
+    if (name.isEmpty() || entry.isEmpty())
+        return name + entry;
+    return name + (name.endsWith(u':') ? u" "_s : u": "_s) + entry;
+}
 
 class ComboAccess final : public QAccessibleWidget {
 public:
@@ -20,7 +29,14 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Value ? m_combo.Text() : QAccessibleWidget::text(kind);
+        switch (kind) {
+        case QAccessible::Value:
+            return m_combo.Text();
+        case QAccessible::Name:
+            return withEntry(m_combo.accessibleName(), m_combo.Text());
+        default:
+            return QAccessibleWidget::text(kind);
+        }
     }
 
     // The list that drops down. While it is shut it is none: its entries would count as showing.
@@ -73,6 +89,13 @@ QAccessibleInterface *accessOf(const QString &, QObject *object)
 void TellAssistantsOfCombos()
 {
     QAccessible::installFactory(&accessOf);
+}
+
+// What the toolkit itself tells of it, a changed value, isn't handed on.
+void TellOfEntry(ComboBox &combo)
+{
+    QAccessibleEvent changed(&combo, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&changed);
 }
 
 } // namespace forms

@@ -3,8 +3,14 @@
 
 namespace forms {
 
-// From here on they get a drop-down list's accessible name as its name, and the selected entry as its value.
-// By itself the toolkit tells the entry for both on a Unix desktop. Called once, with the application there.
+class ComboBox;
+
+// From here on they get a drop-down list's accessible name with the selected entry behind it as its name: the
+// one text that a Unix desktop hands on to them, and whose change they hear. By itself the toolkit tells the
+// entry alone. Called once, with the application there.
 void TellAssistantsOfCombos();
+
+// Another entry is selected, or none.
+void TellOfEntry(ComboBox &combo);
 
 } // namespace forms

@@ -1,5 +1,6 @@
 #include "forms/combobox.h"
 
+#include "forms/comboaccess.h"
 #include "forms/plaintext.h"
 #include "forms/rows.h"
 #include "forms/shownpart.h"
@@ -30,6 +31,7 @@ ComboBox::ComboBox(QWidget *parent, bool sorted)
     // The last of the signals of a pick: the handler may destroy the control. It comes for the entry that
     // shows, too.
     connect(this, &QComboBox::textActivated, this, [this] { Selection.raise(); });
+    connect(this, &QComboBox::currentIndexChanged, this, [this] { TellOfEntry(*this); });
 }
 
 int ComboBox::AddItem(const QString &text, int itemData)
@@ -62,12 +64,15 @@ void ComboBox::RemoveItem(int index)
     if (index == currentIndex())
         setCurrentIndex(-1);
     removeItem(index);
+    if (currentIndex() < 0)
+        TellOfEntry(*this);
 }
 
 void ComboBox::Clear()
 {
     const QSignalBlocker quiet(this);
     clear();
+    TellOfEntry(*this);
 }
 
 QString ComboBox::List(int index) const
@@ -111,6 +116,7 @@ void ComboBox::select(int index)
         const QSignalBlocker quiet(this);
         setCurrentIndex(index);
     }
+    TellOfEntry(*this);
     if (index >= 0)
         Selection.raise();
 }

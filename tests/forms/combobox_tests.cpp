@@ -321,17 +321,22 @@ TEST_F(Combos, AComboDestroyedInItsHandler_IsNotTouchedAnyMore)
     EXPECT_TRUE(victim.isNull());
 }
 
-TEST_F(Combos, AssistivePrograms_SeeAComboWithItsNameAndItsEntryAsValue)
+TEST_F(Combos, AssistivePrograms_SeeAComboByItsNameAndItsEntry)
 {
-    combo.setAccessibleName(u"Sistema"_s);
     combo.Clear();
     combo.AddItem(u"Amiga"_s);
     combo.AddItem(u"MSX"_s);
-    combo.SetText(u"MSX"_s);
     QAccessibleInterface *access = QAccessible::queryAccessibleInterface(&combo);
     EXPECT_EQ(access->role(), QAccessible::ComboBox);
+    combo.setAccessibleName(u"Sistema"_s);
     EXPECT_EQ(access->text(QAccessible::Name), u"Sistema"_s);
+    combo.SetText(u"MSX"_s);
+    EXPECT_EQ(access->text(QAccessible::Name), u"Sistema: MSX"_s);
     EXPECT_EQ(access->text(QAccessible::Value), u"MSX"_s);
+    combo.setAccessibleName(u"Sistema:"_s);
+    EXPECT_EQ(access->text(QAccessible::Name), u"Sistema: MSX"_s);
+    combo.setAccessibleName({});
+    EXPECT_EQ(access->text(QAccessible::Name), u"MSX"_s);
 }
 
 TEST_F(Combos, AssistivePrograms_DropTheListDownAndReachItsEntries)
