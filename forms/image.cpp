@@ -2,14 +2,28 @@
 
 #include "forms/focusframe.h"
 #include "forms/pictures.h"
+#include "forms/sharp.h"
 
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPointer>
 
+#include <cstdlib>
 #include <utility>
 
 namespace forms {
+
+namespace {
+
+// Smoothed over the place, which seldom holds a whole number of the screen's pixels, a picture that was made
+// for them would blur.
+bool isMadeFor(QPainter &painter, const QRect &place, const QPixmap &picture)
+{
+    const QSize rest = Sharp(painter, place).place().size() - picture.size();
+    return std::abs(rest.width()) <= 1 && std::abs(rest.height()) <= 1;
+}
+
+} // namespace
 
 Image::Image(QWidget *parent)
     : Control(parent)
@@ -47,6 +61,8 @@ void Image::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (!m_artwork.isEmpty())
         painter.drawPixmap(rect(), artwork(m_artwork, size(), devicePixelRatioF()));
+    else if (!m_picture.isNull() && isMadeFor(painter, rect(), m_picture))
+        drawUnscaled(painter, rect(), m_picture);
     else if (!m_picture.isNull())
         painter.drawPixmap(rect(), m_picture);
     if (m_border) {

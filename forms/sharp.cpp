@@ -1,6 +1,7 @@
 #include "forms/sharp.h"
 
 #include <QPainter>
+#include <QPixmap>
 #include <QTransform>
 
 #include <algorithm>
@@ -30,6 +31,13 @@ Sharp::~Sharp()
 int Sharp::pixels(int designPixels) const
 {
     return std::max(1, qRound(designPixels * m_scale));
+}
+
+void drawUnscaled(QPainter &painter, const QRect &place, const QPixmap &picture)
+{
+    const Sharp sharp(painter, place);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    painter.drawPixmap(QRect(sharp.place().topLeft(), picture.size()), picture);
 }
 
 } // namespace forms

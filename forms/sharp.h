@@ -4,6 +4,7 @@
 #include <QRect>
 
 class QPainter;
+class QPixmap;
 
 namespace forms {
 
@@ -25,5 +26,8 @@ private:
     QRect m_place;
     double m_scale;
 };
+
+// Each pixel of the picture on one of the device, from the corner of the place on.
+void drawUnscaled(QPainter &painter, const QRect &place, const QPixmap &picture);
 
 } // namespace forms

@@ -26,7 +26,8 @@ constexpr QRgb Rojo = qRgb(255, 0, 0);
 
 QPixmap hojaDelConsejo(const QWidget &consejo)
 {
-    QPixmap hoja(consejo.size() * consejo.devicePixelRatioF());
+    const QSizeF puntos = QSizeF(consejo.size()) * consejo.devicePixelRatioF();
+    QPixmap hoja(qCeil(puntos.width()), qCeil(puntos.height()));
     hoja.setDevicePixelRatio(consejo.devicePixelRatioF());
     hoja.fill(QColor(forms::NotePaper));
     return hoja;

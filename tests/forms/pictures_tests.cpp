@@ -224,6 +224,31 @@ TEST_F(Images, APicture_IsStretchedOverTheWholeImage)
     EXPECT_EQ(image.Picture().cacheKey(), picture.cacheKey());
 }
 
+TEST_F(Images, APictureMadeForTheScreensPixels_IsDrawnInThem)
+{
+    for (const double scale : { 1.0, 1.1, 1.25, 1.33, 1.5, 1.75, 2.0, 2.5, 3.0 }) {
+        QImage lines(qCeil(90 * scale), qCeil(19 * scale), QImage::Format_RGB32);
+        lines.setDevicePixelRatio(scale);
+        for (int x = 0; x < lines.width(); ++x) {
+            for (int y = 0; y < lines.height(); ++y)
+                lines.setPixelColor(x, y, x % 2 == 0 && y % 2 == 0 ? Qt::black : Qt::white);
+        }
+        image.SetPicture(QPixmap::fromImage(lines));
+        for (int at = 7; at < 11; ++at) {
+            image.setGeometry(at, at, 90, 19);
+            QImage shown(form.size() * scale, QImage::Format_RGB32);
+            shown.setDevicePixelRatio(scale);
+            form.render(&shown);
+            const QRect part(qRound(at * scale), qRound(at * scale), qFloor(90 * scale), qFloor(19 * scale));
+            QImage expected = lines.copy(QRect(QPoint(0, 0), part.size()));
+            QImage met = shown.copy(part);
+            met.setDevicePixelRatio(1);
+            expected.setDevicePixelRatio(1);
+            EXPECT_EQ(met, expected) << scale << ' ' << at;
+        }
+    }
+}
+
 TEST_F(Images, Artwork_IsDrawnAtTheImagesSize)
 {
     image.SetPicture(solid(Qt::green));
