@@ -1,5 +1,6 @@
 #include "forms/label.h"
 
+#include "forms/clippedtext.h"
 #include "forms/growth.h"
 #include "forms/plaintext.h"
 #include "forms/shape.h"
@@ -181,41 +182,29 @@ void Label::hideEvent(QHideEvent *event)
     hideWhole();
 }
 
-// Of a wrapped caption that is higher than its place: the height of the lines that have room, in pixels; else
-// 0.
-int Label::wholeLines() const
+// Of a wrapped caption that is higher than its place: what of it is painted.
+std::optional<QString> Label::clipped() const
 {
     if (m_growing || !wordWrap())
-        return 0;
-    const QFontMetrics metrics = fontMetrics();
-    const int room = contentsRect().height();
-    const QRect needed =
-        metrics.boundingRect(contentsRect(), int(alignment()) | Qt::TextWordWrap, shownPart(text()));
-    if (needed.height() <= room)
-        return 0;
-    const int lines = (room + metrics.leading()) / metrics.lineSpacing();
-    return lines * metrics.lineSpacing();
+        return {};
+    return clippedText(shownPart(m_shown), font(), contentsRect().size());
 }
 
 void Label::paintEvent(QPaintEvent *event)
 {
-    const int whole = wholeLines();
-    if (m_shown == text() && whole == 0) {
+    const std::optional<QString> lines = clipped();
+    if (m_shown == text() && !lines) {
         Control::paintEvent(event);
         return;
     }
     QPainter painter(this);
-    int flags = int(alignment());
-    if (whole > 0) {
-        flags |= Qt::TextWordWrap;
-        painter.setClipRect(contentsRect().x(), contentsRect().y(), contentsRect().width(), whole);
-    }
-    style()->drawItemText(&painter, contentsRect(), flags, palette(), isEnabled(), m_shown, foregroundRole());
+    style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(), isEnabled(),
+        lines.value_or(m_shown), foregroundRole());
 }
 
 bool Label::event(QEvent *event)
 {
-    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || wholeLines() == 0)
+    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || !clipped())
         return Control::event(event);
     QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), asTipOfLines(text()), this);
     return true;

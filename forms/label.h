@@ -7,6 +7,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <optional>
 
 namespace forms {
 
@@ -45,7 +46,7 @@ protected:
 
 private:
     void grow();
-    int wholeLines() const;
+    std::optional<QString> clipped() const;
     void shorten();
     void showWhole();
     void hideWhole();

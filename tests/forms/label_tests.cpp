@@ -241,11 +241,60 @@ protected:
 
 TEST_F(ClippedLabels, EndBehindTheirLastWholeLine_AndShowAllAsATip)
 {
-    const int line = label.fontMetrics().lineSpacing();
+    label.SetCaption(u"gjq\ngjq"_s);
+    const int twoLines = lowestInk();
     label.SetCaption(u"gjq\ngjq\ngjq\ngjq"_s);
-    EXPECT_LT(lowestInk(), 2 * line);
-    EXPECT_GE(lowestInk(), line + line / 2);
+    EXPECT_EQ(lowestInk(), twoLines);
     EXPECT_EQ(tip(), forms::asTipOfLines(u"gjq\ngjq\ngjq\ngjq"_s));
+}
+
+// The rows of the picture that show ink, counted from each line's own top.
+QSet<int> inkedRows(const QImage &picture)
+{
+    QSet<int> rows;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qGray(picture.pixel(x, y)) < 250)
+                rows << y;
+        }
+    }
+    return rows;
+}
+
+TEST_F(ClippedLabels, ShowTheFeetOfTheirLastLineAtEveryScale)
+{
+    for (const double points : { 8.25, 9.75 }) {
+        label.setFont(forms::arial(points));
+        for (const double scale : { 1.0, 1.25, 1.5, 2.0, 3.0 }) {
+            const auto picture = [&](const QString &caption, int height) {
+                label.SetPlace({ 600, 600, 1200, forms::twips(height) });
+                label.SetCaption(caption);
+                QImage shown(label.size() * scale, QImage::Format_RGB32);
+                shown.setDevicePixelRatio(scale);
+                shown.fill(Qt::white);
+                label.render(&shown);
+                return inkedRows(shown);
+            };
+            const int room = label.fontMetrics().height() * 5 / 2;
+            EXPECT_EQ(picture(u"Ágjq\nÁgjq\nÁgjq"_s, room), picture(u"Ágjq\nÁgjq"_s, 60))
+                << points << ' ' << scale;
+        }
+    }
+}
+
+TEST_F(ClippedLabels, EndInAnEllipsisWhereTheTextGoesOn)
+{
+    const auto picture = [this](const QString &caption) {
+        label.SetCaption(caption);
+        return label.grab().toImage();
+    };
+    const QImage marked = picture(u"Erase\nthis one…"_s);
+    EXPECT_EQ(picture(u"Erase\nthis one\ngjq"_s), marked);
+    EXPECT_EQ(label.Caption(), u"Erase\nthis one\ngjq"_s);
+    const QString second = u"one long name of an emulator"_s;
+    const QImage shortened =
+        picture(u"Erase\n"_s + label.fontMetrics().elidedText(second, Qt::ElideRight, label.width()));
+    EXPECT_EQ(picture(u"Erase\n"_s + second), shortened);
 }
 
 TEST_F(ClippedLabels, ThatHaveRoomLookAsTheToolkitPaintsThem_WithoutATip)
