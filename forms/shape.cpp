@@ -1,5 +1,6 @@
 #include "forms/shape.h"
 
+#include "forms/pieces.h"
 #include "forms/shownpart.h"
 
 #include <QLabel>
@@ -40,11 +41,7 @@ void Shape::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setClipRegion(QRegion(rect()) - headingRect());
-    // Filled, not stroked: at a fraction of the design size a line between two pixels gets lost.
-    painter.fillRect(0, 0, width(), 1, m_colour);
-    painter.fillRect(0, height() - 1, width(), 1, m_colour);
-    painter.fillRect(0, 0, 1, height(), m_colour);
-    painter.fillRect(width() - 1, 0, 1, height(), m_colour);
+    drawFrame(painter, rect(), m_colour);
 }
 
 } // namespace forms

@@ -10,12 +10,14 @@
 #include "forms/listbox.h"
 #include "forms/messageicons.h"
 #include "forms/pieces.h"
+#include "forms/shape.h"
 #include "forms/textbox.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QMenu>
 #include <QMessageBox>
+#include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
@@ -358,6 +360,28 @@ TEST(Frames, BetweenTheLineAndWhatItFramesNothingOfTheScreenShows)
                     EXPECT_EQ(met, QList({ qRgb(255, 0, 255), edge, paper, edge, qRgb(255, 0, 255) }))
                         << scale << ' ' << at;
                 }
+            }
+        }
+    }
+}
+
+TEST(Frames, OfAShapeAreAsThickOnAllSidesAtEveryScale)
+{
+    forms::Form form(u"Form"_s, 3000, 2250, forms::Form::Border::None);
+    form.SetBackColour(Qt::magenta);
+    forms::Shape shape(Qt::cyan, &form);
+    for (const double scale : Scales) {
+        const int line = std::max(1, qRound(scale));
+        for (int at = 7; at < 11; ++at) {
+            shape.setGeometry(at, at, 121, 84 + at);
+            const QImage picture = pictureOf(form, scale);
+            for (const QImage &each : { picture, picture.transformed(QTransform().rotate(90)) }) {
+                QList<int> lines;
+                for (const auto &[colour, length] : runsDown(each, each.width() / 2)) {
+                    if (colour != qRgb(255, 0, 255))
+                        lines << (colour == qRgb(0, 255, 255) ? length : -1);
+                }
+                EXPECT_EQ(lines, QList({ line, line })) << scale << ' ' << at;
             }
         }
     }
