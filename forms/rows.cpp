@@ -2,6 +2,7 @@
 
 #include "forms/colours.h"
 #include "forms/plaintext.h"
+#include "forms/sharp.h"
 #include "forms/shownpart.h"
 
 #include <QAbstractItemView>
@@ -179,13 +180,16 @@ Room roomOf(const QStyleOptionViewItem &row)
     return { left, (view ? view->viewport()->width() : row.rect.right() + 1) - left };
 }
 
+// Neither smoothed nor, in the selected row, dulled.
 void drawIcon(QPainter &painter, const QStyle &style, const QStyleOptionViewItem &row)
 {
-    if (row.icon.isNull())
+    const auto picture = row.index.data(Qt::DecorationRole).value<QPixmap>();
+    if (picture.isNull())
         return;
     const QRect place = style.subElementRect(QStyle::SE_ItemViewItemDecoration, &row, row.widget);
-    row.icon.paint(
-        &painter, place, row.decorationAlignment, isSelected(row) ? QIcon::Selected : QIcon::Normal);
+    const QSize size = picture.deviceIndependentSize().toSize().boundedTo(place.size());
+    drawUnscaled(
+        painter, QStyle::alignedRect(Qt::LeftToRight, row.decorationAlignment, size, place), picture);
 }
 
 } // namespace

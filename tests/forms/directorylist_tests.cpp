@@ -217,4 +217,31 @@ TEST_F(DirectoryLists, TheirFoldersAreYellow_OpenOnesOthersThanShutOnes)
     EXPECT_NE(open, shut.copy(shut.width() - open.width(), 0, open.width(), open.height()));
 }
 
+// Where a directory's picture stands on the list, and how it looks on its own.
+TEST_F(DirectoryLists, TheirFoldersAreDrawnPixelByPixel_AlsoInTheSelectedRow)
+{
+    list.SetPath(path(u"Zeta"_s));
+    list.SetListIndex(1);
+    const auto picture = [this](int row) {
+        return list.model()->index(row, 0).data(Qt::DecorationRole).value<QPixmap>().toImage();
+    };
+    for (int row = 0; row < 3; ++row) {
+        const QImage folder = picture(row).convertToFormat(QImage::Format_ARGB32);
+        const QImage shown = list.viewport()->grab(list.visualRect(list.model()->index(row, 0))).toImage();
+        int found = 0;
+        for (int left = 0; left < 6; ++left) {
+            for (int top = 0; top < 6; ++top) {
+                bool same = true;
+                for (int y = 0; y < folder.height() && same; ++y) {
+                    for (int x = 0; x < folder.width() && same; ++x)
+                        same = qAlpha(folder.pixel(x, y)) < 255
+                            || shown.pixel(left + x, top + y) == folder.pixel(x, y);
+                }
+                found += same;
+            }
+        }
+        EXPECT_EQ(found, 1) << row;
+    }
+}
+
 } // namespace
