@@ -63,6 +63,8 @@ public:
     // The entry at this point of the client area, in pixels; below the last entry ListCount() is given where
     // that is still inside the control, -1 outside.
     int ItemFromPoint(int x, int y) const;
+    // Where it shows, in pixels of the client area; empty for an index out of range.
+    QRect RowPlace(int index) const { return visualRect(model()->index(index, 0)); }
 
 protected:
     void keyboardSearch(const QString &letters) override;

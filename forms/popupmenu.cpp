@@ -53,4 +53,13 @@ void PopupMenu::PopupOver(const QWidget &control)
     exec(control.mapToGlobal(control.rect().center()));
 }
 
+void PopupMenu::PopupUnder(const QWidget &control, const QRect &part)
+{
+    const QRect seen = part & control.rect();
+    if (seen.isEmpty())
+        PopupOver(control);
+    else
+        exec(control.mapToGlobal(QPoint(seen.left() + seen.height(), seen.bottom() + 1)));
+}
+
 } // namespace forms

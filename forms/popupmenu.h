@@ -38,6 +38,7 @@ public:
     // At the pointer; returns when it has closed, and the entry chosen has raised its Click.
     void Popup();
     void PopupOver(const QWidget &control); // in its middle, for the keyboard
+    void PopupUnder(const QWidget &control, const QRect &part); // the same beside what stands there
 
 private:
     std::vector<std::unique_ptr<MenuEntry>> m_entries;

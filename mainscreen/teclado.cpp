@@ -79,7 +79,7 @@ void Portada::ConectaTeclado()
 
     Lista1->MenuKey = [this] {
         if (!Lista1->Text().isEmpty())
-            Menu_Lista1->PopupOver(*Lista1);
+            Menu_Lista1->PopupUnder(*Lista1->viewport(), Lista1->RowPlace(Lista1->ListIndex()));
     };
     for (forms::Image *imagen : { Graf_TV, Graf_Imagen })
         imagen->MenuKey = [this] { Menu_Graf_Imagen->PopupOver(*Graf_Imagen); };

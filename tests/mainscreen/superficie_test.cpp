@@ -537,6 +537,31 @@ TEST_F(SuperficieTest, ShiftAndF10OpenTheMenuOfTheControl)
     EXPECT_FALSE(popsUp(*portada->Menu_Lista1, [&] { askIn(u"Lista1"_s); }));
 }
 
+TEST_F(SuperficieTest, MenuByKeysOpensUnderTheSelectedRow_OrInTheMiddleWhereThatCanNotBeSeen)
+{
+    startAt(Zeta, 0);
+    list().Clear();
+    for (int row = 0; row < 60; ++row)
+        list().AddItem(u"game %1"_s.arg(row, 2));
+    const auto opensAt = [this] {
+        list().setFocus();
+        QPoint place;
+        const auto note = QObject::connect(portada->Menu_Lista1, &QMenu::aboutToShow, portada.get(),
+            [&] { QTimer::singleShot(0, portada.get(), [&] { place = portada->Menu_Lista1->pos(); }); });
+        EXPECT_TRUE(popsUp(*portada->Menu_Lista1,
+            [this] { QTest::keyClick(portada->windowHandle(), Qt::Key_F10, Qt::ShiftModifier); }));
+        QObject::disconnect(note);
+        return list().viewport()->mapFromGlobal(place);
+    };
+    for (const int row : { 0, 3 }) {
+        list().SetListIndex(row);
+        const QRect shown = list().visualRect(list().model()->index(row, 0));
+        EXPECT_EQ(opensAt().y(), shown.bottom() + 1) << row;
+    }
+    list().scrollToBottom();
+    EXPECT_EQ(opensAt(), list().viewport()->rect().center());
+}
+
 TEST_F(SuperficieTest, MenuKeyOpensTheMenuOfTheControl)
 {
     startAt(Zeta, 0);
