@@ -7,6 +7,7 @@
 #include "finder/pistas.h"
 #include "finder/preparacion.h"
 
+#include "core/rutas.h"
 #include "core/ajustes.h"
 #include "core/catalogo.h"
 #include "core/lineas.h"
@@ -178,12 +179,14 @@ void Trabajo::EscribeNotas()
         if (vistos.contains(hallazgo.sistema))
             continue;
         vistos += hallazgo.sistema;
-        const Nota nota = notaDe(hallazgo.sistema);
+        Nota nota = notaDe(hallazgo.sistema);
         if (!nota.otroDirectorio.isEmpty() && hayJuegos(hallazgo))
             resultado.avisos += u"%1: there are games in %2, but its emulator looks in %3."_s.arg(
                 hallazgo.sistema, hallazgo.emulador.rom, nota.otroDirectorio);
         if (!FaltaNota(hallazgo.emulador.rom, nota))
             continue;
+        // As the catalogue names it, so that it stays true in a copy of the program's directory.
+        nota.otroDirectorio = core::ValorDeRuta(nota.otroDirectorio, m_encargo.directorio);
         try {
             if (!m_encargo.ensayo)
                 EscribeNota(hallazgo.emulador.rom, nota);
