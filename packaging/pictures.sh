@@ -42,6 +42,12 @@ END
 sed -i -e "s|^EXE=$emulator|EXE=$work/stella/stella|" -e "s|$(cd "$1" && pwd)/demo|$program/demo|" "$program/Zembro.emu"
 rm "$program/demo/Star Catcher.gif"
 
+# What there is to browse and to fill in, whatever emulators the machine has.
+mkdir -p "$work"/emuladores/{docs,roms} "$program"/{arranque/MAME,roms/Arcade,capturas/Arcade}
+for name in "$work"/emuladores/{fceux,mame,mednafen,mgba-qt,nestopia,stella} "$program/arranque/MAME/mame"; do
+    [ -e "$name" ] || install -m 755 /dev/null "$name"
+done
+
 # The first visible window with this title.
 window() { # title pattern
     local id
@@ -218,14 +224,14 @@ configuring() {
     picture configuration-1
     click 27 277
     opened
-    fill 60 97 /usr/games/mame
+    fill 60 97 "$work/emuladores/mame"
     click 200 98
     opened
     picture browser
     closed
-    fill 60 97 /home/ana/Zembrolix/arranque
-    fill 60 143 /home/ana/Zembrolix/roms/Arcade/
-    fill 60 190 /home/ana/Zembrolix/capturas/Arcade/
+    fill 60 97 arranque/MAME/mame
+    fill 60 143 roms/Arcade/
+    fill 60 190 capturas/Arcade/
     fill 70 233 '-rompath roms'
     click 224 335 # all games compressed in one directory, and the emulator opens those
     click 224 360
