@@ -32,6 +32,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zem_SoloIdioma1", &P::Zem_SoloIdioma1 },
         { u"Zem_SoloFin1", &P::Zem_SoloFin1 },
         { u"Zem_SoloCapt1", &P::Zem_SoloCapt1 },
+        { u"Zem_SoloTamano1", &P::Zem_SoloTamano1 },
         { u"Zem_NoZip0", &P::Zem_NoZip0 },
         { u"Zem_NoZip1", &P::Zem_NoZip1 },
         { u"Zem_NoCampo0", &P::Zem_NoCampo0 },

@@ -47,6 +47,7 @@ struct Palabras {
     QString Zem_SoloIdioma1 = QStringLiteral("No se puede escribir aquí: el idioma no se recuerda.");
     QString Zem_SoloFin1 = QStringLiteral("No se puede escribir aquí: la selección no se recuerda.");
     QString Zem_SoloCapt1 = QStringLiteral("No se puede escribir en el directorio de las capturas.");
+    QString Zem_SoloTamano1 = QStringLiteral("El tamaño no se puede guardar en Zembro.tam.");
 
     // Playing one out of an archive.
     QString Zem_NoZip0 = QStringLiteral("ZIP ilegible");

@@ -4,7 +4,6 @@
 #include "mainscreen/escritura.h"
 #include "mainscreen/portada.h"
 
-#include "core/arranque.h"
 #include "core/tamano.h"
 
 #include "forms/plaintext.h"
@@ -52,8 +51,9 @@ void Portada::PideTamano(bool mayor)
     try {
         if (!Escribe(M, *this, [this] { core::GuardaTamano(m_tamanoPedido); }))
             return;
-    } catch (const host::Failure &fallo) {
-        Aviso(M.Palabras.Zem_NoParam0, core::TextoDeFallo(fallo, false));
+    } catch (const host::Failure &) {
+        Mensaje(
+            3, M.Palabras.Zem_SoloTamano1, M.Palabras.Zem_SoloLeer0, M.TXT_Aceptar, M.TXT_Volver, QString());
         return;
     }
     QString aviso = M.Palabras.Zem_Tamano;

@@ -67,7 +67,8 @@ const QStringList JoinedInNotices { u"Msg_IMGTransXX"_s, u"Msg_IMGTrans1I"_s, u"
 const QString NotNoted = u"Zem_NoNota0"_s;
 const QStringList NotDescribed { u"Zem_NoDescrip1"_s, u"Zem_NoLinea1"_s };
 const QString NotWritten = u"Zem_SoloLeer0"_s;
-const QStringList NotKept { u"Zem_SoloFin1"_s, u"Zem_SoloCapt1"_s, u"Zem_SoloIdioma1"_s };
+const QStringList NotKept { u"Zem_SoloFin1"_s, u"Zem_SoloCapt1"_s, u"Zem_SoloIdioma1"_s,
+    u"Zem_SoloTamano1"_s };
 const QString MissingTool = u"Zem_Falta0"_s;
 const QStringList MissingTools { u"Zem_FaltaEditor"_s, u"Zem_FaltaEdit"_s, u"Zem_FaltaTerm"_s,
     u"Zem_FaltaGestor"_s, u"Zem_FaltaDOSBox"_s, u"Zem_FaltaWine"_s };

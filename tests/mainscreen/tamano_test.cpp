@@ -121,9 +121,10 @@ TEST_F(TamanoTest, SizeThatCannotBeKeptIsToldInWords)
     bool told = false;
     atModal(u"Caja"_s, [&](forms::Form &form) {
         told = true;
-        EXPECT_EQ(form.Caption(), M->Palabras.Zem_NoParam0);
-        EXPECT_FALSE(controlOf<forms::Label>(form, u"Texto2"_s).Caption().isEmpty());
-        click(controlOf<QWidget>(form, u"Aceptar2"_s));
+        EXPECT_EQ(form.Caption(), u"Sin grabar"_s);
+        EXPECT_EQ(controlOf<forms::Label>(form, u"Texto2"_s).Caption(),
+            u"El tamaño no se puede guardar en Zembro.tam."_s);
+        click(controlOf<QWidget>(form, u"Flecha2"_s));
     });
     strike(*portada, Qt::Key_Plus, Qt::ControlModifier);
     EXPECT_TRUE(told);
