@@ -15,7 +15,7 @@ files=$2
 reason() { # path, what the system said
     local place=$1
     while [ ! -e "$place" ] && [ ! -L "$place" ]; do
-        place=$(dirname "$place")
+        place=$(dirname -- "$place")
     done
     if [ ! -d "$place" ]; then
         echo "$place is no directory."
@@ -25,7 +25,12 @@ reason() { # path, what the system said
         echo "$2"
     fi >&2
 }
-said=$(mkdir -p "$3" 2>&1) && [ -w "$3" ] || { reason "$3" "$said"; exit 1; }
+# The libraries that a portable directory brings along aren't those of programs from elsewhere.
+if [ -e "$3/qt.conf" ] && [ ! -e "$programs/qt.conf" ]; then
+    echo "$3 is a portable one: start.sh --renew of a newer archive brings it up to date." >&2
+    exit 1
+fi
+said=$(mkdir -p -- "$3" 2>&1) && [ -w "$3" ] || { reason "$3" "$said"; exit 1; }
 said=$(mkdir -p "$3/LNG" 2>&1) || { reason "$3/LNG" "$said"; exit 1; }
 directory=$(cd "$3" && pwd)
 delivered=$directory/.delivered # lines as sha256sum writes them, one for each version of each file
@@ -36,8 +41,7 @@ trap 'rm -rf "$work"' EXIT
 place() { # mode, source, name
     local new
     new=$directory/$(dirname "$3")/.$(basename "$3").new
-    install -m "$1" "$2" "$new"
-    mv "$new" "$directory/$3"
+    install -m "$1" "$2" "$new" && mv "$new" "$directory/$3" || { rm -f "$new"; return 1; }
 }
 record() { # file, name
     printf '%s  %s\n' "$(sha256sum <"$1" | cut -d' ' -f1)" "$2"
@@ -104,7 +108,7 @@ done
 missing Zembro.emu || exit 0
 # The catalogue as delivered lists the demonstration games, and needs to know where their emulator is.
 stella=$(command -v stella || true)
-[ -n "$stella" ] || stella=/usr/games/stella
+[ -n "$stella" ] || stella=/usr/bin/stella # where its package puts it
 [ ! -x "$directory/delivered/stella" ] || stella=delivered/stella # what finds it on each machine
 escaped() { printf '%s' "$1" | sed 's/[&\\|]/\\&/g'; }
 sed -e "s|@STELLA@|$(escaped "$stella")|" "$files/Zembro.emu" >"$work/Zembro.emu"

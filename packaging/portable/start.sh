@@ -8,10 +8,21 @@ here=$(dirname "$(readlink -f "$0")")
 delivered=$here/delivered
 fail() { echo "start.sh: $*" >&2; exit 1; }
 
+# The files of a directory that another hasn't.
+keep() { # from, to
+    local file
+    for file in "$1"/*; do
+        [ ! -e "$file" ] || [ -e "$2/$(basename "$file")" ] || cp -r "$file" "$2/" || return 1
+    done
+}
+
 # As one step as can be: never half of a directory.
 exchange() { # name, directory
     rm -rf "$2/.$1.new" "$2/.$1.old"
     cp -r "$here/$1" "$2/.$1.new" || { rm -rf "$2/.$1.new"; return 1; }
+    if [ "$1" = fonts ]; then # the user may have brought some along
+        keep "$2/fonts" "$2/.fonts.new" || { rm -rf "$2/.fonts.new"; return 1; }
+    fi
     [ ! -e "$2/$1" ] || mv "$2/$1" "$2/.$1.old" || return 1
     mv "$2/.$1.new" "$2/$1" || { mv "$2/.$1.old" "$2/$1"; return 1; }
     rm -rf "$2/.$1.old"

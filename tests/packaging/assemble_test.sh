@@ -54,7 +54,7 @@ for name in Zembrolix Cvtgif15.exe Cvtcap.exe zembro Zembro.cfg Zembro.txt Zembr
 done
 [ -x "$program/Zembrolix" ] || complain "new: the program can't be run"
 [ -z "$(find "$program" -name '*.new')" ] || complain "new: something is left over"
-stella=$(command -v stella || echo /usr/games/stella)
+stella=$(command -v stella || echo /usr/bin/stella)
 printf -- "-Atari 2600\r\n'\r\n+Stella\r\nEXE=%s\r\nROM=demo/\r\n'%s\r\n" "$stella" "$closing" >"$work/demo"
 { cat "$work/demo"; printf '[EOF]\r\n'; } | cmp -s - "$program/Zembro.emu" || complain "new: the catalogue isn't the demonstration"
 [ -d "$program/roms/Atari 2600" ] && grep -q 'games of Jaguar' "$program/roms/Jaguar/LEEME.txt" || complain "new: no directories for the games"
@@ -200,6 +200,22 @@ rm "$program/.delivered"
 make_build version2
 run older
 expect Zembro.txt version1 older
+
+# A portable directory keeps its own programs, and says how they are renewed.
+anew portable
+touch "$program/qt.conf"
+make_build version2
+"$assemble" "$build" "$program" >"$work/said" 2>"$work/errors" && complain "portable: it is renewed"
+grep -q 'My Programs/zembrolix is a portable one: start.sh --renew' "$work/errors" || complain "portable: no word about it"
+expect Zembrolix version1 portable
+rm "$program/qt.conf"
+
+# What can't be written whole leaves nothing behind.
+anew full
+make_build version2
+(ulimit -f 0; trap '' XFSZ; "$assemble" "$build" "$program" >/dev/null 2>&1) && complain "full: it doesn't fail"
+expect Zembrolix version1 full
+[ -z "$(find "$program" -name '*.new')" ] || complain "full: something is left over"
 
 # Without the finder the demonstration is there all the same.
 rm -rf "$work/My Programs"

@@ -107,6 +107,7 @@ rm "$mine/demo/prisma.gif"
 printf "' mine\r\n" >>"$mine/LNG/ZB-DEU.LNG"
 echo game >"$mine/demo/mine.bin"
 touch "$mine/lib/older"
+echo mine >"$mine/fonts/mine.ttf"
 kept() { (cd "$mine" && sha256sum LNG/ZB-DEU.LNG Zembro.cfg Zembro.emu demo/mine.bin); }
 users=$(kept)
 start "$work/newer" 0 --renew "$mine"
@@ -117,6 +118,7 @@ for name in LEEME.txt LICENSE; do
 done
 [ ! -e "$mine/demo/prisma.gif" ] || complain "renewed: what the user deleted is there again"
 [ "$(ls "$mine/lib")" = two ] || complain "renewed: the libraries are $(ls "$mine/lib")"
+[ "$(cat "$mine/fonts/mine.ttf")" = mine ] || complain "renewed: a font of the user's is gone"
 [ -z "$(find "$mine" -name '.*.new' -o -name '.*.old')" ] || complain "renewed: something is left over"
 start "$mine" 0
 [ "$said" = "started $mine/Zembrolix, two" ] || complain "renewed: it says $said"
