@@ -42,7 +42,8 @@ int lineaDeUnidad(QChar letra)
 {
     int numero = 0;
     try {
-        for (const core::LineaConFin &linea : core::EnLineas(TextoDelPrograma(Unidades))) {
+        const QString texto = TextoDelPrograma(Unidades);
+        for (const core::LineaConFin &linea : core::EnLineas(texto)) {
             ++numero;
             const std::vector<host::Drive> suyas =
                 host::drivesIn(linea.linea.toString(), host::programDirectory());
