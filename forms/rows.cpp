@@ -149,6 +149,10 @@ void drawGround(QPainter &painter, const QStyleOptionViewItem &row, const Ground
     const QTransform own = painter.worldTransform();
     painter.setWorldTransform(ground.toDots.inverted() * own);
     QRect whole = ground.dots;
+    const QRect seen =
+        ground.list.toRect(); // of a dot at its edges that is shared the list shows all or none
+    whole.setLeft(std::max(whole.left(), seen.left()));
+    whole.setRight(std::min(whole.right(), seen.right()));
     whole.setTop(std::min(whole.top(), start.y() - reach.above));
     whole.setBottom(std::max(whole.bottom(), start.y() + reach.below - 1));
     if (isSelected(row))

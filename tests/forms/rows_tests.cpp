@@ -1,6 +1,7 @@
 // Pictures of rows at the scales that desktops give, against the same letters where they have all the room.
 #include "drive.h"
 
+#include "forms/colours.h"
 #include "forms/combobox.h"
 #include "forms/form.h"
 #include "forms/listbox.h"
@@ -17,6 +18,7 @@
 
 #include <climits>
 #include <cmath>
+#include <map>
 
 using namespace Qt::StringLiterals;
 
@@ -164,6 +166,32 @@ TEST_P(RowPictures, TheDotsOfTheFocusLeaveTheLettersOut)
         list.SetListIndex(row);
         const QImage picture = pictureOf(form, GetParam());
         expectWhole(row, picture, true);
+    }
+}
+
+TEST_P(RowPictures, TheDotsOfTheFocusAreAsWideAtTheListsEdgesAsTheyAreHigh)
+{
+    drive::show(form);
+    list.setFocus();
+    fillAround(Rows);
+    list.SetListIndex(2);
+    const QImage picture = pictureOf(form, GetParam());
+    const QRgb colour = forms::dotsOn(list.palette().color(QPalette::Highlight)).rgb();
+    const QRectF row(
+        list.visualRect(list.currentIndex()).translated(list.viewport()->mapTo(&form, QPoint())));
+    const QRect dots = QTransform::fromScale(GetParam(), GetParam()).mapRect(row).toRect();
+    const int size = std::max(qRound(GetParam()), 1);
+    for (const bool right : { false, true }) {
+        std::map<int, int> widths; // how many lines begin with so many dots
+        for (int y = dots.top() + 2 * size; y <= dots.bottom() - 2 * size; ++y) {
+            int width = 0;
+            while (width < 3 * size
+                && picture.pixel(right ? dots.right() - width : dots.left() + width, y) == colour)
+                ++width;
+            ++widths[width];
+        }
+        widths.erase(0);
+        EXPECT_THAT(widths, testing::ElementsAre(testing::Pair(size, testing::Gt(1)))) << right;
     }
 }
 
