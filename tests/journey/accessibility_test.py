@@ -39,6 +39,7 @@ UNDER_THE_TEXT = [
     (BUTTON, "TXT_Utilidades"), (BUTTON, "TXT_AcercaDe"), (BUTTON, "TXT_Ayuda"), (BUTTON, "FAQ"),
     (CHECK, "TXT_BaseDeDatos"), (BUTTON, "Zem_D1"), (BUTTON, "Zem_Flecha2"),
 ]
+SELECTED = {"Zem_Combo1": "Atari 2600", "Zem_Combo2": "Player"}  # is told with the name
 WITH_THE_TEXT = [
     (TEXT, "Zem_Editor"), (BUTTON, "Zem_FlechaE2"), (BUTTON, "Zem_Edit2"), (BUTTON, "Zem_BlocNotas2"),
 ]
@@ -113,11 +114,15 @@ def showing(window):
     ]
 
 
+def name_of(key, words):
+    return words[key] + (f": {SELECTED[key]}" if key in SELECTED else "")
+
+
 def expect_controls(window, rows, words):
     def in_order(pairs):
         return sorted(f"{role.value_nick}: {name}" for role, name in pairs)
 
-    wanted = in_order((role, words[key]) for role, key in rows)
+    wanted = in_order((role, name_of(key, words)) for role, key in rows)
     seen = []
 
     def as_wanted():
