@@ -23,10 +23,10 @@ QByteArray sinTerminacion(const QByteArray &nombre)
     return nombre.first(punto < 0 ? nombre.size() : punto);
 }
 
-// One that can't be made is missed by DOS alone.
-void enlaza(const QByteArray &fichero, const QByteArray &enlace)
+// False where none can be made: it is missed by DOS alone.
+bool enlaza(const QByteArray &fichero, const QByteArray &enlace)
 {
-    [[maybe_unused]] const int resultado = symlink(fichero.constData(), enlace.constData());
+    return symlink(fichero.constData(), enlace.constData()) == 0;
 }
 
 } // namespace
@@ -42,16 +42,31 @@ CarpetaDeApodos::CarpetaDeApodos(const QByteArray &dentroDe, const UnidadesDOS::
     }
 }
 
-void CarpetaDeApodos::enlazaLoGuardado(const UnidadesDOS::Apodo &apodo) const
+void CarpetaDeApodos::enlazaLoGuardado(const UnidadesDOS::Apodo &apodo)
 {
     const QString base = QString::fromLatin1(sinTerminacion(apodo.nombre));
     Intenta([&] {
         for (const QString &nombre : host::listFiles(host::nameFromDisk(m_original))) {
             const QByteArray bytes = host::nameToDisk(nombre);
-            if (host::sameName(QString::fromLatin1(sinTerminacion(bytes)), base))
-                enlaza(m_original + '/' + bytes, m_lugar + '/' + bytes.toUpper());
+            if (host::sameName(QString::fromLatin1(sinTerminacion(bytes)), base)
+                && enlaza(m_original + '/' + bytes, m_lugar + '/' + bytes.toUpper()))
+                m_mostrados.insert(bytes.toUpper());
         }
     });
+}
+
+// The program can't have meant a file that it never saw.
+QString CarpetaDeApodos::destinoDe(const QString &nombre) const
+{
+    const QString directorio = host::nameFromDisk(m_original) + u'/';
+    if (m_mostrados.contains(host::nameToDisk(nombre).toUpper()) || !host::exists(directorio + nombre))
+        return directorio + nombre;
+    const qsizetype punto = nombre.indexOf(u'.');
+    const qsizetype fin = punto < 0 ? nombre.size() : punto;
+    QString otro;
+    for (int numero = 2; otro.isEmpty() || host::exists(directorio + otro); ++numero)
+        otro = nombre.first(fin) + u'-' + QString::number(numero) + nombre.sliced(fin);
+    return directorio + otro;
 }
 
 CarpetaDeApodos::~CarpetaDeApodos()
@@ -61,7 +76,7 @@ CarpetaDeApodos::~CarpetaDeApodos()
         for (const QString &nombre : host::listPlainFiles(lugar)) {
             const QString guardado = lugar + u'/' + nombre;
             const bool llevado = Intenta([&] {
-                host::Replacement fichero(host::nameFromDisk(m_original) + u'/' + nombre, u"Zembro.tmp"_s);
+                host::Replacement fichero(destinoDe(nombre), u"Zembro.tmp"_s);
                 fichero.read();
                 fichero.write(host::readBytes(guardado));
                 fichero.commit();

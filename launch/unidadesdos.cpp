@@ -57,14 +57,38 @@ QByteArray llano(const QString &parte, qsizetype largo)
     return resultado;
 }
 
-QByteArray apodoDe(const QByteArray &entrada)
+struct Apodado {
+    QByteArray base; // empty where nothing is left of the name
+    QByteArray terminacion; // with its point
+
+    bool operator==(const Apodado &) const = default;
+};
+
+Apodado apodado(const QByteArray &entrada)
 {
     const QString nombre = host::nameFromDisk(entrada);
     const qsizetype punto = nombre.lastIndexOf(u'.');
     const QByteArray base = llano(nombre.first(punto < 0 ? nombre.size() : punto), 8);
     const QByteArray terminacion = punto < 0 ? QByteArray() : llano(nombre.sliced(punto + 1), 3);
-    return (base.isEmpty() || EsDispositivo(base) ? QByteArray("GAME") : base)
-        + (terminacion.isEmpty() ? "" : "." + terminacion);
+    return { EsDispositivo(base) ? QByteArray() : base, terminacion.isEmpty() ? "" : "." + terminacion };
+}
+
+// What is saved beside a game bears its name: where a neighbour would get the same one, and where nothing is
+// left of the name, a checksum of it tells them apart, the same in each run.
+QByteArray apodoDe(const QByteArray &lugar, const QByteArray &entrada)
+{
+    constexpr qsizetype Letras = 4; // ahead of the checksum's four digits
+    const Apodado propio = apodado(entrada);
+    QByteArrayList entradas;
+    Intenta([&] { entradas = host::listInDiskOrder(host::nameFromDisk(lugar)); });
+    const bool compartido = std::ranges::any_of(
+        entradas, [&](const QByteArray &otra) { return otra != entrada && apodado(otra) == propio; });
+    if (!propio.base.isEmpty() && !compartido)
+        return propio.base + propio.terminacion;
+    const QByteArray suma = QByteArray::number(qChecksum(entrada), 16).toUpper().rightJustified(4, '0');
+    return (propio.base.isEmpty() ? QByteArray("GAME")
+                                  : propio.base.first(std::min(propio.base.size(), Letras)))
+        + suma + propio.terminacion;
 }
 
 // Without what leads through a directory and back.
@@ -124,7 +148,7 @@ std::optional<QByteArray> UnidadesDOS::RutaOApodo(const QString &enDisco)
     Unidad *unidad = hecha == m_unidades.end() ? nueva(lugar) : &*hecha;
     if (!unidad)
         return std::nullopt;
-    unidad->apodos = { { apodoDe(entrada), entrada } };
+    unidad->apodos = { { apodoDe(lugar, entrada), entrada } };
     unidad->montada = true;
     return unidad->letra + (":\\" + unidad->apodos[0].nombre);
 }

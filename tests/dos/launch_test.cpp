@@ -221,6 +221,48 @@ TEST_F(LaunchesInDosBox, AGameWithAccentsIsOpened_AndWhatItSavesStaysBesideIt)
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
 }
 
+TEST_F(LaunchesInDosBox, WhatAGameWithAccentsSavesReplacesNoFileThatItDidNotSee)
+{
+    NameBoth();
+    makeFile("old/EMUS/GO.BAT", "@del %1\r\n@echo new > %1\r\n@echo score > E:\\HISCORE.DAT\r\n");
+    makeFile("media/ROMS/Espa\xC3\xB1"
+             "a.gb",
+        "played");
+    makeFile("media/ROMS/Hiscore.dat", "two records");
+    pantalla.lista1 = u"España.gb"_s;
+    Select(0, u"C:\\EMUS\\GO.BAT"_s, u"D:\\ROMS\\"_s);
+    Juega();
+    EXPECT_EQ(bytes("media/ROMS/Hiscore.dat"), "two records");
+    EXPECT_EQ(bytes("media/ROMS/HISCORE-2.DAT"), "score\r\n");
+    EXPECT_EQ(bytes("media/ROMS/Espa\xC3\xB1"
+                    "a.gb"),
+        "played");
+    EXPECT_EQ(bytes("media/ROMS/ESPANA.GB"), "new\r\n");
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
+}
+
+TEST_F(LaunchesInDosBox, GamesWhoseNamesComeOutAlikeSaveApart)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/nes.com");
+    const QByteArrayList names { "Pok\xC3\xA9mon Azul.gb", "Pok\xC3\xA9mon Amarillo.gb", "con.gb", "aux.gb",
+        "Espa\xC3\xB1"
+        "a.gb",
+        "Espana.gb" };
+    for (const QByteArray &name : names)
+        makeFile("media/ROMS/" + name, name);
+    Select(0, u"C:\\EMUS\\NES.COM"_s, u"D:\\ROMS\\"_s);
+    QSet<QByteArray> handed;
+    for (const QByteArray &name : names) {
+        pantalla.lista1 = host::nameFromDisk(name);
+        Juega();
+        const QByteArrayList told = Told("old/EMUS");
+        EXPECT_EQ(told.value(2), name);
+        handed.insert(told.value(0).sliced(told.value(0).lastIndexOf('\\') + 1));
+    }
+    EXPECT_EQ(handed.size(), names.size());
+}
+
 // As old disks have them: in code page 437 or 1252, in no encoding at all, or made to break a line of DOS.
 TEST_F(LaunchesInDosBox, GamesOfAnyBytesAreListedAndPlayed)
 {
