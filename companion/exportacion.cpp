@@ -100,6 +100,16 @@ QStringList omitidos(const std::vector<Entrega> &entregas, bool (*cabe)(const QS
     return nombres;
 }
 
+// Whether nothing stands there, or a list of the same kind, which may be written anew.
+bool puedeIr(const QString &ruta, bool pegasus)
+{
+    if (!host::exists(ruta))
+        return true;
+    constexpr qint64 principio = 4096;
+    const QString antes = host::decodeText(host::readBytes(ruta, principio)).text;
+    return antes.isEmpty() || (pegasus ? antes.startsWith(u"collection:") : antes.contains(u"<gameList"));
+}
+
 // The file that --to names: the difference, or the file itself with --write. True if it stands as it should.
 bool entrega(const Sesion &sesion, const QString &texto, QJsonObject &objeto)
 {
@@ -126,13 +136,15 @@ int exporta(Sesion &sesion)
 {
     if (sesion.Tiene(u"write"_s) && sesion.Valor(u"to"_s).isEmpty())
         return sesion.Falla(sesion.palabras.Zbo_WriteTo);
+    const bool pegasus = sesion.Tiene(u"pegasus"_s);
+    if (sesion.Tiene(u"to"_s) && !puedeIr(sesion.Valor(u"to"_s), pegasus))
+        return sesion.Falla(sesion.palabras.Zbo_NoEsLista.arg(sesion.Valor(u"to"_s)));
     LeeMundo(sesion);
     const std::vector<Pareja> parejas = ParejasDelSistema(sesion, sesion.Argumento(0), sesion.Argumento(1));
     if (parejas.empty())
         return NoPudo;
     bool bien = true;
     const std::vector<Entrega> entregas = entregasDe(sesion, parejas, bien);
-    const bool pegasus = sesion.Tiene(u"pegasus"_s);
     const QString texto = pegasus ? Pegasus(entregas) : Gamelist(entregas);
     const QStringList fuera = omitidos(entregas, pegasus ? CabeEnPegasus : CabeEnXml);
     QJsonObject objeto { { u"format"_s, pegasus ? u"pegasus"_s : u"gamelist"_s },

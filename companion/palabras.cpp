@@ -206,6 +206,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_Export", &P::Zbo_Export },
         { u"Zbo_OpPegasus", &P::Zbo_OpPegasus },
         { u"Zbo_OpTo", &P::Zbo_OpTo },
+        { u"Zbo_NoEsLista", &P::Zbo_NoEsLista },
         { u"Zbo_NoExporta", &P::Zbo_NoExporta },
         { u"Zbo_Escrito", &P::Zbo_Escrito },
         { u"Zbo_NoUnidad", &P::Zbo_NoUnidad },

@@ -152,6 +152,8 @@ struct Palabras : PalabrasDeRevision {
         QStringLiteral("tells other programs of the games: a gamelist.xml, or a file for Pegasus");
     QString Zbo_OpPegasus = QStringLiteral("for Pegasus");
     QString Zbo_OpTo = QStringLiteral("the file that --write makes; without it the answer is shown");
+    QString Zbo_NoEsLista =
+        QStringLiteral("%1 is there and no list of games of this kind; name another file.");
     QString Zbo_NoExporta = QStringLiteral("left out, as its name can't stand in such a file");
     QString Zbo_Escrito = QStringLiteral("Written: %1");
 

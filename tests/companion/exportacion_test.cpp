@@ -125,6 +125,29 @@ TEST_F(Export, WritesNothingWithoutAFile)
     EXPECT_EQ(respuesta.error, "zembro: Of export, --write goes with --to alone.\n");
 }
 
+TEST_F(Export, WritesOverNothingButAListOfItsKind)
+{
+    QFile::link(Ruta(u"roms/Mario.nes"_s), Ruta(u"link.xml"_s));
+    for (const QString &otro : { u"Zembro.rom"_s, u"roms/Mario.nes"_s, u"link.xml"_s, u"emu/uno.sh"_s }) {
+        const QByteArray antes = Bytes(otro);
+        for (const QString &clase : { u"--write"_s, u"--pegasus"_s }) {
+            const Respuesta respuesta =
+                Zembro({ u"export"_s, u"Sis"_s, u"--to"_s, Ruta(otro), u"--write"_s, clase });
+            EXPECT_EQ(respuesta.estado, companion::NoPudo) << otro.toStdString();
+            EXPECT_EQ(respuesta.error,
+                "zembro: " + Ruta(otro).toUtf8()
+                    + " is there and no list of games of this kind; name another file.\n");
+        }
+        EXPECT_EQ(Bytes(otro), antes);
+    }
+    const QString lista = Ruta(u"list"_s);
+    Pon(u"list"_s, "");
+    const QStringList orden { u"export"_s, u"Sis"_s, u"--to"_s, lista, u"--write"_s };
+    EXPECT_EQ(Zembro(orden).estado, companion::Bien);
+    EXPECT_EQ(Zembro(orden).estado, companion::Bien);
+    EXPECT_EQ(Zembro(orden + QStringList { u"--pegasus"_s }).estado, companion::NoPudo);
+}
+
 TEST_F(Export, WritesAFileOnlyWithWrite)
 {
     const QString fichero = Ruta(u"roms/gamelist.xml"_s);
