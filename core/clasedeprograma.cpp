@@ -42,10 +42,12 @@ ClaseDePrograma claseDeELF(const QByteArray &principio, const QByteArray &propia
 {
     if (principio.size() < Cabecera)
         return ClaseDePrograma::Desconocida;
-    // A processor of 64 bits may run the programs of its small brother, which needs its libraries.
-    const bool igual =
-        principio.mid(Maquina, 2) == propia.mid(Maquina, 2) && principio[Clase] == propia[Clase];
-    return igual ? ClaseDePrograma::DeEstaMaquina : ClaseDePrograma::OtraMaquina;
+    const QByteArray maquina = principio.mid(Maquina, 2);
+    const bool igual = maquina == propia.mid(Maquina, 2) && principio[Clase] == propia[Clase];
+    // A PC of 64 bits runs its programs of 32 bits too; they need libraries of their own.
+    const bool hermana =
+        maquina == QByteArray("\x03\0", 2) && propia.mid(Maquina, 2) == QByteArray("\x3e\0", 2);
+    return igual || hermana ? ClaseDePrograma::DeEstaMaquina : ClaseDePrograma::OtraMaquina;
 }
 
 } // namespace

@@ -46,6 +46,7 @@ TEST(ClaseDePrograma, OfThisSystemAreItsOwnFormatAndScripts)
     EXPECT_EQ(clase("#!"), ClaseDePrograma::DeEstaMaquina);
     EXPECT_EQ(clase(elf('\x02', '\x28')), ClaseDePrograma::OtraMaquina);
     EXPECT_EQ(clase(elf('\x01', '\x3e')), ClaseDePrograma::OtraMaquina);
+    EXPECT_EQ(clase(elf('\x01', '\x03')), ClaseDePrograma::DeEstaMaquina);
     EXPECT_EQ(clase(Propia.first(12)), ClaseDePrograma::Desconocida);
 }
 
