@@ -199,7 +199,8 @@ void RevisorDeNotas::parametrosDe(const QStringList &campos, size_t indice)
 
 void RevisorDeNotas::Parametros(const QString &texto)
 {
-    for (size_t i = m_parametros + 1; i < m_lineas.size(); ++i) {
+    const size_t fin = core::FinDeLosParametros(m_lineas);
+    for (size_t i = m_parametros + 1; i < fin; ++i) {
         const QString linea = m_lineas[i].linea.toString();
         const Registro registro = registroDe(linea);
         if (registro.campos.value(0) == u"'")
@@ -223,6 +224,16 @@ QStringList sistemasDe(const core::Modulo &M)
     return nombres;
 }
 
+// Without it nothing tells which blocks are nobody's.
+bool hayBaseDeDatos()
+{
+    try {
+        return TextoDelPrograma(u"Zembro.sye"_s).contains(u'-');
+    } catch (const host::Failure &) {
+        return false; // a finding of its own
+    }
+}
+
 } // namespace
 
 void RevisaNotas(Sesion &sesion, Revision &revision)
@@ -244,7 +255,8 @@ void RevisaNotas(Sesion &sesion, Revision &revision)
         else
             revisor.Sistema(sistema, static_cast<size_t>(suya - lineas.begin()) + 1);
     }
-    revisor.Ajenas();
+    if (hayBaseDeDatos())
+        revisor.Ajenas();
     if (std::ranges::none_of(
             lineas, [](const core::LineaConFin &linea) { return linea.linea.startsWith(u'['); }))
         revision.push_back({ u"missing-mark"_s, Fichero,

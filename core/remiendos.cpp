@@ -140,9 +140,21 @@ bool esRegistroDeParametros(QStringView linea)
 
 } // namespace
 
+size_t FinDeLosParametros(const std::vector<LineaConFin> &lineas)
+{
+    size_t fin = lineas.size();
+    const auto esFinal = [](QStringView linea) {
+        return linea.isEmpty() || linea == u"fin" || linea == u"fin,\"fin\"";
+    };
+    while (fin > 0 && esFinal(lineas[fin - 1].linea))
+        --fin;
+    return fin;
+}
+
 std::optional<size_t> ParametrosSinCierre(const QString &texto)
 {
-    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    std::vector<LineaConFin> lineas = EnLineas(texto);
+    lineas.resize(FinDeLosParametros(lineas));
     const auto cabecera = std::ranges::find_if(
         lineas, [](const LineaConFin &linea) { return linea.linea.startsWith(u"Parametros"); });
     if (cabecera == lineas.end())
@@ -158,11 +170,7 @@ QString ConParametrosCerrados(const QString &texto)
     const std::optional<size_t> inicio = ParametrosSinCierre(texto);
     if (!inicio)
         return texto;
-    const std::vector<LineaConFin> lineas = EnLineas(texto);
-    size_t fin = lineas.size();
-    while (lineas[fin - 1].linea.isEmpty())
-        --fin;
-    return conLineas(texto, { { *inicio, fin } }, u"'"_s);
+    return conLineas(texto, { { *inicio, FinDeLosParametros(EnLineas(texto)) } }, u"'"_s);
 }
 
 } // namespace core

@@ -2,6 +2,8 @@
 // comes back as it is.
 #pragma once
 
+#include "core/lineas.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -31,6 +33,10 @@ QString ConSeparadoresFinales(const QString &texto);
 // The systems of these names whose notes run into the next one's, as their closing apostrophe is missing.
 std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &sistemas);
 QString ConNotasCerradas(const QString &texto, const QStringList &sistemas);
+
+// The index behind the last line that may belong to the section of parameters: not the two lines that the
+// notes as delivered end in, nor empty ones.
+size_t FinDeLosParametros(const std::vector<LineaConFin> &lineas);
 
 // The index of the line that begins the section of parameters, where its closing apostrophe is missing and
 // nothing but whole records follows: else it may belong in several places. And the text with it.

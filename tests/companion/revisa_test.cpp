@@ -123,7 +123,7 @@ TEST_F(Check, WhatIsSaidBesideTheAnswerStandsBehindWhatCameBefore)
 TEST_F(Check, ParametersWithoutTheirEndAreSaid_AndMendedWhereItsPlaceIsSure)
 {
     const QByteArray entero = Bytes(u"Zembro.rom"_s);
-    for (const QByteArray &final : QByteArrayList { "", "\r\n", "\r\n\r\n" }) {
+    for (const QByteArray &final : QByteArrayList { "", "\r\n", "\r\n\r\n", "fin\r\nfin,\"fin\"\r\n" }) {
         Pon(u"Zembro.rom"_s, entero.chopped(3) + final);
         EXPECT_THAT(clases(), ElementsAre(u"block-without-end"_s));
         EXPECT_TRUE(dicho().startsWith("Zembro.rom:7: The section of parameters has no closing apostrophe"))

@@ -19,6 +19,14 @@ TEST_F(Check, RecordsThatNameNothing_OpenQuotesAndBlocksOfNobodyAreSaid)
         << todo.toStdString();
 }
 
+TEST_F(Check, WithoutADatabaseNoBlockIsSaidToBeNobodys)
+{
+    Cambia(u"Zembro.rom"_s, "Super Mario\"\r\n'\r\n", "Super Mario\"\r\n'\r\nOther\r\n'\r\n");
+    EXPECT_THAT(clases(), ElementsAre(u"unknown-system"_s));
+    Borra(u"Zembro.sye"_s);
+    EXPECT_THAT(clases(), testing::Not(Contains(u"unknown-system"_s)));
+}
+
 TEST_F(Check, ParametersOfNobodyAndOfNothingAreSaid)
 {
     Cambia(u"Zembro.rom"_s, "especificos\r\n",
