@@ -10,7 +10,7 @@ namespace host {
 bool isWithoutManager();
 
 // Gives the window, or the one that blocks it, the keyboard where no window manager does and no other program
-// has it; now, and once more within the next second, as the server may learn late that a window is gone.
+// has it; now, and a few times within the next second, as the server may learn late that a window is gone.
 void takeFreeFocus(QWidget &window);
 
 // In the middle of the window that it stands over. The toolkit leaves room for a frame, which nobody draws
