@@ -13,6 +13,7 @@
 #include <gmock/gmock.h>
 
 #include <cstdlib>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -84,6 +85,15 @@ protected:
         m_timer.start(5);
     }
 
+    // The box that this opens stands in the middle, and at its end the window has the keyboard.
+    void expectBackAfter(const std::function<void()> &opensBox)
+    {
+        shutWhenUp();
+        opensBox();
+        EXPECT_TRUE(hasKeyboard());
+        EXPECT_EQ(offset, QPoint(0, 0));
+    }
+
     QWidget window;
     QPoint offset { -1000, -1000 };
     host::DesktopQuestions questions;
@@ -99,34 +109,22 @@ TEST_F(FocusTest, TheScreenIsKnownToBeWithoutAManager)
 
 TEST_F(FocusTest, ComesBackAfterAYesOrNo_WhichStandsInTheMiddle)
 {
-    shutWhenUp();
-    questions.askYesNo(u"T"_s, u"Move this to the trash?"_s);
-    EXPECT_TRUE(hasKeyboard());
-    EXPECT_EQ(offset, QPoint(0, 0));
+    expectBackAfter([&] { questions.askYesNo(u"T"_s, u"Move this to the trash?"_s); });
 }
 
 TEST_F(FocusTest, ComesBackAfterTheOverwriteBox)
 {
-    shutWhenUp();
-    questions.askYesNoCancel(u"T"_s, u"x"_s);
-    EXPECT_TRUE(hasKeyboard());
-    EXPECT_EQ(offset, QPoint(0, 0));
+    expectBackAfter([&] { questions.askYesNoCancel(u"T"_s, u"x"_s); });
 }
 
 TEST_F(FocusTest, ComesBackAfterTheBoxThatTells)
 {
-    shutWhenUp();
-    questions.tell(u"T"_s, u"x"_s);
-    EXPECT_TRUE(hasKeyboard());
-    EXPECT_EQ(offset, QPoint(0, 0));
+    expectBackAfter([&] { questions.tell(u"T"_s, u"x"_s); });
 }
 
 TEST_F(FocusTest, ComesBackAfterTheBoxOfThePassword)
 {
-    shutWhenUp();
-    questions.askText(u"x"_s);
-    EXPECT_TRUE(hasKeyboard());
-    EXPECT_EQ(offset, QPoint(0, 0));
+    expectBackAfter([&] { questions.askText(u"x"_s); });
 }
 
 TEST_F(FocusTest, IsTakenOnceAnotherProgramsWindowIsGone)
