@@ -149,12 +149,16 @@ void drawGround(QPainter &painter, const QStyleOptionViewItem &row, const Ground
     const QTransform own = painter.worldTransform();
     painter.setWorldTransform(ground.toDots.inverted() * own);
     QRect whole = ground.dots;
-    const QRect seen =
-        ground.list.toRect(); // of a dot at its edges that is shared the list shows all or none
-    whole.setLeft(std::max(whole.left(), seen.left()));
-    whole.setRight(std::min(whole.right(), seen.right()));
     whole.setTop(std::min(whole.top(), start.y() - reach.above));
     whole.setBottom(std::max(whole.bottom(), start.y() + reach.below - 1));
+    // Of a dot at its edges that is shared the list shows all or none.
+    const QRect seen = ground.list.toRect();
+    whole.setLeft(std::max(whole.left(), seen.left()));
+    whole.setRight(std::min(whole.right(), seen.right()));
+    if (ground.exact.top() > ground.list.top() - 1)
+        whole.setTop(std::max(whole.top(), seen.top()));
+    if (ground.exact.bottom() < ground.list.bottom() + 1)
+        whole.setBottom(std::min(whole.bottom(), seen.bottom()));
     if (isSelected(row))
         painter.fillRect(whole, row.palette.brush(groupOf(row.state), QPalette::Highlight));
     if (row.state.testFlag(QStyle::State_HasFocus)) {

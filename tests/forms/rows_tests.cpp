@@ -195,6 +195,29 @@ TEST_P(RowPictures, TheDotsOfTheFocusAreAsWideAtTheListsEdgesAsTheyAreHigh)
     }
 }
 
+TEST_P(RowPictures, TheDotsOfTheFocusAreAsHighAtTheListsTop)
+{
+    drive::show(form);
+    list.setFocus();
+    fillAround(Rows);
+    list.SetListIndex(0);
+    const QImage picture = pictureOf(form, GetParam());
+    const QRgb colour = forms::dotsOn(list.palette().color(QPalette::Highlight)).rgb();
+    const QRectF row(
+        list.visualRect(list.currentIndex()).translated(list.viewport()->mapTo(&form, QPoint())));
+    const QRect dots = QTransform::fromScale(GetParam(), GetParam()).mapRect(row).toRect();
+    const int size = std::max(qRound(GetParam()), 1);
+    std::map<int, int> heights; // how many columns begin with so many dots
+    for (int x = dots.center().x(); x <= dots.right() - 2 * size; ++x) {
+        int height = 0;
+        while (height < 3 * size && picture.pixel(x, dots.top() + height) == colour)
+            ++height;
+        ++heights[height];
+    }
+    heights.erase(0);
+    EXPECT_THAT(heights, testing::ElementsAre(testing::Pair(size, testing::Gt(1))));
+}
+
 TEST_P(RowPictures, AStripThatIsPaintedAloneShowsWhatTheWholeShows)
 {
     list.Clear();
