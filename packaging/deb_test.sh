@@ -9,6 +9,8 @@ cd "$(dirname "$0")/.."
 fail() { echo "deb_test: $*" >&2; exit 1; }
 passed() { echo "deb_test: $*"; }
 suite=${SUITE:-bookworm}
+pictures=${PICTURES:-$work}
+mkdir -p "$pictures"
 new_root "$suite"
 
 # The older one has other texts.
@@ -51,6 +53,17 @@ for name in Zembro.txt LNG/ZB-ITA.LNG; do
 done
 "$user" zembro list atari | grep -q 'Mi prisma' || fail "the description is gone"
 passed "renewed what the user hasn't changed, and nothing else"
+
+# Without the emulator the play button says how to get it, and so do check and why; what a starter can't do it shows.
+inside apt-get purge -y -qq stella >"$work/log" 2>&1 || { tail "$work/log"; fail "the emulator can't be removed"; }
+tests/with_screen.sh packaging/absent.sh "$pictures/absent-deb.png" "$user" zembrolix >"$work/log" 2>&1 || { cat "$work/log"; fail "no box"; }
+for command in check why; do
+    ! "$user" zembro "$command" >"$work/said" || fail "zembro $command finds nothing amiss without an emulator"
+    grep -q 'sudo apt install stella' "$work/said" || fail "zembro $command: $(cat "$work/said")"
+done
+passed "without an emulator the play button shows how to get it, and zembro check and zembro why tell it"
+tests/with_screen.sh packaging/box.sh "$pictures/locked.png" "$user" env HOME=/root zembrolix >"$work/log" 2>&1 || { cat "$work/log"; fail "no box"; }
+passed "where it can't start, a box says why"
 
 before=$(cd "$home" && find . -type f -exec sha256sum {} + | sort -k 2)
 inside apt-get purge -y -qq zembrolix >"$work/log" 2>&1 || { tail "$work/log"; fail "it can't be removed"; }

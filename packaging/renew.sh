@@ -19,6 +19,8 @@ reason() { # path, what the system said
     done
     if [ ! -d "$place" ]; then
         echo "$place is no directory."
+    elif [ ! -x "$place" ]; then
+        echo "$place can't be entered."
     elif [ ! -w "$place" ]; then
         echo "$place can't be written."
     else
@@ -71,6 +73,14 @@ flock 9
 for program in Zembrolix Cvtgif15.exe Cvtcap.exe zembro; do
     cmp -s "$programs/$program" "$directory/$program" && [ -x "$directory/$program" ] ||
         place 755 "$programs/$program" "$program"
+done
+# Of a place that is installed: what shows words where there is no terminal, and what finds the emulator of the
+# demonstration on whatever machine the directory is.
+for extra in Aviso stella; do
+    [ -x "$programs/$extra" ] || continue
+    name=$extra
+    [ "$extra" != stella ] || { name=delivered/stella && mkdir -p "$directory/delivered"; }
+    cmp -s "$programs/$extra" "$directory/$name" && [ -x "$directory/$name" ] || place 755 "$programs/$extra" "$name"
 done
 
 for name in Zembro.cfg Zembro.txt Zembro.faq; do

@@ -8,8 +8,8 @@ program=$2
 delivered=$program/delivered
 
 cp -r "$1/share/zembrolix" "$delivered"
-cp "$programs"/{renew,start} "$here/stella" "$delivered"
-cp "$programs"/{BuscaEmuladores,PrimerosAjustes,FaltaEmulador} "$program"
+cp "$programs"/{renew,start,stella} "$delivered"
+cp "$programs"/{BuscaEmuladores,PrimerosAjustes,Aviso} "$program"
 cp "$here"/start.sh "$program"
 cp "$here"/LEEME.txt "$here/../../LICENSE" "$delivered"
 # A catalogue that is there keeps the emulators of this machine out.

@@ -6,7 +6,12 @@ set -uo pipefail
 
 here=$(dirname "$(readlink -f "$0")")
 delivered=$here/delivered
-fail() { echo "start.sh: $*" >&2; exit 1; }
+fail() {
+    echo "start.sh: $*" >&2
+    # Somebody who starts from a file manager sees no terminal.
+    [ -t 2 ] || [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || "$here/Aviso" "$*" >/dev/null 2>&1
+    exit 1
+}
 
 # The files of a directory that another hasn't.
 keep() { # from, to
@@ -33,7 +38,7 @@ renew() { # directory
     [ -x "$1/Zembrolix" ] && [ -f "$1/.delivered" ] || fail "$1 is no directory of the program."
     [ "$(readlink -f "$1")" != "$here" ] || fail "$1 is this one."
     [ -w "$1" ] || fail "$1 can't be written; it stays as it is."
-    for part in lib plugins fonts licenses qt.conf BuscaEmuladores PrimerosAjustes FaltaEmulador delivered start.sh; do
+    for part in lib plugins fonts licenses qt.conf BuscaEmuladores PrimerosAjustes Aviso delivered start.sh; do
         exchange "$part" "$1" || fail "$part in $1 can't be exchanged for the newer one. Once that is mended, renew it again."
     done
     exec "$delivered/renew" "$here" "$delivered" "$1"

@@ -14,7 +14,7 @@ holds() { # text, pattern
     grep -qE -- "$2" <<<"$1"
 }
 
-for program in Zembrolix converter/Cvtgif15.exe converter/Cvtcap.exe finder/BuscaEmuladores; do
+for program in Zembrolix converter/Cvtgif15.exe converter/Cvtcap.exe finder/BuscaEmuladores packaging/Aviso; do
     file=$build/$program
     [ -x "$file" ] || { lacking "$program" "not built"; continue; }
     header=$(readelf -hW "$file")
@@ -39,4 +39,4 @@ for program in Zembrolix converter/Cvtgif15.exe converter/Cvtcap.exe finder/Busc
     [ "$(grep -c '\bendbr64\b' <<<"$code")" -gt 10 ] || lacking "$program" "no protection of the control flow"
 done
 [ "$lacks" -eq 0 ] || exit 1
-echo "four programs are hardened"
+echo "five programs are hardened"

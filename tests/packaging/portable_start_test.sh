@@ -60,6 +60,13 @@ start "$mine" 0
 start "$mine" 0 --check
 grep -qi stella <<<"$said" || complain "check: it says $said"
 start "$mine" 1 --everything
+# Without a terminal what is wrong is shown in a box.
+mkdir "$work/unable"
+cp "$mine/start.sh" "$work/unable"
+printf '#!/bin/sh\necho "$*" >"%s/shown"\n' "$work" >"$work/unable/Aviso"
+chmod +x "$work/unable/Aviso"
+DISPLAY=:none start "$work/unable" 1
+[ "$(cat "$work/shown" 2>/dev/null)" = "programs on this medium can't be run; copy the directory elsewhere." ] || complain "unable: the box says $(cat "$work/shown")"
 
 # The emulator is that of the machine on which the directory happens to be.
 mkdir "$work/bin"
@@ -78,13 +85,13 @@ grep -q "^Zembro.emu:[0-9]*: Atari 2600 / Stella: No Such .*: sudo apt install n
     complain "missing: check says $said"
 ZEMBRO_LOG=$work/log "$mine/zembro" play atari stella prisma >"$work/said" 2>&1 && complain "missing: it is played"
 grep -q "^No Such isn't installed on this machine" "$work/said" || complain "missing: play says $(cat "$work/said")"
-mv "$mine/FaltaEmulador" "$work/box"
-printf '#!/bin/sh\necho "box: $*"\n' >"$mine/FaltaEmulador"
-chmod +x "$mine/FaltaEmulador"
+mv "$mine/Aviso" "$work/box"
+printf '#!/bin/sh\necho "box: $*"\n' >"$mine/Aviso"
+chmod +x "$mine/Aviso"
 said=$(cd / && DISPLAY=:none "$mine/roms/../delivered/stella" game 2>/dev/null)
-[ "$? $said" = "127 box: $mine/roms/../delivered/stella" ] || complain "missing: on a screen it says $said"
-mv "$work/box" "$mine/FaltaEmulador"
-"$mine/FaltaEmulador" "$mine/delivered/stella" && complain "missing: a box without a screen"
+[ "$? $said" = "127 box: --missing $mine/roms/../delivered/stella" ] || complain "missing: on a screen it says $said"
+mv "$work/box" "$mine/Aviso"
+"$mine/Aviso" --missing "$mine/delivered/stella" && complain "missing: a box without a screen"
 for exports in "$HOME/.local/share" "$work/data home"; do
     mkdir -p "$exports/flatpak/exports/bin"
     printf '#!/bin/sh\necho "stella of flatpak:$*"\n' >"$exports/flatpak/exports/bin/org.nowhere.NoSuch"

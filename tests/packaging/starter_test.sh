@@ -43,6 +43,15 @@ for name in Zembro.emu Zembro.rom Zembro.sye Zembro.txt Zembro.faq LNG/ZB-CAT.LN
 done
 [ "$(ls "$mine/copias" | wc -l)" = 1 ] || complain "first: no copy of the text files"
 ! grep -q @ "$mine/Zembro.emu" || complain "first: the catalogue has places left to fill in"
+# The emulator of the demonstration is that of the machine, whenever it comes; where there is none, it and the check tell.
+grep -q '^EXE=delivered/stella' "$mine/Zembro.emu" || complain "first: the emulator: $(cat "$mine/Zembro.emu")"
+[ -x "$mine/delivered/stella" ] && [ -x "$mine/Aviso" ] || complain "first: nothing tells of a missing emulator"
+sed 's/^# Stands for .*/# Stands for No Such: no-such-emulator/' "$work/usr/lib/zembrolix/stella" >"$mine/delivered/stella"
+said=$("$work/usr/games/zembro" check) && complain "no emulator: the check finds nothing"
+grep -q 'Atari 2600 / Stella.*: No Such .*: sudo apt install no-such-emulator' <<<"$said" || complain "no emulator: the check says $said"
+said=$(cd / && DISPLAY=:none "$mine/delivered/stella" game 2>&1)
+[ "$? $said" = "127 No Such isn't installed on this machine." ] || complain "no emulator: it says $said"
+cp "$work/usr/lib/zembrolix/stella" "$mine/delivered/stella"
 
 # Another one changes nothing, in whatever language.
 before=$(state)
@@ -91,6 +100,18 @@ case $said in
 *) complain "check: the terminal gets $said" ;;
 esac
 
+# Without a terminal a box says what is wrong, with nothing but what is installed.
+mv "$work/usr/lib/zembrolix/Aviso" "$work/box"
+printf '#!/bin/sh\n[ $# = 1 ] && echo "$1" >"%s/shown"\n' "$work" >"$work/usr/lib/zembrolix/Aviso"
+chmod +x "$work/usr/lib/zembrolix/Aviso"
+PATH=/usr/bin:/bin DISPLAY=:none HOME='' start 1
+[ "$(cat "$work/shown" 2>/dev/null)" = 'There is no home directory ($HOME) to keep its directory in.' ] || complain "box: it says $(cat "$work/shown")"
+rm -f "$work/shown"
+PATH=/usr/bin:/bin HOME='' start 1
+[ ! -e "$work/shown" ] || complain "box: without a screen it says $(cat "$work/shown")"
+mv "$work/box" "$work/usr/lib/zembrolix/Aviso"
+"$work/usr/lib/zembrolix/Aviso" words && complain "box: one without a screen"
+
 # Where no directory can be made it says so in plain words, and starts nothing; where only the line on a launch can't be
 # kept, it says that and starts.
 as_user() { # command...
@@ -102,7 +123,23 @@ mkdir "$work/locked"
 chmod 555 "$work/locked"
 said=$(HOME=$work/locked as_user "$work/usr/games/zembrolix" 2>&1) && complain "locked: it starts"
 [ "$said" = "zembrolix: Its directory can't be made: $work/locked can't be written." ] || complain "locked: it says $said"
+# What can't be read and entered isn't called one that can't be written.
+mkdir -p "$work/closed" "$work/room/Zembrolix"
+chmod 700 "$work/closed"
+[ "$(id -u)" -eq 0 ] || chmod 0 "$work/closed"
+said=$(HOME=$work/closed as_user "$work/usr/games/zembrolix" 2>&1) && complain "closed: it starts"
+[ "$said" = "zembrolix: Its directory can't be made: $work/closed can't be entered." ] || complain "closed: it says $said"
+chmod 0 "$work/room/Zembrolix"
+said=$(HOME=$work/room as_user "$work/usr/games/zembrolix" 2>&1) && complain "closed directory: it starts"
+[ "$said" = "zembrolix: $work/room/Zembrolix can't be entered." ] || complain "closed directory: it says $said"
 cp -a "$mine" "$work/open"
+# Where no program may be run, that is said.
+cp -a "$work/open" "$work/unable"
+chmod -R a+rX,a-x+X "$work/unable"
+find "$work/unable" -type f -exec chmod a-x {} +
+chmod 555 "$work/unable"
+said=$(HOME=$work/locked as_user "$work/usr/games/zembrolix" --directory "$work/unable" 2>&1) && complain "unable: it starts"
+[ "$said" = "zembrolix: Programs in $work/unable can't be run." ] || complain "unable: it says $said"
 chmod -R a+rwX "$work/open"
 said=$(HOME=$work/locked as_user "$work/usr/games/zembrolix" --directory "$work/open" 2>&1) || complain "no log: it doesn't start: $said"
 [ "$said" = "Zembrolix: no line is kept on what is played: $work/locked/.local/state/zembrolix can't be made.
