@@ -66,7 +66,7 @@ void DaAyuda(const Sesion &sesion, const Orden *orden)
 const Orden &OrdenAyuda()
 {
     static const Orden orden { u"help"_s, u"[COMMAND]"_s, &Palabras::Zbo_Help,
-        { { u"completion"_s, u"KIND"_s, &Palabras::Zbo_OpCompletion } }, ayuda };
+        { { u"completion"_s, u"KIND"_s, &Palabras::Zbo_OpCompletion } }, ayuda, true };
     return orden;
 }
 

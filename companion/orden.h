@@ -31,6 +31,7 @@ struct Orden {
     QString Palabras::*ayuda; // one line, without a point
     std::vector<Opcion> opciones; // beside those of all commands
     int (*haz)(Sesion &sesion); // yields an Estado, or fails
+    bool sinDirectorio = false; // works also where there is no directory of the program
 };
 
 // Options of all commands.

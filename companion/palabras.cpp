@@ -24,6 +24,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_NoValor", &P::Zbo_NoValor },
         { u"Zbo_SinValor", &P::Zbo_SinValor },
         { u"Zbo_NoDir", &P::Zbo_NoDir },
+        { u"Zbo_QueDir", &P::Zbo_QueDir },
         { u"Zbo_NoSistema", &P::Zbo_NoSistema },
         { u"Zbo_NoEmulador", &P::Zbo_NoEmulador },
         { u"Zbo_NoJuego", &P::Zbo_NoJuego },

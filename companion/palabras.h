@@ -29,6 +29,8 @@ struct Palabras : PalabrasDeRevision {
     QString Zbo_NoValor = QStringLiteral("An option lacks its value.");
     QString Zbo_SinValor = QStringLiteral("An option has a value that it doesn't take.");
     QString Zbo_NoDir = QStringLiteral("%1 is no directory of the program.");
+    QString Zbo_QueDir =
+        QStringLiteral("Start Zembrolix once, which makes its directory, or name that one with --directory.");
 
     // Picking a system, an emulator and a game by their names.
     QString Zbo_NoSistema = QStringLiteral("No system fits %1.");

@@ -146,7 +146,7 @@ QJsonObject PartidaEnJson(const launch::Partida &partida, const Palabras &palabr
 
 const Orden &OrdenPorque()
 {
-    static const Orden orden { u"why"_s, {}, &Palabras::Zbo_Why, {}, porque };
+    static const Orden orden { u"why"_s, {}, &Palabras::Zbo_Why, {}, porque, true };
     return orden;
 }
 

@@ -9,6 +9,7 @@
 
 #include <QCommandLineParser>
 
+#include <algorithm>
 #include <cerrno>
 #include <memory>
 #include <optional>
@@ -68,12 +69,23 @@ std::vector<Opcion> conComunes(std::vector<Opcion> opciones)
     return opciones;
 }
 
+// Of its text files any, or what copies of them are kept in.
+bool hayFicherosDelPrograma()
+{
+    return std::ranges::any_of(std::initializer_list<QString> { u"Zembro.cfg"_s, u"Zembro.emu"_s,
+                                   u"Zembro.rom"_s, u"Zembro.sye"_s, u"copias"_s },
+        [](const QString &nombre) { return host::exists(host::programFile(nombre)); });
+}
+
 int corre(const Orden &orden, Sesion &sesion)
 {
     const Cabida cabida = CabidaDe(orden.argumentos);
     const qsizetype dados = sesion.Argumentos().size();
     if (dados < cabida.minimo || dados > cabida.maximo)
         return sesion.Falla(sesion.palabras.Zbo_Uso.arg(Sinopsis(orden)));
+    if (!orden.sinDirectorio && !hayFicherosDelPrograma())
+        return sesion.Falla(
+            sesion.palabras.Zbo_NoDir.arg(host::programDirectory()) + u' ' + sesion.palabras.Zbo_QueDir);
     try {
         return orden.haz(sesion);
     } catch (const host::Failure &fallo) {

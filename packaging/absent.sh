@@ -23,8 +23,7 @@ sleep 1
 xdotool mousemove --window "$screen" 184 341 click 1
 box=$(window '^Zembrolix$') || fail "no box"
 sleep 1
-eval "$(xdotool getwindowgeometry --shell "$box")"
-import -window root -crop "${WIDTH}x${HEIGHT}+${X}+${Y}" +repage "$picture"
+import -window "$box" "$picture"
 xdotool windowactivate --sync "$box" key Return
 for _ in $(seq 50); do
     xdotool search --onlyvisible --name '^Zembrolix$' >/dev/null 2>&1 || break

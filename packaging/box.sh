@@ -16,8 +16,7 @@ for _ in $(seq 150); do
 done
 [ -n "$box" ] || fail "nothing is shown"
 sleep 1
-eval "$(xdotool getwindowgeometry --shell "$box")"
-import -window root -crop "${WIDTH}x${HEIGHT}+${X}+${Y}" +repage "$picture"
+import -window "$box" "$picture"
 xdotool windowactivate --sync "$box" key Return
 ! wait "$running" || fail "it doesn't fail"
 trap - EXIT

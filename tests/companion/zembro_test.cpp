@@ -109,6 +109,25 @@ TEST_F(Zembro_, SaysInJsonToo_ThatItCouldNotRun)
         u"/nowhere is no directory of the program."_s);
 }
 
+TEST_F(Zembro_, WhereNothingOfTheProgramLies_EachCommandSaysWhatToDo)
+{
+    const QByteArray dicho = "zembro: " + host::programDirectory().toUtf8()
+        + " is no directory of the program. Start Zembrolix once, which makes its directory, or name that "
+          "one with --directory.\n";
+    const QStringList dados { u"algo"_s, u"algo"_s, u"algo"_s };
+    for (const companion::Orden *orden : companion::Ordenes()) {
+        const QStringList argumentos = dados.first(companion::CabidaDe(orden->argumentos).minimo);
+        const Respuesta respuesta = Zembro(QStringList { orden->nombre } + argumentos);
+        const bool necesita = orden->nombre != u"help" && orden->nombre != u"why";
+        EXPECT_EQ(respuesta.error == dicho, necesita)
+            << orden->nombre.toStdString() << respuesta.error.toStdString();
+        EXPECT_EQ(respuesta.estado, orden->nombre == u"help" ? companion::Bien : companion::NoPudo);
+    }
+    EXPECT_FALSE(host::exists(host::programFile(u"copias"_s)));
+    Pon(u"copias/2026-01-01_00-00-00/Zembro.emu"_s, "[EOF]\r\n");
+    EXPECT_NE(Zembro({ u"restore"_s }).error, dicho);
+}
+
 TEST_F(Zembro_, OptionsOfAllCommandsStandAheadOfTheCommandOrBehindIt)
 {
     const QByteArray antes = Zembro({ u"--json"_s, u"help"_s }).salida;

@@ -156,12 +156,18 @@ HOME='' start 1
 grep -q 'no home directory' "$work/errors" || complain "no home: $(cat "$work/errors")"
 rm "$HOME"
 zembro --version | grep -q '^zembro ' || complain "zembro without a directory: $(zembro --version)"
+for command in check list "describe atari"; do
+    # shellcheck disable=SC2086
+    said=$(zembro $command) && complain "zembro $command without a directory: it finds nothing amiss"
+    [ "$said" = "zembro: $work/usr/lib/zembrolix is no directory of the program. Start Zembrolix once, which makes its directory, or name that one with --directory." ] ||
+        complain "zembro $command without a directory: $said"
+done
 
 # One version everywhere.
 version=$(sed -n 's/^project(Zembrolix VERSION \([0-9.]*\).*/\1/p' "$sources/CMakeLists.txt")
 [ "$(zembro --version)" = "zembro $version" ] || complain "version of zembro: $(zembro --version)"
 start 0 --version
-[ "$said" = "zembro $version" ] || complain "version of zembrolix: $said"
+[ "$said" = "zembrolix $version" ] || complain "version of zembrolix: $said"
 grep -q "\"Zembrolix $version\"" "$work/usr/share/man/man6/zembrolix.6" || complain "version of the page zembrolix"
 grep -q "\"Zembrolix $version\"" "$work/usr/share/man/man1/zembro.1" || complain "version of the page zembro"
 grep -q "<release version=\"$version\" " "$work/usr/share/metainfo/zembrolix.metainfo.xml" || complain "version of the description"
