@@ -3,22 +3,41 @@
 
 #include "host/filestate.h"
 
-#include <QSet>
+#include <QHash>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
+
+#include <functional>
+#include <optional>
+#include <vector>
 
 namespace forms {
 
 // Thousands of pictures need not be decoded again only to tell that they can be, while their files stay as
-// they were.
+// they were; nor all of them before anything shows.
 class KnownPictures {
 public:
+    KnownPictures();
+
     // Fails as LoadPicture does with one of these paths, which all begin as the directory does, if any of
-    // them can't be loaded.
-    void Check(const QString &directory, const QStringList &paths);
+    // them can't be loaded. Whatever doesn't fit into a frame is decoded while the program is idle,
+    // and cantLoad is called once if one of those can't be loaded, unless another check began before.
+    void Check(const QString &directory, const QStringList &paths, std::function<void()> cantLoad);
 
 private:
-    QSet<host::FileState> m_loaded;
+    struct Picture {
+        QString path;
+        std::optional<host::FileState> state; // none: it isn't known again
+    };
+
+    bool isLoadable(const Picture &picture);
+    void checkMore();
+
+    QHash<host::FileState, bool> m_loadable;
+    std::vector<Picture> m_putOff; // in no order
+    QTimer m_idle;
+    std::function<void()> m_cantLoad;
 };
 
 } // namespace forms

@@ -48,14 +48,28 @@ QPixmap draw(const QString &name, const QSize &size, qreal devicePixelRatio)
     return picture;
 }
 
+QImage decodeFile(const QString &path)
+{
+    return decodeRaster(host::readBytes(path, MostRasterBytes + 1));
+}
+
 } // namespace
 
 QPixmap LoadPicture(const QString &path)
 {
-    QImage image = decodeRaster(host::readBytes(path, MostRasterBytes + 1));
+    QImage image = decodeFile(path);
     if (image.isNull())
         throw host::Failure(host::InvalidPicture, u"load a picture"_s, path);
     return QPixmap::fromImage(std::move(image));
+}
+
+bool CanLoadPicture(const QString &path)
+{
+    try {
+        return !decodeFile(path).isNull();
+    } catch (const host::Failure &) {
+        return false;
+    }
 }
 
 QPixmap artwork(const QString &name, const QSize &size, qreal devicePixelRatio)

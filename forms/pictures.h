@@ -11,6 +11,9 @@ namespace forms {
 // no plain file, 481 if it is no picture that can be read or one beyond the limits.
 QPixmap LoadPicture(const QString &path);
 
+// Whether LoadPicture would load it.
+bool CanLoadPicture(const QString &path);
+
 // The artwork of this name (":/artwork/<name>.svg") at the size given in design pixels, drawn for the device
 // pixel ratio; kept once drawn. A name without a drawing is a fault of the build and gives an empty picture.
 QPixmap artwork(const QString &name, const QSize &size, qreal devicePixelRatio);

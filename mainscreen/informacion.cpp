@@ -66,8 +66,11 @@ void Portada::CargaCaptura()
     if (rutas.isEmpty())
         return;
     const QString ruta = rutas.takeLast();
-    Aumento.Conocidas.Check(directorio, rutas);
     const QPixmap captura = forms::LoadPicture(ruta);
+    Aumento.Conocidas.Check(directorio, rutas, [this, captura = captura.cacheKey()] {
+        if (Graf_Imagen->Picture().cacheKey() == captura)
+            SinCaptura();
+    });
     Graf_Imagen->SetPicture(captura);
     Aumento.Imagen->SetPicture(captura);
 }

@@ -1,6 +1,7 @@
 #include "drive.h"
 
 #include "tests/support/opens.h"
+#include "tests/support/slowpicture.h"
 
 #include "forms/form.h"
 #include "forms/image.h"
@@ -88,7 +89,7 @@ protected:
     int checkFails(const QStringList &paths)
     {
         try {
-            known.Check(place, paths);
+            known.Check(place, paths, [this] { ++toldLater; });
         } catch (const host::Failure &failure) {
             return failure.number();
         }
@@ -97,6 +98,7 @@ protected:
 
     const QString place = directory.path() + u'/';
     forms::KnownPictures known;
+    int toldLater = 0; // how often
 };
 
 TEST_F(PicturesKnown, AreReadOnceWhileTheirFilesStayAsTheyAre)
@@ -138,6 +140,62 @@ TEST_F(PicturesKnown, AMissingOneIsFoundBeforeAnyIsRead)
     const QString below = write(u"sub/two.gif"_s, redGif);
     EXPECT_EQ(checkFails({ below }), 0);
     EXPECT_EQ(checkFails({ place + u"sub"_s }), 53);
+}
+
+// So many and so slow that the last one doesn't fit into a frame.
+class PicturesPutOff : public PicturesKnown {
+protected:
+    PicturesPutOff()
+    {
+        paths << write(u"slow.gif"_s, slowPng());
+        for (int i = 0; i < 10; ++i)
+            paths << write(u"%1.gif"_s.arg(i), redGif);
+    }
+
+    QStringList paths;
+};
+
+TEST_F(PicturesPutOff, AreDecodedWhileIdle)
+{
+    paths << writeSettled(u"text.gif"_s, "no picture");
+    EXPECT_EQ(checkFails(paths), 0) << "waits for the last one";
+    EXPECT_EQ(toldLater, 0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return toldLater > 0; }));
+    EXPECT_EQ(checkFails(paths), 481) << "has forgotten what it found";
+    QTest::qWait(50);
+    EXPECT_EQ(toldLater, 1);
+}
+
+TEST_F(PicturesPutOff, AreDroppedByTheNextCheck)
+{
+    const QString text = write(u"text.gif"_s, "no picture");
+    const OpensOf opens(text);
+    EXPECT_EQ(checkFails(paths + QStringList { text }), 0);
+    EXPECT_EQ(checkFails(paths), 0);
+    QTest::qWait(50);
+    EXPECT_EQ(toldLater, 0);
+    EXPECT_EQ(opens.count(), 0);
+}
+
+TEST_F(PicturesPutOff, ThatCanBeLoadedAreToldNoMore)
+{
+    paths << writeSettled(u"last.gif"_s, redGif);
+    const OpensOf opens(paths.back());
+    EXPECT_EQ(checkFails(paths), 0);
+    EXPECT_EQ(opens.count(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return opens.count() > 0; }));
+    EXPECT_EQ(checkFails(paths), 0);
+    QTest::qWait(50);
+    EXPECT_EQ(opens.count(), 0);
+    EXPECT_EQ(toldLater, 0);
+}
+
+TEST_F(PicturesKnown, AFewAreDecodedAtOnceHoweverSlow)
+{
+    const QString slow = write(u"slow.gif"_s, slowPng());
+    EXPECT_EQ(checkFails({ slow, write(u"text.gif"_s, "no picture") }), 481);
+    QTest::qWait(50);
+    EXPECT_EQ(toldLater, 0);
 }
 
 TEST_F(Pictures, Artwork_IsDrawnAtItsSizeAndRatio)
