@@ -175,6 +175,34 @@ grep -q "<release version=\"$version\" " "$work/usr/share/metainfo/zembrolix.met
 
 desktop-file-validate "$work/usr/share/applications/zembrolix.desktop" || complain "the desktop entry"
 appstreamcli validate --no-net --strict "$work/usr/share/metainfo/zembrolix.metainfo.xml" >"$work/said" || complain "$(cat "$work/said")"
+# It names no address that isn't known; with one it has the pictures, as large as they are.
+address() { grep -iE 'https?://|<image' "$1"; }
+! address "$work/usr/share/metainfo/zembrolix.metainfo.xml" || complain "the description names addresses"
+ZEMBROLIX_HOMEPAGE=https://zembrolix.test/x cmake -DOUT="$work/zembrolix.metainfo.xml" -DPROJECT_VERSION="$version" \
+    -DRELEASE_DATE=2026-01-01 -P "$sources/packaging/desktop/metainfo.cmake"
+appstreamcli validate --no-net --strict "$work/zembrolix.metainfo.xml" >"$work/said" || complain "with a homepage: $(cat "$work/said")"
+grep -q '<url type="homepage">https://zembrolix.test/x</url>' "$work/zembrolix.metainfo.xml" || complain "with a homepage: there is none"
+pictures=0
+while read -r width height picture; do
+    pictures=$((pictures + 1))
+    file -b "$sources/docs/pictures/$picture" | grep -q "PNG image data, $width x $height," || complain "with a homepage: $picture isn't as large"
+done < <(sed -n 's|.*<image type="source" width="\(.*\)" height="\(.*\)">https://zembrolix.test/x/pictures/\(.*\)</image>|\1 \2 \3|p' "$work/zembrolix.metainfo.xml")
+[ "$pictures" = 4 ] || complain "with a homepage: there are $pictures pictures"
+
+# Completions of the starter know all of its options and no others.
+options=$(sed -n 's/^    \(--[a-z]*\)).*/\1/p' "$sources/packaging/starter/zembrolix" | sort | paste -sd' ')
+[ "$options" = "--check --directory --help --version" ] || complain "options: $options"
+for completion in bash-completion/completions/zembrolix zsh/vendor-completions/_zembrolix fish/vendor_completions.d/zembrolix.fish; do
+    known=$(sed 's/ -l / --/g; /compgen -d/d; /= --directory/d' "$work/usr/share/$completion" | grep -oE -- '--[a-z]+' | sort | paste -sd' ')
+    [ "$known" = "$options" ] || complain "$completion: $known"
+done
+complete_bash() { # words...
+    bash -c '. "$0"; COMP_WORDS=(zembrolix "$@"); COMP_CWORD=$#; _zembrolix; printf "%s\n" "${COMPREPLY[@]}"' \
+        "$work/usr/share/bash-completion/completions/zembrolix" "$@" | paste -sd' '
+}
+[ "$(complete_bash --c)" = --check ] || complain "completion: $(complete_bash --c)"
+[ "$(complete_bash --directory "$work/an o")" = "$work/an other" ] || complain "completion of a directory: $(complete_bash --directory "$work/an o")"
+
 for side in 16 22 24 32 48 64 96 128 256 512; do
     [ "$(file -b "$work/usr/share/icons/hicolor/${side}x$side/apps/zembrolix.png" | grep -o "$side x $side")" ] || complain "no icon of $side pixels"
 done
