@@ -77,6 +77,8 @@ package_of() { # file
 mkdir "$program/licenses/common"
 find /usr/share/common-licenses -type f -exec cp {} "$program/licenses/common" \;
 
+packaging/portable/manifest.sh "$program"
+
 archive=$name-linux-$(uname -m).tar.zst
 tar -C "$work" --sort=name --mtime="@$SOURCE_DATE_EPOCH" --owner=0 --group=0 --numeric-owner --mode=u=rwX,go=rX \
     --format=gnu -c "$name" | zstd -q "-${ZSTD_CLEVEL:-19}" --long=27 -T1 -f -o "$out/$archive"

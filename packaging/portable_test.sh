@@ -71,6 +71,9 @@ printf 'PRISMA.BIN,"Mon prisma"\r\n' >"$work/line"
 sed -i "/^Atari 2600/r $work/line" "$old/Zembro.rom"
 cp "$old/demo/prisma.bin" "$old/demo/un autre.bin"
 echo old >"$old/lib/libold.so.1"
+(cd "$old" && sha256sum lib/libold.so.1) >>"$old/delivered/manifest"
+echo mine >"$old/plugins/mine"
+echo mine >>"$old/licenses/README"
 kept() { (cd "$old" && sha256sum LNG/ZB-FRA.LNG Zembro.rom Zembro.emu Zembro.cfg "demo/un autre.bin"); }
 users=$(kept)
 unpack /home/ana/newer
@@ -80,6 +83,7 @@ for name in Zembro.txt LNG/ZB-ITA.LNG; do
     cmp "$old/$name" "$root/home/ana/newer/$name" || fail "$name isn't renewed"
 done
 diff -r "$old/lib" "$root/home/ana/newer/lib" || fail "the libraries aren't renewed"
+[ "$(cat "$old/plugins/mine")" = mine ] && [ "$(tail -n 1 "$old/antes/licenses/README")" = mine ] || fail "something that the user had among its own files is gone"
 passed "renewed what the user hasn't changed, and nothing else"
 play "after the renewal" "$place" "$place/start.sh"
 "$user" "$place/zembro" list atari | grep -q 'Mon prisma' || fail "the description is gone"

@@ -13,21 +13,43 @@ fail() {
     exit 1
 }
 
-# The files of a directory that another hasn't.
-keep() { # from, to
-    local file
-    for file in "$1"/*; do
-        [ ! -e "$file" ] || [ -e "$2/$(basename "$file")" ] || cp -r "$file" "$2/" || return 1
+# What of a part the user has put there or changed: what wasn't delivered with that directory, and comes with none newer.
+own() { # part, directory
+    local name line
+    while IFS= read -r -d '' name; do
+        if [ ! -L "$2/$name" ] && [ -f "$2/$name" ]; then
+            line="$(sha256sum <"$2/$name" | cut -d' ' -f1)  $name"
+            ! grep -qxF -- "$line" "$2/delivered/manifest" 2>/dev/null && ! cmp -s "$here/$name" "$2/$name" || continue
+        fi
+        [ "$name" = delivered/manifest ] || printf '%s\0' "$name"
+    done < <(cd "$2" && find "$1" ! -type d -print0 2>/dev/null)
+}
+copy() { # from, to
+    mkdir -p "$(dirname "$2")" && cp -rP --preserve=timestamps "$1" "$2"
+}
+# Where one of the new files takes its name, it goes to a directory of its own.
+keep() { # name, part, directory
+    local new=$3/.$2.new${1#"$2"} aside=$3/antes/$1 number=1
+    if [ ! -e "$here/$1" ]; then
+        copy "$3/$1" "$new"
+        return
+    fi
+    while [ -e "$aside" ] || [ -L "$aside" ]; do
+        ! cmp -s "$3/$1" "$aside" || return 0
+        number=$((number + 1))
+        aside=$3/antes/$1.$number
     done
+    copy "$3/$1" "$aside" && echo "start.sh: $1 wasn't as it was delivered. It is $aside now, beside the new one." >&2
 }
 
 # As one step as can be: never half of a directory.
 exchange() { # name, directory
+    local name
     rm -rf "$2/.$1.new" "$2/.$1.old"
     cp -r "$here/$1" "$2/.$1.new" || { rm -rf "$2/.$1.new"; return 1; }
-    if [ "$1" = fonts ]; then # the user may have brought some along
-        keep "$2/fonts" "$2/.fonts.new" || { rm -rf "$2/.fonts.new"; return 1; }
-    fi
+    while IFS= read -r -d '' name; do
+        keep "$name" "$1" "$2" || { rm -rf "$2/.$1.new"; return 1; }
+    done < <(own "$1" "$2")
     [ ! -e "$2/$1" ] || mv "$2/$1" "$2/.$1.old" || return 1
     mv "$2/.$1.new" "$2/$1" || { mv "$2/.$1.old" "$2/$1"; return 1; }
     rm -rf "$2/.$1.old"
@@ -38,7 +60,7 @@ renew() { # directory
     [ -x "$1/Zembrolix" ] && [ -f "$1/.delivered" ] || fail "$1 is no directory of the program."
     [ "$(readlink -f "$1")" != "$here" ] || fail "$1 is this one."
     [ -w "$1" ] || fail "$1 can't be written; it stays as it is."
-    for part in lib plugins fonts licenses qt.conf BuscaEmuladores PrimerosAjustes Aviso delivered start.sh; do
+    for part in lib plugins fonts licenses qt.conf BuscaEmuladores PrimerosAjustes Aviso start.sh delivered; do
         exchange "$part" "$1" || fail "$part in $1 can't be exchanged for the newer one. Once that is mended, renew it again."
     done
     exec "$delivered/renew" "$here" "$delivered" "$1"

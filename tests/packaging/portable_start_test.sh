@@ -17,7 +17,9 @@ make_directory() { # directory, version
     mkdir -p "$1"/{lib,plugins,fonts,licenses}
     "$sources/packaging/portable/fill.sh" "$work/usr" "$1"
     printf '#!/bin/sh\necho "started $0, %s"\n' "$2" >"$1/Zembrolix"
-    touch "$1/qt.conf" "$1/lib/$2"
+    touch "$1/qt.conf"
+    echo "$2" | tee "$1/lib/$2" >"$1/lib/each"
+    "$sources/packaging/portable/manifest.sh" "$1"
 }
 start() { # directory, expected status, arguments
     local directory=$1 expected=$2
@@ -113,8 +115,16 @@ echo newer | tee -a "$work/newer/delivered/LEEME.txt" >>"$work/newer/delivered/L
 rm "$mine/demo/prisma.gif"
 printf "' mine\r\n" >>"$mine/LNG/ZB-DEU.LNG"
 echo game >"$mine/demo/mine.bin"
-touch "$mine/lib/older"
 echo mine >"$mine/fonts/mine.ttf"
+# Among its own files the user has files, a link and a directory, and has changed some of them.
+mkdir -p "$mine/plugins/extra"
+echo mine | tee "$mine/lib/mine.so" "$mine/plugins/extra/a file" "$mine/licenses/mine" "$mine/delivered/LNG/ZB-XXX.LNG" >>"$mine/lib/each"
+ln -s /nowhere "$mine/lib/link"
+echo '# mine' >>"$mine/start.sh"
+sed -i 's|/Wikipedia|/wiki|; $s/$/\n# mine/' "$mine/delivered/emuladores.tsv"
+cp "$mine/lib/each" "$work/each"
+cp "$mine/start.sh" "$work/start"
+cp "$mine/delivered/emuladores.tsv" "$work/tsv"
 kept() { (cd "$mine" && sha256sum LNG/ZB-DEU.LNG Zembro.cfg Zembro.emu demo/mine.bin); }
 users=$(kept)
 start "$work/newer" 0 --renew "$mine"
@@ -124,7 +134,27 @@ for name in LEEME.txt LICENSE; do
     cmp -s "$work/newer/delivered/$name" "$mine/$name" || complain "renewed: $name is old"
 done
 [ ! -e "$mine/demo/prisma.gif" ] || complain "renewed: what the user deleted is there again"
-[ "$(ls "$mine/lib")" = two ] || complain "renewed: the libraries are $(ls "$mine/lib")"
+[ "$(cd "$mine/lib" && echo *)" = "each link mine.so two" ] || complain "renewed: the libraries are $(ls "$mine/lib")"
+[ "$(cat "$mine/lib/each" "$mine/lib/mine.so")" = "two
+mine" ] && [ "$(readlink "$mine/lib/link")" = /nowhere ] || complain "renewed: the libraries hold something else"
+for file in "plugins/extra/a file" licenses/mine delivered/LNG/ZB-XXX.LNG; do
+    [ "$(cat "$mine/$file")" = mine ] || complain "renewed: $file of the user's is gone"
+done
+cmp "$work/each" "$mine/antes/lib/each" && cmp "$work/start" "$mine/antes/start.sh" && cmp "$work/tsv" "$mine/antes/delivered/emuladores.tsv" || complain "renewed: what the user changed is gone"
+[ "$(cd "$mine/antes" && find . -type f | wc -l)" = 3 ] || complain "renewed: kept as the user's: $(find "$mine/antes")"
+cmp "$mine/start.sh" "$work/newer/start.sh" || complain "renewed: the starter is old"
+for file in lib/each start.sh delivered/emuladores.tsv; do
+    grep -qxF "start.sh: $file wasn't as it was delivered. It is $mine/antes/$file now, beside the new one." "$work/errors" || complain "renewed: nothing is told of $file: $(cat "$work/errors")"
+done
+# Once more it keeps them, and tells nothing.
+before=$(state "$mine")
+start "$work/newer" 0 --renew "$mine"
+[ "$(state "$mine")" = "$before" ] || complain "renewed again: $(state "$mine" | diff - <(echo "$before"))"
+[ ! -s "$work/errors" ] || complain "renewed again: it says $(cat "$work/errors")"
+# Another change of the same file doesn't take the place of the first one.
+echo 'mine again' >"$mine/lib/each"
+start "$work/newer" 0 --renew "$mine"
+cmp "$work/each" "$mine/antes/lib/each" && [ "$(cat "$mine/antes/lib/each.2")" = "mine again" ] || complain "renewed twice: what the user changed is gone"
 [ "$(cat "$mine/fonts/mine.ttf")" = mine ] || complain "renewed: a font of the user's is gone"
 [ -z "$(find "$mine" -name '.*.new' -o -name '.*.old')" ] || complain "renewed: something is left over"
 start "$mine" 0
