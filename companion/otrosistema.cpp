@@ -38,11 +38,11 @@ QString lugarDe(const launch::UnidadesDOS::Montaje &montaje)
 }
 
 // The line of Zembro.uni, counted from 1, that names a drive; 0 if none does.
-int lineaDeUnidad(QChar letra)
+int lineaDeUnidad(const core::Modulo &M, QChar letra)
 {
     int numero = 0;
     try {
-        const QString texto = TextoDelPrograma(Unidades);
+        const QString texto = TextoDelPrograma(M, Unidades);
         for (const core::LineaConFin &linea : core::EnLineas(texto)) {
             ++numero;
             const std::vector<host::Drive> suyas =
@@ -79,7 +79,7 @@ public:
         if (!unidad) {
             halla(u"no-drive"_s, palabras.Zbo_NoUnidad.arg(QString(letra), ruta), Catalogo, linea);
         } else if (!host::exists(unidad->place)) {
-            const int suya = lineaDeUnidad(letra);
+            const int suya = lineaDeUnidad(m_sesion.M, letra);
             halla(u"drive-missing"_s, palabras.Zbo_SinSitio.arg(QString(letra), unidad->place),
                 suya > 0 ? Unidades : Catalogo, suya > 0 ? suya : linea);
         }

@@ -2,6 +2,7 @@
 // for where there is no language file.
 #pragma once
 
+#include "companion/palabrasdeauxilio.h"
 #include "companion/palabrasderevision.h"
 
 #include <QString>
@@ -10,7 +11,7 @@
 
 namespace companion {
 
-struct Palabras : PalabrasDeRevision {
+struct Palabras : PalabrasDeRevision, PalabrasDeAuxilio {
 
     // The help.
     QString Zbo_Uso = QStringLiteral("Usage: %1");

@@ -17,15 +17,16 @@ struct PalabrasDeRevision {
     QString Zbo_Repetido = QStringLiteral("This name stands twice; the second one is never found: %1");
     QString Zbo_ExtLarga = QStringLiteral("An extension of more than three letters fits no file: %1");
     QString Zbo_SinCierre = QStringLiteral(
-        "The block of %1 has no closing line of an apostrophe and dashes; --mend puts it there.");
-    QString Zbo_SinMarca =
-        QStringLiteral("The line [EOF] behind the last system is missing; --mend puts it there.");
-    QString Zbo_SinApostrofo =
-        QStringLiteral("The notes of %1 have no closing apostrophe; --mend puts it there.");
-    QString Zbo_SinNotas = QStringLiteral(
-        "There is no block of notes for %1, so none of its games is listed; --mend puts one there.");
+        "The block of %1 lacks the line of an apostrophe and dashes behind its last emulator.");
+    QString Zbo_SinMarca = QStringLiteral("The line [EOF] behind the last system is missing.");
+    QString Zbo_SinApostrofo = QStringLiteral(
+        "The notes of %1 lack their closing line, an apostrophe alone; it belongs behind the last of them.");
+    QString Zbo_SinNotas =
+        QStringLiteral("There is no block of notes for %1, so none of its games is listed; it needs a line "
+                       "with that name, and one with an apostrophe.");
     QString Zbo_SinSeccion =
-        QStringLiteral("The section of parameters, or its closing apostrophe, is missing.");
+        QStringLiteral("The section of parameters, or its closing apostrophe, is missing; behind the systems "
+                       "it needs a line Parametros especificos, its records, and a line with an apostrophe.");
     QString Zbo_Cortado =
         QStringLiteral("This record has another number of fields than it needs; a comma cuts it: %1");
     QString Zbo_SinFichero =
@@ -78,8 +79,8 @@ struct PalabrasDeRevision {
                                            "the line of another emulator may be missing ahead of it: %1");
     QString Zbo_FaltaLinea = QStringLiteral(
         "The emulator %1 has no line that begins with %2=; add it, or configure it in the program.");
-    QString Zbo_SinBarra = QStringLiteral("This directory lacks its closing separator, so its name runs into "
-                                          "those of the files; --mend puts it there: %1");
+    QString Zbo_SinBarra = QStringLiteral(
+        "This directory lacks its closing separator, so its name runs into those of the files: %1");
     QString Zbo_SinEmulador = QStringLiteral("The system %1 has no emulator.");
     QString Zbo_CatalogoMal =
         QStringLiteral("The catalogue can't be read to its end; check without a name tells why.");
@@ -154,8 +155,8 @@ struct PalabrasDeRevision {
     QString Zbo_MendQuedan = QStringLiteral("Findings that have no one answer: %1; check names them.");
     QString Zbo_SinEXE =
         QStringLiteral("The path of the program is empty; name the program in the configuration.");
-    QString Zbo_SinCierrePar =
-        QStringLiteral("The section of parameters has no closing apostrophe; --mend puts it there.");
+    QString Zbo_SinCierrePar = QStringLiteral("The section of parameters lacks its closing line, an "
+                                              "apostrophe alone; it belongs behind the last of them.");
 
     // Why nothing came of it.
     QString Zbo_MueveOld = QStringLiteral("--new goes with --old: name the old place too.");

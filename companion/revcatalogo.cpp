@@ -152,7 +152,8 @@ void RevisorDeCatalogo::valor(QStringView clave, const QString &linea)
         halla(u"line-twice"_s, m_palabras.Zbo_DosLineas.arg(linea, clave, m_emulador));
     m_clavesDelEmulador.insert(clave.toString());
     const QString ruta = linea.mid(clave.size() + 1);
-    if ((clave == u"ROM" || clave == u"IMG") && ruta != host::withClosingSeparator(ruta))
+    if ((clave == u"ROM" || clave == u"IMG") && ruta != host::withClosingSeparator(ruta)
+        && !EsRutaDeFichero(ruta))
         halla(u"no-closing-separator"_s, m_palabras.Zbo_SinBarra.arg(linea));
 }
 
@@ -176,7 +177,7 @@ void RevisorDeCatalogo::acabaSistema()
 
 void RevisaCatalogo(const Sesion &sesion, const QString &fichero, Revision &revision)
 {
-    const QString texto = TextoDelPrograma(fichero);
+    const QString texto = TextoDelPrograma(sesion.M, fichero);
     const std::vector<core::LineaConFin> lineas = core::EnLineas(texto);
     RevisorDeCatalogo revisor(sesion, fichero, revision);
     for (const core::LineaConFin &linea : lineas)

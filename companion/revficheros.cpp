@@ -26,18 +26,18 @@ using namespace Qt::StringLiterals;
 
 namespace companion {
 
-QString TextoDelPrograma(const QString &fichero)
+QString TextoDelPrograma(const core::Modulo &M, const QString &fichero)
 {
-    return host::decodeText(host::readBytes(host::programFile(fichero))).text;
+    return M.Ficheros.textOf(host::programFile(fichero));
 }
 
-QStringList SistemasConocidos()
+QStringList SistemasConocidos(const core::Modulo &M)
 {
     QStringList nombres;
     for (const QString &fichero : { u"Zembro.emu"_s, u"Zembro.sye"_s }) {
         QString texto;
         try {
-            texto = TextoDelPrograma(fichero);
+            texto = TextoDelPrograma(M, fichero);
         } catch (const host::Failure &) {
             continue; // a finding of its own
         }
@@ -74,7 +74,7 @@ public:
     RevisorDeAjustes(const Sesion &sesion, Revision &revision)
         : M(sesion.M)
         , m_palabras(sesion.palabras)
-        , m_texto(TextoDelPrograma(u"Zembro.cfg"_s))
+        , m_texto(TextoDelPrograma(sesion.M, u"Zembro.cfg"_s))
         , m_lineas(core::EnLineas(m_texto))
         , m_revision(revision)
     {
@@ -187,37 +187,6 @@ void RevisaAjustes(Sesion &sesion, Revision &revision)
     if (enSuSitio)
         revisor.Valores();
     revisor.Filtros();
-}
-
-bool TieneRemiendo(const Hallazgo &hallazgo)
-{
-    const bool deNotas = hallazgo.fichero == u"Zembro.rom";
-    if (!deNotas && hallazgo.fichero != u"Zembro.emu" && hallazgo.fichero != u"Zembro.sye")
-        return false;
-    return hallazgo.clase == u"block-without-end"
-        || (deNotas ? hallazgo.clase == u"system-without-notes"
-                    : hallazgo.clase == u"missing-mark" || hallazgo.clase == u"no-closing-separator");
-}
-
-std::vector<Remiendo> Remiendos()
-{
-    const auto catalogo = [](const QString &texto) {
-        return core::ConMarcaFinal(core::ConBloquesCerrados(core::ConSeparadoresFinales(texto)));
-    };
-    const auto notas = [](const QString &texto) {
-        QString resultado = core::ConNotasCerradas(texto, SistemasConocidos());
-        const auto M = core::CatalogoDe(TextoDelPrograma(u"Zembro.emu"_s));
-        for (int s = 0; s <= M->Indice_Sistema; ++s) {
-            const QString sistema = core::Valor(M->Cat_Nombre(s, 0), 1);
-            const std::vector<core::LineaConFin> lineas = core::EnLineas(resultado);
-            const bool esta = std::ranges::any_of(
-                lineas, [&](const core::LineaConFin &linea) { return linea.linea == sistema; });
-            if (!esta)
-                resultado = core::ConSistemaNuevo(resultado, sistema);
-        }
-        return core::ConParametrosCerrados(resultado);
-    };
-    return { { u"Zembro.emu"_s, catalogo }, { u"Zembro.sye"_s, catalogo }, { u"Zembro.rom"_s, notas } };
 }
 
 } // namespace companion

@@ -130,7 +130,7 @@ void RevisaIdiomas(const Sesion &sesion, Revision &revision)
         const QString fichero = u"LNG/"_s + nombre;
         Revisa(revision, fichero, sesion.palabras, [&] {
             RevisorDeIdioma revisor(sesion, fichero, revision);
-            const QString texto = TextoDelPrograma(fichero);
+            const QString texto = TextoDelPrograma(sesion.M, fichero);
             for (const core::LineaConFin &linea : core::EnLineas(texto))
                 revisor.Linea(linea.linea.toString());
             revisor.Fin();

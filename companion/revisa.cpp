@@ -6,6 +6,7 @@
 
 #include "host/paths.h"
 
+#include <QHash>
 #include <QJsonArray>
 
 #include <algorithm>
@@ -18,7 +19,10 @@ namespace {
 
 QJsonObject enJson(const Hallazgo &hallazgo)
 {
-    QJsonObject objeto { { u"kind"_s, hallazgo.clase }, { u"text"_s, hallazgo.texto } };
+    QJsonObject objeto { { u"kind"_s, hallazgo.clase }, { u"text"_s, hallazgo.texto },
+        { u"mendable"_s, hallazgo.seRemienda } };
+    if (hallazgo.primera > 0)
+        objeto[u"first_line"_s] = hallazgo.primera;
     if (!hallazgo.fichero.isEmpty())
         objeto[u"file"_s] = hallazgo.fichero;
     if (hallazgo.linea > 0)
@@ -53,15 +57,24 @@ QJsonObject enJson(const QString &fichero, const QStringList &diferencia)
     return { { u"file"_s, fichero }, { u"diff"_s, QJsonArray::fromStringList(diferencia) } };
 }
 
-QString enLinea(const Hallazgo &hallazgo)
+QString sitioDe(const QString &fichero, int linea)
+{
+    return fichero + (linea > 0 ? u':' + QString::number(linea) : QString());
+}
+
+QString enLinea(const Hallazgo &hallazgo, const Palabras &palabras)
 {
     QStringList partes;
     if (!hallazgo.fichero.isEmpty())
-        partes +=
-            hallazgo.fichero + (hallazgo.linea > 0 ? u':' + QString::number(hallazgo.linea) : QString());
+        partes += sitioDe(hallazgo.fichero, hallazgo.linea);
     if (!hallazgo.pareja.isEmpty())
         partes += hallazgo.pareja;
-    return (partes + QStringList { hallazgo.texto }).join(u": "_s);
+    QString texto = hallazgo.texto;
+    if (hallazgo.primera > 0)
+        texto += u" ("_s + sitioDe(hallazgo.fichero, hallazgo.primera) + u')';
+    if (hallazgo.seRemienda)
+        texto += u' ' + palabras.Zbo_LoRemienda;
+    return (partes + QStringList { texto }).join(u": "_s);
 }
 
 // The count of a pair, and which games lack a capture: all of them where the pair was asked for.
@@ -126,7 +139,7 @@ Respuesta revisado(Sesion &sesion, const std::vector<Pareja> &parejas, Revision 
     Respuesta respuesta { std::move(revision), {}, {} };
     revisaFicheros(sesion, respuesta.revision);
     const LineasDelCatalogo lineasDelCatalogo(
-        parejas.empty() ? QString() : TextoDelPrograma(u"Zembro.emu"_s));
+        parejas.empty() ? QString() : TextoDelPrograma(sesion.M, u"Zembro.emu"_s));
     for (const Pareja &pareja : parejas) {
         const Cuenta cuenta = RevisaPareja(sesion, pareja, lineasDelCatalogo, respuesta.revision);
         const launch::Encargo encargo = EncargoDe(sesion.M, pareja);
@@ -138,6 +151,43 @@ Respuesta revisado(Sesion &sesion, const std::vector<Pareja> &parejas, Revision 
     }
     RevisaCapturas(sesion, parejas, lineasDelCatalogo, respuesta.revision);
     return respuesta;
+}
+
+// Lets the repaired texts be read in the place of the files. False where all of them are as they should be.
+bool leeRemendados(Sesion &sesion)
+{
+    bool alguno = false;
+    for (const Remiendo &remiendo : Remiendos(sesion.M)) {
+        try {
+            const QString antes = TextoDelPrograma(sesion.M, remiendo.fichero);
+            const QString despues = remiendo.cambio(antes);
+            alguno = alguno || antes != despues;
+            sesion.M.Ficheros.readInstead(host::programFile(remiendo.fichero), despues);
+        } catch (const host::Failure &) {
+            continue; // a finding of its own
+        }
+    }
+    return alguno;
+}
+
+// By what a finding is known where lines have come and gone.
+QString sena(const Hallazgo &hallazgo)
+{
+    return QStringList { hallazgo.clase, hallazgo.fichero, hallazgo.pareja, hallazgo.texto }.join(u'\n');
+}
+
+// What --mend repairs is what is found no more behind it.
+void marcaRemendables(Sesion &sesion, const std::vector<Pareja> &parejas, Revision &revision)
+{
+    if (revision.empty() || !leeRemendados(sesion))
+        return;
+    Revision despues;
+    leeCatalogo(sesion, despues);
+    QHash<QString, int> quedan;
+    for (const Hallazgo &hallazgo : revisado(sesion, parejas, std::move(despues)).revision)
+        ++quedan[sena(hallazgo)];
+    for (Hallazgo &hallazgo : revision)
+        hallazgo.seRemienda = quedan[sena(hallazgo)]-- <= 0;
 }
 
 int revisaTodo(Sesion &sesion)
@@ -154,41 +204,43 @@ int revisaTodo(Sesion &sesion)
         hayCatalogo ? ParejasPedidas(sesion, sistema, sesion.Argumento(1)) : std::vector<Pareja>();
     if (parejas.empty() && !todo)
         return NoPudo;
-    const Respuesta respuesta = revisado(sesion, parejas, std::move(revision));
+    Respuesta respuesta = revisado(sesion, parejas, std::move(revision));
+    marcaRemendables(sesion, parejas, respuesta.revision);
     if (sesion.EnJson()) {
         sesion.Json({ { u"findings"_s, enJson(respuesta.revision) }, { u"pairs"_s, respuesta.cuentas } });
     } else {
         for (const Hallazgo &hallazgo : respuesta.revision)
-            sesion.Escribe(enLinea(hallazgo));
+            sesion.Escribe(enLinea(hallazgo, sesion.palabras));
         sesion.Escribe(respuesta.lineas);
     }
     return respuesta.revision.empty() ? Bien : Hallazgos;
 }
 
-// How many findings no repair is for. What a repair has been written for and is found still is one of them.
-int losQueQuedan(Sesion &sesion, bool escritos)
+// How many findings there are behind the repairs.
+qsizetype losQueQuedan(Sesion &sesion)
 {
     Revision revision;
     const bool hayCatalogo = leeCatalogo(sesion, revision);
     const std::vector<Pareja> parejas = hayCatalogo ? Parejas(sesion.M) : std::vector<Pareja>();
-    const Respuesta respuesta = revisado(sesion, parejas, std::move(revision));
-    return static_cast<int>(std::ranges::count_if(
-        respuesta.revision, [&](const Hallazgo &hallazgo) { return escritos || !TieneRemiendo(hallazgo); }));
+    return qsizetype(revisado(sesion, parejas, std::move(revision)).revision.size());
 }
 
-// What a repair changes, or would change. It is decided by the text that the rewrite has just read.
+// What a repair changes, or would change, which is then read in the place of the file. It is decided by the
+// text that the rewrite has just read.
 QStringList remendado(Sesion &sesion, const Remiendo &remiendo)
 {
-    QString antes = TextoDelPrograma(remiendo.fichero);
+    const QString ruta = host::programFile(remiendo.fichero);
+    QString antes = TextoDelPrograma(sesion.M, remiendo.fichero);
     QString despues = remiendo.cambio(antes);
-    if (sesion.Tiene(u"write"_s) && antes != despues) {
+    if (!sesion.Tiene(u"write"_s)) {
+        sesion.M.Ficheros.readInstead(ruta, despues);
+    } else if (antes != despues) {
         sesion.M.Ficheros.closeAll();
-        sesion.M.Ficheros.rewrite(
-            host::programFile(remiendo.fichero), u"Zembro.tmp"_s, [&](const QString &texto) {
-                antes = texto;
-                despues = remiendo.cambio(texto);
-                return despues;
-            });
+        sesion.M.Ficheros.rewrite(ruta, u"Zembro.tmp"_s, [&](const QString &texto) {
+            antes = texto;
+            despues = remiendo.cambio(texto);
+            return despues;
+        });
     }
     return Diferencia(remiendo.fichero, antes, despues);
 }
@@ -202,7 +254,7 @@ int remienda(Sesion &sesion)
     QJsonArray cambios;
     QStringList lineas;
     Revision fallos;
-    for (const Remiendo &remiendo : Remiendos()) {
+    for (const Remiendo &remiendo : Remiendos(sesion.M)) {
         Revisa(fallos, remiendo.fichero, sesion.palabras, [&] {
             const QStringList diferencia = remendado(sesion, remiendo);
             if (!diferencia.isEmpty())
@@ -210,7 +262,7 @@ int remienda(Sesion &sesion)
             lineas += diferencia;
         });
     }
-    const int quedan = losQueQuedan(sesion, escribe);
+    const qsizetype quedan = losQueQuedan(sesion);
     if (sesion.EnJson())
         sesion.Json({ { u"written"_s, escribe }, { u"changes"_s, cambios }, { u"findings"_s, enJson(fallos) },
             { u"remaining"_s, quedan } });
@@ -219,7 +271,7 @@ int remienda(Sesion &sesion)
     if (quedan > 0 && fallos.empty())
         sesion.Avisa(sesion.palabras.Zbo_MendQuedan.arg(quedan));
     for (const Hallazgo &fallo : fallos)
-        sesion.Avisa(enLinea(fallo));
+        sesion.Avisa(enLinea(fallo, sesion.palabras));
     if (!fallos.empty())
         return NoPudo;
     return quedan == 0 && (cambios.isEmpty() || escribe) ? Bien : Hallazgos;

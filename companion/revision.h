@@ -17,6 +17,8 @@ struct Hallazgo {
     int linea = 0; // counted from 1, 0 where none is meant
     QString pareja; // "System / Emulator"; empty for a file's
     QString texto; // what is wrong and what to do
+    int primera = 0; // of what stands twice, the line that counts
+    bool seRemienda = false; // found no more where all repairs are made
 };
 
 using Revision = std::vector<Hallazgo>;
@@ -63,20 +65,20 @@ Cuenta RevisaPareja(
 void RevisaCapturas(
     Sesion &sesion, const std::vector<Pareja> &parejas, const LineasDelCatalogo &lineas, Revision &revision);
 
-// A text file of the program directory.
-QString TextoDelPrograma(const QString &fichero);
+// A text file of the program directory, or what is read in its place.
+QString TextoDelPrograma(const core::Modulo &M, const QString &fichero);
 
 // The names of the systems of the catalogue and of the database, of that alone that can be read.
-QStringList SistemasConocidos();
+QStringList SistemasConocidos(const core::Modulo &M);
 
-// A change of a text file that has one answer only.
+// Whether a value of the catalogue is the path of something that is no directory.
+bool EsRutaDeFichero(const QString &valor);
+
+// A change of a text file that has one answer only. It reads the other files.
 struct Remiendo {
     QString fichero;
     std::function<QString(const QString &)> cambio;
 };
-std::vector<Remiendo> Remiendos();
-
-// Whether one of them is for this.
-bool TieneRemiendo(const Hallazgo &hallazgo);
+std::vector<Remiendo> Remiendos(const core::Modulo &M);
 
 } // namespace companion

@@ -4,6 +4,7 @@
 #include "core/lineas.h"
 #include "core/notas.h"
 #include "core/remiendos.h"
+#include "core/repetidos.h"
 #include "core/romelegida.h"
 
 #include "host/letters.h"
@@ -225,22 +226,36 @@ QStringList sistemasDe(const core::Modulo &M)
 }
 
 // Without it nothing tells which blocks are nobody's.
-bool hayBaseDeDatos()
+bool hayBaseDeDatos(const core::Modulo &M)
 {
     try {
-        return TextoDelPrograma(u"Zembro.sye"_s).contains(u'-');
+        return TextoDelPrograma(M, u"Zembro.sye"_s).contains(u'-');
     } catch (const host::Failure &) {
         return false; // a finding of its own
     }
+}
+
+void Repetidos(
+    const Palabras &palabras, const QString &texto, const QStringList &sistemas, Revision &revision)
+{
+    const std::vector<core::LineaConFin> lineas = core::EnLineas(texto);
+    const auto halla = [&](const QString &clase, const QString &dicho, const core::Repetido &uno) {
+        revision.push_back({ clase, Fichero, static_cast<int>(uno.otro) + 1, {},
+            dicho.arg(lineas[uno.otro].linea.toString()), static_cast<int>(uno.primero) + 1 });
+    };
+    for (const core::Repetido &uno : core::BloquesRepetidos(texto, sistemas))
+        halla(u"block-twice"_s, palabras.Zbo_BloqueDoble, uno);
+    for (const core::Repetido &uno : core::ParametrosRepetidos(texto))
+        halla(u"parameters-twice"_s, palabras.Zbo_ParDobles, uno);
 }
 
 } // namespace
 
 void RevisaNotas(Sesion &sesion, Revision &revision)
 {
-    const QString texto = TextoDelPrograma(Fichero);
+    const QString texto = TextoDelPrograma(sesion.M, Fichero);
     const std::vector<core::LineaConFin> lineas = core::EnLineas(texto);
-    const QStringList conocidos = SistemasConocidos();
+    const QStringList conocidos = SistemasConocidos(sesion.M);
     const int ultima = static_cast<int>(lineas.size());
     for (const core::SinCierre &hueco : core::NotasSinCierre(texto, conocidos))
         revision.push_back({ u"block-without-end"_s, Fichero, static_cast<int>(hueco.inicio) + 1, {},
@@ -255,14 +270,14 @@ void RevisaNotas(Sesion &sesion, Revision &revision)
         else
             revisor.Sistema(sistema, static_cast<size_t>(suya - lineas.begin()) + 1);
     }
-    if (hayBaseDeDatos())
+    if (hayBaseDeDatos(sesion.M))
         revisor.Ajenas();
-    if (std::ranges::none_of(
-            lineas, [](const core::LineaConFin &linea) { return linea.linea.startsWith(u'['); }))
+    if (!core::TieneMarcaDeNotas(texto, conocidos))
         revision.push_back({ u"missing-mark"_s, Fichero,
             std::min(static_cast<int>(cabeceraDeParametros(lineas)) + 1, ultima), {},
             sesion.palabras.Zbo_SinMarcaNot });
     revisor.Parametros(texto);
+    Repetidos(sesion.palabras, texto, conocidos, revision);
 }
 
 } // namespace companion

@@ -78,9 +78,9 @@ private:
 };
 
 // The line of Zembro.rom, counted from 1, of the second record with this description; 0 if none is.
-int lineaDeDescripcion(const QString &descripcion)
+int lineaDeDescripcion(const core::Modulo &M, const QString &descripcion)
 {
-    const QString texto = TextoDelPrograma(u"Zembro.rom"_s);
+    const QString texto = TextoDelPrograma(M, u"Zembro.rom"_s);
     int numero = 0;
     int veces = 0;
     for (const core::LineaConFin &linea : core::EnLineas(texto)) {
@@ -241,7 +241,7 @@ void RevisorDePareja::Juegos(const Listado &listado)
         const Juego juego = lector.De(entrada);
         if (++veces[entrada] == 2 && juego.descrito)
             hallaEn(u"description-twice"_s, m_palabras.Zbo_MismaDesc.arg(entrada), u"Zembro.rom"_s,
-                lineaDeDescripcion(entrada));
+                lineaDeDescripcion(M, entrada));
         if (veces[entrada] == 1 && juego.captura.isEmpty())
             cuenta.sinCaptura.push_back({ entrada, lector.CapturaBuscada(entrada) });
     }

@@ -80,12 +80,13 @@ QString ConMarcaFinal(const QString &texto)
     return copia.Texto();
 }
 
-QString ConSeparadoresFinales(const QString &texto)
+QString ConSeparadoresFinales(const QString &texto, const std::function<bool(const QString &)> &esFichero)
 {
     Copia copia;
     for (const LineaConFin &linea : EnLineas(texto)) {
-        const bool directorio = linea.linea.startsWith(u"ROM=") || linea.linea.startsWith(u"IMG=");
         const QString entera = linea.linea.toString();
+        const bool deRuta = linea.linea.startsWith(u"ROM=") || linea.linea.startsWith(u"IMG=");
+        const bool directorio = deRuta && !esFichero(entera.sliced(PrefijoRuta));
         const QString cerrada = directorio
             ? entera.first(PrefijoRuta) + host::withClosingSeparator(entera.sliced(PrefijoRuta))
             : entera;
@@ -93,6 +94,18 @@ QString ConSeparadoresFinales(const QString &texto)
     }
     return copia.Texto();
 }
+
+namespace {
+
+// Ahead of empty lines and rules, of an apostrophe and dashes: those would be read as notes.
+size_t trasLasNotas(const std::vector<LineaConFin> &lineas, size_t inicio, size_t fin)
+{
+    while (fin > inicio + 1 && (lineas[fin - 1].linea.isEmpty() || lineas[fin - 1].linea.startsWith(u"'-")))
+        --fin;
+    return fin;
+}
+
+} // namespace
 
 std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &sistemas)
 {
@@ -106,7 +119,7 @@ std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &s
         const bool cabecera = nombres.contains(linea.toString());
         const bool fin = AcabaLosSistemas(lineas, i, sistemas);
         if (abierto && (cabecera || fin))
-            huecos.push_back({ inicio, i });
+            huecos.push_back({ inicio, trasLasNotas(lineas, inicio, i) });
         if (fin)
             break;
         if (cabecera)
@@ -121,11 +134,23 @@ QString ConNotasCerradas(const QString &texto, const QStringList &sistemas)
     return conLineas(texto, NotasSinCierre(texto, sistemas), u"'"_s);
 }
 
+bool TieneMarcaDeNotas(const QString &texto, const QStringList &sistemas)
+{
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    for (size_t i = 0; i < lineas.size(); ++i) {
+        if (AcabaLosSistemas(lineas, i, sistemas))
+            return true;
+    }
+    return false;
+}
+
 namespace {
 
-bool esRegistroDeParametros(QStringView linea)
+constexpr int CamposDeNota = 2;
+constexpr int CamposDeParametros = 4;
+
+bool esRegistroDe(int campos, QStringView linea)
 {
-    constexpr int campos = 4;
     // Quotes that the line doesn't close take in the lines behind it.
     if (linea.count(u'"') % 2 != 0 || linea.startsWith(u'['))
         return false;
@@ -138,7 +163,44 @@ bool esRegistroDeParametros(QStringView linea)
     return leidos == campos;
 }
 
+size_t indiceDeParametros(const std::vector<LineaConFin> &lineas)
+{
+    const auto cabecera = std::ranges::find_if(
+        lineas, [](const LineaConFin &linea) { return linea.linea.startsWith(u"Parametros"); });
+    return static_cast<size_t>(cabecera - lineas.begin());
+}
+
+// Where the mark is missing: ahead of this line. None where what stands at the end may be something else than
+// notes of a system.
+std::optional<size_t> lugarDeLaMarca(const std::vector<LineaConFin> &lineas, const QStringList &sistemas)
+{
+    size_t lugar = indiceDeParametros(lineas);
+    if (lugar < lineas.size()) {
+        while (lugar > 0 && lineas[lugar - 1].linea.isEmpty())
+            --lugar;
+        return lugar;
+    }
+    const QSet<QString> nombres(sistemas.begin(), sistemas.end());
+    bool dentro = false;
+    for (const LineaConFin &linea : lineas) {
+        const bool cabecera = nombres.contains(linea.linea.toString());
+        const bool nota = dentro && esRegistroDe(CamposDeNota, linea.linea);
+        if (!cabecera && !nota && !linea.linea.isEmpty() && !linea.linea.startsWith(u'\''))
+            return std::nullopt;
+        dentro = cabecera || (dentro && linea.linea != u"'");
+    }
+    return FinDeLosParametros(lineas);
+}
+
 } // namespace
+
+QString ConMarcaDeNotas(const QString &texto, const QStringList &sistemas)
+{
+    if (TieneMarcaDeNotas(texto, sistemas))
+        return texto;
+    const std::optional<size_t> lugar = lugarDeLaMarca(EnLineas(texto), sistemas);
+    return lugar ? conLineas(texto, { { *lugar, *lugar } }, u"[EOF]"_s) : texto;
+}
 
 size_t FinDeLosParametros(const std::vector<LineaConFin> &lineas)
 {
@@ -151,18 +213,37 @@ size_t FinDeLosParametros(const std::vector<LineaConFin> &lineas)
     return fin;
 }
 
+QString ConCabeceraDeParametros(const QString &texto, const QStringList &sistemas)
+{
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    size_t marca = 0;
+    while (marca < lineas.size() && !AcabaLosSistemas(lineas, marca, sistemas))
+        ++marca;
+    if (marca == lineas.size() || indiceDeParametros(lineas) < lineas.size())
+        return texto;
+    const size_t fin = FinDeLosParametros(lineas);
+    bool cerrados = false;
+    for (size_t i = marca + 1; i < fin; ++i) {
+        const QStringView linea = lineas[i].linea;
+        if (cerrados || (!linea.isEmpty() && linea != u"'" && !esRegistroDe(CamposDeParametros, linea)))
+            return texto;
+        cerrados = linea == u"'";
+    }
+    return conLineas(texto, { { marca, marca + 1 } }, CabeceraParametros.toString());
+}
+
 std::optional<size_t> ParametrosSinCierre(const QString &texto)
 {
     std::vector<LineaConFin> lineas = EnLineas(texto);
     lineas.resize(FinDeLosParametros(lineas));
-    const auto cabecera = std::ranges::find_if(
-        lineas, [](const LineaConFin &linea) { return linea.linea.startsWith(u"Parametros"); });
-    if (cabecera == lineas.end())
+    const size_t cabecera = indiceDeParametros(lineas);
+    if (cabecera == lineas.size())
         return std::nullopt;
-    const bool soloRegistros = std::all_of(cabecera + 1, lineas.end(), [](const LineaConFin &linea) {
-        return linea.linea.isEmpty() || esRegistroDeParametros(linea.linea);
-    });
-    return soloRegistros ? std::optional(size_t(cabecera - lineas.begin())) : std::nullopt;
+    const bool soloRegistros = std::all_of(
+        lineas.begin() + std::ptrdiff_t(cabecera) + 1, lineas.end(), [](const LineaConFin &linea) {
+            return linea.linea.isEmpty() || esRegistroDe(CamposDeParametros, linea.linea);
+        });
+    return soloRegistros ? std::optional(cabecera) : std::nullopt;
 }
 
 QString ConParametrosCerrados(const QString &texto)

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -27,16 +28,25 @@ bool TieneMarcaFinal(const QString &texto);
 QString ConMarcaFinal(const QString &texto);
 
 // The text of a catalogue in which the directories of the ROM and IMG lines end in a separator, which is
-// added in the kind that the path has.
-QString ConSeparadoresFinales(const QString &texto);
+// added in the kind that the path has; not to the paths of a file, which no separator makes a directory.
+QString ConSeparadoresFinales(const QString &texto, const std::function<bool(const QString &)> &esFichero);
 
 // The systems of these names whose notes run into the next one's, as their closing apostrophe is missing.
 std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &sistemas);
 QString ConNotasCerradas(const QString &texto, const QStringList &sistemas);
 
+// Whether a line that begins with "[" ends the notes of the systems; and the text with one where its place is
+// sure: ahead of the parameters, or behind blocks of these systems and nothing else.
+bool TieneMarcaDeNotas(const QString &texto, const QStringList &sistemas);
+QString ConMarcaDeNotas(const QString &texto, const QStringList &sistemas);
+
 // The index behind the last line that may belong to the section of parameters: not the two lines that the
 // notes as delivered end in, nor empty ones.
 size_t FinDeLosParametros(const std::vector<LineaConFin> &lineas);
+
+// The text with the heading of the section of parameters where that has lost it: behind the end of the
+// systems, if nothing but whole records and their closing apostrophe, or nothing at all, follows.
+QString ConCabeceraDeParametros(const QString &texto, const QStringList &sistemas);
 
 // The index of the line that begins the section of parameters, where its closing apostrophe is missing and
 // nothing but whole records follows: else it may belong in several places. And the text with it.

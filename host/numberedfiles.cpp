@@ -33,13 +33,24 @@ template <typename Operation> auto namingTheFile(const QString &path, Operation 
 void NumberedFiles::openForInput(int number, const QString &path)
 {
     mustBeFree(number, path);
-    m_open.emplace(number, OpenFile { path, TextSource(decodeText(readBytes(path)).text) });
+    m_open.emplace(number, OpenFile { path, TextSource(textOf(path)) });
 }
 
 void NumberedFiles::openText(int number, const QString &path, const QString &text)
 {
     mustBeFree(number, path);
     m_open.emplace(number, OpenFile { path, TextSource(text) });
+}
+
+void NumberedFiles::readInstead(const QString &path, const QString &text)
+{
+    m_instead.insert_or_assign(path, text);
+}
+
+QString NumberedFiles::textOf(const QString &path) const
+{
+    const auto instead = m_instead.find(path);
+    return instead == m_instead.end() ? decodeText(readBytes(path)).text : instead->second;
 }
 
 QString NumberedFiles::readLine(int number)

@@ -27,6 +27,12 @@ public:
     // The same of a text that stands for the file. Fails with 55.
     void openText(int number, const QString &path, const QString &text);
 
+    // From now on this text is read in the place of the file's, which itself stays as it is.
+    void readInstead(const QString &path, const QString &text);
+
+    // The text that openForInput reads. Fails with 53 or 75.
+    QString textOf(const QString &path) const;
+
     // Fail with 52 if the number isn't open, 62 at the end of the text.
     QString readLine(int number);
     QString readField(int number);
@@ -65,6 +71,7 @@ private:
     void finish(Replacement &replacement, const DecodedText &text);
 
     std::map<int, OpenFile> m_open;
+    std::map<QString, QString> m_instead; // texts by paths
 };
 
 // A file's bytes, the first `most` of them. Fails with 53 or 75.

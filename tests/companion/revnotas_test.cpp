@@ -32,7 +32,9 @@ TEST_F(Check, ParametersOfNobodyAndOfNothingAreSaid)
     Cambia(u"Zembro.rom"_s, "especificos\r\n",
         "especificos\r\nZELDA.NES,Sis,Tres,-a\r\nGONE.NES,Sis,Uno,-a\r\n,Sis,Uno,-a\r\nZELDA.NES,SIS,uno,-"
         "b\r\n");
-    EXPECT_THAT(clases(), ElementsAre(u"parameters-of-nobody"_s, u"parameters-without-file"_s, u"no-name"_s));
+    EXPECT_THAT(clases(),
+        ElementsAre(
+            u"parameters-of-nobody"_s, u"parameters-without-file"_s, u"no-name"_s, u"parameters-twice"_s));
     EXPECT_TRUE(dicho().startsWith("Zembro.rom:8: The parameters of ZELDA.NES are for Sis / Tres"))
         << dicho().toStdString();
 }

@@ -22,6 +22,19 @@ TEST_F(FileNumbers, FileIsReadByLinesAndFields)
     EXPECT_TRUE(files.atEnd(1));
 }
 
+TEST_F(FileNumbers, ATextMayStandForAFile)
+{
+    makeFile("a", "first");
+    NumberedFiles files;
+    EXPECT_EQ(files.textOf(path(u"a"_s)), u"first"_s);
+    EXPECT_EQ(failureOf([&] { files.textOf(path(u"none"_s)); }), FileNotFound);
+    files.readInstead(path(u"a"_s), u"second"_s);
+    EXPECT_EQ(files.textOf(path(u"a"_s)), u"second"_s);
+    files.openForInput(1, path(u"a"_s));
+    EXPECT_EQ(files.readLine(1), u"second"_s);
+    EXPECT_EQ(readBytes(path(u"a"_s)), "first");
+}
+
 TEST_F(FileNumbers, SecondOpenUnderANumberInUseFails)
 {
     makeFile("a", "first");

@@ -1,0 +1,19 @@
+// The words of what to do, as companion/palabras.h has the others.
+#pragma once
+
+#include <QString>
+
+namespace companion {
+
+struct PalabrasDeAuxilio {
+    // What stands twice, and what --mend repairs.
+    QString Zbo_LoRemienda = QStringLiteral("It has one answer only: check --mend --write.");
+    QString Zbo_BloqueDoble =
+        QStringLiteral("A second block of notes of %1, of which nothing is read; the first one counts. Put "
+                       "into that what you need of this one, and remove this one.");
+    QString Zbo_ParDobles =
+        QStringLiteral("Parameters of a game that has some already; at a launch, by whichever emulator, the "
+                       "first ones count. Keep those that you want: %1");
+};
+
+} // namespace companion

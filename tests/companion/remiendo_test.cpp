@@ -1,0 +1,151 @@
+// zembro check --mend: what it repairs, and that check says the same of it.
+#include "mesaderevision.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class Mend : public Check {
+protected:
+    // The kinds of what check says --mend will repair, and of the rest.
+    struct Clases {
+        QStringList remendables;
+        QStringList otras;
+    };
+    Clases Halladas() const
+    {
+        Clases todas;
+        const QByteArray salida = Zembro({ u"check"_s, u"--json"_s }).salida;
+        for (const QJsonValue &uno : QJsonDocument::fromJson(salida)[u"findings"_s].toArray())
+            (uno[u"mendable"_s].toBool() ? todas.remendables : todas.otras) += uno[u"kind"_s].toString();
+        return todas;
+    }
+
+    int Quedan() const
+    {
+        const QByteArray salida = Zembro({ u"check"_s, u"--mend"_s, u"--json"_s }).salida;
+        return QJsonDocument::fromJson(salida)[u"remaining"_s].toInt(-1);
+    }
+
+    Respuesta Remienda() const { return Zembro({ u"check"_s, u"--mend"_s, u"--write"_s }); }
+};
+
+} // namespace
+
+TEST_F(Mend, EmptyNotesBecomeWhole_AndAllOfThemSayHowManyFindingsRemain)
+{
+    Pon(u"Zembro.rom"_s, "");
+    const Clases halladas = Halladas();
+    EXPECT_THAT(halladas.otras, IsEmpty());
+    EXPECT_TRUE(halladas.remendables.contains(u"system-without-notes"_s));
+    EXPECT_TRUE(halladas.remendables.contains(u"no-list"_s)) << halladas.remendables.join(u' ').toStdString();
+    EXPECT_EQ(Quedan(), 0);
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), "");
+    const Respuesta escrito = Remienda();
+    EXPECT_EQ(escrito.estado, companion::Bien);
+    EXPECT_EQ(escrito.error, "");
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), "Sis\r\n'\r\n[EOF]\r\nParametros especificos\r\n'\r\n");
+    EXPECT_THAT(clases(), IsEmpty());
+}
+
+TEST_F(Mend, APathOfAFileIsNoDirectoryThatLacksItsSeparator)
+{
+    Cambia(u"Zembro.emu"_s, "roms/\r\nIMG", "roms/Mario.nes\r\nIMG");
+    const QByteArray antes = Bytes(u"Zembro.emu"_s);
+    const Clases halladas = Halladas();
+    EXPECT_THAT(halladas.remendables, IsEmpty());
+    EXPECT_FALSE(halladas.otras.contains(u"no-closing-separator"_s));
+    EXPECT_TRUE(halladas.otras.contains(u"no-list"_s)) << halladas.otras.join(u' ').toStdString();
+    EXPECT_EQ(Quedan(), halladas.otras.size());
+    EXPECT_EQ(Remienda().estado, companion::Hallazgos);
+    EXPECT_EQ(Bytes(u"Zembro.emu"_s), antes);
+    EXPECT_EQ(Halladas().otras, halladas.otras);
+}
+
+TEST_F(Mend, CheckSaysWhereItHasTheAnswer)
+{
+    Cambia(u"Zembro.emu"_s, "[EOF]\r\n", "");
+    Pon(u"img/Luigi.gif"_s, UnGif());
+    EXPECT_TRUE(dicho().startsWith("Zembro.emu:22: The line [EOF] behind the last system is missing. It has "
+                                   "one answer only: check --mend --write.\n"))
+        << dicho().toStdString();
+    EXPECT_TRUE(dicho().contains("The capture Luigi.gif fits no game.\n"));
+    const Clases halladas = Halladas();
+    EXPECT_THAT(halladas.remendables, ElementsAre(u"missing-mark"_s));
+    EXPECT_THAT(halladas.otras, ElementsAre(u"capture-without-game"_s));
+    EXPECT_EQ(Quedan(), 1);
+}
+
+TEST_F(Mend, BlocksAndParametersThatStandTwiceAreToldWithTheOneThatCounts)
+{
+    Cambia(u"Zembro.rom"_s, "'------\r\n", "Sis\r\nMARIO.NES,\"Another\"\r\n'\r\n'------\r\n");
+    Cambia(u"Zembro.rom"_s, "-fast\r\n", "-fast\r\nmario.nes,Sis,Dos,-slow\r\n");
+    const QByteArray antes = Bytes(u"Zembro.rom"_s);
+    const QByteArray todo = dicho();
+    EXPECT_TRUE(todo.contains("Zembro.rom:4: A second block of notes of Sis, of which nothing is read; the "
+                              "first one counts.")
+        && todo.contains("remove this one. (Zembro.rom:1)\n"))
+        << todo.toStdString();
+    EXPECT_TRUE(todo.contains("Zembro.rom:12: Parameters of a game that has some already;")
+        && todo.contains(": mario.nes,Sis,Dos,-slow (Zembro.rom:11)\n"))
+        << todo.toStdString();
+    const QJsonArray hallados = Json({ u"check"_s }, companion::Hallazgos)[u"findings"_s].toArray();
+    ASSERT_EQ(hallados.size(), 2);
+    EXPECT_EQ(hallados[0][u"first_line"_s].toInt(), 1);
+    EXPECT_EQ(Quedan(), 2);
+    Remienda();
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), antes);
+}
+
+TEST_F(Mend, WhatStandsTwiceAndSaysTheSameBecomesOne)
+{
+    const QByteArray entero = Bytes(u"Zembro.rom"_s);
+    Cambia(u"Zembro.rom"_s, "'------\r\n", "Sis\r\nZELDA.NES,\"Zelda\"\r\n'\r\n'------\r\n");
+    Cambia(u"Zembro.rom"_s, "-fast\r\n", "-fast\r\nMARIO.NES,Sis,Uno,-fast\r\n");
+    EXPECT_THAT(Halladas().remendables, ElementsAre(u"block-twice"_s, u"parameters-twice"_s));
+    EXPECT_EQ(Remienda().estado, companion::Bien);
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s),
+        QByteArray(entero).replace("Mario\"\r\n", "Mario\"\r\nZELDA.NES,\"Zelda\"\r\n"));
+    EXPECT_THAT(clases(), IsEmpty());
+}
+
+// Each line that closes something, in each file.
+TEST_F(Mend, FilesOfWhichAClosingLineWasDeletedAreAsTheyWere)
+{
+    struct Caso {
+        QString fichero;
+        QByteArray antes;
+        QByteArray sin;
+    };
+    const Caso casos[] = {
+        { u"Zembro.emu"_s, "WEB2=\r\n'------\r\n[EOF]", "WEB2=\r\n[EOF]" },
+        { u"Zembro.emu"_s, "[EOF]\r\n", "" },
+        { u"Zembro.sye"_s, "+Uno\r\n'------\r\n", "+Uno\r\n" },
+        { u"Zembro.sye"_s, "[EOF]\r\n", "" },
+        { u"Zembro.rom"_s, "Mario\"\r\n'\r\n'------\r\n", "Mario\"\r\n'------\r\n" },
+        { u"Zembro.rom"_s, "[EOF]\r\n", "" },
+        { u"Zembro.rom"_s, "Parametros especificos\r\n", "" },
+        { u"Zembro.rom"_s, "-fast\r\n'\r\n", "-fast\r\n" },
+    };
+    for (const Caso &caso : casos) {
+        const QByteArray entero = Bytes(caso.fichero);
+        Cambia(caso.fichero, caso.antes, caso.sin);
+        const Clases halladas = Halladas();
+        EXPECT_THAT(halladas.otras, IsEmpty()) << caso.antes.toStdString();
+        EXPECT_FALSE(halladas.remendables.isEmpty()) << caso.antes.toStdString();
+        EXPECT_TRUE(dicho().startsWith(caso.fichero.toUtf8() + ':')) << dicho().toStdString();
+        EXPECT_EQ(Quedan(), 0);
+        EXPECT_EQ(Remienda().estado, companion::Bien);
+        EXPECT_EQ(
+            Bytes(caso.fichero).replace("'" + QByteArray(70, '-'), "'------").replace("\r\n\r\n", "\r\n"),
+            QByteArray(entero).replace("\r\n\r\n", "\r\n"))
+            << caso.antes.toStdString();
+        EXPECT_THAT(clases(), IsEmpty());
+        Pon(caso.fichero, entero);
+    }
+}

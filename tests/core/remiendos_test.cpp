@@ -1,0 +1,63 @@
+// Repairs of the text files: what has one answer, and what is left as it is because it has several.
+#include "core/remiendos.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList Sistemas { u"Alfa"_s, u"Beta"_s };
+const QString Notas = u"' head\r\nAlfa\r\nGAME.BIN,\"A game\"\r\n'\r\nBeta\r\n'\r\n"_s;
+const QString Resto = u"Parametros especificos\r\nGAME.BIN,Alfa,One,-a\r\n'\r\nfin\r\nfin,\"fin\"\r\n"_s;
+
+QString entero(const QString &texto)
+{
+    return core::ConParametrosCerrados(core::ConCabeceraDeParametros(
+        core::ConNotasCerradas(core::ConMarcaDeNotas(texto, Sistemas), Sistemas), Sistemas));
+}
+
+} // namespace
+
+TEST(MendedNotes, AreAsTheyWere_WhicheverOfTheirAnchorsIsMissing)
+{
+    const QString todo = Notas + u"[EOF]\r\n"_s + Resto;
+    EXPECT_EQ(entero(todo), todo);
+    EXPECT_EQ(entero(Notas + Resto), todo);
+    EXPECT_EQ(entero(QString(todo).replace(u"Parametros especificos\r\n"_s, QString())), todo);
+    EXPECT_EQ(entero(QString(todo).replace(u"-a\r\n'\r\n"_s, u"-a\r\n"_s)), todo);
+    EXPECT_EQ(entero(QString(todo).replace(u"A game\"\r\n'\r\n"_s, u"A game\"\r\n"_s)), todo);
+    EXPECT_EQ(entero(QString(todo).replace(u"Beta\r\n'\r\n[EOF]\r\n"_s, u"Beta\r\n"_s)), todo);
+    EXPECT_EQ(
+        entero(QString(todo).replace(u"[EOF]\r\n"_s, u"\r\n\r\n"_s)), Notas + u"[EOF]\r\n\r\n\r\n"_s + Resto);
+}
+
+TEST(MendedNotes, OfAFileThatIsEmptyOrCutAreWhole)
+{
+    const QString fin = u"[EOF]\r\nParametros especificos\r\n'\r\n"_s;
+    EXPECT_EQ(entero(QString()), fin);
+    EXPECT_EQ(entero(Notas), Notas + fin);
+    EXPECT_EQ(entero(u"Alfa\r\nGAME.BIN,\"A game\""_s), u"Alfa\r\nGAME.BIN,\"A game\"\r\n'\r\n"_s + fin);
+}
+
+TEST(MendedNotes, StayAsTheyAreWhereTheirPlaceIsNotSure)
+{
+    for (const QString &texto : { Notas + u"GAME.BIN,Alfa,One,-a\r\n'\r\n"_s, Notas + u"what is this\r\n"_s,
+             u"Alfa\r\nGAME.BIN,Alfa,One,-a\r\n"_s, Notas + u"[EOF]\r\nwhat is this\r\n'\r\n"_s,
+             Notas + u"[EOF]\r\nGAME.BIN,Alfa,One,-a\r\n'\r\nGAME.BIN,Alfa,One,-b\r\n"_s })
+        EXPECT_EQ(entero(texto), texto);
+}
+
+TEST(MendedNotes, DoNotTakeAGameInBracketsForTheMark)
+{
+    EXPECT_FALSE(core::TieneMarcaDeNotas(u"Alfa\r\n[B] GAME.BIN,\"A game\"\r\n'\r\n"_s, Sistemas));
+    EXPECT_TRUE(core::TieneMarcaDeNotas(u"Alfa\r\n'\r\n[\r\n"_s, Sistemas));
+}
+
+TEST(ClosingSeparators, AreAddedToDirectories_AndNotToFiles)
+{
+    const auto esFichero = [](const QString &ruta) { return ruta == u"/games/one.bin"_s; };
+    EXPECT_EQ(core::ConSeparadoresFinales(
+                  u"ROM=/games/one.bin\r\nROM=/games/two\nIMG=C:\\x\nEXE=/a\nROM="_s, esFichero),
+        u"ROM=/games/one.bin\r\nROM=/games/two/\nIMG=C:\\x\\\nEXE=/a\nROM="_s);
+}
