@@ -5,10 +5,12 @@
 #include "forms/picturebutton.h"
 #include "forms/pictures.h"
 #include "forms/plaintext.h"
+#include "forms/sharp.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QScreen>
@@ -275,11 +277,11 @@ void Form::mouseMoveEvent(QMouseEvent *event)
     MouseMove.raise(heldMouseOf(*event));
 }
 
-void Form::paintEvent(QPaintEvent *)
+void Form::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     if (!m_state->background.isEmpty())
-        painter.drawPixmap(0, 0, artwork(m_state->background, size(), devicePixelRatioF()));
+        drawPart(painter, event->region(), artwork(m_state->background, size(), devicePixelRatioF()));
     if (!m_state->tile.isNull() && m_state->tileWidth > 0 && m_state->tileHeight > 0)
         paintTile(painter);
     if (m_state->border != Border::None)

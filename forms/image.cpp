@@ -5,6 +5,7 @@
 #include "forms/sharp.h"
 
 #include <QGuiApplication>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
 
@@ -55,12 +56,12 @@ void Image::SetBorder(bool single)
     update();
 }
 
-void Image::paintEvent(QPaintEvent *)
+void Image::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (!m_artwork.isEmpty())
-        painter.drawPixmap(rect(), artwork(m_artwork, size(), devicePixelRatioF()));
+        drawPart(painter, event->region(), artwork(m_artwork, size(), devicePixelRatioF()));
     else if (!m_picture.isNull() && isMadeFor(painter, rect(), m_picture))
         drawUnscaled(painter, rect(), m_picture);
     else if (!m_picture.isNull())

@@ -2,9 +2,11 @@
 
 #include "forms/focusframe.h"
 #include "forms/pictures.h"
+#include "forms/sharp.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
 
@@ -76,11 +78,11 @@ void PictureButton::cancel()
     Cancel.raise();
 }
 
-void PictureButton::paintEvent(QPaintEvent *)
+void PictureButton::paintEvent(QPaintEvent *event)
 {
     const QString &name = ShowsPressed() ? m_pressedArtwork : m_artwork;
     QPainter painter(this);
-    painter.drawPixmap(0, 0, artwork(name, size(), devicePixelRatioF()));
+    drawPart(painter, event->region(), artwork(name, size(), devicePixelRatioF()));
     drawFocusFrame(painter, *this);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPixmap>
+#include <QRegion>
 #include <QTransform>
 
 #include <algorithm>
@@ -38,6 +39,24 @@ void drawUnscaled(QPainter &painter, const QRect &place, const QPixmap &picture)
     const Sharp sharp(painter, place);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
     painter.drawPixmap(QRect(sharp.place().topLeft(), picture.size()), picture);
+}
+
+void drawPart(QPainter &painter, const QRegion &part, const QPixmap &picture)
+{
+    const double ratio = picture.devicePixelRatio();
+    if (ratio != std::floor(ratio)) { // the rectangles would leave gaps
+        painter.drawPixmap(0, 0, picture);
+        return;
+    }
+    // The toolkit copies a picture at once into a rectangle; over a region, or smoothed, it goes line by
+    // line, in threads that have to wake first.
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    for (const QRect &rectangle : part) {
+        painter.setClipRect(rectangle);
+        painter.drawPixmap(0, 0, picture);
+    }
+    painter.restore();
 }
 
 } // namespace forms

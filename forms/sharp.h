@@ -5,6 +5,7 @@
 
 class QPainter;
 class QPixmap;
+class QRegion;
 
 namespace forms {
 
@@ -29,5 +30,8 @@ private:
 
 // Each pixel of the picture on one of the device, from the corner of the place on.
 void drawUnscaled(QPainter &painter, const QRect &place, const QPixmap &picture);
+
+// The picture from the corner of the widget on, in the part of it that is to be painted.
+void drawPart(QPainter &painter, const QRegion &part, const QPixmap &picture);
 
 } // namespace forms

@@ -8,12 +8,14 @@
 #include "forms/knownpictures.h"
 #include "forms/pictures.h"
 #include "forms/rendered.h"
+#include "forms/sharp.h"
 
 #include "host/failure.h"
 #include "host/lengths.h"
 
 #include <QDir>
 #include <QFile>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -206,6 +208,38 @@ TEST_F(Pictures, Artwork_IsDrawnAtItsSizeAndRatio)
     EXPECT_EQ(drawn.toImage().pixelColor(10, 40), QColor(Qt::red));
     EXPECT_EQ(drawn.toImage().pixelColor(20, 40), QColor(Qt::white));
 }
+
+// Few rectangles, and so many that they are no rectangle any more.
+class PicturesInPart : public testing::TestWithParam<std::tuple<int, double>> { };
+
+TEST_P(PicturesInPart, AreDrawnThereAndNowhereElse)
+{
+    const auto [rectangles, ratio] = GetParam();
+    QPixmap picture(QSize(40, 40) * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::red);
+    QImage drawn(QSize(40, 40) * ratio, QImage::Format_RGB32);
+    drawn.setDevicePixelRatio(ratio);
+    drawn.fill(Qt::white);
+    QRegion part;
+    for (int i = 0; i < rectangles; ++i)
+        part += QRect(3 * i, 2 * i, 2, 2);
+    QPainter painter(&drawn);
+    painter.setClipRegion(part); // as the toolkit does ahead of a widget's painting
+    const QImage before = drawn;
+    forms::drawPart(painter, part, picture);
+    painter.setClipping(false);
+    painter.end();
+    QImage expected = before;
+    painter.begin(&expected);
+    for (const QRect &rectangle : part)
+        painter.fillRect(rectangle, Qt::red);
+    painter.end();
+    EXPECT_EQ(drawn, expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Parts, PicturesInPart, testing::Combine(testing::Values(1, 3, 12), testing::Values(1.0, 2.0)));
 
 TEST_F(Pictures, Artwork_RenderedForItsSizeAndRatio_IsTakenAsItIs)
 {
