@@ -244,6 +244,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_LoRemienda", &P::Zbo_LoRemienda },
         { u"Zbo_BloqueDoble", &P::Zbo_BloqueDoble },
         { u"Zbo_ParDobles", &P::Zbo_ParDobles },
+        { u"Zbo_EOFFiltro", &P::Zbo_EOFFiltro },
     };
     return claves;
 }

@@ -14,6 +14,8 @@ struct PalabrasDeAuxilio {
     QString Zbo_ParDobles =
         QStringLiteral("Parameters of a game that has some already; at a launch, by whichever emulator, the "
                        "first ones count. Keep those that you want: %1");
+    QString Zbo_EOFFiltro = QStringLiteral("The empty line behind the filters is missing, so that [EOF] is "
+                                           "one of them; put an empty line ahead of it.");
 };
 
 } // namespace companion

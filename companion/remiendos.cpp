@@ -57,6 +57,7 @@ bool EsRutaDeFichero(const QString &valor)
 std::vector<Remiendo> Remiendos(const core::Modulo &M)
 {
     return { { u"Zembro.emu"_s, catalogoRemendado }, { u"Zembro.sye"_s, catalogoRemendado },
+        { u"Zembro.cfg"_s, core::ConAjustesEnSuSitio },
         { u"Zembro.rom"_s, [&M](const QString &texto) { return notasRemendadas(texto, M); } } };
 }
 

@@ -159,7 +159,9 @@ void RevisorDeAjustes::Filtros()
     size_t filtros = 0;
     for (size_t i = LineaDeFiltros + 1; i < m_lineas.size() && !m_lineas[i].linea.isEmpty(); ++i) {
         const QString filtro = m_lineas[i].linea.toString();
-        if (filtro != host::upper(filtro) || filtro.startsWith(u' '))
+        if (filtro == u"[EOF]")
+            halla(u"setting-out-of-place"_s, i, m_palabras.Zbo_EOFFiltro);
+        else if (filtro != host::upper(filtro) || filtro.startsWith(u' '))
             halla(u"useless-filter"_s, i, m_palabras.Zbo_FiltroMalo.arg(filtro));
         if (++filtros == core::FiltrosMirados)
             halla(u"too-many-filters"_s, i, m_palabras.Zbo_MuchosFiltros);

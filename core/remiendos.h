@@ -40,6 +40,11 @@ QString ConNotasCerradas(const QString &texto, const QStringList &sistemas);
 bool TieneMarcaDeNotas(const QString &texto, const QStringList &sistemas);
 QString ConMarcaDeNotas(const QString &texto, const QStringList &sistemas);
 
+// The settings with each of their lines where the reader counts it, under the head as the program writes it,
+// and an empty line behind the filters. Unchanged where one of them is missing or stands twice, where there is
+// no filter, or a line that is none of these.
+QString ConAjustesEnSuSitio(const QString &texto);
+
 // The index behind the last line that may belong to the section of parameters: not the two lines that the
 // notes as delivered end in, nor empty ones.
 size_t FinDeLosParametros(const std::vector<LineaConFin> &lineas);

@@ -129,6 +129,9 @@ TEST_F(Mend, FilesOfWhichAClosingLineWasDeletedAreAsTheyWere)
         { u"Zembro.sye"_s, "[EOF]\r\n", "" },
         { u"Zembro.rom"_s, "Mario\"\r\n'\r\n'------\r\n", "Mario\"\r\n'------\r\n" },
         { u"Zembro.rom"_s, "[EOF]\r\n", "" },
+        { u"Zembro.cfg"_s, "[General]\r\n", "" },
+        { u"Zembro.cfg"_s, "[Filters]\r\n", "" },
+        { u"Zembro.cfg"_s, "ZIPSAMPL\r\n\r\n", "ZIPSAMPL\r\n" },
         { u"Zembro.rom"_s, "Parametros especificos\r\n", "" },
         { u"Zembro.rom"_s, "-fast\r\n'\r\n", "-fast\r\n" },
     };

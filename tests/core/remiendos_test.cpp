@@ -1,6 +1,9 @@
 // Repairs of the text files: what has one answer, and what is left as it is because it has several.
 #include "core/remiendos.h"
 
+#include "core/ajustes.h"
+#include "core/lineas.h"
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -60,4 +63,35 @@ TEST(ClosingSeparators, AreAddedToDirectories_AndNotToFiles)
     EXPECT_EQ(core::ConSeparadoresFinales(
                   u"ROM=/games/one.bin\r\nROM=/games/two\nIMG=C:\\x\nEXE=/a\nROM="_s, esFichero),
         u"ROM=/games/one.bin\r\nROM=/games/two/\nIMG=C:\\x\\\nEXE=/a\nROM="_s);
+}
+
+TEST(MendedSettings, AreAsTheyWere_WhicheverLineIsMissingAroundThem)
+{
+    const QString entero =
+        core::AjustesPorDefecto(u"ZB-ENG.LNG"_s).replace(u"DebugMode = 0"_s, u"DebugMode = 1"_s);
+    const std::vector<core::LineaConFin> lineas = core::EnLineas(entero);
+    for (size_t i = 0; i < lineas.size(); ++i) {
+        core::Copia copia;
+        copia.Copiar(lineas, 0, i);
+        copia.Copiar(lineas, i + 1, lineas.size());
+        const QStringView linea = lineas[i].linea;
+        const bool hayUna = i < 11 || linea.isEmpty() || linea == u"[Filters]";
+        EXPECT_EQ(core::ConAjustesEnSuSitio(copia.Texto()), hayUna ? entero : copia.Texto()) << i;
+    }
+    EXPECT_EQ(core::ConAjustesEnSuSitio(entero), entero);
+    const QString conOtra = QString(entero).replace(u"[General]\r\n"_s, u"[General]\r\n\r\n"_s);
+    EXPECT_EQ(core::ConAjustesEnSuSitio(conOtra), entero);
+}
+
+TEST(MendedSettings, StayAsTheyAreWhereTheyHaveNoOneAnswer)
+{
+    const QString entero = core::AjustesPorDefecto(u"ZB-ENG.LNG"_s);
+    const auto con = [&](const QString &antes, const QString &despues) {
+        return QString(entero).replace(antes, despues);
+    };
+    const QString filtros = entero.sliced(entero.indexOf(u"ARTWORK"_s));
+    for (const QString &texto : { QString(), u"VACIO"_s, con(u"TypeOfEditor"_s, u"TypeOfEdotor"_s),
+             con(u"[General]\r\n"_s, u"what is this\r\n"_s), con(u"LastEmuUsed"_s, u"LastSisUsed"_s),
+             con(u"[Filters]\r\n"_s + filtros, QString()) })
+        EXPECT_EQ(core::ConAjustesEnSuSitio(texto), texto);
 }
