@@ -156,7 +156,7 @@ int exporta(Sesion &sesion)
     if (sesion.EnJson())
         sesion.Json(objeto);
     else if (!sesion.Tiene(u"to"_s))
-        sesion.Escribe(texto.chopped(texto.isEmpty() ? 0 : 1).split(u'\n'));
+        sesion.EscribeDocumento(texto);
     for (const QString &nombre : fuera)
         sesion.Avisa(nombre + u": "_s + sesion.palabras.Zbo_NoExporta);
     return bien && fuera.isEmpty() ? Bien : Hallazgos;

@@ -8,6 +8,8 @@
 #include <clocale>
 #include <cstdio>
 
+#include <unistd.h>
+
 int main(int argc, char **argv)
 {
     // Names of members of archives need a UTF-8 locale.
@@ -28,5 +30,6 @@ int main(int argc, char **argv)
         en(stderr)(bytes);
     };
     const auto queda = [] { return std::fflush(stdout) == 0 && std::ferror(stdout) == 0; };
-    return companion::Zembro(argumentos, { en(stdout), error, queda });
+    const auto esTerminal = [] { return isatty(STDOUT_FILENO) == 1; };
+    return companion::Zembro(argumentos, { en(stdout), error, queda, esTerminal });
 }

@@ -1,12 +1,15 @@
 #include "companion/mudanza.h"
 
 #include "companion/cambio.h"
+#include "companion/perdidos.h"
 
 #include "core/catalogo.h"
 #include "core/lineas.h"
 #include "core/rutas.h"
 
 #include "host/paths.h"
+
+#include <QJsonArray>
 
 #include <algorithm>
 #include <optional>
@@ -91,7 +94,11 @@ std::optional<Mudanza> pedida(const Sesion &sesion)
         sesion.Falla(sesion.palabras.Zbo_MueveOld);
         return std::nullopt;
     }
-    if (nuevo.isEmpty() || viejo.isEmpty() || nuevo.contains(u'\n') || nuevo.contains(u'\r')) {
+    if (nuevo.isEmpty() || viejo.isEmpty()) {
+        sesion.Falla(sesion.palabras.Zbo_MueveVacio.arg(viejo.isEmpty() ? u"--old"_s : u"--new"_s));
+        return std::nullopt;
+    }
+    if (nuevo.contains(u'\n') || nuevo.contains(u'\r')) {
         sesion.Falla(sesion.palabras.Zbo_MuevePide);
         return std::nullopt;
     }
@@ -114,6 +121,24 @@ std::optional<Mudanza> encontrada(const Sesion &sesion)
     return std::nullopt;
 }
 
+// Places that aren't there, each with the command that would change its lines.
+QStringList perdidos(QJsonObject &objeto, const Palabras &palabras)
+{
+    const QString texto = host::decodeText(host::readBytes(host::programFile(Catalogo))).text;
+    QStringList dichos;
+    QJsonArray todos;
+    for (const Perdido &perdido : LugaresPerdidos(texto)) {
+        dichos += TextoDe(perdido, palabras);
+        QJsonObject uno { { u"old"_s, perdido.viejo }, { u"lines"_s, perdido.lineas },
+            { u"command"_s, OrdenDeMudanza(perdido) } };
+        if (!perdido.nuevo.isEmpty())
+            uno[u"new"_s] = perdido.nuevo;
+        todos += uno;
+    }
+    objeto[u"lost"_s] = todos;
+    return dichos;
+}
+
 int muda(Sesion &sesion)
 {
     const bool dicha = sesion.Tiene(u"old"_s) || sesion.Tiene(u"new"_s);
@@ -121,16 +146,22 @@ int muda(Sesion &sesion)
     if (!mudanza)
         return NoPudo;
     QJsonObject objeto { { u"old"_s, mudanza->viejo }, { u"new"_s, mudanza->nuevo } };
-    const int estado = HazCambio(
+    int estado = HazCambio(
         sesion, Catalogo,
         [&](const QString &texto) {
             return ConRutasMudadas(
                 texto, mudanza->viejo, mudanza->nuevo, SinCierre(host::programDirectory()));
         },
         objeto);
+    const bool cambia = objeto[u"changed"_s].toBool();
+    const QStringList dichos = dicha || cambia ? QStringList() : perdidos(objeto, sesion.palabras);
+    if (!dichos.isEmpty())
+        estado = Hallazgos;
     if (sesion.EnJson())
         sesion.Json(objeto);
-    else if (!objeto[u"changed"_s].toBool())
+    else if (!dichos.isEmpty())
+        sesion.Escribe(dichos);
+    else if (!cambia)
         sesion.Escribe(sesion.palabras.Zbo_NadaCambia);
     else
         sesion.Escribe((estado == Bien ? sesion.palabras.Zbo_Movido : sesion.palabras.Zbo_Moveria)

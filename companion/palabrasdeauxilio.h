@@ -16,6 +16,11 @@ struct PalabrasDeAuxilio {
                        "first ones count. Keep those that you want: %1");
     QString Zbo_EOFFiltro = QStringLiteral("The empty line behind the filters is missing, so that [EOF] is "
                                            "one of them; put an empty line ahead of it.");
+
+    // Where a collection went.
+    QString Zbo_LugarPerdido =
+        QStringLiteral("Lines that lead to %1, which isn't there: %2. If that went elsewhere: %3");
+    QString Zbo_MueveVacio = QStringLiteral("The name behind %1 is empty.");
 };
 
 } // namespace companion

@@ -2,6 +2,7 @@
 
 #include "companion/diferencia.h"
 #include "companion/otrosistema.h"
+#include "companion/perdidos.h"
 #include "companion/revision.h"
 
 #include "host/paths.h"
@@ -104,11 +105,21 @@ QStringList enLineas(const Sesion &sesion, const Pareja &pareja, const Cuenta &c
     return lineas;
 }
 
+// What several lines lead to and isn't there has gone elsewhere.
+void revisaLugares(const Sesion &sesion, Revision &revision)
+{
+    const QString fichero = u"Zembro.emu"_s;
+    for (const Perdido &perdido : LugaresPerdidos(TextoDelPrograma(sesion.M, fichero)))
+        revision.push_back(
+            { u"lost-place"_s, fichero, perdido.primera, {}, TextoDe(perdido, sesion.palabras) });
+}
+
 void revisaFicheros(Sesion &sesion, Revision &revision)
 {
     const Palabras &palabras = sesion.palabras;
     for (const QString &fichero : { u"Zembro.emu"_s, u"Zembro.sye"_s })
         Revisa(revision, fichero, palabras, [&] { RevisaCatalogo(sesion, fichero, revision); });
+    Revisa(revision, u"Zembro.emu"_s, palabras, [&] { revisaLugares(sesion, revision); });
     Revisa(revision, u"Zembro.rom"_s, palabras, [&] { RevisaNotas(sesion, revision); });
     Revisa(revision, u"Zembro.cfg"_s, palabras, [&] { RevisaAjustes(sesion, revision); });
     Revisa(revision, u"LNG"_s, palabras, [&] { RevisaIdiomas(sesion, revision); });

@@ -49,6 +49,14 @@ void Sesion::EscribeColumnas(const QStringList &columnas) const
     m_consola.sale(visibles.join(u'\t').toUtf8() + '\n');
 }
 
+void Sesion::EscribeDocumento(const QString &texto) const
+{
+    if (m_consola.esTerminal && m_consola.esTerminal())
+        Escribe(texto.chopped(texto.isEmpty() ? 0 : 1).split(u'\n'));
+    else
+        m_consola.sale(texto.toUtf8());
+}
+
 void Sesion::Json(const QJsonObject &objeto) const
 {
     m_consola.sale(ComoJson(objeto));

@@ -20,6 +20,8 @@ struct Consola {
     std::function<void(const QByteArray &)> error;
     // At the end: whether all of the answer has been written; else errno says why not. None asks nobody.
     std::function<bool()> queda = {};
+    // Whether a terminal shows the answer; none is for no terminal.
+    std::function<bool()> esTerminal = {};
 };
 
 // What a command line asks for.
@@ -47,6 +49,8 @@ public:
     void Escribe(const QStringList &lineas) const;
     // One line with a tab between two texts; those in them are made visible.
     void EscribeColumnas(const QStringList &columnas) const;
+    // A text for another program, as it is; what a terminal would obey is made visible to one alone.
+    void EscribeDocumento(const QString &texto) const;
     // The answer, asked for as JSON.
     void Json(const QJsonObject &objeto) const;
 

@@ -171,3 +171,19 @@ TEST_F(Export, SaysWhatItLeavesOut)
     EXPECT_EQ(respuesta.estado, companion::Hallazgos);
     EXPECT_EQ(respuesta.error, "zembro: a\\x1B.nes: left out, as its name can't stand in such a file\n");
 }
+
+TEST_F(Export, CarriesNamesAsTheyAre_AndMakesThemSafeForATerminalAlone)
+{
+    const QString nombre = u"Abc\u202etxt.nes"_s;
+    Pon(u"roms/"_s + nombre, "x");
+    const QStringList argumentos { u"export"_s, u"Sis"_s, u"Uno"_s, u"--pegasus"_s };
+    EXPECT_TRUE(Zembro(argumentos).salida.contains("\nfile: " + nombre.toUtf8() + '\n'))
+        << Zembro(argumentos).salida.toStdString();
+    QByteArray enTerminal;
+    companion::Zembro(argumentos,
+        { [&](const QByteArray &bytes) { enTerminal += bytes; }, [](const QByteArray &) {}, {},
+            [] { return true; } });
+    EXPECT_FALSE(enTerminal.contains(nombre.toUtf8()));
+    EXPECT_TRUE(enTerminal.contains("\nfile: Abc\\u{202E}txt.nes\n")) << enTerminal.toStdString();
+    EXPECT_EQ(enTerminal.count('\n'), Zembro(argumentos).salida.count('\n'));
+}

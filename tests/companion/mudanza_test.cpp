@@ -2,6 +2,7 @@
 #include "mesadepruebas.h"
 
 #include "companion/mudanza.h"
+#include "companion/perdidos.h"
 
 #include "host/paths.h"
 
@@ -205,4 +206,85 @@ TEST_F(Move, NamesThatTheOldCodeCannotHoldAreKept)
         Zembro({ u"move"_s, u"--old"_s, Ruta(u"roms"_s), u"--new"_s, u"/日本\"',&<"_s, u"--write"_s }).estado
         == companion::Bien);
     EXPECT_TRUE(Bytes(u"Zembro.emu"_s).contains(u"\r\nROM=/日本\"',&</\r\n"_s.toUtf8()));
+}
+
+namespace {
+
+QStringList perdidos(const QString &texto, const QStringList &estan)
+{
+    const auto hay = [&](const QString &ruta) {
+        return std::ranges::any_of(
+            estan, [&](const QString &uno) { return uno == ruta || uno.startsWith(ruta + u'/'); });
+    };
+    const auto directorios = [&](const QString &donde) {
+        QStringList nombres;
+        for (const QString &uno : estan) {
+            if (uno.startsWith(donde))
+                nombres += uno.sliced(donde.size()).section(u'/', 0, 0);
+        }
+        nombres.removeDuplicates();
+        return nombres;
+    };
+    QStringList todos;
+    for (const companion::Perdido &uno : companion::LugaresPerdidos(texto, hay, directorios))
+        todos += u"%1:%2 %3 > %4"_s.arg(uno.primera).arg(uno.lineas).arg(uno.viejo, uno.nuevo);
+    return todos;
+}
+
+} // namespace
+
+TEST(LostPlaces, AreWhatSeveralLinesLeadThrough)
+{
+    EXPECT_EQ(perdidos(u"-S\nROM=/media/old/nes/\nIMG=/media/old/img/\nEXE=/bin/a\n"_s,
+                  { u"/media/x"_s, u"/bin"_s }),
+        QStringList { u"2:2 /media/old > "_s });
+    EXPECT_EQ(perdidos(u"ROM=/media/old/nes/\nIMG=/media/old/img"_s,
+                  { u"/media/new/nes"_s, u"/media/new/img"_s, u"/media/other/nes"_s }),
+        QStringList { u"1:2 /media/old > /media/new"_s });
+    EXPECT_EQ(
+        perdidos(u"ROM=/media/old/nes/\nIMG=/media/old/nes"_s, { u"/media/a/nes"_s, u"/media/b/nes"_s }),
+        QStringList { u"1:2 /media/old > "_s });
+    // One line, and a program that is mistyped.
+    EXPECT_EQ(perdidos(u"ROM=/media/old/nes/\n"_s, { u"/media"_s }), QStringList());
+    EXPECT_EQ(perdidos(u"EXE=/bin/aa\nEXE=/bin/aa\nEXE=/\nROM=\nROM=roms/\nROM=/\n"_s, { u"/bin"_s }),
+        QStringList());
+    EXPECT_EQ(perdidos(u"ROM=/a/1/\nROM=/b/2\nROM=/b/3\nIMG=/b/4\nIMG=/a/5\n"_s, {}),
+        QStringList({ u"2:3 /b > "_s, u"1:2 /a > "_s }));
+}
+
+TEST_F(Move, ACollectionThatWentToAnotherDiskIsTold_WithTheCommand)
+{
+    const QByteArray base = Ruta(QString()).toUtf8();
+    Cambia(u"Zembro.emu"_s, "ROM=" + base + "roms/", "ROM=" + base + "my disk/roms/");
+    Cambia(u"Zembro.emu"_s, "ROM=" + base + "dirs/", "ROM=" + base + "my disk/dirs/");
+    const QByteArray dicho = "Lines that lead to " + base
+        + "my disk, which isn't there: 2. If that went elsewhere: zembro move --old '" + base
+        + "my disk' --new NEWPLACE\n";
+    const Respuesta mueve = Zembro({ u"move"_s });
+    EXPECT_EQ(mueve.salida, dicho);
+    EXPECT_EQ(mueve.estado, companion::Hallazgos);
+    EXPECT_EQ(Json({ u"move"_s }, companion::Hallazgos)[u"lost"_s][0][u"lines"_s].toInt(), 2);
+    EXPECT_TRUE(Zembro({ u"check"_s }).salida.contains("Zembro.emu:8: " + dicho))
+        << Zembro({ u"check"_s }).salida.toStdString();
+    PonDirectorio(u"disk 2/roms"_s);
+    PonDirectorio(u"disk 2/dirs"_s);
+    EXPECT_TRUE(Zembro({ u"move"_s }).salida.endsWith("my disk' --new '" + base + "disk 2'\n"))
+        << Zembro({ u"move"_s }).salida.toStdString();
+}
+
+TEST_F(Move, CheckLeadsToItWhereTheDirectoryItselfWasMoved)
+{
+    MudaDesde("/where/it/was/");
+    EXPECT_TRUE(
+        Zembro({ u"check"_s })
+            .salida.contains("zembro move --old /where/it/was --new " + host::programDirectory().toUtf8()))
+        << Zembro({ u"check"_s }).salida.toStdString();
+}
+
+TEST_F(Move, AnEmptyNameIsToldAsEmpty)
+{
+    EXPECT_EQ(
+        Zembro({ u"move"_s, u"--old"_s, QString() }).error, "zembro: The name behind --old is empty.\n");
+    EXPECT_EQ(Zembro({ u"move"_s, u"--old"_s, u"/x"_s, u"--new"_s, QString() }).error,
+        "zembro: The name behind --new is empty.\n");
 }
