@@ -1,6 +1,7 @@
 #include "companion/impedimento.h"
 
 #include "companion/eleccion.h"
+#include "companion/partesdeprograma.h"
 
 #include "core/clasedeprograma.h"
 
@@ -15,6 +16,8 @@
 #include <QHash>
 #include <QProcess>
 #include <QtEndian>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -72,34 +75,6 @@ std::optional<Impedimento> suplidoQueFalta(const QByteArray &principio, const Pa
     return Impedimento { u"not-installed"_s, dicho };
 }
 
-// The loader that a program of 64 bits names in its table of parts; empty for one that names none.
-QString cargadorDe(const QByteArray &principio)
-{
-    constexpr qsizetype cabecera = 64;
-    constexpr qsizetype entrada = 56;
-    constexpr quint32 interprete = 3;
-    if (principio.size() < cabecera || principio[4] != 2 || principio[5] != 1)
-        return {};
-    const auto numero = [&](auto tipo, qsizetype donde) {
-        return qFromLittleEndian<decltype(tipo)>(principio.constData() + donde);
-    };
-    const quint64 tabla = numero(quint64(), 32);
-    const quint16 partes = numero(quint16(), 56);
-    for (quint16 i = 0; i < partes; ++i) {
-        const quint64 donde = tabla + quint64(i) * entrada;
-        if (tabla > quint64(Principio) || donde + entrada > quint64(principio.size()))
-            return {};
-        if (numero(quint32(), qsizetype(donde)) != interprete)
-            continue;
-        const quint64 sitio = numero(quint64(), qsizetype(donde) + 8);
-        const quint64 largo = numero(quint64(), qsizetype(donde) + 32);
-        if (sitio > quint64(principio.size()) || largo > quint64(principio.size()) - sitio || largo == 0)
-            return {};
-        return host::nameFromDisk(principio.sliced(qsizetype(sitio), qsizetype(largo) - 1));
-    }
-    return {};
-}
-
 // What our own loader, which runs nothing of the program, doesn't find for it.
 QStringList bibliotecasQueFaltan(const QString &cargador, const QString &programa)
 {
@@ -137,6 +112,40 @@ bool esDirectorio(const QString &ruta)
     return host::exists(host::withClosingSeparator(ruta));
 }
 
+// Pipes, devices and sockets.
+bool esFichero(const QString &enDisco, struct stat &estado)
+{
+    return stat(host::nameToDisk(enDisco).constData(), &estado) == 0 && S_ISREG(estado.st_mode);
+}
+
+// One that may be run but not read tells nothing.
+bool estaCortado(const QString &programa, qint64 largo)
+{
+    try {
+        return EstaCortado(host::readBytes(programa, Principio), largo);
+    } catch (const host::Failure &) {
+        return false;
+    }
+}
+
+// The program that a path names which goes on with parameters, or stands in quotes; empty where there is
+// none.
+QString programaAlPrincipio(const QString &ruta)
+{
+    const QString directorio = host::withClosingSeparator(host::programDirectory());
+    const QString valor = ruta.startsWith(directorio + u'"') ? ruta.sliced(directorio.size()) : ruta;
+    QStringList posibles = host::splitArguments(valor).mid(0, 1);
+    for (qsizetype corte = ruta.indexOf(u' '); corte > 0; corte = ruta.indexOf(u' ', corte + 1))
+        posibles.prepend(ruta.first(corte));
+    struct stat estado { };
+    for (const QString &posible : posibles) {
+        const QString enDisco = host::trueSpelling(posible);
+        if (posible != ruta && !enDisco.isEmpty() && esFichero(enDisco, estado) && seEjecuta(enDisco))
+            return enDisco;
+    }
+    return {};
+}
+
 QStringList programasEn(const QString &directorio)
 {
     try {
@@ -165,14 +174,14 @@ std::vector<Impedimento> LoQueLeFalta(const QString &programa, const Palabras &p
         const std::optional<Impedimento> suplido = suplidoQueFalta(principio, palabras);
         return suplido ? std::vector { *suplido } : std::vector<Impedimento>();
     }
-    const QString cargador = cargadorDe(principio);
+    const QString cargador = CargadorDe(principio);
     if (cargador.isEmpty()
         || core::ClasePorBytes(principio, propio, programa) != core::ClaseDePrograma::DeEstaMaquina)
         return {};
     if (!host::exists(cargador))
         return { { u"no-interpreter"_s, palabras.Zbo_SinInterp.arg(programa, cargador) } };
     std::vector<Impedimento> faltas;
-    if (cargador == cargadorDe(propio)) {
+    if (cargador == CargadorDe(propio)) {
         for (const QString &biblioteca : bibliotecasQueFaltan(cargador, programa))
             faltas.push_back({ u"no-library"_s, palabras.Zbo_SinBiblio.arg(programa, biblioteca) });
     }
@@ -181,14 +190,18 @@ std::vector<Impedimento> LoQueLeFalta(const QString &programa, const Palabras &p
 
 QString NoHayPrograma(const QString &programa, const Palabras &palabras)
 {
-    return programa.trimmed().isEmpty() ? palabras.Zbo_SinEXE : palabras.Zbo_NoHayEXE.arg(programa);
+    if (programa.trimmed().isEmpty())
+        return palabras.Zbo_SinEXE;
+    const QString principio = programaAlPrincipio(programa);
+    return principio.isEmpty() ? palabras.Zbo_NoHayEXE.arg(programa)
+                               : palabras.Zbo_EXEConPar.arg(programa, principio);
 }
 
 QString ProgramaParecido(const QString &programa)
 {
     const qsizetype corte = host::lastSeparator(programa) + 1;
     const QString nombre = programa.sliced(corte);
-    if (nombre.trimmed().isEmpty())
+    if (nombre.trimmed().isEmpty() || !programaAlPrincipio(programa).isEmpty())
         return {};
     const QString vecino = MasParecido(programasEn(programa.first(corte)), nombre);
     if (!vecino.isEmpty())
@@ -230,12 +243,17 @@ std::optional<Impedimento> ImpedimentoDe(const QString &programa, const Palabras
         return Impedimento { u"no-program"_s, NoHayPrograma(programa, palabras) };
     if (esDirectorio(programa))
         return Impedimento { u"is-directory"_s, palabras.Zbo_EsDirectorio.arg(programa) };
+    struct stat estado { };
+    if (!esFichero(enDisco, estado))
+        return Impedimento { u"is-no-file"_s, palabras.Zbo_EXENoFichero.arg(programa) };
     if (!seEjecuta(enDisco))
         return Impedimento { u"not-executable"_s, palabras.Zbo_SinPermiso.arg(programa) };
     const core::ClaseDePrograma clase = core::ClaseDe(enDisco);
     if (clase == core::ClaseDePrograma::OtraMaquina)
         return Impedimento { u"foreign-program"_s,
             palabras.Zbo_OtraMaquina.arg(programa, ProcesadorDe(host::readBytes(enDisco, Principio))) };
+    if (clase != core::ClaseDePrograma::DOS && estaCortado(enDisco, estado.st_size))
+        return Impedimento { u"cut-program"_s, palabras.Zbo_EXECortado.arg(programa) };
     const std::vector<Impedimento> faltas = LoQueLeFalta(enDisco, palabras);
     if (!faltas.empty())
         return faltas.front();

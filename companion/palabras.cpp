@@ -247,6 +247,10 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_EOFFiltro", &P::Zbo_EOFFiltro },
         { u"Zbo_LugarPerdido", &P::Zbo_LugarPerdido },
         { u"Zbo_MueveVacio", &P::Zbo_MueveVacio },
+        { u"Zbo_EXEConPar", &P::Zbo_EXEConPar },
+        { u"Zbo_EXENoFichero", &P::Zbo_EXENoFichero },
+        { u"Zbo_EXECortado", &P::Zbo_EXECortado },
+        { u"Zbo_ParComillas", &P::Zbo_ParComillas },
     };
     return claves;
 }

@@ -21,6 +21,16 @@ struct PalabrasDeAuxilio {
     QString Zbo_LugarPerdido =
         QStringLiteral("Lines that lead to %1, which isn't there: %2. If that went elsewhere: %3");
     QString Zbo_MueveVacio = QStringLiteral("The name behind %1 is empty.");
+
+    // What keeps a program from starting.
+    QString Zbo_EXEConPar =
+        QStringLiteral("There is no program %1. EXE takes the path of a program alone, without quotes and "
+                       "without parameters, which have lines of their own (PAR1, PAR2). It should be: %2");
+    QString Zbo_EXENoFichero = QStringLiteral(
+        "%1 is no file, but a pipe, a device or the like; name the program in the configuration.");
+    QString Zbo_EXECortado = QStringLiteral("The program %1 is cut or damaged; install it anew.");
+    QString Zbo_ParComillas = QStringLiteral("The double quotes of these parameters aren't closed, so all "
+                                             "behind them is one argument; close them: %1");
 };
 
 } // namespace companion

@@ -40,8 +40,10 @@ struct PalabrasDeRevision {
     QString Zbo_NoHayEXE = QStringLiteral("There is no program %1; correct its path in the configuration.");
     QString Zbo_Parecido = QStringLiteral("Perhaps this one is meant: %1");
     QString Zbo_SinPermiso = QStringLiteral("The program %1 can't be run: it lacks the right to (chmod +x).");
-    QString Zbo_OtraMaquina = QStringLiteral("The program %1 is for another processor: %2.");
-    QString Zbo_NoEsPrograma = QStringLiteral("The file %1 is no program that this machine knows.");
+    QString Zbo_OtraMaquina =
+        QStringLiteral("The program %1 is for another processor: %2; install one for this machine.");
+    QString Zbo_NoEsPrograma = QStringLiteral(
+        "The file %1 is no program that this machine knows; name another one in the configuration.");
     QString Zbo_SinROMs = QStringLiteral("The machine %1 of MAME lacks ROMs of its own: mame -verifyroms %1");
     QString Zbo_SinTipo =
         QStringLiteral("The XDI line doesn't end in a type from 0 to 3 or from 5 to 8; nothing is listed.");

@@ -151,6 +151,8 @@ void RevisorDeCatalogo::valor(QStringView clave, const QString &linea)
     if (m_clavesDelEmulador.contains(clave.toString()))
         halla(u"line-twice"_s, m_palabras.Zbo_DosLineas.arg(linea, clave, m_emulador));
     m_clavesDelEmulador.insert(clave.toString());
+    if (clave.startsWith(u"PAR") && linea.count(u'"') % 2 != 0)
+        halla(u"open-quotes"_s, m_palabras.Zbo_ParComillas.arg(linea));
     const QString ruta = linea.mid(clave.size() + 1);
     if ((clave == u"ROM" || clave == u"IMG") && ruta != host::withClosingSeparator(ruta)
         && !EsRutaDeFichero(ruta))

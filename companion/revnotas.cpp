@@ -184,6 +184,8 @@ void RevisorDeNotas::Ajenas()
 void RevisorDeNotas::parametrosDe(const QStringList &campos, size_t indice)
 {
     const QString &clave = campos[0];
+    if (campos[3].count(u'"') % 2 != 0)
+        halla(u"open-quotes"_s, m_palabras.Zbo_ParComillas.arg(campos[3]), indice);
     const auto esSuya = [&](const Pareja &pareja) {
         return host::sameName(pareja.nombreSistema, campos[1])
             && host::sameName(pareja.nombreEmulador, campos[2]);

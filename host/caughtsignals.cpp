@@ -11,7 +11,7 @@ CaughtSignals::CaughtSignals()
 {
     sigset_t caught;
     sigemptyset(&caught);
-    for (const int signal : { SIGTERM, SIGINT, SIGHUP, SIGQUIT }) {
+    for (const int signal : { SIGTERM, SIGINT, SIGHUP, SIGQUIT, SIGUSR1, SIGUSR2 }) {
         struct sigaction action { };
         if (sigaction(signal, nullptr, &action) == 0 && action.sa_handler != SIG_IGN)
             sigaddset(&caught, signal);

@@ -10,7 +10,8 @@
 
 namespace host {
 
-// While it stands TERM, INT, HUP and QUIT don't end the program, but for those that it was started to ignore.
+// While it stands TERM, INT, HUP, QUIT, USR1 and USR2 don't end the program, but for those that it was
+// started to ignore.
 // At the end one that nobody took acts as it always does. For the thread that started the others.
 class CaughtSignals {
 public:

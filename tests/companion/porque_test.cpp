@@ -179,7 +179,7 @@ TEST_F(Play, ASignalIsHandedOn_AndWhatWasUnpackedIsRemoved)
     PonGuion(u"emu/uno.sh"_s,
         "echo \"$2\" >\"$0.file\"\nsh -c 'echo $$ >\"$0\"; exec sleep 60' \"$0.pid\"\nexit 3\n");
     Cambia(u"Zembro.emu"_s, "*.NES", "*.ZIP\r\n*.NES");
-    for (const int senal : { SIGTERM, SIGINT, SIGHUP }) {
+    for (const int senal : { SIGTERM, SIGINT, SIGHUP, SIGQUIT, SIGUSR1, SIGUSR2 }) {
         QFile::remove(Ruta(u"emu/uno.sh.pid"_s));
         QProcess proceso;
         QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();

@@ -80,6 +80,59 @@ TEST_F(CheckPair, ADirectoryIsNoProgram)
     EXPECT_THAT(clases(SisUno), ElementsAre(u"is-directory"_s));
 }
 
+TEST_F(CheckPair, APipeIsNoProgram)
+{
+    Borra(u"emu/uno.sh"_s);
+    ASSERT_EQ(mkfifo(Ruta(u"emu/uno.sh"_s).toUtf8().constData(), 0700), 0);
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"is-no-file"_s));
+    EXPECT_TRUE(
+        Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"mario"_s }).error.contains("uno.sh is no file, but a pipe"))
+        << Zembro({ u"play"_s, u"Sis"_s, u"Uno"_s, u"mario"_s }).error.toStdString();
+    Cambia(u"Zembro.emu"_s, Ruta(u"emu/uno.sh"_s).toUtf8() + "\r\nXDI=NO.0", "/dev/null\r\nXDI=NO.0");
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"is-no-file"_s));
+}
+
+TEST_F(CheckPair, AProgramThatIsCutIsSaid)
+{
+    QFile propio(QStringLiteral(ZEMBRO));
+    ASSERT_TRUE(propio.open(QIODevice::ReadOnly));
+    const QByteArray entero = propio.readAll();
+    for (const qsizetype largo :
+        { qsizetype(5), qsizetype(18), qsizetype(64), qsizetype(4096), entero.size() / 3 }) {
+        PonPrograma(entero.first(largo));
+        EXPECT_THAT(clases(SisUno), ElementsAre(u"cut-program"_s)) << largo;
+    }
+    EXPECT_TRUE(dicho().contains("uno.sh is cut or damaged; install it anew.\n")) << dicho().toStdString();
+    PonPrograma(entero);
+    EXPECT_THAT(clases(SisUno), IsEmpty());
+}
+
+TEST_F(CheckPair, ParametersInTheLineOfTheProgramAreSaid)
+{
+    const QByteArray exe = Ruta(u"emu/uno.sh"_s).toUtf8();
+    for (const QByteArray &linea : { exe + " -full screen", '"' + exe + '"', '"' + exe + "\" -x" }) {
+        Cambia(u"Zembro.emu"_s, "EXE=" + exe + "\r\nXDI=NO.0", "EXE=" + linea + "\r\nXDI=NO.0");
+        EXPECT_THAT(clases(SisUno), ElementsAre(u"no-program"_s)) << linea.toStdString();
+        EXPECT_TRUE(dicho().contains("EXE takes the path of a program alone, without quotes and without "
+                                     "parameters, which have lines of their own (PAR1, PAR2). It should be: "
+            + exe + '\n'))
+            << dicho().toStdString();
+        Cambia(u"Zembro.emu"_s, "EXE=" + linea + "\r\nXDI=NO.0", "EXE=" + exe + "\r\nXDI=NO.0");
+    }
+    PonGuion(u"emu/with blank"_s, "exit 0\n");
+    Cambia(u"Zembro.emu"_s, "uno.sh\r\nXDI=NO.0", "with blank\r\nXDI=NO.0");
+    EXPECT_THAT(clases(SisUno), IsEmpty());
+}
+
+TEST_F(CheckPair, QuotesThatParametersDontCloseAreSaid)
+{
+    Cambia(u"Zembro.emu"_s, "PAR1=-a", "PAR1=-a \"b c");
+    Cambia(u"Zembro.rom"_s, "-fast", "-f \"ast");
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"open-quotes"_s, u"open-quotes"_s));
+    Cambia(u"Zembro.emu"_s, "PAR1=-a \"b c", "PAR1=-a \"b c\"");
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"open-quotes"_s));
+}
+
 TEST_F(CheckPair, ALibraryThatIsMissingIsSaid_AlsoByCommand)
 {
     // A program of ours whose library is called otherwise.
@@ -135,13 +188,15 @@ TEST_F(CheckPair, AProgramForAnotherProcessorIsSaid_WithWhich)
     PonPrograma(bytes);
     EXPECT_THAT(clases(SisUno), ElementsAre(u"foreign-program"_s));
     const QByteArray texto = "The program " + Ruta(u"emu/uno.sh"_s).toUtf8() + " is for another processor: ";
-    EXPECT_TRUE(dicho().contains("Zembro.emu:6: Sis / Uno: " + texto + "MIPS.\n")) << dicho().toStdString();
+    EXPECT_TRUE(
+        dicho().contains("Zembro.emu:6: Sis / Uno: " + texto + "MIPS; install one for this machine.\n"))
+        << dicho().toStdString();
     const QJsonObject dicha = Json({ u"command"_s, u"Sis"_s, u"Uno"_s, u"mario"_s }, companion::Hallazgos);
-    EXPECT_EQ(dicha[u"problem"_s].toString().toUtf8(), texto + "MIPS.");
+    EXPECT_EQ(dicha[u"problem"_s].toString().toUtf8(), texto + "MIPS; install one for this machine.");
     bytes[18] = '\x34';
     bytes[19] = '\x12';
     PonPrograma(bytes);
-    EXPECT_TRUE(dicho().contains(texto + "ELF 4660.\n")) << dicho().toStdString();
+    EXPECT_TRUE(dicho().contains(texto + "ELF 4660; install one for this machine.\n")) << dicho().toStdString();
 }
 
 TEST_F(CheckPair, AMistypedProgramIsLookedForInThePathToo)
