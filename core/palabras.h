@@ -69,6 +69,12 @@ struct Palabras {
     QString Zem_NoWindows0 = QStringLiteral("Windows no lo admite");
     QString Zem_NombreWin = QStringLiteral("Windows no abre un archivo de este nombre: cámbialo.");
     QString Zem_SignoDOS = QStringLiteral("Los parámetros tienen un signo que DOS no admite.");
+    QString Zem_SinUnidad = QStringLiteral("Falta la unidad %1:");
+
+    // What a game saved and that couldn't go to its place: %1 is that, %2 where it lies.
+    QString Zem_NoVuelve0 = QStringLiteral("Partida guardada aparte");
+    QString Zem_NoVuelve1 = QStringLiteral(
+        "Lo que guardó el juego no se pudo llevar a %1. Está en %2, y el programa lo intentará otra vez.");
 
     // Names of controls that show no word, as screen readers say them.
     QString Zem_Lista1 = QStringLiteral("Juegos");

@@ -3,6 +3,7 @@
 #include "core/catalogo.h"
 #include "core/modulo.h"
 
+#include "host/drives.h"
 #include "host/paths.h"
 
 using namespace Qt::StringLiterals;
@@ -63,6 +64,16 @@ QString ValorDeRuta(const QString &ruta, const QString &directorio)
     const QString valor = ruta.sliced(directorio.size() + 1);
     // A name that looks like a drive, or begins with a separator, would be read as another place.
     return EsRutaRelativa(valor) ? valor : ruta;
+}
+
+QChar UnidadQueFalta(const QString &ruta)
+{
+    const QChar letra = host::driveLetter(ruta);
+    const bool soloLetra = ruta.size() > 2 && !esSeparador(ruta[2]); // "a:b" is a name
+    if (letra.isNull() || soloLetra)
+        return {};
+    const host::Drive *unidad = host::driveNamed(letra);
+    return unidad && host::exists(unidad->place) ? QChar() : letra;
 }
 
 } // namespace core

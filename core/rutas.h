@@ -25,4 +25,8 @@ QString RutaExigida(const QString &linea);
 QString ValorDeRuta(const QString &ruta);
 QString ValorDeRuta(const QString &ruta, const QString &directorio);
 
+// The letter of the drive that a path begins with, where there is no such drive or its place is missing; null
+// for any other path.
+QChar UnidadQueFalta(const QString &ruta);
+
 } // namespace core

@@ -4,8 +4,10 @@
 #include "host/failure.h"
 #include "host/paths.h"
 
+#include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -217,6 +219,23 @@ QString findInPath(const QString &name)
             return nameFromDisk(place);
     }
     return {};
+}
+
+bool isNamedByAProcess(const QByteArrayList &texts)
+{
+    const QString all = QStringLiteral("/proc");
+    for (const QString &number : QDir(all).entryList(QDir::Dirs)) {
+        const QString process = all + QLatin1Char('/') + number;
+        struct stat status { };
+        if (number.toInt() <= 0 || number.toInt() == getpid()
+            || stat(process.toLatin1().constData(), &status) != 0 || status.st_uid != geteuid())
+            continue;
+        QFile file(process + QStringLiteral("/cmdline"));
+        const QByteArray arguments = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        if (std::ranges::any_of(texts, [&](const QByteArray &text) { return arguments.contains(text); }))
+            return true;
+    }
+    return false;
 }
 
 Process::Process(pid_t id)

@@ -4,6 +4,7 @@
 #include "host/descriptor.h"
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QString>
 #include <QStringList>
 
@@ -51,6 +52,10 @@ QString findProgram(const QString &name);
 
 // The path of a program of this name in PATH; empty if there is none that may be run.
 QString findInPath(const QString &name);
+
+// Whether a running process of this user's has one of these texts among its arguments. This one doesn't
+// count.
+bool isNamedByAProcess(const QByteArrayList &texts);
 
 // A child process: running, or ended, however it ended. Going out of scope leaves it running, and its end
 // leaves no zombie then either.

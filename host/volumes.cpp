@@ -12,6 +12,8 @@
 #include <vector>
 
 #include <sys/stat.h>
+#include <sys/statfs.h>
+#include <sys/statvfs.h>
 
 using namespace Qt::StringLiterals;
 
@@ -140,6 +142,20 @@ bool isVolumeReady(const QString &volume)
     if (!driveLetter(volume).isNull())
         return exists(volume + u'/');
     return isVolumeReadyIn(contentOf(MountsFile), QDir::homePath(), volume);
+}
+
+bool isCompactDisc(long fileSystem, bool readOnly)
+{
+    constexpr long Iso9660 = 0x9660;
+    constexpr long Udf = 0x15013346; // of disks that can be written too
+    return fileSystem == Iso9660 || (fileSystem == Udf && readOnly);
+}
+
+bool isOnCompactDisc(const QByteArray &path)
+{
+    struct statfs status { };
+    return statfs(path.constData(), &status) == 0
+        && isCompactDisc(status.f_type, (status.f_flags & ST_RDONLY) != 0);
 }
 
 QString volumeOf(const QStringList &volumes, const QString &path)

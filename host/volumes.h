@@ -22,6 +22,12 @@ QStringList volumesIn(const QByteArray &mounts, const QByteArray &table, const Q
 bool isVolumeReady(const QString &volume);
 bool isVolumeReadyIn(const QByteArray &mounts, const QString &home, const QString &volume);
 
+// Whether it lies on a compact disc, or on a picture of one that is mounted; a place where nobody can write
+// is none yet.
+bool isOnCompactDisc(const QByteArray &path);
+// The same by what statfs tells: the file system's magic number, and whether nothing can be written there.
+bool isCompactDisc(long fileSystem, bool readOnly);
+
 // The volume that the path belongs to: the longest of them that it lies in or is. Empty if there is none.
 QString volumeOf(const QStringList &volumes, const QString &path);
 

@@ -4,9 +4,7 @@
 
 #include "host/encoding.h"
 #include "host/letters.h"
-#include "host/numberedfiles.h"
 #include "host/paths.h"
-#include "host/replacement.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -23,75 +21,78 @@ QByteArray sinTerminacion(const QByteArray &nombre)
     return nombre.first(punto < 0 ? nombre.size() : punto);
 }
 
-// False where none can be made: it is missed by DOS alone.
-bool enlaza(const QByteArray &fichero, const QByteArray &enlace)
-{
-    return symlink(fichero.constData(), enlace.constData()) == 0;
-}
+// The directory of one drive, and its twin with the links alone: what the game was shown is known by that
+// also after it has deleted or replaced some of them.
+class Unidad {
+public:
+    Unidad(const QString &corrida, char letra)
+        : m_lugar(host::nameToDisk(corrida) + '/' + UnidadDeCorrida + letra)
+        , m_enlaces(host::nameToDisk(corrida) + '/' + MostradoEnCorrida + letra)
+        , m_hecha(mkdir(m_enlaces.constData(), 0700) == 0 && mkdir(m_lugar.constData(), 0700) == 0)
+    {
+    }
+
+    const QByteArray &Lugar() const { return m_lugar; }
+    bool Hecha() const { return m_hecha; }
+
+    // False where none can be made, or something has that name.
+    bool Ensena(const QByteArray &fichero, const QByteArray &nombre) const
+    {
+        return symlink(fichero.constData(), (m_enlaces + '/' + nombre).constData()) == 0
+            && symlink(fichero.constData(), (m_lugar + '/' + nombre).constData()) == 0;
+    }
+    void EnsenaLoGuardado(const QByteArray &casa, const QByteArray &apodo) const
+    {
+        const QString base = host::nameFromDisk(sinTerminacion(apodo));
+        Intenta([&] {
+            for (const QString &nombre : host::listFiles(host::nameFromDisk(casa))) {
+                const QByteArray bytes = host::nameToDisk(nombre);
+                if (host::sameName(host::nameFromDisk(sinTerminacion(bytes)), base))
+                    Ensena(casa + '/' + bytes, bytes.toUpper());
+            }
+            for (const QString &nombre : host::listDirectories(host::nameFromDisk(casa)))
+                Ensena(casa + '/' + host::nameToDisk(nombre), host::nameToDisk(nombre));
+        });
+    }
+    // Of the same game.
+    void Hereda(const Pendiente &pendiente, const QByteArray &casa, const QByteArray &apodo) const
+    {
+        const QByteArray deEntonces = host::nameToDisk(pendiente.lugar);
+        QByteArray enlaces = deEntonces;
+        const qsizetype corte = deEntonces.lastIndexOf('/') + 1;
+        enlaces.replace(corte, qstrlen(UnidadDeCorrida), MostradoEnCorrida);
+        struct stat estado;
+        if (pendiente.destino != host::nameFromDisk(casa)
+            || lstat((enlaces + '/' + apodo).constData(), &estado) != 0)
+            return;
+        Intenta([&] {
+            for (const QByteArray &nombre : host::listInDiskOrder(pendiente.lugar)) {
+                const QByteArray aqui = m_lugar + '/' + nombre;
+                if (lstat(aqui.constData(), &estado) != 0)
+                    rename((deEntonces + '/' + nombre).constData(), aqui.constData());
+            }
+        });
+    }
+
+private:
+    QByteArray m_lugar;
+    QByteArray m_enlaces;
+    bool m_hecha;
+};
 
 } // namespace
 
-CarpetaDeApodos::CarpetaDeApodos(const QByteArray &dentroDe, const UnidadesDOS::Montaje &montaje)
-    : m_lugar(dentroDe + "/files-" + montaje.letra)
-    , m_original(montaje.lugar)
+QByteArray HazCarpetaDeApodos(const CarpetaDeCorrida &corrida, const UnidadesDOS::Montaje &montaje)
 {
-    mkdir(m_lugar.constData(), 0700);
+    const Unidad unidad(corrida.Ruta(), montaje.letra);
+    bool bien = unidad.Hecha();
     for (const UnidadesDOS::Apodo &apodo : montaje.apodos) {
-        enlaza(m_original + '/' + apodo.fichero, m_lugar + '/' + apodo.nombre);
-        enlazaLoGuardado(apodo);
+        bien = bien && unidad.Ensena(montaje.lugar + '/' + apodo.fichero, apodo.nombre);
+        unidad.EnsenaLoGuardado(montaje.lugar, apodo.nombre);
+        for (const Pendiente &pendiente : corrida.DeAntes())
+            unidad.Hereda(pendiente, montaje.lugar, apodo.nombre);
     }
-}
-
-void CarpetaDeApodos::enlazaLoGuardado(const UnidadesDOS::Apodo &apodo)
-{
-    const QString base = QString::fromLatin1(sinTerminacion(apodo.nombre));
-    Intenta([&] {
-        for (const QString &nombre : host::listFiles(host::nameFromDisk(m_original))) {
-            const QByteArray bytes = host::nameToDisk(nombre);
-            if (host::sameName(QString::fromLatin1(sinTerminacion(bytes)), base)
-                && enlaza(m_original + '/' + bytes, m_lugar + '/' + bytes.toUpper()))
-                m_mostrados.insert(bytes.toUpper());
-        }
-    });
-}
-
-// The program can't have meant a file that it never saw.
-QString CarpetaDeApodos::destinoDe(const QString &nombre) const
-{
-    const QString directorio = host::nameFromDisk(m_original) + u'/';
-    if (m_mostrados.contains(host::nameToDisk(nombre).toUpper()) || !host::exists(directorio + nombre))
-        return directorio + nombre;
-    const qsizetype punto = nombre.indexOf(u'.');
-    const qsizetype fin = punto < 0 ? nombre.size() : punto;
-    QString otro;
-    for (int numero = 2; otro.isEmpty() || host::exists(directorio + otro); ++numero)
-        otro = nombre.first(fin) + u'-' + QString::number(numero) + nombre.sliced(fin);
-    return directorio + otro;
-}
-
-CarpetaDeApodos::~CarpetaDeApodos()
-{
-    const QString lugar = host::nameFromDisk(m_lugar);
-    Intenta([&] {
-        for (const QString &nombre : host::listPlainFiles(lugar)) {
-            const QString guardado = lugar + u'/' + nombre;
-            const bool llevado = Intenta([&] {
-                host::Replacement fichero(destinoDe(nombre), u"Zembro.tmp"_s);
-                fichero.read();
-                fichero.write(host::readBytes(guardado));
-                fichero.commit();
-            });
-            if (llevado)
-                unlink(host::nameToDisk(guardado).constData());
-        }
-        for (const QByteArray &nombre : host::listInDiskOrder(lugar)) {
-            struct stat estado;
-            const QByteArray ruta = m_lugar + '/' + nombre;
-            if (lstat(ruta.constData(), &estado) == 0 && S_ISLNK(estado.st_mode))
-                unlink(ruta.constData());
-        }
-    });
-    rmdir(m_lugar.constData());
+    return bien ? unidad.Lugar() : QByteArray();
 }
 
 } // namespace launch

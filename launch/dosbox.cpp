@@ -1,5 +1,7 @@
 #include "launch/dosbox.h"
 
+#include "launch/apodos.h"
+
 #include "host/encoding.h"
 
 #include <algorithm>
@@ -28,7 +30,7 @@ std::vector<bool> comoCD(const std::vector<UnidadesDOS::Montaje> &montajes)
     std::vector<bool> cd;
     char siguiente = 0;
     for (const UnidadesDOS::Montaje &montaje : montajes) {
-        cd.push_back(montaje.soloLectura && (siguiente == 0 || montaje.letra == siguiente));
+        cd.push_back(montaje.esCD && (siguiente == 0 || montaje.letra == siguiente));
         if (cd.back())
             siguiente = static_cast<char>(montaje.letra + 1);
     }
@@ -70,9 +72,13 @@ QByteArray ConfiguracionDOS(const Encargo &encargo)
     return texto;
 }
 
-QStringList ArgumentosDeDOSBox(const Encargo &encargo)
+QStringList ArgumentosDeDOSBox(Encargo encargo)
 {
     QStringList argumentos = encargo.argumentos;
+    for (UnidadesDOS::Montaje &montaje : encargo.montajes) {
+        if (!montaje.apodos.empty())
+            montaje.lugar = LugarPrevisto(montaje.letra);
+    }
     for (const QByteArray &linea : lineas(encargo))
         argumentos += { u"-c"_s, host::nameFromDisk(linea) };
     return argumentos;
@@ -95,8 +101,9 @@ bool CarpetaDOS::enlaza(std::vector<UnidadesDOS::Montaje> &montajes)
     const QByteArray lugar = host::nameToDisk(m_carpeta.Ruta());
     for (UnidadesDOS::Montaje &montaje : montajes) {
         if (!montaje.apodos.empty()) {
-            m_apodos.push_back(std::make_unique<CarpetaDeApodos>(lugar, montaje));
-            montaje.lugar = m_apodos.back()->Lugar();
+            montaje.lugar = HazCarpetaDeApodos(m_carpeta, montaje);
+            if (montaje.lugar.isEmpty())
+                return false;
         }
         if (seDiceEnLaConfiguracion(montaje.lugar))
             continue;

@@ -1,14 +1,12 @@
 // A run in DOSBox: the configuration that is written for it.
 #pragma once
 
-#include "launch/apodos.h"
 #include "launch/carpetadecorrida.h"
 #include "launch/encargo.h"
 
 #include <QByteArray>
 #include <QStringList>
 
-#include <memory>
 #include <vector>
 
 namespace launch {
@@ -17,8 +15,9 @@ namespace launch {
 // The places are said as they are; none of them may hold a double quote or a control character.
 QByteArray ConfiguracionDOS(const Encargo &encargo);
 
-// What starts the same run without a file. Places that can't be said there are said as they are.
-QStringList ArgumentosDeDOSBox(const Encargo &encargo);
+// What starts the same run without a file. Places that can't be said there are said as they are; drives that
+// show files under other names are made with a run alone.
+QStringList ArgumentosDeDOSBox(Encargo encargo);
 
 // The files of one run; they go with it.
 class CarpetaDOS {
@@ -28,11 +27,13 @@ public:
     // What is to be started; empty if the files couldn't be written.
     const QStringList &Argumentos() const { return m_argumentos; }
 
+    // At the end of the game.
+    Rescate Recoge() { return m_carpeta.Recoge(); }
+
 private:
     bool enlaza(std::vector<UnidadesDOS::Montaje> &montajes);
 
     CarpetaDeCorrida m_carpeta;
-    std::vector<std::unique_ptr<CarpetaDeApodos>> m_apodos;
     QStringList m_argumentos;
 };
 

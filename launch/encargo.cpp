@@ -1,11 +1,14 @@
 #include "launch/encargo.h"
 
 #include "launch/codigo437.h"
+#include "launch/nombresdos.h"
+#include "launch/rescate.h"
 #include "launch/wine.h"
 
 #include "core/clasedeprograma.h"
 
 #include "host/encoding.h"
+#include "host/letters.h"
 #include "host/paths.h"
 #include "host/process.h"
 
@@ -64,7 +67,9 @@ public:
         const QString &texto = pieza.ruta ? pieza.enDisco : pieza.texto;
         const std::optional<QByteArray> dicho =
             absoluta ? m_unidades.RutaOApodo(pieza.enDisco) : EnCodigo437(texto);
-        if (!dicho || (!absoluta && obedeceElInterprete(texto)))
+        const bool soloNombre = pieza.ruta && !absoluta && !texto.isEmpty();
+        if (!dicho || (!absoluta && obedeceElInterprete(texto))
+            || (soloNombre && !SeAbreEnDOS(host::nameToDisk(host::upper(texto)))))
             return traba(pieza.ruta ? Traba::Nombre : Traba::Signo, pieza.ruta ? nombreDe(texto) : texto);
         encargo.colaDOS += *dicho;
         if (!pieza.ruta)
@@ -121,7 +126,13 @@ Encargo paraWindows(const LineaDeOrden &orden, const QString &programa)
     encargo.orden = orden;
     encargo.programa = programa;
     encargo.apodos = ApodosDeWindows(orden);
-    encargo.argumentos = ArgumentosDeWine(encargo, [](const QString &enDisco) { return enDisco; });
+    encargo.argumentos = ArgumentosDeWine(encargo, [&encargo](const QString &enDisco) {
+        for (const UnidadesDOS::Montaje &montaje : encargo.apodos) {
+            if (host::nameFromDisk(montaje.lugar + '/' + montaje.apodos[0].fichero) == enDisco)
+                return host::nameFromDisk(LugarPrevisto(montaje.letra) + '/' + montaje.apodos[0].nombre);
+        }
+        return enDisco;
+    });
     return encargo;
 }
 

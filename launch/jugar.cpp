@@ -10,6 +10,7 @@
 #include "launch/dosbox.h"
 #include "launch/encargo.h"
 #include "launch/intenta.h"
+#include "launch/nombresdos.h"
 #include "launch/obras.h"
 #include "launch/piezas.h"
 #include "launch/vbunzbas.h"
@@ -57,6 +58,9 @@ private:
     void BuscaPorFichero(const Busqueda &busqueda);
     QString EXE() const { return LeeRuta(M.Cat_EXE); }
     void MiraSiEsDeDOS();
+    bool QuiereLaRuta() const { return host::upper(m_pantalla.TextoCombo2()) == u"NEORAGE"; }
+    // Where it gets the name alone, it looks for that in a place of its own.
+    bool ConApodos() const { return m_seleccion.tipo != 1 && (m_seleccion.tipo != 3 || QuiereLaRuta()); }
     void ReunePiezasDelEmulador();
     void LeeParRom(const QString &clave);
 
@@ -68,6 +72,7 @@ private:
     };
     FicheroDelZip BuscaEnElZip(const QString &carpeta);
     void Tipo2();
+    QString CarpetaEnDOS(QString &nombre) const;
     void Tipo3();
 
     QString LeeCatalogo(const Tabla &tabla, int prefijo) const;
@@ -122,7 +127,7 @@ void Lanzamiento::ConROM(const QString &entrada)
 
 void Lanzamiento::BuscaPorNota(const Busqueda &busqueda)
 {
-    m_piezas.RomCorto = RomCortoDe(m_piezas.RomDir, busqueda.nombre, m_dos);
+    m_piezas.RomCorto = RomCortoDe(m_piezas.RomDir, busqueda.nombre, m_dos, ConApodos());
     if (m_seleccion.tipo == 2 || m_seleccion.tipo == 3)
         m_piezas.RomCorto.texto.truncate(host::startOfLast(m_piezas.RomCorto.texto, 4));
     M.Nota_Clave(busqueda.nota) = host::lower(busqueda.clave);
@@ -133,7 +138,7 @@ void Lanzamiento::BuscaPorNota(const Busqueda &busqueda)
 // On this route the parameters are kept under the short name.
 void Lanzamiento::BuscaPorFichero(const Busqueda &busqueda)
 {
-    m_piezas.RomCorto = RomCortoDe(m_piezas.RomDir, busqueda.nombre, m_dos);
+    m_piezas.RomCorto = RomCortoDe(m_piezas.RomDir, busqueda.nombre, m_dos, ConApodos());
     m_piezas.RomBase = RomBaseDe(m_piezas.RomCorto.texto);
     ReunePiezasDelEmulador();
     LeeParRom(m_piezas.RomCorto.texto);
@@ -206,21 +211,36 @@ Lanzamiento::FicheroDelZip Lanzamiento::BuscaEnElZip(const QString &carpeta)
 
 void Lanzamiento::Tipo2()
 {
-    const QString Carpeta = m_via == Via::Nota ? m_piezas.RomCorto.texto : m_piezas.RomBase;
+    const Ruta archivo = ArchivoZipDe(m_via, m_piezas);
+    QString &nombre = m_via == Via::Nota ? m_piezas.RomCorto.texto : m_piezas.RomBase;
+    const QString Carpeta = m_dos ? CarpetaEnDOS(nombre) : nombre;
     const QString ruta = m_obras.AbreCarpeta(m_piezas.programa.ExeDir.enDisco, Carpeta);
     Desempaquetado miembros;
     if (!ruta.isEmpty())
-        miembros = Desempaqueta(ArchivoZipDe(m_via, m_piezas), ruta);
+        miembros = Desempaqueta(archivo, ruta);
     if (miembros.nadaLegible)
         AvisaDeIlegible();
     Corre(Caso::Comprimido);
     m_obras.LimpiaCarpeta(miembros.ficheros);
 }
 
+// The name was short among the archives: beside the emulator it may be something else's. DOS gets the one
+// that it is known by there; yields the disk's.
+QString Lanzamiento::CarpetaEnDOS(QString &nombre) const
+{
+    const QByteArray corto = host::nameToDisk(host::upper(nombre));
+    if (!SeAbreEnDOS(corto))
+        return nombre;
+    QByteArrayList entradas;
+    Intenta([&] { entradas = host::listInDiskOrder(m_piezas.programa.ExeDir.enDisco); });
+    const NombreNuevo nuevo = NombreNuevoEnDOS(entradas, corto);
+    nombre = host::lower(host::nameFromDisk(nuevo.enDOS));
+    return host::nameFromDisk(nuevo.enDisco);
+}
+
 void Lanzamiento::Tipo3()
 {
-    const bool rutaEntera = host::upper(m_pantalla.TextoCombo2()) == u"NEORAGE";
-    Corre(rutaEntera ? Caso::NeoRage : Caso::AutoComprimido);
+    Corre(QuiereLaRuta() ? Caso::NeoRage : Caso::AutoComprimido);
 }
 
 // A row that the tables don't have leaves the piece empty.
@@ -340,6 +360,7 @@ public:
 
 private:
     void Corre(const QStringList &argumentos);
+    template <typename Carpeta> void CorreEn(Carpeta &&carpeta);
 
     core::Modulo &M;
     Pantalla &m_pantalla;
@@ -352,6 +373,9 @@ void ObrasDeVerdad::Arranca(const LineaDeOrden &orden, const QString &exe)
     const Encargo encargo = EncargoDe(orden);
     if (encargo.argumentos.isEmpty()) {
         m_cronica.Fallo(SinEjecutable + exe);
+        const QChar unidad = core::UnidadQueFalta(exe);
+        if (!unidad.isNull())
+            Intenta([&] { m_pantalla.Aviso(M.Palabras.Zem_Discos, M.Palabras.Zem_SinUnidad.arg(unidad)); });
         return;
     }
     if (encargo.traba != Traba::Ninguna) {
@@ -360,14 +384,22 @@ void ObrasDeVerdad::Arranca(const LineaDeOrden &orden, const QString &exe)
         return;
     }
     if (encargo.corredor == Corredor::Wine)
-        return Corre(CarpetaDeWine(encargo).Argumentos());
-    if (encargo.corredor != Corredor::DOSBox)
-        return Corre(encargo.argumentos);
-    const CarpetaDOS carpeta(encargo);
-    if (carpeta.Argumentos().isEmpty())
-        m_cronica.Fallo(u"Failed to write a configuration for DOSBox"_s);
+        CorreEn(CarpetaDeWine(encargo));
+    else if (encargo.corredor == Corredor::DOSBox)
+        CorreEn(CarpetaDOS(encargo));
     else
-        Corre(carpeta.Argumentos());
+        Corre(encargo.argumentos);
+}
+
+template <typename Carpeta> void ObrasDeVerdad::CorreEn(Carpeta &&carpeta)
+{
+    if (carpeta.Argumentos().isEmpty()) {
+        m_cronica.Fallo(u"Failed to write the files of a run into the temporary directory"_s);
+        return;
+    }
+    Corre(carpeta.Argumentos());
+    for (const Pendiente &pendiente : carpeta.Recoge().pendientes)
+        DiPendiente(pendiente, M.Palabras);
 }
 
 void ObrasDeVerdad::Corre(const QStringList &argumentos)

@@ -119,6 +119,23 @@ QByteArrayList NombresDOS(const QByteArrayList &entradas)
     return nombres;
 }
 
+NombreNuevo NombreNuevoEnDOS(const QByteArrayList &entradas, const QByteArray &nombre)
+{
+    const QByteArrayList dados = NombresDOS(entradas);
+    for (qsizetype i = 0; i < entradas.size(); ++i) {
+        if (entradas[i].toUpper() == nombre)
+            return { entradas[i], dados[i] };
+    }
+    QByteArray probado = nombre;
+    const qsizetype signo = nombre.indexOf('~');
+    const QByteArray base = signo < 0 ? nombre : nombre.first(signo);
+    for (int numero = 2; dados.contains(probado); ++numero) {
+        const QByteArray marca = '~' + QByteArray::number(numero);
+        probado = base.first(std::min(base.size(), LargoDelNombre - marca.size())) + marca;
+    }
+    return { probado.toLower(), probado };
+}
+
 bool SeAbreEnDOS(const QByteArray &nombre)
 {
     const qsizetype punto = nombre.indexOf('.');

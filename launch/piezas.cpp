@@ -1,6 +1,12 @@
 #include "launch/piezas.h"
 
+#include "launch/intenta.h"
+#include "launch/nombresdos.h"
+
+#include "core/clasedeprograma.h"
+
 #include "host/drives.h"
+#include "host/encoding.h"
 #include "host/letters.h"
 #include "host/paths.h"
 
@@ -10,14 +16,16 @@ namespace launch {
 
 namespace {
 
-Ruta rutaCorta(const QString &ruta, UnidadesDOS *dos)
+Ruta rutaCorta(const QString &ruta, UnidadesDOS *dos, bool conApodos = true)
 {
     const QString corta = host::GetShortPathNameA(ruta);
     if (corta.isEmpty())
         return {};
     const QString escrita = host::trueSpelling(ruta);
     const QString enDisco = escrita.startsWith(u'/') ? escrita : host::currentDirectory() + u'/' + escrita;
-    const std::optional<QByteArray> enDOS = dos ? dos->RutaOApodo(enDisco) : std::nullopt;
+    std::optional<QByteArray> enDOS;
+    if (dos)
+        enDOS = conApodos ? dos->RutaOApodo(enDisco) : dos->Ruta(enDisco);
     return { host::lower(enDOS ? QString::fromLatin1(*enDOS) : corta), enDisco };
 }
 
@@ -136,9 +144,33 @@ Ruta RomDirDe(const QString &rom, UnidadesDOS *dos)
     return rutaCorta(rom, dos);
 }
 
-Ruta RomCortoDe(const Ruta &RomDir, const QString &nombre, UnidadesDOS *dos)
+Ruta RomCortoDe(const Ruta &RomDir, const QString &nombre, UnidadesDOS *dos, bool conApodos)
 {
-    return nombreDe(rutaCorta(RomDir.enDisco + host::lower(nombre), dos));
+    return nombreDe(rutaCorta(RomDir.enDisco + host::lower(nombre), dos, conApodos));
+}
+
+QString ClaveEnDOS(const QString &exe, const QString &rom, const QString &nombre)
+{
+    if (core::ClaseDe(exe) != core::ClaseDePrograma::DOS)
+        return {};
+    UnidadesDOS dos;
+    return host::upper(RomCortoDe(RomDirDe(rom, &dos), nombre, &dos).texto);
+}
+
+// At once: one by one each asks for the whole directory.
+QSet<QString> ClavesEnDOS(const QString &exe, const QString &rom)
+{
+    QSet<QString> claves;
+    const QString lugar = host::trueSpelling(rom);
+    if (lugar.isEmpty() || core::ClaseDe(exe) != core::ClaseDePrograma::DOS)
+        return claves;
+    QByteArrayList entradas;
+    Intenta([&] { entradas = host::listInDiskOrder(lugar); });
+    const QByteArrayList nombres = NombresDOS(entradas);
+    for (qsizetype i = 0; i < entradas.size(); ++i)
+        claves.insert(SeAbreEnDOS(nombres[i]) ? host::nameFromDisk(nombres[i])
+                                              : ClaveEnDOS(exe, rom, host::nameFromDisk(entradas[i])));
+    return claves;
 }
 
 QString RomBaseDe(const QString &RomCorto)

@@ -5,6 +5,7 @@
 #include "launch/lineadeorden.h"
 #include "launch/unidadesdos.h"
 
+#include <QSet>
 #include <QString>
 
 namespace launch {
@@ -36,7 +37,16 @@ Ruta RomDirDe(const QString &rom, UnidadesDOS *dos = nullptr);
 
 // The short name of a file of the ROM directory, which is looked for in lower case; empty if there is no such
 // file.
-Ruta RomCortoDe(const Ruta &RomDir, const QString &nombre, UnidadesDOS *dos = nullptr);
+// With drives of DOS the name that DOS knows it by; where it knows none, one of a drive of its own making,
+// unless that is of no use.
+Ruta RomCortoDe(const Ruta &RomDir, const QString &nombre, UnidadesDOS *dos = nullptr, bool conApodos = true);
+
+// The name in capitals that a launch looks a game's parameters up by where it has no description and its
+// emulator is a program for DOS; empty where it is none, or there is no such file.
+QString ClaveEnDOS(const QString &exe, const QString &rom, const QString &nombre);
+
+// All such names of a directory of games.
+QSet<QString> ClavesEnDOS(const QString &exe, const QString &rom);
 
 // The name up to its first point; a name without a point gives nothing.
 QString RomBaseDe(const QString &RomCorto);

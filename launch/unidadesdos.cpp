@@ -5,10 +5,9 @@
 
 #include "host/encoding.h"
 #include "host/paths.h"
+#include "host/volumes.h"
 
 #include <algorithm>
-
-#include <unistd.h>
 
 namespace launch {
 
@@ -206,8 +205,8 @@ std::vector<UnidadesDOS::Montaje> UnidadesDOS::Montajes() const
         if (lugar.size() > 1)
             lugar.chop(1);
         if (unidad.montada)
-            montajes.push_back({ unidad.letra, lugar,
-                unidad.apodos.empty() && access(lugar.constData(), W_OK) != 0, unidad.apodos });
+            montajes.push_back({ unidad.letra, lugar, unidad.apodos.empty() && host::isOnCompactDisc(lugar),
+                unidad.apodos });
     }
     std::ranges::sort(montajes, {}, &Montaje::letra);
     return montajes;

@@ -26,7 +26,7 @@ public:
     struct Montaje {
         char letra; // upper case
         QByteArray lugar; // absolute, as the disk spells it
-        bool soloLectura; // nobody could write there
+        bool esCD; // a compact disc lies there
         std::vector<Apodo> apodos = {}; // if there are any, the drive shows DOS nothing else of its place
     };
 

@@ -1,5 +1,6 @@
 #include "launch/wine.h"
 
+#include "launch/apodos.h"
 #include "launch/nombresdos.h"
 
 #include "host/encoding.h"
@@ -115,17 +116,17 @@ QStringList ArgumentosDeWine(const Encargo &encargo, const std::function<QString
 }
 
 CarpetaDeWine::CarpetaDeWine(const Encargo &encargo)
-    : m_argumentos(encargo.argumentos)
 {
-    if (encargo.apodos.empty() || m_carpeta.emplace().Ruta().isEmpty())
-        return;
-    const QByteArray dentroDe = host::nameToDisk(m_carpeta->Ruta());
     QHash<QString, QString> lugares;
+    if (!encargo.apodos.empty() && m_carpeta.emplace().Ruta().isEmpty())
+        return;
     for (const UnidadesDOS::Montaje &montaje : encargo.apodos) {
-        m_apodos.push_back(std::make_unique<CarpetaDeApodos>(dentroDe, montaje));
+        const QByteArray lugar = HazCarpetaDeApodos(*m_carpeta, montaje);
+        if (lugar.isEmpty())
+            return;
         const UnidadesDOS::Apodo &apodo = montaje.apodos[0];
         lugares[host::nameFromDisk(montaje.lugar + '/' + apodo.fichero)] =
-            host::nameFromDisk(m_apodos.back()->Lugar() + '/' + apodo.nombre);
+            host::nameFromDisk(lugar + '/' + apodo.nombre);
     }
     m_argumentos =
         ArgumentosDeWine(encargo, [&](const QString &enDisco) { return lugares.value(enDisco, enDisco); });

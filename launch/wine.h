@@ -1,7 +1,6 @@
 // Paths as Windows programs read them under Wine.
 #pragma once
 
-#include "launch/apodos.h"
 #include "launch/carpetadecorrida.h"
 #include "launch/encargo.h"
 
@@ -11,7 +10,6 @@
 #include <QStringList>
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -40,11 +38,14 @@ class CarpetaDeWine {
 public:
     explicit CarpetaDeWine(const Encargo &encargo);
 
-    const QStringList &Argumentos() const { return m_argumentos; } // what is to be started
+    // What is to be started; empty if the files couldn't be made.
+    const QStringList &Argumentos() const { return m_argumentos; }
+
+    // At the end of the game.
+    Rescate Recoge() { return m_carpeta ? m_carpeta->Recoge() : Rescate(); }
 
 private:
     std::optional<CarpetaDeCorrida> m_carpeta;
-    std::vector<std::unique_ptr<CarpetaDeApodos>> m_apodos;
     QStringList m_argumentos;
 };
 

@@ -14,6 +14,8 @@
 #include "host/letters.h"
 #include "host/questions.h"
 
+#include "launch/rescate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace mainscreen {
@@ -47,6 +49,7 @@ void Portada::Carga()
     MuestraEstado();
     if (!M.AjustesSinGrabar.isEmpty())
         AvisaDeSoloLectura(M, *this, M.Palabras.Zem_SoloIdioma1);
+    launch::RescataAlEmpezar(M.Palabras);
 }
 
 void Portada::LeeConfiguracion()

@@ -4,6 +4,8 @@
 
 #include "mainscreen/portada.h"
 
+#include "core/rutas.h"
+
 #include "forms/yield.h"
 
 #include "host/focus.h"
@@ -85,7 +87,10 @@ void Portada::InfoEnColorDelSistema()
 
 void Portada::MuestraNingunaROM()
 {
-    PonInfo(M.TXT_NingunaROM);
+    const bool pareja = M.VerBaseDeDatos == 0 && !Combo1->Text().isEmpty() && !Combo2->Text().isEmpty();
+    const QString ruta = pareja ? core::RutaDeLinea(M.Cat_ROM(Sistema(), Emulador() + 1)) : QString();
+    const QChar unidad = core::UnidadQueFalta(ruta);
+    PonInfo(unidad.isNull() ? M.TXT_NingunaROM : M.Palabras.Zem_SinUnidad.arg(unidad));
 }
 
 void Portada::SeleccionaEnLista1(const QString &texto)

@@ -59,7 +59,7 @@ void Portada::Llena_Lista()
     M.NumLista = m_recuento + 1;
     if (m_recuento == 0) {
         PonInfoRoms(core::ResumenVacio);
-        PonInfo(M.TXT_NingunaROM);
+        MuestraNingunaROM();
     }
 }
 

@@ -172,7 +172,7 @@ void Portada::PalabraDelBoton()
 void Portada::EstadoEnIdioma()
 {
     if (Lista1->ListCount() == 0)
-        PonInfo(M.TXT_NingunaROM);
+        MuestraNingunaROM();
     if (Combo2->Text().isEmpty()) {
         PonInfoRoms(M.TXT_EmuNoSelec);
         return;
@@ -203,7 +203,7 @@ void Portada::ListaElegida()
     Llena_Lista();
     Combo2->setFocus();
     if (M.NumLista == 0) {
-        PonInfo(M.TXT_NingunaROM);
+        MuestraNingunaROM();
         Combo2->setFocus();
     }
 }
@@ -262,7 +262,7 @@ void Portada::SaleDeBaseDeDatos()
         TXT_Boton->SetCaption(core::SinPalabra);
     }
     if (Lista1->ListCount() == 0)
-        PonInfo(M.TXT_NingunaROM);
+        MuestraNingunaROM();
     Lista1->setFocus();
     M.RestaurarROM = 0;
 }

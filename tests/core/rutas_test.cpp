@@ -1,5 +1,7 @@
 #include "core/rutas.h"
 
+#include "host/drives.h"
+
 #include "directoriodeprograma.h"
 
 #include <gtest/gtest.h>
@@ -77,4 +79,14 @@ TEST_F(RutasDelCatalogo, AreReadAgainstTheDirectoryOfToday)
     EXPECT_EQ(core::RutaDeLinea(u"ROM"_s), QString());
     EXPECT_EQ(core::RutaExigida(u"IMG="_s), QString());
     EXPECT_EQ(NumeroDeFallo([] { core::RutaExigida(u"IMG"_s); }), 5);
+}
+
+TEST_F(RutasDelCatalogo, TellADriveThatIsMissing)
+{
+    const host::OtherDrives unidades({ { u'C', Ruta(QString()).chopped(1) }, { u'D', u"/nowhere"_s } });
+    EXPECT_EQ(core::UnidadQueFalta(u"d:\\roms\\"_s), u'D');
+    EXPECT_EQ(core::UnidadQueFalta(u"E:/roms/"_s), u'E');
+    EXPECT_EQ(core::UnidadQueFalta(u"E:"_s), u'E');
+    for (const QString &ruta : { u"C:\\roms"_s, u"/roms"_s, u"roms"_s, u"e:name"_s, QString() })
+        EXPECT_TRUE(core::UnidadQueFalta(ruta).isNull()) << ruta.toStdString();
 }

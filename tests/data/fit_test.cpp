@@ -35,6 +35,7 @@ struct Shown {
 
 const Shown ShownByPortada[] = {
     { u"TXT_Info"_s, u"TXT_NingunaROM"_s },
+    { u"TXT_Info"_s, u"Zem_SinUnidad"_s },
     { u"TXT_Info"_s, u"TXT_BaseDeDatos"_s },
     { u"TXT_Info"_s, u"TXT_Leyendo"_s },
     { u"TXT_Info"_s, u"TXT_Añadiendo"_s },
@@ -86,7 +87,7 @@ const QStringList Unbound { u"Menu_Describir"_s, u"Menu_Borrar"_s, u"Menu_Parame
     u"Zem_Discos"_s, u"Zem_Directorios"_s, u"Zem_Archivos"_s, u"Zem_D1"_s, u"Zem_E1"_s, u"Zem_Flecha2"_s,
     u"Zem_Editor"_s, u"Zem_FlechaE2"_s, u"Zem_Edit2"_s, u"Zem_BlocNotas2"_s, u"Zem_Pista"_s, u"Zem_NoEsta"_s,
     u"Zem_Tamano"_s, u"Zem_NoTamano"_s, u"Zem_Ctrl"_s, u"Zem_Mayus"_s, u"Zem_Espacio"_s, u"Zem_Ins"_s,
-    u"Zem_Supr"_s, u"Zem_Cancelar"_s, u"Zem_Logotipo"_s };
+    u"Zem_Supr"_s, u"Zem_Cancelar"_s, u"Zem_Logotipo"_s, u"Zem_NoVuelve0"_s, u"Zem_NoVuelve1"_s };
 
 class TextsOfLanguage : public ScreenTest, public testing::WithParamInterface<Language> {
 protected:

@@ -127,6 +127,21 @@ TEST_F(LaunchesInDosBox, AGameUnpackedBesideItsEmulatorIsNamedInEight)
     EXPECT_FALSE(exists("old/EMUS/superm~1"));
 }
 
+TEST_F(LaunchesInDosBox, AGameIsNotUnpackedUnderTheShortNameOfAnotherDirectory)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/nes.com");
+    makeDirectory("old/EMUS/Final Fight Saves");
+    makeFile("old/EMUS/Final Fight Saves/one.rom", "another's");
+    makeFile("media/ROMS/Final Fantasy.zip", Zip({ { "one.rom", "zipped" } }));
+    pantalla.lista1 = u"Final Fantasy.zip"_s;
+    Select(2, u"C:\\EMUS\\NES.COM"_s, u"D:\\ROMS\\"_s, {}, u"finalf~2\\one.rom"_s);
+    Juega();
+    EXPECT_THAT(Told("old/EMUS"), ElementsAre("   finalf~2 finalf~2\\one.rom", "EMUS", "zipped"));
+    EXPECT_EQ(bytes("old/EMUS/Final Fight Saves/one.rom"), "another's");
+    EXPECT_FALSE(exists("old/EMUS/finalf~2"));
+}
+
 TEST_F(LaunchesInDosBox, DrivesThatParametersNameAreThere)
 {
     NameBoth();
@@ -238,6 +253,23 @@ TEST_F(LaunchesInDosBox, WhatAGameWithAccentsSavesReplacesNoFileThatItDidNotSee)
                     "a.gb"),
         "played");
     EXPECT_EQ(bytes("media/ROMS/ESPANA.GB"), "new\r\n");
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
+}
+
+TEST_F(LaunchesInDosBox, WhatAGameWithAccentsSavesInDirectoriesIsThereAtTheNextRun)
+{
+    NameBoth();
+    makeFile("old/EMUS/GO.BAT",
+        "@type E:\\SAVES\\SLOT1\\GAME.SAV > C:\\FOUND\r\n@md E:\\SAVES\r\n@md E:\\SAVES\\SLOT1\r\n"
+        "@echo saved > E:\\SAVES\\SLOT1\\GAME.SAV\r\n");
+    makeFile("media/ROMS/ni\xC3\xB1o.nes", "the child");
+    pantalla.lista1 = u"niño.nes"_s;
+    Select(0, u"C:\\EMUS\\GO.BAT"_s, u"D:\\ROMS\\"_s);
+    Juega();
+    EXPECT_EQ(bytes("media/ROMS/SAVES/SLOT1/GAME.SAV"), "saved\r\n");
+    Juega();
+    EXPECT_EQ(bytes("old/FOUND"), "saved\r\n");
+    EXPECT_THAT(host::listInDiskOrder(path(u"media/ROMS"_s)), testing::SizeIs(2));
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
 }
 

@@ -122,3 +122,14 @@ TEST(Volumes, OfThisMachineBeginWithRootAndHome)
     EXPECT_TRUE(isVolumeReady(u"/"_s));
     EXPECT_FALSE(isVolumeReady(u"/nowhere at all"_s));
 }
+
+TEST(CompactDiscs, AreKnownByTheirFileSystem)
+{
+    EXPECT_TRUE(host::isCompactDisc(0x9660, true));
+    EXPECT_TRUE(host::isCompactDisc(0x9660, false));
+    EXPECT_TRUE(host::isCompactDisc(0x15013346, true));
+    EXPECT_FALSE(host::isCompactDisc(0x15013346, false)) << "a disk that can be written";
+    EXPECT_FALSE(host::isCompactDisc(0xEF53, true)) << "a read-only ext4";
+    EXPECT_FALSE(host::isOnCompactDisc("/"));
+    EXPECT_FALSE(host::isOnCompactDisc("/nowhere"));
+}

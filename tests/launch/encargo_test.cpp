@@ -111,6 +111,18 @@ TEST_F(EncargoTest, WhereWineIsMissingTheUserIsTold)
     EXPECT_EQ(Avisos(), QStringList { u"Missing: Wine"_s });
 }
 
+TEST_F(EncargoTest, WhereADriveIsMissingTheUserIsToldItsLetter)
+{
+    makeFile("program/Zembro.uni", "C=" + place("emu") + "\nD=/nowhere\n");
+    for (const QString &exe : { u"D:\\nes.exe"_s, u"e:/nes.exe"_s }) {
+        M.Cat_EXE(3, 2) = u"EXE="_s + exe;
+        Juega();
+    }
+    M.Cat_EXE(3, 2) = u"EXE=C:\\other.exe"_s;
+    Juega();
+    EXPECT_EQ(Avisos(), QStringList({ u"Drives: No D:"_s, u"Drives: No E:"_s }));
+}
+
 TEST_F(EncargoTest, DosBoxGetsAConfigurationThatGoesWithTheRun)
 {
     Pon(ParaDOS);
@@ -224,6 +236,47 @@ TEST_F(EncargoTest, ALineOf126CharactersGoes_OneOf127Doesnt)
     EXPECT_EQ(De(u" "_s + QString(125, u'x') + u"   "_s).traba, Traba::Ninguna) << "blanks at the end go";
     EXPECT_EQ(De(u" "_s + QString(126, u'x')).traba, Traba::Largo);
     EXPECT_EQ(De(u" "_s + QString(125, u'%')).traba, Traba::Ninguna) << "each is one for DOS";
+}
+
+// Directories in it may be written to all the same.
+TEST_F(EncargoTest, ADriveWhoseTopCantBeWrittenIsNoCd)
+{
+    Pon(ParaDOS);
+    setMode("emu", 0555);
+    EXPECT_EQ(inChildOfOrdinaryUser([this] {
+        const Encargo encargo = De(u" -x"_s);
+        return encargo.montajes.size() == 1 && !encargo.montajes[0].esCD ? 0 : 1;
+    }),
+        0);
+    setMode("emu", 0755);
+}
+
+// The emulator looks for the name in a place of its own, where no other name is shown.
+TEST_F(EncargoTest, OfAGameHandedOverByItsNameAloneDosHasToKnowTheName)
+{
+    Pon(ParaDOS);
+    PonHerramienta("dosbox");
+    for (const int tipo : { 1, 3 }) {
+        M.Cat_XDI(3, 2) = u"XDI="_s + QString::number(tipo);
+        for (const QByteArray &nombre :
+            { QByteArray("ni\xC3\xB1o.zip"), QByteArray("Mario.zip"), QByteArray("Super Mario.zip") }) {
+            if (tipo == 1)
+                makeDirectory("roms/" + nombre.chopped(4));
+            else
+                PonROM(nombre);
+            pantalla.lista1 = host::nameFromDisk(tipo == 1 ? nombre.chopped(4) : nombre);
+            Juega();
+        }
+        EXPECT_EQ(Avisos(), QStringList { u"No: Name"_s }) << tipo;
+        EXPECT_TRUE(Configuracion().join('\n').contains("\nC:\\NES.EXE  superm~1")) << tipo;
+        pantalla.llamadas.clear();
+    }
+    M.Cat_XDI(3, 2) = u"XDI=3"_s;
+    pantalla.combo2 = u"NeoRage"_s;
+    pantalla.lista1 = u"ni\u00F1o.zip"_s;
+    Juega();
+    EXPECT_THAT(Avisos(), IsEmpty()) << "this one gets the whole path";
+    EXPECT_TRUE(Configuracion().join('\n').contains("\\NINO.ZIP")) << Configuracion().join('\n').constData();
 }
 
 TEST_F(EncargoTest, DrivesForCdsStandInARow)

@@ -183,6 +183,10 @@ void Escenario::PonPalabrasDeEncargo()
     M.Palabras.Zem_NombreDOS = u"Name"_s;
     M.Palabras.Zem_LargoDOS = u"Length"_s;
     M.Palabras.Zem_SignoDOS = u"Sign"_s;
+    M.Palabras.Zem_Discos = u"Drives"_s;
+    M.Palabras.Zem_SinUnidad = u"No %1:"_s;
+    M.Palabras.Zem_NoVuelve0 = u"Kept"_s;
+    M.Palabras.Zem_NoVuelve1 = u"%1 in %2"_s;
     M.Palabras.Zem_NoWindows0 = u"No Windows"_s;
     M.Palabras.Zem_NombreWin = u"Name of Windows"_s;
 }

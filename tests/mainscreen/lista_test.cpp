@@ -51,6 +51,15 @@ TEST_F(ListaTest, FilesShowTheirDescriptionOrTheirNameInTheOrderOfTheirNames)
     EXPECT_EQ(M->NumLista, 5);
 }
 
+TEST_F(ListaTest, ADriveThatIsMissingIsNamed)
+{
+    files.writeCatalogue({ { u"Sis"_s, { u"BIN"_s }, { { u"Emu"_s, u"0"_s, u"Q:\\roms\\"_s } } } });
+    files.writeNotes({ { u"Sis"_s, {} } });
+    start();
+    EXPECT_THAT(listed(), IsEmpty());
+    EXPECT_EQ(info(), u"Falta la unidad Q:"_s);
+}
+
 TEST_F(ListaTest, TablesAreFilledForWhatComesAfter)
 {
     files.writeSize(u"r/Alfa.bin"_s, 10);

@@ -1,0 +1,348 @@
+#include "launch/rescate.h"
+
+#include "launch/intenta.h"
+#include "launch/shell.h"
+#include "launch/temporal.h"
+
+#include "host/aside.h"
+#include "host/encoding.h"
+#include "host/letters.h"
+#include "host/numberedfiles.h"
+#include "host/paths.h"
+#include "host/process.h"
+#include "host/questions.h"
+#include "host/replacement.h"
+
+#include <QSet>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <csignal>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace launch {
+
+namespace {
+
+const QString Prefijo = u"ZB-DOS-"_s; // and the process, and a number
+constexpr char Dicho[] = "/told-"; // and the drive's letter
+
+std::optional<struct stat> estadoDe(const QByteArray &ruta)
+{
+    struct stat estado;
+    return lstat(ruta.constData(), &estado) == 0 ? std::optional(estado) : std::nullopt;
+}
+
+QByteArrayList entradasDe(const QByteArray &lugar)
+{
+    QByteArrayList entradas;
+    Intenta([&] { entradas = host::listInDiskOrder(host::nameFromDisk(lugar)); });
+    return entradas;
+}
+
+QByteArray destinoDelEnlace(const QByteArray &enlace)
+{
+    std::array<char, PATH_MAX> destino;
+    const ssize_t largo = readlink(enlace.constData(), destino.data(), destino.size());
+    return largo > 0 ? QByteArray(destino.data(), largo) : QByteArray();
+}
+
+void borraEnlaces(const QByteArray &lugar)
+{
+    for (const QByteArray &nombre : entradasDe(lugar)) {
+        const QByteArray ruta = lugar + '/' + nombre;
+        const auto estado = estadoDe(ruta);
+        if (estado && S_ISLNK(estado->st_mode))
+            unlink(ruta.constData());
+    }
+}
+
+// What a game was shown: its names in upper case, and the directory that they lie in.
+class Mostrado {
+public:
+    explicit Mostrado(const QByteArray &lugar)
+    {
+        for (const QByteArray &nombre : entradasDe(lugar)) {
+            const QByteArray destino = destinoDelEnlace(lugar + '/' + nombre);
+            const qsizetype corte = destino.lastIndexOf('/');
+            if (corte < 0)
+                continue;
+            m_casa = destino.first(corte);
+            m_esta = m_esta || estadoDe(destino);
+            if (host::sameName(host::nameFromDisk(destino.sliced(corte + 1)), host::nameFromDisk(nombre)))
+                m_nombres.insert(host::upper(host::nameFromDisk(nombre)));
+        }
+    }
+
+    const QByteArray &Casa() const { return m_casa; }
+    // A disk that isn't there now leaves an empty directory in its place.
+    bool EstaEnCasa() const { return m_esta; }
+    bool Tiene(const QString &nombre) const { return m_nombres.contains(host::upper(nombre)); }
+
+private:
+    QByteArray m_casa;
+    bool m_esta = false;
+    QSet<QString> m_nombres;
+};
+
+// Carries what was saved, a directory after the other.
+class Porteador {
+public:
+    Porteador(const Mostrado &mostrado, QStringList &vueltos)
+        : m_mostrado(mostrado)
+        , m_vueltos(vueltos)
+    {
+    }
+
+    void Lleva(const QByteArray &de, const QString &a, bool deArriba = true)
+    {
+        for (const QByteArray &nombre : entradasDe(de)) {
+            const QByteArray guardado = de + '/' + nombre;
+            const auto estado = estadoDe(guardado);
+            if (estado && S_ISREG(estado->st_mode))
+                Intenta([&] { llevaFichero(guardado, *estado, a, deArriba); });
+            else if (estado && S_ISDIR(estado->st_mode))
+                Intenta([&] { llevaDirectorio(guardado, a); });
+        }
+    }
+
+private:
+    static QString nombreDe(const QByteArray &ruta)
+    {
+        return host::nameFromDisk(ruta.sliced(ruta.lastIndexOf('/') + 1));
+    }
+    static std::optional<EnCasa> enCasa(
+        const QString &ruta, const QByteArray &guardado, const struct stat &suyo)
+    {
+        const QByteArray alli = host::findOnDisk(ruta);
+        const auto estado = estadoDe(alli);
+        if (alli.isEmpty() || !estado)
+            return std::nullopt;
+        EnCasa esto { nombreDe(alli), S_ISDIR(estado->st_mode), false, false };
+        esto.masNuevo = std::pair(estado->st_mtim.tv_sec, estado->st_mtim.tv_nsec)
+            > std::pair(suyo.st_mtim.tv_sec, suyo.st_mtim.tv_nsec);
+        if (S_ISREG(estado->st_mode) && S_ISREG(suyo.st_mode) && estado->st_size == suyo.st_size)
+            Intenta([&] {
+                esto.igual = host::readBytes(host::nameFromDisk(alli))
+                    == host::readBytes(host::nameFromDisk(guardado));
+            });
+        return esto;
+    }
+    Vuelta vueltaDe(
+        const QByteArray &guardado, const struct stat &estado, const QString &a, bool mostrado) const
+    {
+        return VueltaDe(nombreDe(guardado), S_ISDIR(estado.st_mode), mostrado,
+            [&](const QString &nombre) { return enCasa(a + u'/' + nombre, guardado, estado); });
+    }
+    void llevaFichero(
+        const QByteArray &guardado, const struct stat &estado, const QString &a, bool deArriba) const
+    {
+        const bool mostrado = deArriba && m_mostrado.Tiene(nombreDe(guardado));
+        const Vuelta vuelta = vueltaDe(guardado, estado, a, mostrado);
+        const QString destino = a + u'/' + vuelta.nombre;
+        if (vuelta.escribe) {
+            host::Replacement fichero(destino, u"Zembro.tmp"_s);
+            fichero.read();
+            fichero.write(host::readBytes(host::nameFromDisk(guardado)));
+            fichero.commit();
+        }
+        if (unlink(guardado.constData()) == 0)
+            m_vueltos << destino;
+    }
+    void llevaDirectorio(const QByteArray &guardado, const QString &a)
+    {
+        const auto estado = estadoDe(guardado);
+        const Vuelta vuelta = vueltaDe(guardado, *estado, a, false);
+        const QString destino = a + u'/' + vuelta.nombre;
+        if (vuelta.escribe)
+            host::makeDirectory(destino);
+        Lleva(guardado, destino, false);
+        rmdir(guardado.constData());
+    }
+
+    const Mostrado &m_mostrado;
+    QStringList &m_vueltos;
+};
+
+// One drive of a run; true if nothing is left of it.
+bool rescataUnidad(const QByteArray &corrida, const QByteArray &letra, Rescate &rescate)
+{
+    const QByteArray lugar = corrida + '/' + UnidadDeCorrida + letra;
+    const QByteArray enlaces = corrida + '/' + MostradoEnCorrida + letra;
+    const Mostrado mostrado(enlaces);
+    if (mostrado.EstaEnCasa())
+        Porteador(mostrado, rescate.vueltos).Lleva(lugar, host::nameFromDisk(mostrado.Casa()));
+    borraEnlaces(lugar);
+    if (rmdir(lugar.constData()) != 0 && errno != ENOENT) {
+        rescate.pendientes.push_back({ host::nameFromDisk(lugar), host::nameFromDisk(mostrado.Casa()),
+            estadoDe(corrida + Dicho + letra).has_value() });
+        return false;
+    }
+    borraEnlaces(enlaces);
+    rmdir(enlaces.constData());
+    return true;
+}
+
+} // namespace
+
+bool SeRecoge(const Resto &resto)
+{
+    return resto.propio && !resto.cerrado && !resto.nombrado && (resto.cerrable || !resto.creadorVivo);
+}
+
+Vuelta VueltaDe(const QString &nombre, bool directorio, bool mostrado,
+    const std::function<std::optional<EnCasa>(const QString &)> &enCasa)
+{
+    const qsizetype punto = nombre.indexOf(u'.');
+    const qsizetype fin = punto < 0 ? nombre.size() : punto;
+    QString probado = nombre;
+    for (int numero = 2;; ++numero) {
+        const std::optional<EnCasa> alli = enCasa(probado);
+        if (!alli)
+            return { probado, true };
+        if (alli->directorio && directorio)
+            return { alli->nombre, false };
+        if (!alli->directorio && !directorio && alli->igual)
+            return { alli->nombre, false };
+        if (mostrado && probado == nombre && !alli->directorio && !directorio && !alli->masNuevo)
+            return { alli->nombre, true };
+        probado = nombre.first(fin) + u'-' + QString::number(numero) + nombre.sliced(fin);
+    }
+}
+
+Rescate RescataCorrida(const QString &ruta)
+{
+    Rescate rescate;
+    const QByteArray corrida = host::nameToDisk(ruta);
+    bool limpia = true;
+    for (const QByteArray &nombre : entradasDe(corrida)) {
+        if (nombre.startsWith(UnidadDeCorrida))
+            limpia = rescataUnidad(corrida, nombre.sliced(qstrlen(UnidadDeCorrida)), rescate) && limpia;
+    }
+    for (const QByteArray &nombre : entradasDe(corrida)) {
+        const QByteArray entrada = corrida + '/' + nombre;
+        if (limpia && nombre.startsWith(MostradoEnCorrida)) {
+            borraEnlaces(entrada); // of a run that was killed ahead of its drive
+            rmdir(entrada.constData());
+        } else if (limpia || (nombre != CerrojoDeCorrida && !nombre.startsWith(Dicho + 1))) {
+            unlink(entrada.constData()); // links of drives, and the configuration
+        }
+    }
+    rmdir(corrida.constData());
+    return rescate;
+}
+
+bool SigueEnMarcha(const QString &ruta)
+{
+    const QByteArray nombre = host::nameToDisk(ruta.sliced(ruta.lastIndexOf(u'/') + 1));
+    return host::isNamedByAProcess({ nombre + '/', nombre + '\\' });
+}
+
+namespace {
+
+// Of a run that may be another's.
+class RestoVisto {
+public:
+    RestoVisto(const QString &ruta, pid_t creador)
+        : m_cerrojo(open(host::nameToDisk(ruta + u'/' + QLatin1StringView(CerrojoDeCorrida)).constData(),
+            O_RDONLY | O_NOFOLLOW | O_CLOEXEC))
+    {
+        m_resto.propio = EsDirectorioPropio(ruta);
+        m_resto.cerrable = m_cerrojo.isOpen() && flock(m_cerrojo.number(), LOCK_EX | LOCK_NB) == 0;
+        m_resto.cerrado = m_cerrojo.isOpen() && !m_resto.cerrable && errno == EWOULDBLOCK;
+        m_resto.creadorVivo = kill(creador, 0) == 0 || errno != ESRCH;
+        m_resto.nombrado = SeRecoge(m_resto) && SigueEnMarcha(ruta); // which looks at all processes
+    }
+    const Resto &Visto() const { return m_resto; }
+
+private:
+    host::Descriptor m_cerrojo; // nobody else brings it back meanwhile
+    Resto m_resto;
+};
+
+// Locked ahead of having its name: without one nothing is known by it.
+host::Descriptor cierra(const QByteArray &corrida)
+{
+    const QByteArray nombre = corrida + '/' + CerrojoDeCorrida;
+    host::Descriptor cerrojo(
+        open((nombre + ".new").constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (!cerrojo.isOpen() || flock(cerrojo.number(), LOCK_EX | LOCK_NB) != 0
+        || rename((nombre + ".new").constData(), nombre.constData()) != 0)
+        unlink((nombre + ".new").constData());
+    return cerrojo;
+}
+
+} // namespace
+
+Rescate RescataRestos()
+{
+    Rescate rescate;
+    const QString temporal = DirectorioTemporal();
+    QStringList nombres;
+    Intenta([&] { nombres = host::listDirectories(temporal); });
+    for (const QString &nombre : std::as_const(nombres)) {
+        const pid_t creador = nombre.startsWith(Prefijo) ? nombre.split(u'-').value(2).toInt() : 0;
+        if (creador <= 0)
+            continue;
+        const RestoVisto resto(temporal + nombre, creador);
+        if (!SeRecoge(resto.Visto()))
+            continue;
+        const Rescate suyo = RescataCorrida(temporal + nombre);
+        rescate.vueltos += suyo.vueltos;
+        rescate.pendientes.insert(rescate.pendientes.end(), suyo.pendientes.begin(), suyo.pendientes.end());
+    }
+    return rescate;
+}
+
+Corrida NuevaCorrida()
+{
+    static int numero = 0;
+    constexpr int Intentos = 1000; // of an earlier process with the same number some may lie there
+    const QString temporal = DirectorioTemporal();
+    for (int i = 0; !temporal.isEmpty() && i < Intentos; ++i) {
+        const QString ruta =
+            temporal + Prefijo + QString::number(getpid()) + u'-' + QString::number(++numero);
+        const QByteArray enDisco = host::nameToDisk(ruta);
+        if (mkdir(enDisco.constData(), 0700) == 0)
+            return { ruta, cierra(enDisco) };
+        if (errno != EEXIST)
+            break;
+    }
+    return Corrida();
+}
+
+QByteArray LugarPrevisto(char letra)
+{
+    return host::nameToDisk(DirectorioTemporal() + Prefijo) + "*/" + UnidadDeCorrida + letra;
+}
+
+void DiPendiente(const Pendiente &pendiente, const core::Palabras &palabras)
+{
+    host::questions().tell(
+        palabras.Zem_NoVuelve0, palabras.Zem_NoVuelve1.arg(pendiente.destino, pendiente.lugar));
+    const QByteArray lugar = host::nameToDisk(pendiente.lugar);
+    const qsizetype corte = lugar.lastIndexOf('/');
+    const QByteArray letra = lugar.sliced(corte + 1).sliced(qstrlen(UnidadDeCorrida));
+    const host::Descriptor nota(open(
+        (lugar.first(corte) + Dicho + letra).constData(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600));
+}
+
+void RescataAlEmpezar(const core::Palabras &palabras)
+{
+    const Rescate rescate = RescataRestos();
+    for (const QString &vuelto : rescate.vueltos)
+        host::tellAside(host::nameToDisk(EnShell({ u"zembrolix"_s, u"brought"_s, u"back"_s, vuelto })));
+    for (const Pendiente &pendiente : rescate.pendientes) {
+        if (!pendiente.dicho)
+            DiPendiente(pendiente, palabras);
+    }
+}
+
+} // namespace launch

@@ -1,0 +1,264 @@
+// What games have saved on drives with other names, brought back after any end of a run.
+#include "escenario.h"
+
+#include "launch/apodos.h"
+#include "launch/nombresdos.h"
+#include "launch/rescate.h"
+
+#include "host/encoding.h"
+#include "host/paths.h"
+#include "host/process.h"
+
+#include <csignal>
+
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using launch::EnCasa;
+using launch::Resto;
+using launch::Vuelta;
+using launch::VueltaDe;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(SeRecoge, SoloLoQueNadieUsa)
+{
+    struct Caso {
+        Resto resto;
+        bool seRecoge;
+        const char *que;
+    };
+    for (const Caso &caso :
+        std::initializer_list<Caso> { { { true, false, true, false, false }, true, "who made it was killed" },
+            { { true, false, true, true, false }, true, "another process has its number by now" },
+            { { true, true, false, true, false }, false, "who made it lives" },
+            { { true, true, false, false, false }, false, "it lives where its number isn't seen" },
+            { { true, false, true, false, true }, false, "the game goes on" },
+            { { true, false, false, true, false }, false, "nothing can be locked, and it may live" },
+            { { true, false, false, false, false }, true, "nothing can be locked, and it is dead" },
+            { { false, false, true, false, false }, false, "somebody else's" } })
+        EXPECT_EQ(launch::SeRecoge(caso.resto), caso.seRecoge) << caso.que;
+}
+
+TEST(NombreNuevoEnDOS, EsElQueDosLeDaEnCualquierOrden)
+{
+    struct Caso {
+        QByteArrayList entradas;
+        QByteArray nombre;
+        QByteArray enDisco;
+        QByteArray enDOS;
+    };
+    for (const Caso &caso : std::initializer_list<Caso> { { {}, "SUPERM~1", "superm~1", "SUPERM~1" },
+             { { "a.exe", "MARIO.SAV" }, "MARIO", "mario", "MARIO" },
+             { { "Mario" }, "MARIO", "Mario", "MARIO" },
+             { { "Super Maker" }, "SUPERM~1", "superm~2", "SUPERM~2" },
+             { { "Super Maker", "super man" }, "SUPERM~1", "superm~3", "SUPERM~3" },
+             { { "superm~1" }, "SUPERM~1", "superm~1", "SUPERM~1" },
+             { { "Super Maker", "superm~1" }, "SUPERM~1", "superm~1", "SUPERM~2" },
+             { { "super maker.txt" }, "SUPERM~1", "superm~1", "SUPERM~1" } }) {
+        const launch::NombreNuevo nuevo = launch::NombreNuevoEnDOS(caso.entradas, caso.nombre);
+        EXPECT_EQ(nuevo.enDisco, caso.enDisco) << caso.entradas.join('|').constData();
+        EXPECT_EQ(nuevo.enDOS, caso.enDOS) << caso.entradas.join('|').constData();
+        for (const QByteArrayList &entradas : { QByteArrayList { nuevo.enDisco } + caso.entradas,
+                 caso.entradas + QByteArrayList { nuevo.enDisco } }) {
+            if (!caso.entradas.contains(nuevo.enDisco)) {
+                EXPECT_EQ(launch::NombresDOS(entradas)[entradas.indexOf(nuevo.enDisco)], caso.enDOS);
+            }
+        }
+    }
+}
+
+TEST(VueltaDe, NadaDeLoQueNoVioSeReemplaza)
+{
+    struct Caso {
+        QString nombre;
+        bool directorio;
+        bool mostrado;
+        QHash<QString, EnCasa> enCasa; // by the name that is tried
+        QString adonde;
+        bool escribe;
+    };
+    const EnCasa suyo { u"Nino.sav"_s, false, false, false };
+    for (const Caso &caso :
+        std::initializer_list<Caso> { { u"NINO.SAV"_s, false, false, {}, u"NINO.SAV"_s, true },
+            { u"NINO.SAV"_s, false, true, {}, u"NINO.SAV"_s, true },
+            { u"NINO.SAV"_s, false, true, { { u"NINO.SAV"_s, suyo } }, u"Nino.sav"_s, true },
+            { u"NINO.SAV"_s, false, false, { { u"NINO.SAV"_s, suyo } }, u"NINO-2.SAV"_s, true },
+            { u"NINO.SAV"_s, false, false, { { u"NINO.SAV"_s, suyo }, { u"NINO-2.SAV"_s, suyo } },
+                u"NINO-3.SAV"_s, true },
+            // Newer than what was saved: somebody has played there since.
+            { u"NINO.SAV"_s, false, true, { { u"NINO.SAV"_s, { u"Nino.sav"_s, false, false, true } } },
+                u"NINO-2.SAV"_s, true },
+            // It was brought already, and the run was killed ahead of the end.
+            { u"NINO.SAV"_s, false, false, { { u"NINO.SAV"_s, { u"Nino.sav"_s, false, true, true } } },
+                u"Nino.sav"_s, false },
+            { u"NINO.SAV"_s, false, false,
+                { { u"NINO.SAV"_s, suyo }, { u"NINO-2.SAV"_s, { u"NINO-2.SAV"_s, false, true, false } } },
+                u"NINO-2.SAV"_s, false },
+            { u"SAVES"_s, true, false, { { u"SAVES"_s, { u"Saves"_s, true, false, false } } }, u"Saves"_s,
+                false },
+            { u"SAVES"_s, true, false, { { u"SAVES"_s, { u"saves"_s, false, false, false } } }, u"SAVES-2"_s,
+                true },
+            { u"NINO.SAV"_s, false, true, { { u"NINO.SAV"_s, { u"nino.sav"_s, true, false, false } } },
+                u"NINO-2.SAV"_s, true } }) {
+        const Vuelta vuelta =
+            VueltaDe(caso.nombre, caso.directorio, caso.mostrado, [&](const QString &nombre) {
+                return caso.enCasa.contains(nombre) ? std::optional(caso.enCasa[nombre]) : std::nullopt;
+            });
+        EXPECT_EQ(vuelta.nombre, caso.adonde) << caso.nombre.toStdString();
+        EXPECT_EQ(vuelta.escribe, caso.escribe) << caso.adonde.toStdString();
+    }
+}
+
+namespace {
+
+// A game "niño.nes", which a run shows as NINO.NES.
+class RescateTest : public Escenario {
+protected:
+    RescateTest()
+    {
+        PonPalabrasDeEncargo();
+        PonROM("ni\xC3\xB1o.nes", "the game");
+        makeFile("roms/Nino.sav", "before");
+        makeFile("roms/hiscore.dat", "records");
+        makeDirectory("roms/Docs");
+    }
+
+    launch::UnidadesDOS::Montaje Montaje() const
+    {
+        return { 'E', place("roms"), false, { { "NINO.NES", "ni\xC3\xB1o.nes" } } };
+    }
+
+    // A run that saves by these lines of a shell, in its drive, and is then killed. Yields its directory's
+    // name.
+    QByteArray Matada(const QByteArray &lineas) const
+    {
+        const pid_t hijo = startChild([&] {
+            const launch::CarpetaDeCorrida corrida;
+            const QByteArray lugar = launch::HazCarpetaDeApodos(corrida, Montaje());
+            corrida.Escribe("dosbox.conf", "x");
+            makeLink(place("roms"), lugar.sliced(place().size()) + "/../C");
+            if (lugar.isEmpty() || system(("cd '" + lugar + "' && " + lineas).constData()) != 0)
+                return 1;
+            kill(getpid(), SIGKILL);
+            return 0;
+        });
+        EXPECT_EQ(endOf(hijo), 254);
+        return Temporales().value(0);
+    }
+    QByteArrayList Temporales() const { return host::listInDiskOrder(path(u"tmp"_s)); }
+};
+
+} // namespace
+
+TEST_F(RescateTest, LoQueDejaUnaMuerteVuelve_DirectoriosTambien)
+{
+    Matada("echo new > NINO.NEW; rm NINO.SAV; echo saved > NINO.SAV; echo mine > HISCORE.DAT; "
+           "mkdir -p SAVES/DEEP; echo one > SAVES/ONE; echo two > SAVES/DEEP/TWO; echo doc > Docs/DOC");
+    EXPECT_EQ(bytes("roms/Docs/DOC"), "doc\n") << "the directories beside the game are there";
+    const launch::Rescate rescate = launch::RescataRestos();
+    EXPECT_THAT(rescate.pendientes, IsEmpty());
+    EXPECT_EQ(rescate.vueltos.size(), 5);
+    EXPECT_EQ(bytes("roms/NINO.NEW"), "new\n");
+    EXPECT_EQ(bytes("roms/Nino.sav"), "saved\n");
+    EXPECT_EQ(bytes("roms/hiscore.dat"), "records");
+    EXPECT_EQ(bytes("roms/HISCORE-2.DAT"), "mine\n");
+    EXPECT_EQ(bytes("roms/SAVES/ONE"), "one\n");
+    EXPECT_EQ(bytes("roms/SAVES/DEEP/TWO"), "two\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes"), "the game");
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, UnJuegoQueSigueConservaSuUnidad)
+{
+    const QByteArray corrida = Matada("echo new > NINO.NEW");
+    const pid_t juego = fork();
+    if (juego == 0) {
+        execl("/usr/bin/tail", "tail", "-f", (place("tmp/") + corrida + "/dosbox.conf").constData(), nullptr);
+        _exit(1);
+    }
+    ASSERT_GT(juego, 0);
+    const QString ruta = path(u"tmp/"_s) + QString::fromLatin1(corrida);
+    while (!launch::SigueEnMarcha(ruta) && waitpid(juego, nullptr, WNOHANG) == 0)
+        usleep(1000);
+    ASSERT_TRUE(launch::SigueEnMarcha(ruta));
+    EXPECT_THAT(launch::RescataRestos().vueltos, IsEmpty());
+    EXPECT_TRUE(exists("tmp/" + corrida + "/C"));
+    EXPECT_TRUE(exists("tmp/" + corrida + "/files-E/NINO.NES"));
+    kill(juego, SIGKILL);
+    waitpid(juego, nullptr, 0);
+    EXPECT_THAT(launch::RescataRestos().vueltos, ElementsAre(path(u"roms/NINO.NEW"_s)));
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, LaCorridaDeOtroProcesoVivoNoSeToca)
+{
+    launch::CarpetaDeCorrida corrida;
+    const QByteArray lugar = launch::HazCarpetaDeApodos(corrida, Montaje());
+    makeFile(lugar.sliced(place().size()) + "/NINO.NEW", "new");
+    EXPECT_EQ(inChild([] { return launch::RescataRestos().vueltos.isEmpty() ? 0 : 1; }), 0);
+    EXPECT_FALSE(exists("roms/NINO.NEW"));
+    EXPECT_THAT(corrida.Recoge().vueltos, ElementsAre(path(u"roms/NINO.NEW"_s)));
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, LoQueNoCabeSeDiceUnaVez_YLaProximaPartidaLoVe_YAlFinVuelve)
+{
+    Matada("echo new > NINO.NEW; mkdir SAVES; echo one > SAVES/ONE");
+    rename(place("roms").constData(), place("away").constData());
+    makeDirectory("roms"); // what is left of a disk that was taken out
+    for (int i = 0; i < 2; ++i)
+        launch::RescataAlEmpezar(M.Palabras);
+    EXPECT_EQ(respuestas.dichos.size(), 1);
+    EXPECT_TRUE(respuestas.dichos.value(0).startsWith(
+        u"Kept: "_s + path(u"roms"_s) + u" in "_s + path(u"tmp/ZB-DOS-"_s)));
+    EXPECT_THAT(host::listInDiskOrder(path(u"roms"_s)), IsEmpty());
+    {
+        const launch::CarpetaDeCorrida corrida;
+        const QByteArray lugar = launch::HazCarpetaDeApodos(corrida, Montaje()).sliced(place().size());
+        EXPECT_EQ(bytes(lugar + "/NINO.NEW"), "new\n");
+        EXPECT_EQ(bytes(lugar + "/SAVES/ONE"), "one\n");
+    }
+    rmdir(place("roms").constData());
+    rename(place("away").constData(), place("roms").constData());
+    EXPECT_EQ(launch::RescataRestos().vueltos.size(), 2);
+    EXPECT_EQ(bytes("roms/NINO.NEW"), "new\n");
+    EXPECT_EQ(bytes("roms/SAVES/ONE"), "one\n");
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, DeUnDirectorioQueNoSeEscribeNadaSePierde)
+{
+    setMode("roms", 0555);
+    setMode("tmp", 0777);
+    EXPECT_EQ(inChildOfOrdinaryUser([&] {
+        launch::CarpetaDeCorrida corrida;
+        const QByteArray lugar = launch::HazCarpetaDeApodos(corrida, Montaje());
+        if (system(("echo new > '" + lugar + "/NINO.NEW'").constData()) != 0)
+            return 1;
+        const launch::Rescate rescate = corrida.Recoge();
+        if (rescate.pendientes.size() != 1 || !rescate.vueltos.isEmpty())
+            return 2;
+        launch::DiPendiente(rescate.pendientes[0], M.Palabras);
+        return respuestas.dichos
+                == QStringList { u"Kept: "_s + path(u"roms"_s) + u" in "_s + host::nameFromDisk(lugar) }
+            ? 0
+            : 3;
+    }),
+        0);
+    setMode("roms", 0755);
+    setMode("tmp", 0700);
+    const QByteArray dentro = Temporales().value(0);
+    EXPECT_NE(dentro, QByteArray()) << "it lies in a directory of the other user, and stays";
+}
+
+TEST_F(RescateTest, UnNombreDeCorridaQueYaEstaSeSalta)
+{
+    const QByteArray propio = "tmp/ZB-DOS-" + QByteArray::number(getpid()) + "-";
+    for (int i = 1; i < 40; ++i)
+        makeDirectory(propio + QByteArray::number(i));
+    const launch::CarpetaDeCorrida corrida;
+    EXPECT_FALSE(corrida.Ruta().isEmpty());
+}
