@@ -5,6 +5,8 @@
 #include "companion/otrosistema.h"
 #include "companion/viejo.h"
 
+#include "core/lista.h"
+
 #include "host/drives.h"
 #include "host/failure.h"
 #include "host/numberedfiles.h"
@@ -14,6 +16,7 @@
 #include "launch/encargo.h"
 #include "launch/intenta.h"
 
+#include <QDir>
 #include <QJsonArray>
 
 #include <algorithm>
@@ -50,6 +53,8 @@ public:
 
 private:
     Suerte suerteDe(const EmuladorViejo &uno) const;
+    QString porQueNoSeLista(const EmuladorViejo &uno) const;
+    QStringList unidadesDistintas() const;
     std::vector<host::Drive> unidadesDeAmbos() const;
     void buscaCapturas(EmuladorViejo &uno);
     QString conEmuladores(const QString &texto);
@@ -65,6 +70,7 @@ private:
     QJsonArray m_parejas;
     QJsonArray m_cambios;
     std::vector<Copia> m_capturas;
+    QStringList m_distintas; // drives, in words
     int m_puestos = 0;
     int m_descripciones = 0;
     int m_parametros = 0;
@@ -85,14 +91,9 @@ Suerte Adopcion::suerteDe(const EmuladorViejo &uno) const
 {
     const Palabras &palabras = m_sesion.palabras;
     for (const QString &ruta : { uno.emulador.exe, uno.emulador.rom, uno.emulador.img }) {
-        const QChar letra = host::driveLetter(ruta);
-        if (letra.isNull())
-            continue;
-        const host::Drive *unidad = host::driveNamed(letra);
-        if (!unidad)
-            return { u"no-drive"_s, palabras.Zbo_NoUnidad.arg(QString(letra), ruta) };
-        if (!host::exists(unidad->place))
-            return { u"drive-missing"_s, palabras.Zbo_SinSitio.arg(QString(letra), unidad->place) };
+        const QString falta = FaltaDeUnidad(ruta, palabras);
+        if (!falta.isEmpty())
+            return { host::driveNamed(host::driveLetter(ruta)) ? u"drive-missing"_s : u"no-drive"_s, falta };
     }
     const QString exe = host::trueSpelling(uno.emulador.exe);
     if (exe.isEmpty())
@@ -104,7 +105,44 @@ Suerte Adopcion::suerteDe(const EmuladorViejo &uno) const
         return { u"no-tool"_s, launch::TextoDe(encargo.traba, encargo.corredor, m_sesion.M.Palabras) };
     if (encargo.traba != launch::Traba::Ninguna)
         return { u"refused"_s, launch::TextoDe(encargo.traba, encargo.corredor, m_sesion.M.Palabras) };
+    const QString sinLista = porQueNoSeLista(uno);
+    if (!sinLista.isEmpty())
+        return { u"no-games"_s, palabras.Zbo_SinListar.arg(sinLista) };
     return { u"works"_s, palabras.Zbo_Funciona };
+}
+
+// Of a type that lists games: its directory is none, or holds nothing. Empty where there is something.
+QString Adopcion::porQueNoSeLista(const EmuladorViejo &uno) const
+{
+    if (core::CargaSoloElEmulador(uno.emulador.tipo.toInt()))
+        return {};
+    if (uno.emulador.rom.isEmpty())
+        return u"ROM="_s;
+    try {
+        return host::listFilesAndDirectories(uno.emulador.rom).isEmpty() ? uno.emulador.rom : QString();
+    } catch (const host::Failure &fallo) {
+        return TextoDe(fallo, m_sesion.palabras);
+    }
+}
+
+// Of a drive, without what leads up and down again.
+QString sitio(const QString &lugar)
+{
+    QString enDisco = QDir::cleanPath(lugar);
+    launch::Intenta([&] { enDisco = host::directoryPath(lugar); });
+    return enDisco;
+}
+
+// Letters that mean one place here and another one there.
+QStringList Adopcion::unidadesDistintas() const
+{
+    QStringList dichas;
+    for (const host::Drive &alli : m_viejo.unidades) {
+        const host::Drive *aqui = host::driveNamed(alli.letter);
+        if (aqui && sitio(aqui->place) != sitio(alli.place))
+            dichas += m_sesion.palabras.Zbo_OtraUnidad.arg(QString(alli.letter), aqui->place, alli.place);
+    }
+    return dichas;
 }
 
 // Those that lie below the old directory go with the rest, to the same place below this one.
@@ -216,10 +254,11 @@ int Adopcion::responde(int estado)
         m_sesion.Json({ { u"directory"_s, m_viejo.ruta }, { u"pairs"_s, m_parejas },
             { u"emulators"_s, m_puestos }, { u"descriptions"_s, m_descripciones },
             { u"parameters"_s, m_parametros }, { u"captures"_s, capturas }, { u"drives"_s, m_unidades },
-            { u"written"_s, m_escribe }, { u"changes"_s, m_cambios } });
+            { u"drives_that_differ"_s, QJsonArray::fromStringList(m_distintas) }, { u"written"_s, m_escribe },
+            { u"changes"_s, m_cambios } });
         return estado;
     }
-    m_sesion.Escribe(m_dichos);
+    m_sesion.Escribe(m_dichos + m_distintas);
     m_sesion.Escribe((m_escribe ? palabras.Zbo_Adoptado : palabras.Zbo_Adoptaria)
                          .arg(m_puestos)
                          .arg(m_descripciones)
@@ -232,6 +271,7 @@ int Adopcion::responde(int estado)
 // The drives first: what the catalogue then names is there.
 int Adopcion::Haz()
 {
+    m_distintas = unidadesDistintas();
     int estado = ponUnidades();
     const host::OtherDrives ambas(unidadesDeAmbos());
     for (EmuladorViejo &uno : m_viejo.emuladores)

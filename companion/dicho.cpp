@@ -84,12 +84,16 @@ void cuenta(const Sesion &sesion, const launch::Ensayo &ensayo, const QString &m
 {
     const Palabras &palabras = sesion.palabras;
     if (ensayo.orden) {
+        const bool sinHerramienta = ensayo.encargo.traba == launch::Traba::SinHerramienta;
         const QStringList argumentos = ArgumentosParaLaConsola(ensayo.encargo);
+        if (sinHerramienta && (sesion.Tiene(u"lines"_s) || sesion.Tiene(u"shell"_s)))
+            return sesion.Avisa(palabras.Zbo_NoArranca.arg(motivo));
         if (sesion.Tiene(u"lines"_s))
             return sesion.Escribe(argumentos);
         if (sesion.Tiene(u"shell"_s))
             return sesion.Escribe(launch::EnShell(argumentos));
-        sesion.Escribe(palabras.Zbo_LaOrden.arg(launch::EnShell(argumentos)));
+        if (!sinHerramienta)
+            sesion.Escribe(palabras.Zbo_LaOrden.arg(launch::EnShell(argumentos)));
         sesion.Escribe(palabras.Zbo_EnDir.arg(ensayo.directorio));
         sesion.Escribe(palabras.Zbo_ElTexto.arg(ensayo.orden->EnTexto()));
         sesion.Escribe(DichoDe(sesion, ensayo.encargo));

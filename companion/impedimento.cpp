@@ -1,6 +1,7 @@
 #include "companion/impedimento.h"
 
 #include "companion/eleccion.h"
+#include "companion/otrosistema.h"
 #include "companion/partesdeprograma.h"
 
 #include "core/clasedeprograma.h"
@@ -190,6 +191,9 @@ std::vector<Impedimento> LoQueLeFalta(const QString &programa, const Palabras &p
 
 QString NoHayPrograma(const QString &programa, const Palabras &palabras)
 {
+    const QString unidad = FaltaDeUnidad(programa, palabras);
+    if (!unidad.isEmpty())
+        return unidad;
     if (programa.trimmed().isEmpty())
         return palabras.Zbo_SinEXE;
     const QString principio = programaAlPrincipio(programa);

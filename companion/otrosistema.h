@@ -19,7 +19,22 @@ QStringList DichoDe(const Sesion &sesion, const launch::Encargo &encargo);
 // The same, put into a command's answer.
 void AnadeCorredor(QJsonObject &objeto, const launch::Encargo &encargo);
 
-// What would run the program of a pair, by a command without a game.
+// Brings back what games saved on drives of runs that were left: lines of what is back, and a finding for
+// what can't be.
+struct Rescatado {
+    QStringList vueltos; // paths
+    QStringList lineas;
+};
+Rescatado RescataLoGuardado(const Sesion &sesion, Revision &revision);
+
+// What is wrong with the drive that a path begins with: none of this letter, or its place isn't there. Empty
+// for any other path.
+QString FaltaDeUnidad(const QString &ruta, const Palabras &palabras);
+
+// What is wrong with the lines of Zembro.uni, and places of drives that are missing and told of nowhere yet.
+void RevisaUnidades(const Sesion &sesion, Revision &revision);
+
+// What would run the program of a pair, by a command without a game; on all the drives that it needs.
 launch::Encargo EncargoDe(const core::Modulo &M, const Pareja &pareja);
 
 // At the lines of the pair in Zembro.emu: drives that its paths name and that aren't there, and a missing

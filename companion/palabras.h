@@ -165,6 +165,18 @@ struct Palabras : PalabrasDeRevision, PalabrasDeAuxilio {
     QString Zbo_SinSitio = QStringLiteral("The drive %1 leads to %2, which is not there.");
     QString Zbo_CorreEn = QStringLiteral("A program for %1, which runs in %2.");
     QString Zbo_LineaDOS = QStringLiteral("DOS gets: %1");
+    QString Zbo_Vuelto = QStringLiteral("What a game had saved is back in its place: %1");
+    QString Zbo_Apodo = QStringLiteral("%1, shown as %2");
+    QString Zbo_UniNada = QStringLiteral("This line names no drive: a letter, =, and a place of this disk.");
+    QString Zbo_UniOtra =
+        QStringLiteral("The drive %1 has its place from an earlier line, %2: this one doesn't count.");
+    QString Zbo_OtraUnidad =
+        QStringLiteral("The drive %1 leads to %2 here and led to %3 there. Yours stays: put those files "
+                       "below it, or give them a letter of their own, in Zembro.uni and in the paths.");
+    QString Zbo_SinListar = QStringLiteral("It starts, but no games can be listed: %1");
+    QString Zbo_SinWine32 =
+        QStringLiteral("A Windows program of 32 bits, and Wine here is of 64 alone: install wine32 (sudo "
+                       "dpkg --add-architecture i386, sudo apt update, sudo apt install wine32).");
 
     // Taking an old directory over.
     QString Zbo_Adopt =

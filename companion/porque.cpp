@@ -1,6 +1,7 @@
 #include "companion/porque.h"
 
 #include "companion/impedimento.h"
+#include "companion/otrosistema.h"
 #include "companion/sesion.h"
 
 #include "host/aside.h"
@@ -70,11 +71,19 @@ int porque(Sesion &sesion)
     const std::optional<launch::Partida> partida = launch::UltimaPartida(host::nameFromDisk(*lineas));
     if (!partida)
         return sesion.Falla(sesion.palabras.Zbo_SinPartida.arg(fichero));
+    Revision pendientes;
+    const Rescatado rescatado = RescataLoGuardado(sesion, pendientes);
+    QStringList quedan;
+    for (const Hallazgo &hallazgo : pendientes)
+        quedan += hallazgo.texto;
+    QJsonObject objeto = PartidaEnJson(*partida, sesion.palabras);
+    objeto[u"brought_back"_s] = QJsonArray::fromStringList(rescatado.vueltos);
+    objeto[u"left_behind"_s] = QJsonArray::fromStringList(quedan);
     if (sesion.EnJson())
-        sesion.Json(PartidaEnJson(*partida, sesion.palabras));
+        sesion.Json(objeto);
     else
-        sesion.Escribe(CuentaPartida(*partida, sesion.palabras));
-    return AcaboBien(*partida) ? Bien : Hallazgos;
+        sesion.Escribe(CuentaPartida(*partida, sesion.palabras) + rescatado.lineas + quedan);
+    return AcaboBien(*partida) && quedan.isEmpty() ? Bien : Hallazgos;
 }
 
 } // namespace

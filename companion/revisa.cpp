@@ -161,6 +161,7 @@ Respuesta revisado(Sesion &sesion, const std::vector<Pareja> &parejas, Revision 
         respuesta.lineas += DichoDe(sesion, encargo);
     }
     RevisaCapturas(sesion, parejas, lineasDelCatalogo, respuesta.revision);
+    RevisaUnidades(sesion, respuesta.revision);
     return respuesta;
 }
 
@@ -215,11 +216,14 @@ int revisaTodo(Sesion &sesion)
         hayCatalogo ? ParejasPedidas(sesion, sistema, sesion.Argumento(1)) : std::vector<Pareja>();
     if (parejas.empty() && !todo)
         return NoPudo;
+    const Rescatado rescatado = RescataLoGuardado(sesion, revision);
     Respuesta respuesta = revisado(sesion, parejas, std::move(revision));
     marcaRemendables(sesion, parejas, respuesta.revision);
     if (sesion.EnJson()) {
-        sesion.Json({ { u"findings"_s, enJson(respuesta.revision) }, { u"pairs"_s, respuesta.cuentas } });
+        sesion.Json({ { u"findings"_s, enJson(respuesta.revision) }, { u"pairs"_s, respuesta.cuentas },
+            { u"brought_back"_s, QJsonArray::fromStringList(rescatado.vueltos) } });
     } else {
+        sesion.Escribe(rescatado.lineas);
         for (const Hallazgo &hallazgo : respuesta.revision)
             sesion.Escribe(enLinea(hallazgo, sesion.palabras));
         sesion.Escribe(respuesta.lineas);

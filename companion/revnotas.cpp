@@ -1,15 +1,19 @@
 // Zembro.rom: the notes of each system, and the parameters of single games.
 #include "companion/revision.h"
 
+#include "core/clasedeprograma.h"
 #include "core/lineas.h"
 #include "core/notas.h"
 #include "core/remiendos.h"
 #include "core/repetidos.h"
 #include "core/romelegida.h"
+#include "core/rutas.h"
 
 #include "host/letters.h"
 #include "host/paths.h"
 #include "host/textsource.h"
+
+#include "launch/piezas.h"
 
 #include <QSet>
 
@@ -63,9 +67,12 @@ public:
             if (pareja.nombreSistema != sistema)
                 continue;
             try {
-                for (const QString &nombre : host::listFilesAndDirectories(DirectorioDeJuegos(M, pareja)))
+                const QString directorio = DirectorioDeJuegos(M, pareja);
+                for (const QString &nombre : host::listFilesAndDirectories(directorio))
                     m_nombres.insert(host::upper(nombre));
                 m_hay = true;
+                m_enDOS += launch::ClavesEnDOS(
+                    core::RutaDeLinea(M.Cat_EXE(pareja.sistema, pareja.fila)), directorio);
             } catch (const host::Failure &) {
                 m_todos = false; // told of the pair
             }
@@ -79,8 +86,12 @@ public:
         return m_hay && m_todos && !m_nombres.contains(mayus) && !m_nombres.contains(mayus + u".ZIP"_s);
     }
 
+    // Under a name of DOS, which a launch in it looks for.
+    bool EsDeDOS(const QString &clave) const { return m_enDOS.contains(host::upper(clave)); }
+
 private:
     QSet<QString> m_nombres;
+    QSet<QString> m_enDOS;
     bool m_hay = false;
     bool m_todos = true;
 };
@@ -193,11 +204,21 @@ void RevisorDeNotas::parametrosDe(const QStringList &campos, size_t indice)
     const std::vector<Pareja> parejas = Parejas(M);
     const auto suya = std::ranges::find_if(parejas, esSuya);
     if (suya == parejas.end())
-        halla(u"parameters-of-nobody"_s, m_palabras.Zbo_ParDeNadie.arg(clave, campos[1], campos[2]), indice);
-    else if (ficherosDe(suya->nombreSistema).Falta(clave))
+        return halla(
+            u"parameters-of-nobody"_s, m_palabras.Zbo_ParDeNadie.arg(clave, campos[1], campos[2]), indice);
+    const Ficheros &ficheros = ficherosDe(suya->nombreSistema);
+    const bool anotada = m_anotadas.contains(host::upper(clave));
+    const bool enDOS = !anotada
+        && core::ClaseDe(core::RutaDeLinea(M.Cat_EXE(suya->sistema, suya->fila)))
+            == core::ClaseDePrograma::DOS;
+    if (enDOS ? ficheros.EsDeDOS(clave) : !ficheros.Falta(clave)) {
+        if (!anotada && !enDOS && !core::SeEncuentranSusParametros(*m_sinNotas, clave))
+            halla(u"lost-parameters"_s, m_palabras.Zbo_ParPerdidos.arg(clave), indice);
+    } else if (ficheros.Falta(clave)) {
         halla(u"parameters-without-file"_s, m_palabras.Zbo_ParSinFich.arg(clave), indice);
-    else if (!m_anotadas.contains(host::upper(clave)) && !core::SeEncuentranSusParametros(*m_sinNotas, clave))
+    } else {
         halla(u"lost-parameters"_s, m_palabras.Zbo_ParPerdidos.arg(clave), indice);
+    }
 }
 
 void RevisorDeNotas::Parametros(const QString &texto)

@@ -1,6 +1,7 @@
 #include "companion/sesion.h"
 
 #include "companion/imprimible.h"
+#include "companion/otrosistema.h"
 
 #include "host/paths.h"
 #include "host/replacement.h"
@@ -135,6 +136,9 @@ QString TextoDe(const host::Failure &fallo, const Palabras &palabras)
     if (fallo.operation().endsWith(host::KeptLocked))
         return palabras.Zbo_FalloLlave + u": "_s + fallo.about();
     const auto clase = clases.constFind(fallo.number());
+    const QString unidad = FaltaDeUnidad(fallo.about(), palabras);
+    if (!unidad.isEmpty())
+        return unidad;
     if (fallo.number() == host::PathNotFound && !fallo.about().isEmpty())
         return textoDeDirectorio(fallo.about(), palabras);
     const QString &texto = clase == clases.constEnd() ? palabras.Zbo_Fallo : palabras.*clase.value();

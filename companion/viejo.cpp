@@ -11,6 +11,8 @@
 #include "host/paths.h"
 #include "host/textsource.h"
 
+#include <QDir>
+
 #include <algorithm>
 #include <memory>
 #include <set>
@@ -45,7 +47,14 @@ QString textoDe(const QString &ruta)
 
 QString rutaViva(const QString &linea, const QString &directorio)
 {
-    return core::RutaDeValor(core::Valor(linea, core::PrefijoRuta), directorio);
+    const QString valor = core::Valor(linea, core::PrefijoRuta);
+    const QString ruta = core::RutaDeValor(valor, directorio);
+    if (!core::EsRutaRelativa(valor))
+        return ruta;
+    // Without what leads up and down again, by whichever separator.
+    const QString llana = QDir::cleanPath(QString(ruta).replace(u'\\', u'/'));
+    const bool cerrada = valor.endsWith(u'/') || valor.endsWith(u'\\');
+    return cerrada ? host::withClosingSeparator(llana) : llana;
 }
 
 EmuladorViejo emuladorDe(const core::Modulo &M, int sistema, int fila, const QString &directorio)

@@ -77,4 +77,22 @@ ClaseDePrograma ClaseDe(const QString &ruta)
     }
 }
 
+bool EsDe32Bits(const QByteArray &principio)
+{
+    if (ClasePorBytes(principio, {}, {}) != ClaseDePrograma::Windows)
+        return false;
+    const auto segunda = qFromLittleEndian<quint32>(principio.constData() + LugarDeLaSegunda);
+    const QByteArray maquina = principio.mid(segunda + 4, 2); // behind "PE" and two zeros
+    return principio.mid(segunda, 2) == "NE" || maquina == QByteArray("\x4c\x01", 2);
+}
+
+bool EsDe32Bits(const QString &ruta)
+{
+    try {
+        return EsDe32Bits(host::readBytes(ruta, Principio));
+    } catch (const host::Failure &) {
+        return false;
+    }
+}
+
 } // namespace core

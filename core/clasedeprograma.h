@@ -22,4 +22,8 @@ ClaseDePrograma ClasePorBytes(const QByteArray &principio, const QByteArray &pro
 // Of a file; Desconocida if it can't be read.
 ClaseDePrograma ClaseDe(const QString &ruta);
 
+// Whether a program for Windows is one of 32 bits, or of 16, which needs the same.
+bool EsDe32Bits(const QByteArray &principio);
+bool EsDe32Bits(const QString &ruta);
+
 } // namespace core

@@ -125,7 +125,9 @@ std::vector<Drive> drivesIn(const QString &text, const QString &base)
         if (sign < 0)
             continue;
         const QChar letter = letterNamed(QStringView(line).first(sign).trimmed());
-        const QString place = line.sliced(sign + 1).trimmed();
+        QString place = line.sliced(sign + 1).trimmed();
+        if (place == u"~" || place.startsWith(u"~/"))
+            place.replace(0, 1, QDir::homePath());
         if (letter.isNull() || place.isEmpty() || place.contains(QChar::Null) || !driveLetter(place).isNull())
             continue;
         add(found, { letter, withoutClosing(isSeparator(place.front()) ? place : base + u'/' + place) });
@@ -194,6 +196,19 @@ const Drive *driveNamed(QChar letter)
     const std::vector<Drive> &all = drives();
     const auto found = std::ranges::find(all, letter, &Drive::letter);
     return found == all.end() ? nullptr : &*found;
+}
+
+QString spelledOnDrive(QChar letter, const QString &path)
+{
+    const Drive *drive = driveNamed(letter);
+    const QByteArray place = drive ? findOnDisk(withoutClosing(drive->place)) : QByteArray();
+    if (place.isEmpty())
+        return path;
+    const QString top = withClosingSeparator(nameFromDisk(place));
+    const QString within = path + u'/' == top ? QString() : path.sliced(std::min(path.size(), top.size()));
+    if ((!path.startsWith(top) && path + u'/' != top) || within.contains(u'\\'))
+        return path;
+    return letter + u":\\"_s + QString(within).replace(u'/', u'\\');
 }
 
 bool isAbsolute(QStringView path)

@@ -1,7 +1,8 @@
 // The drives of other systems: letters that stand for places on this disk.
 //
-// "Zembro.uni" beside the executable names them, one line a drive, "C=/home/ana/oldc"; a place that isn't
-// absolute counts from the executable's directory. Where there is no such file they are those of the user's
+// "Zembro.uni" beside the executable names them, one line a drive, "C=/home/ana/oldc", in any case and with
+// blanks around either; "~/" is the user's home, and a place that isn't absolute counts from the executable's
+// directory. Where there is no such file they are those of the user's
 // Wine prefix.
 #pragma once
 
@@ -43,6 +44,10 @@ const Drive *driveNamed(QChar letter);
 // Whether the path means the same place from every directory: it begins with a separator, or on a drive that
 // there is.
 bool isAbsolute(QStringView path);
+
+// A path on the disk, absolute and in its spelling there, as the drive has it, "C:\EMUS\NES", its place as
+// "C:\". The path itself where it lies elsewhere, or can't be said so.
+QString spelledOnDrive(QChar letter, const QString &path);
 
 // The drives that a text names, places that aren't absolute from `base` on. Of two lines for a letter the
 // first counts; a line that names none is passed over.

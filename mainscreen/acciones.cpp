@@ -16,6 +16,8 @@
 #include "host/questions.h"
 #include "host/trash.h"
 
+#include "launch/piezas.h"
+
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -155,9 +157,18 @@ bool Portada::GuardaDescripcion(int tipo, int nota, const QString &entrada, cons
 
 void Portada::Menu_Parametros_Click()
 {
-    const QString clave = core::ClaveDeParametros(M, Lista1->Text());
+    QString clave = core::ClaveDeParametros(M, Lista1->Text());
+    bool valen = core::SeEncuentranSusParametros(M, Lista1->Text());
+    // Of a game without a description the name that its launch looks for.
+    const QString enDOS = clave == Lista1->Text()
+        ? launch::ClaveEnDOS(core::RutaDeLinea(M.Cat_EXE(Sistema(), Emulador() + 1)),
+            core::RutaDeLinea(M.Cat_ROM(Sistema(), Emulador() + 1)), clave)
+        : QString();
+    if (!enDOS.isEmpty()) {
+        clave = enDOS;
+        valen = true;
+    }
     const QString actuales = LeeParametros(clave);
-    const bool valen = core::SeEncuentranSusParametros(M, Lista1->Text());
     Mensaje(1, valen ? M.Msg_Parametros1 : M.Palabras.Zem_PideNota, M.Msg_Parametros0, M.TXT_Aceptar,
         M.TXT_Volver, actuales);
     if (M.Respuesta_Caja == actuales || M.Respuesta_Opcion == 1)

@@ -3,6 +3,7 @@
 
 #include "host/process.h"
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 
@@ -36,6 +37,7 @@ protected:
             "especificos\r\nMARIO.NES,Sis,Viejo,-no\r\nOLD.NES,Sis,Viejo,-yes\r\n'\r\n,\r\n,\"\"\r\n");
         Pon(u"old/Zembro.uni"_s, "C=disk\r\n");
         Pon(u"old/disk/EMUS/Viejo.exe"_s, "MZ" + QByteArray(100, '\0'));
+        Pon(u"old/disk/ROMS/A.ZIP"_s, "zip");
         Pon(u"old/IMG/OLD/a.gif"_s, "GIF89a old");
         Pon(u"old/IMG/OLD/b.PCX"_s, "pcx");
         Pon(u"old/IMG/OLD/readme.txt"_s, "text");
@@ -143,7 +145,7 @@ TEST_F(Adopt, OnesOwnDrivesAndCapturesStay)
     QFile::setPermissions(Ruta(u"bin/dosbox"_s), QFile::ReadOwner | QFile::ExeOwner);
     Pon(u"img/Old/A.GIF"_s, "my own");
     const QJsonObject respuesta = Adopta({ u"--write"_s }, companion::Bien);
-    EXPECT_EQ(Estados(respuesta), QStringList({ u"Uno kept"_s, u"Viejo works"_s, u"Lejos works"_s }));
+    EXPECT_EQ(Estados(respuesta), QStringList({ u"Uno kept"_s, u"Viejo works"_s, u"Lejos no-games"_s }));
     EXPECT_EQ(respuesta[u"captures"_s], 1);
     EXPECT_EQ(Bytes(u"img/Old/A.GIF"_s), "my own");
     EXPECT_EQ(Bytes(u"Zembro.uni"_s),
@@ -171,4 +173,45 @@ TEST_F(Adopt, WhatIsNoOtherProgramDirectoryIsRefused)
 {
     for (const QString &ruta : { Ruta(u"roms"_s), Ruta(u"none"_s), Ruta(QString()), QString() })
         EXPECT_EQ(Zembro({ u"adopt"_s, ruta }).estado, companion::NoPudo) << ruta.toStdString();
+}
+
+TEST_F(Adopt, WhatWouldListNoGamesIsToldSo)
+{
+    Pon(u"bin/dosbox"_s, "#!/bin/sh\n");
+    QFile::setPermissions(Ruta(u"bin/dosbox"_s), QFile::ReadOwner | QFile::ExeOwner);
+    QFile::remove(Ruta(u"old/disk/ROMS/A.ZIP"_s));
+    EXPECT_EQ(Estados(Adopta({}, companion::Hallazgos)).value(1), u"Viejo no-games"_s) << "it is empty";
+    QDir().rmdir(Ruta(u"old/disk/ROMS"_s));
+    EXPECT_EQ(Estados(Adopta({}, companion::Hallazgos)).value(1), u"Viejo no-games"_s);
+    EXPECT_TRUE(Zembro({ u"adopt"_s, Ruta(u"old"_s) })
+                    .salida.contains("\nSis / Viejo: It starts, but no games can be listed: "));
+}
+
+TEST_F(Adopt, ADriveThatLeadsElsewhereHereIsTold_AndStays)
+{
+    Pon(u"Zembro.uni"_s, "C=emu\r\n");
+    const QByteArray dicho = Zembro({ u"adopt"_s, Ruta(u"old"_s), u"--write"_s }).salida;
+    EXPECT_TRUE(dicho.contains("The drive C leads to " + Ruta(u"emu"_s).toUtf8() + " here and led to "
+        + Ruta(u"old/disk"_s).toUtf8() + " there."))
+        << dicho.toStdString();
+    EXPECT_EQ(Bytes(u"Zembro.uni"_s), "C=emu\r\n");
+    EXPECT_EQ(Adopta({}, companion::Bien)[u"drives_that_differ"_s].toArray().size(), 1);
+    Pon(u"Zembro.uni"_s, "C=./old/../old/disk/\r\n");
+    EXPECT_EQ(Adopta({}, companion::Bien)[u"drives_that_differ"_s].toArray().size(), 0) << "the same place";
+}
+
+TEST_F(Adopt, PathsThatLeadUpAndGamesBelowTheOldDirectoryAreFoundFromHere)
+{
+    Pon(u"bin/dosbox"_s, "#!/bin/sh\n");
+    QFile::setPermissions(Ruta(u"bin/dosbox"_s), QFile::ReadOwner | QFile::ExeOwner);
+    QByteArray catalogo = Bytes(u"old/Zembro.emu"_s);
+    catalogo.replace("EXE=C:\\EMUS\\VIEJO.EXE", "EXE=..\\EMU\\VIEJO.EXE")
+        .replace("XDI=3\r\nROM=C:\\ROMS\\", "XDI=3\r\nROM=Games\\Zips\\");
+    Pon(u"old/Zembro.emu"_s, catalogo);
+    Pon(u"old/GAMES/ZIPS/A.ZIP"_s, "zip");
+    Pon(u"emu/viejo.exe"_s, "MZ" + QByteArray(100, '\0'));
+    EXPECT_EQ(Estados(Adopta({ u"--write"_s }, companion::Bien)).value(1), u"Viejo works"_s);
+    EXPECT_TRUE(Bytes(u"Zembro.emu"_s).contains("EXE=" + Ruta(u"EMU/VIEJO.EXE"_s).toUtf8() + "\r\n"))
+        << Bytes(u"Zembro.emu"_s).toStdString();
+    EXPECT_TRUE(Bytes(u"Zembro.emu"_s).contains("ROM=" + Ruta(u"old/Games/Zips/"_s).toUtf8() + "\r\n"));
 }

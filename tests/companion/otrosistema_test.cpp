@@ -147,3 +147,121 @@ TEST_F(OtroSistema, CheckNamesAMissingToolAndADriveOnce)
     EXPECT_EQ(Hallazgos(u"no-drive"_s),
         QStringList { u"There is no drive C for C:\\EMU\\UNO.EXE: name its place in Zembro.uni."_s });
 }
+
+TEST_F(OtroSistema, CheckTellsAllTheDrivesOfAPair)
+{
+    PonHerramienta(u"dosbox"_s);
+    const QJsonObject respuesta = Json({ u"check"_s, u"Sis"_s, u"Uno"_s }, companion::Hallazgos);
+    const QJsonArray unidades = respuesta[u"pairs"_s][0][u"drives"_s].toArray();
+    ASSERT_EQ(unidades.size(), 2);
+    EXPECT_EQ(unidades[1][u"letter"_s], u"D"_s);
+    EXPECT_EQ(unidades[1][u"place"_s], Ruta(u"roms"_s));
+}
+
+TEST_F(OtroSistema, CommandShowsAFileUnderAnotherName)
+{
+    PonHerramienta(u"dosbox"_s);
+    Pon(u"roms/ni\u00F1o.nes"_s, "a game");
+    const QStringList orden { u"command"_s, u"Sis"_s, u"Uno"_s, u"ni\u00F1o.nes"_s };
+    const QByteArray dicho = Zembro(orden).salida;
+    EXPECT_TRUE(dicho.contains(Ruta(u"roms/ni\u00F1o.nes"_s).toUtf8() + ", shown as NINO.NES\n"))
+        << dicho.toStdString();
+    EXPECT_TRUE(dicho.contains("/ZB-DOS-*/files-")) << dicho.toStdString();
+    EXPECT_FALSE(dicho.contains("mount D ")) << dicho.toStdString();
+    const QJsonArray unidades = Json(orden)[u"drives"_s].toArray();
+    EXPECT_EQ(unidades.last()[u"shows"_s], u"ni\u00F1o.nes"_s);
+    EXPECT_EQ(unidades.last()[u"as"_s], u"NINO.NES"_s);
+}
+
+TEST_F(OtroSistema, WithoutAToolCommandShowsNoEmptyProgram)
+{
+    const Respuesta respuesta = Zembro({ u"command"_s, u"Sis"_s, u"Uno"_s, u"Mario"_s });
+    EXPECT_FALSE(respuesta.salida.contains("''")) << respuesta.salida.toStdString();
+    EXPECT_TRUE(respuesta.salida.contains("Install DOSBox.")) << respuesta.salida.toStdString();
+    EXPECT_TRUE(respuesta.salida.contains("DOS gets: C:\\EMU")) << respuesta.salida.toStdString();
+    for (const QString &opcion : { u"--lines"_s, u"--shell"_s }) {
+        const Respuesta una = Zembro({ u"command"_s, u"Sis"_s, u"Uno"_s, u"Mario"_s, opcion });
+        EXPECT_EQ(una.salida, "") << opcion.toStdString();
+        EXPECT_TRUE(una.error.contains("Install DOSBox.")) << opcion.toStdString();
+    }
+}
+
+TEST_F(OtroSistema, GamesOfADriveThatIsMissingAreToldByTheDrive)
+{
+    Pon(u"Zembro.uni"_s, "C=.\r\n");
+    EXPECT_TRUE(Zembro({ u"list"_s, u"Sis"_s, u"Uno"_s })
+                    .salida.contains("There is no drive D for D:\\: name its place in Zembro.uni."));
+    EXPECT_EQ(Hallazgos(u"no-list"_s).size(), 1);
+    EXPECT_TRUE(Hallazgos(u"no-list"_s).value(0).contains(u"There is no drive D"_s));
+    Pon(u"Zembro.uni"_s, "C=/nowhere\r\nD=roms\r\n");
+    EXPECT_EQ(
+        Hallazgos(u"no-program"_s), QStringList { u"The drive C leads to /nowhere, which is not there."_s });
+}
+
+TEST_F(OtroSistema, CheckTellsTheLinesOfDrivesThatDontCount)
+{
+    Pon(u"Zembro.uni"_s,
+        "C=.\r\n c: = other\r\nsome words\r\n\r\n' a note\r\nd = roms \r\nE=\r\nF=/nowhere\r\nG=C:\\x\r\n");
+    EXPECT_EQ(Hallazgos(u"drive-twice"_s),
+        QStringList { u"The drive C has its place from an earlier line, 1: this one doesn't count."_s });
+    EXPECT_EQ(Hallazgos(u"no-drive-line"_s).size(), 3);
+    EXPECT_EQ(Hallazgos(u"drive-missing"_s),
+        QStringList { u"The drive F leads to /nowhere, which is not there."_s });
+    EXPECT_TRUE(Zembro({ u"check"_s }).salida.contains("\nZembro.uni:3: This line names no drive"));
+}
+
+TEST_F(OtroSistema, CheckTellsAMissingWineOf32Bits)
+{
+    PonHerramienta(u"wine"_s);
+    Pon(u"emu/uno.exe"_s, ParaWindows + QByteArray("\x4c\x01", 2));
+    EXPECT_EQ(Hallazgos(u"no-wine32"_s), QStringList()) << "nobody can tell";
+    PonDirectorio(u"lib/x86_64-linux-gnu/wine/x86_64-unix"_s);
+    ASSERT_EQ(Hallazgos(u"no-wine32"_s).size(), 1);
+    EXPECT_TRUE(Hallazgos(u"no-wine32"_s)[0].contains(u"apt install wine32"_s));
+    EXPECT_TRUE(Zembro({ u"command"_s, u"Sis"_s, u"Uno"_s, u"Mario"_s }).salida.contains("wine32"));
+    Pon(u"emu/uno.exe"_s, ParaWindows + QByteArray("\x64\x86", 2));
+    EXPECT_EQ(Hallazgos(u"no-wine32"_s), QStringList());
+    Pon(u"emu/uno.exe"_s, ParaWindows + QByteArray("\x4c\x01", 2));
+    PonDirectorio(u"lib/i386-linux-gnu/wine/i386-unix"_s);
+    EXPECT_EQ(Hallazgos(u"no-wine32"_s), QStringList());
+}
+
+TEST_F(OtroSistema, ParametersUnderTheNamesOfDosAreAlive)
+{
+    PonHerramienta(u"dosbox"_s);
+    Pon(u"roms/Other Game.nes"_s, "a game");
+    Pon(u"roms/Abcdefghij.nes"_s, "a game");
+    Cambia(u"Zembro.rom"_s, "MARIO.NES,Sis,Uno,-fast\r\n",
+        "MARIO.NES,Sis,Uno,-fast\r\nOTHERG~1.NES,Sis,Uno,-a\r\nABCDEFGHIJ.NES,Sis,Uno,-b\r\n"
+        "OTHERG~2.NES,Sis,Uno,-c\r\n");
+    EXPECT_EQ(Hallazgos(u"parameters-without-file"_s).size(), 1);
+    EXPECT_TRUE(Hallazgos(u"parameters-without-file"_s).value(0).contains(u"OTHERG~2"_s));
+    ASSERT_EQ(Hallazgos(u"lost-parameters"_s).size(), 1);
+    EXPECT_TRUE(Hallazgos(u"lost-parameters"_s)[0].contains(u"ABCDEFGHIJ.NES"_s));
+    EXPECT_TRUE(Zembro({ u"command"_s, u"Sis"_s, u"Uno"_s, u"Other Game.nes"_s })
+                    .salida.contains("DOS gets: C:\\EMU\\UNO.EXE -a D:\\OTHERG~1.NES  -a\n"));
+}
+
+TEST_F(OtroSistema, CheckBringsBackWhatAGameSaved_AndTellsWhatCantBe)
+{
+    const QByteArray temporal = qgetenv("TMPDIR");
+    PonDirectorio(u"temporal"_s);
+    QFile::setPermissions(Ruta(u"temporal"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    qputenv("TMPDIR", Ruta(u"temporal"_s).toUtf8());
+    const QString corrida = u"temporal/ZB-DOS-99999999-1/"_s; // no process has such a number
+    Pon(u"roms/ni\u00F1o.nes"_s, "a game");
+    Pon(corrida + u"files-E/NINO.SAV"_s, "saved");
+    PonDirectorio(corrida + u"shown-E"_s);
+    ASSERT_TRUE(QFile::link(Ruta(u"gone/ni\u00F1o.nes"_s), Ruta(corrida + u"shown-E/NINO.NES"_s)));
+    const QString queda = Ruta(u"gone"_s) + u'|' + Ruta(corrida + u"files-E"_s);
+    Pon(u"LNG/ZB-ENG.LNG"_s, "Zem_NoVuelve1.....=\"%1|%2\"\r\n");
+    EXPECT_EQ(Hallazgos(u"left-behind"_s), QStringList { queda });
+    QFile::remove(Ruta(corrida + u"shown-E/NINO.NES"_s));
+    ASSERT_TRUE(QFile::link(Ruta(u"roms/ni\u00F1o.nes"_s), Ruta(corrida + u"shown-E/NINO.NES"_s)));
+    EXPECT_TRUE(Zembro({ u"check"_s })
+                    .salida.startsWith("What a game had saved is back in its place: "
+                        + Ruta(u"roms/NINO.SAV"_s).toUtf8() + "\n"));
+    EXPECT_EQ(Bytes(u"roms/NINO.SAV"_s), "saved");
+    EXPECT_FALSE(QFile::exists(Ruta(corrida)));
+    temporal.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporal);
+}

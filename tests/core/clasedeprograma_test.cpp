@@ -110,3 +110,18 @@ TEST_F(ClaseDeFichero, IsReadFromTheDisk)
     EXPECT_EQ(core::ClaseDe(path(u"none"_s)), ClaseDePrograma::Desconocida);
     EXPECT_EQ(core::ClaseDe(path()), ClaseDePrograma::Desconocida);
 }
+
+TEST(ClaseDePrograma, De32BitsSonLosDeIntelCorrientesYLosDe16)
+{
+    const auto pe = [](const QByteArray &maquina) {
+        return "MZ" + QByteArray(0x3a, '\0') + QByteArray("\x40\0\0\0PE\0\0", 8) + maquina;
+    };
+    EXPECT_TRUE(core::EsDe32Bits(pe("\x4c\x01")));
+    EXPECT_FALSE(core::EsDe32Bits(pe("\x64\x86")));
+    EXPECT_FALSE(core::EsDe32Bits(pe({})));
+    EXPECT_TRUE(core::EsDe32Bits(
+        "MZ" + QByteArray(0x3a, '\0') + QByteArray("\x40\0\0\0NE", 6) + QByteArray(80, '\0')));
+    for (const QByteArray &otro :
+        { QByteArray("MZ") + QByteArray(100, '\0'), QByteArray("#!/bin/sh"), QByteArray() })
+        EXPECT_FALSE(core::EsDe32Bits(otro));
+}

@@ -72,6 +72,27 @@ TEST(DriveLines, APlaceThatIsNotAbsoluteCountsFromTheExecutable)
     EXPECT_THAT(drivesIn(u"C=../oldc/"_s, u"/p"_s), ElementsAre(Drive { u'C', u"/p/../oldc"_s }));
 }
 
+TEST(DriveLines, ATildeIsTheHome)
+{
+    const QString home = QDir::homePath();
+    EXPECT_THAT(drivesIn(u"C=~\nD= ~/old c/ \nE=~ana\nF=./~"_s, u"/p"_s),
+        ElementsAre(Drive { u'C', home }, Drive { u'D', home + u"/old c"_s }, Drive { u'E', u"/p/~ana"_s },
+            Drive { u'F', u"/p/./~"_s }));
+}
+
+TEST_F(Drives, APathIsSpelledOnTheDriveThatItLiesOn)
+{
+    name("C=" + place("old") + "/\nZ=/\nE=/nowhere\n");
+    EXPECT_EQ(spelledOnDrive(u'C', path(u"old/EMUS/Nes.exe"_s)), u"C:\\EMUS\\Nes.exe"_s);
+    EXPECT_EQ(spelledOnDrive(u'C', path(u"old"_s)), u"C:\\"_s);
+    EXPECT_EQ(spelledOnDrive(u'Z', u"/usr/bin"_s), u"Z:\\usr\\bin"_s);
+    EXPECT_EQ(spelledOnDrive(u'Z', u"/"_s), u"Z:\\"_s);
+    for (const QString &other : { path(u"older/EMUS"_s), u"/"_s, path(u"old/a\\b"_s) })
+        EXPECT_EQ(spelledOnDrive(u'C', other), other);
+    EXPECT_EQ(spelledOnDrive(u'E', u"/usr"_s), u"/usr"_s);
+    EXPECT_EQ(spelledOnDrive(u'F', u"/usr"_s), u"/usr"_s);
+}
+
 TEST(DriveLines, AreReadBackAsTheyAreWritten)
 {
     for (const QString &place : { u"/"_s, u"/media/cd"_s, u"/a b "_s, u"/ "_s, u"/a=b, \"c\""_s, u"/C:"_s,
