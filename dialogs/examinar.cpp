@@ -104,7 +104,7 @@ void Examinar::Directorios_Change()
 
 void Examinar::Acepta()
 {
-    M.RutaExaminar = Directorios->Path();
+    M.RutaExaminar = Directorios->PathAsEntered();
     M.ArchivoExaminar = Archivos->Text();
     Unload();
 }

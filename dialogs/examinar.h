@@ -20,8 +20,8 @@ namespace dialogs {
 // Archivos to have a directory picked, writes the texts, and shows it.
 //
 // Answers: Respuesta_Opcion is 1 if the user went back, else 0. On acceptance RutaExaminar is the open
-// directory, as DirectoryList::Path tells it, and ArchivoExaminar the name marked in Archivos, empty if none
-// is. Left in any other way, by the box for closing too, both keep their old values.
+// directory, as DirectoryList::PathAsEntered tells it, and ArchivoExaminar the name marked in Archivos, empty
+// if none is. Left in any other way, by the box for closing too, both keep their old values.
 class Examinar : public forms::Form {
 public:
     // Shows a notice: text, title, and the words of its two buttons.

@@ -2,6 +2,7 @@
 
 #include "core/catalogo.h"
 #include "core/clasedeprograma.h"
+#include "core/rutas.h"
 
 #include "host/encoding.h"
 #include "host/failure.h"
@@ -43,6 +44,18 @@ FichaDOS fichaDe(const QString &linea)
 bool esDeDOS(const QString &ruta, qint64 bytes, const FichaDOS &ficha)
 {
     return bytes >= ficha.desde && bytes <= ficha.hasta && core::ClaseDe(ruta) == core::ClaseDePrograma::DOS;
+}
+
+// The program of each configured pair, behind its system: the user may have given it a name of his own.
+QSet<QString> programasDe(const core::Modulo &catalogo)
+{
+    QSet<QString> programas;
+    for (int s = 0; s <= catalogo.Indice_Sistema; ++s) {
+        const QString sistema = core::Valor(catalogo.Cat_Nombre(s, 0), 1);
+        for (int e = 1; e <= core::TotalEmuladores(catalogo, s); ++e)
+            programas += sistema + u'\n' + host::trueSpelling(core::RutaDeLinea(catalogo.Cat_EXE(s, e)));
+    }
+    return programas;
 }
 
 QString dichoEn(const host::Drive &unidad, const QString &ruta)
@@ -172,11 +185,13 @@ std::vector<Hallazgo> HallazgosDOS(const core::Modulo &base, const core::Modulo 
 {
     const QSet<QString> sistemas = sistemasDe(base);
     const QSet<QString> configurados = NombresConfigurados(catalogo);
+    const QSet<QString> programas = programasDe(catalogo);
     std::vector<Hallazgo> hallazgos;
     for (const EnUnidad &visto : vistos) {
         const Ficha &ficha = visto.ficha->ficha;
         const QString &sistema = visto.ficha->sistema;
-        if (!sistemas.contains(sistema) || configurados.contains(u'+' + ficha.emulador))
+        if (!sistemas.contains(sistema) || configurados.contains(u'+' + ficha.emulador)
+            || programas.contains(sistema + u'\n' + visto.programa))
             continue;
         const Parametros parametros = ParametrosDe(ficha);
         Hallazgo hallazgo;

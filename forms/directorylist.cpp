@@ -3,6 +3,7 @@
 #include "forms/pieces.h"
 #include "forms/plaintext.h"
 
+#include "host/drives.h"
 #include "host/failure.h"
 #include "host/paths.h"
 
@@ -46,6 +47,18 @@ DirectoryList::DirectoryList(QWidget *parent)
 
 void DirectoryList::SetPath(const QString &path)
 {
+    open(path);
+    const host::Drive *drive = host::driveNamed(host::driveLetter(path));
+    m_drive = drive ? drive->letter : QChar();
+}
+
+QString DirectoryList::PathAsEntered() const
+{
+    return m_drive.isNull() ? m_path : host::spelledOnDrive(m_drive, m_path);
+}
+
+void DirectoryList::open(const QString &path)
+{
     const QString found = host::directoryPath(path);
     const QStringList subdirectories = host::listDirectories(found);
     if (found == m_path)
@@ -82,7 +95,7 @@ void DirectoryList::openRow(int row)
     if (row < 0)
         return;
     try {
-        SetPath(QString(m_paths[row]));
+        open(QString(m_paths[row]));
     } catch (const host::Failure &) {
         // Not for this user's eyes, or gone meanwhile.
     }

@@ -14,6 +14,8 @@ public:
     Event<> Change; // another directory is open
 
     const QString &Path() const { return m_path; } // absolute, without a closing separator but for the root
+    // The same in the spelling of the drive that it was entered by, "C:\EMUS", as long as it lies on that.
+    QString PathAsEntered() const;
     void SetPath(const QString &path); // fails with 76 if there is no such directory or it can't be read;
                                        // the open one stays then
 
@@ -25,8 +27,10 @@ private:
     void addRow(const QString &path, const QString &name, int depth, bool open);
     void fill(const QStringList &subdirectories);
     void openRow(int row);
+    void open(const QString &path);
 
     QString m_path;
+    QChar m_drive; // null for none
     QStringList m_paths; // by row
 };
 

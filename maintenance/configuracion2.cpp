@@ -171,9 +171,11 @@ void Configuracion2::BuscaEjecutable()
     const qsizetype separador = host::lastSeparator(texto);
     if (!CargaExaminar(separador < 0 ? texto : texto.first(separador + 1)))
         return;
-    if (Examina())
-        Casilla1->SetText(
-            core::ValorDeRuta(M.RutaExaminar + host::separatorOf(M.RutaExaminar) + M.ArchivoExaminar));
+    if (!Examina())
+        return;
+    const bool cerrada = M.RutaExaminar.endsWith(u'\\'); // a drive itself
+    const QString cierre = cerrada ? QString() : QString(host::separatorOf(M.RutaExaminar));
+    Casilla1->SetText(core::ValorDeRuta(M.RutaExaminar + cierre + M.ArchivoExaminar));
 }
 
 void Configuracion2::BuscaDirectorio(forms::TextBox &casilla)

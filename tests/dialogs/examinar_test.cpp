@@ -311,7 +311,26 @@ TEST_F(ExaminarTest, TheDrivesAreVolumesToo)
     });
     ASSERT_EQ(notices.size(), 1u);
     EXPECT_EQ(notices[0].text, u"The drive D: isn't there."_s);
-    EXPECT_EQ(M.RutaExaminar, games());
+    EXPECT_EQ(M.RutaExaminar, u"C:\\"_s) << "as it was entered";
+}
+
+TEST_F(ExaminarTest, WhatWasEnteredByADriveIsAnsweredInItsSpelling)
+{
+    const QString above = games().first(games().lastIndexOf(u'/'));
+    const QString name = games().sliced(above.size() + 1);
+    files.write(u"Zembro.uni"_s, "C=" + above.toUtf8() + "\r\n");
+    browse(games(), [this](forms::Form &form) {
+        pick(drives(form), u"C:"_s);
+        tree(form).SetPath(u"C:\\"_s + games().sliced(games().lastIndexOf(u'/') + 1));
+        press(form, u"Aceptar2"_s);
+    });
+    EXPECT_EQ(M.RutaExaminar, u"C:\\"_s + name);
+    browse(games(), [this](forms::Form &form) {
+        pick(drives(form), u"C:"_s);
+        pick(drives(form), u"/"_s);
+        press(form, u"Aceptar2"_s);
+    });
+    EXPECT_EQ(M.RutaExaminar, u"/"_s);
 }
 
 TEST_F(ExaminarTest, AVolumeThatIsntReadyGivesTheNotice_AndTheOldDirectoryIsStillTheAnswer)

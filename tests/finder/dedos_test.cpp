@@ -134,6 +134,20 @@ TEST_F(BelowTheDrives, TheyAreFindingsOfTheirSystem_UnlessTheCatalogueHasThem)
     EXPECT_THAT(finder::HallazgosDOS(*base, *catalogue, seen, u"/z"_s).size(), 0U);
 }
 
+TEST_F(BelowTheDrives, OneThatIsConfiguredUnderAnotherNameIsNotOfferedAgain)
+{
+    maquina.PonFichero(u"c/two.exe"_s, ForDos);
+    const host::OtherDrives ours(drives());
+    const auto seen = finder::RecorreUnidades(cards, drives());
+    const auto base = std::make_unique<core::Modulo>();
+    const auto catalogue = std::make_unique<core::Modulo>();
+    finder::LeeTablas(*base, u"-NES\nWEB1=\n*.NES\n'\n+Nestopia\nWEB2=\n'---\n[EOF]\n"_s);
+    finder::LeeTablas(*catalogue, u"-NES\n'\n+My Two\nEXE=c:/TWO.EXE\n'---\n[EOF]\n"_s);
+    EXPECT_THAT(finder::HallazgosDOS(*base, *catalogue, seen, u"/z"_s).size(), 0U);
+    finder::LeeTablas(*catalogue, u"-Other\n'\n+My Two\nEXE=c:/TWO.EXE\n'---\n[EOF]\n"_s);
+    EXPECT_THAT(finder::HallazgosDOS(*base, *catalogue, seen, u"/z"_s).size(), 1U) << "for another system";
+}
+
 TEST(TableOfDosEmulators, RefusesWhatItCantRead)
 {
     const QString good = u"A\tNES\ta.exe\t1-2\t0\t-\t-"_s;
