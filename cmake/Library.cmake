@@ -16,8 +16,8 @@ if(ZEMBROLIX_FUZZ)
     target_compile_options(zembrolix_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# The headers that nearly every file includes, compiled once. A file still includes what it uses: the release is built
-# without them.
+# The headers that nearly every file includes, compiled once. A file still includes what it uses: the sanitized build
+# compiles the program's files without them, each by itself.
 set(precompiled_files
     <algorithm> <array> <functional> <memory> <optional> <string> <utility> <vector>
     <QByteArray> <QDir> <QFile> <QFileInfo> <QHash> <QPointer> <QSet> <QString> <QStringList> <QTimer>)
@@ -28,9 +28,6 @@ set(precompiled_tests <gmock/gmock.h> <QTest>)
 # Compiles a set of headers for the targets that reuse it; they are compiled with the same options.
 function(zembrolix_precompiled name)
     cmake_parse_arguments(arg "" "" "HEADERS;LINK;OPTIONS" ${ARGN})
-    if(NOT ZEMBROLIX_PRECOMPILED)
-        return()
-    endif()
     set(empty ${PROJECT_BINARY_DIR}/precompiled.cpp)
     file(CONFIGURE OUTPUT ${empty} CONTENT "")
     add_library(${name} OBJECT ${empty})
@@ -39,25 +36,26 @@ function(zembrolix_precompiled name)
     target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
 endfunction()
 
-# Lets a target use what zembrolix_precompiled has made.
-function(zembrolix_reuse_precompiled target name)
-    if(ZEMBROLIX_PRECOMPILED)
-        target_precompile_headers(${target} REUSE_FROM ${name})
-    endif()
-endfunction()
-
-zembrolix_precompiled(precompiled_files HEADERS ${precompiled_files} LINK Qt6::Core)
-zembrolix_precompiled(precompiled_screens HEADERS ${precompiled_screens} LINK Qt6::Widgets)
+if(ZEMBROLIX_PRECOMPILED)
+    zembrolix_precompiled(precompiled_files HEADERS ${precompiled_files} LINK Qt6::Core)
+    zembrolix_precompiled(precompiled_screens HEADERS ${precompiled_screens} LINK Qt6::Widgets)
+endif()
 
 # One folder of the house, or a part of one: a static library that sees only what it links. SCREENS where it draws,
-# PLAIN where it does without the toolkit.
+# PLAIN where it does without the toolkit, APART where its files use the same names for things of their own.
 function(zembrolix_library name)
-    cmake_parse_arguments(arg "SCREENS;PLAIN" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(arg "SCREENS;PLAIN;APART" "" "SOURCES;LINK" ${ARGN})
     add_library(${name} STATIC ${arg_SOURCES})
     target_link_libraries(${name} PUBLIC zembrolix_flags ${arg_LINK})
+    if(ZEMBROLIX_UNITY AND NOT arg_APART)
+        set_target_properties(${name} PROPERTIES UNITY_BUILD ON)
+    endif()
+    if(NOT ZEMBROLIX_PRECOMPILED)
+        return()
+    endif()
     if(arg_SCREENS)
-        zembrolix_reuse_precompiled(${name} precompiled_screens)
+        target_precompile_headers(${name} REUSE_FROM precompiled_screens)
     elseif(NOT arg_PLAIN)
-        zembrolix_reuse_precompiled(${name} precompiled_files)
+        target_precompile_headers(${name} REUSE_FROM precompiled_files)
     endif()
 endfunction()

@@ -12,7 +12,7 @@ namespace {
 const QString Conversor = u"Cvtcap.exe"_s;
 
 // Longer than the converter leaves one picture.
-constexpr std::chrono::minutes Paciencia(5);
+constexpr std::chrono::minutes PacienciaConLaImagen(5);
 
 QString rutaDelConversor()
 {
@@ -41,7 +41,7 @@ std::vector<Convertida> Convierte(const std::vector<PorConvertir> &pares)
     // Until it says so none is made.
     std::vector<Convertida> convertidas(pares.size(), Convertida { u"failed"_s, {} });
     QByteArray pendiente;
-    host::readProgram({ rutaDelConversor() }, nombres, Paciencia, [&](const QByteArray &bytes) {
+    host::readProgram({ rutaDelConversor() }, nombres, PacienciaConLaImagen, [&](const QByteArray &bytes) {
         pendiente += bytes;
         qsizetype desde = 0;
         for (qsizetype fin = pendiente.indexOf('\n'); fin >= 0; fin = pendiente.indexOf('\n', desde)) {

@@ -16,7 +16,7 @@ namespace companion {
 namespace {
 
 // It begins to write at once; a disk that has to wake up takes its time.
-constexpr std::chrono::minutes Paciencia(1);
+constexpr std::chrono::minutes PacienciaConMame(1);
 
 bool esMAME(const QString &ruta)
 {
@@ -39,7 +39,7 @@ QString MAMEDe(const core::Modulo &M, const std::vector<Pareja> &parejas)
 
 QString LeeListaDeMAME(const QString &mame, const std::function<void(const QByteArray &)> &toma)
 {
-    const host::ProcessEnd final = host::readProgram({ mame, u"-listxml"_s }, {}, Paciencia, toma);
+    const host::ProcessEnd final = host::readProgram({ mame, u"-listxml"_s }, {}, PacienciaConMame, toma);
     if (final.signal)
         return u"signal "_s + QString::number(*final.signal);
     return final.status == 0 ? QString() : u"status "_s + QString::number(final.status.value_or(-1));

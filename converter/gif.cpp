@@ -113,7 +113,7 @@ Magick::Image reducedImage(const Picture &picture, const std::vector<std::uint32
     return image;
 }
 
-Magick::Image imageOf(const Picture &picture)
+Magick::Image indexedImageOf(const Picture &picture)
 {
     if (!picture.palette.empty())
         return indexedImage(picture);
@@ -128,7 +128,7 @@ Magick::Image imageOf(const Picture &picture)
 std::string writeGif(const Picture &picture)
 {
     startLibrary();
-    Magick::Image image = imageOf(picture);
+    Magick::Image image = indexedImageOf(picture);
     image.magick("GIF");
     Magick::Blob blob;
     image.write(&blob);

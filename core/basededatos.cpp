@@ -15,7 +15,7 @@ namespace core {
 
 namespace {
 
-constexpr int MaxBusqueda = 150; // steps of the search for an emulator in the catalogue
+constexpr int MaxBusquedaDeEmulador = 150; // steps of the search for an emulator in the catalogue
 constexpr int MaxExtensionesDeAlta = 150; // extensions that a new block of the catalogue takes
 
 } // namespace
@@ -126,7 +126,7 @@ bool EmuladorEnCatalogo(const Modulo &M, const QString &nombre)
 {
     int sistema = 0;
     int columna = 0;
-    for (int paso = 0; paso < MaxBusqueda; ++paso) {
+    for (int paso = 0; paso < MaxBusquedaDeEmulador; ++paso) {
         const QString &linea = M.Cat_Nombre(sistema, columna);
         if (linea == u'+' + nombre)
             return true;

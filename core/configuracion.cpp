@@ -14,7 +14,7 @@ namespace core {
 
 namespace {
 
-constexpr int MaxBusqueda = 150; // systems, and emulators of one, that the search for a pair looks at
+constexpr int MaxBusquedaDePareja = 150; // systems, and emulators of one, that the search for a pair looks at
 constexpr int SoloEmulador = 5; // what check4 adds to the digit
 
 const QString SistemaDeDiscos = u"Play Station"_s;
@@ -146,7 +146,7 @@ namespace {
 Situacion situacionEnFila(Modulo &M, const QString &emulador)
 {
     M.Indice_Emulador = 0;
-    for (int paso = 0; paso < MaxBusqueda; ++paso) {
+    for (int paso = 0; paso < MaxBusquedaDePareja; ++paso) {
         const QString &linea = M.Cat_Nombre(M.Indice_Sistema, ++M.Indice_Emulador);
         if (linea.isEmpty())
             return SinEmuladorConfigurado;
@@ -161,7 +161,7 @@ Situacion situacionEnFila(Modulo &M, const QString &emulador)
 Situacion SituacionDe(Modulo &M, const QString &sistema, const QString &emulador)
 {
     M.Indice_Sistema = M.Indice_Emulador = 0;
-    for (int paso = 0; paso < MaxBusqueda; ++paso) {
+    for (int paso = 0; paso < MaxBusquedaDePareja; ++paso) {
         const QString &linea = M.Cat_Nombre(M.Indice_Sistema, 0);
         if (!linea.startsWith(u'-'))
             break;

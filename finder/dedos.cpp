@@ -26,16 +26,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int Columnas = 7;
+constexpr int ColumnasDOS = 7;
 constexpr qint64 KiB = 1024;
 
-FichaDOS fichaDe(const QString &linea)
+FichaDOS fichaDOSDe(const QString &linea)
 {
     const QStringList columnas = linea.split(u'\t');
     const QStringList bytes = columnas.value(3).split(u'-');
     const qint64 desde = bytes[0].toLongLong() * KiB;
     const qint64 hasta = bytes.value(1).toLongLong() * KiB;
-    if (columnas.size() != Columnas || columnas.contains(QString()) || desde <= 0 || hasta < desde)
+    if (columnas.size() != ColumnasDOS || columnas.contains(QString()) || desde <= 0 || hasta < desde)
         throw host::Failure(host::InvalidArgument, u"read the table of emulators for DOS"_s, linea);
     const QStringList comunes { columnas[0], columnas[2].toUpper(), columnas[4], columnas[5], columnas[6] };
     return { LeeFichas(comunes.join(u'\t'))[0], columnas[1], desde, hasta };
@@ -162,7 +162,7 @@ std::vector<FichaDOS> LeeFichasDOS(const QString &texto)
     for (const QString &linea : texto.split(u'\n', Qt::SkipEmptyParts)) {
         if (linea.startsWith(u'#'))
             continue;
-        fichas.push_back(fichaDe(linea));
+        fichas.push_back(fichaDOSDe(linea));
         const QString &nombre = fichas.back().ficha.emulador;
         if (nombres.contains(nombre))
             throw host::Failure(host::InvalidArgument, u"read the table of emulators for DOS"_s, nombre);

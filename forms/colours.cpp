@@ -14,7 +14,7 @@ namespace {
 constexpr QRgb Night = qRgb(0, 0, 64); // the ground of the screens
 constexpr QRgb Well = qRgb(6, 11, 34);
 constexpr QRgb Panel = qRgb(13, 20, 52);
-constexpr QRgb Face = qRgb(49, 65, 132);
+constexpr QRgb ButtonFace = qRgb(49, 65, 132);
 constexpr QRgb FaceTop = qRgb(74, 93, 166);
 constexpr QRgb FaceBottom = qRgb(39, 52, 108);
 constexpr QRgb LitEdge = qRgb(157, 178, 240);
@@ -55,7 +55,7 @@ QPalette controlColours()
 {
     const QColor paper = colourFromNumber(0x80000005);
     const QColor ink = inkColour();
-    QPalette palette(QColor(Cyan), QColor(Face), QColor(LitEdge), QColor(Teal), QColor(FaceBottom), ink,
+    QPalette palette(QColor(Cyan), QColor(ButtonFace), QColor(LitEdge), QColor(Teal), QColor(FaceBottom), ink,
         Qt::white, paper, QColor(Night));
     const auto set = [&palette](
                          QPalette::ColorRole role, QRgb colour) { palette.setColor(role, QColor(colour)); };

@@ -78,7 +78,7 @@ private:
     ComboBox &m_combo;
 };
 
-QAccessibleInterface *accessOf(const QString &, QObject *object)
+QAccessibleInterface *comboAccessOf(const QString &, QObject *object)
 {
     auto *combo = dynamic_cast<ComboBox *>(object);
     return combo ? new ComboAccess(*combo) : nullptr;
@@ -88,7 +88,7 @@ QAccessibleInterface *accessOf(const QString &, QObject *object)
 
 void TellAssistantsOfCombos()
 {
-    QAccessible::installFactory(&accessOf);
+    QAccessible::installFactory(&comboAccessOf);
 }
 
 // What the toolkit itself tells of it, a changed value, isn't handed on.

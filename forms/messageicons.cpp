@@ -25,19 +25,19 @@ struct Look {
 
 Look lookOf(MessageSign sign)
 {
-    constexpr QRgb Green = qRgb(192, 255, 192);
-    constexpr QRgb Teal = qRgb(48, 200, 200);
+    constexpr QRgb SignLetter = qRgb(192, 255, 192);
+    constexpr QRgb SignRim = qRgb(48, 200, 200);
     switch (sign) {
     case MessageSign::Warning:
         return { qRgb(255, 200, 80), qRgb(255, 190, 80), qRgb(214, 122, 16), qRgb(26, 12, 2), u"!" };
     case MessageSign::Failure:
         return { qRgb(255, 150, 140), qRgb(216, 64, 56), qRgb(128, 16, 24), qRgb(255, 255, 255), u"" };
     case MessageSign::Information:
-        return { Teal, qRgb(74, 93, 166), qRgb(27, 38, 84), Green, u"i" };
+        return { SignRim, qRgb(74, 93, 166), qRgb(27, 38, 84), SignLetter, u"i" };
     case MessageSign::Question:
         break;
     }
-    return { Teal, qRgb(74, 93, 166), qRgb(27, 38, 84), Green, u"?" };
+    return { SignRim, qRgb(74, 93, 166), qRgb(27, 38, 84), SignLetter, u"?" };
 }
 
 QPainterPath outlineOf(MessageSign sign)

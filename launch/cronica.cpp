@@ -14,7 +14,7 @@ namespace launch {
 
 namespace {
 
-const QString Programa = u"zembrolix"_s;
+const QString NombreDelPrograma = u"zembrolix"_s;
 constexpr qsizetype Cabecera = 4; // program, time, number, what happened
 
 QString ahora()
@@ -39,7 +39,7 @@ Cronica::Cronica(Voz voz)
 
 void Cronica::Di(const QStringList &partes)
 {
-    m_voz(EnShell(QStringList { Programa, ahora(), m_numero } + partes));
+    m_voz(EnShell(QStringList { NombreDelPrograma, ahora(), m_numero } + partes));
 }
 
 void Cronica::Juego(const QString &sistema, const QString &emulador, const QString &entrada)
@@ -112,7 +112,7 @@ std::optional<Partida> UltimaPartida(const QString &texto)
     QList<QStringList> lineas;
     for (const QString &linea : texto.split(u'\n')) {
         const QStringList partes = DeShell(linea);
-        if (partes.size() >= Cabecera && partes[0] == Programa)
+        if (partes.size() >= Cabecera && partes[0] == NombreDelPrograma)
             lineas += partes;
     }
     // The last one that began, whatever has ended since.

@@ -15,7 +15,7 @@ namespace launch {
 
 namespace {
 
-constexpr std::size_t Bloque = 65536;
+constexpr std::size_t BloqueDelZIP = 65536;
 constexpr std::int64_t MaxMiembros = 1'000'000;
 // The record at the end, ahead of a comment, and that of a member.
 constexpr std::int64_t LargoFin = 22;
@@ -109,7 +109,7 @@ std::vector<std::int64_t> LugaresDeSistemasComoFat(const host::Descriptor &fiche
 
 FuenteZip::FuenteZip(host::Descriptor fichero)
     : m_fichero(std::move(fichero))
-    , m_bloque(Bloque)
+    , m_bloque(BloqueDelZIP)
 {
 }
 
@@ -133,7 +133,7 @@ la_ssize_t FuenteZip::lee(archive *archivo, void *fuente, const void **bytes)
     auto *yo = static_cast<FuenteZip *>(fuente);
     ssize_t leidos = -1;
     do
-        leidos = pread(yo->m_fichero.number(), yo->m_bloque.data(), Bloque, yo->m_lugar);
+        leidos = pread(yo->m_fichero.number(), yo->m_bloque.data(), BloqueDelZIP, yo->m_lugar);
     while (leidos < 0 && errno == EINTR);
     if (leidos < 0) {
         archive_set_error(archivo, errno, "the archive can't be read");

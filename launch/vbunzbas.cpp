@@ -27,7 +27,7 @@ constexpr int MaxIntentos = 3; // passwords asked for one member
 constexpr qsizetype MaxContraseña = 256; // in bytes
 constexpr qsizetype MaxNombre =
     2048; // of a member, in bytes: a file far below could not be reached by its path
-constexpr size_t Bloque = 65536;
+constexpr size_t BloqueDeCopia = 65536;
 
 bool saltarContraseña = false;
 
@@ -273,7 +273,7 @@ bool Extraccion::EsIlegible(archive_entry *miembro, Lectura lectura) const
 // is compressed in a way that the library doesn't know.
 Extraccion::Lectura Extraccion::Copia(FicheroNuevo *fichero)
 {
-    std::array<char, Bloque> bloque;
+    std::array<char, BloqueDeCopia> bloque;
     for (;;) {
         const la_ssize_t leidos = archive_read_data(m_archivo, bloque.data(), bloque.size());
         if (leidos == 0)
