@@ -2,10 +2,14 @@
 #include "systemcalls.h"
 
 #include "host/directory.h"
+#include "host/letters.h"
 #include "host/paths.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <random>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -151,4 +155,30 @@ TEST_F(DirectoryReadings, ManyDirectoriesAreReadRight)
         ASSERT_EQ(findOnDisk(path(u"%1/FILE%1"_s.arg(i))), place(name + "/File" + name));
     }
     EXPECT_EQ(findOnDisk(path(u"7/FILE7"_s)), place("7/File7"));
+}
+
+// Names that begin alike for longer than is looked at first, and differ there in case, in letters beyond
+// ASCII, and in those whose capital is within it.
+TEST(DirectoryOrder, IsThatOfTheNames)
+{
+    const QStringList beginnings { u""_s, u"a"_s, QString(30, u'q'), QString(31, u'Q'), QString(32, u'q'),
+        QString(30, u'q') + u"\u00E9"_s, QString(31, u'q') + u"\u0131"_s };
+    const QStringList ends { u"."_s, u"i"_s, u"I"_s, u"\u0131"_s, u"\u017F"_s, u"s"_s, u"\u00E9"_s,
+        u"\u00C9b"_s, u"\uFFFD"_s, u"\U00010428"_s, u"~"_s, u"_"_s };
+    std::vector<Directory::Entry> entries;
+    for (const QString &beginning : beginnings) {
+        for (const QString &end : ends)
+            entries.push_back({ beginning + end, DT_REG });
+    }
+    std::shuffle(entries.begin(), entries.end(), std::mt19937(1));
+    const Directory directory(entries);
+    ASSERT_EQ(directory.entries().size(), entries.size());
+    for (std::size_t i = 1; i < entries.size(); ++i) {
+        const QString &one = directory.entries()[i - 1].name;
+        const QString &next = directory.entries()[i].name;
+        const int order = compareNames(one, next);
+        EXPECT_TRUE(order < 0 || (order == 0 && one.toUtf8() < next.toUtf8()))
+            << one.toStdString() << ' ' << next.toStdString();
+        EXPECT_EQ(directory.find(next), next);
+    }
 }

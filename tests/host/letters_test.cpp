@@ -10,6 +10,23 @@ TEST(Letters, UpperTurnsEachCharacterIntoOne)
     EXPECT_EQ(upper(u"señor ÿ straße ﬁ 1"), u"SEÑOR Ÿ STRAßE ﬁ 1"_s);
 }
 
+TEST(Letters, OfAsciiTheLettersAloneHaveCases)
+{
+    QString all;
+    for (char16_t letter = 0; letter < 128; ++letter)
+        all += letter;
+    QString capitals = all;
+    QString small = all;
+    for (char16_t place = 0; place < 26; ++place) {
+        capitals[u'a' + place] = char16_t(u'A' + place);
+        small[u'A' + place] = char16_t(u'a' + place);
+    }
+    EXPECT_EQ(upper(all), capitals);
+    EXPECT_EQ(lower(all), small);
+    EXPECT_EQ(upper(all + u'é'), capitals + u'É');
+    EXPECT_EQ(lower(all + u'É'), small + u'é');
+}
+
 TEST(Letters, LowerTurnsEachCharacterIntoOne)
 {
     EXPECT_EQ(lower(u"SEÑOR Ÿ ÉÜ [1]"), u"señor ÿ éü [1]"_s);
