@@ -9,7 +9,8 @@ namespace companion {
 
 enum class EstadoDeCaptura {
     Ninguna, // nothing stands there
-    SeVe, // by its first bytes a picture of a kind that the screen shows
+    SeVe, // a picture of a kind that the screen shows, whole
+    SeVeEnParte, // one that is cut, and of a kind that the screen shows as far as it goes
     NoEsImagen,
     EnlaceRoto,
     NoEsFichero, // a directory, a pipe: nothing takes its place
@@ -18,6 +19,9 @@ enum class EstadoDeCaptura {
 
 // Of the path as the disk has it, in any case.
 EstadoDeCaptura EstadoDe(const QString &ruta);
+
+// Whether the screen shows something of it: the same without reading what that takes no reading for.
+bool SeMuestra(const QString &ruta);
 
 // Whether a new capture may take the place of what stands there, without being told to.
 bool SeReemplaza(EstadoDeCaptura estado);

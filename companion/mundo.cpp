@@ -178,7 +178,7 @@ QString LectorDeJuegos::capturaDe(const QString &entrada) const
     siSePuede([&] {
         for (const QString &suya : core::CapturasDe(m_notas, entrada, m_tipo, *m_deCapturas)) {
             ruta = m_capturas->trueSpelling(suya);
-            if (!ruta.isEmpty() && EstadoDe(ruta) != EstadoDeCaptura::SeVe)
+            if (!ruta.isEmpty() && !SeMuestra(ruta))
                 ruta.clear();
             if (ruta.isEmpty())
                 return;

@@ -258,6 +258,11 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_EXENoFichero", &P::Zbo_EXENoFichero },
         { u"Zbo_EXECortado", &P::Zbo_EXECortado },
         { u"Zbo_ParComillas", &P::Zbo_ParComillas },
+        { u"Zbo_CapCortada", &P::Zbo_CapCortada },
+        { u"Zbo_JuegoNoLee", &P::Zbo_JuegoNoLee },
+        { u"Zbo_ZipRoto", &P::Zbo_ZipRoto },
+        { u"Zbo_ZipCifrado", &P::Zbo_ZipCifrado },
+        { u"Zbo_ZipSinJuego", &P::Zbo_ZipSinJuego },
     };
     return claves;
 }

@@ -31,6 +31,16 @@ struct PalabrasDeAuxilio {
     QString Zbo_EXECortado = QStringLiteral("The program %1 is cut or damaged; install it anew.");
     QString Zbo_ParComillas = QStringLiteral("The double quotes of these parameters aren't closed, so all "
                                              "behind them is one argument; close them: %1");
+
+    // Pictures and games that are damaged.
+    QString Zbo_CapCortada =
+        QStringLiteral("%1 is cut, so only a part of it shows; bring it back, or let captures make it anew.");
+    QString Zbo_JuegoNoLee = QStringLiteral("%1 can't be read; give its owner the right to (chmod u+r).");
+    QString Zbo_ZipRoto = QStringLiteral("The ZIP %1 is cut or damaged; fetch it anew.");
+    QString Zbo_ZipCifrado =
+        QStringLiteral("The ZIP %1 asks for a password; pack its files anew without one.");
+    QString Zbo_ZipSinJuego = QStringLiteral("The ZIP %1 holds no file with an extension of the system, so "
+                                             "no game is found in it; add the extension: %2");
 };
 
 } // namespace companion

@@ -60,6 +60,10 @@ struct Cuenta {
 Cuenta RevisaPareja(
     Sesion &sesion, const Pareja &pareja, const LineasDelCatalogo &lineas, Revision &revision);
 
+// Of the listed files, or directories, of a pair's games.
+void RevisaJuegos(const Sesion &sesion, const Pareja &pareja, const QString &directorio,
+    const QStringList &nombres, Revision &revision);
+
 // Of the captures of these pairs; a directory that pairs share is told of once, and none of its captures is
 // alone that fits a game of any of them.
 void RevisaCapturas(

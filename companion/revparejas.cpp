@@ -184,6 +184,7 @@ void RevisorDePareja::NoListados(const QString &directorio)
     }
     OtrasCosas(nombres, directorio);
     SoloPorMayusculas(listados, directorio);
+    RevisaJuegos(m_sesion, m_pareja, directorio, listados, m_revision);
     if (cuenta.listados == 0)
         NadaListado(directorio);
 }

@@ -3,11 +3,14 @@
 
 #include "companion/fotos.h"
 
+#include "converter/wholeness.h"
+
 #include "host/aside.h"
 #include "host/paths.h"
 
-#include <QFile>
 #include <QDateTime>
+#include <QDir>
+#include <QFile>
 #include <QJsonArray>
 
 #include <utime.h>
@@ -364,4 +367,53 @@ TEST(Fotos, AreLookedForWhereTheEmulatorKeepsThem)
     EXPECT_EQ(companion::LugaresDeFotos({ u"/usr/games/mame"_s, u"/w"_s, {} }),
         (QStringList { u"/h/.mame/snap/*"_s, u"/w/snap/*"_s, u"/h/.local/share/mame/snap/*"_s, u"/w"_s }));
     qputenv("HOME", casa);
+}
+
+TEST(WholePictures, OfWhichTheEndIsMissingAreToldFromWholeOnes)
+{
+    const QString directorio = QStringLiteral(PROJECT_SOURCES) + u"/tests/converter/fixtures/others"_s;
+    int vistas = 0;
+    for (const QString &nombre : QDir(directorio).entryList(QDir::Files)) {
+        QFile fichero(directorio + u'/' + nombre);
+        ASSERT_TRUE(fichero.open(QIODevice::ReadOnly));
+        const QByteArray bytes = fichero.readAll();
+        const auto vista = [&](qsizetype largo) {
+            return std::span(reinterpret_cast<const std::uint8_t *>(bytes.constData()), std::size_t(largo));
+        };
+        const converter::Kind clase = converter::kindOf(vista(bytes.size()));
+        using converter::Kind;
+        if (clase == Kind::None || clase == Kind::Tiff || clase == Kind::Pcx)
+            continue; // not shown
+        if (nombre.startsWith(u"several"_s))
+            continue; // the first of several pictures is whole long ahead of the file's end
+        const bool entera = converter::isWhole(vista(bytes.size()), clase);
+        EXPECT_EQ(entera, !nombre.contains(u"cut"_s) && !nombre.contains(u"trunc"_s)) << nombre.toStdString();
+        ++vistas;
+        for (qsizetype largo = 0; entera && largo < bytes.size() / 2; largo += 1 + bytes.size() / 500)
+            EXPECT_FALSE(converter::isWhole(vista(largo), clase)) << nombre.toStdString() << ' ' << largo;
+    }
+    EXPECT_GT(vistas, 5);
+}
+
+TEST_F(Captures, APictureThatIsCutIsMadeAnew_AndIsNoneOfThoseThere)
+{
+    const QByteArray cortada = UnGif().chopped(4);
+    Pon(u"img/mario.gif"_s, cortada);
+    Pon(u"img/Zelda II.gif"_s, imagen().chopped(20));
+    Pon(u"pics/mario.png"_s, imagen());
+    const Respuesta revisado = Zembro({ u"check"_s, u"Sis"_s, u"Uno"_s });
+    EXPECT_TRUE(revisado.salida.contains("mario.gif is cut, so only a part of it shows;"))
+        << revisado.salida.toStdString();
+    EXPECT_TRUE(revisado.salida.contains("Zelda II.gif is no picture that the screen shows;"));
+    const QStringList argumentos { u"captures"_s, u"Sis"_s, u"Uno"_s, u"--from"_s, Ruta(u"pics"_s) };
+    const QJsonObject plan = Json(argumentos, companion::Hallazgos)[u"pairs"_s][0].toObject();
+    EXPECT_EQ(plan[u"kept"_s].toInt(), 0);
+    EXPECT_EQ(plan[u"captures"_s].toArray().size(), 1);
+    EXPECT_TRUE(plan[u"captures"_s][0][u"replaces"_s].toBool());
+    EXPECT_EQ(plan[u"no_pictures"_s][0][u"kind"_s].toString(), u"capture-no-picture"_s);
+    // What shows in part is shown by the screen.
+    const QJsonArray juegos = Json({ u"list"_s, u"Sis"_s, u"Uno"_s })[u"pairs"_s][0][u"games"_s].toArray();
+    ASSERT_EQ(juegos.size(), 3);
+    EXPECT_EQ(juegos[0][u"capture"_s].toString(), Ruta(u"img/mario.gif"_s));
+    EXPECT_EQ(juegos[1][u"capture"_s].toString(), QString());
 }

@@ -57,7 +57,8 @@ TEST_F(Check, ABlockWithoutItsClosingLineIsSaid_WithItsLine)
 {
     Cambia(u"Zembro.emu"_s, "'------\r\n", "");
     EXPECT_THAT(clases(), ElementsAre(u"block-without-end"_s));
-    EXPECT_TRUE(dicho().startsWith("Zembro.emu:1: The block of Sis lacks the line of an apostrophe and dashes"))
+    EXPECT_TRUE(
+        dicho().startsWith("Zembro.emu:1: The block of Sis lacks the line of an apostrophe and dashes"))
         << dicho().toStdString();
 }
 
@@ -126,7 +127,8 @@ TEST_F(Check, ParametersWithoutTheirEndAreSaid_AndMendedWhereItsPlaceIsSure)
     for (const QByteArray &final : QByteArrayList { "", "\r\n", "\r\n\r\n", "fin\r\nfin,\"fin\"\r\n" }) {
         Pon(u"Zembro.rom"_s, entero.chopped(3) + final);
         EXPECT_THAT(clases(), ElementsAre(u"block-without-end"_s));
-        EXPECT_TRUE(dicho().startsWith("Zembro.rom:7: The section of parameters lacks its closing line, an apostrophe alone"))
+        EXPECT_TRUE(dicho().startsWith(
+            "Zembro.rom:7: The section of parameters lacks its closing line, an apostrophe alone"))
             << dicho().toStdString();
         EXPECT_EQ(Zembro({ u"check"_s, u"--mend"_s, u"--write"_s }).estado, companion::Bien);
         EXPECT_EQ(Bytes(u"Zembro.rom"_s), entero + final);

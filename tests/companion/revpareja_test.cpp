@@ -3,6 +3,8 @@
 
 #include "companion/impedimento.h"
 
+#include "tests/launch/zipdeprueba.h"
+
 #include "host/process.h"
 
 #include <QDir>
@@ -196,7 +198,8 @@ TEST_F(CheckPair, AProgramForAnotherProcessorIsSaid_WithWhich)
     bytes[18] = '\x34';
     bytes[19] = '\x12';
     PonPrograma(bytes);
-    EXPECT_TRUE(dicho().contains(texto + "ELF 4660; install one for this machine.\n")) << dicho().toStdString();
+    EXPECT_TRUE(dicho().contains(texto + "ELF 4660; install one for this machine.\n"))
+        << dicho().toStdString();
 }
 
 TEST_F(CheckPair, AMistypedProgramIsLookedForInThePathToo)
@@ -336,4 +339,38 @@ TEST_F(CheckPair, WhatFailsIsSaidInTheLanguageOfTheSettings)
     Cambia(u"Zembro.emu"_s, "roms/\r\n", "gone/\r\n");
     EXPECT_TRUE(dicho().contains("No existe este directorio: " + Ruta(u"gone/"_s).toUtf8()))
         << dicho().toStdString();
+}
+
+TEST_F(CheckPair, ZIPsThatNoLaunchCanUseAreSaid)
+{
+    Cambia(u"Zembro.emu"_s, "*.NES", "*.ZIP\r\n*.NES");
+    const QByteArray bueno = Zip({ { .nombre = "readme.txt" }, { .nombre = "Good.nes" } });
+    Pon(u"roms/Good.zip"_s, bueno);
+    EXPECT_THAT(clases(SisUno), IsEmpty());
+    Pon(u"roms/Cut.zip"_s, bueno.first(bueno.size() / 2));
+    Pon(u"roms/Empty.zip"_s, "");
+    Pon(u"roms/Locked.zip"_s, ZipCifrado({ { .nombre = "Locked.nes" } }, "secret"));
+    Pon(u"roms/Other.zip"_s, Zip({ { .nombre = "Other.smc" }, { .nombre = "deep/Other.nes" } }));
+    EXPECT_THAT(clases(SisUno),
+        ElementsAre(u"zip-damaged"_s, u"zip-damaged"_s, u"zip-encrypted"_s, u"zip-without-game"_s));
+    const QByteArray todo = dicho();
+    EXPECT_TRUE(todo.contains(Ruta(u"roms/Cut.zip"_s).toUtf8() + ": Sis / Uno: The ZIP Cut.zip is cut or"))
+        << todo.toStdString();
+    EXPECT_TRUE(todo.contains("The ZIP Locked.zip asks for a password;"));
+    EXPECT_TRUE(todo.contains("add the extension: *.SMC\n")) << todo.toStdString();
+}
+
+TEST_F(CheckPair, GamesThatCannotBeReadAreSaid)
+{
+    const bool administrador = geteuid() == 0;
+    constexpr uid_t nadie = 65534;
+    ASSERT_EQ(chmod(Ruta(QString()).toUtf8().constData(), 0755), 0);
+    ASSERT_EQ(chmod(Ruta(u"roms/Zelda.nes"_s).toUtf8().constData(), 0), 0);
+    ASSERT_TRUE(!administrador || seteuid(nadie) == 0);
+    const QStringList suyas = clases(SisUno);
+    const QByteArray todo = dicho();
+    EXPECT_TRUE(!administrador || seteuid(0) == 0);
+    EXPECT_TRUE(suyas.contains(u"game-unreadable"_s)) << todo.toStdString();
+    EXPECT_TRUE(todo.contains("Zelda.nes can't be read; give its owner the right to (chmod u+r).\n"))
+        << todo.toStdString();
 }
