@@ -104,7 +104,8 @@ void planeaPorNombres(Sesion &sesion, Encargo &encargo, QSet<QString> &hechas)
         const QStringList imagenes = mira ? PosiblesImagenes(origen, sueltos) : QStringList();
         const Plan plan = PlanDeCapturas(una.juegos, origen, imagenes, rehace, hechas);
         // That of the game played last is one of those that are made already.
-        una.plan.habia = plan.habia - static_cast<int>(una.plan.nuevas.size());
+        una.plan.compartidas = plan.compartidas - static_cast<int>(una.plan.nuevas.size());
+        una.plan.habia = plan.habia;
         una.plan.sinImagen = plan.sinImagen;
         una.plan.malas = plan.malas;
         una.plan.nuevas.insert(una.plan.nuevas.end(), plan.nuevas.begin(), plan.nuevas.end());
@@ -259,7 +260,28 @@ int logradas(const DePareja &una)
         std::ranges::count_if(una.hechas, [](const Convertida &hecha) { return hecha.problema.isEmpty(); }));
 }
 
-QJsonObject enJson(const DePareja &una)
+struct Cuentas {
+    int nuevas = 0;
+    int habia = 0;
+    int sinImagen = 0;
+};
+
+// All games of the pair are one of the three. A game whose capture could not be made has the former one, or
+// none.
+Cuentas cuentasDe(const DePareja &una, bool escrito)
+{
+    Cuentas cuentas { static_cast<int>(una.plan.nuevas.size()) + una.plan.compartidas, una.plan.habia,
+        una.plan.sinImagen };
+    for (size_t i = 0; escrito && i < una.plan.nuevas.size(); ++i) {
+        if (i < una.hechas.size() && una.hechas[i].problema.isEmpty())
+            continue;
+        --cuentas.nuevas;
+        ++(EstadoDe(una.plan.nuevas[i].captura) == EstadoDeCaptura::SeVe ? cuentas.habia : cuentas.sinImagen);
+    }
+    return cuentas;
+}
+
+QJsonObject enJson(const DePareja &una, bool escrito)
 {
     QJsonArray capturas;
     for (size_t i = 0; i < una.plan.nuevas.size(); ++i) {
@@ -280,10 +302,11 @@ QJsonObject enJson(const DePareja &una)
     QJsonArray malas;
     for (const CapturaMala &mala : una.plan.malas)
         malas += QJsonObject { { u"capture"_s, mala.ruta }, { u"kind"_s, ClaseDe(mala.estado) } };
+    const Cuentas cuentas = cuentasDe(una, escrito);
     QJsonObject objeto { { u"system"_s, una.pareja.nombreSistema },
         { u"emulator"_s, una.pareja.nombreEmulador }, { u"directory"_s, una.directorio },
-        { u"no_pictures"_s, malas }, { u"captures"_s, capturas }, { u"kept"_s, una.plan.habia },
-        { u"without"_s, una.plan.sinImagen } };
+        { u"no_pictures"_s, malas }, { u"captures"_s, capturas }, { u"kept"_s, cuentas.habia },
+        { u"without"_s, cuentas.sinImagen } };
     if (!una.problema.isEmpty())
         objeto[u"problem"_s] = una.problema;
     return objeto;
@@ -309,10 +332,11 @@ void cuenta(const Sesion &sesion, const DePareja &una)
     for (const CapturaMala &mala : una.plan.malas)
         sesion.Escribe(TextoDe(mala.estado, mala.ruta, palabras));
     const bool escrito = sesion.Tiene(u"write"_s);
-    const qsizetype nuevas = escrito ? logradas(una) : static_cast<qsizetype>(una.plan.nuevas.size());
-    sesion.Escribe((escrito ? palabras.Zbo_CapHechas : palabras.Zbo_CapHaria)
-                       .arg(una.pareja.nombreSistema, una.pareja.nombreEmulador, QString::number(nuevas),
-                           QString::number(una.plan.habia), QString::number(una.plan.sinImagen)));
+    const Cuentas cuentas = cuentasDe(una, escrito);
+    sesion.Escribe(
+        (escrito ? palabras.Zbo_CapHechas : palabras.Zbo_CapHaria)
+            .arg(una.pareja.nombreSistema, una.pareja.nombreEmulador, QString::number(cuentas.nuevas),
+                QString::number(cuentas.habia), QString::number(cuentas.sinImagen)));
 }
 
 int responde(const Sesion &sesion, const Encargo &encargo)
@@ -323,7 +347,7 @@ int responde(const Sesion &sesion, const Encargo &encargo)
         bien = bien && una.problema.isEmpty() && una.plan.malas.empty()
             && static_cast<size_t>(logradas(una)) == una.plan.nuevas.size();
         if (sesion.EnJson())
-            parejas += enJson(una);
+            parejas += enJson(una, sesion.Tiene(u"write"_s));
         else
             cuenta(sesion, una);
     }

@@ -69,7 +69,6 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_SinSeccion", &P::Zbo_SinSeccion },
         { u"Zbo_Cortado", &P::Zbo_Cortado },
         { u"Zbo_SinFichero", &P::Zbo_SinFichero },
-        { u"Zbo_MalAjuste", &P::Zbo_MalAjuste },
         { u"Zbo_SinBlanco", &P::Zbo_SinBlanco },
         { u"Zbo_LineaCorta", &P::Zbo_LineaCorta },
         { u"Zbo_SinClave", &P::Zbo_SinClave },
@@ -263,6 +262,11 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_ZipRoto", &P::Zbo_ZipRoto },
         { u"Zbo_ZipCifrado", &P::Zbo_ZipCifrado },
         { u"Zbo_ZipSinJuego", &P::Zbo_ZipSinJuego },
+        { u"Zbo_Ocultos", &P::Zbo_Ocultos },
+        { u"Zbo_ValorNumero", &P::Zbo_ValorNumero },
+        { u"Zbo_ValorIdioma", &P::Zbo_ValorIdioma },
+        { u"Zbo_HazDir", &P::Zbo_HazDir },
+        { u"Zbo_EnCopia", &P::Zbo_EnCopia },
     };
     return claves;
 }

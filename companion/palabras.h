@@ -184,10 +184,10 @@ struct Palabras : PalabrasDeRevision, PalabrasDeAuxilio {
     QString Zbo_Funciona = QStringLiteral("works.");
     QString Zbo_YaTiene = QStringLiteral("is in the catalogue already; yours stays.");
     QString Zbo_NoEncaja = QStringLiteral("does not fit into the catalogue.");
-    QString Zbo_Adoptado =
-        QStringLiteral("Taken over: %1 emulators, %2 descriptions, %3 parameters, %4 captures, %5 drives.");
-    QString Zbo_Adoptaria = QStringLiteral(
-        "With --write it takes over: %1 emulators, %2 descriptions, %3 parameters, %4 captures, %5 drives.");
+    QString Zbo_Adoptado = QStringLiteral(
+        "Taken over: emulators: %1, descriptions: %2, parameters: %3, captures: %4, drives: %5.");
+    QString Zbo_Adoptaria = QStringLiteral("With --write it takes over: emulators: %1, descriptions: %2, "
+                                           "parameters: %3, captures: %4, drives: %5.");
 
     // Captures.
     QString Zbo_Captures = QStringLiteral("makes captures of pictures for the games that they fit");
@@ -197,8 +197,9 @@ struct Palabras : PalabrasDeRevision, PalabrasDeAuxilio {
         QStringLiteral("only the newest picture of the emulator, or of --from, for the game played last");
     QString Zbo_OpRehacer = QStringLiteral("makes anew the captures that are there too");
     QString Zbo_CapHaria = QStringLiteral(
-        "%1 / %2: %3 to be made, %4 there already, %5 games without a picture; --write makes them.");
-    QString Zbo_CapHechas = QStringLiteral("%1 / %2: %3 made, %4 there already, %5 games without a picture.");
+        "%1 / %2: to be made: %3, there already: %4, games without a picture: %5; --write makes them.");
+    QString Zbo_CapHechas =
+        QStringLiteral("%1 / %2: made: %3, there already: %4, games without a picture: %5.");
     QString Zbo_CapSobran = QStringLiteral("Pictures that fit no game: %1.");
     QString Zbo_CapSinDir =
         QStringLiteral("It has no directory of captures; its configuration gives it one.");

@@ -41,6 +41,14 @@ struct PalabrasDeAuxilio {
         QStringLiteral("The ZIP %1 asks for a password; pack its files anew without one.");
     QString Zbo_ZipSinJuego = QStringLiteral("The ZIP %1 holds no file with an extension of the system, so "
                                              "no game is found in it; add the extension: %2");
+
+    // Counts, and what else to do.
+    QString Zbo_Ocultos = QStringLiteral("Hidden, and so not listed: %1 (%2)");
+    QString Zbo_ValorNumero = QStringLiteral("This setting takes a whole number from 0 to %1: %2");
+    QString Zbo_ValorIdioma = QStringLiteral(
+        "There is no such language file; choose the language in the options, or name one of these: %1");
+    QString Zbo_HazDir = QStringLiteral("make it, or correct its path in the configuration.");
+    QString Zbo_EnCopia = QStringLiteral("A copy holds it as it was: zembro restore %1");
 };
 
 } // namespace companion

@@ -14,8 +14,10 @@ struct PalabrasDeRevision {
         QStringLiteral("--mend is for the whole directory: leave SYSTEM and EMULATOR out.");
     QString Zbo_WriteMend = QStringLiteral("Of check, --write goes with --mend alone.");
     QString Zbo_NoLeida = QStringLiteral("No reader takes this line; correct or remove it: %1");
-    QString Zbo_Repetido = QStringLiteral("This name stands twice; the second one is never found: %1");
-    QString Zbo_ExtLarga = QStringLiteral("An extension of more than three letters fits no file: %1");
+    QString Zbo_Repetido =
+        QStringLiteral("This name stands twice; the second one is never found; remove one of them: %1");
+    QString Zbo_ExtLarga = QStringLiteral(
+        "An extension of more than three letters fits no file; shorten it to its last three: %1");
     QString Zbo_SinCierre = QStringLiteral(
         "The block of %1 lacks the line of an apostrophe and dashes behind its last emulator.");
     QString Zbo_SinMarca = QStringLiteral("The line [EOF] behind the last system is missing.");
@@ -27,16 +29,16 @@ struct PalabrasDeRevision {
     QString Zbo_SinSeccion =
         QStringLiteral("The section of parameters, or its closing apostrophe, is missing; behind the systems "
                        "it needs a line Parametros especificos, its records, and a line with an apostrophe.");
-    QString Zbo_Cortado =
-        QStringLiteral("This record has another number of fields than it needs; a comma cuts it: %1");
+    QString Zbo_Cortado = QStringLiteral("This record has another number of fields than it needs; where a "
+                                         "comma cuts it, put double quotes around the text: %1");
     QString Zbo_SinFichero =
         QStringLiteral("The note %1 has no file any more; remove it, or bring the file back.");
-    QString Zbo_MalAjuste = QStringLiteral("This setting has a value that the program doesn't take: %1");
-    QString Zbo_SinBlanco =
-        QStringLiteral("The text of %1 has lost the blank at its end, ahead of the quotation mark.");
+    QString Zbo_SinBlanco = QStringLiteral(
+        "The text of %1 has lost the blank at its end, ahead of the quotation mark; put it there.");
     QString Zbo_LineaCorta = QStringLiteral(
         "This line is too short for a text, and the program ends at it; correct or remove it: %1");
-    QString Zbo_SinClave = QStringLiteral("The key %1 is missing.");
+    QString Zbo_SinClave = QStringLiteral("The key %1 is missing, so a text of the program is empty; take "
+                                          "this file anew from the program as delivered.");
     QString Zbo_NoHayEXE = QStringLiteral("There is no program %1; correct its path in the configuration.");
     QString Zbo_Parecido = QStringLiteral("Perhaps this one is meant: %1");
     QString Zbo_SinPermiso = QStringLiteral("The program %1 can't be run: it lacks the right to (chmod +x).");
@@ -44,17 +46,21 @@ struct PalabrasDeRevision {
         QStringLiteral("The program %1 is for another processor: %2; install one for this machine.");
     QString Zbo_NoEsPrograma = QStringLiteral(
         "The file %1 is no program that this machine knows; name another one in the configuration.");
-    QString Zbo_SinROMs = QStringLiteral("The machine %1 of MAME lacks ROMs of its own: mame -verifyroms %1");
-    QString Zbo_SinTipo =
-        QStringLiteral("The XDI line doesn't end in a type from 0 to 3 or from 5 to 8; nothing is listed.");
+    QString Zbo_SinROMs =
+        QStringLiteral("The machine %1 of MAME lacks ROMs of its own; this names them: mame -verifyroms %1");
+    QString Zbo_SinTipo = QStringLiteral("The XDI line doesn't end in a type from 0 to 3 or from 5 to 8, so "
+                                         "nothing is listed; choose the type anew in the configuration.");
     QString Zbo_ListaCortada = QStringLiteral("The list is cut: the length of a file can't be had.");
     QString Zbo_NoSeLista = QStringLiteral("No game can be listed: %1");
-    QString Zbo_DosVeces = QStringLiteral("%1 is listed twice, as two extensions fit its end.");
-    QString Zbo_NadaEncaja = QStringLiteral(
-        "Nothing of %1 files or directories is listed: no extension, or not the type, fits them.");
-    QString Zbo_MismaDesc = QStringLiteral("Several games have the description %1; the first one is played.");
+    QString Zbo_DosVeces = QStringLiteral(
+        "%1 is listed twice, as two extensions fit its end; remove one of them from the system.");
+    QString Zbo_NadaEncaja = QStringLiteral("Nothing of what lies here is listed, as no extension, or not "
+                                            "the type, fits it; add the extension, or change the type: %1");
+    QString Zbo_MismaDesc = QStringLiteral(
+        "Several games have the description %1; the first one is played; change one of them in the program.");
     QString Zbo_SinCapturas = QStringLiteral("The captures can't be read: %1");
-    QString Zbo_CapturaSola = QStringLiteral("The capture %1 fits no game.");
+    QString Zbo_CapturaSola =
+        QStringLiteral("The capture %1 fits no game; rename it as the game is called, or remove it.");
     QString Zbo_CapturaMal =
         QStringLiteral("The capture %1 would be found as %2; rename it, or let captures make one of it.");
     QString Zbo_Cuenta = QStringLiteral(
@@ -67,7 +73,7 @@ struct PalabrasDeRevision {
         QStringLiteral("Nothing from this line on is read, as it stands ahead of the first system; put it "
                        "behind a line that begins with a hyphen, or remove it: %1");
     QString Zbo_Demasiados =
-        QStringLiteral("Nothing from this line on is read, as there are more than 150: %1");
+        QStringLiteral("Nothing from this line on is read, as there are more than 150; remove some: %1");
     QString Zbo_SinNombre = QStringLiteral("This line names nothing; give it a name, or remove it.");
     QString Zbo_ExtMala =
         QStringLiteral("This extension fits no file: it needs capital letters, without blanks: %1");
@@ -83,7 +89,8 @@ struct PalabrasDeRevision {
         "The emulator %1 has no line that begins with %2=; add it, or configure it in the program.");
     QString Zbo_SinBarra = QStringLiteral(
         "This directory lacks its closing separator, so its name runs into those of the files: %1");
-    QString Zbo_SinEmulador = QStringLiteral("The system %1 has no emulator.");
+    QString Zbo_SinEmulador =
+        QStringLiteral("The system %1 has no emulator; configure one in the program, or remove its lines.");
     QString Zbo_CatalogoMal =
         QStringLiteral("The catalogue can't be read to its end; check without a name tells why.");
     QString Zbo_SinCerrar = QStringLiteral(
@@ -99,22 +106,25 @@ struct PalabrasDeRevision {
     QString Zbo_ParSinFich =
         QStringLiteral("The parameters of %1 are of no game any more; remove them, or bring the file back.");
     QString Zbo_OtroAjuste = QStringLiteral("Here the line of %1 should stand, as the settings are read by "
-                                            "the numbers of their lines; restore brings back an older copy.");
-    QString Zbo_AjustesMal = QStringLiteral(
-        "The program can't read its settings and ends at its start; restore brings back an older copy. %1");
+                                            "the numbers of their lines; add or remove a line ahead of it.");
+    QString Zbo_AjustesMal =
+        QStringLiteral("The program can't read its settings and ends at its start. A file Zembro.cfg that "
+                       "holds nothing but the word VACIO makes it ask as at the first start. %1");
     QString Zbo_FiltroMalo = QStringLiteral(
         "This filter leaves no directory out: it needs capital letters, without blanks ahead: %1");
     QString Zbo_MuchosFiltros =
         QStringLiteral("With 26 filters or more no directory is listed as a game; remove some.");
     QString Zbo_ClaveAjena =
         QStringLiteral("No text of the program has this key; correct it, or remove the line: %1");
-    QString Zbo_ClaveDoble =
-        QStringLiteral("The key %1 stands twice; the text of the second line is the one shown.");
-    QString Zbo_SinComillas = QStringLiteral(
-        "The text of %1 lacks one of its two double quotes, so its first or last letters are lost.");
+    QString Zbo_ClaveDoble = QStringLiteral(
+        "The key %1 stands twice; the text of the second line is the one shown; remove one of them.");
+    QString Zbo_SinComillas = QStringLiteral("The text of %1 lacks one of its two double quotes, so its "
+                                             "first or last letters are lost; put it there.");
     QString Zbo_FaltanPal =
-        QStringLiteral("%1 words of the program are missing, which it then shows as they are built in: %2");
-    QString Zbo_SinIdiomas = QStringLiteral("There is no language file, so the program shows no words.");
+        QStringLiteral("Words of the program are missing, which it then shows as they are built in; take "
+                       "this file anew from the program as delivered: %1 (%2)");
+    QString Zbo_SinIdiomas = QStringLiteral("There is no language file, so the program shows no words; take "
+                                            "the directory LNG anew from the program as delivered.");
 
     // What keeps a program from starting, and a type from its games.
     QString Zbo_EsDirectorio = QStringLiteral("%1 is a directory, no program; name the program in it.");
@@ -133,7 +143,7 @@ struct PalabrasDeRevision {
     QString Zbo_SoloDirs = QStringLiteral("The type takes files, but in %1 there are only directories: %2. "
                                           "Change the type in the configuration.");
     QString Zbo_FaltaCaptura = QStringLiteral("%1 has no capture; it is looked for as %2");
-    QString Zbo_FaltanMas = QStringLiteral("and %1 more; check SYSTEM EMULATOR names them all");
+    QString Zbo_FaltanMas = QStringLiteral("and more: %1; check SYSTEM EMULATOR names them all");
 
     // What lies among the captures and the games, and isn't what it is taken for.
     QString Zbo_CapNoMuestra =
@@ -149,8 +159,8 @@ struct PalabrasDeRevision {
     QString Zbo_CapSobra = QStringLiteral("The capture %1 never shows, as its game has %2; remove it.");
     QString Zbo_FichIguales =
         QStringLiteral("%1 and %2 differ in case alone, and %3 is played for both; rename one of them.");
-    QString Zbo_NoFicheros = QStringLiteral("%1 are no files, but directories, pipes or the like: %2");
-    QString Zbo_NoDirs = QStringLiteral("%1 are no directories: %2");
+    QString Zbo_NoFicheros = QStringLiteral("No files, but directories, pipes or the like: %1 (%2)");
+    QString Zbo_NoDirs = QStringLiteral("No directories: %1 (%2)");
     QString Zbo_FalloLeerDir =
         QStringLiteral("This directory can't be read; the right to may be missing (chmod u+rx)");
     QString Zbo_FalloNoDir = QStringLiteral("This is no directory");
@@ -165,9 +175,9 @@ struct PalabrasDeRevision {
     QString Zbo_DesNada =
         QStringLiteral("No game of the system is listed, so there is nothing to describe; check tells why.");
     QString Zbo_DesLista = QStringLiteral(
-        "Of %1 games %2 have a description already (--replace makes them anew), and %3 aren't in the list.");
-    QString Zbo_DesNombres = QStringLiteral("Of %1 games %2 have a description already (--replace makes them "
-                                            "anew), and the names of %3 give no other one.");
+        "Games: %1. With a description already (--replace makes them anew): %2. Not in the list: %3.");
+    QString Zbo_DesNombres = QStringLiteral("Games: %1. With a description already (--replace makes them "
+                                            "anew): %2. With a name that gives no other one: %3.");
     QString Zbo_ListaVacia =
         QStringLiteral("%1 holds no name with a description; it should be a DAT, what mame -listxml says, a "
                        "gamelist.xml, or lines of name, tab, description.");

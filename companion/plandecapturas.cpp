@@ -88,7 +88,9 @@ Plan PlanDeCapturas(const std::vector<JuegoConCaptura> &juegos, const QString &d
         const bool libre = estado == EstadoDeCaptura::Ninguna || SeReemplaza(estado);
         const bool seHace = encajadas[i] && !juego.captura.isEmpty()
             && (libre || (rehace && estado == EstadoDeCaptura::SeVe));
-        if (hechas.contains(suya) || (estado == EstadoDeCaptura::SeVe && !seHace)) {
+        if (hechas.contains(suya)) {
+            ++plan.compartidas;
+        } else if (estado == EstadoDeCaptura::SeVe && !seHace) {
             ++plan.habia;
         } else if (seHace) {
             hechas += suya;

@@ -49,6 +49,7 @@ struct CapturaMala {
 
 struct Plan {
     std::vector<PorHacer> nuevas;
+    int compartidas = 0; // games whose capture is to be made for another one already
     int habia = 0; // that stay as they are
     int sinImagen = 0; // games without a capture for which there is no picture
     std::vector<CapturaMala> malas;

@@ -78,7 +78,7 @@ void RevisaCapturas(
         } catch (const host::Failure &fallo) {
             revision.push_back({ u"no-captures"_s, u"Zembro.emu"_s, suyas.IMG,
                 pareja.nombreSistema + u" / "_s + pareja.nombreEmulador,
-                sesion.palabras.Zbo_SinCapturas.arg(TextoDe(fallo, sesion.palabras)) });
+                sesion.palabras.Zbo_SinCapturas.arg(TextoDeDirectorio(fallo, sesion.palabras)) });
         }
     }
 }

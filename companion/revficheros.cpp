@@ -89,7 +89,8 @@ private:
     {
         m_revision.push_back({ clase, u"Zembro.cfg"_s, static_cast<int>(indice) + 1, {}, dicho });
     }
-    bool vale(const LineaDeAjuste &ajuste) const;
+    int Maximo(const LineaDeAjuste &ajuste) const;
+    void Idioma(const QString &valor, size_t indice);
 
     const core::Modulo &M;
     const Palabras &m_palabras;
@@ -122,36 +123,44 @@ bool dentroDe(const QString &valor, int maximo)
     return bien && numero >= 0 && numero <= maximo;
 }
 
-bool RevisorDeAjustes::vale(const LineaDeAjuste &ajuste) const
+// The last number that a setting takes.
+int RevisorDeAjustes::Maximo(const LineaDeAjuste &ajuste) const
 {
-    const QString &valor = M.*ajuste.valor;
-    if (ajuste.clave == u"MsgEndDOS")
-        return true;
-    if (ajuste.clave == u"LanguageFile") {
-        const QStringList ficheros = core::FicherosDeIdioma();
-        return std::ranges::any_of(
-            ficheros, [&](const QString &fichero) { return host::sameName(fichero, valor); });
-    }
     if (ajuste.clave != u"LastSisUsed" && ajuste.clave != u"LastEmuUsed")
-        return dentroDe(valor, 1);
-    if (M.Indice_Sistema < 0 || valor.toInt() == core::NingunEmulador)
-        return dentroDe(valor, core::NingunEmulador);
+        return 1;
+    if (M.Indice_Sistema < 0 || (M.*ajuste.valor).toInt() == core::NingunEmulador)
+        return core::NingunEmulador;
     if (ajuste.clave == u"LastSisUsed")
-        return dentroDe(valor, M.Indice_Sistema);
+        return M.Indice_Sistema;
     const std::vector<int> sistemas = core::SistemasEnOrden(M);
     const int sistema = M.UltimoSistema.toInt();
     if (sistema < 0 || sistema > M.Indice_Sistema)
-        return true; // told already
-    return dentroDe(valor, core::TotalEmuladores(M, sistemas[static_cast<size_t>(sistema)]) - 1);
+        return core::NingunEmulador; // told already
+    return std::max(core::TotalEmuladores(M, sistemas[static_cast<size_t>(sistema)]) - 1, 0);
 }
 
 void RevisorDeAjustes::Valores()
 {
     for (const LineaDeAjuste &ajuste : LineasDeAjustes) {
-        if (!vale(ajuste))
+        const QString &valor = M.*ajuste.valor;
+        if (ajuste.clave == u"MsgEndDOS")
+            continue;
+        if (ajuste.clave == u"LanguageFile")
+            Idioma(valor, ajuste.indice);
+        else if (!dentroDe(valor, Maximo(ajuste)))
             halla(u"setting-out-of-range"_s, ajuste.indice,
-                m_palabras.Zbo_MalAjuste.arg(m_lineas[ajuste.indice].linea));
+                m_palabras.Zbo_ValorNumero.arg(
+                    QString::number(Maximo(ajuste)), m_lineas[ajuste.indice].linea));
     }
+}
+
+void RevisorDeAjustes::Idioma(const QString &valor, size_t indice)
+{
+    const QStringList ficheros = core::FicherosDeIdioma();
+    const bool esta =
+        std::ranges::any_of(ficheros, [&](const QString &fichero) { return host::sameName(fichero, valor); });
+    if (!esta)
+        halla(u"setting-out-of-range"_s, indice, m_palabras.Zbo_ValorIdioma.arg(ficheros.join(u", "_s)));
 }
 
 void RevisorDeAjustes::Filtros()

@@ -2,7 +2,6 @@
 
 #include "companion/diferencia.h"
 #include "companion/otrosistema.h"
-#include "companion/perdidos.h"
 #include "companion/revision.h"
 
 #include "host/paths.h"
@@ -22,6 +21,8 @@ QJsonObject enJson(const Hallazgo &hallazgo)
 {
     QJsonObject objeto { { u"kind"_s, hallazgo.clase }, { u"text"_s, hallazgo.texto },
         { u"mendable"_s, hallazgo.seRemienda } };
+    if (!hallazgo.copia.isEmpty())
+        objeto[u"copy"_s] = hallazgo.copia;
     if (hallazgo.primera > 0)
         objeto[u"first_line"_s] = hallazgo.primera;
     if (!hallazgo.fichero.isEmpty())
@@ -41,8 +42,8 @@ QJsonObject enJson(const Pareja &pareja, const Cuenta &cuenta)
     return { { u"system"_s, pareja.nombreSistema }, { u"emulator"_s, pareja.nombreEmulador },
         { u"listed"_s, cuenta.listados }, { u"other_extension"_s, cuenta.otraExtension },
         { u"filtered"_s, cuenta.filtrados }, { u"no_zip"_s, cuenta.otroTipo },
-        { u"other_things"_s, cuenta.otraCosa.size() }, { u"without_capture"_s, sinCaptura.size() },
-        { u"missing_captures"_s, sinCaptura } };
+        { u"other_things"_s, cuenta.otraCosa.size() }, { u"hidden"_s, cuenta.ocultos.size() },
+        { u"without_capture"_s, sinCaptura.size() }, { u"missing_captures"_s, sinCaptura } };
 }
 
 QJsonArray enJson(const Revision &revision)
@@ -75,7 +76,19 @@ QString enLinea(const Hallazgo &hallazgo, const Palabras &palabras)
         texto += u" ("_s + sitioDe(hallazgo.fichero, hallazgo.primera) + u')';
     if (hallazgo.seRemienda)
         texto += u' ' + palabras.Zbo_LoRemienda;
+    if (!hallazgo.copia.isEmpty())
+        texto += u' ' + palabras.Zbo_EnCopia.arg(hallazgo.copia);
     return (partes + QStringList { texto }).join(u": "_s);
+}
+
+// How many of them there are, and their names; not all of many where all pairs are told of.
+QString nombrados(const QString &dicho, const QStringList &nombres, bool todos)
+{
+    constexpr qsizetype unos = 3;
+    const qsizetype dichos = todos ? nombres.size() : std::min(nombres.size(), unos);
+    return u"    "_s
+        + dicho.arg(QString::number(nombres.size()),
+            nombres.first(dichos).join(u", "_s) + (dichos < nombres.size() ? u" ..."_s : QString()));
 }
 
 // The count of a pair, and which games lack a capture: all of them where the pair was asked for.
@@ -83,19 +96,19 @@ QStringList enLineas(const Sesion &sesion, const Pareja &pareja, const Cuenta &c
 {
     constexpr qsizetype unas = 3;
     const Palabras &palabras = sesion.palabras;
+    const bool todas = !sesion.Argumento(0).isEmpty();
     const qsizetype total = qsizetype(cuenta.sinCaptura.size());
-    const qsizetype dichas = sesion.Argumento(0).isEmpty() ? std::min(total, unas) : total;
+    const qsizetype dichas = todas ? total : std::min(total, unas);
     QStringList lineas { palabras.Zbo_Cuenta.arg(pareja.nombreSistema, pareja.nombreEmulador,
         QString::number(cuenta.listados),
         QString::number(cuenta.otraExtension + cuenta.otroTipo + cuenta.otraCosa.size()),
         QString::number(cuenta.filtrados), QString::number(total)) };
-    const QString &otraCosa =
-        core::UnDirectorioPorJuego(TipoDe(sesion.M, pareja)) ? palabras.Zbo_NoDirs : palabras.Zbo_NoFicheros;
+    const bool directorios = core::UnDirectorioPorJuego(TipoDe(sesion.M, pareja));
     if (!cuenta.otraCosa.isEmpty())
-        lineas += u"    "_s
-            + otraCosa.arg(QString::number(cuenta.otraCosa.size()),
-                cuenta.otraCosa.first(std::min(cuenta.otraCosa.size(), unas)).join(u", "_s)
-                    + (cuenta.otraCosa.size() > unas ? u" ..."_s : QString()));
+        lineas +=
+            nombrados(directorios ? palabras.Zbo_NoDirs : palabras.Zbo_NoFicheros, cuenta.otraCosa, todas);
+    if (!cuenta.ocultos.isEmpty())
+        lineas += nombrados(palabras.Zbo_Ocultos, cuenta.ocultos, todas);
     for (qsizetype i = 0; i < dichas; ++i) {
         const SinCaptura &una = cuenta.sinCaptura[size_t(i)];
         lineas += u"    "_s + palabras.Zbo_FaltaCaptura.arg(una.entrada, una.ruta);
@@ -103,26 +116,6 @@ QStringList enLineas(const Sesion &sesion, const Pareja &pareja, const Cuenta &c
     if (dichas < total)
         lineas += u"    "_s + palabras.Zbo_FaltanMas.arg(total - dichas);
     return lineas;
-}
-
-// What several lines lead to and isn't there has gone elsewhere.
-void revisaLugares(const Sesion &sesion, Revision &revision)
-{
-    const QString fichero = u"Zembro.emu"_s;
-    for (const Perdido &perdido : LugaresPerdidos(TextoDelPrograma(sesion.M, fichero)))
-        revision.push_back(
-            { u"lost-place"_s, fichero, perdido.primera, {}, TextoDe(perdido, sesion.palabras) });
-}
-
-void revisaFicheros(Sesion &sesion, Revision &revision)
-{
-    const Palabras &palabras = sesion.palabras;
-    for (const QString &fichero : { u"Zembro.emu"_s, u"Zembro.sye"_s })
-        Revisa(revision, fichero, palabras, [&] { RevisaCatalogo(sesion, fichero, revision); });
-    Revisa(revision, u"Zembro.emu"_s, palabras, [&] { revisaLugares(sesion, revision); });
-    Revisa(revision, u"Zembro.rom"_s, palabras, [&] { RevisaNotas(sesion, revision); });
-    Revisa(revision, u"Zembro.cfg"_s, palabras, [&] { RevisaAjustes(sesion, revision); });
-    Revisa(revision, u"LNG"_s, palabras, [&] { RevisaIdiomas(sesion, revision); });
 }
 
 // False where the catalogue isn't read to its end. Of what doesn't fit its own findings tell.
@@ -148,7 +141,7 @@ struct Respuesta {
 Respuesta revisado(Sesion &sesion, const std::vector<Pareja> &parejas, Revision revision)
 {
     Respuesta respuesta { std::move(revision), {}, {} };
-    revisaFicheros(sesion, respuesta.revision);
+    RevisaFicheros(sesion, respuesta.revision);
     const LineasDelCatalogo lineasDelCatalogo(
         parejas.empty() ? QString() : TextoDelPrograma(sesion.M, u"Zembro.emu"_s));
     for (const Pareja &pareja : parejas) {
@@ -182,12 +175,6 @@ bool leeRemendados(Sesion &sesion)
     return alguno;
 }
 
-// By what a finding is known where lines have come and gone.
-QString sena(const Hallazgo &hallazgo)
-{
-    return QStringList { hallazgo.clase, hallazgo.fichero, hallazgo.pareja, hallazgo.texto }.join(u'\n');
-}
-
 // What --mend repairs is what is found no more behind it.
 void marcaRemendables(Sesion &sesion, const std::vector<Pareja> &parejas, Revision &revision)
 {
@@ -197,9 +184,9 @@ void marcaRemendables(Sesion &sesion, const std::vector<Pareja> &parejas, Revisi
     leeCatalogo(sesion, despues);
     QHash<QString, int> quedan;
     for (const Hallazgo &hallazgo : revisado(sesion, parejas, std::move(despues)).revision)
-        ++quedan[sena(hallazgo)];
+        ++quedan[SenaDe(hallazgo)];
     for (Hallazgo &hallazgo : revision)
-        hallazgo.seRemienda = quedan[sena(hallazgo)]-- <= 0;
+        hallazgo.seRemienda = quedan[SenaDe(hallazgo)]-- <= 0;
 }
 
 int revisaTodo(Sesion &sesion)
@@ -219,6 +206,7 @@ int revisaTodo(Sesion &sesion)
     const Rescatado rescatado = RescataLoGuardado(sesion, revision);
     Respuesta respuesta = revisado(sesion, parejas, std::move(revision));
     marcaRemendables(sesion, parejas, respuesta.revision);
+    MarcaCopias(sesion, respuesta.revision);
     if (sesion.EnJson()) {
         sesion.Json({ { u"findings"_s, enJson(respuesta.revision) }, { u"pairs"_s, respuesta.cuentas },
             { u"brought_back"_s, QJsonArray::fromStringList(rescatado.vueltos) } });

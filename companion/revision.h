@@ -18,6 +18,7 @@ struct Hallazgo {
     QString pareja; // "System / Emulator"; empty for a file's
     QString texto; // what is wrong and what to do
     int primera = 0; // of what stands twice, the line that counts
+    QString copia = {}; // of the files, that holds what is lost
     bool seRemienda = false; // found no more where all repairs are made
 };
 
@@ -33,6 +34,16 @@ void Revisa(Revision &revision, const QString &fichero, const Palabras &palabras
         revision.push_back({ QStringLiteral("unreadable"), fichero, 0, {}, TextoDe(fallo, palabras) });
     }
 }
+
+// By what a finding is known where lines have come and gone.
+QString SenaDe(const Hallazgo &hallazgo);
+
+// Of all files that follow.
+void RevisaFicheros(Sesion &sesion, Revision &revision);
+
+// Names the newest copy that holds what is lost, with what no repair is for. What the files hold isn't read
+// any more behind it.
+void MarcaCopias(Sesion &sesion, Revision &revision);
 
 // Of Zembro.emu and Zembro.sye; of Zembro.rom; of Zembro.cfg; of the language files.
 void RevisaCatalogo(const Sesion &sesion, const QString &fichero, Revision &revision);
@@ -53,6 +64,7 @@ struct Cuenta {
     qsizetype filtrados = 0;
     qsizetype otroTipo = 0;
     QStringList otraCosa; // names of what is no file, or where directories are games no directory
+    QStringList ocultos; // names that are never listed
     std::vector<SinCaptura> sinCaptura;
 };
 
@@ -74,6 +86,9 @@ QString TextoDelPrograma(const core::Modulo &M, const QString &fichero);
 
 // The names of the systems of the catalogue and of the database, of that alone that can be read.
 QStringList SistemasConocidos(const core::Modulo &M);
+
+// What kept a directory of the configuration from being listed, and what to do where it isn't there.
+QString TextoDeDirectorio(const host::Failure &fallo, const Palabras &palabras);
 
 // Whether a value of the catalogue is the path of something that is no directory.
 bool EsRutaDeFichero(const QString &valor);

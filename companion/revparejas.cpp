@@ -156,7 +156,7 @@ void RevisorDePareja::Lista()
         NoListados(directorio);
         Juegos(listado);
     } catch (const host::Failure &fallo) {
-        halla(u"no-list"_s, m_palabras.Zbo_NoSeLista.arg(TextoDe(fallo, m_palabras)), m_lineas.ROM);
+        halla(u"no-list"_s, m_palabras.Zbo_NoSeLista.arg(TextoDeDirectorio(fallo, m_palabras)), m_lineas.ROM);
     }
 }
 
@@ -195,10 +195,13 @@ void RevisorDePareja::OtrasCosas(const QStringList &nombres, const QString &dire
     const QSet<QString> vistos(nombres.begin(), nombres.end());
     for (const QByteArray &bytes : host::listInDiskOrder(directorio)) {
         const QString nombre = host::nameFromDisk(bytes);
-        if (!nombre.startsWith(u'.') && !vistos.contains(nombre) && nombre != finder::NombreDeNota)
+        if (nombre.startsWith(u'.'))
+            cuenta.ocultos += nombre;
+        else if (!vistos.contains(nombre) && nombre != finder::NombreDeNota)
             cuenta.otraCosa += nombre;
     }
     cuenta.otraCosa.sort();
+    cuenta.ocultos.sort();
 }
 
 // Of these a launch finds one, whichever was chosen.
@@ -249,6 +252,12 @@ void RevisorDePareja::Juegos(const Listado &listado)
 }
 
 } // namespace
+
+QString TextoDeDirectorio(const host::Failure &fallo, const Palabras &palabras)
+{
+    const QString texto = TextoDe(fallo, palabras);
+    return texto.startsWith(palabras.Zbo_FalloDir) ? texto + u"; "_s + palabras.Zbo_HazDir : texto;
+}
 
 Cuenta RevisaPareja(Sesion &sesion, const Pareja &pareja, const LineasDelCatalogo &lineas, Revision &revision)
 {

@@ -87,8 +87,8 @@ TEST_F(Adopt, ShowsWhatWorksAndWhatIsMissing_AndWritesNothing)
     EXPECT_TRUE(
         dicho.contains("\nOtro / Lejos: There is no drive E for E:\\L.EXE: name its place in Zembro.uni.\n"))
         << dicho.toStdString();
-    EXPECT_TRUE(dicho.endsWith(
-        "With --write it takes over: 2 emulators, 2 descriptions, 1 parameters, 2 captures, 1 drives.\n"));
+    EXPECT_TRUE(dicho.endsWith("With --write it takes over: emulators: 2, descriptions: 2, parameters: 1, "
+                               "captures: 2, drives: 1.\n"));
 }
 
 TEST_F(Adopt, WritesAllOfItBehindWhatIsThere)

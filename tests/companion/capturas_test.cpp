@@ -82,7 +82,7 @@ TEST_F(Captures, ShowsWhatItWouldMake_AndMakesNothing)
     EXPECT_EQ(respuesta.salida,
         "Zelda II.nes\tZelda II (Japan).jpg\tZelda II.GIF\n"
         "Zelda.nes\tZelda.png\tZelda.GIF\n"
-        "Sis / Uno: 2 to be made, 1 there already, 0 games without a picture; --write makes them.\n"
+        "Sis / Uno: to be made: 2, there already: 1, games without a picture: 0; --write makes them.\n"
         "Pictures that fit no game: 1.\n");
     EXPECT_FALSE(host::exists(Ruta(u"img/Zelda.GIF"_s)));
 }
@@ -96,7 +96,7 @@ TEST_F(Captures, MakesThem_AndLeavesTheSourcesAndWhatWasThere)
     EXPECT_EQ(respuesta.estado, companion::Bien) << respuesta.error.toStdString();
     EXPECT_EQ(respuesta.salida,
         "Zelda.nes\tZelda.png\tZelda.GIF\n"
-        "Sis / Uno: 1 made, 1 there already, 1 games without a picture.\n");
+        "Sis / Uno: made: 1, there already: 1, games without a picture: 1.\n");
     EXPECT_TRUE(EsGif(u"img/Zelda.GIF"_s));
     EXPECT_EQ(Bytes(u"img/mario.gif"_s), UnGif());
     EXPECT_EQ(Bytes(u"pics/Zelda.png"_s), imagen());
@@ -111,7 +111,7 @@ TEST_F(Captures, OfOnesThatAreThereAreMadeAnewWhereThatIsAskedFor)
                          u"--write"_s })
                   .salida,
         "Super Mario\tsuper mario.png\tMARIO.GIF\n"
-        "Sis / Uno: 1 made, 0 there already, 2 games without a picture.\n");
+        "Sis / Uno: made: 1, there already: 0, games without a picture: 2.\n");
     EXPECT_TRUE(EsGif(u"img/mario.gif"_s));
     EXPECT_FALSE(host::listFiles(Ruta(u"img"_s)).contains(u"MARIO.GIF"_s));
 }
@@ -137,7 +137,7 @@ TEST_F(Captures, SaysWhyOneCouldNotBeMade_AndMakesTheOthers)
     EXPECT_TRUE(salida.contains(
         "Zelda II.nes\tZelda II.png\tZelda II.GIF\tit is no picture of a kind that can be read\n"))
         << salida.toStdString();
-    EXPECT_TRUE(salida.contains("Sis / Uno: 0 made, 1 there already, 0 games without a picture.\n"));
+    EXPECT_TRUE(salida.contains("Sis / Uno: made: 0, there already: 1, games without a picture: 2.\n"));
 }
 
 TEST_F(Captures, WithoutADirectoryTakesWhatLiesAmongTheCaptures)
@@ -146,11 +146,11 @@ TEST_F(Captures, WithoutADirectoryTakesWhatLiesAmongTheCaptures)
     Pon(u"img/Zelda II.gif"_s, UnGif());
     EXPECT_EQ(Zembro({ u"captures"_s, u"Sis"_s, u"Uno"_s, u"--write"_s }).salida,
         "Zelda.nes\tZelda.png\tZelda.GIF\n"
-        "Sis / Uno: 1 made, 2 there already, 0 games without a picture.\n");
+        "Sis / Uno: made: 1, there already: 2, games without a picture: 0.\n");
     // GIFs of the directory itself are captures, however it is named; one that is no game's fits none.
     Pon(u"img/Sonic the Hedgehog.gif"_s, UnGif());
     EXPECT_EQ(Zembro({ u"captures"_s, u"Sis"_s, u"Dos"_s, u"--from"_s, Ruta(u"img/../img/"_s) }).salida,
-        "Sis / Dos: 0 to be made, 0 there already, 1 games without a picture; --write makes them.\n"
+        "Sis / Dos: to be made: 0, there already: 0, games without a picture: 1; --write makes them.\n"
         "Pictures that fit no game: 2.\n");
 }
 
@@ -165,7 +165,7 @@ TEST_F(Captures, WhatIsNoPictureIsNoCapture_AndAPictureTakesItsPlace)
         Pon(u"img/zelda.gif"_s, contenido);
         EXPECT_EQ(Zembro(pedido).salida,
             "Zelda.nes\tZelda.png\tZelda.GIF\tin the place of what is no picture\n"
-            "Sis / Uno: 1 to be made, 1 there already, 1 games without a picture; --write makes them.\n");
+            "Sis / Uno: to be made: 1, there already: 1, games without a picture: 1; --write makes them.\n");
         EXPECT_EQ(Bytes(u"img/zelda.gif"_s), contenido);
         EXPECT_EQ(Json(pedido, companion::Hallazgos)[u"pairs"_s][0][u"captures"_s][0][u"replaces"_s], true);
         EXPECT_EQ(Zembro(pedido + QStringList { u"--write"_s }).estado, companion::Bien);
@@ -183,7 +183,8 @@ TEST_F(Captures, WhatIsNoPictureIsTold_WhereThereIsNoPictureForIt)
     EXPECT_EQ(respuesta.salida,
         Ruta(u"img/Zelda.GIF"_s).toUtf8()
             + " is no picture that the screen shows; remove it, or let captures make it anew.\n"
-              "Sis / Uno: 0 to be made, 1 there already, 2 games without a picture; --write makes them.\n");
+              "Sis / Uno: to be made: 0, there already: 1, games without a picture: 2; --write makes "
+              "them.\n");
     EXPECT_EQ(Json(pedido, companion::Hallazgos)[u"pairs"_s][0][u"no_pictures"_s][0][u"kind"_s],
         u"capture-no-picture"_s);
 }
@@ -218,7 +219,7 @@ TEST_F(Captures, AGIFOfAnotherSpellingBecomesTheCapture_AsCheckSays)
     const QStringList pedido { u"captures"_s, u"Sis"_s, u"Uno"_s };
     EXPECT_EQ(Zembro(pedido).salida,
         "Zelda II.nes\tZELDA - ii [a].gif\tZelda II.GIF\n"
-        "Sis / Uno: 1 to be made, 1 there already, 1 games without a picture; --write makes them.\n");
+        "Sis / Uno: to be made: 1, there already: 1, games without a picture: 1; --write makes them.\n");
     const auto revisado = [&] {
         QStringList clases;
         for (const QJsonValue &uno :
@@ -245,8 +246,8 @@ TEST_F(Captures, OfAllEmulatorsOfASystem_EachCaptureOnce)
     EXPECT_EQ(Zembro({ u"captures"_s, u"sis"_s, u"--from"_s, Ruta(u"pics"_s) }).salida,
         "SONIC\tSonic.gif\tSONIC.GIF\n"
         "ZELDA\tZelda.png\tZELDA.GIF\n"
-        "Sis / Dos: 2 to be made, 0 there already, 0 games without a picture; --write makes them.\n"
-        "Sis / Uno: 0 to be made, 2 there already, 1 games without a picture; --write makes them.\n");
+        "Sis / Dos: to be made: 2, there already: 0, games without a picture: 0; --write makes them.\n"
+        "Sis / Uno: to be made: 1, there already: 1, games without a picture: 1; --write makes them.\n");
 }
 
 TEST_F(Captures, MakesTheDirectoryOfAnEmulatorThatHasNoneYet)
@@ -290,7 +291,7 @@ TEST_F(Captures, OfTheGamePlayedLastIsTheNewestPictureOfTheEmulator)
     Pon(u"emu/newest.txt"_s, "no picture");
     EXPECT_EQ(Zembro({ u"captures"_s, u"Sis"_s, u"Uno"_s }).salida,
         "Zelda.nes\tshot2.png\tZelda.GIF\n"
-        "Sis / Uno: 1 to be made, 1 there already, 1 games without a picture; --write makes them.\n");
+        "Sis / Uno: to be made: 1, there already: 1, games without a picture: 1; --write makes them.\n");
     const Respuesta respuesta = Zembro({ u"captures"_s, u"Sis"_s, u"--last"_s, u"--write"_s });
     EXPECT_EQ(respuesta.estado, companion::Bien);
     EXPECT_TRUE(EsGif(u"img/Zelda.GIF"_s));
@@ -307,7 +308,7 @@ TEST_F(Captures, OfTheGamePlayedLastAreLookedForWhereItIsSaid)
     PonFoto(u"pics/whatever.bmp"_s, 10);
     EXPECT_EQ(Zembro({ u"captures"_s, u"Sis"_s, u"Uno"_s, u"--last"_s, u"--from"_s, Ruta(u"pics"_s) }).salida,
         "Zelda.nes\twhatever.bmp\tZelda.GIF\n"
-        "Sis / Uno: 1 to be made, 1 there already, 1 games without a picture; --write makes them.\n");
+        "Sis / Uno: to be made: 1, there already: 1, games without a picture: 1; --write makes them.\n");
     // Without that, a directory's pictures go by their names alone.
     EXPECT_EQ(
         Zembro({ u"captures"_s, u"Sis"_s, u"Uno"_s, u"--from"_s, Ruta(u"pics"_s) }).estado, companion::Bien);
@@ -321,7 +322,7 @@ TEST_F(Captures, OfTheGamePlayedLastAreNotThoseThatItMadeItself)
     PonFoto(u"roms/a.png"_s, 20);
     EXPECT_EQ(Zembro({ u"captures"_s, u"Sis"_s, u"Uno"_s, u"--last"_s, u"--replace"_s }).salida,
         "Zelda.nes\ta.png\tZelda.GIF\n"
-        "Sis / Uno: 1 to be made, 0 there already, 2 games without a picture; --write makes them.\n");
+        "Sis / Uno: to be made: 1, there already: 0, games without a picture: 2; --write makes them.\n");
 }
 
 TEST_F(Captures, SaysWhyThereIsNoneOfTheGamePlayedLast)

@@ -125,16 +125,17 @@ TEST_F(Describe, SaysWhyNothingCameOfIt)
     const QStringList conLista { u"describe"_s, u"Sis"_s, u"--from"_s, Ruta(u"list.txt"_s) };
     EXPECT_EQ(Zembro(conLista).salida,
         "New: 0. Changed: 0.\n"
-        "Of 6 games 1 have a description already (--replace makes them anew), and 5 aren't in the list.\n");
+        "Games: 6. With a description already (--replace makes them anew): 1. Not in the list: 5.\n");
     const QJsonObject objeto = Json(conLista);
     EXPECT_EQ(objeto[u"games"_s].toInt(), 6);
     EXPECT_EQ(objeto[u"described"_s].toInt(), 1);
     EXPECT_EQ(objeto[u"unknown"_s].toInt(), 5);
-    EXPECT_FALSE(Zembro({ u"describe"_s, u"Sis"_s, u"--write"_s }).salida.contains("Of "));
+    EXPECT_FALSE(Zembro({ u"describe"_s, u"Sis"_s, u"--write"_s }).salida.contains("Games: "));
     EXPECT_EQ(Zembro({ u"describe"_s, u"Sis"_s }).salida,
         "New: 0. Changed: 0.\n"
-        "Of 6 games 6 have a description already (--replace makes them anew), and the names of 0 give no "
-        "other one.\n");
+        "Games: 6. With a description already (--replace makes them anew): 6. With a name that gives no "
+        "other "
+        "one: 0.\n");
     for (const QByteArray &vacia :
         QByteArrayList { "", "\n\n", "no tab in here\n", "<datafile></datafile>" }) {
         Pon(u"list.txt"_s, vacia);

@@ -1,6 +1,7 @@
 // zembro check --mend: what it repairs, and that check says the same of it.
 #include "mesaderevision.h"
 
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -74,7 +75,8 @@ TEST_F(Mend, CheckSaysWhereItHasTheAnswer)
     EXPECT_TRUE(dicho().startsWith("Zembro.emu:22: The line [EOF] behind the last system is missing. It has "
                                    "one answer only: check --mend --write.\n"))
         << dicho().toStdString();
-    EXPECT_TRUE(dicho().contains("The capture Luigi.gif fits no game.\n"));
+    EXPECT_TRUE(dicho().contains(
+        "The capture Luigi.gif fits no game; rename it as the game is called, or remove it.\n"));
     const Clases halladas = Halladas();
     EXPECT_THAT(halladas.remendables, ElementsAre(u"missing-mark"_s));
     EXPECT_THAT(halladas.otras, ElementsAre(u"capture-without-game"_s));
@@ -151,4 +153,40 @@ TEST_F(Mend, FilesOfWhichAClosingLineWasDeletedAreAsTheyWere)
         EXPECT_THAT(clases(), IsEmpty());
         Pon(caso.fichero, entero);
     }
+}
+
+TEST_F(Mend, ACopyThatHoldsWhatWasLostIsNamed)
+{
+    Zembro({ u"save"_s });
+    const QString copia = QDir(Ruta(u"copias"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot).value(0);
+    ASSERT_FALSE(copia.isEmpty());
+    Cambia(u"Zembro.emu"_s, "IMG=" + Ruta(u"img/"_s).toUtf8() + "\r\nPAR1=-a\r\n", "PAR1=-a\r\n");
+    Pon(u"img/Luigi.gif"_s, UnGif());
+    const QJsonArray hallados = Json({ u"check"_s }, companion::Hallazgos)[u"findings"_s].toArray();
+    ASSERT_GE(hallados.size(), 2);
+    for (const QJsonValue &uno : hallados)
+        EXPECT_EQ(uno[u"copy"_s].toString(), uno[u"kind"_s].toString() == u"missing-line" ? copia : QString())
+            << uno[u"text"_s].toString().toStdString();
+    EXPECT_TRUE(dicho().contains("A copy holds it as it was: zembro restore " + copia.toUtf8() + '\n'))
+        << dicho().toStdString();
+    // A copy that lacks it too is no help.
+    Borra(u"copias/"_s + copia + u"/Zembro.emu"_s);
+    EXPECT_FALSE(dicho().contains("A copy holds it"));
+    Pon(u"copias/"_s + copia + u"/Zembro.emu"_s, Bytes(u"Zembro.emu"_s));
+    EXPECT_FALSE(dicho().contains("A copy holds it"));
+}
+
+TEST_F(Mend, SettingsSayWhatTheyTake)
+{
+    Cambia(u"Zembro.cfg"_s, "TypeOfEditor = 1", "TypeOfEditor = 7");
+    Cambia(u"Zembro.cfg"_s, "LastEmuUsed = 0", "LastEmuUsed = 9");
+    Cambia(u"Zembro.cfg"_s, "ZB-ENG.LNG", "ZB-XXX.LNG");
+    const QByteArray todo = dicho();
+    EXPECT_TRUE(
+        todo.contains("Zembro.cfg:15: This setting takes a whole number from 0 to 1: TypeOfEditor = 7\n"))
+        << todo.toStdString();
+    EXPECT_TRUE(
+        todo.contains("Zembro.cfg:13: This setting takes a whole number from 0 to 1: LastEmuUsed = 9\n"));
+    EXPECT_TRUE(todo.contains("Zembro.cfg:17: There is no such language file; choose the language in the "
+                              "options, or name one of these: ZB-ENG.LNG\n"));
 }

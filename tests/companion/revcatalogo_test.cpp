@@ -143,5 +143,5 @@ TEST_F(Check, LinesOfALanguageThatWereReplacedLostOrDoubledAreSaid)
     const qsizetype desde = entero.indexOf("Zbo_Check");
     Pon(u"LNG/ZB-ENG.LNG"_s, QByteArray(entero).remove(desde, entero.indexOf('\n', desde) + 1 - desde));
     EXPECT_THAT(clases(), ElementsAre(u"missing-words"_s));
-    EXPECT_TRUE(dicho().contains(": Zbo_Check\n")) << dicho().toStdString();
+    EXPECT_TRUE(dicho().contains(": 1 (Zbo_Check)\n")) << dicho().toStdString();
 }

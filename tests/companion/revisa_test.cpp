@@ -155,15 +155,16 @@ TEST_F(Check, WhatIsNoFileIsCounted_AndNamed)
     const QByteArray todo = dicho();
     EXPECT_TRUE(todo.contains(
         "Sis / Uno: 3 listed, 4 of another kind, 0 left out by the filters, 2 without a capture.\n"
-        "    3 are no files, but directories, pipes or the like: a.nes, b.nes, saves\n"))
+        "    No files, but directories, pipes or the like: 3 (a.nes, b.nes, saves)\n    Hidden, and so not "
+        "listed: 1 (.hidden)\n"))
         << todo.toStdString();
     EXPECT_TRUE(todo.contains(
         "Sis / Dos: 1 listed, 1 of another kind, 0 left out by the filters, 0 without a capture.\n"
-        "    1 are no directories: readme.txt\n"));
+        "    No directories: 1 (readme.txt)\n"));
     EXPECT_EQ(Json({ u"check"_s })[u"pairs"_s][1][u"other_things"_s].toInt(), 3);
     PonDirectorio(u"roms/zzz"_s);
-    EXPECT_TRUE(dicho().contains(
-        "    4 are no files, but directories, pipes or the like: a.nes, b.nes, saves ...\n"));
+    EXPECT_TRUE(
+        dicho().contains("    No files, but directories, pipes or the like: 4 (a.nes, b.nes, saves ...)\n"));
 }
 
 TEST_F(Check, MendIsForTheWholeDirectory)
@@ -284,7 +285,9 @@ TEST_F(Check, CapturesOfAnotherSpellingOrOfNoGameAreSaid)
     const QByteArray todo = Zembro({ u"check"_s, u"Sis"_s, u"Uno"_s }).salida;
     EXPECT_TRUE(todo.contains("The capture Zelda II (Europe).gif would be found as Zelda II.GIF; rename it,"))
         << todo.toStdString();
-    EXPECT_TRUE(todo.contains("The capture Luigi.gif fits no game.\n")) << todo.toStdString();
+    EXPECT_TRUE(
+        todo.contains("The capture Luigi.gif fits no game; rename it as the game is called, or remove it.\n"))
+        << todo.toStdString();
 }
 
 TEST_F(Check, WhatStandsForACaptureAndIsNoneIsSaid)

@@ -271,7 +271,7 @@ TEST_F(CheckPair, OfManyGamesWithoutACaptureAFewAreNamed_AndAllOfAPairThatIsAske
     for (const QString &nombre : { u"roms/A.nes"_s, u"roms/B.nes"_s, u"roms/C.nes"_s })
         Pon(nombre, "x");
     EXPECT_EQ(dicho().count(" has no capture; "), 3);
-    EXPECT_TRUE(dicho().endsWith("    and 2 more; check SYSTEM EMULATOR names them all\n"))
+    EXPECT_TRUE(dicho().endsWith("    and more: 2; check SYSTEM EMULATOR names them all\n"))
         << dicho().toStdString();
     EXPECT_EQ(Zembro({ u"check"_s, u"sis"_s, u"uno"_s }).salida.count(" has no capture; "), 5);
     const QJsonObject pareja = Json({ u"check"_s })[u"pairs"_s][1].toObject();
@@ -327,7 +327,7 @@ TEST_F(CheckPair, ADirectoryThatCannotBeReadIsToldFromOneThatIsNotThere)
             << cual.toStdString() << dichos(base + cual).toStdString();
     EXPECT_EQ(dichos(base + "closed/inner/").count(sinDerecho + "closed\n"), 2);
     EXPECT_EQ(dichos(base + "afile/").count("This is no directory: " + base + "afile/\n"), 2);
-    EXPECT_EQ(dichos(base + "gone/a/").count("There is no such directory: " + base + "gone/a/\n"), 2);
+    EXPECT_EQ(dichos(base + "gone/a/").count("There is no such directory: " + base + "gone/a/"), 2);
     chmod(Ruta(u"closed"_s).toUtf8().constData(), 0700);
 }
 

@@ -1,0 +1,102 @@
+// All files of the program directory, and which copy of them holds what they have lost.
+#include "companion/copias.h"
+#include "companion/perdidos.h"
+#include "companion/revision.h"
+
+#include "host/encoding.h"
+#include "host/failure.h"
+#include "host/paths.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace companion {
+
+namespace {
+
+// What several lines lead to and isn't there has gone elsewhere.
+void revisaLugares(const Sesion &sesion, Revision &revision)
+{
+    const QString fichero = u"Zembro.emu"_s;
+    for (const Perdido &perdido : LugaresPerdidos(TextoDelPrograma(sesion.M, fichero)))
+        revision.push_back(
+            { u"lost-place"_s, fichero, perdido.primera, {}, TextoDe(perdido, sesion.palabras) });
+}
+
+} // namespace
+
+void RevisaFicheros(Sesion &sesion, Revision &revision)
+{
+    const Palabras &palabras = sesion.palabras;
+    for (const QString &fichero : { u"Zembro.emu"_s, u"Zembro.sye"_s })
+        Revisa(revision, fichero, palabras, [&] { RevisaCatalogo(sesion, fichero, revision); });
+    Revisa(revision, u"Zembro.emu"_s, palabras, [&] { revisaLugares(sesion, revision); });
+    Revisa(revision, u"Zembro.rom"_s, palabras, [&] { RevisaNotas(sesion, revision); });
+    Revisa(revision, u"Zembro.cfg"_s, palabras, [&] { RevisaAjustes(sesion, revision); });
+    Revisa(revision, u"LNG"_s, palabras, [&] { RevisaIdiomas(sesion, revision); });
+}
+
+QString SenaDe(const Hallazgo &hallazgo)
+{
+    return QStringList { hallazgo.clase, hallazgo.fichero, hallazgo.pareja, hallazgo.texto }.join(u'\n');
+}
+
+namespace {
+
+// What is found where something was lost; what was added, or lies elsewhere, no copy brings back.
+bool esDeAlgoPerdido(const Hallazgo &hallazgo)
+{
+    static const QSet<QString> clases { u"block-without-end"_s, u"missing-mark"_s, u"missing-line"_s,
+        u"line-without-emulator"_s, u"line-ahead-of-systems"_s, u"system-without-emulator"_s,
+        u"malformed-line"_s, u"cut-record"_s, u"open-quotes"_s, u"no-name"_s, u"system-without-notes"_s,
+        u"setting-out-of-place"_s, u"setting-out-of-range"_s, u"unreadable-settings"_s, u"unreadable"_s };
+    return !hallazgo.seRemienda && hallazgo.copia.isEmpty() && clases.contains(hallazgo.clase);
+}
+
+// The findings of a file if it were that of a copy.
+QSet<QString> hallados(Sesion &sesion, const QString &fichero, const QString &texto)
+{
+    sesion.M.Ficheros.readInstead(host::programFile(fichero), texto);
+    Revision revision;
+    RevisaFicheros(sesion, revision);
+    QSet<QString> senas;
+    for (const Hallazgo &hallazgo : revision) {
+        if (hallazgo.fichero == fichero)
+            senas += SenaDe(hallazgo);
+    }
+    return senas;
+}
+
+} // namespace
+
+void MarcaCopias(Sesion &sesion, Revision &revision)
+{
+    if (std::ranges::none_of(revision, esDeAlgoPerdido))
+        return;
+    for (const QString &copia : Copias()) {
+        Ficheros ficheros;
+        try {
+            ficheros = FicherosDeCopia(copia);
+        } catch (const host::Failure &) {
+            continue;
+        }
+        for (auto fichero = ficheros.cbegin(); fichero != ficheros.cend(); ++fichero) {
+            const auto esSuyo = [&](const Hallazgo &hallazgo) {
+                return hallazgo.fichero == fichero.key() && esDeAlgoPerdido(hallazgo);
+            };
+            if (std::ranges::none_of(revision, esSuyo))
+                continue;
+            const QSet<QString> senas =
+                hallados(sesion, fichero.key(), host::decodeText(fichero.value()).text);
+            for (Hallazgo &hallazgo : revision) {
+                if (esSuyo(hallazgo) && !senas.contains(SenaDe(hallazgo)))
+                    hallazgo.copia = copia;
+            }
+        }
+    }
+}
+
+} // namespace companion
