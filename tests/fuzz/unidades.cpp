@@ -83,6 +83,24 @@ void enDOS(const QString &enDisco)
     Exige(otras.RutaOApodo(enDisco) == dicha, "the same path gets the same letters", texto);
 }
 
+// A directory that is made beside another one has a name of its own in DOS, whichever is listed first.
+void nuevaEnDOS(const QByteArray &una, const QByteArray &otra)
+{
+    const QByteArray nombre = launch::NombresDOS({ otra })[0];
+    if (!launch::SeAbreEnDOS(nombre) || nombre.contains('.'))
+        return;
+    const launch::NombreNuevo nuevo = launch::NombreNuevoEnDOS({ una }, nombre);
+    Exige(launch::SeAbreEnDOS(nuevo.enDOS), "a new directory is opened by DOS",
+        QString::fromLatin1(nuevo.enDOS));
+    if (nuevo.enDisco == una)
+        return;
+    for (const QByteArrayList &entradas : { QByteArrayList { una, nuevo.enDisco }, { nuevo.enDisco, una } }) {
+        const QByteArrayList nombres = launch::NombresDOS(entradas);
+        Exige(nombres[entradas.indexOf(nuevo.enDisco)] == nuevo.enDOS && nombres[0] != nombres[1],
+            "a new directory has its name alone", QString::fromLatin1(una), QString::fromLatin1(nombre));
+    }
+}
+
 void enWindows(const QString &enDisco, const std::vector<host::Drive> &unidades)
 {
     const QString dicha = launch::RutaDeWindows(enDisco, unidades);
@@ -110,6 +128,9 @@ void camino(const QByteArray &directorio, const QByteArray &nombre)
         const QString enUnidad = u"D:/"_s + host::nameFromDisk(directorio + '/' + nombre);
         if (!enUnidad.contains(u'\\'))
             Exige(host::findOnDisk(enUnidad) == ruta, "a file is found on its drive", enUnidad);
+        Exige(host::findOnDisk(host::spelledOnDrive(u'D', enDisco)) == ruta,
+            "what is spelled on a drive leads to the file", enDisco);
+        nuevaEnDOS(directorio, nombre);
         enDOS(enDisco);
         enWindows(enDisco, host::drives());
         unlink(ruta.constData());

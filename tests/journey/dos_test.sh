@@ -1,6 +1,7 @@
 #!/bin/bash
 # An old program directory, made on two drives of another system, is taken over, and its games for DOS are played from the
-# main screen, ten emulators of five systems: dos_test.sh BUILD. Skipped, with status 77, where there is no DOSBox or no nasm.
+# main screen, ten emulators of five systems; what a game saves is there also where the program was left or killed
+# meanwhile: dos_test.sh BUILD. Skipped, with status 77, where there is no DOSBox or no nasm.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 if [ "${1:-}" != --inside ]; then
@@ -140,3 +141,38 @@ plays 3 0 "$c/EMUS/DELTA" ' -b d:\roms\thefir~1.pic|EMUS\DELTA|a picture'
 plays 3 1 "$d/PROGS" '|PROGS|'
 plays 4 0 "$c/EMUS/DELTA" '  E:\NINO.PIC|EMUS\DELTA|a child'
 plays 4 1 "$d/PROGS" '  D:\ROMS\NOTES\THESEC~1.PIC  -Mine|PROGS|'
+
+# A game under another name saves beside itself also where the program is left, or killed, ahead of its end.
+accents="$d/Roms/Accents"
+printf '%s\r\n' '@echo saved > E:\NINO.SAV' '@md E:\STATES' '@echo slot > E:\STATES\ONE' \
+    '@C:\EMUS\PAINTE~1\PAINTS.COM %1' >"$c/EMUS/DELTA/SAVES.BAT"
+sed -i '/^+Extra accents/,/^XDI/s/^EXE=.*/EXE=C:\\EMUS\\DELTA\\SAVES.BAT\r/' "$work/program/Zembro.emu"
+export TMPDIR=$work/temporary
+mkdir -m 700 "$TMPDIR"
+leave() { xdotool windowfocus --sync "$main"; xdotool key --clearmodifiers ctrl+q; }
+ended() { ! pgrep -f -- "-conf $TMPDIR/ZB-DOS-" >/dev/null; }
+kill_it() { kill -9 "$program"; }
+for ending in leave kill_it; do
+    rm -rf "$accents"/*.SAV "$accents/STATES"
+    start 4 0
+    dosbox=$(timeout 60 xdotool search --sync --onlyvisible --name 'DOSBox.*PAINTS' | head -1)
+    [ -n "$dosbox" ] || fail "$ending: no window of DOSBox: $(cat "$work/log")"
+    wait_for 30 is_magenta || fail "$ending: the picture doesn't show"
+    $ending
+    wait $program 2>/dev/null || [ $ending = kill_it ] || fail "it ended with status $?"
+    program=
+    "$work/program/zembro" check >/dev/null || true
+    [ -e "$TMPDIR"/ZB-DOS-*/files-E/NINO.SAV ] || fail "$ending: the drive of a game that goes on is gone"
+    xdotool windowfocus --sync "$dosbox"
+    xdotool key --clearmodifiers space
+    wait_for 30 ended || fail "$ending: DOSBox stays"
+    "$work/program/Zembrolix" 2>"$work/log" &
+    program=$!
+    main=$(timeout 60 xdotool search --sync --onlyvisible --pid $program --name '^Zembrolix v2' | head -1)
+    wait_for 30 test -e "$accents/STATES/ONE" || fail "$ending: what was saved isn't back: $(cat "$work/log")"
+    [ "$(tr -d '\r' <"$accents/NINO.SAV")" = saved ] || fail "$ending: '$(cat "$accents/NINO.SAV")' was saved"
+    leave
+    wait $program || fail "it ended with status $?"
+    program=
+    ! ls -d "$TMPDIR"/ZB-* 2>/dev/null || fail "$ending: left behind: $(ls -R "$TMPDIR")"
+done
