@@ -2,6 +2,7 @@
 
 #include "companion/cambio.h"
 #include "companion/diferencia.h"
+#include "companion/impedimento.h"
 #include "companion/otrosistema.h"
 #include "companion/viejo.h"
 
@@ -105,6 +106,10 @@ Suerte Adopcion::suerteDe(const EmuladorViejo &uno) const
         return { u"no-tool"_s, launch::TextoDe(encargo.traba, encargo.corredor, m_sesion.M.Palabras) };
     if (encargo.traba != launch::Traba::Ninguna)
         return { u"refused"_s, launch::TextoDe(encargo.traba, encargo.corredor, m_sesion.M.Palabras) };
+    if (encargo.corredor == launch::Corredor::Ninguno) {
+        if (const std::optional<Impedimento> falta = ImpedimentoDe(exe, palabras))
+            return { u"refused"_s, falta->texto };
+    }
     const QString sinLista = porQueNoSeLista(uno);
     if (!sinLista.isEmpty())
         return { u"no-games"_s, palabras.Zbo_SinListar.arg(sinLista) };

@@ -58,6 +58,7 @@ private:
     void BuscaPorFichero(const Busqueda &busqueda);
     QString EXE() const { return LeeRuta(M.Cat_EXE); }
     void MiraSiEsDeDOS();
+    void PonUnidadDelJuego();
     bool QuiereLaRuta() const { return host::upper(m_pantalla.TextoCombo2()) == u"NEORAGE"; }
     // Where it gets the name alone, it looks for that in a place of its own.
     bool ConApodos() const { return m_seleccion.tipo != 1 && (m_seleccion.tipo != 3 || QuiereLaRuta()); }
@@ -128,6 +129,7 @@ void Lanzamiento::ConROM(const QString &entrada)
 void Lanzamiento::BuscaPorNota(const Busqueda &busqueda)
 {
     m_piezas.RomCorto = RomCortoDe(m_piezas.RomDir, busqueda.nombre, m_dos, ConApodos());
+    PonUnidadDelJuego();
     if (m_seleccion.tipo == 2 || m_seleccion.tipo == 3)
         m_piezas.RomCorto.texto.truncate(host::startOfLast(m_piezas.RomCorto.texto, 4));
     M.Nota_Clave(busqueda.nota) = host::lower(busqueda.clave);
@@ -139,6 +141,7 @@ void Lanzamiento::BuscaPorNota(const Busqueda &busqueda)
 void Lanzamiento::BuscaPorFichero(const Busqueda &busqueda)
 {
     m_piezas.RomCorto = RomCortoDe(m_piezas.RomDir, busqueda.nombre, m_dos, ConApodos());
+    PonUnidadDelJuego();
     m_piezas.RomBase = RomBaseDe(m_piezas.RomCorto.texto);
     ReunePiezasDelEmulador();
     LeeParRom(m_piezas.RomCorto.texto);
@@ -151,6 +154,15 @@ void Lanzamiento::MiraSiEsDeDOS()
         return;
     m_dos = &m_unidades;
     ProgramaDe(EXE(), m_dos);
+}
+
+// One that is shown under another name lies on another drive than its directory.
+void Lanzamiento::PonUnidadDelJuego()
+{
+    if (!m_dos || !ConApodos() || m_piezas.RomCorto.enDisco.isEmpty())
+        return;
+    if (const auto dicho = m_dos->RutaOApodo(m_piezas.RomDir.enDisco + m_piezas.RomCorto.enDisco))
+        m_piezas.RomDir.texto = host::lower(QString::fromLatin1(dicho->first(dicho->lastIndexOf('\\') + 1)));
 }
 
 void Lanzamiento::ReunePiezasDelEmulador()

@@ -215,3 +215,9 @@ TEST_F(Adopt, PathsThatLeadUpAndGamesBelowTheOldDirectoryAreFoundFromHere)
         << Bytes(u"Zembro.emu"_s).toStdString();
     EXPECT_TRUE(Bytes(u"Zembro.emu"_s).contains("ROM=" + Ruta(u"old/Games/Zips/"_s).toUtf8() + "\r\n"));
 }
+
+TEST_F(Adopt, AProgramThatNobodyCanRunIsToldSo)
+{
+    Pon(u"old/disk/EMUS/Viejo.exe"_s, "no program");
+    EXPECT_EQ(Estados(Adopta({}, companion::Hallazgos)).value(1), u"Viejo refused"_s);
+}

@@ -168,6 +168,7 @@ TEST_F(OtroSistema, CommandShowsAFileUnderAnotherName)
         << dicho.toStdString();
     EXPECT_TRUE(dicho.contains("/ZB-DOS-*/files-")) << dicho.toStdString();
     EXPECT_FALSE(dicho.contains("mount D ")) << dicho.toStdString();
+    EXPECT_TRUE(dicho.contains("c:\\emu\\uno.exe -a e:\\nino.nes")) << dicho.toStdString();
     const QJsonArray unidades = Json(orden)[u"drives"_s].toArray();
     EXPECT_EQ(unidades.last()[u"shows"_s], u"ni\u00F1o.nes"_s);
     EXPECT_EQ(unidades.last()[u"as"_s], u"NINO.NES"_s);
