@@ -6,6 +6,7 @@
 #include "companion/gifs.h"
 #include "companion/plandecapturas.h"
 #include "companion/porque.h"
+#include "companion/revision.h"
 
 #include "core/catalogo.h"
 
@@ -213,6 +214,18 @@ Encargo planea(Sesion &sesion, const std::vector<Pareja> &parejas)
     return encargo;
 }
 
+void hazDirectorio(QString directorio)
+{
+    while (directorio.size() > 1 && host::lastSeparator(directorio) == directorio.size() - 1)
+        directorio.chop(1);
+    if (host::exists(directorio))
+        return;
+    const qsizetype corte = host::lastSeparator(directorio);
+    if (corte > 0)
+        hazDirectorio(directorio.first(corte));
+    host::makeDirectory(directorio);
+}
+
 // The directories of captures that aren't there yet are made.
 void haz(const Sesion &sesion, Encargo &encargo)
 {
@@ -220,9 +233,9 @@ void haz(const Sesion &sesion, Encargo &encargo)
     for (DePareja &una : encargo.parejas) {
         try {
             if (!una.plan.nuevas.empty() && !host::exists(una.directorio))
-                host::makeDirectory(una.directorio);
+                hazDirectorio(una.directorio);
         } catch (const host::Failure &fallo) {
-            una.problema = TextoDe(fallo, sesion.palabras);
+            una.problema = TextoDeDirectorio(fallo, sesion.palabras);
             una.plan.nuevas.clear();
         }
         for (const PorHacer &nueva : una.plan.nuevas)

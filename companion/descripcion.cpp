@@ -13,6 +13,7 @@
 #include "host/letters.h"
 #include "host/paths.h"
 
+#include <QHash>
 #include <QJsonArray>
 
 #include <algorithm>
@@ -30,21 +31,25 @@ constexpr size_t LargoDeTrozo = 65536;
 struct Coleccion {
     std::vector<FicheroListado> ficheros; // each key once
     QSet<QString> textos; // that something is called already
+    std::vector<std::pair<QString, QString>> iguales; // names that differ in case alone, and so have one key
     bool entera = true; // every list could be read
 };
 
 Coleccion coleccionDe(Sesion &sesion, const std::vector<Pareja> &parejas)
 {
     Coleccion coleccion;
-    QSet<QString> claves;
+    QHash<QString, QString> claves; // with the first name of each
     for (const Pareja &pareja : parejas) {
         try {
             const Listado listado = Lista(sesion, pareja);
             for (const FicheroListado &fichero : FicherosListados(sesion.M, pareja, listado)) {
                 coleccion.textos.insert(fichero.entrada);
+                const QString primero = claves.value(fichero.clave, fichero.nombre);
                 if (!claves.contains(fichero.clave))
                     coleccion.ficheros.push_back(fichero);
-                claves.insert(fichero.clave);
+                else if (primero != fichero.nombre && host::sameName(primero, fichero.nombre))
+                    coleccion.iguales.emplace_back(primero, fichero.nombre);
+                claves.insert(fichero.clave, primero);
             }
             for (int i = 0; i < sesion.M.Nota_Clave.tamaño() && !sesion.M.Nota_Clave(i).isEmpty(); ++i)
                 coleccion.textos.insert(sesion.M.Nota_Texto(i));
@@ -221,6 +226,17 @@ int responde(const Sesion &sesion, int estado, QJsonObject objeto, const core::D
     return rechazados.isEmpty() ? estado : Hallazgos;
 }
 
+// Says which names differ in case alone; those that have one description with another.
+QJsonArray dichoDeIguales(const Sesion &sesion, const Coleccion &coleccion)
+{
+    QJsonArray nombres;
+    for (const auto &[primero, otro] : coleccion.iguales) {
+        nombres += otro;
+        sesion.Avisa(sesion.palabras.Zbo_DesIguales.arg(primero, otro));
+    }
+    return nombres;
+}
+
 int describe(Sesion &sesion)
 {
     LeeMundo(sesion);
@@ -241,7 +257,7 @@ int describe(Sesion &sesion)
     for (const auto &[clave, texto] : bautizados.descripciones)
         descripciones.push_back({ clave, texto });
     core::Descritas descritas;
-    QJsonObject objeto { { u"system"_s, sistema } };
+    QJsonObject objeto { { u"system"_s, sistema }, { u"alike"_s, dichoDeIguales(sesion, coleccion) } };
     const auto lasQueHay = sesion.Tiene(u"replace"_s) ? core::LasQueHay::Cambian : core::LasQueHay::Quedan;
     const auto cambio = [&](const QString &texto) {
         descritas = core::ConDescripciones(texto, sistema, descripciones, lasQueHay);

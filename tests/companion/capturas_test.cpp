@@ -418,3 +418,19 @@ TEST_F(Captures, APictureThatIsCutIsMadeAnew_AndIsNoneOfThoseThere)
     EXPECT_EQ(juegos[0][u"capture"_s].toString(), Ruta(u"img/mario.gif"_s));
     EXPECT_EQ(juegos[1][u"capture"_s].toString(), QString());
 }
+
+TEST_F(Captures, TheirDirectoryIsMadeWhereItIsNotThere)
+{
+    Pon(u"pics/Zelda.png"_s, imagen());
+    Cambia(u"Zembro.emu"_s, "roms/\r\nIMG=" + Ruta(u"img/"_s).toUtf8(),
+        "roms/\r\nIMG=" + Ruta(u"new/deep/"_s).toUtf8());
+    const QStringList pedido { u"captures"_s, u"Sis"_s, u"Uno"_s, u"--from"_s, Ruta(u"pics"_s) };
+    EXPECT_EQ(Zembro(pedido).estado, companion::Hallazgos);
+    EXPECT_FALSE(QFile::exists(Ruta(u"new"_s)));
+    EXPECT_EQ(Zembro(pedido + QStringList { u"--write"_s }).estado, companion::Bien);
+    EXPECT_TRUE(QFile::exists(Ruta(u"new/deep/Zelda.GIF"_s)));
+    // Where it can't be made, what to do is said.
+    Pon(u"afile"_s, "x");
+    Cambia(u"Zembro.emu"_s, "new/deep/", "afile/deep/");
+    EXPECT_EQ(Zembro(pedido + QStringList { u"--write"_s }).estado, companion::Hallazgos);
+}

@@ -270,3 +270,19 @@ TEST_F(Describe, AListOfThousandsIsDescribedInOneRewrite)
     EXPECT_GE(Json({ u"describe"_s, u"Sis"_s, u"--write"_s })[u"added"_s].toInt(), 3000);
     EXPECT_LT(TiempoDeTrabajo() - antes, 3000);
 }
+
+TEST_F(Describe, OfNamesThatDifferInCaseAloneItSaysSo_AndDoesTheSameEachTime)
+{
+    Pon(u"roms/MARIO (Europe).nes"_s, "x");
+    Pon(u"roms/Mario (europe).nes"_s, "x");
+    const Respuesta primera = Zembro({ u"describe"_s, u"Sis"_s });
+    EXPECT_EQ(primera.error,
+        "zembro: MARIO (Europe).nes and Mario (europe).nes differ in case alone, so they have one "
+        "description "
+        "together; rename one of them.\n");
+    EXPECT_EQ(Zembro({ u"describe"_s, u"Sis"_s }).salida, primera.salida);
+    EXPECT_EQ(Json({ u"describe"_s, u"Sis"_s }, companion::Hallazgos)[u"alike"_s].toArray(),
+        QJsonArray { u"Mario (europe).nes"_s });
+    Zembro({ u"describe"_s, u"Sis"_s, u"--write"_s });
+    EXPECT_TRUE(Zembro({ u"describe"_s, u"Sis"_s }).salida.startsWith("New: 0. Changed: 0.\n"));
+}
