@@ -78,7 +78,7 @@ END
     sed -i "s|^EXE=.*|EXE=$work/dies|" Zembro.emu
     printf '#!/bin/sh\nkill -SEGV $$\n' >"$work/dies"
     chmod +x "$work/dies"
-    example "A launch without the screen, here of an emulator that dies at once. Its status is the emulator's. A signal that would end \`zembro play\` is handed on to the emulator; then the status is that signal's." \
+    example "A launch without the screen, here of an emulator that dies at once. Its status is the emulator's. TERM, INT, HUP, QUIT, USR1 and USR2 are handed on to it, and to what it has started; the status is then that signal's." \
         play atari stella prisma
     printf '\n## why\n'
     play_on_screen
@@ -87,7 +87,7 @@ END
     sed -i -e "s|^EXE=.*|EXE=$work/dyes|" -e "/^'---/d" Zembro.emu
     mv demo/prisma.gif "demo/prisma (1).gif"
     example "An executable that is mistyped, a catalogue that lost its closing line, a capture that is never found:" check
-    example "What has one answer only can be repaired; \`--write\` does it." check --mend
+    example "What has one answer only, and check says so of each finding, can be repaired; \`--write\` does it." check --mend
     printf '\n## find\n'
     example "Emulators that came to the machine since; \`--write\` configures them." find
     ./zembro check --mend --write >/dev/null 2>&1 || [ $? -eq 1 ]
