@@ -117,11 +117,11 @@ void drawCombo(QPainter &painter, const QStyleOptionComboBox &option, const QRec
 
 QString shownInCombo(const QStyleOptionComboBox &option, const QStyle &style, const QWidget *widget)
 {
-    constexpr int Margin = 1; // pixels that the toolkit leaves free at each end
+    constexpr int Free = 1; // pixels that the toolkit leaves free at each end
     const QRect field =
         style.subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, widget);
     return option.fontMetrics.elidedText(
-        shownPart(option.currentText), Qt::ElideRight, field.width() - 2 * Margin);
+        shownPart(option.currentText), Qt::ElideRight, field.width() - 2 * Free);
 }
 
 void drawScrollBar(QPainter &painter, const QStyleOptionSlider &option, const BarPlaces &places)

@@ -7,6 +7,8 @@
 
 #include "tests/launch/zipdeprueba.h"
 
+#include <QSet>
+
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;

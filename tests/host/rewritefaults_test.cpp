@@ -5,6 +5,8 @@
 #include "host/numberedfiles.h"
 #include "host/replacement.h"
 
+#include <QFile>
+
 #include <cerrno>
 #include <csignal>
 

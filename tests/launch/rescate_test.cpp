@@ -9,6 +9,8 @@
 #include "host/paths.h"
 #include "host/process.h"
 
+#include <QHash>
+
 #include <csignal>
 
 #include <sys/stat.h>
