@@ -64,6 +64,12 @@ QString sitioDe(const QString &fichero, int linea)
     return fichero + (linea > 0 ? u':' + QString::number(linea) : QString());
 }
 
+// Behind a text that ends in a value, which it must not run into, in brackets.
+QString pistaTras(const QString &texto, const QString &pista)
+{
+    return texto.endsWith(u'.') ? u' ' + pista : u" ["_s + pista + u']';
+}
+
 QString enLinea(const Hallazgo &hallazgo, const Palabras &palabras)
 {
     QStringList partes;
@@ -75,9 +81,9 @@ QString enLinea(const Hallazgo &hallazgo, const Palabras &palabras)
     if (hallazgo.primera > 0)
         texto += u" ("_s + sitioDe(hallazgo.fichero, hallazgo.primera) + u')';
     if (hallazgo.seRemienda)
-        texto += u' ' + palabras.Zbo_LoRemienda;
+        texto += pistaTras(texto, palabras.Zbo_LoRemienda);
     if (!hallazgo.copia.isEmpty())
-        texto += u' ' + palabras.Zbo_EnCopia.arg(hallazgo.copia);
+        texto += pistaTras(texto, palabras.Zbo_EnCopia.arg(hallazgo.copia));
     return (partes + QStringList { texto }).join(u": "_s);
 }
 

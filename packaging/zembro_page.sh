@@ -97,7 +97,7 @@ END
     ./zembro move --write >/dev/null
     printf '\n## describe\n'
     printf x >"demo/Legend of Zelda, The (Europe) (Rev 1).bin"
-    example "By the names of the files. \`--from\` takes a DAT, what \`mame -listxml\` says (\`--from -\` reads a pipe), a gamelist.xml, or lines of name, tab, description. Where nothing comes of it, it says why." describe atari
+    example "By the names of the files. \`--from\` takes a DAT, what \`mame -listxml\` says (\`--from -\` reads a pipe), a gamelist.xml, or lines of name, tab, description. Where nothing comes of it, it says why. A list of 283 MB from MAME, and 6,667 games: 5 seconds of processor time and 25 MB of memory; those games alone a quarter of a second." describe atari
     printf '\n## captures\n'
     rm "demo/prisma (1).gif"
     mkdir "$work/pictures"

@@ -169,6 +169,11 @@ TEST_F(Mend, ACopyThatHoldsWhatWasLostIsNamed)
             << uno[u"text"_s].toString().toStdString();
     EXPECT_TRUE(dicho().contains("A copy holds it as it was: zembro restore " + copia.toUtf8() + '\n'))
         << dicho().toStdString();
+    Cambia(u"Zembro.emu"_s, "PAR1=-a", "PAR1=\"-a");
+    EXPECT_TRUE(
+        dicho().contains(": PAR1=\"-a [A copy holds it as it was: zembro restore " + copia.toUtf8() + "]\n"))
+        << dicho().toStdString();
+    Cambia(u"Zembro.emu"_s, "PAR1=\"-a", "PAR1=-a");
     // A copy that lacks it too is no help.
     Borra(u"copias/"_s + copia + u"/Zembro.emu"_s);
     EXPECT_FALSE(dicho().contains("A copy holds it"));
