@@ -8,6 +8,7 @@
 #include "forms/ownfonts.h"
 #include "forms/picturebutton.h"
 #include "forms/style.h"
+#include "forms/wholeframes.h"
 #include "forms/units.h"
 
 #include <QAbstractButton>
@@ -87,6 +88,8 @@ Application::Application(int &argc, char **argv)
     TellAssistantsOfCombos();
     TellAssistantsOfControls();
     setQuitOnLastWindowClosed(false);
+    if (platformName().startsWith(u"wayland"))
+        m_wholeFrames = std::make_unique<WholeFrames>(qEnvironmentVariable("QT_SCALE_FACTOR").toDouble());
     m_wait.setInterval(TurnLength);
     m_wait.callOnTimeout(this, [this] {
         if (--m_waits == 0)
@@ -102,6 +105,15 @@ bool Application::notify(QObject *receiver, QEvent *event)
     auto deliverIt = [&] { taken = deliver(receiver, event); };
     guarded(std::ref(deliverIt));
     return taken;
+}
+
+void hideTip()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->inherits("QTipLabel"))
+            window->hide();
+    }
 }
 
 bool Application::deliver(QObject *receiver, QEvent *event)
@@ -128,6 +140,11 @@ bool Application::deliver(QObject *receiver, QEvent *event)
         break;
     case QEvent::FocusAboutToChange:
         deliverPutOff();
+        break;
+    case QEvent::ToolTip:
+        // There, one on show stays where it came up, whatever it is to say then.
+        if (platformName().startsWith(u"wayland"))
+            hideTip();
         break;
     default:
         break;

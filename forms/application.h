@@ -13,6 +13,7 @@
 namespace forms {
 
 class Hold;
+class WholeFrames;
 
 class Application : public QApplication {
 public:
@@ -44,7 +45,11 @@ private:
     int m_waits = 0; // how often it is yet to run out
 
     std::unique_ptr<Hold> m_hold; // of a control of the toolkit's
+    std::unique_ptr<WholeFrames> m_wholeFrames;
 };
+
+// Hides the toolkit's tip at once, so that the next one comes up at its own place.
+void hideTip();
 
 // What Application does, for a test that brings its own application object.
 void setLook(QApplication &application);

@@ -193,13 +193,15 @@ std::optional<QString> Label::clipped() const
 void Label::paintEvent(QPaintEvent *event)
 {
     const std::optional<QString> lines = clipped();
-    if (m_shown == text() && !lines) {
+    if (m_shown == text() && !lines && !text().isRightToLeft()) {
         Control::paintEvent(event);
         return;
     }
     QPainter painter(this);
-    style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(), isEnabled(),
-        lines.value_or(m_shown), foregroundRole());
+    // A name that begins with Arabic or Hebrew letters doesn't turn round what stands behind it.
+    const int flags = int(alignment()) | Qt::TextForceLeftToRight | (wordWrap() ? Qt::TextWordWrap : 0);
+    style()->drawItemText(
+        &painter, contentsRect(), flags, palette(), isEnabled(), lines.value_or(m_shown), foregroundRole());
 }
 
 bool Label::event(QEvent *event)

@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QStyle>
 
+#include <QToolTip>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -47,6 +49,20 @@ TEST(Application, EveryControl_HasTheProgramsFont)
     EXPECT_EQ(menu.font().pixelSize(), 11);
     EXPECT_EQ(menu.font().family(), u"Liberation Sans"_s);
     EXPECT_EQ(check.font().pixelSize(), 11);
+}
+
+TEST(Application, AHiddenTipMakesRoomForOneElsewhere)
+{
+    QWidget window;
+    window.show();
+    QToolTip::showText({ 10, 10 }, u"one"_s, &window);
+    ASSERT_TRUE(QToolTip::isVisible());
+    forms::hideTip();
+    EXPECT_FALSE(QToolTip::isVisible());
+    QToolTip::showText({ 300, 300 }, u"other"_s, &window);
+    EXPECT_TRUE(QToolTip::isVisible());
+    EXPECT_EQ(QToolTip::text(), u"other"_s);
+    forms::hideTip();
 }
 
 TEST(Application, DropDownLists_DropDown)

@@ -133,6 +133,15 @@ TEST_F(Labels, ALargerFont_GrowsTheLabel)
     EXPECT_GT(label.width(), 40);
 }
 
+TEST_F(Labels, ANameThatIsReadFromTheRight_TurnsNothingRoundBehindIt)
+{
+    const QString line = u"\u0627\u0644\u0639.a26 245Kb  [NOR]"_s;
+    label.SetCaption(line);
+    const QImage shown = label.grab().toImage();
+    label.SetCaption(QChar(0x200E) + line); // says that it begins at the left
+    EXPECT_EQ(shown, label.grab().toImage());
+}
+
 TEST_F(Labels, MarkupInACaption_IsText)
 {
     label.SetCaption(u"<b>x</b> & y"_s);
