@@ -9,7 +9,7 @@ delivered=$here/delivered
 fail() {
     echo "start.sh: $*" >&2
     # Somebody who starts from a file manager sees no terminal.
-    [ -t 2 ] || [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || "$here/Aviso" "$*" >/dev/null 2>&1
+    [ -t 0 ] || [ -t 2 ] || [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || "$here/Aviso" "$*" >/dev/null 2>&1
     exit 1
 }
 

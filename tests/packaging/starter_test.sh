@@ -104,7 +104,7 @@ esac
 mv "$work/usr/lib/zembrolix/Aviso" "$work/box"
 printf '#!/bin/sh\n[ $# = 1 ] && echo "$1" >"%s/shown"\n' "$work" >"$work/usr/lib/zembrolix/Aviso"
 chmod +x "$work/usr/lib/zembrolix/Aviso"
-PATH=/usr/bin:/bin DISPLAY=:none HOME='' start 1
+PATH=/usr/bin:/bin DISPLAY=:none HOME='' start 1 </dev/null
 [ "$(cat "$work/shown" 2>/dev/null)" = 'There is no home directory ($HOME) to keep its directory in.' ] || complain "box: it says $(cat "$work/shown")"
 rm -f "$work/shown"
 PATH=/usr/bin:/bin HOME='' start 1
@@ -133,6 +133,24 @@ chmod 0 "$work/room/Zembrolix"
 said=$(HOME=$work/room as_user "$work/usr/games/zembrolix" 2>&1) && complain "closed directory: it starts"
 [ "$said" = "zembrolix: $work/room/Zembrolix can't be entered." ] || complain "closed directory: it says $said"
 cp -a "$mine" "$work/open"
+# A directory made or renewed in part isn't called one that stays as it is.
+mkdir -p "$work/half/LNG"
+chmod 777 "$work/half"
+chmod 555 "$work/half/LNG"
+said=$(HOME=$work/locked as_user "$work/usr/games/zembrolix" --directory "$work/half" 2>&1) && complain "half: it starts"
+case $said in
+"zembrolix: Its directory can't be made: "*) ;;
+*) complain "half: it says $said" ;;
+esac
+cp -a "$mine" "$work/old"
+chmod -R a+rwX "$work/old"
+chmod 555 "$work/old/LNG"
+printf 'newest\r\n' >>"$files/LNG/ZB-ITA.LNG"
+said=$(HOME=$work/locked as_user "$work/usr/games/zembrolix" --directory "$work/old" 2>&1) || complain "old: it doesn't start: $said"
+case $said in
+"zembrolix: Not all of its directory can be renewed: "*"started $work/old/Zembrolix"*) ;;
+*) complain "old: it says $said" ;;
+esac
 # Where no program may be run, that is said.
 cp -a "$work/open" "$work/unable"
 chmod -R a+rX,a-x+X "$work/unable"
