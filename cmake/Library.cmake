@@ -16,8 +16,8 @@ if(ZEMBROLIX_FUZZ)
     target_compile_options(zembrolix_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# The headers that nearly every file includes, compiled once. A file still includes what it uses: the sanitized build
-# compiles the program's files without them, each by itself.
+# The headers that nearly every file includes, compiled once for the debug builds. A file still includes what it uses: they
+# compile each by itself, and the release, which takes several at a time, has none of these.
 set(precompiled_files
     <algorithm> <array> <functional> <memory> <optional> <string> <utility> <vector>
     <QByteArray> <QDir> <QFile> <QFileInfo> <QHash> <QPointer> <QSet> <QString> <QStringList> <QTimer>)
