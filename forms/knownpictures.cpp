@@ -17,7 +17,7 @@ namespace forms {
 namespace {
 
 constexpr auto PartOfAFrame = 5ms; // the rest is for whoever asks, and for painting
-constexpr int AlwaysAtOnce = 8; // pictures, so that a few never show what can't stay
+constexpr int AlwaysAtOnce = 4; // pictures, so that a few never show what can't stay
 
 // The processor's: on a busy machine the same work is done, however long that takes.
 class TimeToSpend {
@@ -47,7 +47,8 @@ void KnownPictures::Check(const QString &directory, const QStringList &paths, st
     for (qsizetype i = 0; i < paths.size(); ++i) {
         const Picture picture { paths[i], states[static_cast<std::size_t>(i)] };
         const bool known = picture.state && m_loadable.contains(*picture.state);
-        if (!known && ++decoded > AlwaysAtOnce && time.isOver())
+        const bool late = !known && (!m_putOff.empty() || (decoded++ >= AlwaysAtOnce && time.isOver()));
+        if (late)
             m_putOff.push_back(picture);
         else if (!isLoadable(picture))
             throw host::Failure(host::InvalidPicture, u"load a picture"_s, picture.path);
