@@ -251,6 +251,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_BloqueDoble", &P::Zbo_BloqueDoble },
         { u"Zbo_ParDobles", &P::Zbo_ParDobles },
         { u"Zbo_EOFFiltro", &P::Zbo_EOFFiltro },
+        { u"Zbo_Retornos", &P::Zbo_Retornos },
         { u"Zbo_LugarPerdido", &P::Zbo_LugarPerdido },
         { u"Zbo_MueveVacio", &P::Zbo_MueveVacio },
         { u"Zbo_EXEConPar", &P::Zbo_EXEConPar },

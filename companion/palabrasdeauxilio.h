@@ -16,10 +16,13 @@ struct PalabrasDeAuxilio {
                        "first ones count. Keep those that you want: %1");
     QString Zbo_EOFFiltro = QStringLiteral("The empty line behind the filters is missing, so that [EOF] is "
                                            "one of them; put an empty line ahead of it.");
+    QString Zbo_Retornos =
+        QStringLiteral("Stray carriage returns, which count as part of the text, at the end of lines: %1.");
 
     // Where a collection went.
     QString Zbo_LugarPerdido =
-        QStringLiteral("Lines that lead to %1, which isn't there: %2. If that went elsewhere: %3");
+        QStringLiteral("Lines that lead to %1, which isn't there or is where this directory was before: %2. "
+                       "If what it holds lies elsewhere now: %3");
     QString Zbo_MueveVacio = QStringLiteral("The name behind %1 is empty.");
 
     // What keeps a program from starting.

@@ -21,7 +21,14 @@ namespace {
 
 QString catalogoRemendado(const QString &texto)
 {
-    return core::ConMarcaFinal(core::ConBloquesCerrados(core::ConSeparadoresFinales(texto, EsRutaDeFichero)));
+    const QString limpio = core::SinRetornosSueltos(texto);
+    return core::ConMarcaFinal(
+        core::ConBloquesCerrados(core::ConSeparadoresFinales(limpio, EsRutaDeFichero)));
+}
+
+QString ajustesRemendados(const QString &texto)
+{
+    return core::ConAjustesEnSuSitio(core::SinRetornosSueltos(texto));
 }
 
 // With an empty block for each system of the catalogue that has none.
@@ -30,6 +37,8 @@ QString conBloques(QString texto, const core::Modulo &M)
     const auto catalogo = core::CatalogoDe(TextoDelPrograma(M, u"Zembro.emu"_s));
     for (int s = 0; s <= catalogo->Indice_Sistema; ++s) {
         const QString sistema = core::Valor(catalogo->Cat_Nombre(s, 0), 1);
+        if (sistema.contains(u'\r'))
+            continue; // which no line that is written here holds
         const std::vector<core::LineaConFin> lineas = core::EnLineas(texto);
         if (std::ranges::none_of(
                 lineas, [&](const core::LineaConFin &linea) { return linea.linea == sistema; }))
@@ -41,7 +50,8 @@ QString conBloques(QString texto, const core::Modulo &M)
 QString notasRemendadas(const QString &texto, const core::Modulo &M)
 {
     const QStringList sistemas = SistemasConocidos(M);
-    const QString cerradas = core::ConNotasCerradas(core::ConMarcaDeNotas(texto, sistemas), sistemas);
+    const QString limpio = core::SinRetornosSueltos(texto);
+    const QString cerradas = core::ConNotasCerradas(core::ConMarcaDeNotas(limpio, sistemas), sistemas);
     const QString conSeccion = core::ConCabeceraDeParametros(conBloques(cerradas, M), sistemas);
     return core::SinRepetidos(core::ConParametrosCerrados(conSeccion), sistemas);
 }
@@ -57,7 +67,7 @@ bool EsRutaDeFichero(const QString &valor)
 std::vector<Remiendo> Remiendos(const core::Modulo &M)
 {
     return { { u"Zembro.emu"_s, catalogoRemendado }, { u"Zembro.sye"_s, catalogoRemendado },
-        { u"Zembro.cfg"_s, core::ConAjustesEnSuSitio },
+        { u"Zembro.cfg"_s, ajustesRemendados },
         { u"Zembro.rom"_s, [&M](const QString &texto) { return notasRemendadas(texto, M); } } };
 }
 

@@ -3,6 +3,8 @@
 #include "companion/perdidos.h"
 #include "companion/revision.h"
 
+#include "core/remiendos.h"
+
 #include "host/encoding.h"
 #include "host/failure.h"
 #include "host/paths.h"
@@ -26,11 +28,27 @@ void revisaLugares(const Sesion &sesion, Revision &revision)
             { u"lost-place"_s, fichero, perdido.primera, {}, TextoDe(perdido, sesion.palabras) });
 }
 
+// What ends in CR CR LF, or was cut between the two, is read with a CR behind its text.
+void revisaRetornos(const Sesion &sesion, const QString &fichero, Revision &revision)
+{
+    const std::vector<size_t> lineas = core::LineasConRetorno(TextoDelPrograma(sesion.M, fichero));
+    if (!lineas.empty())
+        revision.push_back({ u"stray-return"_s, fichero, static_cast<int>(lineas.front()) + 1, {},
+            sesion.palabras.Zbo_Retornos.arg(lineas.size()) });
+}
+
 } // namespace
 
 void RevisaFicheros(Sesion &sesion, Revision &revision)
 {
     const Palabras &palabras = sesion.palabras;
+    for (const QString &fichero : { u"Zembro.emu"_s, u"Zembro.sye"_s, u"Zembro.rom"_s, u"Zembro.cfg"_s }) {
+        try {
+            revisaRetornos(sesion, fichero, revision);
+        } catch (const host::Failure &) {
+            continue; // a finding of what follows
+        }
+    }
     for (const QString &fichero : { u"Zembro.emu"_s, u"Zembro.sye"_s })
         Revisa(revision, fichero, palabras, [&] { RevisaCatalogo(sesion, fichero, revision); });
     Revisa(revision, u"Zembro.emu"_s, palabras, [&] { revisaLugares(sesion, revision); });

@@ -48,11 +48,11 @@ void Copia::Nueva(const QString &linea)
     m_texto += u"\r\n";
 }
 
-// Something follows a last line that had no end of its own.
+// Something follows a last line that had no end of its own, or half of one.
 void Copia::cierraLinea()
 {
     if (!m_texto.isEmpty() && !m_texto.endsWith(u'\n'))
-        m_texto += u"\r\n";
+        m_texto += m_texto.endsWith(u'\r') ? u"\n" : u"\r\n";
 }
 
 } // namespace core

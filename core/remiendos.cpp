@@ -37,6 +37,28 @@ QString conLineas(const QString &texto, const std::vector<SinCierre> &huecos, co
 
 } // namespace
 
+std::vector<size_t> LineasConRetorno(const QString &texto)
+{
+    std::vector<size_t> indices;
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    for (size_t i = 0; i < lineas.size(); ++i) {
+        if (lineas[i].linea.endsWith(u'\r'))
+            indices.push_back(i);
+    }
+    return indices;
+}
+
+QString SinRetornosSueltos(const QString &texto)
+{
+    Copia copia;
+    for (LineaConFin linea : EnLineas(texto)) {
+        while (linea.linea.endsWith(u'\r'))
+            linea.linea.chop(1);
+        copia.Copiar(linea);
+    }
+    return copia.Texto();
+}
+
 std::vector<SinCierre> BloquesSinCierre(const QString &texto)
 {
     const std::vector<LineaConFin> lineas = EnLineas(texto);

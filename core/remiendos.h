@@ -13,6 +13,11 @@
 
 namespace core {
 
+// The lines whose text ends in a carriage return that is no part of their end, as indices; and the text
+// without those.
+std::vector<size_t> LineasConRetorno(const QString &texto);
+QString SinRetornosSueltos(const QString &texto);
+
 // Indices of lines.
 struct SinCierre {
     size_t inicio = 0; // of the block
@@ -41,8 +46,8 @@ bool TieneMarcaDeNotas(const QString &texto, const QStringList &sistemas);
 QString ConMarcaDeNotas(const QString &texto, const QStringList &sistemas);
 
 // The settings with each of their lines where the reader counts it, under the head as the program writes it,
-// and an empty line behind the filters. Unchanged where one of them is missing or stands twice, where there is
-// no filter, or a line that is none of these.
+// and an empty line behind the filters. Unchanged where one of them is missing or stands twice, where there
+// is no filter, or a line that is none of these.
 QString ConAjustesEnSuSitio(const QString &texto);
 
 // The index behind the last line that may belong to the section of parameters: not the two lines that the

@@ -258,8 +258,9 @@ TEST_F(Move, ACollectionThatWentToAnotherDiskIsTold_WithTheCommand)
     Cambia(u"Zembro.emu"_s, "ROM=" + base + "roms/", "ROM=" + base + "my disk/roms/");
     Cambia(u"Zembro.emu"_s, "ROM=" + base + "dirs/", "ROM=" + base + "my disk/dirs/");
     const QByteArray dicho = "Lines that lead to " + base
-        + "my disk, which isn't there: 2. If that went elsewhere: zembro move --old '" + base
-        + "my disk' --new NEWPLACE\n";
+        + "my disk, which isn't there or is where this directory was before: 2. If what it holds lies "
+          "elsewhere now: zembro move --old '"
+        + base + "my disk' --new NEWPLACE\n";
     const Respuesta mueve = Zembro({ u"move"_s });
     EXPECT_EQ(mueve.salida, dicho);
     EXPECT_EQ(mueve.estado, companion::Hallazgos);

@@ -195,3 +195,61 @@ TEST_F(Mend, SettingsSayWhatTheyTake)
     EXPECT_TRUE(todo.contains("Zembro.cfg:17: There is no such language file; choose the language in the "
                               "options, or name one of these: ZB-ENG.LNG\n"));
 }
+
+// "sed s/$/\r/" of files whose lines end in CR LF.
+TEST_F(Mend, CarriageReturnsAheadOfTheEndsOfLinesAreToldAndTakenAway)
+{
+    Pon(u"Zembro.sye"_s, "-Sis\r\n'------\r\n[EOF]\r\n");
+    for (const QString &fichero : { u"Zembro.emu"_s, u"Zembro.sye"_s, u"Zembro.rom"_s, u"Zembro.cfg"_s }) {
+        const QByteArray entero = Bytes(fichero);
+        Pon(fichero, QByteArray(entero).replace("\r\n", "\r\r\n"));
+        const QByteArray lineas = QByteArray::number(entero.count('\n'));
+        EXPECT_TRUE(dicho().contains(fichero.toUtf8()
+            + ":1: Stray carriage returns, which count as part of the text, at the end of lines: " + lineas
+            + ". It has one answer only: check --mend --write.\n"))
+            << dicho().toStdString();
+        EXPECT_TRUE(Halladas().remendables.contains(u"stray-return"_s));
+        EXPECT_EQ(Quedan(), 0) << fichero.toStdString();
+        EXPECT_EQ(Remienda().estado, companion::Bien);
+        EXPECT_EQ(Bytes(fichero), entero);
+        EXPECT_THAT(clases(), IsEmpty());
+    }
+}
+
+// As a copy that breaks off leaves it.
+TEST_F(Mend, OfAFileThatIsCutWithinALineEndItComesToRest)
+{
+    Pon(u"Zembro.sye"_s, "-Sis\r\n'------\r\n[EOF]\r\n");
+    const QStringList ficheros { u"Zembro.emu"_s, u"Zembro.sye"_s, u"Zembro.rom"_s, u"Zembro.cfg"_s };
+    const auto todos = [&] {
+        QByteArrayList bytes;
+        for (const QString &fichero : ficheros)
+            bytes += Bytes(fichero);
+        return bytes;
+    };
+    const QByteArrayList enteros = todos();
+    for (qsizetype f = 0; f < ficheros.size(); ++f) {
+        for (qsizetype corte = enteros[f].indexOf('\r'); corte >= 0;
+             corte = enteros[f].indexOf('\r', corte + 1)) {
+            Pon(ficheros[f], enteros[f].first(corte + 1));
+            const QString donde = ficheros[f] + u' ' + QString::number(corte);
+            EXPECT_TRUE(Halladas().remendables.contains(u"stray-return"_s)) << donde.toStdString();
+            Remienda();
+            const QByteArrayList remendados = todos();
+            EXPECT_FALSE(Halladas().otras.contains(u"stray-return"_s)) << donde.toStdString();
+            Remienda();
+            EXPECT_EQ(todos(), remendados) << donde.toStdString();
+            for (qsizetype i = 0; i < ficheros.size(); ++i)
+                Pon(ficheros[i], enteros[i]);
+        }
+    }
+}
+
+TEST_F(Mend, OfANameWithACarriageReturnWithinItComesToRest)
+{
+    Cambia(u"Zembro.emu"_s, "-Sis\r\n", "-S\ris\r\n");
+    Remienda();
+    const QByteArray notas = Bytes(u"Zembro.rom"_s);
+    Remienda();
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), notas);
+}
