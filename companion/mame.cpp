@@ -2,9 +2,9 @@
 
 #include "core/rutas.h"
 
+#include "finder/eleccion.h"
 #include "finder/lugares.h"
 
-#include "host/paths.h"
 #include "host/reading.h"
 
 #include "launch/piezas.h"
@@ -18,19 +18,13 @@ namespace {
 // It begins to write at once; a disk that has to wake up takes its time.
 constexpr std::chrono::minutes PacienciaConMame(1);
 
-bool esMAME(const QString &ruta)
-{
-    const QString nombre = ruta.sliced(host::lastSeparator(ruta) + 1);
-    return nombre == u"mame" || nombre == u"mame64" || nombre == u"org.mamedev.MAME";
-}
-
 } // namespace
 
 QString MAMEDe(const core::Modulo &M, const std::vector<Pareja> &parejas)
 {
     for (const Pareja &pareja : parejas) {
         const QString exe = core::RutaDeLinea(M.Cat_EXE(pareja.sistema, pareja.fila));
-        const QString enDisco = esMAME(exe) ? launch::ProgramaDe(exe).ExeCorto.enDisco : QString();
+        const QString enDisco = finder::EsMAME(exe) ? launch::ProgramaDe(exe).ExeCorto.enDisco : QString();
         if (!enDisco.isEmpty())
             return enDisco;
     }

@@ -4,6 +4,7 @@
 #include "companion/impedimento.h"
 #include "companion/otrosistema.h"
 
+#include "finder/eleccion.h"
 #include "finder/juegos.h"
 
 #include "core/catalogo.h"
@@ -61,7 +62,7 @@ private:
         m_revision.push_back({ clase, ruta, linea, nombre(), dicho });
     }
     QString nombre() const { return m_pareja.nombreSistema + u" / "_s + m_pareja.nombreEmulador; }
-    void MaquinaDeMAME(const QString &exe);
+    void MaquinaDeMAME(const launch::Programa &programa);
     void Juegos(const Listado &listado);
     void NoListados(const QString &directorio);
     void NadaListado(const QString &directorio);
@@ -113,22 +114,42 @@ void RevisorDePareja::Programa()
         return;
     if (const std::optional<Impedimento> falta = ImpedimentoDe(enDisco, m_palabras))
         return halla(falta->clase, falta->texto, m_lineas.EXE);
-    MaquinaDeMAME(enDisco);
+    MaquinaDeMAME(programa);
 }
 
-// The first parameter that isn't an option names the machine. MAME itself tells what it lacks.
-void RevisorDePareja::MaquinaDeMAME(const QString &exe)
+// Takes the options that tell MAME where its ROMs are out of the parameters.
+QStringList dondeHayROMs(QStringList &parametros)
 {
-    if (!exe.sliced(host::lastSeparator(exe) + 1).startsWith(u"mame"))
+    QStringList opciones;
+    for (qsizetype i = 0; i + 1 < parametros.size();) {
+        if (parametros[i] == u"-rompath" || parametros[i] == u"-rp")
+            opciones += { parametros.takeAt(i), parametros.takeAt(i) };
+        else
+            ++i;
+    }
+    return opciones;
+}
+
+// The first parameter that isn't an option names the machine. MAME itself tells what it lacks, looking where
+// a launch lets it look.
+void RevisorDePareja::MaquinaDeMAME(const launch::Programa &programa)
+{
+    if (!finder::EsMAME(programa.ExeCorto.enDisco))
         return;
-    const QStringList parametros = host::splitArguments(
-        host::lower(core::Valor(M.Cat_PAR1(m_pareja.sistema, m_pareja.fila), core::PrefijoParametro)));
+    const auto parametrosDe = [&](const auto &tabla) {
+        return host::splitArguments(
+            host::lower(core::Valor(tabla(m_pareja.sistema, m_pareja.fila), core::PrefijoParametro)));
+    };
+    QStringList parametros = parametrosDe(M.Cat_PAR1);
+    QStringList detras = parametrosDe(M.Cat_PAR2);
+    const QStringList opciones = dondeHayROMs(parametros) + dondeHayROMs(detras);
     if (parametros.isEmpty() || parametros.first().startsWith(u'-'))
         return;
     constexpr int paciencia = 20'000; // milliseconds
     QProcess mame;
     mame.setStandardInputFile(QProcess::nullDevice());
-    mame.start(exe, { u"-verifyroms"_s, parametros.first() });
+    mame.setWorkingDirectory(programa.ExeDir.enDisco);
+    mame.start(programa.ExeCorto.enDisco, QStringList { u"-verifyroms"_s, parametros.first() } + opciones);
     const bool acabo = mame.waitForFinished(paciencia);
     if (acabo && mame.exitStatus() == QProcess::NormalExit && mame.exitCode() != 0)
         halla(u"machine-without-roms"_s, m_palabras.Zbo_SinROMs.arg(parametros.first()), m_lineas.EXE);

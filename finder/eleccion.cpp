@@ -12,13 +12,13 @@ using namespace Qt::StringLiterals;
 
 namespace finder {
 
-namespace {
-
-bool esProgramaDeMAME(const QString &exe)
+bool EsMAME(const QString &exe)
 {
     const QString nombre = exe.sliced(host::lastSeparator(exe) + 1);
-    return nombre == u"mame" || nombre == u"org.mamedev.MAME";
+    return nombre == u"mame" || nombre == u"mame64" || nombre == u"org.mamedev.MAME";
 }
+
+namespace {
 
 // The systems that have an emulator of their own.
 QSet<QString> conOtroEmulador(const std::vector<Hallazgo> &hallazgos, const core::Modulo &catalogo)
@@ -30,7 +30,7 @@ QSet<QString> conOtroEmulador(const std::vector<Hallazgo> &hallazgos, const core
     }
     for (int s = 0; s <= catalogo.Indice_Sistema; ++s) {
         for (int e = 1; e <= core::TotalEmuladores(catalogo, s); ++e) {
-            if (!esProgramaDeMAME(core::Valor(catalogo.Cat_EXE(s, e), core::PrefijoRuta)))
+            if (!EsMAME(core::Valor(catalogo.Cat_EXE(s, e), core::PrefijoRuta)))
                 sistemas += core::Valor(catalogo.Cat_Nombre(s, 0), 1);
         }
     }

@@ -7,6 +7,9 @@
 
 namespace finder {
 
+// Whether this is the program of MAME, by its name.
+bool EsMAME(const QString &exe);
+
 // Whether the directory of the games of what was found holds any.
 using TieneJuegos = std::function<bool(const Hallazgo &hallazgo)>;
 

@@ -360,6 +360,30 @@ TEST_F(Check, AMachineWithoutItsROMsIsSaid)
     EXPECT_THAT(clases({ u"check"_s, u"Sis"_s, u"Uno"_s }), IsEmpty());
 }
 
+// A script in the place of MAME, which finds its ROMs where a launch would.
+TEST_F(Check, TheMachineIsAskedForInTheDirectoryAndWithTheROMPathOfALaunch)
+{
+    PonGuion(u"emu/beside"_s, "exit 0\n");
+    PonGuion(u"emu/mame"_s, "[ -e beside ] && [ \"$*\" = \"-verifyroms a7800 -rompath bios -rp more\" ]\n");
+    Cambia(u"Zembro.emu"_s, "emu/uno.sh\r\nXDI=NO.0", "emu/mame\r\nXDI=NO.0");
+    Cambia(u"Zembro.emu"_s, "PAR1=-a\r\nPAR2=", "PAR1=-rompath BIOS A7800 -cart\r\nPAR2=-w -rp more");
+    EXPECT_THAT(clases(SisUno), IsEmpty());
+    Borra(u"emu/beside"_s);
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"machine-without-roms"_s));
+}
+
+TEST_F(Check, AMachineIsOneOfMAMEsByEachOfItsNames)
+{
+    Cambia(u"Zembro.emu"_s, "PAR1=-a", "PAR1=A7800 -cart");
+    QByteArray antes = "uno.sh";
+    for (const QByteArray nombre : { "mame", "mame64", "org.mamedev.MAME" }) {
+        PonGuion(u"emu/"_s + QString::fromLatin1(nombre), "exit 2\n");
+        Cambia(u"Zembro.emu"_s, "emu/" + antes + "\r\nXDI=NO.0", "emu/" + nombre + "\r\nXDI=NO.0");
+        EXPECT_THAT(clases(SisUno), ElementsAre(u"machine-without-roms"_s)) << nombre.toStdString();
+        antes = nombre;
+    }
+}
+
 TEST_F(Check, FilesOfAnyBytesAreLookedAtToTheEnd)
 {
     const QByteArray bytes = BytesSinOrden();
