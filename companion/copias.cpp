@@ -25,7 +25,7 @@ const QString Directorio = u"copias"_s;
 const QString Borrador = u".a-medias"_s; // of a copy on its way, removed by the next one
 const QString Provisional = u"Zembro.tmp"_s; // of a file on its way
 const QString Ajustes = u"Zembro.cfg"_s;
-const QStringList Nombres { Ajustes, u"Zembro.emu"_s, u"Zembro.rom"_s, u"Zembro.sye"_s };
+const QStringList Nombres { Ajustes, u"Zembro.emu"_s, u"Zembro.rom"_s, u"Zembro.sye"_s, u"Zembro.uni"_s };
 
 QString rutaDe(const QString &copia)
 {

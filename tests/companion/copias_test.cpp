@@ -93,6 +93,26 @@ TEST_F(Save, KeepsTheBytesOfTheTextFiles_AndChangesNone)
     EXPECT_EQ(Copias(), QStringList({ copia }));
 }
 
+TEST_F(Save, KeepsTheDrivesToo_AndACopyWithoutThemLeavesThoseThatAreThere)
+{
+    const QString sinEllas = Guarda();
+    Pon(u"Zembro.uni"_s, "C=.\r\n");
+    const QString conEllas = Guarda();
+    EXPECT_GT(conEllas, sinEllas);
+    EXPECT_EQ(Bytes(u"copias/"_s + conEllas + u"/Zembro.uni"_s), "C=.\r\n");
+    const QByteArray emu = Bytes(u"Zembro.emu"_s);
+    Pon(u"Zembro.uni"_s, "C=roms\r\n");
+    Pon(u"Zembro.emu"_s, emu + "' \r\n");
+    EXPECT_EQ(Zembro({ u"restore"_s, sinEllas, u"--write"_s }).estado, companion::Bien);
+    EXPECT_EQ(Bytes(u"Zembro.emu"_s), emu);
+    EXPECT_EQ(Bytes(u"Zembro.uni"_s), "C=roms\r\n");
+    EXPECT_EQ(Zembro({ u"restore"_s, conEllas, u"--write"_s }).estado, companion::Bien);
+    EXPECT_EQ(Bytes(u"Zembro.uni"_s), "C=.\r\n");
+    Borra(u"Zembro.uni"_s);
+    EXPECT_EQ(Zembro({ u"restore"_s, conEllas, u"--write"_s }).estado, companion::Bien);
+    EXPECT_EQ(Bytes(u"Zembro.uni"_s), "C=.\r\n");
+}
+
 TEST_F(Save, MakesACopyWhereSomethingDiffersFromTheNewest)
 {
     const QString primera = Guarda();
