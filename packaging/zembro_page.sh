@@ -82,7 +82,7 @@ END
         play atari stella prisma
     printf '\n## why\n'
     play_on_screen
-    example "What became of the last launch of the main program, if it was started by \`./run.sh\`." why
+    example "What became of the last launch of the main program, if it was started by \`./run.sh\`, the package's \`zembrolix\` or the portable archive's starter." why
     printf '\n## check\n'
     sed -i -e "s|^EXE=.*|EXE=$work/dyes|" -e "/^'---/d" Zembro.emu
     mv demo/prisma.gif "demo/prisma (1).gif"
@@ -107,7 +107,7 @@ END
     example "\`--write\` makes them, at most 640 wide; the pictures stay as they are. What stands in the place of a capture and is no picture gives way to one that fits." captures atari --from ../pictures --write
     example "Without \`--from\` it takes those that lie among the captures, and the newest one that the emulator took of the game that was played last. \`--last\` takes that one alone." captures atari --last
     printf '\n## save\n'
-    example "A copy of the text files; \`./run.sh\` makes one before each start. The last twenty that differ are kept." save
+    example "A copy of the text files, and of \`Zembro.uni\` where that is; \`./run.sh\`, the package's \`zembrolix\` and the portable archive's starter make one before each start. The last twenty that differ are kept." save
     printf '\n## restore\n'
     sed -i "/^PAR1=/d" Zembro.emu
     example "Back to the newest copy that differs, or to the one that is named; \`--list\` shows them all. It brings back all of the files or none." restore
