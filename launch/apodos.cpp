@@ -6,6 +6,7 @@
 #include "host/letters.h"
 #include "host/paths.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -35,11 +36,15 @@ public:
     const QByteArray &Lugar() const { return m_lugar; }
     bool Hecha() const { return m_hecha; }
 
-    // False where none can be made, or something has that name.
+    // False where none can be made, or something has that name. The two are one link with two names, if the
+    // disk has that: so it is known again wherever the game moves it.
     bool Ensena(const QByteArray &fichero, const QByteArray &nombre) const
     {
-        return symlink(fichero.constData(), (m_enlaces + '/' + nombre).constData()) == 0
-            && symlink(fichero.constData(), (m_lugar + '/' + nombre).constData()) == 0;
+        const QByteArray enlace = m_enlaces + '/' + nombre;
+        const QByteArray aqui = m_lugar + '/' + nombre;
+        return symlink(fichero.constData(), enlace.constData()) == 0
+            && (linkat(AT_FDCWD, enlace.constData(), AT_FDCWD, aqui.constData(), 0) == 0
+                || symlink(fichero.constData(), aqui.constData()) == 0);
     }
     void EnsenaLoGuardado(const QByteArray &casa, const QByteArray &apodo) const
     {

@@ -1,6 +1,7 @@
 #include "launch/rescate.h"
 
 #include "launch/intenta.h"
+#include "launch/mostrado.h"
 #include "launch/shell.h"
 #include "launch/temporal.h"
 
@@ -13,11 +14,7 @@
 #include "host/questions.h"
 #include "host/replacement.h"
 
-#include <QSet>
-
-#include <array>
 #include <cerrno>
-#include <climits>
 #include <csignal>
 
 #include <fcntl.h>
@@ -34,63 +31,15 @@ namespace {
 const QString Prefijo = u"ZB-DOS-"_s; // and the process, and a number
 constexpr char Dicho[] = "/told-"; // and the drive's letter
 
-std::optional<struct stat> estadoDe(const QByteArray &ruta)
+void borraEnlaces(const QByteArray &lugar, const std::function<bool(const QByteArray &)> &seVa = {})
 {
-    struct stat estado;
-    return lstat(ruta.constData(), &estado) == 0 ? std::optional(estado) : std::nullopt;
-}
-
-QByteArrayList entradasDe(const QByteArray &lugar)
-{
-    QByteArrayList entradas;
-    Intenta([&] { entradas = host::listInDiskOrder(host::nameFromDisk(lugar)); });
-    return entradas;
-}
-
-QByteArray destinoDelEnlace(const QByteArray &enlace)
-{
-    std::array<char, PATH_MAX> destino;
-    const ssize_t largo = readlink(enlace.constData(), destino.data(), destino.size());
-    return largo > 0 ? QByteArray(destino.data(), largo) : QByteArray();
-}
-
-void borraEnlaces(const QByteArray &lugar)
-{
-    for (const QByteArray &nombre : entradasDe(lugar)) {
+    for (const QByteArray &nombre : EntradasDe(lugar)) {
         const QByteArray ruta = lugar + '/' + nombre;
-        const auto estado = estadoDe(ruta);
-        if (estado && S_ISLNK(estado->st_mode))
+        const auto estado = EstadoDe(ruta);
+        if (estado && S_ISLNK(estado->st_mode) && (!seVa || seVa(ruta)))
             unlink(ruta.constData());
     }
 }
-
-// What a game was shown: its names in upper case, and the directory that they lie in.
-class Mostrado {
-public:
-    explicit Mostrado(const QByteArray &lugar)
-    {
-        for (const QByteArray &nombre : entradasDe(lugar)) {
-            const QByteArray destino = destinoDelEnlace(lugar + '/' + nombre);
-            const qsizetype corte = destino.lastIndexOf('/');
-            if (corte < 0)
-                continue;
-            m_casa = destino.first(corte);
-            m_esta = m_esta || estadoDe(destino);
-            if (host::sameName(host::nameFromDisk(destino.sliced(corte + 1)), host::nameFromDisk(nombre)))
-                m_nombres.insert(host::upper(host::nameFromDisk(nombre)));
-        }
-    }
-
-    const QByteArray &Casa() const { return m_casa; }
-    // A disk that isn't there now leaves an empty directory in its place.
-    bool EstaEnCasa() const { return m_esta; }
-    bool Tiene(const QString &nombre) const { return m_nombres.contains(host::upper(nombre)); }
-
-private:
-    QByteArray m_casa;
-    bool m_esta = false;
-    QSet<QString> m_nombres;
-};
 
 // Carries what was saved, a directory after the other.
 class Porteador {
@@ -103,9 +52,9 @@ public:
 
     void Lleva(const QByteArray &de, const QString &a, bool deArriba = true)
     {
-        for (const QByteArray &nombre : entradasDe(de)) {
+        for (const QByteArray &nombre : EntradasDe(de)) {
             const QByteArray guardado = de + '/' + nombre;
-            const auto estado = estadoDe(guardado);
+            const auto estado = EstadoDe(guardado);
             if (estado && S_ISREG(estado->st_mode))
                 Intenta([&] { llevaFichero(guardado, *estado, a, deArriba); });
             else if (estado && S_ISDIR(estado->st_mode))
@@ -122,7 +71,7 @@ private:
         const QString &ruta, const QByteArray &guardado, const struct stat &suyo)
     {
         const QByteArray alli = host::findOnDisk(ruta);
-        const auto estado = estadoDe(alli);
+        const auto estado = EstadoDe(alli);
         if (alli.isEmpty() || !estado)
             return std::nullopt;
         EnCasa esto { nombreDe(alli), S_ISDIR(estado->st_mode), false, false };
@@ -158,7 +107,7 @@ private:
     }
     void llevaDirectorio(const QByteArray &guardado, const QString &a)
     {
-        const auto estado = estadoDe(guardado);
+        const auto estado = EstadoDe(guardado);
         const Vuelta vuelta = vueltaDe(guardado, *estado, a, false);
         const QString destino = a + u'/' + vuelta.nombre;
         if (vuelta.escribe)
@@ -177,12 +126,14 @@ bool rescataUnidad(const QByteArray &corrida, const QByteArray &letra, Rescate &
     const QByteArray lugar = corrida + '/' + UnidadDeCorrida + letra;
     const QByteArray enlaces = corrida + '/' + MostradoEnCorrida + letra;
     const Mostrado mostrado(enlaces);
-    if (mostrado.EstaEnCasa())
+    const bool guardado = mostrado.EstaEnCasa() && GuardaRenombrados(mostrado, lugar, rescate.vueltos);
+    if (guardado)
         Porteador(mostrado, rescate.vueltos).Lleva(lugar, host::nameFromDisk(mostrado.Casa()));
-    borraEnlaces(lugar);
-    if (rmdir(lugar.constData()) != 0 && errno != ENOENT) {
+    borraEnlaces(lugar, [&](const QByteArray &ruta) { return guardado || !mostrado.Renombrado(ruta, true); });
+    const bool falla = mostrado.EstaEnCasa() && !guardado;
+    if (falla || (rmdir(lugar.constData()) != 0 && errno != ENOENT)) {
         rescate.pendientes.push_back({ host::nameFromDisk(lugar), host::nameFromDisk(mostrado.Casa()),
-            estadoDe(corrida + Dicho + letra).has_value() });
+            EstadoDe(corrida + Dicho + letra).has_value() });
         return false;
     }
     borraEnlaces(enlaces);
@@ -222,11 +173,11 @@ Rescate RescataCorrida(const QString &ruta)
     Rescate rescate;
     const QByteArray corrida = host::nameToDisk(ruta);
     bool limpia = true;
-    for (const QByteArray &nombre : entradasDe(corrida)) {
+    for (const QByteArray &nombre : EntradasDe(corrida)) {
         if (nombre.startsWith(UnidadDeCorrida))
             limpia = rescataUnidad(corrida, nombre.sliced(qstrlen(UnidadDeCorrida)), rescate) && limpia;
     }
-    for (const QByteArray &nombre : entradasDe(corrida)) {
+    for (const QByteArray &nombre : EntradasDe(corrida)) {
         const QByteArray entrada = corrida + '/' + nombre;
         if (limpia && nombre.startsWith(MostradoEnCorrida)) {
             borraEnlaces(entrada); // of a run that was killed ahead of its drive

@@ -258,6 +258,25 @@ TEST_F(LaunchesInDosBox, WhatAGameWithAccentsSavesReplacesNoFileThatItDidNotSee)
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
 }
 
+TEST_F(LaunchesInDosBox, WhatAGameWithAccentsRenamesKeepsItsBytes)
+{
+    NameBoth();
+    makeFile("old/EMUS/GO.BAT",
+        "@E:\r\n@ren NINOMALO.SV2 NINOMALO.SV3\r\n@ren NINOMALO.SV1 NINOMALO.SV2\r\n@echo new state B > "
+        "E:\\NINOMALO.SV1\r\n");
+    makeFile("media/ROMS/Ni\xC3\xB1o malo.nes", "the child");
+    makeFile("media/ROMS/NINOMALO.SV1", "precious state A");
+    makeFile("media/ROMS/Ninomalo.sv2", "earlier state");
+    pantalla.lista1 = u"Niño malo.nes"_s;
+    Select(0, u"C:\\EMUS\\GO.BAT"_s, u"D:\\ROMS\\"_s);
+    Juega();
+    EXPECT_EQ(bytes("media/ROMS/NINOMALO.SV1"), "new state B\r\n");
+    EXPECT_EQ(bytes("media/ROMS/Ninomalo.sv2"), "precious state A");
+    EXPECT_EQ(bytes("media/ROMS/NINOMALO.SV3"), "earlier state");
+    EXPECT_THAT(host::listInDiskOrder(path(u"media/ROMS"_s)), testing::SizeIs(4));
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
+}
+
 TEST_F(LaunchesInDosBox, WhatAGameWithAccentsSavesInDirectoriesIsThereAtTheNextRun)
 {
     NameBoth();

@@ -173,6 +173,77 @@ TEST_F(RescateTest, LoQueDejaUnaMuerteVuelve_DirectoriosTambien)
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
+TEST_F(RescateTest, LoQueElJuegoRenombraNoSePierde)
+{
+    makeFile("roms/NINO.SV1", "state A");
+    makeFile("roms/Nino.sv2", "state B");
+    makeFile("roms/Docs/OLD", "old");
+    makeLink("../Nino.sav", "roms/Docs/Sav"); // the user's own, from before
+    makeLink(place("roms/Nino.sav"), "roms/Docs/Far");
+    Matada("mv NINO.SV2 NINO.SV3; mv NINO.SV1 NINO.SV2; echo state C > NINO.SV1; mkdir BACK; mv NINO.SAV "
+           "BACK/NINO.SAV; echo after > NINO.SAV");
+    const launch::Rescate rescate = launch::RescataRestos();
+    EXPECT_THAT(rescate.pendientes, IsEmpty());
+    EXPECT_EQ(rescate.vueltos.size(), 5);
+    EXPECT_EQ(bytes("roms/NINO.SV1"), "state C\n");
+    EXPECT_EQ(bytes("roms/Nino.sv2"), "state A");
+    EXPECT_EQ(bytes("roms/NINO.SV3"), "state B");
+    EXPECT_EQ(bytes("roms/BACK/NINO.SAV"), "before");
+    EXPECT_EQ(bytes("roms/Nino.sav"), "after\n");
+    EXPECT_EQ(host::listInDiskOrder(path(u"roms/Docs"_s)).size(), 3);
+    EXPECT_EQ(bytes("roms/hiscore.dat"), "records");
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, LoQueRenombraSinMasLoEstaEnSuSitio)
+{
+    makeFile("roms/NINO.SV1", "state A");
+    Matada("mv NINO.SV1 HISCORE.DAT; mv NINO.SAV NINO.BAK; mv NINO.NES NINO.OLD");
+    EXPECT_THAT(launch::RescataRestos().pendientes, IsEmpty());
+    EXPECT_EQ(bytes("roms/NINO.BAK"), "before");
+    EXPECT_FALSE(exists("roms/Nino.sav"));
+    EXPECT_EQ(bytes("roms/hiscore.dat"), "records") << "it hadn't seen that";
+    EXPECT_EQ(bytes("roms/HISCORE-2.DAT"), "state A");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes"), "the game") << "the user's name for it stays";
+    EXPECT_EQ(bytes("roms/NINO.OLD"), "the game");
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, LoRenombradoAUnDirectorioDelUsuarioQuedaAlli)
+{
+    makeFile("roms/NINO.SV1", "state A");
+    makeDirectory("roms/Docs/DEEP");
+    makeLink(place("roms/NINO.SV1"), "roms/Docs/Far"); // the user's own, from before
+    Matada("mv NINO.SV1 Docs/DEEP/NINO.SV1; echo state B > NINO.SV1; mv NINO.SAV Docs/NINO.SAV; mv NINO.NES "
+           "Docs/NINO.NES");
+    const launch::Rescate rescate = launch::RescataRestos();
+    EXPECT_THAT(rescate.pendientes, IsEmpty());
+    EXPECT_EQ(bytes("roms/NINO.SV1"), "state B\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes"), "the game");
+    struct stat estado;
+    for (const auto &[fichero, dicho] : { std::pair("roms/Docs/DEEP/NINO.SV1", "state A"),
+             { "roms/Docs/NINO.SAV", "before" }, { "roms/Docs/NINO.NES", "the game" } }) {
+        EXPECT_EQ(bytes(fichero), dicho);
+        EXPECT_TRUE(lstat(place(fichero).constData(), &estado) == 0 && S_ISREG(estado.st_mode)) << fichero;
+    }
+    EXPECT_TRUE(lstat(place("roms/Docs/Far").constData(), &estado) == 0 && S_ISLNK(estado.st_mode));
+    EXPECT_FALSE(exists("roms/Nino.sav"));
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, LoRenombradoEsperaAlDiscoQueFalta)
+{
+    makeFile("roms/NINO.SV1", "state A");
+    Matada("mv NINO.SV1 NINO.SV2; echo state B > NINO.SV1");
+    rename(place("roms").constData(), place("away").constData());
+    EXPECT_EQ(launch::RescataRestos().pendientes.size(), 1);
+    rename(place("away").constData(), place("roms").constData());
+    EXPECT_EQ(launch::RescataRestos().vueltos.size(), 2);
+    EXPECT_EQ(bytes("roms/NINO.SV1"), "state B\n");
+    EXPECT_EQ(bytes("roms/NINO.SV2"), "state A");
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
 TEST_F(RescateTest, UnJuegoQueSigueConservaSuUnidad)
 {
     const QByteArray corrida = Matada("echo new > NINO.NEW");

@@ -1,0 +1,219 @@
+#include "launch/mostrado.h"
+
+#include "launch/destino.h"
+#include "launch/intenta.h"
+
+#include "host/descriptor.h"
+#include "host/encoding.h"
+#include "host/letters.h"
+#include "host/paths.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace launch {
+
+namespace {
+
+QByteArray destinoDelEnlace(const QByteArray &enlace)
+{
+    std::array<char, PATH_MAX> destino;
+    const ssize_t largo = readlink(enlace.constData(), destino.data(), destino.size());
+    return largo > 0 ? QByteArray(destino.data(), largo) : QByteArray();
+}
+
+QByteArray nombreDe(const QByteArray &ruta)
+{
+    return ruta.sliced(ruta.lastIndexOf('/') + 1);
+}
+
+bool mismoNombre(const QByteArray &uno, const QByteArray &otro)
+{
+    return host::sameName(host::nameFromDisk(uno), host::nameFromDisk(otro));
+}
+
+bool esElMismo(const std::optional<struct stat> &uno, const std::optional<struct stat> &otro)
+{
+    return uno && otro && uno->st_dev == otro->st_dev && uno->st_ino == otro->st_ino;
+}
+
+// Puts a copy in the place of the link, whole or not at all, of the time at which the game renamed it: what
+// stands at home counts as newer only if somebody changed it after that.
+bool copiaEnSuSitio(const QByteArray &fichero, const QByteArray &enlace, const timespec &cuando)
+{
+    const host::Descriptor origen(open(fichero.constData(), O_RDONLY | O_CLOEXEC));
+    const host::Descriptor directorio(
+        open(enlace.first(enlace.lastIndexOf('/')).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!origen.isOpen() || !directorio.isOpen())
+        return false;
+    FicheroNuevo copia(directorio);
+    std::array<char, 65536> trozo;
+    ssize_t leidos = -1;
+    while (copia.Abierto() && (leidos = read(origen.number(), trozo.data(), trozo.size())) > 0) {
+        if (!copia.Escribe(trozo.data(), leidos))
+            return false;
+    }
+    if (leidos != 0 || !copia.Termina(nombreDe(enlace), false))
+        return false;
+    const std::array<timespec, 2> tiempos { cuando, cuando };
+    utimensat(AT_FDCWD, enlace.constData(), tiempos.data(), AT_SYMLINK_NOFOLLOW);
+    return true;
+}
+
+class Renombrados {
+public:
+    Renombrados(const Mostrado &mostrado, const QByteArray &lugar, QStringList &vueltos)
+        : m_mostrado(mostrado)
+        , m_lugar(lugar)
+        , m_entradas(EntradasDe(lugar))
+        , m_vueltos(vueltos)
+    {
+    }
+
+    bool Guarda()
+    {
+        enLaUnidad(m_lugar, true);
+        if (faltaAlguno()) {
+            for (auto uno = m_mostrado.Enlaces().begin(); uno != m_mostrado.Enlaces().end(); ++uno)
+                enCasa(uno.key());
+        }
+        return m_bien;
+    }
+
+private:
+    void enLaUnidad(const QByteArray &directorio, bool deArriba)
+    {
+        for (const QByteArray &nombre : EntradasDe(directorio)) {
+            const QByteArray ruta = directorio + '/' + nombre;
+            const auto estado = EstadoDe(ruta);
+            if (estado && S_ISDIR(estado->st_mode))
+                enLaUnidad(ruta, false);
+            else if (const Mostrado::Enlace *enlace = m_mostrado.Renombrado(ruta, deArriba))
+                guarda(ruta, *estado, *enlace, deArriba ? m_mostrado.Casa() + '/' + nombre : QByteArray());
+        }
+    }
+    // The user's own links there may lead to the same files: the game's are the links of the beginning.
+    void enCasa(const QByteArray &directorio)
+    {
+        for (const QByteArray &nombre : EntradasDe(directorio)) {
+            const QByteArray ruta = directorio + '/' + nombre;
+            const auto estado = EstadoDe(ruta);
+            const Mostrado::Enlace *enlace = m_mostrado.Renombrado(ruta, false);
+            if (estado && S_ISDIR(estado->st_mode))
+                enCasa(ruta);
+            else if (enlace && esElMismo(estado, EstadoDe(enlace->ruta)))
+                guarda(ruta, *estado, *enlace, ruta);
+        }
+    }
+    // A link that has gone from the drive, and lies elsewhere under its second name.
+    bool faltaAlguno() const
+    {
+        return std::ranges::any_of(m_mostrado.Enlaces(), [this](const Mostrado::Enlace &enlace) {
+            const auto estado = EstadoDe(enlace.ruta);
+            return estado && estado->st_nlink > 1
+                && !esElMismo(estado, EstadoDe(m_lugar + '/' + enlace.nombre));
+        });
+    }
+    // `nuevo`: where it would lie at home; empty for a directory that isn't there yet.
+    void guarda(const QByteArray &ruta, const struct stat &estado, const Mostrado::Enlace &enlace,
+        const QByteArray &nuevo)
+    {
+        const QByteArray fichero = destinoDelEnlace(ruta);
+        struct stat suyo;
+        if (stat(fichero.constData(), &suyo) != 0 && errno != ENOENT) {
+            m_bien = false;
+            return;
+        }
+        if (!EstadoDe(fichero) || !S_ISREG(suyo.st_mode)) {
+            unlink(ruta.constData()); // nothing of it is ever replaced
+            return;
+        }
+        if (seMuda(fichero, enlace) && muda(fichero, ruta, nuevo))
+            m_vueltos << host::nameFromDisk(nuevo);
+        else if (!copiaEnSuSitio(fichero, ruta, estado.st_ctim))
+            m_bien = false;
+        else if (ruta == nuevo)
+            m_vueltos << host::nameFromDisk(nuevo);
+    }
+    // The user's own name for the game stays, and so does what something new is to stand in the place of.
+    bool seMuda(const QByteArray &fichero, const Mostrado::Enlace &enlace) const
+    {
+        const auto estado = EstadoDe(fichero);
+        return enlace.propio && estado && S_ISREG(estado->st_mode)
+            && std::ranges::none_of(
+                m_entradas, [&](const QByteArray &entrada) { return mismoNombre(entrada, enlace.nombre); });
+    }
+    static bool muda(const QByteArray &fichero, const QByteArray &ruta, const QByteArray &nuevo)
+    {
+        if (ruta == nuevo)
+            return rename(fichero.constData(), ruta.constData()) == 0;
+        const bool libre = !nuevo.isEmpty() && host::findOnDisk(host::nameFromDisk(nuevo)).isEmpty();
+        return libre
+            && renameat2(AT_FDCWD, fichero.constData(), AT_FDCWD, nuevo.constData(), RENAME_NOREPLACE) == 0
+            && unlink(ruta.constData()) == 0;
+    }
+
+    const Mostrado &m_mostrado;
+    const QByteArray m_lugar;
+    const QByteArrayList m_entradas;
+    QStringList &m_vueltos;
+    bool m_bien = true;
+};
+
+} // namespace
+
+std::optional<struct stat> EstadoDe(const QByteArray &ruta)
+{
+    struct stat estado;
+    return lstat(ruta.constData(), &estado) == 0 ? std::optional(estado) : std::nullopt;
+}
+
+QByteArrayList EntradasDe(const QByteArray &lugar)
+{
+    QByteArrayList entradas;
+    Intenta([&] { entradas = host::listInDiskOrder(host::nameFromDisk(lugar)); });
+    return entradas;
+}
+
+Mostrado::Mostrado(const QByteArray &enlaces)
+{
+    for (const QByteArray &nombre : EntradasDe(enlaces)) {
+        const QByteArray ruta = enlaces + '/' + nombre;
+        const QByteArray destino = destinoDelEnlace(ruta);
+        const qsizetype corte = destino.lastIndexOf('/');
+        if (corte < 0)
+            continue;
+        m_casa = destino.first(corte);
+        m_esta = m_esta || EstadoDe(destino);
+        m_enlaces.insert(destino, { nombre, ruta, mismoNombre(nombreDe(destino), nombre) });
+    }
+}
+
+bool Mostrado::Tiene(const QString &nombre) const
+{
+    return std::ranges::any_of(m_enlaces, [&](const Enlace &enlace) {
+        return enlace.propio && host::sameName(host::nameFromDisk(enlace.nombre), nombre);
+    });
+}
+
+const Mostrado::Enlace *Mostrado::Renombrado(const QByteArray &ruta, bool deArriba) const
+{
+    const QByteArray destino = destinoDelEnlace(ruta);
+    const auto enlace = destino.isEmpty() ? m_enlaces.end() : m_enlaces.find(destino);
+    const bool enSuSitio =
+        enlace != m_enlaces.end() && deArriba && mismoNombre(enlace->nombre, nombreDe(ruta));
+    return enlace == m_enlaces.end() || enSuSitio ? nullptr : &*enlace;
+}
+
+bool GuardaRenombrados(const Mostrado &mostrado, const QByteArray &lugar, QStringList &vueltos)
+{
+    return Renombrados(mostrado, lugar, vueltos).Guarda();
+}
+
+} // namespace launch
