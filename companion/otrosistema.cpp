@@ -243,21 +243,9 @@ void RevisaUnidades(const Sesion &sesion, Revision &revision)
 launch::Encargo EncargoDe(const core::Modulo &M, const Pareja &pareja)
 {
     const QString exe = host::trueSpelling(core::RutaDeLinea(M.Cat_EXE(pareja.sistema, pareja.fila)));
-    const QString rom = host::trueSpelling(core::RutaDeLinea(M.Cat_ROM(pareja.sistema, pareja.fila)));
     launch::LineaDeOrden orden;
     orden.Ruta(exe, exe);
-    launch::Encargo encargo = launch::EncargoDe(orden);
-    if (encargo.corredor != launch::Corredor::DOSBox)
-        return encargo;
-    launch::UnidadesDOS unidades;
-    unidades.Ruta(exe);
-    if (!rom.isEmpty())
-        unidades.Ruta(host::withClosingSeparator(rom));
-    for (const QString &linea :
-        { M.Cat_PAR1(pareja.sistema, pareja.fila), M.Cat_PAR2(pareja.sistema, pareja.fila) })
-        unidades.Nombra(core::Valor(linea, core::PrefijoParametro));
-    encargo.montajes = unidades.Montajes();
-    return encargo;
+    return launch::EncargoDe(orden, launch::LugaresDe(M, pareja.sistema, pareja.fila));
 }
 
 void RevisaOtroSistema(

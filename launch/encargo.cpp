@@ -1,11 +1,14 @@
 #include "launch/encargo.h"
 
 #include "launch/codigo437.h"
+#include "launch/intenta.h"
 #include "launch/nombresdos.h"
 #include "launch/rescate.h"
 #include "launch/wine.h"
 
+#include "core/catalogo.h"
 #include "core/clasedeprograma.h"
+#include "core/rutas.h"
 
 #include "host/encoding.h"
 #include "host/letters.h"
@@ -75,6 +78,12 @@ public:
         if (!pieza.ruta)
             m_unidades.Nombra(texto);
     }
+    void Ademas(const Lugares &lugares)
+    {
+        m_unidades.NombraLaDe(lugares.rom);
+        for (const QString &parametro : lugares.parametros)
+            m_unidades.Nombra(parametro);
+    }
     void Termina()
     {
         while (encargo.colaDOS.endsWith(' '))
@@ -97,7 +106,7 @@ private:
     UnidadesDOS m_unidades;
 };
 
-Encargo paraDOS(const LineaDeOrden &orden, const QString &programa)
+Encargo paraDOS(const LineaDeOrden &orden, const QString &programa, const Lugares &lugares)
 {
     EncargoDOS dos;
     dos.encargo.corredor = Corredor::DOSBox;
@@ -108,6 +117,7 @@ Encargo paraDOS(const LineaDeOrden &orden, const QString &programa)
     dos.Programa(programa);
     for (std::size_t i = 1; i < orden.Piezas().size(); ++i)
         dos.Pieza(orden.Piezas()[i]);
+    dos.Ademas(lugares);
     dos.Termina();
     return dos.encargo;
 }
@@ -138,14 +148,23 @@ Encargo paraWindows(const LineaDeOrden &orden, const QString &programa)
 
 } // namespace
 
-Encargo EncargoDe(const LineaDeOrden &orden)
+Lugares LugaresDe(const core::Modulo &M, int sistema, int fila)
+{
+    Lugares lugares;
+    Intenta([&] { lugares.rom = core::RutaDeLinea(M.Cat_ROM(sistema, fila)); });
+    for (const auto *tabla : { &M.Cat_PAR1, &M.Cat_PAR2 })
+        Intenta([&] { lugares.parametros += core::Valor((*tabla)(sistema, fila), core::PrefijoParametro); });
+    return lugares;
+}
+
+Encargo EncargoDe(const LineaDeOrden &orden, const Lugares &lugares)
 {
     Encargo encargo;
     encargo.argumentos = orden.Argumentos();
     const QString programa = enDisco(encargo.argumentos.value(0));
     switch (programa.isEmpty() ? core::ClaseDePrograma::Desconocida : core::ClaseDe(programa)) {
     case core::ClaseDePrograma::DOS:
-        return paraDOS(orden, programa);
+        return paraDOS(orden, programa, lugares);
     case core::ClaseDePrograma::Windows:
         return paraWindows(orden, programa);
     default:

@@ -5,6 +5,7 @@
 #include "launch/lineadeorden.h"
 #include "launch/unidadesdos.h"
 
+#include "core/modulo.h"
 #include "core/palabras.h"
 
 #include <QByteArray>
@@ -42,9 +43,16 @@ struct Encargo {
     std::vector<UnidadesDOS::Montaje> apodos; // files of it that Wine can't open by their names
 };
 
+// Where an emulator may go to by its own configuration, besides what stands in the command line.
+struct Lugares {
+    QString rom; // the directory of its games
+    QStringList parametros;
+};
+Lugares LugaresDe(const core::Modulo &M, int sistema, int fila);
+
 // By what lies on the disk now; nothing is started or written. A program that isn't found is taken for one of
 // this system's.
-Encargo EncargoDe(const LineaDeOrden &orden);
+Encargo EncargoDe(const LineaDeOrden &orden, const Lugares &lugares = {});
 
 // In the user's language; empty if nothing hinders it.
 QString TextoDe(Traba traba, Corredor corredor, const core::Palabras &palabras);

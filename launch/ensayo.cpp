@@ -65,10 +65,10 @@ public:
         ensayo.aviso = texto;
     }
     void EnsenaOrden(const QString &) override { ensayo.enDepuracion = true; }
-    void Arranca(const LineaDeOrden &orden, const QString &) override
+    void Arranca(const LineaDeOrden &orden, const QString &, const Lugares &lugares) override
     {
         ensayo.orden = orden;
-        ensayo.encargo = EncargoDe(orden);
+        ensayo.encargo = EncargoDe(orden, lugares);
         ensayo.directorio = host::currentDirectory();
     }
 

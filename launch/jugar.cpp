@@ -299,7 +299,7 @@ void Lanzamiento::Corre(Caso caso)
     const LineaDeOrden orden = Compone(caso, m_via, m_piezas);
     if (core::NumeroDeAjuste(M.DebugMode) == 1)
         m_obras.EnsenaOrden(orden.EnTexto());
-    m_obras.Arranca(orden, EXE());
+    m_obras.Arranca(orden, EXE(), LugaresDe(M, m_seleccion.sistema, m_seleccion.fila));
 }
 
 QString NombreDeSistema(const core::Modulo &M, int sistema)
@@ -366,7 +366,7 @@ public:
         Intenta([&] { m_pantalla.Aviso(titulo, texto); });
     }
     void EnsenaOrden(const QString &texto) override { host::questions().tell(u"Zembrolix"_s, texto); }
-    void Arranca(const LineaDeOrden &orden, const QString &exe) override;
+    void Arranca(const LineaDeOrden &orden, const QString &exe, const Lugares &lugares) override;
 
     Cronica &LaCronica() { return m_cronica; }
 
@@ -380,9 +380,9 @@ private:
     std::optional<CarpetaDeJuego> m_carpeta;
 };
 
-void ObrasDeVerdad::Arranca(const LineaDeOrden &orden, const QString &exe)
+void ObrasDeVerdad::Arranca(const LineaDeOrden &orden, const QString &exe, const Lugares &lugares)
 {
-    const Encargo encargo = EncargoDe(orden);
+    const Encargo encargo = EncargoDe(orden, lugares);
     if (encargo.argumentos.isEmpty()) {
         m_cronica.Fallo(SinEjecutable + exe);
         const QChar unidad = core::UnidadQueFalta(exe);

@@ -1,6 +1,7 @@
 // What a launch does to the machine: the launch itself does it, a rehearsal only tells it.
 #pragma once
 
+#include "launch/encargo.h"
 #include "launch/lineadeorden.h"
 #include "launch/vbunzbas.h"
 
@@ -39,7 +40,7 @@ public:
     virtual void Aviso(const QString &titulo, const QString &texto) = 0;
     virtual void EnsenaOrden(const QString &texto) = 0; // in the debug mode
     // And stays until the emulator has ended. `exe` is its executable as the catalogue has it.
-    virtual void Arranca(const LineaDeOrden &orden, const QString &exe) = 0;
+    virtual void Arranca(const LineaDeOrden &orden, const QString &exe, const Lugares &lugares) = 0;
 };
 
 // One launch, or the rehearsal of one: by what stands selected.

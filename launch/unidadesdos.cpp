@@ -152,29 +152,38 @@ std::optional<QByteArray> UnidadesDOS::RutaOApodo(const QString &enDisco)
     return unidad->letra + (":\\" + unidad->apodos[0].nombre);
 }
 
-// On the drive that lies nearest above it.
-std::optional<QByteArray> UnidadesDOS::directorio(const QByteArray &lugar)
+// The drive that lies nearest above it, and what it is there.
+UnidadesDOS::Dicho UnidadesDOS::masCercana(const QByteArray &lugar)
 {
-    Unidad *mejor = nullptr;
-    std::optional<QByteArray> dicho;
+    Dicho mejor;
     for (Unidad &unidad : m_unidades) {
         if (!unidad.apodos.empty() || !lugar.startsWith(unidad.lugar)
-            || (mejor && unidad.lugar.size() <= mejor->lugar.size()))
+            || (mejor.unidad && unidad.lugar.size() <= mejor.unidad->lugar.size()))
             continue;
-        const auto posible = directoriosDesde(unidad.lugar, lugar.sliced(unidad.lugar.size()));
-        if (!posible)
-            continue;
-        dicho = posible;
-        mejor = &unidad;
+        if (const auto posible = directoriosDesde(unidad.lugar, lugar.sliced(unidad.lugar.size())))
+            mejor = { &unidad, *posible };
     }
-    if (!mejor) {
-        mejor = nueva(lugar);
-        dicho = "\\";
-    }
-    if (!mejor)
+    return mejor;
+}
+
+std::optional<QByteArray> UnidadesDOS::directorio(const QByteArray &lugar)
+{
+    Dicho dicho = masCercana(lugar);
+    if (!dicho.unidad)
+        dicho = { nueva(lugar), "\\" };
+    if (!dicho.unidad)
         return std::nullopt;
-    mejor->montada = true;
-    return mejor->letra + (':' + *dicho);
+    dicho.unidad->montada = true;
+    return dicho.unidad->letra + (':' + dicho.directorio);
+}
+
+void UnidadesDOS::NombraLaDe(const QString &directorio)
+{
+    const QByteArray lugar = host::findOnDisk(host::withClosingSeparator(directorio));
+    if (!lugar.startsWith('/'))
+        return;
+    if (Unidad *unidad = masCercana(directo(lugar)).unidad)
+        unidad->montada = true;
 }
 
 UnidadesDOS::Unidad *UnidadesDOS::nueva(const QByteArray &lugar)

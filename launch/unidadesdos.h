@@ -40,6 +40,9 @@ public:
     // Of the user's own drives those that a parameter names, "d:\roms".
     void Nombra(const QString &parametros);
 
+    // The drive that a directory lies on; nothing for one that lies on none.
+    void NombraLaDe(const QString &directorio);
+
     // What has been asked for, by letter.
     std::vector<Montaje> Montajes() const;
 
@@ -51,6 +54,11 @@ private:
         std::vector<Apodo> apodos = {};
     };
 
+    struct Dicho {
+        Unidad *unidad = nullptr;
+        QByteArray directorio;
+    };
+    Dicho masCercana(const QByteArray &lugar);
     std::optional<QByteArray> directorio(const QByteArray &lugar);
     Unidad *nueva(const QByteArray &lugar);
 

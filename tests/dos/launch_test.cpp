@@ -154,6 +154,23 @@ TEST_F(LaunchesInDosBox, DrivesThatParametersNameAreThere)
     EXPECT_THAT(Told("old/EMUS"), ElementsAre(" -b d:\\bios.rom", "EMUS", "bios"));
 }
 
+TEST_F(LaunchesInDosBox, TheDriveOfTheGamesIsThereAlsoWhereTheLineDoesNotNameIt)
+{
+    NameBoth();
+    makeFile("old/EMUS/GO.BAT", "@type D:\\ROMS\\MARIO.NES > C:\\FOUND\r\n");
+    makeFile("media/ROMS/mario.nes", "a game");
+    pantalla.lista1 = u"mario.nes"_s;
+    for (const int type : { 0, 1, 3, 5, 6, 7, 8 }) {
+        for (const QString &rom : { u"D:\\ROMS\\"_s, path(u"media/ROMS/"_s) }) {
+            makeFile("old/FOUND", "nothing");
+            Select(type, u"C:\\EMUS\\GO.BAT"_s, rom);
+            Juega();
+            EXPECT_EQ(bytes("old/FOUND"), "a game") << type << ' ' << rom.toStdString();
+        }
+    }
+    EXPECT_THAT(Notices(), IsEmpty());
+}
+
 TEST_F(LaunchesInDosBox, ParametersComeAsTheyStand)
 {
     NameBoth();

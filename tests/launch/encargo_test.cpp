@@ -238,6 +238,37 @@ TEST_F(EncargoTest, ALineOf126CharactersGoes_OneOf127Doesnt)
     EXPECT_EQ(De(u" "_s + QString(125, u'%')).traba, Traba::Ninguna) << "each is one for DOS";
 }
 
+TEST_F(EncargoTest, TheDrivesThatAnEmulatorMayGoToAreThere)
+{
+    Pon(ParaDOS);
+    makeDirectory("media");
+    makeDirectory("media/ROMS");
+    makeDirectory("bios");
+    makeFile(
+        "program/Zembro.uni", "C=" + place("emu") + "\nD=" + place("media") + "\nF=" + place("bios") + "\n");
+    LineaDeOrden orden;
+    orden.Ruta(u"nes"_s, path(u"emu/nes.exe"_s)).Texto(u" -x"_s);
+    struct Caso {
+        QString rom;
+        QString par2;
+        QString letras;
+    };
+    for (const Caso &caso :
+        std::initializer_list<Caso> { { {}, {}, u"C"_s }, { u"D:\\ROMS\\"_s, {}, u"CD"_s },
+            { u"d:\\roms"_s, {}, u"CD"_s }, { path(u"media/ROMS/"_s), {}, u"CD"_s },
+            { path(u"media/"_s), {}, u"CD"_s }, { path(u"media"_s), {}, u"CD"_s },
+            { path(u"roms/"_s), {}, u"C"_s }, { u"G:\\ROMS"_s, {}, u"C"_s }, { u"roms"_s, {}, u"C"_s },
+            { {}, u"-b f:\\bios.rom"_s, u"CF"_s }, { u"D:\\"_s, u"f:\\"_s, u"CDF"_s } }) {
+        M.Cat_ROM(3, 2) = u"ROM="_s + caso.rom;
+        M.Cat_PAR1(3, 2) = u"PAR1="_s;
+        M.Cat_PAR2(3, 2) = u"PAR2="_s + caso.par2;
+        QString letras;
+        for (const auto &montaje : launch::EncargoDe(orden, launch::LugaresDe(M, 3, 2)).montajes)
+            letras += QLatin1Char(montaje.letra);
+        EXPECT_EQ(letras, caso.letras) << caso.rom.toStdString() << ' ' << caso.par2.toStdString();
+    }
+}
+
 // Directories in it may be written to all the same.
 TEST_F(EncargoTest, ADriveWhoseTopCantBeWrittenIsNoCd)
 {
