@@ -1,10 +1,15 @@
 #include "launch/apodos.h"
 
 #include "launch/intenta.h"
+#include "launch/mostrado.h"
 
 #include "host/encoding.h"
 #include "host/letters.h"
 #include "host/paths.h"
+
+#include <algorithm>
+#include <ranges>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -66,20 +71,43 @@ public:
         QByteArray enlaces = deEntonces;
         const qsizetype corte = deEntonces.lastIndexOf('/') + 1;
         enlaces.replace(corte, qstrlen(UnidadDeCorrida), MostradoEnCorrida);
-        struct stat estado;
-        if (pendiente.destino != host::nameFromDisk(casa)
-            || lstat((enlaces + '/' + apodo).constData(), &estado) != 0)
+        if (pendiente.destino != host::nameFromDisk(casa) || !EstadoDe(enlaces + '/' + apodo)
+            || !separaRenombrados(deEntonces, Mostrado(enlaces)))
             return;
-        Intenta([&] {
-            for (const QByteArray &nombre : host::listInDiskOrder(pendiente.lugar)) {
-                const QByteArray aqui = m_lugar + '/' + nombre;
-                if (lstat(aqui.constData(), &estado) != 0)
-                    rename((deEntonces + '/' + nombre).constData(), aqui.constData());
-            }
-        });
+        for (const QByteArray &nombre : EntradasDe(deEntonces)) {
+            const QByteArray suyo = deEntonces + '/' + nombre;
+            if (loVe(suyo, nombre))
+                rename(suyo.constData(), (m_lugar + '/' + nombre).constData());
+        }
     }
 
 private:
+    // What was renamed then leads to bytes at home that this run may replace. False if it has to wait there,
+    // and all the rest with it.
+    bool separaRenombrados(const QByteArray &deEntonces, const Mostrado &mostrado) const
+    {
+        QStringList vueltos;
+        if (mostrado.EstaEnCasa())
+            return GuardaRenombrados(mostrado, deEntonces, vueltos);
+        return std::ranges::none_of(EntradasDe(deEntonces), [&](const QByteArray &nombre) {
+            return mostrado.Renombrado(deEntonces + '/' + nombre, true) && EstadoDe(m_lugar + '/' + nombre);
+        });
+    }
+    // Where nothing stands here, or a link to an older file that has this name at home too.
+    bool loVe(const QByteArray &suyo, const QByteArray &nombre) const
+    {
+        const QByteArray aqui = m_lugar + '/' + nombre;
+        const auto estado = EstadoDe(suyo);
+        const auto enlace = EstadoDe(aqui);
+        struct stat enCasa;
+        if (!estado || !enlace)
+            return estado.has_value();
+        return S_ISREG(estado->st_mode) && S_ISLNK(enlace->st_mode) && stat(aqui.constData(), &enCasa) == 0
+            && S_ISREG(enCasa.st_mode) && Mostrado(m_enlaces).Tiene(host::nameFromDisk(nombre))
+            && std::pair(enCasa.st_mtim.tv_sec, enCasa.st_mtim.tv_nsec)
+            <= std::pair(estado->st_mtim.tv_sec, estado->st_mtim.tv_nsec);
+    }
+
     QByteArray m_lugar;
     QByteArray m_enlaces;
     bool m_hecha;
@@ -94,7 +122,7 @@ QByteArray HazCarpetaDeApodos(const CarpetaDeCorrida &corrida, const UnidadesDOS
     for (const UnidadesDOS::Apodo &apodo : montaje.apodos) {
         bien = bien && unidad.Ensena(montaje.lugar + '/' + apodo.fichero, apodo.nombre);
         unidad.EnsenaLoGuardado(montaje.lugar, apodo.nombre);
-        for (const Pendiente &pendiente : corrida.DeAntes())
+        for (const Pendiente &pendiente : std::views::reverse(corrida.DeAntes())) // the last one first
             unidad.Hereda(pendiente, montaje.lugar, apodo.nombre);
     }
     return bien ? unidad.Lugar() : QByteArray();

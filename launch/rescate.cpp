@@ -14,8 +14,11 @@
 #include "host/questions.h"
 #include "host/replacement.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -101,6 +104,8 @@ private:
             fichero.read();
             fichero.write(host::readBytes(host::nameFromDisk(guardado)));
             fichero.commit();
+            const std::array<timespec, 2> tiempos { estado.st_mtim, estado.st_mtim };
+            utimensat(AT_FDCWD, host::findOnDisk(destino).constData(), tiempos.data(), 0);
         }
         if (unlink(guardado.constData()) == 0)
             m_vueltos << destino;
@@ -232,14 +237,39 @@ host::Descriptor cierra(const QByteArray &corrida)
 
 } // namespace
 
+namespace {
+
+// The runs in a directory, by the time of their beginning.
+QStringList corridasEn(const QString &temporal)
+{
+    QStringList nombres;
+    Intenta([&] { nombres = host::listDirectories(temporal); });
+    const auto comienzo = [&](const QString &nombre) {
+        const QByteArray corrida = host::nameToDisk(temporal + nombre);
+        const auto cerrojo = EstadoDe(corrida + '/' + CerrojoDeCorrida);
+        const auto estado = cerrojo ? cerrojo : EstadoDe(corrida);
+        return estado ? std::pair(estado->st_mtim.tv_sec, estado->st_mtim.tv_nsec) : std::pair(0L, 0L);
+    };
+    std::vector<std::pair<std::pair<long, long>, QString>> porHora;
+    for (const QString &nombre : std::as_const(nombres)) {
+        if (nombre.startsWith(Prefijo))
+            porHora.emplace_back(comienzo(nombre), nombre);
+    }
+    std::ranges::sort(porHora);
+    nombres.clear();
+    for (const auto &[hora, nombre] : porHora)
+        nombres += nombre;
+    return nombres;
+}
+
+} // namespace
+
 Rescate RescataRestos()
 {
     Rescate rescate;
     const QString temporal = DirectorioTemporal();
-    QStringList nombres;
-    Intenta([&] { nombres = host::listDirectories(temporal); });
-    for (const QString &nombre : std::as_const(nombres)) {
-        const pid_t creador = nombre.startsWith(Prefijo) ? nombre.split(u'-').value(2).toInt() : 0;
+    for (const QString &nombre : corridasEn(temporal)) {
+        const pid_t creador = nombre.split(u'-').value(2).toInt();
         if (creador <= 0)
             continue;
         const RestoVisto resto(temporal + nombre, creador);

@@ -11,8 +11,10 @@
 
 #include <QHash>
 
+#include <array>
 #include <csignal>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -299,6 +301,73 @@ TEST_F(RescateTest, LoQueNoCabeSeDiceUnaVez_YLaProximaPartidaLoVe_YAlFinVuelve)
     EXPECT_EQ(launch::RescataRestos().vueltos.size(), 2);
     EXPECT_EQ(bytes("roms/NINO.NEW"), "new\n");
     EXPECT_EQ(bytes("roms/SAVES/ONE"), "one\n");
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, LoPendienteMasNuevoEsLoQueElJuegoVe)
+{
+    for (const bool masNuevo : { true, false }) {
+        makeFile("roms/Nino.sav", "before");
+        Matada("rm NINO.SAV; echo later > NINO.SAV; echo mine > NINO.NES.tmp; mv NINO.NES.tmp NINO.NES");
+        const std::array<timespec, 2> tiempos { timespec { masNuevo ? 1'000'000'000 : 4'000'000'000, 0 },
+            timespec { masNuevo ? 1'000'000'000 : 4'000'000'000, 0 } };
+        utimensat(AT_FDCWD, place("roms/Nino.sav").constData(), tiempos.data(), 0);
+        rename(place("roms").constData(), place("away").constData());
+        const launch::CarpetaDeCorrida corrida;
+        rename(place("away").constData(), place("roms").constData());
+        ASSERT_EQ(corrida.DeAntes().size(), 1);
+        const QByteArray lugar = launch::HazCarpetaDeApodos(corrida, Montaje()).sliced(place().size());
+        EXPECT_EQ(bytes(lugar + "/NINO.SAV"), masNuevo ? "later\n" : "before");
+        EXPECT_EQ(bytes(lugar + "/NINO.NES"), "the game");
+    }
+    launch::RescataRestos();
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, LoRenombradoPendienteNoSePierdeEnLaProximaPartida)
+{
+    makeFile("roms/NINO.SV1", "state A");
+    makeFile("roms/NINO.SV2", "earlier");
+    Matada("mv NINO.SV2 NINO.SV3; mv NINO.SV1 NINO.SV2; echo state B > NINO.SV1");
+    rename(place("roms").constData(), place("away").constData());
+    {
+        const launch::CarpetaDeCorrida corrida;
+        rename(place("away").constData(), place("roms").constData());
+        const QByteArray lugar = launch::HazCarpetaDeApodos(corrida, Montaje()).sliced(place().size());
+        EXPECT_EQ(bytes(lugar + "/NINO.SV1"), "state B\n");
+        EXPECT_EQ(bytes(lugar + "/NINO.SV2"), "state A");
+        EXPECT_EQ(bytes(lugar + "/NINO.SV3"), "earlier");
+    }
+    launch::RescataRestos();
+    EXPECT_EQ(bytes("roms/NINO.SV1"), "state B\n");
+    EXPECT_EQ(bytes("roms/NINO.SV2"), "state A");
+    EXPECT_EQ(bytes("roms/NINO.SV3"), "earlier");
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, VariasCorridasVuelvenPorSuOrden_CadaUnaConSuHora)
+{
+    const std::array<timespec, 2> hora { timespec { 1'500'000'000, 0 }, timespec { 1'500'000'000, 0 } };
+    const std::array<timespec, 2> antes { timespec { 1'000'000'000, 0 }, timespec { 1'000'000'000, 0 } };
+    utimensat(AT_FDCWD, place("roms/Nino.sav").constData(), antes.data(), 0);
+    makeDirectory("kept");
+    const QByteArray primera = Matada("rm NINO.SAV; echo first > NINO.SAV");
+    rename(place("tmp/" + primera).constData(), place("kept/" + primera).constData());
+    const QByteArray segunda = Matada("rm NINO.SAV; echo second > NINO.SAV");
+    // By their names the later one is the first.
+    const QByteArray alFinal = "tmp/ZB-DOS-" + QByteArray::number(99999999) + "-999";
+    rename(place("kept/" + primera).constData(), place(alFinal).constData());
+    for (const QByteArray &fichero : { alFinal + "/lock", alFinal + "/files-E/NINO.SAV" })
+        utimensat(AT_FDCWD, place(fichero).constData(), hora.data(), 0);
+    const std::array<timespec, 2> luego { timespec { 1'600'000'000, 0 }, timespec { 1'600'000'000, 0 } };
+    for (const QByteArray &fichero : { "tmp/" + segunda + "/lock", "tmp/" + segunda + "/files-E/NINO.SAV" })
+        utimensat(AT_FDCWD, place(fichero).constData(), luego.data(), 0);
+    launch::RescataRestos();
+    EXPECT_EQ(bytes("roms/Nino.sav"), "second\n");
+    EXPECT_FALSE(exists("roms/NINO-2.SAV"));
+    struct stat estado;
+    ASSERT_EQ(stat(place("roms/Nino.sav").constData(), &estado), 0);
+    EXPECT_EQ(estado.st_mtim.tv_sec, 1'600'000'000);
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
