@@ -103,6 +103,26 @@ protected:
             list.AddItem(i == row ? Letters : u"nnn"_s);
     }
 
+    struct Dots {
+        QImage picture; // of the form
+        QRgb colour;
+        QRect place; // pixels of the picture that they stand around
+        int size; // of one of them, pixels
+    };
+
+    Dots dotsAround(int row)
+    {
+        drive::show(form);
+        list.setFocus();
+        fillAround(Rows);
+        list.SetListIndex(row);
+        const QRectF place(
+            list.visualRect(list.currentIndex()).translated(list.viewport()->mapTo(&form, QPoint())));
+        return { pictureOf(form, GetParam()), forms::dotsOn(list.palette().color(QPalette::Highlight)).rgb(),
+            QTransform::fromScale(GetParam(), GetParam()).mapRect(place).toRect(),
+            std::max(qRound(GetParam()), 1) };
+    }
+
     QImage pictureOfRows(int first, int count)
     {
         list.Clear();
@@ -171,16 +191,7 @@ TEST_P(RowPictures, TheDotsOfTheFocusLeaveTheLettersOut)
 
 TEST_P(RowPictures, TheDotsOfTheFocusAreAsWideAtTheListsEdgesAsTheyAreHigh)
 {
-    drive::show(form);
-    list.setFocus();
-    fillAround(Rows);
-    list.SetListIndex(2);
-    const QImage picture = pictureOf(form, GetParam());
-    const QRgb colour = forms::dotsOn(list.palette().color(QPalette::Highlight)).rgb();
-    const QRectF row(
-        list.visualRect(list.currentIndex()).translated(list.viewport()->mapTo(&form, QPoint())));
-    const QRect dots = QTransform::fromScale(GetParam(), GetParam()).mapRect(row).toRect();
-    const int size = std::max(qRound(GetParam()), 1);
+    const auto [picture, colour, dots, size] = dotsAround(2);
     for (const bool right : { false, true }) {
         std::map<int, int> widths; // how many lines begin with so many dots
         for (int y = dots.top() + 2 * size; y <= dots.bottom() - 2 * size; ++y) {
@@ -197,16 +208,7 @@ TEST_P(RowPictures, TheDotsOfTheFocusAreAsWideAtTheListsEdgesAsTheyAreHigh)
 
 TEST_P(RowPictures, TheDotsOfTheFocusAreAsHighAtTheListsTop)
 {
-    drive::show(form);
-    list.setFocus();
-    fillAround(Rows);
-    list.SetListIndex(0);
-    const QImage picture = pictureOf(form, GetParam());
-    const QRgb colour = forms::dotsOn(list.palette().color(QPalette::Highlight)).rgb();
-    const QRectF row(
-        list.visualRect(list.currentIndex()).translated(list.viewport()->mapTo(&form, QPoint())));
-    const QRect dots = QTransform::fromScale(GetParam(), GetParam()).mapRect(row).toRect();
-    const int size = std::max(qRound(GetParam()), 1);
+    const auto [picture, colour, dots, size] = dotsAround(0);
     std::map<int, int> heights; // how many columns begin with so many dots
     for (int x = dots.center().x(); x <= dots.right() - 2 * size; ++x) {
         int height = 0;
