@@ -21,12 +21,6 @@ namespace launch {
 
 namespace {
 
-QByteArray sinTerminacion(const QByteArray &nombre)
-{
-    const qsizetype punto = nombre.indexOf('.');
-    return nombre.first(punto < 0 ? nombre.size() : punto);
-}
-
 // The directory of one drive, and its twin with the links alone: what the game was shown is known by that
 // also after it has deleted or replaced some of them.
 class Unidad {
@@ -51,14 +45,16 @@ public:
             && (linkat(AT_FDCWD, enlace.constData(), AT_FDCWD, aqui.constData(), 0) == 0
                 || symlink(fichero.constData(), aqui.constData()) == 0);
     }
-    void EnsenaLoGuardado(const QByteArray &casa, const QByteArray &apodo) const
+    void EnsenaLoGuardado(const QByteArray &casa, const UnidadesDOS::Apodo &apodo) const
     {
-        const QString base = host::nameFromDisk(sinTerminacion(apodo));
+        const QByteArray prefijo = PrefijoEnCasa(apodo.fichero);
         Intenta([&] {
             for (const QString &nombre : host::listFiles(host::nameFromDisk(casa))) {
                 const QByteArray bytes = host::nameToDisk(nombre);
-                if (host::sameName(host::nameFromDisk(sinTerminacion(bytes)), base))
+                if (SeLlamaIgual(bytes, apodo.nombre))
                     Ensena(casa + '/' + bytes, bytes.toUpper());
+                else if (bytes.size() > prefijo.size() && bytes.startsWith(prefijo))
+                    Ensena(casa + '/' + bytes, bytes.sliced(prefijo.size()));
             }
             for (const QString &nombre : host::listDirectories(host::nameFromDisk(casa)))
                 Ensena(casa + '/' + host::nameToDisk(nombre), host::nameToDisk(nombre));
@@ -103,7 +99,7 @@ private:
         if (!estado || !enlace)
             return estado.has_value();
         return S_ISREG(estado->st_mode) && S_ISLNK(enlace->st_mode) && stat(aqui.constData(), &enCasa) == 0
-            && S_ISREG(enCasa.st_mode) && Mostrado(m_enlaces).Tiene(host::nameFromDisk(nombre))
+            && S_ISREG(enCasa.st_mode) && Mostrado(m_enlaces).Tiene(nombre)
             && std::pair(enCasa.st_mtim.tv_sec, enCasa.st_mtim.tv_nsec)
             <= std::pair(estado->st_mtim.tv_sec, estado->st_mtim.tv_nsec);
     }
@@ -121,7 +117,7 @@ QByteArray HazCarpetaDeApodos(const CarpetaDeCorrida &corrida, const UnidadesDOS
     bool bien = unidad.Hecha();
     for (const UnidadesDOS::Apodo &apodo : montaje.apodos) {
         bien = bien && unidad.Ensena(montaje.lugar + '/' + apodo.fichero, apodo.nombre);
-        unidad.EnsenaLoGuardado(montaje.lugar, apodo.nombre);
+        unidad.EnsenaLoGuardado(montaje.lugar, apodo);
         for (const Pendiente &pendiente : std::views::reverse(corrida.DeAntes())) // the last one first
             unidad.Hereda(pendiente, montaje.lugar, apodo.nombre);
     }

@@ -95,7 +95,8 @@ private:
             if (estado && S_ISDIR(estado->st_mode))
                 enLaUnidad(ruta, false);
             else if (const Mostrado::Enlace *enlace = m_mostrado.Renombrado(ruta, deArriba))
-                guarda(ruta, *estado, *enlace, deArriba ? m_mostrado.Casa() + '/' + nombre : QByteArray());
+                guarda(ruta, *estado, *enlace,
+                    deArriba ? m_mostrado.Casa() + '/' + m_mostrado.EnCasa(nombre).nombre : QByteArray());
         }
     }
     // The user's own links there may lead to the same files: the game's are the links of the beginning.
@@ -168,6 +169,19 @@ private:
 
 } // namespace
 
+QByteArray PrefijoEnCasa(const QByteArray &juego)
+{
+    return juego + " - ";
+}
+
+bool SeLlamaIgual(const QByteArray &nombre, const QByteArray &otro)
+{
+    const auto base = [](const QByteArray &entero) {
+        return entero.first(entero.indexOf('.') < 0 ? entero.size() : entero.indexOf('.'));
+    };
+    return mismoNombre(base(nombre), base(otro));
+}
+
 std::optional<struct stat> EstadoDe(const QByteArray &ruta)
 {
     struct stat estado;
@@ -193,13 +207,53 @@ Mostrado::Mostrado(const QByteArray &enlaces)
         m_esta = m_esta || EstadoDe(destino);
         m_enlaces.insert(destino, { nombre, ruta, mismoNombre(nombreDe(destino), nombre) });
     }
+    // Under made-up names there are the game, and what begins with its name at home.
+    const auto esDe = [&](const QByteArray &destino, const Enlace &enlace, const QByteArray &juego) {
+        return nombreDe(destino) == PrefijoEnCasa(nombreDe(juego)) + enlace.nombre;
+    };
+    QByteArrayList apodados;
+    for (auto uno = m_enlaces.begin(); uno != m_enlaces.end(); ++uno) {
+        if (!uno->propio)
+            apodados += uno.key();
+    }
+    for (const QByteArray &destino : apodados) {
+        Enlace &enlace = m_enlaces[destino];
+        enlace.propio = std::ranges::any_of(
+            apodados, [&](const QByteArray &juego) { return esDe(destino, enlace, juego); });
+        if (enlace.propio)
+            continue;
+        m_juego = nombreDe(destino);
+        m_apodo = enlace.nombre;
+    }
 }
 
-bool Mostrado::Tiene(const QString &nombre) const
+bool Mostrado::Tiene(const QByteArray &nombre) const
 {
-    return std::ranges::any_of(m_enlaces, [&](const Enlace &enlace) {
-        return enlace.propio && host::sameName(host::nameFromDisk(enlace.nombre), nombre);
-    });
+    return propioDe(nombre, nullptr) != nullptr;
+}
+
+const Mostrado::Enlace *Mostrado::propioDe(const QByteArray &nombre, QByteArray *destino) const
+{
+    for (auto uno = m_enlaces.begin(); uno != m_enlaces.end(); ++uno) {
+        if (!uno->propio || !mismoNombre(uno->nombre, nombre))
+            continue;
+        if (destino)
+            *destino = uno.key();
+        return &*uno;
+    }
+    return nullptr;
+}
+
+Mostrado::Nombre Mostrado::EnCasa(const QByteArray &nombre) const
+{
+    QByteArray prefijo =
+        m_juego.isEmpty() || SeLlamaIgual(nombre, m_apodo) ? QByteArray() : PrefijoEnCasa(m_juego);
+    if (prefijo.size() + nombre.size() > NAME_MAX)
+        prefijo.clear();
+    QByteArray destino;
+    if (propioDe(nombre, &destino))
+        return { nombreDe(destino), prefijo.size() };
+    return { prefijo + nombre, prefijo.size() };
 }
 
 const Mostrado::Enlace *Mostrado::Renombrado(const QByteArray &ruta, bool deArriba) const

@@ -20,6 +20,13 @@ std::optional<struct stat> EstadoDe(const QByteArray &ruta);
 // None where it can't be listed.
 QByteArrayList EntradasDe(const QByteArray &lugar);
 
+// What stands ahead of the name at home that a game gives to what isn't named after it: other games there may
+// give the same one.
+QByteArray PrefijoEnCasa(const QByteArray &juego);
+
+// "NINO" of "NINO.SAV": what a game saves under its own name begins so.
+bool SeLlamaIgual(const QByteArray &nombre, const QByteArray &otro);
+
 // Read from the links of the run's beginning.
 class Mostrado {
 public:
@@ -29,13 +36,20 @@ public:
     const QByteArray &Casa() const { return m_casa; }
     // A disk that isn't there now leaves an empty directory in its place.
     bool EstaEnCasa() const { return m_esta; }
-    // Whether the game saw what has this name at home under that very name.
-    bool Tiene(const QString &nombre) const;
+    // Whether the game saw a file of its own under this name: not the one of the game, whose name there is
+    // made up.
+    bool Tiene(const QByteArray &nombre) const;
+    // What a file of this name is called at home, and where the game's name begins in that.
+    struct Nombre {
+        QByteArray nombre;
+        qsizetype desde = 0;
+    };
+    Nombre EnCasa(const QByteArray &nombre) const;
 
     struct Enlace {
         QByteArray nombre; // that it was shown under
         QByteArray ruta; // of the link of the beginning
-        bool propio = false; // the name that it has at home too
+        bool propio = false; // the game's own, by the name that it has at home too, or the end of that
     };
     const QHash<QByteArray, Enlace> &Enlaces() const { return m_enlaces; } // by what they lead to
 
@@ -44,7 +58,11 @@ public:
     const Enlace *Renombrado(const QByteArray &ruta, bool deArriba) const;
 
 private:
+    const Enlace *propioDe(const QByteArray &nombre, QByteArray *destino) const;
+
     QByteArray m_casa;
+    QByteArray m_juego; // its file; empty if it isn't known
+    QByteArray m_apodo; // that it was shown under
     bool m_esta = false;
     QHash<QByteArray, Enlace> m_enlaces;
 };

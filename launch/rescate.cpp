@@ -66,10 +66,7 @@ public:
     }
 
 private:
-    static QString nombreDe(const QByteArray &ruta)
-    {
-        return host::nameFromDisk(ruta.sliced(ruta.lastIndexOf('/') + 1));
-    }
+    static QByteArray nombreDe(const QByteArray &ruta) { return ruta.sliced(ruta.lastIndexOf('/') + 1); }
     static std::optional<EnCasa> enCasa(
         const QString &ruta, const QByteArray &guardado, const struct stat &suyo)
     {
@@ -77,7 +74,7 @@ private:
         const auto estado = EstadoDe(alli);
         if (alli.isEmpty() || !estado)
             return std::nullopt;
-        EnCasa esto { nombreDe(alli), S_ISDIR(estado->st_mode), false, false };
+        EnCasa esto { host::nameFromDisk(nombreDe(alli)), S_ISDIR(estado->st_mode), false, false };
         esto.masNuevo = std::pair(estado->st_mtim.tv_sec, estado->st_mtim.tv_nsec)
             > std::pair(suyo.st_mtim.tv_sec, suyo.st_mtim.tv_nsec);
         if (S_ISREG(estado->st_mode) && S_ISREG(suyo.st_mode) && estado->st_size == suyo.st_size)
@@ -87,17 +84,21 @@ private:
             });
         return esto;
     }
-    Vuelta vueltaDe(
-        const QByteArray &guardado, const struct stat &estado, const QString &a, bool mostrado) const
+    Vuelta vueltaDe(const QByteArray &guardado, const struct stat &estado, const QString &a,
+        const Mostrado::Nombre &suyo, bool mostrado) const
     {
-        return VueltaDe(nombreDe(guardado), S_ISDIR(estado.st_mode), mostrado,
-            [&](const QString &nombre) { return enCasa(a + u'/' + nombre, guardado, estado); });
+        return VueltaDe(
+            host::nameFromDisk(suyo.nombre), S_ISDIR(estado.st_mode), mostrado,
+            [&](const QString &nombre) { return enCasa(a + u'/' + nombre, guardado, estado); },
+            host::nameFromDisk(suyo.nombre.first(suyo.desde)).size());
     }
     void llevaFichero(
         const QByteArray &guardado, const struct stat &estado, const QString &a, bool deArriba) const
     {
-        const bool mostrado = deArriba && m_mostrado.Tiene(nombreDe(guardado));
-        const Vuelta vuelta = vueltaDe(guardado, estado, a, mostrado);
+        const QByteArray nombre = nombreDe(guardado);
+        const Vuelta vuelta =
+            vueltaDe(guardado, estado, a, deArriba ? m_mostrado.EnCasa(nombre) : Mostrado::Nombre { nombre },
+                deArriba && m_mostrado.Tiene(nombre));
         const QString destino = a + u'/' + vuelta.nombre;
         if (vuelta.escribe) {
             host::Replacement fichero(destino, u"Zembro.tmp"_s);
@@ -113,7 +114,7 @@ private:
     void llevaDirectorio(const QByteArray &guardado, const QString &a)
     {
         const auto estado = EstadoDe(guardado);
-        const Vuelta vuelta = vueltaDe(guardado, *estado, a, false);
+        const Vuelta vuelta = vueltaDe(guardado, *estado, a, { nombreDe(guardado) }, false);
         const QString destino = a + u'/' + vuelta.nombre;
         if (vuelta.escribe)
             host::makeDirectory(destino);
@@ -154,9 +155,9 @@ bool SeRecoge(const Resto &resto)
 }
 
 Vuelta VueltaDe(const QString &nombre, bool directorio, bool mostrado,
-    const std::function<std::optional<EnCasa>(const QString &)> &enCasa)
+    const std::function<std::optional<EnCasa>(const QString &)> &enCasa, qsizetype desde)
 {
-    const qsizetype punto = nombre.indexOf(u'.');
+    const qsizetype punto = nombre.indexOf(u'.', desde);
     const qsizetype fin = punto < 0 ? nombre.size() : punto;
     QString probado = nombre;
     for (int numero = 2;; ++numero) {

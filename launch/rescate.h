@@ -47,9 +47,10 @@ struct Vuelta {
 };
 
 // `mostrado`: the game saw what stands there under this name; else it can't have meant it, and nothing is
-// replaced. Directories come together.
+// replaced: a number goes into the name that the game gave, which begins at `desde`. Directories come
+// together.
 Vuelta VueltaDe(const QString &nombre, bool directorio, bool mostrado,
-    const std::function<std::optional<EnCasa>(const QString &)> &enCasa);
+    const std::function<std::optional<EnCasa>(const QString &)> &enCasa, qsizetype desde = 0);
 
 // What couldn't be brought back.
 struct Pendiente {

@@ -267,11 +267,33 @@ TEST_F(LaunchesInDosBox, WhatAGameWithAccentsSavesReplacesNoFileThatItDidNotSee)
     Select(0, u"C:\\EMUS\\GO.BAT"_s, u"D:\\ROMS\\"_s);
     Juega();
     EXPECT_EQ(bytes("media/ROMS/Hiscore.dat"), "two records");
-    EXPECT_EQ(bytes("media/ROMS/HISCORE-2.DAT"), "score\r\n");
+    EXPECT_EQ(bytes("media/ROMS/Espa\xC3\xB1"
+                    "a.gb - HISCORE.DAT"),
+        "score\r\n");
     EXPECT_EQ(bytes("media/ROMS/Espa\xC3\xB1"
                     "a.gb"),
         "played");
     EXPECT_EQ(bytes("media/ROMS/ESPANA.GB"), "new\r\n");
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
+}
+
+TEST_F(LaunchesInDosBox, TheRecordOfAGameWithAccentsGoesOnInOneFile)
+{
+    NameBoth();
+    makeFile("old/EMUS/ADD.BAT", "@echo again >> E:\\HISCORE.DAT\r\n");
+    makeFile("old/EMUS/ANEW.BAT",
+        "@E:\r\n@copy HISCORE.DAT NEW.DAT > NUL\r\n@echo anew >> NEW.DAT\r\n@del HISCORE.DAT\r\n"
+        "@ren NEW.DAT HISCORE.DAT\r\n");
+    makeFile("media/ROMS/ni\xC3\xB1o.nes", "the child");
+    makeFile("media/ROMS/Hiscore.dat", "another's");
+    pantalla.lista1 = u"niño.nes"_s;
+    for (const QString &emulador : { u"ADD"_s, u"ADD"_s, u"ANEW"_s, u"ADD"_s }) {
+        Select(0, u"C:\\EMUS\\"_s + emulador + u".BAT"_s, u"D:\\ROMS\\"_s);
+        Juega();
+    }
+    EXPECT_EQ(bytes("media/ROMS/ni\xC3\xB1o.nes - HISCORE.DAT"), "again\r\nagain\r\nanew\r\nagain\r\n");
+    EXPECT_EQ(bytes("media/ROMS/Hiscore.dat"), "another's");
+    EXPECT_THAT(host::listInDiskOrder(path(u"media/ROMS"_s)), testing::SizeIs(3));
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
 }
 

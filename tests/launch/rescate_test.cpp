@@ -168,7 +168,7 @@ TEST_F(RescateTest, LoQueDejaUnaMuerteVuelve_DirectoriosTambien)
     EXPECT_EQ(bytes("roms/NINO.NEW"), "new\n");
     EXPECT_EQ(bytes("roms/Nino.sav"), "saved\n");
     EXPECT_EQ(bytes("roms/hiscore.dat"), "records");
-    EXPECT_EQ(bytes("roms/HISCORE-2.DAT"), "mine\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - HISCORE.DAT"), "mine\n");
     EXPECT_EQ(bytes("roms/SAVES/ONE"), "one\n");
     EXPECT_EQ(bytes("roms/SAVES/DEEP/TWO"), "two\n");
     EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes"), "the game");
@@ -197,6 +197,81 @@ TEST_F(RescateTest, LoQueElJuegoRenombraNoSePierde)
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
+TEST_F(RescateTest, LoQueSeLlamaDeOtroModoSigueEnUnSoloFichero)
+{
+    const QByteArray enCasa = "roms/ni\xC3\xB1o.nes - HISCORE.DAT";
+    Matada("echo 1 > HISCORE.DAT; echo cfg > CONFIG");
+    EXPECT_EQ(launch::RescataRestos().vueltos.size(), 2);
+    EXPECT_EQ(bytes(enCasa), "1\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - CONFIG"), "cfg\n");
+    Matada("cat HISCORE.DAT CONFIG > NINO.SEE; echo 2 >> HISCORE.DAT"); // in its place
+    EXPECT_EQ(bytes(enCasa), "1\n2\n");
+    launch::RescataRestos();
+    EXPECT_EQ(bytes("roms/NINO.SEE"), "1\ncfg\n");
+    Matada("cat HISCORE.DAT > X; echo 3 >> X; rm HISCORE.DAT; mv X HISCORE.DAT"); // by a new file
+    launch::RescataRestos();
+    EXPECT_EQ(bytes(enCasa), "1\n2\n3\n");
+    Matada("mv HISCORE.DAT HISCORE.BAK; echo 4 > HISCORE.DAT");
+    launch::RescataRestos();
+    EXPECT_EQ(bytes(enCasa), "4\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - HISCORE.BAK"), "1\n2\n3\n");
+    Matada("mv HISCORE.BAK OLDER.BAK");
+    launch::RescataRestos();
+    EXPECT_FALSE(exists("roms/ni\xC3\xB1o.nes - HISCORE.BAK"));
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - OLDER.BAK"), "1\n2\n3\n");
+    EXPECT_EQ(bytes("roms/hiscore.dat"), "records") << "nobody's but the user's";
+    EXPECT_THAT(host::listInDiskOrder(path(u"roms"_s)), testing::SizeIs(8));
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, LosQueEscribenElMismoNombreTienenCadaUnoElSuyo)
+{
+    PonROM("ni\xC3\xB1"
+           "a.nes",
+        "another game");
+    Matada("echo boy > HISCORE.DAT");
+    launch::RescataRestos();
+    const launch::UnidadesDOS::Montaje otro { 'E', place("roms"), false,
+        { { "NINA.NES",
+            "ni\xC3\xB1"
+            "a.nes" } } };
+    {
+        const launch::CarpetaDeCorrida corrida;
+        const QByteArray lugar = launch::HazCarpetaDeApodos(corrida, otro).sliced(place().size());
+        EXPECT_FALSE(exists(lugar + "/HISCORE.DAT"));
+        makeFile(lugar + "/HISCORE.DAT", "girl");
+    }
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - HISCORE.DAT"), "boy\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1"
+                    "a.nes - HISCORE.DAT"),
+        "girl");
+}
+
+// Its files differ by their case alone: what it saved goes to the one that it saw.
+TEST_F(RescateTest, DeDosQueSoloLasMayusculasDistinguenVuelveAlQueVio)
+{
+    makeFile("roms/NINO.sav", "the other");
+    Matada("cat NINO.SAV > NINO.SEE; rm NINO.SAV; echo after > NINO.SAV");
+    launch::RescataRestos();
+    const bool vioElOtro = bytes("roms/NINO.SEE") == "the other";
+    EXPECT_EQ(bytes(vioElOtro ? "roms/NINO.sav" : "roms/Nino.sav"), "after\n");
+    EXPECT_EQ(bytes(vioElOtro ? "roms/Nino.sav" : "roms/NINO.sav"), vioElOtro ? "before" : "the other");
+}
+
+// Nobody has seen what lies there now.
+TEST_F(RescateTest, LoCambiadoEnCasaEntretantoQuedaJuntoALoNuevo)
+{
+    Matada("echo 1 > HISCORE.DAT");
+    launch::RescataRestos();
+    Matada("rm HISCORE.DAT; echo 2 > HISCORE.DAT");
+    makeFile("roms/ni\xC3\xB1o.nes - HISCORE.DAT", "of another machine");
+    const std::array<timespec, 2> luego { timespec { 4'000'000'000, 0 }, timespec { 4'000'000'000, 0 } };
+    utimensat(AT_FDCWD, place("roms/ni\xC3\xB1o.nes - HISCORE.DAT").constData(), luego.data(), 0);
+    launch::RescataRestos();
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - HISCORE.DAT"), "of another machine");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - HISCORE-2.DAT"), "2\n");
+}
+
 TEST_F(RescateTest, LoQueRenombraSinMasLoEstaEnSuSitio)
 {
     makeFile("roms/NINO.SV1", "state A");
@@ -205,7 +280,7 @@ TEST_F(RescateTest, LoQueRenombraSinMasLoEstaEnSuSitio)
     EXPECT_EQ(bytes("roms/NINO.BAK"), "before");
     EXPECT_FALSE(exists("roms/Nino.sav"));
     EXPECT_EQ(bytes("roms/hiscore.dat"), "records") << "it hadn't seen that";
-    EXPECT_EQ(bytes("roms/HISCORE-2.DAT"), "state A");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - HISCORE.DAT"), "state A");
     EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes"), "the game") << "the user's name for it stays";
     EXPECT_EQ(bytes("roms/NINO.OLD"), "the game");
     EXPECT_THAT(Temporales(), IsEmpty());
