@@ -54,6 +54,8 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zem_NoWindows0", &P::Zem_NoWindows0 },
         { u"Zem_NombreWin", &P::Zem_NombreWin },
         { u"Zem_SignoDOS", &P::Zem_SignoDOS },
+        { u"Zem_NoTmp0", &P::Zem_NoTmp0 },
+        { u"Zem_NoTmp1", &P::Zem_NoTmp1 },
         { u"Zem_SinUnidad", &P::Zem_SinUnidad },
         { u"Zem_NoVuelve0", &P::Zem_NoVuelve0 },
         { u"Zem_NoVuelve1", &P::Zem_NoVuelve1 },

@@ -69,6 +69,8 @@ struct Palabras {
     QString Zem_NoWindows0 = QStringLiteral("Windows no lo admite");
     QString Zem_NombreWin = QStringLiteral("Windows no abre un archivo de este nombre: cámbialo.");
     QString Zem_SignoDOS = QStringLiteral("Los parámetros tienen un signo que DOS no admite.");
+    QString Zem_NoTmp0 = QStringLiteral("No arranca");
+    QString Zem_NoTmp1 = QStringLiteral("El directorio temporal está lleno o no se puede usar.");
     QString Zem_SinUnidad = QStringLiteral("Falta la unidad %1:");
 
     // What a game saved and that couldn't go to its place: %1 is that, %2 where it lies.

@@ -407,6 +407,7 @@ template <typename Carpeta> void ObrasDeVerdad::CorreEn(Carpeta &&carpeta)
 {
     if (carpeta.Argumentos().isEmpty()) {
         m_cronica.Fallo(u"Failed to write the files of a run into the temporary directory"_s);
+        Intenta([&] { m_pantalla.Aviso(M.Palabras.Zem_NoTmp0, M.Palabras.Zem_NoTmp1); });
         return;
     }
     Corre(carpeta.Argumentos());

@@ -2,8 +2,12 @@
 #include "escenario.h"
 
 #include "launch/codigo437.h"
+#include "launch/cronica.h"
+#include "launch/destino.h"
 #include "launch/dosbox.h"
 #include "launch/encargo.h"
+#include "launch/jugar.h"
+#include "launch/shell.h"
 #include "launch/wine.h"
 
 #include "host/encoding.h"
@@ -109,6 +113,43 @@ TEST_F(EncargoTest, WhereWineIsMissingTheUserIsTold)
     Pon(ParaWindows);
     Juega();
     EXPECT_EQ(Avisos(), QStringList { u"Missing: Wine"_s });
+}
+
+TEST_F(EncargoTest, WhereTheTemporaryDirectoryCantBeUsedTheUserIsTold)
+{
+    PonHerramienta("dosbox");
+    PonHerramienta("wine");
+    PonROM("ni\xC3\xB1o.nes"); // a name that DOS doesn't open
+    PonROM("what?.nes"); // nor Windows
+    makeDirectory("shared");
+    setMode("shared", 0777);
+    makeFile("shared/zembrolix-" + QByteArray::number(geteuid()), "in the way");
+    qputenv("TMPDIR", place("shared"));
+    for (const auto &[bytes, juego] : { std::pair { ParaDOS, u"mario.nes"_s }, { ParaDOS, u"niño.nes"_s },
+             { ParaWindows, u"what?.nes"_s } }) {
+        Pon(bytes);
+        pantalla.lista1 = juego;
+        pantalla.llamadas.clear();
+        QStringList dicho;
+        const launch::Partida partida =
+            launch::Jugar(M, pantalla, [&dicho](const QString &linea) { dicho += linea; });
+        EXPECT_FALSE(HuboJuego());
+        EXPECT_EQ(Avisos(), QStringList { u"Not started: Full"_s }) << juego.toStdString();
+        EXPECT_EQ(partida.fallo, u"Failed to write the files of a run into the temporary directory");
+        EXPECT_TRUE(dicho.last().endsWith(launch::EnShell({ u"failed"_s, partida.fallo })));
+    }
+}
+
+TEST_F(EncargoTest, WhereNothingIsLeftOfItsDiskTheUserIsTold)
+{
+    PonHerramienta("dosbox");
+    Pon(ParaDOS);
+    launch::PonEspacioLibre([](int) { return 0; });
+    Juega();
+    launch::PonEspacioLibre({});
+    EXPECT_FALSE(HuboJuego());
+    EXPECT_EQ(Avisos(), QStringList { u"Not started: Full"_s });
+    EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
 }
 
 TEST_F(EncargoTest, WhereADriveIsMissingTheUserIsToldItsLetter)

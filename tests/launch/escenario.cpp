@@ -183,6 +183,8 @@ void Escenario::PonPalabrasDeEncargo()
     M.Palabras.Zem_NombreDOS = u"Name"_s;
     M.Palabras.Zem_LargoDOS = u"Length"_s;
     M.Palabras.Zem_SignoDOS = u"Sign"_s;
+    M.Palabras.Zem_NoTmp0 = u"Not started"_s;
+    M.Palabras.Zem_NoTmp1 = u"Full"_s;
     M.Palabras.Zem_Discos = u"Drives"_s;
     M.Palabras.Zem_SinUnidad = u"No %1:"_s;
     M.Palabras.Zem_NoVuelve0 = u"Kept"_s;
