@@ -99,6 +99,8 @@ struct PalabrasDeRevision {
         "This record names no game, and none behind it is found; give it a name, or remove it: %1");
     QString Zbo_NotasAjenas = QStringLiteral("No system of the catalogue or of the database is called so; "
                                              "correct the name of this block of notes, or remove it: %1");
+    QString Zbo_SinCabecera = QStringLiteral("These notes stand below no name of a system, so nothing reads "
+                                             "them; put its name on a line of its own above them: %1");
     QString Zbo_SinMarcaNot = QStringLiteral("No line that begins with [ ends the notes of the systems, so a "
                                              "new system gets none; put [EOF] behind the last of them.");
     QString Zbo_ParDeNadie = QStringLiteral(

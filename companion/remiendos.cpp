@@ -2,16 +2,12 @@
 #include "companion/revision.h"
 
 #include "core/catalogo.h"
-#include "core/lineas.h"
-#include "core/notas.h"
+#include "core/notasremendadas.h"
 #include "core/remiendos.h"
-#include "core/repetidos.h"
 #include "core/rutas.h"
 
 #include "host/failure.h"
 #include "host/paths.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -31,29 +27,19 @@ QString ajustesRemendados(const QString &texto)
     return core::ConAjustesEnSuSitio(core::SinRetornosSueltos(texto));
 }
 
-// With an empty block for each system of the catalogue that has none.
-QString conBloques(QString texto, const core::Modulo &M)
+// The names of the catalogue's systems, as it is on the disk or repaired.
+QStringList nombresDelCatalogo(const core::Modulo &M)
 {
     const auto catalogo = core::CatalogoDe(TextoDelPrograma(M, u"Zembro.emu"_s));
-    for (int s = 0; s <= catalogo->Indice_Sistema; ++s) {
-        const QString sistema = core::Valor(catalogo->Cat_Nombre(s, 0), 1);
-        if (sistema.contains(u'\r'))
-            continue; // which no line that is written here holds
-        const std::vector<core::LineaConFin> lineas = core::EnLineas(texto);
-        if (std::ranges::none_of(
-                lineas, [&](const core::LineaConFin &linea) { return linea.linea == sistema; }))
-            texto = core::ConSistemaNuevo(texto, sistema);
-    }
-    return texto;
+    QStringList nombres;
+    for (int s = 0; s <= catalogo->Indice_Sistema; ++s)
+        nombres += core::Valor(catalogo->Cat_Nombre(s, 0), 1);
+    return nombres;
 }
 
 QString notasRemendadas(const QString &texto, const core::Modulo &M)
 {
-    const QStringList sistemas = SistemasConocidos(M);
-    const QString limpio = core::SinRetornosSueltos(texto);
-    const QString cerradas = core::ConNotasCerradas(core::ConMarcaDeNotas(limpio, sistemas), sistemas);
-    const QString conSeccion = core::ConCabeceraDeParametros(conBloques(cerradas, M), sistemas);
-    return core::SinRepetidos(core::ConParametrosCerrados(conSeccion), sistemas);
+    return core::NotasRemendadas(texto, nombresDelCatalogo(M), SistemasConocidos(M));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "core/clasedeprograma.h"
 #include "core/lineas.h"
 #include "core/notas.h"
+#include "core/notasremendadas.h"
 #include "core/remiendos.h"
 #include "core/repetidos.h"
 #include "core/romelegida.h"
@@ -98,10 +99,12 @@ private:
 
 class RevisorDeNotas {
 public:
-    RevisorDeNotas(const Sesion &sesion, const std::vector<core::LineaConFin> &lineas,
+    // The lines are views into the text.
+    RevisorDeNotas(const Sesion &sesion, const QString &texto, const std::vector<core::LineaConFin> &lineas,
         const QStringList &sistemas, Revision &revision)
         : M(sesion.M)
         , m_palabras(sesion.palabras)
+        , m_texto(texto)
         , m_lineas(lineas)
         , m_sistemas(sistemas)
         , m_parametros(cabeceraDeParametros(lineas))
@@ -111,7 +114,7 @@ public:
 
     void Sistema(const QString &sistema, size_t desde);
     void Ajenas();
-    void Parametros(const QString &texto);
+    void Parametros();
 
 private:
     void halla(const QString &clase, const QString &dicho, size_t indice)
@@ -124,6 +127,7 @@ private:
 
     const core::Modulo &M;
     const Palabras &m_palabras;
+    const QString &m_texto;
     const std::vector<core::LineaConFin> &m_lineas;
     const QStringList m_sistemas; // known ones
     const size_t m_parametros; // the index of their heading
@@ -177,18 +181,25 @@ void RevisorDeNotas::Sistema(const QString &sistema, size_t desde)
     }
 }
 
-// Blocks of notes that no system bears the name of.
+// Notes that no system's name stands above, and blocks of notes that no system bears the name of.
 void RevisorDeNotas::Ajenas()
 {
+    const std::vector<core::SinCierre> tramos = core::NotasSinNombre(m_texto, m_sistemas);
+    for (const core::SinCierre &tramo : tramos)
+        halla(u"notes-without-name"_s, m_palabras.Zbo_SinCabecera.arg(m_lineas[tramo.inicio].linea),
+            tramo.inicio);
     bool dentro = false;
     for (size_t i = 0; i < m_lineas.size(); ++i) {
         const QString linea = m_lineas[i].linea.toString();
         if (core::AcabaLosSistemas(m_lineas, i, m_sistemas) || i == m_parametros)
             return;
         const bool cabecera = m_sistemas.contains(linea);
-        if (!dentro && !cabecera && !linea.trimmed().isEmpty() && !linea.startsWith(u'\''))
+        const bool suelta = std::ranges::any_of(
+            tramos, [i](const core::SinCierre &tramo) { return i >= tramo.inicio && i < tramo.fin; });
+        if (!dentro && !suelta && !cabecera && !linea.trimmed().isEmpty() && !linea.startsWith(u'\''))
             halla(u"unknown-system"_s, m_palabras.Zbo_NotasAjenas.arg(linea), i);
-        dentro = (dentro && linea != u"'") || (!linea.trimmed().isEmpty() && !linea.startsWith(u'\''));
+        dentro =
+            (dentro && linea != u"'") || (!suelta && !linea.trimmed().isEmpty() && !linea.startsWith(u'\''));
     }
 }
 
@@ -221,7 +232,7 @@ void RevisorDeNotas::parametrosDe(const QStringList &campos, size_t indice)
     }
 }
 
-void RevisorDeNotas::Parametros(const QString &texto)
+void RevisorDeNotas::Parametros()
 {
     const size_t fin = core::FinDeLosParametros(m_lineas);
     for (size_t i = m_parametros + 1; i < fin; ++i) {
@@ -232,7 +243,7 @@ void RevisorDeNotas::Parametros(const QString &texto)
         if (!linea.isEmpty() && estaEntero(linea, registro, CamposDeParametros, i))
             parametrosDe(registro.campos, i);
     }
-    if (const std::optional<size_t> inicio = core::ParametrosSinCierre(texto))
+    if (const std::optional<size_t> inicio = core::ParametrosSinCierre(m_texto))
         halla(u"block-without-end"_s, m_palabras.Zbo_SinCierrePar, *inicio);
     else
         halla(u"missing-mark"_s, m_palabras.Zbo_SinSeccion, std::max<size_t>(m_lineas.size(), 1) - 1);
@@ -283,7 +294,7 @@ void RevisaNotas(Sesion &sesion, Revision &revision)
     for (const core::SinCierre &hueco : core::NotasSinCierre(texto, conocidos))
         revision.push_back({ u"block-without-end"_s, Fichero, static_cast<int>(hueco.inicio) + 1, {},
             sesion.palabras.Zbo_SinApostrofo.arg(lineas[hueco.inicio].linea) });
-    RevisorDeNotas revisor(sesion, lineas, conocidos, revision);
+    RevisorDeNotas revisor(sesion, texto, lineas, conocidos, revision);
     for (const QString &sistema : sistemasDe(sesion.M)) {
         const auto suya = std::ranges::find_if(
             lineas, [&](const core::LineaConFin &linea) { return linea.linea == sistema; });
@@ -299,7 +310,7 @@ void RevisaNotas(Sesion &sesion, Revision &revision)
         revision.push_back({ u"missing-mark"_s, Fichero,
             std::min(static_cast<int>(cabeceraDeParametros(lineas)) + 1, ultima), {},
             sesion.palabras.Zbo_SinMarcaNot });
-    revisor.Parametros(texto);
+    revisor.Parametros();
     Repetidos(sesion.palabras, texto, conocidos, revision);
 }
 

@@ -253,3 +253,32 @@ TEST_F(Mend, OfANameWithACarriageReturnWithinItComesToRest)
     Remienda();
     EXPECT_EQ(Bytes(u"Zembro.rom"_s), notas);
 }
+
+TEST_F(Mend, NotesWhoseNameIsGoneGetItBack_AndNoEmptyBlockBesideThem)
+{
+    const QByteArray enteras = Bytes(u"Zembro.rom"_s);
+    Cambia(u"Zembro.rom"_s, "Sis\r\n", "");
+    const Clases halladas = Halladas();
+    EXPECT_TRUE(halladas.remendables.contains(u"notes-without-name"_s))
+        << halladas.remendables.join(u' ').toStdString();
+    EXPECT_TRUE(halladas.remendables.contains(u"system-without-notes"_s));
+    EXPECT_THAT(halladas.otras, IsEmpty());
+    EXPECT_TRUE(
+        dicho().contains("Zembro.rom:1: These notes stand below no name of a system, so nothing reads "
+                         "them; put its name on a line of its own above them: "))
+        << dicho().toStdString();
+    Remienda();
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), enteras);
+}
+
+TEST_F(Mend, NotesWhoseNameIsGoneStayAsTheyAre_WhereTwoSystemsHaveNone)
+{
+    Pon(u"Zembro.sye"_s, "-Sis\r\n*.NES\r\n'\r\n+Uno\r\n'------\r\n-Other\r\n'------\r\n[EOF]\r\n");
+    Cambia(u"Zembro.rom"_s, "Sis\r\n", "");
+    const QByteArray antes = Bytes(u"Zembro.rom"_s);
+    const Clases halladas = Halladas();
+    EXPECT_TRUE(halladas.otras.contains(u"notes-without-name"_s));
+    EXPECT_TRUE(halladas.otras.contains(u"system-without-notes"_s));
+    Remienda();
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), antes);
+}

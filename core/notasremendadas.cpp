@@ -1,0 +1,127 @@
+#include "core/notasremendadas.h"
+
+#include "core/lineas.h"
+#include "core/notas.h"
+#include "core/repetidos.h"
+
+#include "host/textsource.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace core {
+
+namespace {
+
+// Each of them makes room for another at most: a line taken away lets what stood around it be seen as one.
+constexpr int PasadasDeRemiendo = 8;
+
+// A key, and a description that begins with double quotes; the name of a system may hold a comma too.
+bool esNotaEntera(QStringView linea)
+{
+    if (linea.count(u'"') % 2 != 0)
+        return false;
+    host::TextSource fuente(linea.toString());
+    if (fuente.atEnd() || fuente.readField().isEmpty() || fuente.atEnd())
+        return false;
+    const bool conComillas = fuente.rest().trimmed().startsWith(u'"');
+    fuente.readField();
+    return conComillas && fuente.atEnd();
+}
+
+// Systems without a block of their own.
+QStringList sinBloque(const QString &texto, const QStringList &sistemas)
+{
+    QSet<QString> lineas;
+    for (const LineaConFin &linea : EnLineas(texto))
+        lineas.insert(linea.linea.toString());
+    QStringList faltan;
+    for (const QString &sistema : sistemas) {
+        // A carriage return is in no line that is written.
+        if (!lineas.contains(sistema) && !sistema.contains(u'\r'))
+            faltan += sistema;
+    }
+    faltan.removeDuplicates();
+    return faltan;
+}
+
+QString conBloques(QString texto, const QStringList &sistemas)
+{
+    for (const QString &sistema : sinBloque(texto, sistemas))
+        texto = ConSistemaNuevo(texto, sistema);
+    return texto;
+}
+
+QString unaPasada(const QString &texto, const QStringList &delCatalogo, const QStringList &conocidos)
+{
+    const QString conNombre = ConNombreDeNotas(SinRetornosSueltos(texto), conocidos);
+    const QString cerradas = ConNotasCerradas(ConMarcaDeNotas(conNombre, conocidos), conocidos);
+    const QString conSeccion = ConCabeceraDeParametros(
+        NotasSinNombre(cerradas, conocidos).empty() ? conBloques(cerradas, delCatalogo) : cerradas,
+        conocidos);
+    return SinRepetidos(ConParametrosCerrados(conSeccion), conocidos);
+}
+
+} // namespace
+
+std::vector<SinCierre> NotasSinNombre(const QString &texto, const QStringList &sistemas)
+{
+    const QSet<QString> nombres(sistemas.begin(), sistemas.end());
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    std::vector<SinCierre> tramos;
+    bool dentro = false; // of a block, whoever's
+    bool suelto = false;
+    for (size_t i = 0; i < lineas.size(); ++i) {
+        const QStringView linea = lineas[i].linea;
+        if (AcabaLosSistemas(lineas, i, sistemas) || linea.startsWith(CabeceraParametros))
+            break;
+        const bool cabecera = nombres.contains(linea.toString());
+        if (cabecera || linea.startsWith(u'\'')) {
+            dentro = cabecera || (dentro && linea != u"'");
+            suelto = suelto && !cabecera && linea != u"'";
+        } else if (suelto && !linea.isEmpty()) {
+            tramos.back().fin = i + 1;
+        } else if (!dentro && !linea.isEmpty()) {
+            suelto = esNotaEntera(linea);
+            dentro = !suelto;
+            if (suelto)
+                tramos.push_back({ i, i + 1 });
+        }
+    }
+    return tramos;
+}
+
+QString ConNombreDeNotas(const QString &texto, const QStringList &sistemas)
+{
+    const std::vector<SinCierre> tramos = NotasSinNombre(texto, sistemas);
+    const QStringList faltan = sinBloque(texto, sistemas);
+    if (tramos.size() != 1 || faltan.size() != 1)
+        return texto;
+    const std::vector<LineaConFin> lineas = EnLineas(texto);
+    const auto principio = lineas.begin() + std::ptrdiff_t(tramos.front().inicio);
+    const auto final = lineas.begin() + std::ptrdiff_t(tramos.front().fin);
+    if (!std::all_of(principio, final,
+            [](const LineaConFin &linea) { return linea.linea.isEmpty() || esNotaEntera(linea.linea); }))
+        return texto;
+    Copia copia;
+    copia.Copiar(lineas, 0, tramos.front().inicio);
+    copia.Nueva(faltan.front());
+    copia.Copiar(lineas, tramos.front().inicio, lineas.size());
+    return copia.Texto();
+}
+
+QString NotasRemendadas(const QString &texto, const QStringList &delCatalogo, const QStringList &conocidos)
+{
+    QString remendado = texto;
+    for (int pasada = 0; pasada < PasadasDeRemiendo; ++pasada) {
+        const QString antes = std::exchange(remendado, unaPasada(remendado, delCatalogo, conocidos));
+        if (antes == remendado)
+            break;
+    }
+    return remendado;
+}
+
+} // namespace core

@@ -1,0 +1,179 @@
+// All repairs of the notes in one: whose name is gone, and what thousands of mangled files come to.
+#include "core/notasremendadas.h"
+
+#include "core/lineas.h"
+
+#include "host/letters.h"
+#include "host/textsource.h"
+
+#include <QSet>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype CamposDeParametros = 4;
+const QStringList Configurados { u"Alfa"_s, u"Beta"_s };
+const QStringList Conocidos { u"Alfa"_s, u"Beta"_s, u"Gamma, the third"_s };
+const QString Enteras =
+    u"' head\r\n' of two lines\r\n"
+    "Alfa\r\nGAME.BIN,\"A game\"\r\n\"B, C.BIN\",\"B and C\"\r\n'\r\n"
+    "Beta\r\n[X] ONE.ZIP,\"One\"\r\nTWO,\"It's two, you see\"\r\n'\r\n'----\r\n"
+    "Gamma, the third\r\nLAST.BIN,\"The last\"\r\n'\r\n"
+    "[EOF]\r\nParametros especificos\r\nGAME.BIN,Alfa,One,-a\r\nTWO,Beta,Two,-b -c\r\n'\r\n"
+    "fin\r\nfin,\"fin\"\r\n"_s;
+
+QString sin(const QString &lineas)
+{
+    EXPECT_TRUE(Enteras.contains(lineas));
+    return QString(Enteras).replace(lineas, QString());
+}
+
+QString remendadas(const QString &texto)
+{
+    return core::NotasRemendadas(texto, Configurados, Conocidos);
+}
+
+// What each line with anything to say says: its fields, the first one whichever its case; of a line that is
+// no record the line. Returns at its end aren't its own.
+QSet<QString> loDicho(const QString &texto)
+{
+    QSet<QString> dicho;
+    const QString sinRetornos = core::SinRetornosSueltos(texto);
+    for (const core::LineaConFin &linea : core::EnLineas(sinRetornos)) {
+        const QString entera = linea.linea.toString();
+        if (entera.isEmpty())
+            continue;
+        if (entera.count(u'"') % 2 != 0 || !entera.contains(u',')) {
+            dicho.insert(entera);
+            continue;
+        }
+        host::TextSource fuente(entera);
+        QStringList campos;
+        while (!fuente.atEnd())
+            campos += fuente.readField();
+        for (qsizetype i = 0; i < (campos.size() == CamposDeParametros ? 3 : 1); ++i)
+            campos[i] = host::upper(campos[i]);
+        dicho.insert(campos.join(u'\n'));
+    }
+    return dicho;
+}
+
+class Destrozo {
+public:
+    explicit Destrozo(unsigned semilla)
+        : m_azar(semilla)
+    {
+    }
+
+    QString De(const QString &texto)
+    {
+        QString roto = texto;
+        for (int veces = uno(4); veces >= 0; --veces)
+            roto = unGolpe(roto);
+        return roto;
+    }
+
+private:
+    int uno(qsizetype hasta)
+    {
+        return static_cast<int>(m_azar() % static_cast<unsigned>(std::max<qsizetype>(hasta, 1)));
+    }
+
+    QString unGolpe(const QString &texto)
+    {
+        const QString sueltos[] = { u"'"_s, u"\""_s, u","_s, u"["_s, u"\r"_s, u"\r\n"_s, u"\n"_s, u" "_s,
+            u"x"_s, u"'\r\n"_s };
+        QStringList lineas = texto.split(u'\n');
+        const qsizetype donde = uno(lineas.size());
+        const qsizetype otra = uno(lineas.size());
+        switch (uno(8)) {
+        case 0:
+            return texto.first(uno(texto.size()));
+        case 1:
+            return QString(texto).remove(uno(texto.size()), 1 + uno(3));
+        case 2:
+            return QString(texto).insert(uno(texto.size()), sueltos[uno(std::size(sueltos))]);
+        case 3:
+        case 4:
+            lineas.removeAt(donde);
+            break;
+        case 5:
+            lineas.insert(donde, lineas[otra]);
+            break;
+        case 6:
+            lineas.swapItemsAt(donde, otra);
+            break;
+        default:
+            lineas[donde] = host::lower(lineas[donde]);
+        }
+        return lineas.join(u'\n');
+    }
+
+    std::mt19937 m_azar;
+};
+
+} // namespace
+
+TEST(AllMendedNotes, GetTheNameBackThatStoodAboveThem)
+{
+    EXPECT_EQ(remendadas(Enteras), Enteras);
+    for (const QString &nombre : Conocidos)
+        EXPECT_EQ(remendadas(sin(nombre + u"\r\n"_s)), Enteras) << nombre.toStdString();
+    // With the apostrophe behind them.
+    EXPECT_EQ(remendadas(sin(u"Beta\r\n"_s).replace(u"see\"\r\n'\r\n"_s, u"see\"\r\n"_s)), Enteras);
+}
+
+TEST(AllMendedNotes, StayWithoutAName_AndNoEmptyBlockTakesTheirPlace_WhereSeveralWouldDo)
+{
+    const QString dosFaltan =
+        sin(u"Beta\r\n"_s).replace(u"Gamma, the third\r\nLAST.BIN,\"The last\"\r\n'\r\n"_s, QString());
+    const QString sinDos = sin(u"Beta\r\n"_s).replace(u"Alfa\r\n"_s, QString());
+    const QString conOtraCosa = sin(u"Beta\r\n"_s).replace(u"TWO,\""_s, u"TWO\""_s);
+    for (const QString &texto : { dosFaltan, sinDos, conOtraCosa })
+        EXPECT_EQ(remendadas(texto), texto);
+    EXPECT_EQ(core::NotasSinNombre(sinDos, Conocidos).size(), 2u);
+    // An unknown system's block is its own, and so is what stands ahead of all of them.
+    EXPECT_TRUE(
+        core::NotasSinNombre(QString(Enteras).replace(u"Gamma, the third"_s, u"Delta"_s), Conocidos).empty());
+}
+
+TEST(AllMendedNotes, GetAnEmptyBlockWhereTheirsIsGoneAltogether)
+{
+    EXPECT_EQ(remendadas(sin(u"Alfa\r\nGAME.BIN,\"A game\"\r\n\"B, C.BIN\",\"B and C\"\r\n'\r\n"_s)),
+        sin(u"Alfa\r\nGAME.BIN,\"A game\"\r\n\"B, C.BIN\",\"B and C\"\r\n'\r\n"_s)
+            .replace(u"[EOF]"_s, u"Alfa\r\n'\r\n[EOF]"_s));
+}
+
+// What stands for a closing line in the middle of another one lets itself be seen when that is gone.
+TEST(AllMendedNotes, ComeToRestWhereOneRepairMakesRoomForAnother)
+{
+    const QString roto = QString(Enteras)
+                             .replace(u"-b -c\r\n'\r\n"_s, u"-b -c\r'\r\n"_s)
+                             .replace(u"fin,"_s, u"GAME.BIN,Alfa,One,-a\r\nfin,"_s);
+    const QString sano = remendadas(roto);
+    EXPECT_TRUE(sano.contains(u"-b -c\r'\r\n'\r\nfin\r\nfin,"_s)) << sano.toStdString();
+    EXPECT_EQ(remendadas(sano), sano);
+}
+
+TEST(AllMendedNotes, HowEverMangledComeToRestAtOnce_AndLoseNothingThatTheySaid)
+{
+    Destrozo destrozo(20260501);
+    int cambiados = 0;
+    for (int i = 0; i < 4'000; ++i) {
+        const QString roto = destrozo.De(Enteras);
+        const QString sano = remendadas(roto);
+        cambiados += sano != roto;
+        ASSERT_EQ(remendadas(sano), sano) << i << '\n' << roto.toStdString();
+        const QSet<QString> falta = loDicho(roto) - loDicho(sano);
+        ASSERT_TRUE(falta.isEmpty()) << i << '\n'
+                                     << roto.toStdString() << "\n--- lost ---\n"
+                                     << QStringList(falta.begin(), falta.end()).join(u" | "_s).toStdString();
+    }
+    EXPECT_GT(cambiados, 1'500);
+}
