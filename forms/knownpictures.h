@@ -12,6 +12,10 @@
 #include <optional>
 #include <vector>
 
+namespace host {
+class LengthsIn;
+}
+
 namespace forms {
 
 // Thousands of pictures need not be decoded again only to tell that they can be, while their files stay as
@@ -21,8 +25,9 @@ public:
     KnownPictures();
 
     // Fails as LoadPicture does with one of these paths, which all begin as the directory does, if any of
-    // them can't be loaded. Whatever doesn't fit into a frame is decoded while the program is idle,
-    // and cantLoad is called once if one of those can't be loaded, unless another check began before.
+    // them can't be loaded. What doesn't fit into a frame is decoded while the program is idle, and not even
+    // looked at before where the directory's listing has it as a file; cantLoad is called once if one of
+    // those can't be loaded, unless another check began before.
     void Check(const QString &directory, const QStringList &paths, std::function<void()> cantLoad);
 
 private:
@@ -31,10 +36,16 @@ private:
         std::optional<host::FileState> state; // none: it isn't known again
     };
 
+    static std::vector<Picture> lookAt(const host::LengthsIn &directory, const QStringList &paths);
+    std::vector<Picture> lookAtSome(const host::LengthsIn &directory);
+    bool isKnown(const Picture &picture) const;
     bool isLoadable(const Picture &picture);
+    bool areSomeLoadable();
     void checkMore();
 
     QHash<host::FileState, bool> m_loadable;
+    QString m_directory;
+    QStringList m_unseen; // listed there
     std::vector<Picture> m_putOff; // in no order
     QTimer m_idle;
     std::function<void()> m_cantLoad;

@@ -192,6 +192,46 @@ TEST_F(PicturesPutOff, ThatCanBeLoadedAreToldNoMore)
     EXPECT_EQ(toldLater, 0);
 }
 
+// So many that they aren't even looked at.
+class ThousandsOfPictures : public PicturesPutOff {
+protected:
+    ThousandsOfPictures()
+    {
+        for (int i = 0; i < 1000; ++i)
+            paths << write(u"more %1.gif"_s.arg(i), redGif);
+    }
+};
+
+TEST_F(ThousandsOfPictures, AreLookedAtWhileIdle)
+{
+    const QString text = writeSettled(u"text.gif"_s, "no picture");
+    EXPECT_EQ(checkFails({ text }), 481);
+    paths << text;
+    EXPECT_EQ(checkFails(paths), 0) << "was seen to be the one known";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return toldLater > 0; }));
+    QTest::qWait(50);
+    EXPECT_EQ(toldLater, 1);
+}
+
+TEST_F(ThousandsOfPictures, AreMissedWhereOneGoesMeanwhile)
+{
+    EXPECT_EQ(checkFails(paths), 0);
+    EXPECT_TRUE(QFile::remove(paths.back()));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return toldLater > 0; }));
+    EXPECT_EQ(checkFails(paths), 53);
+    QTest::qWait(50);
+    EXPECT_EQ(toldLater, 1);
+}
+
+TEST_F(ThousandsOfPictures, AreAllDecodedInTheEnd)
+{
+    const OpensOf opens(paths.back());
+    EXPECT_EQ(checkFails(paths), 0);
+    EXPECT_EQ(opens.count(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return opens.count() > 0; }));
+    EXPECT_EQ(toldLater, 0);
+}
+
 TEST_F(PicturesKnown, AFewAreDecodedAtOnceHoweverSlow)
 {
     const QString slow = write(u"slow.gif"_s, slowPng());
