@@ -182,9 +182,22 @@ TEST_F(VentanaTest, TipComesOnlyWhileNoButtonIsHeld)
     QWidget &tip = control(u"IMGDescripcionLarga"_s);
     QList<Qt::MouseButtons> held;
     const Witness shown(tip, QEvent::Show, [&] { held << QGuiApplication::mouseButtons(); });
-    input(at(*list().viewport(), row(1)) + u" mousedown 1 "_s + at(*list().viewport(), row(2)));
-    input(at(*list().viewport(), row(2) + QPoint(4, 0)) + u" mouseup 1 "_s
-        + at(*list().viewport(), row(2) + QPoint(9, 0)));
+    // One by one: a pointer that is moved in the same breath overtakes the button that is let go.
+    QWidget &rows = *list().viewport();
+    bool pressed = false;
+    bool moved = false;
+    bool released = false;
+    const Witness press(rows, QEvent::MouseButtonPress, [&] { pressed = true; });
+    const Witness move(rows, QEvent::MouseMove, [&] { moved = moved || pressed; });
+    const Witness release(rows, QEvent::MouseButtonRelease, [&] { released = true; });
+    input(at(rows, row(1)) + u" mousedown 1"_s);
+    ASSERT_TRUE(comes([&] { return pressed; }));
+    input(at(rows, row(2)));
+    ASSERT_TRUE(comes([&] { return moved; }));
+    input(u"mouseup 1"_s);
+    ASSERT_TRUE(comes([&] { return released; }));
+    EXPECT_THAT(held, testing::IsEmpty());
+    input(at(rows, row(2) + QPoint(9, 0)));
     EXPECT_TRUE(comes([&] { return tip.isVisible(); }));
     EXPECT_THAT(held, testing::ElementsAre(Qt::MouseButtons(Qt::NoButton)));
     EXPECT_EQ(list().ListIndex(), 1);
