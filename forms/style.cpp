@@ -24,10 +24,14 @@ QStyleOptionViewItem shownRow(const QStyleOptionViewItem &row)
     return shown;
 }
 
-// The line may be thinner than the frame that it is drawn on.
-void fillUnderEdge(QPainter &painter, const QStyleOption &option, int width)
+// The line may be thinner than the frame that it is drawn on. Where the area within isn't opaque, what it
+// leaves bare is seen too.
+void fillUnderEdge(QPainter &painter, const QStyleOption &option, const QAbstractScrollArea &area)
 {
-    const QRegion edge = QRegion(option.rect) - option.rect.adjusted(width, width, -width, -width);
+    const int width = area.frameWidth();
+    QRegion edge(option.rect);
+    if (area.viewport()->autoFillBackground())
+        edge -= option.rect.adjusted(width, width, -width, -width);
     for (const QRect &side : edge)
         painter.fillRect(side, option.palette.brush(QPalette::Base));
 }
@@ -134,7 +138,7 @@ void Style::drawPrimitive(
     }
     case PE_Frame:
         if (const auto *area = qobject_cast<const QAbstractScrollArea *>(widget))
-            fillUnderEdge(*painter, *option, area->frameWidth());
+            fillUnderEdge(*painter, *option, *area);
         return drawEdge(*painter, *option);
     case PE_FrameLineEdit:
         return drawEdge(*painter, *option);

@@ -1,15 +1,57 @@
 #include "forms/wholeframes.h"
 
 #include <QApplication>
-#include <QEvent>
+#include <QBackingStore>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QScopeGuard>
 #include <QTimer>
 #include <QWidget>
+#include <QWindow>
 
 #include <cmath>
 #include <utility>
 
 namespace forms {
+
+namespace {
+
+constexpr auto Ground = "paintsGround";
+
+bool isWhole(double factor)
+{
+    return factor == std::floor(factor);
+}
+
+void makeTransparent(QWidget &control)
+{
+    control.setAttribute(Qt::WA_OpaquePaintEvent, false);
+    if (!control.autoFillBackground())
+        return;
+    control.setProperty(Ground, true);
+    control.setAutoFillBackground(false);
+}
+
+void paintGround(QWidget &control)
+{
+    QPainter(&control).fillRect(control.rect(), control.palette().brush(control.backgroundRole()));
+}
+
+// Another image of the same pixels: the one on which the toolkit paints is clipped while it does.
+void lengthenEdgesOf(const QWidget &window)
+{
+    QBackingStore *store = window.backingStore();
+    if (!store || !window.windowHandle()->isExposed())
+        return;
+    auto *painted = dynamic_cast<QImage *>(store->paintDevice());
+    if (!painted || painted->depth() != 32)
+        return;
+    QImage picture(
+        painted->bits(), painted->width(), painted->height(), painted->bytesPerLine(), painted->format());
+    lengthenEdges(picture, (QSizeF(window.size()) * painted->devicePixelRatio()).toSize());
+}
+
+} // namespace
 
 WholeFrames::WholeFrames(double factor)
     : m_factor(factor)
@@ -19,15 +61,39 @@ WholeFrames::WholeFrames(double factor)
 
 bool WholeFrames::eventFilter(QObject *receiver, QEvent *event)
 {
-    if (event->type() != QEvent::Paint || m_painting || !receiver->isWidgetType())
+    if (!receiver->isWidgetType())
         return false;
-    QWidget *window = static_cast<QWidget *>(receiver)->window();
-    if (!needsWholeFrames(window->devicePixelRatioF(), m_factor))
+    auto &widget = static_cast<QWidget &>(*receiver);
+    if (event->type() == QEvent::Polish && !isWhole(m_factor) && !widget.isWindow())
+        makeTransparent(widget);
+    return event->type() == QEvent::Paint && paint(widget, static_cast<QPaintEvent &>(*event));
+}
+
+bool WholeFrames::paint(QWidget &widget, QPaintEvent &event)
+{
+    if (widget.property(Ground).toBool())
+        paintGround(widget);
+    QWidget &window = *widget.window();
+    if (m_lengthening || !needsWholeFrames(window.devicePixelRatioF(), m_factor))
         return false;
+    if (!m_painting)
+        paintAgainLater(window);
+    if (&widget != &window)
+        return false;
+    {
+        m_lengthening = true;
+        const auto over = qScopeGuard([this] { m_lengthening = false; });
+        QCoreApplication::sendEvent(&window, &event);
+    }
+    lengthenEdgesOf(window);
+    return true;
+}
+
+void WholeFrames::paintAgainLater(QWidget &window)
+{
     if (m_parted.isEmpty())
         QTimer::singleShot(0, this, [this] { paintWhole(); });
-    m_parted.insert(window);
-    return false;
+    m_parted.insert(&window);
 }
 
 void WholeFrames::paintWhole()
@@ -45,7 +111,21 @@ void WholeFrames::paintWhole()
 bool needsWholeFrames(double ratio, double factor)
 {
     const double ofCompositor = factor > 0 ? std::round(ratio / factor) : 1;
-    return factor != std::floor(factor) && ofCompositor > 1;
+    return !isWhole(factor) && ofCompositor > 1;
+}
+
+void lengthenEdges(QImage &picture, const QSize &window)
+{
+    if (window.isEmpty())
+        return;
+    for (int x = window.width(); x < picture.width(); ++x) {
+        for (int y = 0; y < picture.height(); ++y)
+            picture.setPixel(x, y, picture.pixel(window.width() - 1, y));
+    }
+    for (int y = window.height(); y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            picture.setPixel(x, y, picture.pixel(x, window.height() - 1));
+    }
 }
 
 } // namespace forms

@@ -2,9 +2,12 @@
 
 #include "forms/form.h"
 #include "forms/label.h"
+#include "forms/listbox.h"
 #include "forms/wholeframes.h"
 
+#include <QImage>
 #include <QPaintEvent>
+#include <QScrollBar>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -19,12 +22,15 @@ public:
     explicit Painted(QWidget &window) { window.installEventFilter(this); }
 
     QRect last;
+    QRegion region;
 
 protected:
     bool eventFilter(QObject *, QEvent *event) override
     {
-        if (event->type() == QEvent::Paint)
+        if (event->type() == QEvent::Paint) {
             last = static_cast<QPaintEvent *>(event)->rect();
+            region = static_cast<QPaintEvent *>(event)->region();
+        }
         return false;
     }
 };
@@ -53,7 +59,86 @@ protected:
     forms::Label label;
 };
 
+// A list with a bar, on a form that is shown while frames of this factor are seen to.
+class ListOnAForm {
+public:
+    explicit ListOnAForm(double factor)
+        : frames(factor)
+        , form(u"form"_s, 3000, 3000, forms::Form::Border::None)
+        , list(&form, false)
+    {
+        list.setGeometry(20, 20, 100, 80);
+        for (int i = 0; i < 30; ++i)
+            list.AddItem(u"game"_s);
+        form.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&form));
+        QTest::qWait(50);
+    }
+
+    QRegion paintedOf(QWidget &widget)
+    {
+        const Painted painted(widget);
+        form.repaint();
+        return painted.region;
+    }
+
+    forms::WholeFrames frames;
+    forms::Form form;
+    forms::ListBox list;
+};
+
 } // namespace
+
+TEST(WholeFrames, LeaveNothingOutOfWhatLiesBelowAControlAtAFraction)
+{
+    for (const double factor : { 0.625, 1.25, 1.5 }) {
+        ListOnAForm on(factor);
+        EXPECT_EQ(on.paintedOf(on.form), QRegion(on.form.rect())) << factor;
+        EXPECT_EQ(on.paintedOf(on.list), QRegion(on.list.rect())) << factor;
+        QWidget &bar = *on.list.verticalScrollBar();
+        EXPECT_EQ(on.paintedOf(*bar.parentWidget()), QRegion(bar.parentWidget()->rect())) << factor;
+    }
+}
+
+TEST(WholeFrames, LeaveTheToolkitItsWayAtAWholeFactor)
+{
+    for (const double factor : { 0.0, 1.0, 2.0 }) {
+        ListOnAForm on(factor);
+        EXPECT_FALSE(on.paintedOf(on.form).contains(on.list.geometry().center())) << factor;
+        EXPECT_TRUE(on.list.viewport()->autoFillBackground()) << factor;
+    }
+}
+
+TEST(WholeFrames, GiveAControlItsGround)
+{
+    ListOnAForm on(1.5);
+    QPalette colours = on.list.palette();
+    colours.setColor(QPalette::Base, Qt::yellow);
+    on.list.setPalette(colours);
+    on.list.Clear();
+    EXPECT_EQ(drive::colourAt(on.list, on.list.rect().center()), QColor(Qt::yellow));
+    EXPECT_EQ(drive::colourAt(on.list, { 2, 2 }), QColor(Qt::yellow));
+}
+
+TEST(WholeFrames, ShowTheLastPixelsBeyondAWindowsEnd)
+{
+    QImage picture(4, 3, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    for (int x = 0; x < 3; ++x) {
+        picture.setPixelColor(x, 0, Qt::red);
+        picture.setPixelColor(x, 1, x == 2 ? Qt::green : Qt::blue);
+    }
+    forms::lengthenEdges(picture, { 3, 2 });
+    EXPECT_EQ(picture.pixelColor(3, 0), QColor(Qt::red));
+    EXPECT_EQ(picture.pixelColor(3, 1), QColor(Qt::green));
+    EXPECT_EQ(picture.pixelColor(0, 2), QColor(Qt::blue));
+    EXPECT_EQ(picture.pixelColor(3, 2), QColor(Qt::green));
+
+    const QImage whole = picture;
+    forms::lengthenEdges(picture, { 4, 3 });
+    forms::lengthenEdges(picture, { 5, 4 });
+    EXPECT_EQ(picture, whole);
+}
 
 TEST(WholeFrames, AreNeededAtAFractionOfAnEnlargement)
 {
