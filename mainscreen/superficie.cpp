@@ -16,6 +16,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QTimer>
 
 namespace mainscreen {
 
@@ -23,6 +24,7 @@ namespace {
 
 constexpr QRgb Amarillo = qRgb(255, 255, 0);
 constexpr QRgb Rojo = qRgb(255, 0, 0);
+constexpr int EsperaDelConsejo = 50; // milliseconds
 
 QPixmap hojaDelConsejo(const QWidget &consejo)
 {
@@ -127,19 +129,29 @@ void Portada::EscribeConsejo(const QString &texto)
     IMGDescripcionLarga->show();
     QPixmap hoja = hojaDelConsejo(*IMGDescripcionLarga);
     IMGDescripcionLarga->SetPicture(hoja);
+    const auto escribe = [this, elemento, &texto, &hoja] {
+        // A further move may have come meanwhile: what it left stands.
+        if (ElementoBajoRaton != elemento || IMGDescripcionLarga->isHidden())
+            return;
+        QPixmap escrita = hoja;
+        QPainter pluma(&escrita);
+        pluma.setFont(font());
+        pluma.setPen(Qt::black);
+        pluma.drawText(QPoint(0, fontMetrics().ascent()), texto);
+        pluma.end();
+        IMGDescripcionLarga->SetPicture(escrita);
+        IMGDescripcionLarga->show();
+    };
     // Moves that come faster than they are drawn would nest without end.
-    if (!forms::IsYielding())
+    if (!forms::IsYielding()) {
+        // A menu that opens meanwhile comes back when it is shut, and the tip lies open beside it.
+        QTimer mientras;
+        mientras.setSingleShot(true);
+        mientras.callOnTimeout(this, escribe);
+        mientras.start(EsperaDelConsejo);
         forms::DoEvents();
-    // A further move may have come meanwhile: what it left stands.
-    if (ElementoBajoRaton != elemento || IMGDescripcionLarga->isHidden())
-        return;
-    QPainter pluma(&hoja);
-    pluma.setFont(font());
-    pluma.setPen(Qt::black);
-    pluma.drawText(QPoint(0, fontMetrics().ascent()), texto);
-    pluma.end();
-    IMGDescripcionLarga->SetPicture(hoja);
-    IMGDescripcionLarga->show();
+    }
+    escribe();
 }
 
 void Portada::IMGDescripcionLarga_Click()

@@ -236,6 +236,28 @@ TEST_F(SuperficieTest, MoveHandledInTheYieldOfAnotherYieldsNoMore)
     EXPECT_TRUE(dark(tip().grab().toImage(), QRect(0, 0, 40, tip().height() - 1)));
 }
 
+TEST_F(SuperficieTest, TipIsWrittenWhileAMenuIsOpenThatOpenedInItsYield)
+{
+    startWithLongNames();
+    list().MouseMove.raise({ 0, 20 * 15, 5 * 15 });
+    const QImage once = tip().grab().toImage();
+    bool written = false;
+    QTimer::singleShot(0, portada.get(), [&] {
+        QTimer::singleShot(1000, portada->Menu_Lista1, &QWidget::close);
+        QTimer watch;
+        watch.callOnTimeout([&] {
+            written = dark(tip().grab().toImage(), QRect(0, 0, 40, tip().height() - 1));
+            if (written)
+                portada->Menu_Lista1->close();
+        });
+        watch.start(10);
+        portada->Menu_Lista1->Popup();
+    });
+    list().MouseMove.raise({ 0, 20 * 15, 5 * 15 });
+    EXPECT_TRUE(written);
+    EXPECT_EQ(tip().grab().toImage(), once);
+}
+
 TEST_F(SuperficieTest, FloodOfMovesDoesNotPileUp)
 {
     constexpr int Moves = 30'000;
