@@ -8,6 +8,7 @@
 #include "host/paths.h"
 
 #include <algorithm>
+#include <array>
 #include <ranges>
 #include <utility>
 
@@ -41,9 +42,14 @@ public:
     {
         const QByteArray enlace = m_enlaces + '/' + nombre;
         const QByteArray aqui = m_lugar + '/' + nombre;
-        return symlink(fichero.constData(), enlace.constData()) == 0
-            && (linkat(AT_FDCWD, enlace.constData(), AT_FDCWD, aqui.constData(), 0) == 0
-                || symlink(fichero.constData(), aqui.constData()) == 0);
+        if (symlink(fichero.constData(), enlace.constData()) != 0)
+            return false;
+        ponSuHora(fichero, enlace);
+        if (linkat(AT_FDCWD, enlace.constData(), AT_FDCWD, aqui.constData(), 0) == 0)
+            return true;
+        const bool hecho = symlink(fichero.constData(), aqui.constData()) == 0;
+        ponSuHora(fichero, aqui);
+        return hecho;
     }
     void EnsenaLoGuardado(const QByteArray &casa, const UnidadesDOS::Apodo &apodo) const
     {
@@ -78,6 +84,15 @@ public:
     }
 
 private:
+    // By that it is known whether somebody has changed the file meanwhile.
+    static void ponSuHora(const QByteArray &fichero, const QByteArray &enlace)
+    {
+        struct stat estado;
+        if (stat(fichero.constData(), &estado) != 0)
+            return;
+        const std::array<timespec, 2> tiempos { estado.st_mtim, estado.st_mtim };
+        utimensat(AT_FDCWD, enlace.constData(), tiempos.data(), AT_SYMLINK_NOFOLLOW);
+    }
     // What was renamed then leads to bytes at home that this run may replace. False if it has to wait there,
     // and all the rest with it.
     bool separaRenombrados(const QByteArray &deEntonces, const Mostrado &mostrado) const
@@ -99,7 +114,7 @@ private:
         if (!estado || !enlace)
             return estado.has_value();
         return S_ISREG(estado->st_mode) && S_ISLNK(enlace->st_mode) && stat(aqui.constData(), &enCasa) == 0
-            && S_ISREG(enCasa.st_mode) && Mostrado(m_enlaces).Tiene(nombre)
+            && S_ISREG(enCasa.st_mode) && Mostrado(m_enlaces).Propio(nombre)
             && std::pair(enCasa.st_mtim.tv_sec, enCasa.st_mtim.tv_nsec)
             <= std::pair(estado->st_mtim.tv_sec, estado->st_mtim.tv_nsec);
     }

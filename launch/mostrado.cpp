@@ -43,6 +43,13 @@ bool esElMismo(const std::optional<struct stat> &uno, const std::optional<struct
     return uno && otro && uno->st_dev == otro->st_dev && uno->st_ino == otro->st_ino;
 }
 
+// Of two links to one file: each that the game was shown has the time of its file.
+bool sonDeLaMismaHora(const std::optional<struct stat> &uno, const std::optional<struct stat> &otro)
+{
+    return uno && otro && S_ISLNK(uno->st_mode) && S_ISLNK(otro->st_mode)
+        && uno->st_mtim.tv_sec == otro->st_mtim.tv_sec && uno->st_mtim.tv_nsec == otro->st_mtim.tv_nsec;
+}
+
 // Puts a copy in the place of the link, whole or not at all, of the time at which the game renamed it: what
 // stands at home counts as newer only if somebody changed it after that.
 bool copiaEnSuSitio(const QByteArray &fichero, const QByteArray &enlace, const timespec &cuando)
@@ -72,6 +79,7 @@ public:
         : m_mostrado(mostrado)
         , m_lugar(lugar)
         , m_entradas(EntradasDe(lugar))
+        , m_deUnNombre(std::ranges::none_of(mostrado.Enlaces(), conDosNombres))
         , m_vueltos(vueltos)
     {
     }
@@ -108,18 +116,28 @@ private:
             const Mostrado::Enlace *enlace = m_mostrado.Renombrado(ruta, false);
             if (estado && S_ISDIR(estado->st_mode))
                 enCasa(ruta);
-            else if (enlace && esElMismo(estado, EstadoDe(enlace->ruta)))
+            else if (enlace && esSuyo(estado, *enlace))
                 guarda(ruta, *estado, *enlace, ruta);
         }
     }
-    // A link that has gone from the drive, and lies elsewhere under its second name.
+    static bool conDosNombres(const Mostrado::Enlace &enlace)
+    {
+        const auto estado = EstadoDe(enlace.ruta);
+        return estado && estado->st_nlink > 1;
+    }
+    // A link that has gone from the drive, and lies elsewhere under its second name; or may, if the disk
+    // gives a link no second one.
     bool faltaAlguno() const
     {
-        return std::ranges::any_of(m_mostrado.Enlaces(), [this](const Mostrado::Enlace &enlace) {
-            const auto estado = EstadoDe(enlace.ruta);
-            return estado && estado->st_nlink > 1
-                && !esElMismo(estado, EstadoDe(m_lugar + '/' + enlace.nombre));
+        return std::ranges::any_of(m_mostrado.Enlaces(), [&](const Mostrado::Enlace &enlace) {
+            return (m_deUnNombre || conDosNombres(enlace))
+                && !esSuyo(EstadoDe(m_lugar + '/' + enlace.nombre), enlace);
         });
+    }
+    bool esSuyo(const std::optional<struct stat> &estado, const Mostrado::Enlace &enlace) const
+    {
+        const auto suyo = EstadoDe(enlace.ruta);
+        return esElMismo(estado, suyo) || (m_deUnNombre && sonDeLaMismaHora(estado, suyo));
     }
     // `nuevo`: where it would lie at home; empty for a directory that isn't there yet.
     void guarda(const QByteArray &ruta, const struct stat &estado, const Mostrado::Enlace &enlace,
@@ -163,6 +181,7 @@ private:
     const Mostrado &m_mostrado;
     const QByteArray m_lugar;
     const QByteArrayList m_entradas;
+    const bool m_deUnNombre;
     QStringList &m_vueltos;
     bool m_bien = true;
 };
@@ -171,7 +190,7 @@ private:
 
 QByteArray PrefijoEnCasa(const QByteArray &juego)
 {
-    return juego + " - ";
+    return QByteArray(juego).replace('\\', '_') + " - "; // which would be taken for a separator
 }
 
 bool SeLlamaIgual(const QByteArray &nombre, const QByteArray &otro)
@@ -205,7 +224,10 @@ Mostrado::Mostrado(const QByteArray &enlaces)
             continue;
         m_casa = destino.first(corte);
         m_esta = m_esta || EstadoDe(destino);
-        m_enlaces.insert(destino, { nombre, ruta, mismoNombre(nombreDe(destino), nombre) });
+        const auto estado = EstadoDe(ruta);
+        m_enlaces.insert(destino,
+            { estado ? estado->st_mtim : timespec(), nombre, ruta, destino,
+                mismoNombre(nombreDe(destino), nombre) });
     }
     // Under made-up names there are the game, and what begins with its name at home.
     const auto esDe = [&](const QByteArray &destino, const Enlace &enlace, const QByteArray &juego) {
@@ -227,21 +249,11 @@ Mostrado::Mostrado(const QByteArray &enlaces)
     }
 }
 
-bool Mostrado::Tiene(const QByteArray &nombre) const
+const Mostrado::Enlace *Mostrado::Propio(const QByteArray &nombre) const
 {
-    return propioDe(nombre, nullptr) != nullptr;
-}
-
-const Mostrado::Enlace *Mostrado::propioDe(const QByteArray &nombre, QByteArray *destino) const
-{
-    for (auto uno = m_enlaces.begin(); uno != m_enlaces.end(); ++uno) {
-        if (!uno->propio || !mismoNombre(uno->nombre, nombre))
-            continue;
-        if (destino)
-            *destino = uno.key();
-        return &*uno;
-    }
-    return nullptr;
+    const auto suyo = std::ranges::find_if(
+        m_enlaces, [&](const Enlace &enlace) { return enlace.propio && mismoNombre(enlace.nombre, nombre); });
+    return suyo == m_enlaces.end() ? nullptr : &*suyo;
 }
 
 Mostrado::Nombre Mostrado::EnCasa(const QByteArray &nombre) const
@@ -250,9 +262,8 @@ Mostrado::Nombre Mostrado::EnCasa(const QByteArray &nombre) const
         m_juego.isEmpty() || SeLlamaIgual(nombre, m_apodo) ? QByteArray() : PrefijoEnCasa(m_juego);
     if (prefijo.size() + nombre.size() > NAME_MAX)
         prefijo.clear();
-    QByteArray destino;
-    if (propioDe(nombre, &destino))
-        return { nombreDe(destino), prefijo.size() };
+    if (const Enlace *enlace = Propio(nombre))
+        return { nombreDe(enlace->destino), prefijo.size() };
     return { prefijo + nombre, prefijo.size() };
 }
 

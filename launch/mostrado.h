@@ -36,9 +36,6 @@ public:
     const QByteArray &Casa() const { return m_casa; }
     // A disk that isn't there now leaves an empty directory in its place.
     bool EstaEnCasa() const { return m_esta; }
-    // Whether the game saw a file of its own under this name: not the one of the game, whose name there is
-    // made up.
-    bool Tiene(const QByteArray &nombre) const;
     // What a file of this name is called at home, and where the game's name begins in that.
     struct Nombre {
         QByteArray nombre;
@@ -47,19 +44,23 @@ public:
     Nombre EnCasa(const QByteArray &nombre) const;
 
     struct Enlace {
+        timespec visto; // the time that the file had then
         QByteArray nombre; // that it was shown under
         QByteArray ruta; // of the link of the beginning
+        QByteArray destino;
         bool propio = false; // the game's own, by the name that it has at home too, or the end of that
     };
     const QHash<QByteArray, Enlace> &Enlaces() const { return m_enlaces; } // by what they lead to
+
+    // The file of its own that the game saw under this name; null also for that of the game, whose name there
+    // is made up.
+    const Enlace *Propio(const QByteArray &nombre) const;
 
     // What a link was shown as that has another name now or, not `deArriba`, lies in a directory; null for
     // any other entry.
     const Enlace *Renombrado(const QByteArray &ruta, bool deArriba) const;
 
 private:
-    const Enlace *propioDe(const QByteArray &nombre, QByteArray *destino) const;
-
     QByteArray m_casa;
     QByteArray m_juego; // its file; empty if it isn't known
     QByteArray m_apodo; // that it was shown under

@@ -18,6 +18,9 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
 #include <utility>
 
 #include <fcntl.h>
@@ -31,6 +34,7 @@ namespace launch {
 
 namespace {
 
+const QString Borrador = u"Zembro.tmp"_s;
 const QString Prefijo = u"ZB-DOS-"_s; // and the process, and a number
 constexpr char Dicho[] = "/told-"; // and the drive's letter
 
@@ -42,6 +46,14 @@ void borraEnlaces(const QByteArray &lugar, const std::function<bool(const QByteA
         if (estado && S_ISLNK(estado->st_mode) && (!seVa || seVa(ruta)))
             unlink(ruta.constData());
     }
+}
+
+// "NINO-2.SAV".
+QString conNumero(const QString &nombre, qsizetype desde, int numero)
+{
+    const qsizetype punto = nombre.indexOf(u'.', desde);
+    const qsizetype fin = punto < 0 ? nombre.size() : punto;
+    return nombre.first(fin) + u'-' + QString::number(numero) + nombre.sliced(fin);
 }
 
 // Carries what was saved, a directory after the other.
@@ -67,17 +79,22 @@ public:
 
 private:
     static QByteArray nombreDe(const QByteArray &ruta) { return ruta.sliced(ruta.lastIndexOf('/') + 1); }
-    static std::optional<EnCasa> enCasa(
-        const QString &ruta, const QByteArray &guardado, const struct stat &suyo)
+    static std::pair<time_t, long> hora(const timespec &tiempo) { return { tiempo.tv_sec, tiempo.tv_nsec }; }
+    // Of the user's own links what they lead to; one that leads nowhere now stays.
+    static std::optional<EnCasa> enCasa(const QString &ruta, const QByteArray &guardado,
+        const struct stat &suyo, const Mostrado::Enlace *mostrado)
     {
         const QByteArray alli = host::findOnDisk(ruta);
-        const auto estado = EstadoDe(alli);
-        if (alli.isEmpty() || !estado)
+        if (alli.isEmpty() || !EstadoDe(alli))
             return std::nullopt;
-        EnCasa esto { host::nameFromDisk(nombreDe(alli)), S_ISDIR(estado->st_mode), false, false };
-        esto.masNuevo = std::pair(estado->st_mtim.tv_sec, estado->st_mtim.tv_nsec)
-            > std::pair(suyo.st_mtim.tv_sec, suyo.st_mtim.tv_nsec);
-        if (S_ISREG(estado->st_mode) && S_ISREG(suyo.st_mode) && estado->st_size == suyo.st_size)
+        EnCasa esto { host::nameFromDisk(nombreDe(alli)), false, false, true };
+        struct stat estado;
+        if (stat(alli.constData(), &estado) != 0)
+            return esto;
+        esto.directorio = S_ISDIR(estado.st_mode);
+        esto.masNuevo = hora(estado.st_mtim) > hora(suyo.st_mtim);
+        esto.cambiado = mostrado && hora(estado.st_mtim) != hora(mostrado->visto);
+        if (S_ISREG(estado.st_mode) && S_ISREG(suyo.st_mode) && estado.st_size == suyo.st_size)
             Intenta([&] {
                 esto.igual = host::readBytes(host::nameFromDisk(alli))
                     == host::readBytes(host::nameFromDisk(guardado));
@@ -85,23 +102,24 @@ private:
         return esto;
     }
     Vuelta vueltaDe(const QByteArray &guardado, const struct stat &estado, const QString &a,
-        const Mostrado::Nombre &suyo, bool mostrado) const
+        const Mostrado::Nombre &suyo, const Mostrado::Enlace *mostrado) const
     {
         return VueltaDe(
-            host::nameFromDisk(suyo.nombre), S_ISDIR(estado.st_mode), mostrado,
-            [&](const QString &nombre) { return enCasa(a + u'/' + nombre, guardado, estado); },
+            host::nameFromDisk(suyo.nombre), S_ISDIR(estado.st_mode), mostrado != nullptr,
+            [&](const QString &nombre) { return enCasa(a + u'/' + nombre, guardado, estado, mostrado); },
             host::nameFromDisk(suyo.nombre.first(suyo.desde)).size());
     }
     void llevaFichero(
         const QByteArray &guardado, const struct stat &estado, const QString &a, bool deArriba) const
     {
         const QByteArray nombre = nombreDe(guardado);
-        const Vuelta vuelta =
-            vueltaDe(guardado, estado, a, deArriba ? m_mostrado.EnCasa(nombre) : Mostrado::Nombre { nombre },
-                deArriba && m_mostrado.Tiene(nombre));
+        const Mostrado::Nombre suyo = deArriba ? m_mostrado.EnCasa(nombre) : Mostrado::Nombre { nombre };
+        Vuelta vuelta = vueltaDe(guardado, estado, a, suyo, deArriba ? m_mostrado.Propio(nombre) : nullptr);
+        if (vuelta.aparta && !aparta(a, vuelta.nombre, suyo))
+            vuelta = vueltaDe(guardado, estado, a, suyo, nullptr);
         const QString destino = a + u'/' + vuelta.nombre;
         if (vuelta.escribe) {
-            host::Replacement fichero(destino, u"Zembro.tmp"_s);
+            host::Replacement fichero(destino, borradorPara(destino));
             fichero.read();
             fichero.write(host::readBytes(host::nameFromDisk(guardado)));
             fichero.commit();
@@ -111,10 +129,39 @@ private:
         if (unlink(guardado.constData()) == 0)
             m_vueltos << destino;
     }
+    // What another run, or the user, put there meanwhile.
+    static bool aparta(const QString &a, const QString &nombre, const Mostrado::Nombre &suyo)
+    {
+        const QByteArray alli = host::nameToDisk(a + u'/' + nombre);
+        const auto estado = EstadoDe(alli);
+        const qsizetype desde = host::nameFromDisk(suyo.nombre.first(suyo.desde)).size();
+        for (int numero = 2; estado && S_ISREG(estado->st_mode); ++numero) {
+            const QString libre = a + u'/' + conNumero(nombre, desde, numero);
+            if (host::findOnDisk(libre).isEmpty())
+                return renameat2(AT_FDCWD, alli.constData(), AT_FDCWD, host::nameToDisk(libre).constData(),
+                           RENAME_NOREPLACE)
+                    == 0;
+        }
+        return false;
+    }
+    // A name that nothing has, and nothing gets, where the file really lies.
+    static QString borradorPara(const QString &destino)
+    {
+        const std::unique_ptr<char, decltype(&std::free)> verdadero(
+            realpath(host::nameToDisk(destino).constData(), nullptr), &std::free);
+        const QByteArray fichero = verdadero ? QByteArray(verdadero.get()) : host::nameToDisk(destino);
+        const QByteArray lugar = fichero.first(fichero.lastIndexOf('/') + 1);
+        QString nombre = Borrador;
+        for (int numero = 2; host::sameName(nombre, host::nameFromDisk(nombreDe(fichero)))
+             || EstadoDe(lugar + host::nameToDisk(nombre));
+             ++numero)
+            nombre = conNumero(Borrador, 0, numero);
+        return nombre;
+    }
     void llevaDirectorio(const QByteArray &guardado, const QString &a)
     {
         const auto estado = EstadoDe(guardado);
-        const Vuelta vuelta = vueltaDe(guardado, *estado, a, { nombreDe(guardado) }, false);
+        const Vuelta vuelta = vueltaDe(guardado, *estado, a, { nombreDe(guardado) }, nullptr);
         const QString destino = a + u'/' + vuelta.nombre;
         if (vuelta.escribe)
             host::makeDirectory(destino);
@@ -157,8 +204,6 @@ bool SeRecoge(const Resto &resto)
 Vuelta VueltaDe(const QString &nombre, bool directorio, bool mostrado,
     const std::function<std::optional<EnCasa>(const QString &)> &enCasa, qsizetype desde)
 {
-    const qsizetype punto = nombre.indexOf(u'.', desde);
-    const qsizetype fin = punto < 0 ? nombre.size() : punto;
     QString probado = nombre;
     for (int numero = 2;; ++numero) {
         const std::optional<EnCasa> alli = enCasa(probado);
@@ -169,8 +214,8 @@ Vuelta VueltaDe(const QString &nombre, bool directorio, bool mostrado,
         if (!alli->directorio && !directorio && alli->igual)
             return { alli->nombre, false };
         if (mostrado && probado == nombre && !alli->directorio && !directorio && !alli->masNuevo)
-            return { alli->nombre, true };
-        probado = nombre.first(fin) + u'-' + QString::number(numero) + nombre.sliced(fin);
+            return { alli->nombre, true, alli->cambiado };
+        probado = conNumero(nombre, desde, numero);
     }
 }
 

@@ -39,11 +39,13 @@ struct EnCasa {
     bool directorio = false;
     bool igual = false; // the same bytes
     bool masNuevo = false; // changed after what was saved
+    bool cambiado = false; // since the game was shown it
 };
 
 struct Vuelta {
     QString nombre; // that it gets there
     bool escribe = true; // false where it stands there already
+    bool aparta = false; // what stands there gets another name first
 };
 
 // `mostrado`: the game saw what stands there under this name; else it can't have meant it, and nothing is

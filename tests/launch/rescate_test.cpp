@@ -13,6 +13,7 @@
 
 #include <array>
 #include <csignal>
+#include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -83,6 +84,8 @@ TEST(VueltaDe, NadaDeLoQueNoVioSeReemplaza)
         QHash<QString, EnCasa> enCasa; // by the name that is tried
         QString adonde;
         bool escribe;
+        bool aparta = false;
+        qsizetype desde = 0;
     };
     const EnCasa suyo { u"Nino.sav"_s, false, false, false };
     for (const Caso &caso :
@@ -92,6 +95,11 @@ TEST(VueltaDe, NadaDeLoQueNoVioSeReemplaza)
             { u"NINO.SAV"_s, false, false, { { u"NINO.SAV"_s, suyo } }, u"NINO-2.SAV"_s, true },
             { u"NINO.SAV"_s, false, false, { { u"NINO.SAV"_s, suyo }, { u"NINO-2.SAV"_s, suyo } },
                 u"NINO-3.SAV"_s, true },
+            { u"a.nes - NINO.SAV"_s, false, false, { { u"a.nes - NINO.SAV"_s, suyo } },
+                u"a.nes - NINO-2.SAV"_s, true, false, 8 },
+            // Somebody has changed it while the game ran.
+            { u"NINO.SAV"_s, false, true, { { u"NINO.SAV"_s, { u"Nino.sav"_s, false, false, false, true } } },
+                u"Nino.sav"_s, true, true },
             // Newer than what was saved: somebody has played there since.
             { u"NINO.SAV"_s, false, true, { { u"NINO.SAV"_s, { u"Nino.sav"_s, false, false, true } } },
                 u"NINO-2.SAV"_s, true },
@@ -107,12 +115,15 @@ TEST(VueltaDe, NadaDeLoQueNoVioSeReemplaza)
                 true },
             { u"NINO.SAV"_s, false, true, { { u"NINO.SAV"_s, { u"nino.sav"_s, true, false, false } } },
                 u"NINO-2.SAV"_s, true } }) {
-        const Vuelta vuelta =
-            VueltaDe(caso.nombre, caso.directorio, caso.mostrado, [&](const QString &nombre) {
+        const Vuelta vuelta = VueltaDe(
+            caso.nombre, caso.directorio, caso.mostrado,
+            [&](const QString &nombre) {
                 return caso.enCasa.contains(nombre) ? std::optional(caso.enCasa[nombre]) : std::nullopt;
-            });
+            },
+            caso.desde);
         EXPECT_EQ(vuelta.nombre, caso.adonde) << caso.nombre.toStdString();
         EXPECT_EQ(vuelta.escribe, caso.escribe) << caso.adonde.toStdString();
+        EXPECT_EQ(vuelta.aparta, caso.aparta) << caso.adonde.toStdString();
     }
 }
 
@@ -151,6 +162,11 @@ protected:
         });
         EXPECT_EQ(endOf(hijo), 254);
         return Temporales().value(0);
+    }
+    void setTime(const QByteArray &fichero, time_t segundos) const
+    {
+        const std::array<timespec, 2> tiempos { timespec { segundos, 0 }, timespec { segundos, 0 } };
+        utimensat(AT_FDCWD, place(fichero).constData(), tiempos.data(), 0);
     }
     QByteArrayList Temporales() const { return host::listInDiskOrder(path(u"tmp"_s)); }
 };
@@ -469,6 +485,101 @@ TEST_F(RescateTest, DeUnDirectorioQueNoSeEscribeNadaSePierde)
     setMode("tmp", 0700);
     const QByteArray dentro = Temporales().value(0);
     EXPECT_NE(dentro, QByteArray()) << "it lies in a directory of the other user, and stays";
+}
+
+// Both runs were shown what stood there at their beginning.
+TEST_F(RescateTest, DeDosPartidasALaVezNoSePierdeNinguna)
+{
+    setTime("roms/Nino.sav", 1'000'000'000);
+    std::optional<launch::CarpetaDeCorrida> una(std::in_place);
+    const QByteArray enUna = launch::HazCarpetaDeApodos(*una, Montaje()).sliced(place().size());
+    unlink(place(enUna + "/NINO.SAV").constData());
+    makeFile(enUna + "/NINO.SAV", "one");
+    setTime(enUna + "/NINO.SAV", 1'500'000'000); // ahead of the second's beginning
+    std::optional<launch::CarpetaDeCorrida> otra(std::in_place);
+    const QByteArray enOtra = launch::HazCarpetaDeApodos(*otra, Montaje()).sliced(place().size());
+    una.reset();
+    EXPECT_EQ(bytes("roms/Nino.sav"), "one");
+    unlink(place(enOtra + "/NINO.SAV").constData());
+    makeFile(enOtra + "/NINO.SAV", "other");
+    otra.reset();
+    EXPECT_EQ(bytes("roms/Nino.sav"), "other") << "the last one goes on";
+    EXPECT_EQ(bytes("roms/Nino-2.sav"), "one") << "which the other run wasn't shown";
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, UnFicheroDelUsuarioConElNombreDelBorradorQueda)
+{
+    makeFile("roms/Zembro.tmp", "the user's");
+    Matada("echo new > NINO.NEW; mkdir SAVES; echo inner > SAVES/Zembro.tmp; echo one > SAVES/a; echo two > "
+           "SAVES/zz; "
+           "echo tmp > ZEMBRO.TMP");
+    EXPECT_THAT(launch::RescataRestos().pendientes, IsEmpty());
+    EXPECT_EQ(bytes("roms/Zembro.tmp"), "the user's");
+    EXPECT_EQ(bytes("roms/NINO.NEW"), "new\n");
+    EXPECT_EQ(bytes("roms/SAVES/Zembro.tmp"), "inner\n");
+    EXPECT_EQ(bytes("roms/SAVES/a"), "one\n");
+    EXPECT_EQ(bytes("roms/SAVES/zz"), "two\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - ZEMBRO.TMP"), "tmp\n");
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, DeUnEnlaceDelUsuarioCuentaAdondeLleva)
+{
+    makeDirectory("other disk");
+    makeDirectory("other disk/saves");
+    makeFile("other disk/nino.sv1", "far");
+    makeLink("../other disk/nino.sv1", "roms/NINO.SV1");
+    makeLink("../other disk/saves", "roms/Saves");
+    makeLink("nowhere", "roms/NINO.SV2");
+    Matada("echo two > NINO.SV2; rm NINO.SV1; echo mine > NINO.SV1; echo one > Saves/ONE");
+    setTime("other disk/nino.sv1", 4'000'000'000);
+    launch::RescataRestos();
+    EXPECT_EQ(bytes("other disk/nino.sv1"), "far") << "newer than what was saved";
+    EXPECT_EQ(bytes("roms/NINO-2.SV1"), "mine\n");
+    EXPECT_EQ(bytes("roms/NINO-2.SV2"), "two\n");
+    EXPECT_EQ(bytes("other disk/saves/ONE"), "one\n");
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, JuegosDeCualquierNombreTienenSuRecord)
+{
+    for (const QByteArray &nombre : { QByteArray("a\\b.nes"), QByteArray("ni\xA4o.nes"), QByteArray("c:.nes"),
+             QByteArray("two\nlines. "), QByteArray("*?.nes"), QByteArray(248, 'n') + ".nes" }) {
+        PonROM(nombre);
+        const launch::UnidadesDOS::Montaje montaje { 'E', place("roms"), false, { { "GAME.NES", nombre } } };
+        for (const QByteArray &dicho : { QByteArray("1"), QByteArray("2") }) {
+            launch::CarpetaDeCorrida corrida;
+            const QByteArray lugar = launch::HazCarpetaDeApodos(corrida, montaje).sliced(place().size());
+            if (nombre.size() < 200) {
+                EXPECT_EQ(exists(lugar + "/REC"), dicho == "2") << nombre.constData();
+            }
+            unlink(place(lugar + "/REC").constData());
+            makeFile(lugar + "/REC", dicho);
+            EXPECT_THAT(corrida.Recoge().pendientes, IsEmpty()) << nombre.constData();
+        }
+        const QByteArray enCasa =
+            nombre.size() < 200 ? QByteArray(nombre).replace('\\', '_') + " - REC" : QByteArray("REC-2");
+        EXPECT_EQ(bytes("roms/" + enCasa), "2") << enCasa.constData();
+    }
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+// A disk that has no second names for links: nothing there tells a link that was moved from one that was
+// deleted.
+TEST_F(RescateTest, LoMovidoNoSePierdeTampocoDondeLosEnlacesTienenUnSoloNombre)
+{
+    setTime("roms/Nino.sav", 1'000'000'000);
+    makeLink(place("roms/Nino.sav"), "roms/Docs/Far"); // the user's own, from before
+    Matada("for f in *; do cp -P --preserve=timestamps $f ../copy && mv -T ../copy $f; done; mv NINO.SAV "
+           "Docs/NINO.SAV; "
+           "echo after > NINO.SAV");
+    EXPECT_THAT(launch::RescataRestos().pendientes, IsEmpty());
+    EXPECT_EQ(bytes("roms/Nino.sav"), "after\n");
+    EXPECT_EQ(bytes("roms/Docs/NINO.SAV"), "before");
+    struct stat estado;
+    EXPECT_TRUE(lstat(place("roms/Docs/Far").constData(), &estado) == 0 && S_ISLNK(estado.st_mode));
+    EXPECT_THAT(Temporales(), IsEmpty());
 }
 
 TEST_F(RescateTest, UnNombreDeCorridaQueYaEstaSeSalta)
