@@ -14,10 +14,8 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 source=$work/zembrolix-$version
 mkdir "$source"
-cp -r packaging/debian "$source/debian"
+packaging/debian_files.sh "$version" "$source/debian"
 cp CHANGELOG.md "$source/CHANGELOG"
-sed -e "s/@VERSION@/$version/" -e "s/@DATE@/$(date -R -d "@$SOURCE_DATE_EPOCH")/" packaging/debian/changelog.in >"$source/debian/changelog"
-rm "$source/debian/changelog.in"
 export ZEMBROLIX_BUILD=$PWD/build/release
 (umask 022 && cd "$source" && debian/rules binary) >"$work/log" 2>&1 || { cat "$work/log" >&2; exit 1; }
 mv "$work/$package" "$out"
