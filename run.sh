@@ -6,6 +6,7 @@
 #                    directory's roms, beside what is configured, and stops
 #   --find --all     those of all systems
 set -euo pipefail
+. "$(dirname "$0")/packaging/words.sh"
 
 usage() {
     echo "usage: ./run.sh [--directory DIR] [--build | --find [--all]]" >&2
@@ -25,7 +26,7 @@ case "$*" in
 *) usage ;;
 esac
 if [ -z "$directory" ] && [ "${1:-}" != --build ]; then
-    [ -n "${HOME:-}" ] || { echo "There is no home directory: ./run.sh --directory DIR names another one." >&2; exit 1; }
+    [ -n "${HOME:-}" ] || { say no-home-named >&2; exit 1; }
     directory=$HOME/Zembrolix
 fi
 
@@ -42,7 +43,7 @@ if [ -n "$*" ] || [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
 fi
 
 packaging/use.sh build/release build/zembrolix "$directory" --make
-echo "There is no display here: playing the demonstration game on a screen in memory instead."
+say no-display
 packaging/install.sh screen
 rm -rf build/tour
 packaging/assemble.sh build/release build/tour/zembrolix

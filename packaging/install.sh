@@ -1,6 +1,7 @@
 #!/bin/bash
 # Installs the Debian packages that are missing for the purposes named: build, play, screen, test, package, root, fuzz.
 set -euo pipefail
+. "$(dirname "$0")/words.sh"
 
 declare -A packages=(
     [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libarchive-dev libxcb1-dev
@@ -25,10 +26,10 @@ done
 
 as_root=()
 if [ "$(id -u)" -ne 0 ]; then
-    command -v sudo >/dev/null || { echo "Installing ${missing[*]} needs root or sudo." >&2; exit 1; }
+    command -v sudo >/dev/null || { say needs-root "${missing[*]}" >&2; exit 1; }
     as_root=(sudo)
 fi
-echo "Installing: ${missing[*]}"
+say installing "${missing[*]}"
 "${as_root[@]}" apt-get update -qq
 "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" \
     >/dev/null

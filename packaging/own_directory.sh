@@ -4,6 +4,7 @@
 # the two. The places that it had stand in NEW/.moved-from then, until what was written by whole paths has been changed.
 set -euo pipefail
 
+. "$(dirname "$0")/words.sh"
 old=$1
 new=$2
 
@@ -22,25 +23,41 @@ has_own() { # directory
     done < <(cd "$1" && find . \( -type f -o -type l \) -print0)
     return 1
 }
-fail() {
-    echo "$1" >&2
+fail() { # key, values...
+    say "$@" >&2
     exit 1
 }
 
-[ -d "$old" ] && [ ! -L "$old" ] || exit 0
+# What went to another file system is deleted where it was: first as a whole, by its name, and only while it is what the
+# copy is, so that this can be cut short at any moment too.
+delete_left() { # the old directory
+    local left=$1.moved
+    rm -rf "$left"
+    if [ -d "$1" ] && diff -r --no-dereference --exclude=.moving-from --exclude=.moved-from "$1" "$new" >/dev/null; then
+        mv -T "$1" "$left"
+        rm -rf "$left"
+    fi
+    rm -f "$new/.moving-from"
+    say moved "$1" "$new"
+}
+
+[ -d "$(dirname "$old")" ] && [ ! -L "$old" ] || exit 0
+place=$(cd "$(dirname "$old")" && pwd -P)/$(basename "$old")
+[ "$(cat "$new/.moving-from" 2>/dev/null)" != "$place" ] || delete_left "$place"
+[ -d "$old" ] || exit 0
 places=$(cd "$old" && printf '%s\n' "$(pwd)" "$(pwd -P)" | uniq)
 old=$(cd "$old" && pwd -P)
 [ ! -d "$new" ] || [ "$(cd "$new" && pwd -P)" != "$old" ] || exit 0
 has_own "$old" || exit 0
 if [ -L "$new" ] || { [ -e "$new" ] && ! { [ -d "$new" ] && [ -z "$(ls -A "$new")" ]; }; }; then
-    echo "$old holds files of yours too. They stay there, as $new is there already." >&2
+    say both "$old" "$new" >&2
     exit 0
 fi
 
-mkdir -p "$(dirname "$new")" 2>/dev/null || fail "$(dirname "$new") can't be made: what you have in $old stays there."
+mkdir -p "$(dirname "$new")" 2>/dev/null || fail no-parent "$(dirname "$new")" "$old"
 half=$new.moving # a copy, which may have been cut short before
 if [ -e "$half" ]; then
-    [ "$(cat "$half/.moving-from" 2>/dev/null)" = "$old" ] || fail "$half is in the way of moving $old to $new."
+    [ "$(cat "$half/.moving-from" 2>/dev/null)" = "$old" ] || fail in-the-way "$half" "$old" "$new"
     rm -rf "$half"
 fi
 [ ! -d "$new" ] || rmdir "$new"
@@ -50,11 +67,11 @@ if [ "$(stat -c %d "$old")" = "$(stat -c %d "$(dirname "$new")")" ]; then
 else
     mkdir "$half"
     printf '%s\n' "$old" >"$half/.moving-from"
-    cp -a "$old/." "$half/" && sync -f "$half" || fail "$old can't be moved to $new: it stays where it is."
-    diff -r --no-dereference --exclude=.moving-from "$old" "$half" >/dev/null || fail "The copy of $old differs."
+    cp -a "$old/." "$half/" && sync -f "$half" || fail not-moved "$old" "$new"
+    diff -r --no-dereference --exclude=.moving-from "$old" "$half" >/dev/null || fail copy-differs "$old"
     printf '%s\n' "$places" >"$half/.moved-from"
     mv -T "$half" "$new"
-    rm -f "$new/.moving-from"
-    rm -rf "$old"
+    delete_left "$old"
+    exit
 fi
-echo "What you had in $old is in $new now."
+say moved "$old" "$new"

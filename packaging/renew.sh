@@ -8,6 +8,7 @@
 # emulator of.
 set -euo pipefail
 
+. "$(dirname "$0")/words.sh"
 programs=$1
 files=$2
 
@@ -18,18 +19,18 @@ reason() { # path, what the system said
         place=$(dirname -- "$place")
     done
     if [ ! -d "$place" ]; then
-        echo "$place is no directory."
+        say not-directory "$place"
     elif [ ! -x "$place" ]; then
-        echo "$place can't be entered."
+        say not-entered "$place"
     elif [ ! -w "$place" ]; then
-        echo "$place can't be written."
+        say not-written "$place"
     else
         echo "$2"
     fi >&2
 }
 # The libraries that a portable directory brings along aren't those of programs from elsewhere.
 if [ -e "$3/qt.conf" ] && [ ! -e "$programs/qt.conf" ]; then
-    echo "$3 is a portable one: start.sh --renew of a newer archive brings it up to date." >&2
+    say portable "$3" >&2
     exit 1
 fi
 said=$(mkdir -p -- "$3" 2>&1) && [ -w "$3" ] || { reason "$3" "$said"; exit 1; }
@@ -70,6 +71,8 @@ deliver() { # source, name
 # Two starts at once renew one behind the other.
 exec 9>>"$delivered"
 flock 9
+# A line that was cut short, as on a full disk, doesn't spoil the next one.
+[ -z "$(tail -c 1 "$delivered")" ] || echo >&9
 for program in Zembrolix Cvtgif15.exe Cvtcap.exe zembro; do
     cmp -s "$programs/$program" "$directory/$program" && [ -x "$directory/$program" ] ||
         place 755 "$programs/$program" "$program"
@@ -124,7 +127,7 @@ escaped() { printf '%s' "$1" | sed 's/[&\\|]/\\&/g'; }
 sed -e "s|@STELLA@|$(escaped "$stella")|" "$files/Zembro.emu" >"$work/Zembro.emu"
 mkdir -p "$directory/roms/Atari 2600"
 "$programs/BuscaEmuladores" "$files/emuladores.tsv" "$directory" "$work/Zembro.emu" >"$work/found" 9>&- ||
-    echo "The emulators of this machine aren't configured." >&2
-[ ! -s "$work/found" ] || sed 's/^/Configured /' "$work/found"
+    say not-configured >&2
+while IFS= read -r line; do say configured "$line"; done <"$work/found"
 record "$work/Zembro.emu" Zembro.emu >>"$delivered" # so that it can be told from one that the user has changed
 place 644 "$work/Zembro.emu" Zembro.emu

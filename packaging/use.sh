@@ -5,6 +5,7 @@
 set -euo pipefail
 
 packaging=$(cd "$(dirname "$0")" && pwd)
+. "$packaging/words.sh"
 build=$1
 fresh=$2
 directory=$3
@@ -23,7 +24,7 @@ directory=$(cd "$directory" && pwd)
 if [ -f "$directory/.moved-from" ]; then
     while IFS= read -r place; do
         "$directory/zembro" move --old "$place" --new "$directory" --write >/dev/null ||
-            { echo "The paths of its catalogue still lead to $place." >&2; exit 1; }
+            { say old-paths "$place" >&2; exit 1; }
         while IFS= read -r -d '' link; do
             target=$(readlink "$link")
             [ "${target#"$place/"}" = "$target" ] || ln -sfn "../../${target#"$place/"}" "$link"

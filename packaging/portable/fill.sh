@@ -8,7 +8,7 @@ program=$2
 delivered=$program/delivered
 
 cp -r "$1/share/zembrolix" "$delivered"
-cp "$programs"/{renew,start,stella} "$delivered"
+cp "$programs"/{renew,start,stella,words.sh} "$delivered"
 cp "$programs"/{BuscaEmuladores,PrimerosAjustes,Aviso} "$program"
 cp "$here"/start.sh "$program"
 cp "$here"/LEEME.txt "$here/../../LICENSE" "$delivered"

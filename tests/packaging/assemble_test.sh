@@ -126,6 +126,57 @@ make_build version3
 run "newer still"
 expect Zembro.txt version3 "newer still"
 
+# Killed at whichever of its steps, it has lost nothing, and the next time it is whole: a new directory and a renewal.
+cut_at() { # tool, which of its calls
+    rm -rf "$work/cut"
+    : >"$work/calls"
+    mkdir "$work/cut"
+    # A file is half written then.
+    printf '#!/bin/sh\necho >>"%s"\n[ $(wc -l <"%s") = %s ] || exec %s "$@"\n[ %s != install ] || echo half >"$4"\nkill -KILL $PPID\n' \
+        "$work/calls" "$work/calls" "$2" "$(command -v "$1")" "$1" >"$work/cut/$1"
+    chmod +x "$work/cut/$1"
+}
+rm -rf "$work/My Programs"
+make_build version1
+run whole
+cp -a "$work/My Programs" "$work/first"
+printf 'mine\r\n' | tee -a "$work/first/zembrolix/LNG/ZB-ESP.LNG" >>"$work/first/zembrolix/Zembro.emu"
+users=$(sha256sum <"$work/first/zembrolix/LNG/ZB-ESP.LNG"; sha256sum <"$work/first/zembrolix/Zembro.emu")
+make_build version2
+cuts=0
+for begun in none first; do
+    for tool in install mv; do
+        for ((nth = 1; ; nth++)); do
+            rm -rf "$work/My Programs"
+            [ "$begun" = none ] || cp -a "$work/first" "$work/My Programs"
+            cut_at "$tool" "$nth"
+            { PATH=$work/cut:$PATH "$assemble" "$build" "$program"; } >/dev/null 2>&1
+            [ "$(wc -l <"$work/calls")" -ge "$nth" ] || break
+            cuts=$((cuts + 1))
+            run "killed at $tool $nth, $begun"
+            for name in Zembrolix Cvtcap.exe zembro Zembro.cfg Zembro.txt Zembro.rom Zembro.sye demo/GAME.A26; do
+                expect "$name" version2 "killed at $tool $nth, $begun"
+            done
+            [ "$begun" = none ] || [ "$(sha256sum <"$program/LNG/ZB-ESP.LNG"; sha256sum <"$program/Zembro.emu")" = "$users" ] ||
+                complain "killed at $tool $nth: what the user had is gone"
+            [ "$begun" = first ] || grep -q '^+Stella' "$program/Zembro.emu" || complain "killed at $tool $nth: no catalogue"
+            [ -z "$(find "$program" -name '.*.new')" ] || complain "killed at $tool $nth, $begun: something is left over"
+        done
+    done
+done
+[ "$cuts" -ge 40 ] || complain "only $cuts steps were cut"
+# A line that was cut short, as on a full disk, spoils only itself.
+anew "cut line"
+printf 'abc' >>"$program/.delivered"
+make_build version2
+run "cut line"
+make_build version3
+run "cut line"
+for name in Zembro.cfg Zembro.txt; do
+    expect "$name" version3 "cut line"
+done
+make_build version1
+
 # Several at once leave what one does.
 anew together
 run "alone"

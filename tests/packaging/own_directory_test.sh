@@ -106,22 +106,62 @@ for kind in full link file; do
 done
 
 # Cut at any of its steps, it has lost nothing, and the next time it is done.
-for step in cp sync diff mv rm; do
+cut_at() { # tool, which of its calls, what it still does
+    rm -rf "$work/cut" "$work/calls"
+    mkdir "$work/cut"
+    printf '#!/bin/sh\necho >>"%s"\n[ $(wc -l <"%s") = %s ] || exec %s "$@"\n%s\nkill -KILL $PPID\n' \
+        "$work/calls" "$work/calls" "$2" "$(command -v "$1")" "${3:-}" >"$work/cut/$1"
+    chmod +x "$work/cut/$1"
+}
+for step in cp:1 sync:1 diff:1 mv:1 rm:1 diff:2 mv:2 rm:2 rm:3; do
     anew
     own
-    mkdir "$work/cut"
-    # A copy is half done then.
-    printf '#!/bin/sh\n[ %s != cp ] || %s -a "$2"/Zembro.* "$3"\nkill -KILL $PPID\n' "$step" "$(command -v cp)" >"$work/cut/$step"
-    chmod +x "$work/cut/$step"
+    case $step in
+    cp:*) half="$(command -v cp) -a \"\$2\"/Zembro.* \"\$3\"" ;; # a copy is half done then
+    rm:2) half="$(command -v rm) -rf \"\$2/Zembro.emu\" \"\$2/roms\"" ;;
+    *) half= ;;
+    esac
+    cut_at "${step%:*}" "${step#*:}" "$half"
     { PATH=$work/cut:$PATH "$packaging/own_directory.sh" "$fresh" "$elsewhere/mine" && complain "cut at $step: it isn't"; } >/dev/null 2>&1
     rm -rf "$work/cut"
     [ "$(cat "$fresh/roms/Jaguar/Game.j64")" = play ] || [ "$(cat "$elsewhere/mine/roms/Jaguar/Game.j64")" = play ] ||
         complain "cut at $step: what the user had is nowhere"
     use "$elsewhere/mine" --make
-    [ "$step" = rm ] || [ ! -e "$fresh" ] || complain "cut at $step: it isn't moved the next time"
-    rm -f "$elsewhere/mine/.moving-from"
+    [ ! -e "$fresh" ] && [ ! -e "$fresh.moved" ] || complain "cut at $step: it isn't moved the next time"
     expect_mine "$elsewhere/mine" "cut at $step"
 done
+# What has come there since stays.
+anew
+own
+cut_at mv 2
+{ PATH=$work/cut:$PATH "$packaging/own_directory.sh" "$fresh" "$elsewhere/mine" && complain "cut, then played: it isn't"; } >/dev/null 2>&1
+echo later >"$fresh/roms/Jaguar/Later.j64"
+use "$elsewhere/mine" --make
+[ "$(cat "$fresh/roms/Jaguar/Later.j64" "$fresh/roms/Jaguar/Game.j64")" = "later
+play" ] || complain "cut, then played: what the user had is gone"
+grep -q 'They stay there' "$work/errors" || complain "cut, then played: not a word"
+expect_mine "$elsewhere/mine" "cut, then played"
+
+# Cut while the paths are changed to where it lies now, that is completed too.
+for step in ln:1 rm:last; do
+    anew
+    own
+    "$packaging/own_directory.sh" "$fresh" "$work/mine" >/dev/null
+    "$packaging/assemble.sh" "$build" "$work/mine"
+    cut_at "${step%:*}" 1
+    # In use.sh itself, which calls others that delete what is theirs.
+    [ "$step" != rm:last ] || sed -i 's|^\[ .*|case $* in */.moved-from) ;; *) exec /bin/rm "$@" ;; esac|' "$work/cut/rm"
+    { PATH=$work/cut:$PATH "$packaging/use.sh" "$build" "$fresh" "$work/mine" --make && complain "paths cut at $step: it isn't"; } >/dev/null 2>&1
+    use "$work/mine" --make
+    expect_mine "$work/mine" "paths cut at $step"
+done
+rm -rf "$work/cut"
+
+# It speaks the language of the user.
+anew
+own
+LC_ALL=de_DE.UTF-8 use "$work/mine" --make
+grep -qx "Was Sie in $fresh hatten, liegt jetzt in $work/mine\." "$work/said" || complain "in German: it says $(cat "$work/said")"
 
 # A word that is none, and a directory without a name.
 for words in --find\ --everything --directory "--directory $work --play" --all; do

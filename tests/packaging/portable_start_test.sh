@@ -59,16 +59,24 @@ LANG=de_DE.UTF-8 start "$mine" 0
 sed -i 's/ZB-ITA/ZB-ENG/' "$mine/Zembro.cfg"
 start "$mine" 0
 [ "$(setting "$mine" LanguageFile)" = ZB-ENG.LNG ] || complain "chosen: the language is another"
+# A first start that was cut short asks for no language either.
+cp "$mine/delivered/Zembro.cfg" "$mine/Zembro.cfg"
+start "$mine" 0
+[ "$(setting "$mine" LanguageFile)" = ZB-ITA.LNG ] || complain "cut short: the language: $(cat "$mine/Zembro.cfg")"
 start "$mine" 0 --check
 grep -qi stella <<<"$said" || complain "check: it says $said"
 start "$mine" 1 --everything
 # Without a terminal what is wrong is shown in a box.
-mkdir "$work/unable"
+mkdir -p "$work/unable/delivered"
 cp "$mine/start.sh" "$work/unable"
+cp "$mine/delivered/words.sh" "$work/unable/delivered"
 printf '#!/bin/sh\necho "$*" >"%s/shown"\n' "$work" >"$work/unable/Aviso"
 chmod +x "$work/unable/Aviso"
+export LANG=en_US.UTF-8
 DISPLAY=:none start "$work/unable" 1
 [ "$(cat "$work/shown" 2>/dev/null)" = "programs on this medium can't be run; copy the directory elsewhere." ] || complain "unable: the box says $(cat "$work/shown")"
+LANG=it_IT.UTF-8 start "$work/unable" 1
+grep -qx 'start.sh: su questo supporto non si possono eseguire programmi; copi la cartella altrove.' "$work/errors" || complain "unable, in Italian: $(cat "$work/errors")"
 
 # The emulator is that of the machine on which the directory happens to be.
 mkdir "$work/bin"
@@ -109,6 +117,7 @@ cp "$work/stella" "$mine/delivered/stella"
 
 # A newer one renews it.
 make_directory "$work/newer" two
+echo font >"$work/newer/fonts/taken"
 printf "' newer\r\n" >>"$work/newer/delivered/LNG/ZB-FRA.LNG"
 printf "' newer\r\n" >>"$work/newer/delivered/LNG/ZB-DEU.LNG"
 echo newer | tee -a "$work/newer/delivered/LEEME.txt" >>"$work/newer/delivered/LICENSE"
@@ -117,7 +126,7 @@ printf "' mine\r\n" >>"$mine/LNG/ZB-DEU.LNG"
 echo game >"$mine/demo/mine.bin"
 echo mine >"$mine/fonts/mine.ttf"
 # Among its own files the user has files, a link and a directory, and has changed some of them.
-mkdir -p "$mine/plugins/extra"
+mkdir -p "$mine/plugins/extra" "$mine/lib/of mine/empty" "$mine/licenses/empty" "$mine/delivered/empty" "$mine/fonts/taken"
 echo mine | tee "$mine/lib/mine.so" "$mine/plugins/extra/a file" "$mine/licenses/mine" "$mine/delivered/LNG/ZB-XXX.LNG" >>"$mine/lib/each"
 ln -s /nowhere "$mine/lib/link"
 echo '# mine' >>"$mine/start.sh"
@@ -134,9 +143,12 @@ for name in LEEME.txt LICENSE; do
     cmp -s "$work/newer/delivered/$name" "$mine/$name" || complain "renewed: $name is old"
 done
 [ ! -e "$mine/demo/prisma.gif" ] || complain "renewed: what the user deleted is there again"
-[ "$(cd "$mine/lib" && echo *)" = "each link mine.so two" ] || complain "renewed: the libraries are $(ls "$mine/lib")"
+[ "$(cd "$mine/lib" && echo *)" = "each link mine.so of mine two" ] || complain "renewed: the libraries are $(ls "$mine/lib")"
 [ "$(cat "$mine/lib/each" "$mine/lib/mine.so")" = "two
 mine" ] && [ "$(readlink "$mine/lib/link")" = /nowhere ] || complain "renewed: the libraries hold something else"
+for directory in "lib/of mine/empty" licenses/empty delivered/empty antes/fonts/taken; do
+    [ -d "$mine/$directory" ] || complain "renewed: the directory $directory of the user's is gone"
+done
 for file in "plugins/extra/a file" licenses/mine delivered/LNG/ZB-XXX.LNG; do
     [ "$(cat "$mine/$file")" = mine ] || complain "renewed: $file of the user's is gone"
 done
@@ -149,6 +161,7 @@ done
 # Once more it keeps them, and tells nothing.
 before=$(state "$mine")
 start "$work/newer" 0 --renew "$mine"
+[ -d "$mine/lib/of mine/empty" ] && [ -d "$mine/antes/fonts/taken" ] && [ ! -e "$mine/antes/fonts/taken.2" ] || complain "renewed again: the directories of the user's have changed"
 [ "$(state "$mine")" = "$before" ] || complain "renewed again: $(state "$mine" | diff - <(echo "$before"))"
 [ ! -s "$work/errors" ] || complain "renewed again: it says $(cat "$work/errors")"
 # Another change of the same file doesn't take the place of the first one.
@@ -159,6 +172,75 @@ cmp "$work/each" "$mine/antes/lib/each" && [ "$(cat "$mine/antes/lib/each.2")" =
 [ -z "$(find "$mine" -name '.*.new' -o -name '.*.old')" ] || complain "renewed: something is left over"
 start "$mine" 0
 [ "$said" = "started $mine/Zembrolix, two" ] || complain "renewed: it says $said"
+
+# Killed at whichever of its steps, a renewal has lost nothing, and it is completed by itself or by another one.
+mkdir "$work/quick" # what is written needn't be on the disk for this
+ln -s /bin/true "$work/quick/sync"
+PATH=$work/quick:$PATH
+cut_at() { # tool, which of its calls
+    rm -rf "$work/cut"
+    : >"$work/calls"
+    mkdir "$work/cut"
+    # A copy is half done then.
+    printf '#!/bin/sh\necho >>"%s"\n[ $(wc -l <"%s") = %s ] || exec %s "$@"\n[ %s != cp ] || { for to; do :; done; echo half >"$to"; }\nkill -KILL $PPID\n' \
+        "$work/calls" "$work/calls" "$2" "$(command -v "$1")" "$1" >"$work/cut/$1"
+    chmod +x "$work/cut/$1"
+}
+make_directory "$work/old" one
+for program in BuscaEmuladores PrimerosAjustes Aviso Cvtgif15.exe Cvtcap.exe zembro; do
+    echo '#!/bin/sh' | tee "$work/old/$program" >"$work/newer/$program" # quick to copy
+done
+printf '#!/bin/sh\nexec "$1/Zembrolix"\n' >"$work/newer/delivered/start"
+"$sources/packaging/portable/manifest.sh" "$work/newer"
+old=$work/old
+"$sources/packaging/portable/manifest.sh" "$old"
+mkdir "$old/plugins/of mine"
+echo mine | tee "$old/lib/mine.so" "$old/demo/mine.bin" >>"$old/lib/each"
+echo old >"$old/lib/old.so"
+(cd "$old" && sha256sum lib/old.so) >>"$old/delivered/manifest"
+mine=$work/cut\ short
+renewed() { # situation
+    [ "$(cat "$mine/lib/mine.so" "$mine/demo/mine.bin")" = "mine
+mine" ] && [ "$(cat "$mine/antes/lib/each")" = "one
+mine" ] && [ -d "$mine/plugins/of mine" ] || complain "$1: what the user had is gone: $(ls -AR "$mine/lib" "$mine/antes")"
+    [ "$(cat "$mine/lib/each")" = two ] && [ ! -e "$mine/lib/old.so" ] && grep -q two "$mine/Zembrolix" &&
+        cmp "$work/newer/delivered/manifest" "$mine/delivered/manifest" || complain "$1: it isn't renewed: $(ls -A "$mine" "$mine/lib")"
+    [ "$(find "$mine/antes" -type f)" = "$mine/antes/lib/each" ] || complain "$1: there is more aside: $(find "$mine/antes")"
+    [ -z "$(find "$mine" -name '.*.new' -o -name '.*.old' -o -name .renewing -o -name .new)" ] || complain "$1: something is left over: $(ls -A "$mine")"
+}
+count_cuts=0
+for tool in cp:2 mv:1 rm:5 install:2 sync:6; do
+    each=${tool#*:} tool=${tool%:*}
+    for ((nth = 1; ; nth += each)); do
+        rm -rf "$mine"
+        cp -a "$old" "$mine"
+        cut_at "$tool" "$nth"
+        # The shell's word on the kill isn't wanted.
+        { PATH=$work/cut:$PATH "$work/newer/start.sh" --renew "$mine"; } >/dev/null 2>&1
+        [ "$(wc -l <"$work/calls")" -ge "$nth" ] || break
+        count_cuts=$((count_cuts + 1))
+        # Its own start, as far as it has one; and where the newer version isn't there any more, that says so.
+        if [ $((count_cuts % 2)) = 0 ] && [ -x "$mine/start.sh" ] && [ -f "$mine/.renewing" ]; then
+            start "$mine" 0
+        else
+            [ ! -e "$mine/.renewing" ] || [ $((count_cuts % 3)) != 0 ] || echo /nowhere >"$mine/.renewing"
+            start "$work/newer" 0 --renew "$mine"
+        fi
+        renewed "killed at $tool $nth"
+    done
+done
+rm -rf "$work/cut"
+PATH=${PATH#*:}
+[ "$count_cuts" -ge 25 ] || complain "only $count_cuts steps were cut"
+cp -a "$old/." "$work/half"
+echo /nowhere >"$work/half/.renewing"
+mv "$work/half/plugins" "$work/half/.plugins.old"
+start "$work/half" 0
+grep -qx "start.sh: the renewal of this directory was cut short. Nothing of yours is lost; start.sh --renew $work/half of the newer version completes it." "$work/errors" ||
+    complain "half: it says $(cat "$work/errors")"
+[ -d "$work/half/plugins/of mine" ] || complain "half: a part is gone"
+start "$work/half" 1 --renew "$old"
+mine="$work/Memoria USB/zembrolix"
 
 # What is no directory of it stays as it is.
 mkdir "$work/other"

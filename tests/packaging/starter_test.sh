@@ -78,7 +78,8 @@ for name in LNG/ZB-ITA.LNG Zembro.txt Zembrolix; do
 done
 
 # In a directory that is named, also by a path from here.
-start 0 --directory "an other/place"
+export LANG=en_US.UTF-8
+LANG=fr_FR.UTF-8 start 0 --directory "an other/place"
 [ "$said" = "started $work/an other/place/Zembrolix log $HOME/.local/state/zembrolix/log" ] || complain "directory: it says $said"
 [ "$(setting LanguageFile "$work/an other/place")" = ZB-FRA.LNG ] || complain "directory: the language"
 start 2 --directory
@@ -107,6 +108,9 @@ chmod +x "$work/usr/lib/zembrolix/Aviso"
 PATH=/usr/bin:/bin DISPLAY=:none HOME='' start 1 </dev/null
 [ "$(cat "$work/shown" 2>/dev/null)" = 'There is no home directory ($HOME) to keep its directory in.' ] || complain "box: it says $(cat "$work/shown")"
 rm -f "$work/shown"
+PATH=/usr/bin:/bin DISPLAY=:none HOME='' LANG=ca_ES.UTF-8 start 1 </dev/null
+[ "$(cat "$work/shown" 2>/dev/null)" = 'No hi ha directori personal ($HOME) on desar el seu directori.' ] || complain "box in Catalan: it says $(cat "$work/shown")"
+rm -f "$work/shown"
 PATH=/usr/bin:/bin HOME='' start 1
 [ ! -e "$work/shown" ] || complain "box: without a screen it says $(cat "$work/shown")"
 mv "$work/box" "$work/usr/lib/zembrolix/Aviso"
@@ -123,6 +127,8 @@ mkdir "$work/locked"
 chmod 555 "$work/locked"
 said=$(HOME=$work/locked as_user "$work/usr/games/zembrolix" 2>&1) && complain "locked: it starts"
 [ "$said" = "zembrolix: Its directory can't be made: $work/locked can't be written." ] || complain "locked: it says $said"
+said=$(HOME=$work/locked LANG=pt_BR.UTF-8 as_user "$work/usr/games/zembrolix" 2>&1) && complain "locked: it starts"
+[ "$said" = "zembrolix: Não se pode criar o seu diretório: Não se pode escrever em $work/locked." ] || complain "locked, in Portuguese: it says $said"
 # What can't be read and entered isn't called one that can't be written.
 mkdir -p "$work/closed" "$work/room/Zembrolix"
 chmod 700 "$work/closed"
@@ -206,6 +212,18 @@ while read -r width height picture; do
     file -b "$sources/docs/pictures/$picture" | grep -q "PNG image data, $width x $height," || complain "with a homepage: $picture isn't as large"
 done < <(sed -n 's|.*<image type="source" width="\(.*\)" height="\(.*\)">https://zembrolix.test/x/pictures/\(.*\)</image>|\1 \2 \3|p' "$work/zembrolix.metainfo.xml")
 [ "$pictures" = 4 ] || complain "with a homepage: there are $pictures pictures"
+# Nor does the package, but for that of its maintainer, which has to be there.
+package_files() { SOURCE_DATE_EPOCH=1000000000 "$sources/packaging/debian_files.sh" "$version" "$1"; }
+package_files "$work/debian"
+! grep -rniE 'example|@(VERSION|DATE|HOMEPAGE)@|^Homepage|^$' "$work/debian/control" "$work/debian/copyright" "$work/debian/changelog" |
+    grep -v -e 'zembrolix@example.org>' -e ':$' || complain "the package names addresses, or has something left to fill in"
+! grep -E 'https?://' "$work/debian/copyright" | grep -v '^Format: ' || complain "the copyright names an address"
+grep -qx "Source: Made from the source archive of the same release, zembrolix-$version.tar.xz." "$work/debian/copyright" || complain "the copyright doesn't name its source"
+grep -q "^zembrolix ($version-1) " "$work/debian/changelog" || complain "the package's changes are of another version"
+ZEMBROLIX_HOMEPAGE='https://zembrolix.test/x?a&b|c' package_files "$work/addressed"
+diff "$work/debian" "$work/addressed" >"$work/said"
+[ "$(grep '^>' "$work/said")" = '> Homepage: https://zembrolix.test/x?a&b|c
+> Source: https://zembrolix.test/x?a&b|c' ] || complain "the package with a homepage: $(cat "$work/said")"
 
 # Completions of the starter know all of its options and no others.
 options=$(sed -n 's/^    \(--[a-z]*\)).*/\1/p' "$sources/packaging/starter/zembrolix" | sort | paste -sd' ')
