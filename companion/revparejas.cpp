@@ -105,6 +105,8 @@ void RevisorDePareja::Programa()
     const QString &enDisco = programa.ExeCorto.enDisco;
     if (enDisco.isEmpty()) {
         const QString otro = ProgramaParecido(exe);
+        if (!FaltaDeUnidad(exe, m_palabras).isEmpty())
+            return; // told of the drive
         halla(u"no-program"_s, NoHayPrograma(exe, m_palabras), m_lineas.EXE);
         if (!otro.isEmpty())
             halla(u"similar-program"_s, m_palabras.Zbo_Parecido.arg(otro), m_lineas.EXE);
@@ -177,6 +179,8 @@ void RevisorDePareja::Lista()
         NoListados(directorio);
         Juegos(listado);
     } catch (const host::Failure &fallo) {
+        if (!FaltaDeUnidad(directorio, m_palabras).isEmpty())
+            return; // told of the drive
         halla(u"no-list"_s, m_palabras.Zbo_NoSeLista.arg(TextoDeDirectorio(fallo, m_palabras)), m_lineas.ROM);
     }
 }

@@ -160,11 +160,14 @@ private:
         else if (ruta == nuevo)
             m_vueltos << host::nameFromDisk(nuevo);
     }
-    // The user's own name for the game stays, and so does what something new is to stand in the place of.
+    // The user's own name for the game stays, and so does what something new is to stand in the place of, and
+    // what has been changed meanwhile.
     bool seMuda(const QByteArray &fichero, const Mostrado::Enlace &enlace) const
     {
         const auto estado = EstadoDe(fichero);
-        return enlace.propio && estado && S_ISREG(estado->st_mode)
+        const bool comoEntonces = estado && estado->st_mtim.tv_sec == enlace.visto.tv_sec
+            && estado->st_mtim.tv_nsec == enlace.visto.tv_nsec;
+        return enlace.propio && comoEntonces && S_ISREG(estado->st_mode)
             && std::ranges::none_of(
                 m_entradas, [&](const QByteArray &entrada) { return mismoNombre(entrada, enlace.nombre); });
     }

@@ -14,6 +14,8 @@
 #include "host/questions.h"
 #include "host/replacement.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -56,11 +58,28 @@ QString conNumero(const QString &nombre, qsizetype desde, int numero)
     return nombre.first(fin) + u'-' + QString::number(numero) + nombre.sliced(fin);
 }
 
+// Whether a game of another run was shown this file: it may have it under another name by now.
+bool loVeOtraCorrida(const QByteArray &fichero, const QByteArray &corrida)
+{
+    const QByteArray temporal = corrida.first(corrida.lastIndexOf('/') + 1);
+    for (const QByteArray &otra : EntradasDe(temporal)) {
+        if (!otra.startsWith(host::nameToDisk(Prefijo)) || temporal + otra == corrida)
+            continue;
+        for (const QByteArray &nombre : EntradasDe(temporal + otra)) {
+            if (nombre.startsWith(MostradoEnCorrida)
+                && Mostrado(temporal + otra + '/' + nombre).Enlaces().contains(fichero))
+                return true;
+        }
+    }
+    return false;
+}
+
 // Carries what was saved, a directory after the other.
 class Porteador {
 public:
-    Porteador(const Mostrado &mostrado, QStringList &vueltos)
-        : m_mostrado(mostrado)
+    Porteador(const QByteArray &corrida, const Mostrado &mostrado, QStringList &vueltos)
+        : m_corrida(corrida)
+        , m_mostrado(mostrado)
         , m_vueltos(vueltos)
     {
     }
@@ -115,7 +134,9 @@ private:
         const QByteArray nombre = nombreDe(guardado);
         const Mostrado::Nombre suyo = deArriba ? m_mostrado.EnCasa(nombre) : Mostrado::Nombre { nombre };
         Vuelta vuelta = vueltaDe(guardado, estado, a, suyo, deArriba ? m_mostrado.Propio(nombre) : nullptr);
-        if (vuelta.aparta && !aparta(a, vuelta.nombre, suyo))
+        const bool enUso = vuelta.escribe && m_mostrado.Propio(nombre)
+            && loVeOtraCorrida(host::nameToDisk(a + u'/' + vuelta.nombre), m_corrida);
+        if ((vuelta.aparta || enUso) && !aparta(a, vuelta.nombre, suyo))
             vuelta = vueltaDe(guardado, estado, a, suyo, nullptr);
         const QString destino = a + u'/' + vuelta.nombre;
         if (vuelta.escribe) {
@@ -169,6 +190,7 @@ private:
         rmdir(guardado.constData());
     }
 
+    const QByteArray m_corrida;
     const Mostrado &m_mostrado;
     QStringList &m_vueltos;
 };
@@ -181,7 +203,7 @@ bool rescataUnidad(const QByteArray &corrida, const QByteArray &letra, Rescate &
     const Mostrado mostrado(enlaces);
     const bool guardado = mostrado.EstaEnCasa() && GuardaRenombrados(mostrado, lugar, rescate.vueltos);
     if (guardado)
-        Porteador(mostrado, rescate.vueltos).Lleva(lugar, host::nameFromDisk(mostrado.Casa()));
+        Porteador(corrida, mostrado, rescate.vueltos).Lleva(lugar, host::nameFromDisk(mostrado.Casa()));
     borraEnlaces(lugar, [&](const QByteArray &ruta) { return guardado || !mostrado.Renombrado(ruta, true); });
     const bool falla = mostrado.EstaEnCasa() && !guardado;
     if (falla || (rmdir(lugar.constData()) != 0 && errno != ENOENT)) {
@@ -350,8 +372,34 @@ QByteArray LugarPrevisto(char letra)
     return host::nameToDisk(DirectorioTemporal() + Prefijo) + "*/" + UnidadDeCorrida + letra;
 }
 
+namespace {
+
+// The files of a drive, as they are now.
+QByteArray huellaDe(const QByteArray &lugar)
+{
+    QByteArray huella;
+    for (const QByteArray &nombre : EntradasDe(lugar)) {
+        const auto estado = EstadoDe(lugar + '/' + nombre);
+        if (estado && S_ISDIR(estado->st_mode))
+            huella += nombre + '/' + huellaDe(lugar + '/' + nombre) + '/';
+        else if (estado && S_ISREG(estado->st_mode))
+            huella += nombre + '/' + QByteArray::number(qint64(estado->st_size)) + '/'
+                + QByteArray::number(qint64(estado->st_mtim.tv_sec)) + '.'
+                + QByteArray::number(qint64(estado->st_mtim.tv_nsec)) + '/';
+    }
+    return huella;
+}
+
+} // namespace
+
 void DiPendiente(const Pendiente &pendiente, const core::Palabras &palabras)
 {
+    static QSet<QByteArray> dichos; // what each run finds there of the one before it is nothing new
+    const QByteArray loDicho =
+        host::nameToDisk(pendiente.destino) + '/' + huellaDe(host::nameToDisk(pendiente.lugar));
+    if (dichos.contains(loDicho))
+        return;
+    dichos.insert(loDicho);
     host::questions().tell(
         palabras.Zem_NoVuelve0, palabras.Zem_NoVuelve1.arg(pendiente.destino, pendiente.lugar));
     const QByteArray lugar = host::nameToDisk(pendiente.lugar);

@@ -86,7 +86,8 @@ QByteArray LugarPrevisto(char letra);
 // Whether it belongs to a game that a running process names.
 bool SigueEnMarcha(const QString &ruta);
 
-// Tells the user in a plain box where it lies, and notes that.
+// Tells the user in a plain box where it lies, and notes that; once for the same files of a place while this
+// process runs.
 void DiPendiente(const Pendiente &pendiente, const core::Palabras &palabras);
 
 // At a start of the program: brings back what earlier ones left, and tells what can't be if nobody has yet.

@@ -204,11 +204,17 @@ TEST_F(OtroSistema, GamesOfADriveThatIsMissingAreToldByTheDrive)
     Pon(u"Zembro.uni"_s, "C=.\r\n");
     EXPECT_TRUE(Zembro({ u"list"_s, u"Sis"_s, u"Uno"_s })
                     .salida.contains("There is no drive D for D:\\: name its place in Zembro.uni."));
-    EXPECT_EQ(Hallazgos(u"no-list"_s).size(), 1);
-    EXPECT_TRUE(Hallazgos(u"no-list"_s).value(0).contains(u"There is no drive D"_s));
-    Pon(u"Zembro.uni"_s, "C=/nowhere\r\nD=roms\r\n");
-    EXPECT_EQ(
-        Hallazgos(u"no-program"_s), QStringList { u"The drive C leads to /nowhere, which is not there."_s });
+}
+
+TEST_F(OtroSistema, CheckTellsADriveThatIsMissingOnce)
+{
+    PonHerramienta(u"dosbox"_s);
+    for (const auto &[unidades, dicho] : { std::pair { "C=.\r\n", "There is no drive D" },
+             { "D=roms\r\n", "There is no drive C" }, { "C=/nowhere\r\nD=roms\r\n", "The drive C leads to" },
+             { "C=.\r\nD=/nowhere\r\n", "The drive D leads to" } }) {
+        Pon(u"Zembro.uni"_s, unidades);
+        EXPECT_EQ(Zembro({ u"check"_s, u"Sis"_s, u"Uno"_s }).salida.count(dicho), 1) << unidades;
+    }
 }
 
 TEST_F(OtroSistema, CheckTellsTheLinesOfDrivesThatDontCount)

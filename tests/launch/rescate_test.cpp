@@ -504,7 +504,55 @@ TEST_F(RescateTest, DeDosPartidasALaVezNoSePierdeNinguna)
     makeFile(enOtra + "/NINO.SAV", "other");
     otra.reset();
     EXPECT_EQ(bytes("roms/Nino.sav"), "other") << "the last one goes on";
-    EXPECT_EQ(bytes("roms/Nino-2.sav"), "one") << "which the other run wasn't shown";
+    EXPECT_EQ(bytes("roms/Nino-2.sav"), "before") << "which the other one may have under another name";
+    EXPECT_EQ(bytes("roms/Nino-3.sav"), "one") << "which the other one was not shown";
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+TEST_F(RescateTest, LoMismoDeUnLugarSeDiceUnaVezMientrasElProgramaDura)
+{
+    const auto quita = [&] { rename(place("roms").constData(), place("away").constData()); };
+    const auto repon = [&] { rename(place("away").constData(), place("roms").constData()); };
+    const auto dichosTras = [&](const QByteArray &nueva) {
+        quita();
+        launch::CarpetaDeCorrida corrida;
+        repon();
+        const QByteArray lugar = launch::HazCarpetaDeApodos(corrida, Montaje()).sliced(place().size());
+        if (!nueva.isEmpty())
+            makeFile(lugar + '/' + nueva, "saved");
+        quita();
+        for (const launch::Pendiente &pendiente : corrida.Recoge().pendientes)
+            launch::DiPendiente(pendiente, M.Palabras);
+        repon();
+        return respuestas.dichos.size();
+    };
+    EXPECT_EQ(dichosTras("NINO.NEW"), 1);
+    EXPECT_EQ(dichosTras(""), 1);
+    EXPECT_EQ(dichosTras("NINO.SV9"), 2);
+    EXPECT_EQ(dichosTras(""), 2);
+    launch::RescataRestos();
+    EXPECT_EQ(bytes("roms/NINO.NEW"), "saved");
+    EXPECT_EQ(bytes("roms/NINO.SV9"), "saved");
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+// One has renamed what the other replaces.
+TEST_F(RescateTest, LoQueOtraPartidaTieneConOtroNombreNoSePierde)
+{
+    std::optional<launch::CarpetaDeCorrida> una(std::in_place);
+    const QByteArray enUna = launch::HazCarpetaDeApodos(*una, Montaje());
+    rename((enUna + "/NINO.SAV").constData(), (enUna + "/NINO.BAK").constData());
+    std::optional<launch::CarpetaDeCorrida> otra(std::in_place);
+    const QByteArray enOtra = launch::HazCarpetaDeApodos(*otra, Montaje()).sliced(place().size());
+    unlink(place(enOtra + "/NINO.SAV").constData());
+    makeFile(enOtra + "/NINO.SAV", "other");
+    otra.reset();
+    EXPECT_EQ(bytes("roms/Nino.sav"), "other");
+    EXPECT_EQ(bytes("roms/Nino-2.sav"), "before");
+    una.reset();
+    EXPECT_EQ(bytes("roms/Nino.sav"), "other");
+    EXPECT_EQ(bytes("roms/Nino-2.sav"), "before");
+    EXPECT_EQ(bytes("roms/NINO.BAK"), "other") << "where one file had two names";
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
