@@ -72,6 +72,7 @@ private:
     QJsonArray m_cambios;
     std::vector<Copia> m_capturas;
     QStringList m_distintas; // drives, in words
+    QStringList m_malas; // lines of the old drives that don't count
     int m_puestos = 0;
     int m_descripciones = 0;
     int m_parametros = 0;
@@ -259,11 +260,12 @@ int Adopcion::responde(int estado)
         m_sesion.Json({ { u"directory"_s, m_viejo.ruta }, { u"pairs"_s, m_parejas },
             { u"emulators"_s, m_puestos }, { u"descriptions"_s, m_descripciones },
             { u"parameters"_s, m_parametros }, { u"captures"_s, capturas }, { u"drives"_s, m_unidades },
-            { u"drives_that_differ"_s, QJsonArray::fromStringList(m_distintas) }, { u"written"_s, m_escribe },
+            { u"drives_that_differ"_s, QJsonArray::fromStringList(m_distintas) },
+            { u"drive_lines"_s, QJsonArray::fromStringList(m_malas) }, { u"written"_s, m_escribe },
             { u"changes"_s, m_cambios } });
         return estado;
     }
-    m_sesion.Escribe(m_dichos + m_distintas);
+    m_sesion.Escribe(m_dichos + m_distintas + m_malas);
     m_sesion.Escribe((m_escribe ? palabras.Zbo_Adoptado : palabras.Zbo_Adoptaria)
                          .arg(m_puestos)
                          .arg(m_descripciones)
@@ -277,6 +279,11 @@ int Adopcion::responde(int estado)
 int Adopcion::Haz()
 {
     m_distintas = unidadesDistintas();
+    for (const LineaDeUnidad &mala :
+        LineasQueNoCuentan(m_viejo.textoDeUnidades, m_viejo.ruta, m_sesion.palabras)) {
+        if (mala.clase != u"drive-missing") // which each pair tells
+            m_malas += u"%1/%2:%3: %4"_s.arg(m_viejo.ruta, QString(Unidades)).arg(mala.linea).arg(mala.dicho);
+    }
     int estado = ponUnidades();
     const host::OtherDrives ambas(unidadesDeAmbos());
     for (EmuladorViejo &uno : m_viejo.emuladores)

@@ -210,33 +210,41 @@ QString FaltaDeUnidad(const QString &ruta, const Palabras &palabras)
                   : palabras.Zbo_NoUnidad.arg(QString(letra), ruta);
 }
 
+std::vector<LineaDeUnidad> LineasQueNoCuentan(
+    const QString &texto, const QString &directorio, const Palabras &palabras)
+{
+    std::vector<LineaDeUnidad> malas;
+    QHash<QChar, int> lineas;
+    int numero = 0;
+    for (const core::LineaConFin &linea : core::EnLineas(texto)) {
+        ++numero;
+        const QString escrita = linea.linea.toString();
+        const std::vector<host::Drive> suyas = host::drivesIn(escrita, directorio);
+        if (escrita.trimmed().isEmpty() || escrita.startsWith(u'\''))
+            continue;
+        if (suyas.empty())
+            malas.push_back({ numero, u"no-drive-line"_s, palabras.Zbo_UniNada });
+        else if (const int anterior = lineas.value(suyas[0].letter); anterior > 0)
+            malas.push_back(
+                { numero, u"drive-twice"_s, palabras.Zbo_UniOtra.arg(suyas[0].letter).arg(anterior) });
+        else if (lineas.insert(suyas[0].letter, numero); !host::exists(suyas[0].place))
+            malas.push_back({ numero, u"drive-missing"_s,
+                palabras.Zbo_SinSitio.arg(QString(suyas[0].letter), suyas[0].place) });
+    }
+    return malas;
+}
+
 void RevisaUnidades(const Sesion &sesion, Revision &revision)
 {
     if (!host::exists(host::programFile(Unidades)))
         return;
-    const Palabras &palabras = sesion.palabras;
-    const QString texto = TextoDelPrograma(sesion.M, Unidades);
-    QHash<QChar, int> lineas;
-    int numero = 0;
-    const auto halla = [&](const QString &clase, const QString &dicho) {
+    for (const LineaDeUnidad &mala :
+        LineasQueNoCuentan(TextoDelPrograma(sesion.M, Unidades), host::programDirectory(), sesion.palabras)) {
         const bool dichoYa = std::ranges::any_of(revision, [&](const Hallazgo &hallazgo) {
-            return hallazgo.fichero == Unidades && hallazgo.linea == numero;
+            return hallazgo.fichero == Unidades && hallazgo.linea == mala.linea;
         });
         if (!dichoYa)
-            revision.push_back({ clase, Unidades, numero, {}, dicho });
-    };
-    for (const core::LineaConFin &linea : core::EnLineas(texto)) {
-        ++numero;
-        const QString escrita = linea.linea.toString();
-        const std::vector<host::Drive> suyas = host::drivesIn(escrita, host::programDirectory());
-        if (escrita.trimmed().isEmpty() || escrita.startsWith(u'\''))
-            continue;
-        if (suyas.empty())
-            halla(u"no-drive-line"_s, palabras.Zbo_UniNada);
-        else if (const int anterior = lineas.value(suyas[0].letter); anterior > 0)
-            halla(u"drive-twice"_s, palabras.Zbo_UniOtra.arg(suyas[0].letter).arg(anterior));
-        else if (lineas.insert(suyas[0].letter, numero); !host::exists(suyas[0].place))
-            halla(u"drive-missing"_s, palabras.Zbo_SinSitio.arg(QString(suyas[0].letter), suyas[0].place));
+            revision.push_back({ mala.clase, Unidades, mala.linea, {}, mala.dicho });
     }
 }
 

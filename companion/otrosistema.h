@@ -8,6 +8,8 @@
 #include <QJsonObject>
 #include <QStringList>
 
+#include <vector>
+
 namespace companion {
 
 // What would be started for a command, ready for a shell: for DOSBox without a file of its own.
@@ -30,6 +32,16 @@ Rescatado RescataLoGuardado(const Sesion &sesion, Revision &revision);
 // What is wrong with the drive that a path begins with: none of this letter, or its place isn't there. Empty
 // for any other path.
 QString FaltaDeUnidad(const QString &ruta, const Palabras &palabras);
+
+// The lines of a text like Zembro.uni that name no drive, or one that isn't there; `directorio` is the one
+// that the file lies in.
+struct LineaDeUnidad {
+    int linea; // counted from 1
+    QString clase;
+    QString dicho;
+};
+std::vector<LineaDeUnidad> LineasQueNoCuentan(
+    const QString &texto, const QString &directorio, const Palabras &palabras);
 
 // What is wrong with the lines of Zembro.uni, and places of drives that are missing and told of nowhere yet.
 void RevisaUnidades(const Sesion &sesion, Revision &revision);

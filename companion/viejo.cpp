@@ -133,7 +133,7 @@ QString conBloque(const QString &texto, const QString &sistema)
 
 DirectorioViejo LeeViejo(const QString &ruta)
 {
-    DirectorioViejo viejo { ruta, {}, {}, {}, {} };
+    DirectorioViejo viejo { ruta, {}, {}, {}, {}, {} };
     const EnOtroDirectorio alli(ruta);
     const QString catalogo = textoDe(host::programFile(u"Zembro.emu"_s));
     const QString notas = textoDe(host::programFile(u"Zembro.rom"_s));
@@ -146,7 +146,8 @@ DirectorioViejo LeeViejo(const QString &ruta)
     for (const QString &sistema : std::as_const(sistemas))
         viejo.notas.push_back(notasDe(sistema));
     viejo.parametros = parametrosDe(notas);
-    viejo.unidades = host::drivesIn(textoDe(host::programFile(u"Zembro.uni"_s)), ruta);
+    viejo.textoDeUnidades = textoDe(host::programFile(u"Zembro.uni"_s));
+    viejo.unidades = host::drivesIn(viejo.textoDeUnidades, ruta);
     return viejo;
 }
 

@@ -32,7 +32,8 @@ struct DirectorioViejo {
     std::vector<EmuladorViejo> emuladores; // in the file's order
     std::vector<NotasViejas> notas;
     std::vector<core::Parametros> parametros;
-    std::vector<host::Drive> unidades; // that its own file names
+    QString textoDeUnidades; // of its own file
+    std::vector<host::Drive> unidades; // that it names
 };
 
 // Reads what is there; a file that is missing holds nothing. Fails where one can't be read.

@@ -82,11 +82,11 @@ END
         play atari stella prisma
     printf '\n## why\n'
     play_on_screen
-    example "What became of the last launch of the main program, if it was started by \`./run.sh\`, the package's \`zembrolix\` or the portable archive's starter." why
+    example "What became of the last launch of the main program, if it was started by \`./run.sh\`, the package's \`zembrolix\` or the portable archive's starter. It first brings back what a game for DOS or Windows saved and nobody has put into its place yet, and says of each file where it is now, or where it lies still." why
     printf '\n## check\n'
     sed -i -e "s|^EXE=.*|EXE=$work/dyes|" -e "/^'---/d" Zembro.emu
     mv demo/prisma.gif "demo/prisma (1).gif"
-    example "An executable that is mistyped, a catalogue that lost its closing line, a capture that is never found:" check
+    example "An executable that is mistyped, a catalogue that lost its closing line, a capture that is never found. What games left behind it brings back first, as \`why\` does:" check
     example "What has one answer only, and check says so of each finding, can be repaired; \`--write\` does it." check --mend
     printf '\n## find\n'
     example "Emulators that came to the machine since; \`--write\` configures them." find
@@ -119,7 +119,7 @@ END
         'PAR1=' 'PAR2=' "'------" '[EOF]' >"$work/old/Zembro.emu"
     printf 'C=DISK\r\n' >"$work/old/Zembro.uni"
     printf 'MZ' >"$work/old/DISK/EMUS/OLDNES.EXE"
-    example "An old program directory, made on another system; its own \`Zembro.uni\`, where it has one, names the drives. \`--write\` does it." \
+    example "An old program directory, made on another system; its own \`Zembro.uni\`, where it has one, names the drives, and each line of that which names none is told. \`--write\` does it." \
         adopt ../old
 }
 page >"$project/docs/zembro.md"

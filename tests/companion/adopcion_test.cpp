@@ -187,6 +187,17 @@ TEST_F(Adopt, WhatWouldListNoGamesIsToldSo)
                     .salida.contains("\nSis / Viejo: It starts, but no games can be listed: "));
 }
 
+TEST_F(Adopt, OldLinesThatNameNoDriveAreTold)
+{
+    Pon(u"old/Zembro.uni"_s, "C=disk\r\n' a note\r\nthe CD\r\nc=other\r\nD=E:\\X\r\n");
+    const QByteArray fichero = Ruta(u"old/Zembro.uni"_s).toUtf8();
+    const QByteArray dicho = Zembro({ u"adopt"_s, Ruta(u"old"_s) }).salida;
+    EXPECT_TRUE(dicho.contains('\n' + fichero + ":3: This line names no drive")) << dicho.toStdString();
+    EXPECT_TRUE(dicho.contains('\n' + fichero + ":4: The drive C has its place from an earlier line, 1"));
+    EXPECT_TRUE(dicho.contains('\n' + fichero + ":5: This line names no drive"));
+    EXPECT_EQ(Adopta({}, companion::Hallazgos)[u"drive_lines"_s].toArray().size(), 3);
+}
+
 TEST_F(Adopt, ADriveThatLeadsElsewhereHereIsTold_AndStays)
 {
     Pon(u"Zembro.uni"_s, "C=emu\r\n");
