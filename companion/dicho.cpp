@@ -4,9 +4,12 @@
 #include "companion/impedimento.h"
 #include "companion/pantalla.h"
 
+#include "core/rutas.h"
+
 #include "host/paths.h"
 
 #include "launch/ensayo.h"
+#include "launch/piezas.h"
 #include "launch/shell.h"
 
 #include <QJsonArray>
@@ -17,22 +20,41 @@ namespace companion {
 
 namespace {
 
-// Why it would not start; empty if it would.
+// Why it would not start; empty if it would. And the program that may be meant by one that isn't there.
+struct Motivo {
+    QString texto;
+    QString parecido;
+};
+
+// The path that the catalogue has for the program that isn't there; none where it is.
+std::optional<QString> programaQueFalta(const core::Modulo &M, const Pareja &pareja)
+{
+    const QString exe = core::RutaDeLinea(M.Cat_EXE(pareja.sistema, pareja.fila));
+    return launch::ProgramaDe(exe).ExeCorto.enDisco.isEmpty() ? std::optional(exe) : std::nullopt;
+}
+
 QString impedimento(const Sesion &sesion, const launch::Ensayo &ensayo)
 {
     if (!ensayo.orden)
         return ensayo.aviso.isEmpty() ? sesion.palabras.Zbo_NadaSeLanza : ensayo.aviso;
-    const QStringList argumentos = ensayo.orden->Argumentos();
-    if (argumentos.isEmpty())
-        return sesion.palabras.Zbo_SinPrograma;
     const launch::Encargo &encargo = ensayo.encargo;
     if (encargo.corredor != launch::Corredor::Ninguno)
         return launch::TextoDe(encargo.traba, encargo.corredor, sesion.M.Palabras);
     // A bare name is the executable's in its own directory, where it will be started.
-    const QString &programa = argumentos.first();
+    const QString programa = ensayo.orden->Argumentos().first();
     const QString ruta = programa.contains(u'/') ? programa : ensayo.directorio + u'/' + programa;
     const std::optional<Impedimento> impedimento = ImpedimentoDe(ruta, sesion.palabras);
     return impedimento ? impedimento->texto : QString();
+}
+
+Motivo motivoDe(const Sesion &sesion, const Pareja &pareja, const launch::Ensayo &ensayo)
+{
+    if (!ensayo.orden || !ensayo.orden->Argumentos().isEmpty())
+        return { impedimento(sesion, ensayo), {} };
+    const std::optional<QString> falta = programaQueFalta(sesion.M, pareja);
+    if (!falta)
+        return { sesion.palabras.Zbo_SinPrograma, {} };
+    return { NoHayPrograma(*falta, sesion.palabras), ProgramaParecido(*falta) };
 }
 
 QJsonObject enJson(const launch::Ensayo::Zip &zip)
@@ -46,14 +68,16 @@ QJsonObject enJson(const launch::Ensayo::Zip &zip)
         { u"removed"_s, zip.seVaEntero ? u"directory"_s : u"files"_s } };
 }
 
-QJsonObject enJson(const Pedida &pedida, const launch::Ensayo &ensayo, const QString &motivo)
+QJsonObject enJson(const Pedida &pedida, const launch::Ensayo &ensayo, const Motivo &motivo)
 {
     QJsonObject objeto { { u"system"_s, pedida.pareja.nombreSistema },
         { u"emulator"_s, pedida.pareja.nombreEmulador }, { u"entry"_s, pedida.entrada },
-        { u"starts"_s, motivo.isEmpty() } };
-    if (!motivo.isEmpty())
-        objeto[u"problem"_s] = motivo;
-    if (ensayo.orden) {
+        { u"starts"_s, motivo.texto.isEmpty() } };
+    if (!motivo.texto.isEmpty())
+        objeto[u"problem"_s] = motivo.texto;
+    if (!motivo.parecido.isEmpty())
+        objeto[u"similar"_s] = motivo.parecido;
+    if (ensayo.orden && !ensayo.orden->Argumentos().isEmpty()) {
         objeto[u"arguments"_s] = QJsonArray::fromStringList(ensayo.orden->Argumentos());
         AnadeCorredor(objeto, ensayo.encargo);
         objeto[u"text"_s] = ensayo.orden->EnTexto();
@@ -80,28 +104,50 @@ void cuentaZip(const Sesion &sesion, const launch::Ensayo::Zip &zip)
         sesion.Escribe(palabras.Zbo_SeQueda.arg(zip.destino + u'/' + subdirectorio + u'/'));
 }
 
-void cuenta(const Sesion &sesion, const launch::Ensayo &ensayo, const QString &motivo)
+QStringList enLineas(const Motivo &motivo, const Palabras &palabras)
+{
+    QStringList lineas;
+    if (!motivo.texto.isEmpty())
+        lineas += palabras.Zbo_NoArranca.arg(motivo.texto);
+    if (!motivo.parecido.isEmpty())
+        lineas += palabras.Zbo_Parecido.arg(motivo.parecido);
+    return lineas;
+}
+
+// False where a script that takes the answer for a command would get none.
+bool cuentaOrden(const Sesion &sesion, const launch::Ensayo &ensayo)
 {
     const Palabras &palabras = sesion.palabras;
-    if (ensayo.orden) {
-        const bool sinHerramienta = ensayo.encargo.traba == launch::Traba::SinHerramienta;
-        const QStringList argumentos = ArgumentosParaLaConsola(ensayo.encargo);
-        if (sinHerramienta && (sesion.Tiene(u"lines"_s) || sesion.Tiene(u"shell"_s)))
-            return sesion.Avisa(palabras.Zbo_NoArranca.arg(motivo));
-        if (sesion.Tiene(u"lines"_s))
-            return sesion.Escribe(argumentos);
-        if (sesion.Tiene(u"shell"_s))
-            return sesion.Escribe(launch::EnShell(argumentos));
-        if (!sinHerramienta)
-            sesion.Escribe(palabras.Zbo_LaOrden.arg(launch::EnShell(argumentos)));
-        sesion.Escribe(palabras.Zbo_EnDir.arg(ensayo.directorio));
-        sesion.Escribe(palabras.Zbo_ElTexto.arg(ensayo.orden->EnTexto()));
-        sesion.Escribe(DichoDe(sesion, ensayo.encargo));
+    const bool soloOrden = sesion.Tiene(u"lines"_s) || sesion.Tiene(u"shell"_s);
+    const QStringList argumentos = ArgumentosParaLaConsola(ensayo.encargo);
+    const bool hayOrden =
+        ensayo.encargo.traba != launch::Traba::SinHerramienta && !ensayo.orden->Argumentos().isEmpty();
+    if (soloOrden && hayOrden)
+        sesion.Escribe(sesion.Tiene(u"lines"_s) ? argumentos : QStringList { launch::EnShell(argumentos) });
+    if (soloOrden)
+        return hayOrden;
+    if (hayOrden)
+        sesion.Escribe(palabras.Zbo_LaOrden.arg(launch::EnShell(argumentos)));
+    if (!ensayo.orden->Argumentos().isEmpty())
+        sesion.Escribe(QStringList {
+            palabras.Zbo_EnDir.arg(ensayo.directorio), palabras.Zbo_ElTexto.arg(ensayo.orden->EnTexto()) });
+    sesion.Escribe(DichoDe(sesion, ensayo.encargo));
+    return true;
+}
+
+void cuenta(const Sesion &sesion, const launch::Ensayo &ensayo, const Motivo &motivo)
+{
+    const bool soloOrden = sesion.Tiene(u"lines"_s) || sesion.Tiene(u"shell"_s);
+    const QStringList razones = enLineas(motivo, sesion.palabras);
+    if (ensayo.orden && !cuentaOrden(sesion, ensayo)) {
+        for (const QString &razon : razones)
+            sesion.Avisa(razon);
     }
+    if (ensayo.orden && soloOrden)
+        return;
     if (ensayo.zip)
         cuentaZip(sesion, *ensayo.zip);
-    if (!motivo.isEmpty())
-        sesion.Escribe(palabras.Zbo_NoArranca.arg(motivo));
+    sesion.Escribe(razones);
 }
 
 int dice(Sesion &sesion)
@@ -111,12 +157,12 @@ int dice(Sesion &sesion)
         return NoPudo;
     PantallaDeTexto pantalla(sesion, pedida->pareja, pedida->entradas, pedida->entrada);
     const launch::Ensayo ensayo = launch::Ensaya(sesion.M, pantalla);
-    const QString motivo = impedimento(sesion, ensayo);
+    const Motivo motivo = motivoDe(sesion, pedida->pareja, ensayo);
     if (sesion.EnJson())
         sesion.Json(enJson(*pedida, ensayo, motivo));
     else
         cuenta(sesion, ensayo, motivo);
-    return motivo.isEmpty() ? Bien : Hallazgos;
+    return motivo.texto.isEmpty() ? Bien : Hallazgos;
 }
 
 } // namespace

@@ -81,7 +81,42 @@ TEST_F(Command, AnExecutableThatIsNotThereIsSaid)
     Borra(u"emu/uno.sh"_s);
     const QJsonObject mario = Json({ u"command"_s, u"Sis"_s, u"Uno"_s, u"Mario"_s }, companion::Hallazgos);
     EXPECT_EQ(mario[u"starts"_s].toBool(), false);
-    EXPECT_EQ(mario[u"problem"_s].toString(), u"The emulator's executable isn't there."_s);
+    EXPECT_EQ(mario[u"problem"_s].toString(),
+        u"There is no program "_s + Ruta(u"emu/uno.sh"_s) + u"; correct its path in the configuration."_s);
+    EXPECT_FALSE(mario.contains(u"similar"_s));
+    EXPECT_FALSE(mario.contains(u"arguments"_s));
+}
+
+TEST_F(Command, AnExecutableThatIsMistypedIsSaidWithTheOneThatMayBeMeant)
+{
+    QFile::rename(Ruta(u"emu/uno.sh"_s), Ruta(u"emu/unos.sh"_s));
+    const QStringList orden { u"command"_s, u"Sis"_s, u"Uno"_s, u"Mario"_s };
+    EXPECT_EQ(Json(orden, companion::Hallazgos)[u"similar"_s].toString(), Ruta(u"emu/unos.sh"_s));
+    const Respuesta respuesta = Zembro(orden);
+    EXPECT_EQ(respuesta.estado, companion::Hallazgos);
+    EXPECT_EQ(respuesta.salida,
+        "Doesn't start: There is no program " + Ruta(u"emu/uno.sh"_s).toUtf8()
+            + "; correct its path in the configuration.\nPerhaps this one is meant: "
+            + Ruta(u"emu/unos.sh"_s).toUtf8() + '\n');
+    // Nothing that a script would take for a command.
+    for (const QString &opcion : { u"--lines"_s, u"--shell"_s }) {
+        const Respuesta lineas = Zembro(orden + QStringList { opcion });
+        EXPECT_EQ(lineas.estado, companion::Hallazgos);
+        EXPECT_EQ(lineas.salida, "");
+        EXPECT_TRUE(lineas.error.startsWith("zembro: Doesn't start: There is no program ")
+            && lineas.error.contains(Ruta(u"emu/unos.sh"_s).toUtf8()))
+            << lineas.error.toStdString();
+    }
+    // In other case it is found.
+    QFile::rename(Ruta(u"emu/unos.sh"_s), Ruta(u"emu/UNO.SH"_s));
+    EXPECT_EQ(argumentos(Json(orden)).value(0), Ruta(u"emu/UNO.SH"_s));
+}
+
+TEST_F(Command, OfAnExecutableWithoutAPathIsSaidSo)
+{
+    Cambia(u"Zembro.emu"_s, "EXE=" + Ruta(u"emu/uno.sh"_s).toUtf8() + "\r\nXDI=NO.0", "EXE=\r\nXDI=NO.0");
+    EXPECT_EQ(Zembro({ u"command"_s, u"Sis"_s, u"Uno"_s, u"Mario"_s }).salida,
+        "Doesn't start: The path of the program is empty; name the program in the configuration.\n");
 }
 
 TEST_F(Command, AnExecutableWithoutTheRightToRunIsSaid)
