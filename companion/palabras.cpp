@@ -78,6 +78,8 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_OtraMaquina", &P::Zbo_OtraMaquina },
         { u"Zbo_NoEsPrograma", &P::Zbo_NoEsPrograma },
         { u"Zbo_SinROMs", &P::Zbo_SinROMs },
+        { u"Zbo_JuegoSinROMs", &P::Zbo_JuegoSinROMs },
+        { u"Zbo_SinVerificar", &P::Zbo_SinVerificar },
         { u"Zbo_SinTipo", &P::Zbo_SinTipo },
         { u"Zbo_ListaCortada", &P::Zbo_ListaCortada },
         { u"Zbo_NoSeLista", &P::Zbo_NoSeLista },

@@ -46,8 +46,12 @@ struct PalabrasDeRevision {
         QStringLiteral("The program %1 is for another processor: %2; install one for this machine.");
     QString Zbo_NoEsPrograma = QStringLiteral(
         "The file %1 is no program that this machine knows; name another one in the configuration.");
-    QString Zbo_SinROMs =
-        QStringLiteral("The machine %1 of MAME lacks ROMs of its own; this names them: mame -verifyroms %1");
+    QString Zbo_SinROMs = QStringLiteral("The machine %1 of MAME lacks ROMs of its own; in the directory %2, "
+                                         "where a launch starts it, this names them: %3");
+    QString Zbo_JuegoSinROMs = QStringLiteral("MAME doesn't find all ROMs of the game %1; in the directory "
+                                              "%2, where a launch starts it, this names them: %3");
+    QString Zbo_SinVerificar = QStringLiteral("MAME was asked about the ROMs of the first %1 games alone; "
+                                              "not asked about: %2. check SYSTEM EMULATOR asks about all.");
     QString Zbo_SinTipo = QStringLiteral("The XDI line doesn't end in a type from 0 to 3 or from 5 to 8, so "
                                          "nothing is listed; choose the type anew in the configuration.");
     QString Zbo_ListaCortada = QStringLiteral("The list is cut: the length of a file can't be had.");

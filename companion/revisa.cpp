@@ -39,11 +39,12 @@ QJsonObject enJson(const Pareja &pareja, const Cuenta &cuenta)
     QJsonArray sinCaptura;
     for (const SinCaptura &una : cuenta.sinCaptura)
         sinCaptura += QJsonObject { { u"entry"_s, una.entrada }, { u"looked_for"_s, una.ruta } };
-    return { { u"system"_s, pareja.nombreSistema }, { u"emulator"_s, pareja.nombreEmulador },
-        { u"listed"_s, cuenta.listados }, { u"other_extension"_s, cuenta.otraExtension },
-        { u"filtered"_s, cuenta.filtrados }, { u"no_zip"_s, cuenta.otroTipo },
-        { u"other_things"_s, cuenta.otraCosa.size() }, { u"hidden"_s, cuenta.ocultos.size() },
-        { u"without_capture"_s, sinCaptura.size() }, { u"missing_captures"_s, sinCaptura } };
+    return { { u"not_verified"_s, cuenta.sinVerificar }, { u"system"_s, pareja.nombreSistema },
+        { u"emulator"_s, pareja.nombreEmulador }, { u"listed"_s, cuenta.listados },
+        { u"other_extension"_s, cuenta.otraExtension }, { u"filtered"_s, cuenta.filtrados },
+        { u"no_zip"_s, cuenta.otroTipo }, { u"other_things"_s, cuenta.otraCosa.size() },
+        { u"hidden"_s, cuenta.ocultos.size() }, { u"without_capture"_s, sinCaptura.size() },
+        { u"missing_captures"_s, sinCaptura } };
 }
 
 QJsonArray enJson(const Revision &revision)
@@ -119,6 +120,9 @@ QStringList enLineas(const Sesion &sesion, const Pareja &pareja, const Cuenta &c
         const SinCaptura &una = cuenta.sinCaptura[size_t(i)];
         lineas += u"    "_s + palabras.Zbo_FaltaCaptura.arg(una.entrada, una.ruta);
     }
+    if (cuenta.sinVerificar > 0)
+        lineas += u"    "_s
+            + palabras.Zbo_SinVerificar.arg(cuenta.listados - cuenta.sinVerificar).arg(cuenta.sinVerificar);
     if (dichas < total)
         lineas += u"    "_s + palabras.Zbo_FaltanMas.arg(total - dichas);
     return lineas;

@@ -66,11 +66,20 @@ struct Cuenta {
     QStringList otraCosa; // names of what is no file, or where directories are games no directory
     QStringList ocultos; // names that are never listed
     std::vector<SinCaptura> sinCaptura;
+    qsizetype sinVerificar = 0; // games that MAME was not asked about
 };
 
 // Of one pair: program, directories, list. The lines are those of Zembro.emu.
 Cuenta RevisaPareja(
     Sesion &sesion, const Pareja &pareja, const LineasDelCatalogo &lineas, Revision &revision);
+
+// What MAME says of the ROMs of the machine that a pair's parameters name; and where they name none, of those
+// of the games whose names a launch hands on. It is asked about so many games only, unless the pair is asked
+// for: yields how many are left.
+void RevisaMaquinaDeMAME(
+    const Sesion &sesion, const Pareja &pareja, const LineasDeEmulador &lineas, Revision &revision);
+qsizetype RevisaJuegosDeMAME(Sesion &sesion, const Pareja &pareja, const LineasDeEmulador &lineas,
+    const QStringList &entradas, Revision &revision);
 
 // Of the listed files, or directories, of a pair's games.
 void RevisaJuegos(const Sesion &sesion, const Pareja &pareja, const QString &directorio,

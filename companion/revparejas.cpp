@@ -4,7 +4,6 @@
 #include "companion/impedimento.h"
 #include "companion/otrosistema.h"
 
-#include "finder/eleccion.h"
 #include "finder/juegos.h"
 
 #include "core/catalogo.h"
@@ -21,7 +20,6 @@
 #include "launch/piezas.h"
 
 #include <QHash>
-#include <QProcess>
 #include <QSet>
 
 #include <optional>
@@ -62,7 +60,6 @@ private:
         m_revision.push_back({ clase, ruta, linea, nombre(), dicho });
     }
     QString nombre() const { return m_pareja.nombreSistema + u" / "_s + m_pareja.nombreEmulador; }
-    void MaquinaDeMAME(const launch::Programa &programa);
     void Juegos(const Listado &listado);
     void NoListados(const QString &directorio);
     void NadaListado(const QString &directorio);
@@ -76,6 +73,7 @@ private:
     const LineasDeEmulador m_lineas;
     Revision &m_revision;
     const int m_tipo;
+    bool m_arranca = false; // the program, as far as is known, and on this machine
 };
 
 // The line of Zembro.rom, counted from 1, of the second record with this description; 0 if none is.
@@ -116,47 +114,8 @@ void RevisorDePareja::Programa()
         return;
     if (const std::optional<Impedimento> falta = ImpedimentoDe(enDisco, m_palabras))
         return halla(falta->clase, falta->texto, m_lineas.EXE);
-    MaquinaDeMAME(programa);
-}
-
-// Takes the options that tell MAME where its ROMs are out of the parameters.
-QStringList dondeHayROMs(QStringList &parametros)
-{
-    QStringList opciones;
-    for (qsizetype i = 0; i + 1 < parametros.size();) {
-        if (parametros[i] == u"-rompath" || parametros[i] == u"-rp")
-            opciones += { parametros.takeAt(i), parametros.takeAt(i) };
-        else
-            ++i;
-    }
-    return opciones;
-}
-
-// The first parameter that isn't an option names the machine. MAME itself tells what it lacks, looking where
-// a launch lets it look.
-void RevisorDePareja::MaquinaDeMAME(const launch::Programa &programa)
-{
-    if (!finder::EsMAME(programa.ExeCorto.enDisco))
-        return;
-    const auto parametrosDe = [&](const auto &tabla) {
-        return host::splitArguments(
-            host::lower(core::Valor(tabla(m_pareja.sistema, m_pareja.fila), core::PrefijoParametro)));
-    };
-    QStringList parametros = parametrosDe(M.Cat_PAR1);
-    QStringList detras = parametrosDe(M.Cat_PAR2);
-    const QStringList opciones = dondeHayROMs(parametros) + dondeHayROMs(detras);
-    if (parametros.isEmpty() || parametros.first().startsWith(u'-'))
-        return;
-    constexpr int paciencia = 20'000; // milliseconds
-    QProcess mame;
-    mame.setStandardInputFile(QProcess::nullDevice());
-    mame.setWorkingDirectory(programa.ExeDir.enDisco);
-    mame.start(programa.ExeCorto.enDisco, QStringList { u"-verifyroms"_s, parametros.first() } + opciones);
-    const bool acabo = mame.waitForFinished(paciencia);
-    if (acabo && mame.exitStatus() == QProcess::NormalExit && mame.exitCode() != 0)
-        halla(u"machine-without-roms"_s, m_palabras.Zbo_SinROMs.arg(parametros.first()), m_lineas.EXE);
-    if (!acabo)
-        mame.kill();
+    m_arranca = true;
+    RevisaMaquinaDeMAME(m_sesion, m_pareja, m_lineas, m_revision);
 }
 
 void RevisorDePareja::Lista()
@@ -178,6 +137,9 @@ void RevisorDePareja::Lista()
             halla(u"list-cut"_s, m_palabras.Zbo_ListaCortada, m_lineas.ROM);
         NoListados(directorio);
         Juegos(listado);
+        if (m_arranca)
+            cuenta.sinVerificar =
+                RevisaJuegosDeMAME(m_sesion, m_pareja, m_lineas, listado.recuento.entradas, m_revision);
     } catch (const host::Failure &fallo) {
         if (!FaltaDeUnidad(directorio, m_palabras).isEmpty())
             return; // told of the drive
