@@ -112,6 +112,10 @@ std::unique_ptr<LectorDeFuente> leeFuente(
     if (!(deMAME ? leeMAME(sesion, nombre, *lector) : leeFichero(sesion, nombre, *lector)))
         return nullptr;
     lector->Fin();
+    if (lector->EsAjeno()) {
+        sesion.Falla(sesion.palabras.Zbo_ListaAjena.arg(nombre));
+        return nullptr;
+    }
     if (!lector->ElError() && lector->Nombres() == 0) {
         sesion.Falla(sesion.palabras.Zbo_ListaVacia.arg(nombre));
         return nullptr;

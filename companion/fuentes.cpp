@@ -4,6 +4,9 @@
 #include "host/letters.h"
 #include "host/paths.h"
 
+#include <algorithm>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace companion {
@@ -14,6 +17,16 @@ constexpr qsizetype MaxLinea = 65536; // bytes; a longer one is none
 constexpr qsizetype MaxTexto = 4096; // characters of a name or a description
 
 const QByteArray Marca = "\xEF\xBB\xBF"; // of UTF-8, at the beginning
+const QByteArray MarcaLE = "\xFF\xFE"; // of UTF-16, the low byte first
+const QByteArray MarcaBE = "\xFE\xFF";
+
+constexpr int UnaDeCuantas = 10; // a text with more characters of control is none
+
+// Not those that end lines and pages, nor the end of the text as old editors mark it.
+bool esDeControl(char byte)
+{
+    return byte >= 0 && byte < ' ' && !QByteArrayView("\t\n\r\f\x1a").contains(byte);
+}
 
 bool esJuego(QStringView elemento)
 {
@@ -29,14 +42,42 @@ LectorDeFuente::LectorDeFuente(QSet<QString> buscados)
 
 void LectorDeFuente::Trozo(const QByteArray &bytes)
 {
+    if (m_empezado) {
+        trozoEnUtf8(m_deUtf16 ? QByteArray(m_enUtf8.encode(m_deUtf16->decode(bytes))) : bytes);
+        return;
+    }
+    m_principio += bytes;
+    if (m_principio.size() < MarcaLE.size())
+        return;
+    m_empezado = true;
+    if (m_principio.startsWith(MarcaLE) || m_principio.startsWith(MarcaBE))
+        m_deUtf16.emplace(
+            m_principio.startsWith(MarcaLE) ? QStringConverter::Utf16LE : QStringConverter::Utf16BE);
+    Trozo(std::exchange(m_principio, {}));
+}
+
+// What the XML says of its own encoding is of no use where it has been another.
+void LectorDeFuente::daXml(const QByteArray &bytes)
+{
+    if (m_deUtf16)
+        m_xml.addData(QString::fromUtf8(bytes));
+    else
+        m_xml.addData(bytes);
+    leeXml();
+}
+
+void LectorDeFuente::trozoEnUtf8(const QByteArray &bytes)
+{
     if (m_error || bytes.isEmpty())
         return;
     if (m_clase == Clase::Xml) {
-        m_xml.addData(bytes);
-        leeXml();
+        daXml(bytes);
         return;
     }
     m_pendiente += bytes;
+    m_bytes += bytes.size();
+    m_hayNulos = m_hayNulos || bytes.contains('\0');
+    m_deControl += std::ranges::count_if(bytes, esDeControl);
     if (m_clase == Clase::SinSaber) {
         QByteArray inicio = m_pendiente.trimmed();
         if (inicio.startsWith(Marca))
@@ -45,9 +86,8 @@ void LectorDeFuente::Trozo(const QByteArray &bytes)
             return;
         m_clase = inicio.startsWith('<') ? Clase::Xml : Clase::Lineas;
         if (m_clase == Clase::Xml) {
-            m_xml.addData(m_pendiente.sliced(m_pendiente.indexOf('<')));
+            daXml(m_pendiente.sliced(m_pendiente.indexOf('<')));
             m_pendiente.clear();
-            leeXml();
             return;
         }
     }
@@ -56,6 +96,10 @@ void LectorDeFuente::Trozo(const QByteArray &bytes)
 
 void LectorDeFuente::Fin()
 {
+    if (!m_empezado) {
+        m_empezado = true;
+        trozoEnUtf8(std::exchange(m_principio, {}));
+    }
     if (m_clase == Clase::Lineas)
         leeLineas(true);
     else if (m_clase == Clase::Xml && !m_error && !m_xml.atEnd())
@@ -140,6 +184,11 @@ void LectorDeFuente::leeLineas(bool hastaElFin)
     }
     if (hastaElFin && !m_demasiado)
         linea(std::exchange(m_pendiente, {}));
+}
+
+bool LectorDeFuente::EsAjeno() const
+{
+    return m_clase != Clase::Xml && (m_hayNulos || m_deControl * UnaDeCuantas > m_bytes);
 }
 
 void LectorDeFuente::linea(const QByteArray &bytes)

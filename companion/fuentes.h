@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QSet>
 #include <QString>
+#include <QStringConverter>
 #include <QXmlStreamReader>
 
 #include <optional>
@@ -12,8 +13,8 @@
 namespace companion {
 
 // A list is XML where it begins with "<": a DAT, a list of MAME or of its software, or a gamelist.xml. Else
-// it is lines of name, tab, description; other lines are passed over. Only what is asked for is kept, so that
-// a list of any length takes little room.
+// it is lines of name, tab, description; other lines are passed over. With its mark it may be UTF-16. Only
+// what is asked for is kept, so that a list of any length takes little room.
 class LectorDeFuente {
 public:
     // Names in upper case, with their endings and without.
@@ -32,6 +33,9 @@ public:
     // Whether the descriptions are those of a DAT or of MAME, with marks in brackets and articles behind.
     bool EsDeCatalogo() const { return m_deCatalogo; }
 
+    // Whether lines hold what no text does: bytes of 0, or a tenth of those that only a terminal takes.
+    bool EsAjeno() const;
+
     struct Error {
         qint64 linea;
         QString motivo;
@@ -40,6 +44,9 @@ public:
 
 private:
     enum class Clase { SinSaber, Xml, Lineas };
+
+    void trozoEnUtf8(const QByteArray &bytes);
+    void daXml(const QByteArray &bytes);
 
     void leeXml();
     void empiezaElemento();
@@ -53,6 +60,13 @@ private:
     qint64 m_nombres = 0;
     std::optional<Error> m_error;
     Clase m_clase = Clase::SinSaber;
+    QByteArray m_principio; // of which it isn't known yet whether it is a mark of UTF-16
+    std::optional<QStringDecoder> m_deUtf16;
+    QStringEncoder m_enUtf8 { QStringConverter::Utf8 }; // keeps half a character until the rest comes
+    bool m_empezado = false;
+    qint64 m_bytes = 0; // of lines
+    qint64 m_deControl = 0; // of those
+    bool m_hayNulos = false;
     QByteArray m_pendiente; // bytes without an end of line yet
     bool m_demasiado = false; // the line that they belong to is none
 

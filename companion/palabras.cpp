@@ -175,6 +175,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_DesLista", &P::Zbo_DesLista },
         { u"Zbo_DesNombres", &P::Zbo_DesNombres },
         { u"Zbo_ListaVacia", &P::Zbo_ListaVacia },
+        { u"Zbo_ListaAjena", &P::Zbo_ListaAjena },
         { u"Zbo_NadaRepuesto", &P::Zbo_NadaRepuesto },
         { u"Zbo_MedioRepuesto", &P::Zbo_MedioRepuesto },
         // Bulk work.

@@ -187,6 +187,10 @@ struct PalabrasDeRevision {
     QString Zbo_ListaVacia =
         QStringLiteral("%1 holds no name with a description; it should be a DAT, what mame -listxml says, a "
                        "gamelist.xml, or lines of name, tab, description.");
+    QString Zbo_ListaAjena =
+        QStringLiteral("%1 is no list of a kind that is known here, as it holds bytes that no text has; it "
+                       "should be a DAT, what mame -listxml says, a gamelist.xml, or lines of name, tab, "
+                       "description, in UTF-8 or Windows-1252, or with its mark in UTF-16.");
     QString Zbo_NadaRepuesto =
         QStringLiteral("Nothing was restored, and all files are as they were. What failed: %1");
     QString Zbo_MedioRepuesto =

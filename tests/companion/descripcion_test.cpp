@@ -145,6 +145,12 @@ TEST_F(Describe, SaysWhyNothingCameOfIt)
             "zembro: " + Ruta(u"list.txt"_s).toUtf8() + " holds no name with a description; it should be"))
             << respuesta.error.toStdString();
     }
+    Pon(u"list.txt"_s, QByteArray("mario.nes\tA\0b\n", 14));
+    const Respuesta ajena = Zembro(conLista);
+    EXPECT_EQ(ajena.estado, companion::NoPudo);
+    EXPECT_TRUE(ajena.error.startsWith("zembro: " + Ruta(u"list.txt"_s).toUtf8()
+        + " is no list of a kind that is known here, as it holds bytes that no text has; it should be a DAT"))
+        << ajena.error.toStdString();
     Cambia(u"Zembro.emu"_s, "*.NES", "*.XYZ");
     QDir(Ruta(u"dirs/Sonic"_s)).removeRecursively();
     EXPECT_TRUE(

@@ -3,6 +3,8 @@
 
 #include "companion/fuentes.h"
 
+#include <QStringConverter>
+
 #include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
@@ -15,6 +17,7 @@ struct Leido {
     Textos textos;
     bool deCatalogo;
     qint64 lineaDelError;
+    bool ajeno;
 };
 
 Leido lee(const QByteArray &bytes, const QSet<QString> &buscados, qsizetype trozo)
@@ -23,7 +26,8 @@ Leido lee(const QByteArray &bytes, const QSet<QString> &buscados, qsizetype troz
     for (qsizetype i = 0; i < bytes.size(); i += trozo)
         lector.Trozo(bytes.sliced(i, std::min(trozo, bytes.size() - i)));
     lector.Fin();
-    return { lector.Textos(), lector.EsDeCatalogo(), lector.ElError() ? lector.ElError()->linea : 0 };
+    return { lector.Textos(), lector.EsDeCatalogo(), lector.ElError() ? lector.ElError()->linea : 0,
+        lector.EsAjeno() };
 }
 
 // The same in pieces of every kind.
@@ -87,6 +91,40 @@ TEST(LectorDeFuente, ReadsLinesOfNameTabDescription)
     espera("", { u"A"_s }, {});
     espera(" \r\n\n", { u"A"_s }, {});
     espera(BytesSinOrden() + BytesSinOrden(), { u"A"_s }, {});
+}
+
+// As some editors write every text.
+TEST(LectorDeFuente, ReadsUTF16WithItsMark)
+{
+    const QString listas[] = {
+        u"mario.nes\tSuper Mario\r\nfoo\tEspañol 漢字 \U0001F3AE\r\n"_s,
+        u"<?xml version=\"1.0\" encoding=\"UTF-16\"?>\r\n<gameList><game><path>./mario.nes</path><name>Super "
+        "Mario</name></game><game><path>foo</path><name>Español 漢字 \U0001F3AE</name></game></gameList>"_s,
+    };
+    for (const QString &lista : listas) {
+        for (const auto orden : { QStringConverter::Utf16LE, QStringConverter::Utf16BE }) {
+            QStringEncoder enBytes(orden, QStringConverter::Flag::WriteBom);
+            const QByteArray bytes = enBytes.encode(lista);
+            ASSERT_EQ(bytes.first(2), orden == QStringConverter::Utf16LE ? "\xFF\xFE" : "\xFE\xFF");
+            espera(bytes, { u"MARIO.NES"_s, u"FOO"_s },
+                { { u"MARIO.NES"_s, u"Super Mario"_s }, { u"FOO"_s, u"Español 漢字 \U0001F3AE"_s } });
+        }
+    }
+    espera("\xFF\xFE", { u"A"_s }, {});
+    EXPECT_FALSE(lee("\xFF\xFE", {}, 1).ajeno);
+}
+
+TEST(LectorDeFuente, KnowsWhatIsNoText)
+{
+    const QByteArray png("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\tx\n", 22);
+    const QByteArray sinMarca("a\0\t\0b\0\n\0", 8);
+    const QByteArray sinNulos("\x01\x02\x9f\x07\tb\x03\n", 8);
+    for (const qsizetype trozo : { 1, 100000 }) {
+        for (const QByteArray &bytes : { png, sinMarca, sinNulos, BytesSinOrden() })
+            EXPECT_TRUE(lee(bytes, { u"A"_s }, trozo).ajeno) << bytes.left(8).toHex().toStdString();
+        for (const QByteArray bytes : { "", "a\tb\r\n\x1a", "a\tb\f\n", "no tab\n", "<a/>" })
+            EXPECT_FALSE(lee(bytes, { u"A"_s }, trozo).ajeno) << bytes.toStdString();
+    }
 }
 
 TEST(LectorDeFuente, TellsTheLineWhereAListIsBroken)
