@@ -352,6 +352,19 @@ void cuenta(const Sesion &sesion, const DePareja &una)
                 QString::number(cuentas.habia), QString::number(cuentas.sinImagen)));
 }
 
+// The first ones of those that fit no game.
+void cuentaSobrantes(const Sesion &sesion, const QStringList &sobran)
+{
+    constexpr qsizetype unas = 20;
+    if (sobran.isEmpty())
+        return;
+    sesion.Escribe(sesion.palabras.Zbo_CapSobran.arg(sobran.size()));
+    for (const QString &imagen : sobran.first(std::min(sobran.size(), unas)))
+        sesion.Escribe(u"    "_s + imagen);
+    if (sobran.size() > unas)
+        sesion.Escribe(u"    "_s + sesion.palabras.Zbo_CapSobranMas.arg(sobran.size() - unas));
+}
+
 int responde(const Sesion &sesion, const Encargo &encargo)
 {
     bool bien = !sesion.Tiene(u"last"_s) || encargo.dichos.isEmpty();
@@ -369,8 +382,7 @@ int responde(const Sesion &sesion, const Encargo &encargo)
             { u"last"_s, QJsonArray::fromStringList(encargo.dichos) },
             { u"written"_s, sesion.Tiene(u"write"_s) } });
     } else {
-        if (!encargo.sobran.isEmpty())
-            sesion.Escribe(sesion.palabras.Zbo_CapSobran.arg(encargo.sobran.size()));
+        cuentaSobrantes(sesion, encargo.sobran);
         sesion.Escribe(encargo.dichos);
     }
     return bien ? Bien : Hallazgos;

@@ -164,7 +164,9 @@ QString PaginaMan()
         ".SH DESCRIPTION\nzembro stands beside Zembrolix in its directory. It tells what the program would "
         "do "
         "and why it did nothing, and changes the program's text files only where it is given \\-\\-write. "
-        "SYSTEM, EMULATOR and ENTRY may be cut, and in any case, as long as one fits.\n.SH COMMANDS\n"_s;
+        "SYSTEM, EMULATOR and ENTRY may be cut, and in any case, as long as one fits. \\-\\- ends the "
+        "options: "
+        "what stands behind it may begin with a hyphen.\n.SH COMMANDS\n"_s;
     for (const Orden *orden : Ordenes()) {
         texto += u".SS \"zembro "_s + orden->nombre
             + (orden->argumentos.isEmpty() ? QString() : u' ' + orden->argumentos) + u"\"\n"_s

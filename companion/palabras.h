@@ -134,6 +134,7 @@ struct Palabras : PalabrasDeRevision, PalabrasDeAuxilio {
     QString Zbo_YaGuardado = QStringLiteral("Nothing has changed since the copy %1.");
     QString Zbo_NoCopia = QStringLiteral("No copy fits %1.");
     QString Zbo_NoCopias = QStringLiteral("There is no copy that differs.");
+    QString Zbo_SinCopias = QStringLiteral("There is no copy yet; save makes one.");
     QString Zbo_Repondria = QStringLiteral("From the copy %1: --write brings it back.");
     QString Zbo_Repuesto = QStringLiteral("Brought back from the copy %1. What was there is in the copy %2.");
 
@@ -201,6 +202,7 @@ struct Palabras : PalabrasDeRevision, PalabrasDeAuxilio {
     QString Zbo_CapHechas =
         QStringLiteral("%1 / %2: made: %3, there already: %4, games without a picture: %5.");
     QString Zbo_CapSobran = QStringLiteral("Pictures that fit no game: %1.");
+    QString Zbo_CapSobranMas = QStringLiteral("and more: %1; --json names them all");
     QString Zbo_CapSinDir =
         QStringLiteral("It has no directory of captures; its configuration gives it one.");
     QString Zbo_CapNoImagen = QStringLiteral("it is no picture of a kind that can be read");

@@ -116,6 +116,13 @@ struct PalabrasDeRevision {
     QString Zbo_AjustesMal =
         QStringLiteral("The program can't read its settings and ends at its start. A file Zembro.cfg that "
                        "holds nothing but the word VACIO makes it ask as at the first start. %1");
+    QString Zbo_SinAjustes =
+        QStringLiteral("The settings are gone, as this file is missing or empty, so at its next start the "
+                       "program ends. Bring back a copy, or write a file Zembro.cfg that holds nothing but "
+                       "the word VACIO: then it asks as at the first start.");
+    QString Zbo_FaltaAjuste =
+        QStringLiteral("The line of %1 is missing, so at its next start the program takes those below it for "
+                       "other settings, or ends; put it back here as it was, or like this: %2");
     QString Zbo_FiltroMalo = QStringLiteral(
         "This filter leaves no directory out: it needs capital letters, without blanks ahead: %1");
     QString Zbo_MuchosFiltros =

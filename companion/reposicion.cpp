@@ -60,7 +60,8 @@ int enumera(const Sesion &sesion)
     return Bien;
 }
 
-// The copy that is asked for, or the newest that isn't as the program's files. None, told already.
+// The copy that is asked for, or the newest that isn't as the program's files; empty where all of them are.
+// None, told already.
 std::optional<QString> copiaPedida(const Sesion &sesion, const Ficheros &actuales)
 {
     const QStringList copias = Copias();
@@ -71,7 +72,9 @@ std::optional<QString> copiaPedida(const Sesion &sesion, const Ficheros &actuale
             if (!SonIguales(ficheros, actuales) && !distintos(ficheros, actuales).isEmpty())
                 return copia;
         }
-        sesion.Falla(sesion.palabras.Zbo_NoCopias);
+        if (!copias.isEmpty())
+            return QString();
+        sesion.Falla(sesion.palabras.Zbo_SinCopias);
         return std::nullopt;
     }
     QStringList suyas;
@@ -118,7 +121,7 @@ int repone(Sesion &sesion)
     if (!copia)
         return NoPudo;
     // Read ahead of a new copy, which may push this one out.
-    const Ficheros deCopia = FicherosDeCopia(*copia);
+    const Ficheros deCopia = copia->isEmpty() ? Ficheros() : FicherosDeCopia(*copia);
     const QStringList nombres = distintos(deCopia, actuales);
     const bool escribe = sesion.Tiene(u"write"_s) && !nombres.isEmpty();
     QJsonObject objeto { { u"copy"_s, *copia }, { u"changed"_s, !nombres.isEmpty() },
@@ -135,8 +138,9 @@ int repone(Sesion &sesion)
             sesion.Escribe(diferencia);
     }
     objeto[u"files"_s] = ficheros;
-    QString dicho =
-        nombres.isEmpty() ? sesion.palabras.Zbo_NadaCambia : sesion.palabras.Zbo_Repondria.arg(*copia);
+    QString dicho = copia->isEmpty() ? sesion.palabras.Zbo_NoCopias
+        : nombres.isEmpty()          ? sesion.palabras.Zbo_NadaCambia
+                                     : sesion.palabras.Zbo_Repondria.arg(*copia);
     if (escribe) {
         QString guardada;
         const Reposicion reposicion = guardaYRepon(nombres, deCopia, guardada);

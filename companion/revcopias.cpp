@@ -70,7 +70,8 @@ bool esDeAlgoPerdido(const Hallazgo &hallazgo)
     static const QSet<QString> clases { u"block-without-end"_s, u"missing-mark"_s, u"missing-line"_s,
         u"line-without-emulator"_s, u"line-ahead-of-systems"_s, u"system-without-emulator"_s,
         u"malformed-line"_s, u"cut-record"_s, u"open-quotes"_s, u"no-name"_s, u"system-without-notes"_s,
-        u"setting-out-of-place"_s, u"setting-out-of-range"_s, u"unreadable-settings"_s, u"unreadable"_s };
+        u"notes-without-name"_s, u"no-settings"_s, u"setting-missing"_s, u"setting-out-of-place"_s,
+        u"setting-out-of-range"_s, u"unreadable-settings"_s, u"unreadable"_s };
     return !hallazgo.seRemienda && hallazgo.copia.isEmpty() && clases.contains(hallazgo.clase);
 }
 

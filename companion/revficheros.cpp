@@ -80,6 +80,7 @@ public:
     {
     }
 
+    bool Faltan();
     bool EnSuSitio();
     void Valores();
     void Filtros();
@@ -98,6 +99,23 @@ private:
     const std::vector<core::LineaConFin> m_lineas;
     Revision &m_revision;
 };
+
+// Lines that stand nowhere. What they held nobody knows; what the program writes at first does.
+bool RevisorDeAjustes::Faltan()
+{
+    const QString deSerie = core::AjustesPorDefecto(u"ZB-ENG.LNG"_s);
+    const std::vector<core::LineaConFin> enteras = core::EnLineas(deSerie);
+    bool falta = false;
+    for (const LineaDeAjuste &ajuste : LineasDeAjustes) {
+        if (std::ranges::any_of(m_lineas,
+                [&](const core::LineaConFin &linea) { return linea.linea.startsWith(ajuste.clave); }))
+            continue;
+        falta = true;
+        halla(u"setting-missing"_s, ajuste.indice,
+            m_palabras.Zbo_FaltaAjuste.arg(ajuste.clave, enteras[ajuste.indice].linea));
+    }
+    return falta;
+}
 
 // The reader goes by the number of a line alone.
 bool RevisorDeAjustes::EnSuSitio()
@@ -182,10 +200,21 @@ void RevisorDeAjustes::Filtros()
 void RevisaAjustes(Sesion &sesion, Revision &revision)
 {
     core::Modulo &M = sesion.M;
+    const auto sinAjustes = [&] {
+        revision.push_back({ u"no-settings"_s, u"Zembro.cfg"_s, 0, {}, sesion.palabras.Zbo_SinAjustes });
+    };
     M.Ficheros.closeAll();
-    if (core::EsPrimeraVez(M))
-        return;
+    try {
+        if (TextoDelPrograma(M, u"Zembro.cfg"_s).trimmed().isEmpty())
+            return sinAjustes();
+    } catch (const host::Failure &fallo) {
+        if (fallo.number() != host::FileNotFound)
+            throw;
+        return sinAjustes();
+    }
     RevisorDeAjustes revisor(sesion, revision);
+    if (core::EsPrimeraVez(M) || revisor.Faltan())
+        return;
     const bool enSuSitio = revisor.EnSuSitio();
     try {
         core::LeeAjustes(M);

@@ -51,11 +51,18 @@ Magick::Image imageOf(const Picture &picture)
         "RGB", Magick::CharPixel, picture.pixels.data());
 }
 
+// Who reads it has been told that the picture is too large.
+std::string limit()
+{
+    constexpr std::uint64_t million = 1'000'000;
+    return "at most " + std::to_string(MostPixels / million) + " million of them are read, and "
+        + std::to_string(MostSide) + " a side";
+}
+
 void checkSize(std::uint64_t width, std::uint64_t height)
 {
     if (width > MostSide || height > MostSide || width * height > MostPixels) {
-        throw TooLarge(
-            "it is too large: " + std::to_string(width) + " by " + std::to_string(height) + " pixels");
+        throw TooLarge(std::to_string(width) + " by " + std::to_string(height) + " pixels; " + limit());
     }
 }
 
@@ -70,7 +77,7 @@ Magick::Image readByLibrary(Bytes file, Kind kind)
     try {
         image.read(blob);
     } catch (const Magick::ErrorResourceLimit &) {
-        throw TooLarge("it is too large");
+        throw TooLarge(limit());
     }
     checkSize(image.columns(), image.rows());
     return image;

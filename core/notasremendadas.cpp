@@ -57,12 +57,14 @@ QString conBloques(QString texto, const QStringList &sistemas)
 
 QString unaPasada(const QString &texto, const QStringList &delCatalogo, const QStringList &conocidos)
 {
-    const QString conNombre = ConNombreDeNotas(SinRetornosSueltos(texto), conocidos);
-    const QString cerradas = ConNotasCerradas(ConMarcaDeNotas(conNombre, conocidos), conocidos);
-    const QString conSeccion = ConCabeceraDeParametros(
-        NotasSinNombre(cerradas, conocidos).empty() ? conBloques(cerradas, delCatalogo) : cerradas,
-        conocidos);
-    return SinRepetidos(ConParametrosCerrados(conSeccion), conocidos);
+    QString remendado = SinRetornosSueltos(texto); // the one copy of a file that may be large
+    remendado = ConNombreDeNotas(remendado, conocidos);
+    remendado = ConMarcaDeNotas(remendado, conocidos);
+    remendado = ConNotasCerradas(remendado, conocidos);
+    if (NotasSinNombre(remendado, conocidos).empty())
+        remendado = conBloques(remendado, delCatalogo);
+    remendado = ConCabeceraDeParametros(remendado, conocidos);
+    return SinRepetidos(ConParametrosCerrados(remendado), conocidos);
 }
 
 } // namespace

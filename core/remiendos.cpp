@@ -50,6 +50,9 @@ std::vector<size_t> LineasConRetorno(const QString &texto)
 
 QString SinRetornosSueltos(const QString &texto)
 {
+    // A file of any size comes back without a copy.
+    if (!texto.contains(u"\r\r"_s) && !texto.endsWith(u'\r'))
+        return texto;
     Copia copia;
     for (LineaConFin linea : EnLineas(texto)) {
         while (linea.linea.endsWith(u'\r'))

@@ -166,7 +166,7 @@ QString sinParametrosIguales(const QString &texto)
     const Lineas lineas = EnLineas(texto);
     QSet<QString> dichos;
     Copia copia;
-    size_t copiadas = 0;
+    size_t copiadas = 0; // nothing is, where all of them differ
     for (const Registro &registro : registrosDeParametros(lineas)) {
         const QString dicho = loQueDice(registro.parametros);
         if (dichos.contains(dicho)) {
@@ -175,8 +175,10 @@ QString sinParametrosIguales(const QString &texto)
         }
         dichos.insert(dicho);
     }
+    if (copiadas == 0)
+        return texto;
     copia.Copiar(lineas, copiadas, lineas.size());
-    return copiadas == 0 ? texto : copia.Texto();
+    return copia.Texto();
 }
 
 } // namespace

@@ -87,7 +87,9 @@ END
     sed -i -e "s|^EXE=.*|EXE=$work/dyes|" -e "/^'---/d" Zembro.emu
     mv demo/prisma.gif "demo/prisma (1).gif"
     example "An executable that is mistyped, a catalogue that lost its closing line, a capture that is never found. What games left behind it brings back first, as \`why\` does:" check
-    example "What has one answer only, and check says so of each finding, can be repaired; \`--write\` does it." check --mend
+    example "Where the emulator is MAME, it is asked for the ROMs of the machine that the parameters name, or else of the games (\`mame -verifyroms\`), where and with the \`-rompath\` that a launch has.
+
+What has one answer only, and check says so of each finding, can be repaired; \`--write\` does it." check --mend
     printf '\n## find\n'
     example "Emulators that came to the machine since; \`--write\` configures them." find
     ./zembro check --mend --write >/dev/null 2>&1 || [ $? -eq 1 ]
@@ -97,7 +99,7 @@ END
     ./zembro move --write >/dev/null
     printf '\n## describe\n'
     printf x >"demo/Legend of Zelda, The (Europe) (Rev 1).bin"
-    example "By the names of the files. \`--from\` takes a DAT, what \`mame -listxml\` says (\`--from -\` reads a pipe), a gamelist.xml, or lines of name, tab, description. Where nothing comes of it, it says why. A list of 283 MB from MAME, and 6,667 games: 5 seconds of processor time and 25 MB of memory; those games alone a quarter of a second." describe atari
+    example "By the names of the files. \`--from\` takes a DAT, what \`mame -listxml\` says (\`--from -\` reads a pipe), a gamelist.xml, or lines of name, tab, description, in UTF-8, in Windows-1252, or with its mark in UTF-16; of a file that is none of these it says so. Where nothing comes of it, it says why. A list of 283 MB from MAME, and 6,667 games: 5 seconds of processor time and 25 MB of memory; those games alone a quarter of a second." describe atari
     printf '\n## captures\n'
     rm "demo/prisma (1).gif"
     mkdir "$work/pictures"
@@ -110,7 +112,7 @@ END
     example "A copy of the text files, and of \`Zembro.uni\` where that is; \`./run.sh\`, the package's \`zembrolix\` and the portable archive's starter make one before each start. The last twenty that differ are kept." save
     printf '\n## restore\n'
     sed -i "/^PAR1=/d" Zembro.emu
-    example "Back to the newest copy that differs, or to the one that is named; \`--list\` shows them all. It brings back all of the files or none." restore
+    example "Back to the newest copy that differs, or to the one that is named; \`--list\` shows them all. It brings back all of the files or none. Where no copy differs it says so and ends with 0, as \`save\` does where nothing has changed; where there is no copy at all, with 2." restore
     printf '\n## export\n'
     example "For another program; \`--to FILE --write\` writes it, \`--pegasus\` is for Pegasus." export atari stella
     printf '\n## adopt\n'

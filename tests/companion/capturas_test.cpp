@@ -83,7 +83,8 @@ TEST_F(Captures, ShowsWhatItWouldMake_AndMakesNothing)
         "Zelda II.nes\tZelda II (Japan).jpg\tZelda II.GIF\n"
         "Zelda.nes\tZelda.png\tZelda.GIF\n"
         "Sis / Uno: to be made: 2, there already: 1, games without a picture: 0; --write makes them.\n"
-        "Pictures that fit no game: 1.\n");
+        "Pictures that fit no game: 1.\n"
+        "    Golf.png\n");
     EXPECT_FALSE(host::exists(Ruta(u"img/Zelda.GIF"_s)));
 }
 
@@ -151,7 +152,21 @@ TEST_F(Captures, WithoutADirectoryTakesWhatLiesAmongTheCaptures)
     Pon(u"img/Sonic the Hedgehog.gif"_s, UnGif());
     EXPECT_EQ(Zembro({ u"captures"_s, u"Sis"_s, u"Dos"_s, u"--from"_s, Ruta(u"img/../img/"_s) }).salida,
         "Sis / Dos: to be made: 0, there already: 0, games without a picture: 1; --write makes them.\n"
-        "Pictures that fit no game: 2.\n");
+        "Pictures that fit no game: 2.\n"
+        "    Sonic the Hedgehog.gif\n"
+        "    Zelda.png\n");
+}
+
+TEST_F(Captures, NamesTheFirstPicturesThatFitNoGame_AndAllOfThemInJson)
+{
+    for (int i = 10; i < 35; ++i)
+        Pon(u"pics/Golf %1.png"_s.arg(i), imagen());
+    const QStringList pedido { u"captures"_s, u"Sis"_s, u"Uno"_s, u"--from"_s, Ruta(u"pics"_s) };
+    const QByteArray salida = Zembro(pedido).salida;
+    EXPECT_TRUE(salida.contains("Pictures that fit no game: 25.\n    Golf 10.png\n    Golf 11.png\n"));
+    EXPECT_TRUE(salida.endsWith("    Golf 29.png\n    and more: 5; --json names them all\n"))
+        << salida.toStdString();
+    EXPECT_EQ(Json(pedido)[u"unused"_s].toArray().size(), 25);
 }
 
 // In the place of Zelda's capture stands what isn't one.

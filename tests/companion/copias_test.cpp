@@ -280,9 +280,20 @@ TEST_F(Save, RestoreOfTheOldestOfTwentyBringsItBack)
 
 TEST_F(Save, RestoreSaysWhichCopiesThereAre_AndWhereNoneFits)
 {
-    EXPECT_EQ(Zembro({ u"restore"_s }).error, "zembro: There is no copy that differs.\n");
-    const QString copia = Guarda();
+    EXPECT_EQ(Zembro({ u"restore"_s }).error, "zembro: There is no copy yet; save makes one.\n");
     EXPECT_EQ(Zembro({ u"restore"_s }).estado, companion::NoPudo);
+    const QString copia = Guarda();
+    // As save where there is nothing to save: all is as it should be.
+    for (const QStringList &orden :
+        { QStringList { u"restore"_s }, QStringList { u"restore"_s, u"--write"_s } }) {
+        const Respuesta nada = Zembro(orden);
+        EXPECT_EQ(nada.estado, companion::Bien);
+        EXPECT_EQ(nada.salida, "There is no copy that differs.\n");
+        const QJsonObject objeto = Json(orden);
+        EXPECT_EQ(objeto[u"copy"_s].toString(u"?"_s), QString());
+        EXPECT_FALSE(objeto[u"changed"_s].toBool(true));
+        EXPECT_FALSE(objeto[u"written"_s].toBool(true));
+    }
     EXPECT_EQ(Zembro({ u"restore"_s, u"2001"_s }).error, "zembro: No copy fits 2001.\n");
     EXPECT_EQ(Json({ u"restore"_s, copia, u"--write"_s })[u"changed"_s].toBool(), false);
     Pon(u"Zembro.sye"_s, "x");

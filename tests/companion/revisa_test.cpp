@@ -344,6 +344,47 @@ TEST_F(Check, ParametersThatNoLaunchFindsAreSaid)
         << dicho().toStdString();
 }
 
+TEST_F(Check, SettingsThatAreGoneAreSaid_WithWhatTheProgramDoesThenAndWhatToDo)
+{
+    const QByteArray enteros = Bytes(u"Zembro.cfg"_s);
+    const QByteArray perdidos =
+        "Zembro.cfg: The settings are gone, as this file is missing or empty, so at its next "
+        "start the program ends. Bring back a copy, or write a file Zembro.cfg that holds "
+        "nothing but the word VACIO: then it asks as at the first start.";
+    for (const QByteArray &vacio : { QByteArray(), QByteArray("\r\n \r\n") }) {
+        Pon(u"Zembro.cfg"_s, vacio);
+        EXPECT_THAT(clases(), ElementsAre(u"no-settings"_s));
+        EXPECT_TRUE(dicho().startsWith(perdidos + '\n')) << dicho().toStdString();
+    }
+    Borra(u"Zembro.cfg"_s);
+    EXPECT_THAT(clases(), ElementsAre(u"no-settings"_s));
+    Pon(u"Zembro.cfg"_s, "VACIO");
+    EXPECT_THAT(clases(), IsEmpty());
+    // A copy is named that has them.
+    Pon(u"Zembro.cfg"_s, enteros);
+    Zembro({ u"save"_s });
+    Pon(u"Zembro.cfg"_s, "");
+    EXPECT_TRUE(dicho().startsWith(perdidos + " A copy holds it as it was: zembro restore "))
+        << dicho().toStdString();
+    Borra(u"Zembro.cfg"_s);
+    EXPECT_TRUE(dicho().startsWith(perdidos + " A copy holds it as it was: zembro restore "))
+        << dicho().toStdString();
+}
+
+TEST_F(Check, ASettingWhoseLineIsGoneIsSaid_WithTheLine)
+{
+    Cambia(u"Zembro.cfg"_s, "TypeOfEditor = 1\r\n", "");
+    EXPECT_THAT(clases(), ElementsAre(u"setting-missing"_s));
+    EXPECT_TRUE(dicho().startsWith(
+        "Zembro.cfg:15: The line of TypeOfEditor is missing, so at its next start the program "
+        "takes those below it for other settings, or ends; put it back here as it was, or "
+        "like this: TypeOfEditor = 1\n"))
+        << dicho().toStdString();
+    const QByteArray antes = Bytes(u"Zembro.cfg"_s);
+    EXPECT_EQ(Zembro({ u"check"_s, u"--mend"_s, u"--write"_s }).estado, companion::Hallazgos);
+    EXPECT_EQ(Bytes(u"Zembro.cfg"_s), antes);
+}
+
 TEST_F(Check, ExtensionsThatFitNothingOrTwiceAreSaid)
 {
     Cambia(u"Zembro.emu"_s, "*.NES", "*.NES\r\n*.ES\r\n*.LONG");

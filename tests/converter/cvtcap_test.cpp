@@ -97,7 +97,8 @@ TEST_F(CaptureConverter, SaysOfEachWhyItCouldNot_AndLeavesTheOldGif)
         + pair("good.png", "nowhere/x.GIF") + pair("good.png", "good.GIF"));
     EXPECT_EQ(status, 0);
     ASSERT_EQ(told.size(), 10);
-    EXPECT_EQ(told[0], "0\ttoo-large\tit is too large: 100000 by 100000 pixels");
+    EXPECT_EQ(told[0],
+        "0\ttoo-large\t100000 by 100000 pixels; at most 40 million of them are read, and 65535 a side");
     EXPECT_TRUE(told[1].startsWith("1\tdamaged\t")) << told[1].constData();
     EXPECT_EQ(told[2], "2\tno-picture");
     EXPECT_EQ(told[3], "3\tno-picture");
