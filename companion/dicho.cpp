@@ -21,7 +21,7 @@ namespace companion {
 namespace {
 
 // Why it would not start; empty if it would. And the program that may be meant by one that isn't there.
-struct Motivo {
+struct MotivoDeParo {
     QString texto;
     QString parecido;
 };
@@ -47,7 +47,7 @@ QString impedimento(const Sesion &sesion, const launch::Ensayo &ensayo)
     return impedimento ? impedimento->texto : QString();
 }
 
-Motivo motivoDe(const Sesion &sesion, const Pareja &pareja, const launch::Ensayo &ensayo)
+MotivoDeParo motivoDe(const Sesion &sesion, const Pareja &pareja, const launch::Ensayo &ensayo)
 {
     if (!ensayo.orden || !ensayo.orden->Argumentos().isEmpty())
         return { impedimento(sesion, ensayo), {} };
@@ -68,7 +68,7 @@ QJsonObject enJson(const launch::Ensayo::Zip &zip)
         { u"removed"_s, zip.seVaEntero ? u"directory"_s : u"files"_s } };
 }
 
-QJsonObject enJson(const Pedida &pedida, const launch::Ensayo &ensayo, const Motivo &motivo)
+QJsonObject enJson(const Pedida &pedida, const launch::Ensayo &ensayo, const MotivoDeParo &motivo)
 {
     QJsonObject objeto { { u"system"_s, pedida.pareja.nombreSistema },
         { u"emulator"_s, pedida.pareja.nombreEmulador }, { u"entry"_s, pedida.entrada },
@@ -104,7 +104,7 @@ void cuentaZip(const Sesion &sesion, const launch::Ensayo::Zip &zip)
         sesion.Escribe(palabras.Zbo_SeQueda.arg(zip.destino + u'/' + subdirectorio + u'/'));
 }
 
-QStringList enLineas(const Motivo &motivo, const Palabras &palabras)
+QStringList enLineas(const MotivoDeParo &motivo, const Palabras &palabras)
 {
     QStringList lineas;
     if (!motivo.texto.isEmpty())
@@ -135,7 +135,7 @@ bool cuentaOrden(const Sesion &sesion, const launch::Ensayo &ensayo)
     return true;
 }
 
-void cuenta(const Sesion &sesion, const launch::Ensayo &ensayo, const Motivo &motivo)
+void cuenta(const Sesion &sesion, const launch::Ensayo &ensayo, const MotivoDeParo &motivo)
 {
     const bool soloOrden = sesion.Tiene(u"lines"_s) || sesion.Tiene(u"shell"_s);
     const QStringList razones = enLineas(motivo, sesion.palabras);
@@ -157,7 +157,7 @@ int dice(Sesion &sesion)
         return NoPudo;
     PantallaDeTexto pantalla(sesion, pedida->pareja, pedida->entradas, pedida->entrada);
     const launch::Ensayo ensayo = launch::Ensaya(sesion.M, pantalla);
-    const Motivo motivo = motivoDe(sesion, pedida->pareja, ensayo);
+    const MotivoDeParo motivo = motivoDe(sesion, pedida->pareja, ensayo);
     if (sesion.EnJson())
         sesion.Json(enJson(*pedida, ensayo, motivo));
     else

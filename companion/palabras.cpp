@@ -115,6 +115,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_SinClaveReg", &P::Zbo_SinClaveReg },
         { u"Zbo_NotasAjenas", &P::Zbo_NotasAjenas },
         { u"Zbo_SinCabecera", &P::Zbo_SinCabecera },
+        { u"Zbo_MuchasNotas", &P::Zbo_MuchasNotas },
         { u"Zbo_SinMarcaNot", &P::Zbo_SinMarcaNot },
         { u"Zbo_ParDeNadie", &P::Zbo_ParDeNadie },
         { u"Zbo_ParSinFich", &P::Zbo_ParSinFich },

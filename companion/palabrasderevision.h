@@ -105,6 +105,8 @@ struct PalabrasDeRevision {
                                              "correct the name of this block of notes, or remove it: %1");
     QString Zbo_SinCabecera = QStringLiteral("These notes stand below no name of a system, so nothing reads "
                                              "them; put its name on a line of its own above them: %1");
+    QString Zbo_MuchasNotas = QStringLiteral("From here on the notes of %1 are more than the %2 that the "
+                                             "program takes, so none of its games is listed; remove some.");
     QString Zbo_SinMarcaNot = QStringLiteral("No line that begins with [ ends the notes of the systems, so a "
                                              "new system gets none; put [EOF] behind the last of them.");
     QString Zbo_ParDeNadie = QStringLiteral(

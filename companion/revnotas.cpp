@@ -163,11 +163,14 @@ bool RevisorDeNotas::estaEntero(
 void RevisorDeNotas::Sistema(const QString &sistema, size_t desde)
 {
     QSet<QString> vistas;
+    int cuantas = 0;
     for (size_t i = desde; i < m_lineas.size(); ++i) {
         const QString linea = m_lineas[i].linea.toString();
         const Registro registro = registroDe(linea);
         if (registro.campos.value(0) == u"'" || core::AcabaLosSistemas(m_lineas, i, m_sistemas))
             return;
+        if (!linea.isEmpty() && ++cuantas == core::MaxROMs + 1)
+            halla(u"too-many-notes"_s, m_palabras.Zbo_MuchasNotas.arg(sistema).arg(core::MaxROMs), i);
         if (linea.isEmpty() || !estaEntero(linea, registro, CamposDeNota, i))
             continue;
         const QString &clave = registro.campos.first();

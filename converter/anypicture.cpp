@@ -52,7 +52,7 @@ Magick::Image imageOf(const Picture &picture)
 }
 
 // Who reads it has been told that the picture is too large.
-std::string limit()
+std::string limitInWords()
 {
     constexpr std::uint64_t million = 1'000'000;
     return "at most " + std::to_string(MostPixels / million) + " million of them are read, and "
@@ -62,7 +62,7 @@ std::string limit()
 void checkSize(std::uint64_t width, std::uint64_t height)
 {
     if (width > MostSide || height > MostSide || width * height > MostPixels) {
-        throw TooLarge(std::to_string(width) + " by " + std::to_string(height) + " pixels; " + limit());
+        throw TooLarge(std::to_string(width) + " by " + std::to_string(height) + " pixels; " + limitInWords());
     }
 }
 
@@ -77,7 +77,7 @@ Magick::Image readByLibrary(Bytes file, Kind kind)
     try {
         image.read(blob);
     } catch (const Magick::ErrorResourceLimit &) {
-        throw TooLarge(limit());
+        throw TooLarge(limitInWords());
     }
     checkSize(image.columns(), image.rows());
     return image;

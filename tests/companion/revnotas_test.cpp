@@ -63,3 +63,20 @@ TEST_F(Check, NotesWithoutTheMarkOfTheirEndAreSaid)
     EXPECT_TRUE(dicho().startsWith("Zembro.rom:" + QByteArray::number(cabecera + 1) + ": "))
         << dicho().toStdString();
 }
+
+TEST_F(Check, MoreNotesThanTheProgramTakesAreSaid)
+{
+    QByteArray notas;
+    for (int i = 0; i < 6666; ++i)
+        notas += "GAME" + QByteArray::number(i) + ".NES,\"Game\"\r\n";
+    const QByteArray antes = Bytes(u"Zembro.rom"_s);
+    Cambia(u"Zembro.rom"_s, "Sis\r\n", "Sis\r\n" + notas);
+    EXPECT_FALSE(clases().contains(u"too-many-notes"_s));
+    Pon(u"Zembro.rom"_s, antes);
+    Cambia(u"Zembro.rom"_s, "Sis\r\n", "Sis\r\nONE.NES,\"One\"\r\n" + notas);
+    EXPECT_EQ(clases().count(u"too-many-notes"_s), 1);
+    EXPECT_TRUE(clases().contains(u"no-list"_s));
+    EXPECT_TRUE(dicho().contains(
+        "Zembro.rom:6669: From here on the notes of Sis are more than the 6667 that the program "
+        "takes, so none of its games is listed; remove some.\n"));
+}
