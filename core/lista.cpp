@@ -97,8 +97,9 @@ int ExtensionesEnVigor::VecesQueEncaja(QStringView nombreMayus) const
         const qsizetype principio = host::startOfLast(nombreMayus, letras);
         if (principio == anterior)
             break; // the name is no longer than that
-        const auto iguales = std::ranges::equal_range(m_ordenadas, nombreMayus.sliced(principio), antes);
-        veces += std::ranges::distance(iguales);
+        const auto [una, pasada] =
+            std::equal_range(m_ordenadas.begin(), m_ordenadas.end(), nombreMayus.sliced(principio), antes);
+        veces += pasada - una;
         anterior = principio;
     }
     return static_cast<int>(veces);

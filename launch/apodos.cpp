@@ -9,8 +9,8 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 #include <utility>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -133,8 +133,9 @@ QByteArray HazCarpetaDeApodos(const CarpetaDeCorrida &corrida, const UnidadesDOS
     for (const UnidadesDOS::Apodo &apodo : montaje.apodos) {
         bien = bien && unidad.Ensena(montaje.lugar + '/' + apodo.fichero, apodo.nombre);
         unidad.EnsenaLoGuardado(montaje.lugar, apodo);
-        for (const Pendiente &pendiente : std::views::reverse(corrida.DeAntes())) // the last one first
-            unidad.Hereda(pendiente, montaje.lugar, apodo.nombre);
+        const std::vector<Pendiente> &deAntes = corrida.DeAntes();
+        for (auto ultimo = deAntes.rbegin(); ultimo != deAntes.rend(); ++ultimo)
+            unidad.Hereda(*ultimo, montaje.lugar, apodo.nombre);
     }
     return bien ? unidad.Lugar() : QByteArray();
 }
