@@ -35,13 +35,17 @@ bool esNotaEntera(QStringView linea)
 // Systems without a block of their own.
 QStringList sinBloque(const QString &texto, const QStringList &sistemas)
 {
-    QSet<QString> lineas;
-    for (const LineaConFin &linea : EnLineas(texto))
-        lineas.insert(linea.linea.toString());
+    const QSet<QString> nombres(sistemas.begin(), sistemas.end());
+    QSet<QString> estan; // not all lines of a file that may be large
+    for (const LineaConFin &linea : EnLineas(texto)) {
+        const QString entera = linea.linea.toString();
+        if (nombres.contains(entera))
+            estan.insert(entera);
+    }
     QStringList faltan;
     for (const QString &sistema : sistemas) {
         // A carriage return is in no line that is written.
-        if (!lineas.contains(sistema) && !sistema.contains(u'\r'))
+        if (!estan.contains(sistema) && !sistema.contains(u'\r'))
             faltan += sistema;
     }
     faltan.removeDuplicates();
