@@ -116,7 +116,7 @@ TEST(LectorDeFuente, ReadsUTF16WithItsMark)
 
 TEST(LectorDeFuente, KnowsWhatIsNoText)
 {
-    const QByteArray png("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\tx\n", 22);
+    const QByteArray png("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\tx\n", 19);
     const QByteArray sinMarca("a\0\t\0b\0\n\0", 8);
     const QByteArray sinNulos("\x01\x02\x9f\x07\tb\x03\n", 8);
     for (const qsizetype trozo : { 1, 100000 }) {
