@@ -100,7 +100,12 @@ bool KnownPictures::isLoadable(const Picture &picture)
 {
     if (isKnown(picture))
         return m_loadable.value(*picture.state);
-    const bool loadable = CanLoadPicture(picture.path);
+    bool loadable = false;
+    try {
+        loadable = isPicture(picture.path);
+    } catch (const host::Failure &) {
+        return false; // for now: what it holds isn't known
+    }
     constexpr qsizetype Most = 50'000;
     if (m_loadable.size() >= Most)
         m_loadable.clear();

@@ -63,13 +63,9 @@ QPixmap LoadPicture(const QString &path)
     return QPixmap::fromImage(std::move(image));
 }
 
-bool CanLoadPicture(const QString &path)
+bool isPicture(const QString &path)
 {
-    try {
-        return !decodeFile(path).isNull();
-    } catch (const host::Failure &) {
-        return false;
-    }
+    return !decodeFile(path).isNull();
 }
 
 QPixmap artwork(const QString &name, const QSize &size, qreal devicePixelRatio)

@@ -11,8 +11,8 @@ namespace forms {
 // no plain file, 481 if it is no picture that can be read or one beyond the limits.
 QPixmap LoadPicture(const QString &path);
 
-// Whether LoadPicture would load it.
-bool CanLoadPicture(const QString &path);
+// Whether the file, found as LoadPicture does, is a picture that it would load. Fails where it can't be read.
+bool isPicture(const QString &path);
 
 // The artwork of this name (":/artwork/<name>.svg") at the size given in design pixels, drawn for the device
 // pixel ratio; kept once drawn. A name without a drawing is a fault of the build and gives an empty picture.

@@ -36,6 +36,15 @@ qint64 LengthsIn::operator()(const QString &path) const
     return status.st_size;
 }
 
+// Null where the directory can't be listed; tried but once.
+const Directory *LengthsIn::listing() const
+{
+    if (!m_listed)
+        m_listing = Directory::at(m_found);
+    m_listed = true;
+    return m_listing.get();
+}
+
 std::optional<FileState> LengthsIn::state(const QString &path) const
 {
     const QString name = path.sliced(m_directory.size());
@@ -62,8 +71,7 @@ bool LengthsIn::look(const QString &name, struct stat &status) const
         return true;
     if (leadsToFile(name, status))
         return true;
-    if (!m_listing)
-        m_listing = Directory::at(m_found);
+    listing();
     return leadsToFile(nameFromDisk(entryFor(m_found, name)), status);
 }
 
@@ -122,9 +130,8 @@ QString LengthsIn::spelling(const QString &name) const
 {
     if (!isEntry(name))
         return {};
-    if (!m_listing)
-        m_listing = Directory::at(m_found);
-    return m_listing ? m_listing->find(name) : name;
+    const Directory *listed = listing();
+    return listed ? listed->find(name) : name;
 }
 
 bool LengthsIn::lists(const QString &path) const
@@ -132,9 +139,8 @@ bool LengthsIn::lists(const QString &path) const
     const QString name = path.sliced(m_directory.size());
     if (!isEntry(name))
         return false;
-    if (!m_listing)
-        m_listing = Directory::at(m_found);
-    return m_listing && m_listing->holdsFile(name);
+    const Directory *listed = listing();
+    return listed && listed->holdsFile(name);
 }
 
 // True for a name that can only mean an entry of the directory found.

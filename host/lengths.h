@@ -42,6 +42,7 @@ public:
 
 private:
     bool leadsToFile(const QString &spelling, struct stat &status) const;
+    const Directory *listing() const;
     std::optional<FileState> state(const QString &path) const;
     QStringList spellings(const QStringList &names) const;
     bool look(const QString &name, struct stat &status) const;
@@ -52,6 +53,7 @@ private:
     QByteArray m_found; // empty where each path has to be found as a whole
     std::shared_ptr<const Descriptor> m_opened; // the directory found: looks from there take half the time
     mutable std::shared_ptr<const Directory> m_listing;
+    mutable bool m_listed = false; // m_listing is null where that failed
 };
 
 } // namespace host

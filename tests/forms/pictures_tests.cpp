@@ -223,13 +223,51 @@ TEST_F(ThousandsOfPictures, AreMissedWhereOneGoesMeanwhile)
     EXPECT_EQ(toldLater, 1);
 }
 
-TEST_F(ThousandsOfPictures, AreAllDecodedInTheEnd)
+TEST_F(ThousandsOfPictures, AreAllDecodedInTheEndAndKnownFromThenOn)
 {
+    paths << writeSettled(u"last.gif"_s, redGif);
     const OpensOf opens(paths.back());
     EXPECT_EQ(checkFails(paths), 0);
     EXPECT_EQ(opens.count(), 0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return opens.count() > 0; }));
+    EXPECT_EQ(checkFails(paths), 0);
+    QTest::qWait(200);
+    EXPECT_EQ(opens.count(), 0);
     EXPECT_EQ(toldLater, 0);
+}
+
+TEST_F(ThousandsOfPictures, AreDroppedByTheNextCheck)
+{
+    EXPECT_EQ(checkFails(paths), 0);
+    EXPECT_TRUE(QFile::remove(paths.back()));
+    EXPECT_EQ(checkFails({ paths.front() }), 0);
+    QTest::qWait(200);
+    EXPECT_EQ(toldLater, 0);
+}
+
+TEST_F(ThousandsOfPictures, AreNotShownWhereOneOfThemIsMissing)
+{
+    paths << place + u"none.gif"_s;
+    EXPECT_EQ(checkFails(paths), 53);
+}
+
+TEST_F(PicturesKnown, ManyAreLookedAtWhileIdleToo)
+{
+    const QString one = writeSettled(u"one.gif"_s, redGif);
+    EXPECT_EQ(checkFails({ one }), 0);
+    EXPECT_EQ(checkFails(QStringList(50'000, one) << write(u"text.gif"_s, "no picture")), 0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return toldLater > 0; }));
+}
+
+TEST_F(PicturesPutOff, AreReadAgainWhereTheirDirectoryWasAway)
+{
+    paths << writeSettled(u"last.gif"_s, redGif);
+    EXPECT_EQ(checkFails(paths), 0);
+    const QString away = directory.path() + u".away"_s;
+    ASSERT_TRUE(QDir().rename(directory.path(), away));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return toldLater > 0; }));
+    ASSERT_TRUE(QDir().rename(away, directory.path()));
+    EXPECT_EQ(checkFails({ paths.back() }), 0);
 }
 
 TEST_F(PicturesKnown, AFewAreDecodedAtOnceHoweverSlow)
