@@ -7,7 +7,10 @@
 #include "core/rutas.h"
 
 #include "host/failure.h"
+#include "host/letters.h"
 #include "host/paths.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -37,9 +40,42 @@ QStringList nombresDelCatalogo(const core::Modulo &M)
     return nombres;
 }
 
+// Whether a directory of games holds one that any of these keys describes.
+bool hayAlguno(const QString &directorio, const QStringList &claves)
+{
+    const QStringList nombres = host::listFilesAndDirectories(directorio);
+    return std::ranges::any_of(nombres, [&](const QString &nombre) {
+        const QString mayus = host::upper(nombre);
+        return claves.contains(mayus) || (mayus.endsWith(u".ZIP") && claves.contains(mayus.chopped(4)));
+    });
+}
+
+// The systems of a catalogue with games of these keys; none where a directory can't be listed.
+QStringList sistemasConJuegos(const core::Modulo &catalogo, const QStringList &claves)
+{
+    QStringList enMayus;
+    for (const QString &clave : claves)
+        enMayus += host::upper(clave);
+    QStringList sistemas;
+    try {
+        for (const Pareja &pareja : Parejas(catalogo)) {
+            if (hayAlguno(DirectorioDeJuegos(catalogo, pareja), enMayus))
+                sistemas += pareja.nombreSistema;
+        }
+    } catch (const host::Failure &) {
+        return {};
+    }
+    sistemas.removeDuplicates();
+    return sistemas;
+}
+
 QString notasRemendadas(const QString &texto, const core::Modulo &M)
 {
-    return core::NotasRemendadas(texto, nombresDelCatalogo(M), SistemasConocidos(M));
+    return core::NotasRemendadas(
+        texto, nombresDelCatalogo(M), SistemasConocidos(M), [&M](const QStringList &claves) {
+            const auto catalogo = core::CatalogoDe(TextoDelPrograma(M, u"Zembro.emu"_s));
+            return sistemasConJuegos(*catalogo, claves);
+        });
 }
 
 } // namespace

@@ -59,10 +59,11 @@ QString conBloques(QString texto, const QStringList &sistemas)
     return texto;
 }
 
-QString unaPasada(const QString &texto, const QStringList &delCatalogo, const QStringList &conocidos)
+QString unaPasada(const QString &texto, const QStringList &delCatalogo, const QStringList &conocidos,
+    const SistemasDeClaves &deQuien)
 {
     QString remendado = SinRetornosSueltos(texto); // the one copy of a file that may be large
-    remendado = ConNombreDeNotas(remendado, conocidos);
+    remendado = ConNombreDeNotas(remendado, conocidos, deQuien);
     remendado = ConMarcaDeNotas(remendado, conocidos);
     remendado = ConNotasCerradas(remendado, conocidos);
     if (NotasSinNombre(remendado, conocidos).empty())
@@ -100,7 +101,7 @@ std::vector<SinCierre> NotasSinNombre(const QString &texto, const QStringList &s
     return tramos;
 }
 
-QString ConNombreDeNotas(const QString &texto, const QStringList &sistemas)
+QString ConNombreDeNotas(const QString &texto, const QStringList &sistemas, const SistemasDeClaves &deQuien)
 {
     const std::vector<SinCierre> tramos = NotasSinNombre(texto, sistemas);
     const QStringList faltan = sinBloque(texto, sistemas);
@@ -112,6 +113,13 @@ QString ConNombreDeNotas(const QString &texto, const QStringList &sistemas)
     if (!std::all_of(principio, final,
             [](const LineaConFin &linea) { return linea.linea.isEmpty() || esNotaEntera(linea.linea); }))
         return texto;
+    QStringList claves;
+    for (auto linea = principio; linea != final; ++linea) {
+        if (!linea->linea.isEmpty())
+            claves += host::TextSource(linea->linea.toString()).readField();
+    }
+    if (deQuien(claves) != faltan)
+        return texto;
     Copia copia;
     copia.Copiar(lineas, 0, tramos.front().inicio);
     copia.Nueva(faltan.front());
@@ -119,11 +127,12 @@ QString ConNombreDeNotas(const QString &texto, const QStringList &sistemas)
     return copia.Texto();
 }
 
-QString NotasRemendadas(const QString &texto, const QStringList &delCatalogo, const QStringList &conocidos)
+QString NotasRemendadas(const QString &texto, const QStringList &delCatalogo, const QStringList &conocidos,
+    const SistemasDeClaves &deQuien)
 {
     QString remendado = texto;
     for (int pasada = 0; pasada < PasadasDeRemiendo; ++pasada) {
-        const QString antes = std::exchange(remendado, unaPasada(remendado, delCatalogo, conocidos));
+        const QString antes = std::exchange(remendado, unaPasada(remendado, delCatalogo, conocidos, deQuien));
         if (antes == remendado)
             break;
     }

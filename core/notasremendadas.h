@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <vector>
 
 namespace core {
@@ -14,12 +15,17 @@ namespace core {
 // from the index of their first line to behind their last one.
 std::vector<SinCierre> NotasSinNombre(const QString &texto, const QStringList &sistemas);
 
-// The text with that name above them: where there is one such run, of notes and nothing else, and one of all
-// known systems that has no block.
-QString ConNombreDeNotas(const QString &texto, const QStringList &sistemas);
+// The systems among whose games there are files of any of these keys; none where that can't be told for sure.
+using SistemasDeClaves = std::function<QStringList(const QStringList &claves)>;
+
+// The text with that name above them: where there is one such run, of notes and nothing else, one of all
+// known systems that has no block, and their games are this one's and nobody else's. A stray apostrophe in
+// the middle of another system's notes leaves a run of the same looks.
+QString ConNombreDeNotas(const QString &texto, const QStringList &sistemas, const SistemasDeClaves &deQuien);
 
 // With all repairs of the notes, and an empty block for each system of the catalogue that has none, unless
 // notes stand under no name: those may be its own. A second call finds nothing to do.
-QString NotasRemendadas(const QString &texto, const QStringList &delCatalogo, const QStringList &conocidos);
+QString NotasRemendadas(const QString &texto, const QStringList &delCatalogo, const QStringList &conocidos,
+    const SistemasDeClaves &deQuien);
 
 } // namespace core

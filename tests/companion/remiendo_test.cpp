@@ -282,3 +282,23 @@ TEST_F(Mend, NotesWhoseNameIsGoneStayAsTheyAre_WhereTwoSystemsHaveNone)
     Remienda();
     EXPECT_EQ(Bytes(u"Zembro.rom"_s), antes);
 }
+
+// A stray apostrophe splits the notes of one system, and another one has none.
+TEST_F(Mend, NotesBehindAStrayApostropheBecomeNobodyElses)
+{
+    Pon(u"Zembro.sye"_s, "-Sis\r\n*.NES\r\n'\r\n+Uno\r\n'------\r\n-Other\r\n'------\r\n[EOF]\r\n");
+    Cambia(u"Zembro.rom"_s, "Sis\r\n", "Sis\r\n'\r\n");
+    const QByteArray antes = Bytes(u"Zembro.rom"_s);
+    EXPECT_TRUE(Halladas().otras.contains(u"notes-without-name"_s)) << dicho().toStdString();
+    Remienda();
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), antes);
+}
+
+TEST_F(Mend, NotesWhoseNameIsGoneStayAsTheyAre_WhereTheGamesOfASystemCantBeListed)
+{
+    Cambia(u"Zembro.emu"_s, Ruta(u"roms/"_s).toUtf8() + "\r\nIMG", Ruta(u"gone/"_s).toUtf8() + "\r\nIMG");
+    Cambia(u"Zembro.rom"_s, "Sis\r\n", "");
+    const QByteArray antes = Bytes(u"Zembro.rom"_s);
+    Remienda();
+    EXPECT_EQ(Bytes(u"Zembro.rom"_s), antes);
+}

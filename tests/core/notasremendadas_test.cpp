@@ -34,9 +34,22 @@ QString sin(const QString &lineas)
     return QString(Enteras).replace(lineas, QString());
 }
 
+// Of whose games there are files.
+QStringList deQuien(const QStringList &claves)
+{
+    const QStringList ficheros[] = { { u"GAME.BIN"_s, u"B, C.BIN"_s }, { u"[X] ONE.ZIP"_s, u"TWO"_s },
+        { u"LAST.BIN"_s } };
+    QStringList suyos;
+    for (qsizetype i = 0; i < Conocidos.size(); ++i) {
+        if (std::ranges::any_of(claves, [&](const QString &clave) { return ficheros[i].contains(clave); }))
+            suyos += Conocidos[i];
+    }
+    return suyos;
+}
+
 QString remendadas(const QString &texto)
 {
-    return core::NotasRemendadas(texto, Configurados, Conocidos);
+    return core::NotasRemendadas(texto, Configurados, Conocidos, deQuien);
 }
 
 // What each line with anything to say says: its fields, the first one whichever its case; of a line that is
@@ -141,6 +154,19 @@ TEST(AllMendedNotes, StayWithoutAName_AndNoEmptyBlockTakesTheirPlace_WhereSevera
     // An unknown system's block is its own, and so is what stands ahead of all of them.
     EXPECT_TRUE(
         core::NotasSinNombre(QString(Enteras).replace(u"Gamma, the third"_s, u"Delta"_s), Conocidos).empty());
+}
+
+// A stray apostrophe in the middle of one's notes, while another system has none.
+TEST(AllMendedNotes, StayWithoutAName_WhereTheirGamesAreAnotherSystemsOrNobodys)
+{
+    const QString sinGamma = sin(u"Gamma, the third\r\nLAST.BIN,\"The last\"\r\n'\r\n"_s);
+    const QString conSuelto = QString(sinGamma).replace(u"game\"\r\n"_s, u"game\"\r\n'\r\n"_s);
+    const QString deDos = sin(u"Gamma, the third\r\n"_s).replace(u"LAST.BIN"_s, u"TWO,\"2\"\r\nLAST.BIN"_s);
+    const QString deNadie = sin(u"Gamma, the third\r\n"_s).replace(u"LAST.BIN"_s, u"GONE.BIN"_s);
+    for (const QString &texto : { conSuelto, deDos, deNadie }) {
+        EXPECT_EQ(core::NotasSinNombre(texto, Conocidos).size(), 1u);
+        EXPECT_EQ(remendadas(texto), texto);
+    }
 }
 
 TEST(AllMendedNotes, GetAnEmptyBlockWhereTheirsIsGoneAltogether)
