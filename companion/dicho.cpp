@@ -68,6 +68,20 @@ QJsonObject enJson(const launch::Ensayo::Zip &zip)
         { u"removed"_s, zip.seVaEntero ? u"directory"_s : u"files"_s } };
 }
 
+// A line that the other system can't be told leaves nothing that could be taken for a command.
+bool seNiega(const launch::Ensayo &ensayo)
+{
+    const launch::Encargo &encargo = ensayo.encargo;
+    return !ensayo.orden || ensayo.orden->Argumentos().isEmpty()
+        || (encargo.traba != launch::Traba::Ninguna && encargo.traba != launch::Traba::SinHerramienta)
+        || (encargo.corredor == launch::Corredor::DOSBox && encargo.programaDOS.isEmpty());
+}
+
+bool hayOrden(const launch::Ensayo &ensayo)
+{
+    return !seNiega(ensayo) && ensayo.encargo.traba == launch::Traba::Ninguna;
+}
+
 QJsonObject enJson(const Pedida &pedida, const launch::Ensayo &ensayo, const MotivoDeParo &motivo)
 {
     QJsonObject objeto { { u"system"_s, pedida.pareja.nombreSistema },
@@ -77,9 +91,9 @@ QJsonObject enJson(const Pedida &pedida, const launch::Ensayo &ensayo, const Mot
         objeto[u"problem"_s] = motivo.texto;
     if (!motivo.parecido.isEmpty())
         objeto[u"similar"_s] = motivo.parecido;
-    if (ensayo.orden && !ensayo.orden->Argumentos().isEmpty()) {
+    AnadeCorredor(objeto, ensayo.encargo);
+    if (!seNiega(ensayo)) {
         objeto[u"arguments"_s] = QJsonArray::fromStringList(ensayo.orden->Argumentos());
-        AnadeCorredor(objeto, ensayo.encargo);
         objeto[u"text"_s] = ensayo.orden->EnTexto();
         objeto[u"directory"_s] = ensayo.directorio;
         objeto[u"debug"_s] = ensayo.enDepuracion;
@@ -114,40 +128,42 @@ QStringList enLineas(const MotivoDeParo &motivo, const Palabras &palabras)
     return lineas;
 }
 
-// False where a script that takes the answer for a command would get none.
-bool cuentaOrden(const Sesion &sesion, const launch::Ensayo &ensayo)
+void cuentaOrden(const Sesion &sesion, const launch::Ensayo &ensayo)
 {
     const Palabras &palabras = sesion.palabras;
-    const bool soloOrden = sesion.Tiene(u"lines"_s) || sesion.Tiene(u"shell"_s);
-    const QStringList argumentos = ArgumentosParaLaConsola(ensayo.encargo);
-    const bool hayOrden =
-        ensayo.encargo.traba != launch::Traba::SinHerramienta && !ensayo.orden->Argumentos().isEmpty();
-    if (soloOrden && hayOrden)
-        sesion.Escribe(sesion.Tiene(u"lines"_s) ? argumentos : QStringList { launch::EnShell(argumentos) });
-    if (soloOrden)
-        return hayOrden;
-    if (hayOrden)
-        sesion.Escribe(palabras.Zbo_LaOrden.arg(launch::EnShell(argumentos)));
-    if (!ensayo.orden->Argumentos().isEmpty())
+    if (hayOrden(ensayo))
+        sesion.Escribe(palabras.Zbo_LaOrden.arg(launch::EnShell(ArgumentosParaLaConsola(ensayo.encargo))));
+    if (!seNiega(ensayo))
         sesion.Escribe(QStringList {
             palabras.Zbo_EnDir.arg(ensayo.directorio), palabras.Zbo_ElTexto.arg(ensayo.orden->EnTexto()) });
     sesion.Escribe(DichoDe(sesion, ensayo.encargo));
-    return true;
+}
+
+// A script takes what stands on the standard output for a command.
+void cuentaSoloOrden(const Sesion &sesion, const launch::Ensayo &ensayo, const QStringList &razones)
+{
+    if (!hayOrden(ensayo)) {
+        for (const QString &razon : razones)
+            sesion.Avisa(razon);
+        return;
+    }
+    const QStringList argumentos = ArgumentosParaLaConsola(ensayo.encargo);
+    sesion.Escribe(sesion.Tiene(u"lines"_s) ? argumentos : QStringList { launch::EnShell(argumentos) });
 }
 
 void cuenta(const Sesion &sesion, const launch::Ensayo &ensayo, const MotivoDeParo &motivo)
 {
-    const bool soloOrden = sesion.Tiene(u"lines"_s) || sesion.Tiene(u"shell"_s);
     const QStringList razones = enLineas(motivo, sesion.palabras);
-    if (ensayo.orden && !cuentaOrden(sesion, ensayo)) {
-        for (const QString &razon : razones)
-            sesion.Avisa(razon);
-    }
-    if (ensayo.orden && soloOrden)
-        return;
+    if (sesion.Tiene(u"lines"_s) || sesion.Tiene(u"shell"_s))
+        return cuentaSoloOrden(sesion, ensayo, razones);
+    const bool razonesPrimero = seNiega(ensayo);
+    if (razonesPrimero)
+        sesion.Escribe(razones);
+    cuentaOrden(sesion, ensayo);
     if (ensayo.zip)
         cuentaZip(sesion, *ensayo.zip);
-    sesion.Escribe(razones);
+    if (!razonesPrimero)
+        sesion.Escribe(razones);
 }
 
 int dice(Sesion &sesion)

@@ -47,6 +47,8 @@ QByteArrayList lineas(const Encargo &encargo)
         dichas += QByteArray("mount ") + montaje.letra + " \"" + montaje.lugar + '"'
             + (cd[i] ? " -t cdrom" : "") + " >nul";
     }
+    if (encargo.programaDOS.isEmpty())
+        return dichas;
     const qsizetype corte = encargo.programaDOS.lastIndexOf('\\');
     const bool lotes = encargo.programaDOS.endsWith(".BAT");
     dichas += encargo.programaDOS.first(2);

@@ -90,6 +90,10 @@ public:
             encargo.colaDOS.chop(1);
         if (encargo.colaDOS.size() > MasLargaLaCola)
             traba(Traba::Largo, QString::fromLatin1(encargo.colaDOS));
+        if (m_trabada) {
+            encargo.programaDOS.clear();
+            encargo.colaDOS.clear();
+        }
         encargo.montajes = m_unidades.Montajes();
     }
 
@@ -97,6 +101,7 @@ private:
     // The first one counts.
     void traba(Traba cual, const QString &en)
     {
+        m_trabada = true;
         if (encargo.traba != Traba::Ninguna)
             return;
         encargo.traba = cual;
@@ -104,6 +109,7 @@ private:
     }
 
     UnidadesDOS m_unidades;
+    bool m_trabada = false; // also where a tool is missing, which counts first
 };
 
 Encargo paraDOS(const LineaDeOrden &orden, const QString &programa, const Lugares &lugares)

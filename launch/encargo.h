@@ -35,7 +35,7 @@ struct Encargo {
         argumentos; // to be started; there may be files to be made first: see CarpetaDOS and CarpetaDeWine
 
     std::vector<UnidadesDOS::Montaje> montajes;
-    QByteArray programaDOS; // "C:\EMUS\NES.EXE"
+    QByteArray programaDOS; // "C:\EMUS\NES.EXE"; empty, and so is the next, if DOS can't be told the line
     QByteArray colaDOS; // what stands behind it, blanks and all, in DOS's code page
 
     LineaDeOrden orden; // for Wine: the line itself, and its program in its true spelling

@@ -199,6 +199,39 @@ TEST_F(OtroSistema, WithoutAToolCommandShowsNoEmptyProgram)
     }
 }
 
+TEST_F(OtroSistema, CommandShowsNothingLikeACommandWhereTheLineIsRefused)
+{
+    const QStringList orden { u"command"_s, u"Sis"_s, u"Uno"_s, u"Mario"_s };
+    Pon(u"emu/\u00F1.exe"_s, ParaDOS);
+    const auto seNiega = [&](const QByteArray &razon) {
+        const QJsonObject json = Json(orden, companion::Hallazgos);
+        for (const QString &clave : { u"dos_line"_s, u"text"_s, u"arguments"_s })
+            EXPECT_FALSE(json.contains(clave)) << clave.toStdString();
+        EXPECT_EQ(json[u"program_for"_s], u"dos"_s);
+        const QByteArray dicho = Zembro(orden).salida;
+        EXPECT_TRUE(dicho.startsWith("Doesn't start: " + razon + '\n')) << dicho.toStdString();
+        EXPECT_FALSE(
+            dicho.contains("DOS gets") || dicho.contains("mount") || dicho.toLower().contains(".exe"))
+            << dicho.toStdString();
+        for (const QString &opcion : { u"--lines"_s, u"--shell"_s }) {
+            const Respuesta una = Zembro(orden + QStringList { opcion });
+            EXPECT_EQ(una.estado, companion::Hallazgos);
+            EXPECT_EQ(una.salida, "") << opcion.toStdString();
+            EXPECT_TRUE(una.error.contains(razon)) << una.error.toStdString();
+        }
+    };
+    const QByteArray bueno = Bytes(u"Zembro.emu"_s);
+    Cambia(u"Zembro.emu"_s, "PAR1=-a", "PAR1=-a <b");
+    seNiega("Install DOSBox.");
+    PonHerramienta(u"dosbox"_s);
+    Pon(u"LNG/ZB-ENG.LNG"_s,
+        "Zem_SignoDOS......=\"No such sign.\"\r\nZem_NombreDOS.....=\"No such name.\"\r\n");
+    seNiega("No such sign.");
+    Pon(u"Zembro.emu"_s, bueno);
+    Cambia(u"Zembro.emu"_s, "UNO.EXE", "\u00F1.exe");
+    seNiega("No such name.");
+}
+
 TEST_F(OtroSistema, GamesOfADriveThatIsMissingAreToldByTheDrive)
 {
     Pon(u"Zembro.uni"_s, "C=.\r\n");
