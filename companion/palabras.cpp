@@ -109,6 +109,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_DosLineas", &P::Zbo_DosLineas },
         { u"Zbo_FaltaLinea", &P::Zbo_FaltaLinea },
         { u"Zbo_SinBarra", &P::Zbo_SinBarra },
+        { u"Zbo_BlancosRuta", &P::Zbo_BlancosRuta },
         { u"Zbo_SinEmulador", &P::Zbo_SinEmulador },
         { u"Zbo_CatalogoMal", &P::Zbo_CatalogoMal },
         { u"Zbo_SinCerrar", &P::Zbo_SinCerrar },

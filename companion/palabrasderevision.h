@@ -93,6 +93,8 @@ struct PalabrasDeRevision {
         "The emulator %1 has no line that begins with %2=; add it, or configure it in the program.");
     QString Zbo_SinBarra = QStringLiteral(
         "This directory lacks its closing separator, so its name runs into those of the files: %1");
+    QString Zbo_BlancosRuta = QStringLiteral(
+        "Blanks behind this path count as part of it, so that nothing is found there; take them away: '%1'");
     QString Zbo_SinEmulador =
         QStringLiteral("The system %1 has no emulator; configure one in the program, or remove its lines.");
     QString Zbo_CatalogoMal =

@@ -84,7 +84,9 @@ std::vector<Perdido> LugaresPerdidos(
     int numero = 0;
     for (const core::LineaConFin &linea : core::EnLineas(texto)) {
         ++numero;
-        const QString camino = caminoDe(linea.linea);
+        QString camino = caminoDe(linea.linea);
+        if (!camino.isEmpty() && !hay(camino))
+            camino = SinCierre(camino.trimmed()); // blanks behind it are no other place
         const QString viejo = camino.isEmpty() ? QString() : loPerdidoDe(camino, hay);
         if (viejo.isEmpty())
             continue;

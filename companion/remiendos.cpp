@@ -21,8 +21,7 @@ namespace {
 QString catalogoRemendado(const QString &texto)
 {
     const QString limpio = core::SinRetornosSueltos(texto);
-    return core::ConMarcaFinal(
-        core::ConBloquesCerrados(core::ConSeparadoresFinales(limpio, EsRutaDeFichero)));
+    return core::ConMarcaFinal(core::ConBloquesCerrados(core::ConSeparadoresFinales(limpio, LoQueHayEn)));
 }
 
 QString ajustesRemendados(const QString &texto)
@@ -80,10 +79,13 @@ QString notasRemendadas(const QString &texto, const core::Modulo &M)
 
 } // namespace
 
-bool EsRutaDeFichero(const QString &valor)
+core::EnDisco LoQueHayEn(const QString &valor)
 {
     const QString ruta = core::RutaDeValor(valor);
-    return host::exists(ruta) && !host::exists(host::withClosingSeparator(ruta));
+    if (valor.isEmpty() || !host::exists(ruta))
+        return core::EnDisco::Nada;
+    const bool directorio = host::exists(host::withClosingSeparator(ruta));
+    return directorio ? core::EnDisco::Directorio : core::EnDisco::Fichero;
 }
 
 std::vector<Remiendo> Remiendos(const core::Modulo &M)

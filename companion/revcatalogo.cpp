@@ -154,8 +154,11 @@ void RevisorDeCatalogo::valor(QStringView clave, const QString &linea)
     if (clave.startsWith(u"PAR") && linea.count(u'"') % 2 != 0)
         halla(u"open-quotes"_s, m_palabras.Zbo_ParComillas.arg(linea));
     const QString ruta = linea.mid(clave.size() + 1);
-    if ((clave == u"ROM" || clave == u"IMG") && ruta != host::withClosingSeparator(ruta)
-        && !EsRutaDeFichero(ruta))
+    if (clave != u"ROM" && clave != u"IMG")
+        return;
+    if (core::SobranBlancos(ruta, LoQueHayEn))
+        halla(u"blanks-behind-path"_s, m_palabras.Zbo_BlancosRuta.arg(linea));
+    else if (ruta != core::ConSeparadorFinal(ruta, LoQueHayEn))
         halla(u"no-closing-separator"_s, m_palabras.Zbo_SinBarra.arg(linea));
 }
 

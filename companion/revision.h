@@ -4,6 +4,8 @@
 #include "companion/lineasdelcatalogo.h"
 #include "companion/mundo.h"
 
+#include "core/remiendos.h"
+
 #include <QString>
 
 #include <functional>
@@ -99,8 +101,8 @@ QStringList SistemasConocidos(const core::Modulo &M);
 // What kept a directory of the configuration from being listed, and what to do where it isn't there.
 QString TextoDeDirectorio(const host::Failure &fallo, const Palabras &palabras);
 
-// Whether a value of the catalogue is the path of something that is no directory.
-bool EsRutaDeFichero(const QString &valor);
+// What the disk has under a value of the catalogue.
+core::EnDisco LoQueHayEn(const QString &valor);
 
 // A change of a text file that has one answer only. It reads the other files.
 struct Remiendo {

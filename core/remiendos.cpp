@@ -105,16 +105,38 @@ QString ConMarcaFinal(const QString &texto)
     return copia.Texto();
 }
 
-QString ConSeparadoresFinales(const QString &texto, const std::function<bool(const QString &)> &esFichero)
+namespace {
+
+QString sinBlancos(QString valor)
+{
+    while (valor.endsWith(u' ') || valor.endsWith(u'\t'))
+        valor.chop(1);
+    return valor;
+}
+
+} // namespace
+
+bool SobranBlancos(const QString &valor, const LoQueHay &hay)
+{
+    return sinBlancos(valor).size() < valor.size() && hay(valor) == EnDisco::Nada;
+}
+
+QString ConSeparadorFinal(const QString &valor, const LoQueHay &hay)
+{
+    if (!SobranBlancos(valor, hay))
+        return hay(valor) == EnDisco::Fichero ? valor : host::withClosingSeparator(valor);
+    const QString corto = sinBlancos(valor);
+    return hay(corto) == EnDisco::Directorio ? host::withClosingSeparator(corto) : valor;
+}
+
+QString ConSeparadoresFinales(const QString &texto, const LoQueHay &hay)
 {
     Copia copia;
     for (const LineaConFin &linea : EnLineas(texto)) {
         const QString entera = linea.linea.toString();
         const bool deRuta = linea.linea.startsWith(u"ROM=") || linea.linea.startsWith(u"IMG=");
-        const bool directorio = deRuta && !esFichero(entera.sliced(PrefijoRuta));
-        const QString cerrada = directorio
-            ? entera.first(PrefijoRuta) + host::withClosingSeparator(entera.sliced(PrefijoRuta))
-            : entera;
+        const QString cerrada =
+            deRuta ? entera.first(PrefijoRuta) + ConSeparadorFinal(entera.sliced(PrefijoRuta), hay) : entera;
         copia.Copiar({ cerrada, linea.fin });
     }
     return copia.Texto();

@@ -32,9 +32,18 @@ QString ConBloquesCerrados(const QString &texto);
 bool TieneMarcaFinal(const QString &texto);
 QString ConMarcaFinal(const QString &texto);
 
-// The text of a catalogue in which the directories of the ROM and IMG lines end in a separator, which is
-// added in the kind that the path has; not to the paths of a file, which no separator makes a directory.
-QString ConSeparadoresFinales(const QString &texto, const std::function<bool(const QString &)> &esFichero);
+// What the disk has under a value of the catalogue, as it stands there.
+enum class EnDisco { Nada, Fichero, Directorio };
+using LoQueHay = std::function<EnDisco(const QString &valor)>;
+
+// Whether blanks stand behind the value that no directory's name ends in.
+bool SobranBlancos(const QString &valor, const LoQueHay &hay);
+
+// The value of a ROM or IMG line with a separator at its end, in the kind that the path has; not that of a
+// file, which no separator makes a directory. Behind blanks that don't belong there it gets none: they go
+// where a directory comes of it, else it stays. And the text of a catalogue with such lines.
+QString ConSeparadorFinal(const QString &valor, const LoQueHay &hay);
+QString ConSeparadoresFinales(const QString &texto, const LoQueHay &hay);
 
 // The systems of these names whose notes run into the next one's, as their closing apostrophe is missing.
 std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &sistemas);

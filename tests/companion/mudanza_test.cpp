@@ -244,6 +244,10 @@ TEST(LostPlaces, AreWhatSeveralLinesLeadThrough)
     EXPECT_EQ(
         perdidos(u"ROM=/media/old/nes/\nIMG=/media/old/nes"_s, { u"/media/a/nes"_s, u"/media/b/nes"_s }),
         QStringList { u"1:2 /media/old > "_s });
+    // Blanks behind what is there, and behind what isn't.
+    EXPECT_EQ(perdidos(u"ROM=/media/nes/ \nIMG=/media/nes \n"_s, { u"/media/nes"_s }), QStringList());
+    EXPECT_EQ(perdidos(u"ROM=/media/old/ \nIMG=/media/old\n"_s, { u"/media"_s }),
+        QStringList { u"1:2 /media/old > "_s });
     // One line, and a program that is mistyped.
     EXPECT_EQ(perdidos(u"ROM=/media/old/nes/\n"_s, { u"/media"_s }), QStringList());
     EXPECT_EQ(perdidos(u"EXE=/bin/aa\nEXE=/bin/aa\nEXE=/\nROM=\nROM=roms/\nROM=/\n"_s, { u"/bin"_s }),

@@ -61,6 +61,27 @@ TEST_F(Check, LinesThatMeanAnotherThingAreSaid)
     EXPECT_THAT(clases(), Contains(u"no-name"_s));
 }
 
+TEST_F(Check, BlanksBehindADirectoryAreSaid_AndTakenAwayWhereThatIsThere)
+{
+    const QByteArray entero = Bytes(u"Zembro.emu"_s);
+    Cambia(u"Zembro.emu"_s, "roms/\r\n", "roms/ \r\n");
+    EXPECT_THAT(clases(), Contains(u"blanks-behind-path"_s));
+    EXPECT_THAT(clases(), testing::Not(Contains(u"no-closing-separator"_s)));
+    EXPECT_THAT(clases(), testing::Not(Contains(u"lost-place"_s)));
+    EXPECT_TRUE(
+        dicho().startsWith("Zembro.emu:8: Blanks behind this path count as part of it, so that nothing "
+                           "is found there; take them away: 'ROM="
+            + Ruta(u"roms/ '"_s).toUtf8() + " [It has one answer only: check --mend --write.]\n"))
+        << dicho().toStdString();
+    EXPECT_EQ(Zembro({ u"check"_s, u"--mend"_s, u"--write"_s }).estado, companion::Bien);
+    EXPECT_EQ(Bytes(u"Zembro.emu"_s), entero);
+    Cambia(u"Zembro.emu"_s, "roms/\r\n", "gone/ \r\n");
+    const QByteArray perdido = Bytes(u"Zembro.emu"_s);
+    EXPECT_THAT(clases(), Contains(u"blanks-behind-path"_s));
+    Zembro({ u"check"_s, u"--mend"_s, u"--write"_s });
+    EXPECT_EQ(Bytes(u"Zembro.emu"_s), perdido);
+}
+
 TEST_F(Check, ADirectoryWithoutItsSeparatorIsSaid_AndMended)
 {
     const QByteArray entero = Bytes(u"Zembro.emu"_s);

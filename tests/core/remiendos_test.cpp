@@ -59,10 +59,27 @@ TEST(MendedNotes, DoNotTakeAGameInBracketsForTheMark)
 
 TEST(ClosingSeparators, AreAddedToDirectories_AndNotToFiles)
 {
-    const auto esFichero = [](const QString &ruta) { return ruta == u"/games/one.bin"_s; };
-    EXPECT_EQ(core::ConSeparadoresFinales(
-                  u"ROM=/games/one.bin\r\nROM=/games/two\nIMG=C:\\x\nEXE=/a\nROM="_s, esFichero),
+    const auto hay = [](const QString &ruta) {
+        return ruta == u"/games/one.bin" ? core::EnDisco::Fichero : core::EnDisco::Nada;
+    };
+    EXPECT_EQ(
+        core::ConSeparadoresFinales(u"ROM=/games/one.bin\r\nROM=/games/two\nIMG=C:\\x\nEXE=/a\nROM="_s, hay),
         u"ROM=/games/one.bin\r\nROM=/games/two/\nIMG=C:\\x\\\nEXE=/a\nROM="_s);
+}
+
+TEST(ClosingSeparators, AreAddedBehindNoBlanks_WhichGoWhereADirectoryComesOfIt)
+{
+    const QStringList directorios { u"/nes/"_s, u"/snes"_s, u"/with "_s };
+    const auto hay = [&](const QString &ruta) {
+        return directorios.contains(ruta) ? core::EnDisco::Directorio : core::EnDisco::Nada;
+    };
+    EXPECT_EQ(core::ConSeparadoresFinales(
+                  u"ROM=/nes/ \r\nIMG=/snes \t\nROM=/with \nROM=/gone/ \nIMG=  \nEXE=/nes/ "_s, hay),
+        u"ROM=/nes/\r\nIMG=/snes/\nROM=/with /\nROM=/gone/ \nIMG=  \nEXE=/nes/ "_s);
+    EXPECT_TRUE(core::SobranBlancos(u"/nes/ "_s, hay));
+    EXPECT_TRUE(core::SobranBlancos(u"/gone/ "_s, hay));
+    EXPECT_FALSE(core::SobranBlancos(u"/with "_s, hay));
+    EXPECT_FALSE(core::SobranBlancos(u"/gone/"_s, hay));
 }
 
 TEST(MendedSettings, AreAsTheyWere_WhicheverLineIsMissingAroundThem)

@@ -133,8 +133,8 @@ std::vector<Rewrite> ofTheCommandLine()
         + SistemaDe(CabezaBeta, { "B1" }).chopped(Cierre.size()))
                                .replace(u"ROM=/roms/A1/"_s, u"ROM=/roms/A1"_s);
     const auto mend = [](Text text) {
-        return core::ConMarcaFinal(
-            core::ConBloquesCerrados(core::ConSeparadoresFinales(text, [](Text) { return false; })));
+        return core::ConMarcaFinal(core::ConBloquesCerrados(
+            core::ConSeparadoresFinales(text, [](Text) { return core::EnDisco::Nada; })));
     };
     const auto describe = [](Text text) {
         return core::ConDescripciones(text, u"Alfa"_s,
