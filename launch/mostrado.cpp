@@ -261,8 +261,9 @@ const Mostrado::Enlace *Mostrado::Propio(const QByteArray &nombre) const
 
 Mostrado::Nombre Mostrado::EnCasa(const QByteArray &nombre) const
 {
-    QByteArray prefijo =
-        m_juego.isEmpty() || SeLlamaIgual(nombre, m_apodo) ? QByteArray() : PrefijoEnCasa(m_juego);
+    // A new file under the game's own made-up name would be a neighbour with that name.
+    const bool comoElJuego = SeLlamaIgual(nombre, m_apodo) && !mismoNombre(nombre, m_apodo);
+    QByteArray prefijo = m_juego.isEmpty() || comoElJuego ? QByteArray() : PrefijoEnCasa(m_juego);
     if (prefijo.size() + nombre.size() > NAME_MAX)
         prefijo.clear();
     if (const Enlace *enlace = Propio(nombre))

@@ -20,8 +20,8 @@ std::optional<struct stat> EstadoDe(const QByteArray &ruta);
 // None where it can't be listed.
 QByteArrayList EntradasDe(const QByteArray &lugar);
 
-// What stands ahead of the name at home that a game gives to what isn't named after it: other games there may
-// give the same one.
+// What stands ahead of the name at home that a game gives to what isn't named after it, or replaces it: other
+// games there may give the same one.
 QByteArray PrefijoEnCasa(const QByteArray &juego);
 
 // "NINO" of "NINO.SAV": what a game saves under its own name begins so.

@@ -1,6 +1,7 @@
 #include "launch/unidadesdos.h"
 
 #include "launch/intenta.h"
+#include "launch/mostrado.h"
 #include "launch/nombresdos.h"
 
 #include "host/encoding.h"
@@ -73,21 +74,21 @@ Apodado apodado(const QByteArray &entrada)
 }
 
 // What is saved beside a game bears its name: where a neighbour would get the same one, and where nothing is
-// left of the name, a checksum of it tells them apart, the same in each run.
+// left of the name, a checksum of it tells them apart, the same in each run. A game that has saved under that
+// name keeps it when the neighbour has gone.
 QByteArray apodoDe(const QByteArray &lugar, const QByteArray &entrada)
 {
     constexpr qsizetype Letras = 4; // ahead of the checksum's four digits
     const Apodado propio = apodado(entrada);
-    QByteArrayList entradas;
-    Intenta([&] { entradas = host::listInDiskOrder(host::nameFromDisk(lugar)); });
-    const bool compartido = std::ranges::any_of(
-        entradas, [&](const QByteArray &otra) { return otra != entrada && apodado(otra) == propio; });
-    if (!propio.base.isEmpty() && !compartido)
-        return propio.base + propio.terminacion;
     const QByteArray suma = QByteArray::number(qChecksum(entrada), 16).toUpper().rightJustified(4, '0');
-    return (propio.base.isEmpty() ? QByteArray("GAME")
-                                  : propio.base.first(std::min(propio.base.size(), Letras)))
+    const QByteArray conSuma =
+        (propio.base.isEmpty() ? QByteArray("GAME") : propio.base.first(std::min(propio.base.size(), Letras)))
         + suma + propio.terminacion;
+    const bool tieneOtro = std::ranges::any_of(EntradasDe(lugar), [&](const QByteArray &otra) {
+        const bool vecino = otra != entrada && !otra.startsWith(PrefijoEnCasa(entrada));
+        return (vecino && apodado(otra) == propio) || SeLlamaIgual(otra, conSuma);
+    });
+    return propio.base.isEmpty() || tieneOtro ? conSuma : propio.base + propio.terminacion;
 }
 
 // Without what leads through a directory and back.

@@ -273,7 +273,9 @@ TEST_F(LaunchesInDosBox, WhatAGameWithAccentsSavesReplacesNoFileThatItDidNotSee)
     EXPECT_EQ(bytes("media/ROMS/Espa\xC3\xB1"
                     "a.gb"),
         "played");
-    EXPECT_EQ(bytes("media/ROMS/ESPANA.GB"), "new\r\n");
+    EXPECT_EQ(bytes("media/ROMS/Espa\xC3\xB1"
+                    "a.gb - ESPANA.GB"),
+        "new\r\n");
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
 }
 

@@ -259,6 +259,32 @@ TEST_F(EncargoTest, AGameThatDosCantOpenByItsNameGetsAnotherOne)
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
 }
 
+TEST_F(EncargoTest, AGameKeepsTheNameThatItSavedUnderAsNeighboursComeAndGo)
+{
+    Pon(ParaDOS);
+    PonHerramienta("dosbox");
+    PonROM("S\xC3\xBAper Mario.nes");
+    pantalla.lista1 = u"Súper Mario.nes"_s;
+    const auto nombre = [&] {
+        Juega();
+        const QByteArray linea = Configuracion().value(Configuracion().size() - 3).trimmed();
+        return linea.sliced(linea.lastIndexOf('\\') + 1);
+    };
+    EXPECT_EQ(nombre(), "SUPERMAR.NES");
+    // What it left itself is no neighbour, nor one of another kind.
+    PonROM("S\xC3\xBAper Mario.nes - SUPERMAR.NES");
+    PonROM("S\xC3\xBAper Mario.gb");
+    EXPECT_EQ(nombre(), "SUPERMAR.NES");
+    PonROM("S\xC3\xBAper Mario 2.nes");
+    const QByteArray conSuma = nombre();
+    EXPECT_THAT(conSuma.toStdString(), testing::MatchesRegex("SUPE[0-9A-F]{4}[.]NES"));
+    PonROM(conSuma.first(8).toLower() + ".sav");
+    ASSERT_EQ(unlink(place("roms/S\xC3\xBAper Mario 2.nes").constData()), 0);
+    EXPECT_EQ(nombre(), conSuma) << "its save is there";
+    ASSERT_EQ(unlink(place("roms/" + conSuma.first(8).toLower() + ".sav").constData()), 0);
+    EXPECT_EQ(nombre(), "SUPERMAR.NES");
+}
+
 TEST_F(EncargoTest, AnEmulatorThatDosCantOpenByItsNameIsRefused)
 {
     makeFile("emu/n\xC3\xA9s.exe", ParaDOS);

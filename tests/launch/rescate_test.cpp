@@ -240,6 +240,27 @@ TEST_F(RescateTest, LoQueSeLlamaDeOtroModoSigueEnUnSoloFichero)
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
+// In the name that it was shown under it would be a neighbour of that name, and the game get another one.
+TEST_F(RescateTest, LoQueElJuegoPoneEnSuLugarQuedaConSuNombre)
+{
+    const auto apodo = [&] {
+        launch::UnidadesDOS unidades;
+        return unidades.RutaOApodo(path(u"roms/ni\u00F1o.nes"_s)).value_or(QByteArray()).sliced(3);
+    };
+    EXPECT_EQ(apodo(), "NINO.NES");
+    for (const auto &[linea, fichero] : { std::pair("echo new > X; mv X NINO.NES", "NINO.NES"),
+             { "rm NINO.NES; echo newer > NINO.NES", "NINO-2.NES" } }) {
+        Matada(linea);
+        EXPECT_THAT(launch::RescataRestos().pendientes, IsEmpty());
+        EXPECT_TRUE(exists(QByteArray("roms/ni\xC3\xB1o.nes - ") + fichero)) << fichero;
+        EXPECT_EQ(apodo(), "NINO.NES");
+    }
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - NINO.NES"), "new\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes"), "the game");
+    EXPECT_FALSE(exists("roms/NINO.NES"));
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
 TEST_F(RescateTest, LosQueEscribenElMismoNombreTienenCadaUnoElSuyo)
 {
     PonROM("ni\xC3\xB1"
