@@ -9,6 +9,7 @@
 #include <QDialog>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStyleOption>
 
 using namespace Qt::StringLiterals;
@@ -24,14 +25,22 @@ QStyleOptionViewItem shownRow(const QStyleOptionViewItem &row)
     return shown;
 }
 
+// Between both bars, where it is painted ahead of the frame.
+QRect cornerOf(const QAbstractScrollArea &area, const QRect &within)
+{
+    if (area.verticalScrollBar()->isHidden() || area.horizontalScrollBar()->isHidden())
+        return {};
+    return { area.viewport()->geometry().bottomRight() + QPoint(1, 1), within.bottomRight() };
+}
+
 // The line may be thinner than the frame that it is drawn on. Where the area within isn't opaque, what it
 // leaves bare is seen too.
 void fillUnderEdge(QPainter &painter, const QStyleOption &option, const QAbstractScrollArea &area)
 {
     const int width = area.frameWidth();
     QRegion edge(option.rect);
-    if (area.viewport()->autoFillBackground())
-        edge -= option.rect.adjusted(width, width, -width, -width);
+    const QRect within = option.rect.adjusted(width, width, -width, -width);
+    edge -= area.viewport()->autoFillBackground() ? within : cornerOf(area, within);
     for (const QRect &side : edge)
         painter.fillRect(side, option.palette.brush(QPalette::Base));
 }

@@ -66,6 +66,8 @@ bool WholeFrames::eventFilter(QObject *receiver, QEvent *event)
     auto &widget = static_cast<QWidget &>(*receiver);
     if (event->type() == QEvent::Polish && !isWhole(m_factor) && !widget.isWindow())
         makeTransparent(widget);
+    if (event->type() == QEvent::Resize && !isWhole(m_factor) && widget.windowType() == Qt::ToolTip)
+        widget.resize(uncut(widget.size(), m_factor));
     return event->type() == QEvent::Paint && paint(widget, static_cast<QPaintEvent &>(*event));
 }
 
@@ -112,6 +114,18 @@ bool needsWholeFrames(double ratio, double factor)
 {
     const double ofCompositor = factor > 0 ? std::round(ratio / factor) : 1;
     return !isWhole(factor) && ofCompositor > 1;
+}
+
+QSize uncut(QSize size, double factor)
+{
+    constexpr double Nothing = 1e-6; // of a pixel
+    const auto isCut = [factor](
+                           int length) { return std::round(length * factor) < length * factor - Nothing; };
+    while (isCut(size.width()))
+        ++size.rwidth();
+    while (isCut(size.height()))
+        ++size.rheight();
+    return size;
 }
 
 void lengthenEdges(QImage &picture, const QSize &window)

@@ -6,6 +6,7 @@
 
 class QImage;
 class QPaintEvent;
+class QSize;
 class QWidget;
 
 namespace forms {
@@ -18,7 +19,8 @@ namespace forms {
 // Controls begin and end within a pixel there. What the toolkit takes for opaque it leaves out of what lies
 // below, piece by piece, and rounds each piece by itself: a pixel between two would stay bare. So no control
 // counts as opaque, and each ground is painted here. And a window ends within a pixel of the compositor's:
-// what its picture holds beyond its own size shows too, and gets the colours beside it.
+// what its picture holds beyond its own size shows too, and gets the colours beside it; a tip, whose last
+// line would be cut where the window ends ahead of it, gets larger.
 class WholeFrames : public QObject {
 public:
     // Watches every window of the application; the factor is the toolkit's own.
@@ -40,6 +42,10 @@ private:
 
 // Whether a window shown at this ratio, of which the toolkit's own factor is a part, needs it.
 bool needsWholeFrames(double ratio, double factor);
+
+// The least size, from this one on, of which the factor makes no fewer pixels than it asks for: the toolkit
+// rounds to the nearest.
+QSize uncut(QSize size, double factor);
 
 // What lies to the right of the window's size and below it, in pixels of the picture, gets the colours of the
 // window's last column and row.

@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QPaintEvent>
+#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTest>
 
@@ -118,6 +119,47 @@ TEST(WholeFrames, GiveAControlItsGround)
     on.list.Clear();
     EXPECT_EQ(drive::colourAt(on.list, on.list.rect().center()), QColor(Qt::yellow));
     EXPECT_EQ(drive::colourAt(on.list, { 2, 2 }), QColor(Qt::yellow));
+}
+
+TEST(WholeFrames, LeaveTheCornerBetweenTwoBarsItsColour)
+{
+    const forms::WholeFrames frames(1.5);
+    forms::Form form(u"form"_s, 3000, 3000, forms::Form::Border::None);
+    QPlainTextEdit text(&form);
+    text.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    text.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    text.setGeometry(20, 20, 120, 100);
+    QPalette colours = text.palette();
+    colours.setColor(QPalette::Base, Qt::yellow);
+    colours.setColor(QPalette::Shadow, Qt::blue);
+    text.setPalette(colours);
+    form.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
+    EXPECT_EQ(drive::colourAt(text, text.rect().center()), QColor(Qt::yellow));
+    const QPoint last = text.rect().bottomRight() - QPoint(text.frameWidth(), text.frameWidth());
+    EXPECT_EQ(drive::colourAt(text, last), QColor(Qt::blue));
+    EXPECT_EQ(drive::colourAt(text, last - QPoint(8, 8)), QColor(Qt::blue));
+}
+
+TEST(WholeFrames, GiveATipASizeThatIsNotCut)
+{
+    EXPECT_EQ(forms::uncut({ 101, 100 }, 1.25), QSize(102, 100));
+    EXPECT_EQ(forms::uncut({ 102, 103 }, 1.25), QSize(102, 103));
+    EXPECT_EQ(forms::uncut({ 97, 1 }, 1.5), QSize(97, 1));
+    EXPECT_EQ(forms::uncut({ 101, 103 }, 1.75), QSize(101, 103 + 1));
+    EXPECT_EQ(forms::uncut({ 0, 7 }, 1.1), QSize(0, 7));
+    EXPECT_EQ(forms::uncut({ 1, 12 }, 1.1), QSize(5, 15));
+    EXPECT_EQ(forms::uncut({ 10, 30 }, 1.1), QSize(10, 30));
+
+    const forms::WholeFrames frames(1.25);
+    QWidget tip(nullptr, Qt::ToolTip);
+    tip.resize(101, 21);
+    tip.show();
+    EXPECT_EQ(tip.size(), QSize(102, 22));
+    QWidget menu(nullptr, Qt::Popup);
+    menu.resize(101, 21);
+    menu.show();
+    EXPECT_EQ(menu.size(), QSize(101, 21));
 }
 
 TEST(WholeFrames, ShowTheLastPixelsBeyondAWindowsEnd)
