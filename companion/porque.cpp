@@ -56,26 +56,39 @@ std::vector<Impedimento> faltasTras(const launch::Partida &partida, const Palabr
     return LoQueLeFalta(programaDe(partida), palabras);
 }
 
-int porque(Sesion &sesion)
+// The lines of the last launch; else why there are none, in words.
+struct Contada {
+    std::optional<launch::Partida> partida;
+    QString falta;
+};
+
+Contada ultimaContada(const Palabras &palabras)
 {
     const QByteArray ruta = FicheroDeLineas();
     const QString fichero = host::nameFromDisk(ruta);
-    std::optional<QByteArray> lineas;
     try {
-        lineas = host::readAside(ruta);
+        const std::optional<QByteArray> lineas = host::readAside(ruta);
+        if (!lineas)
+            return { std::nullopt, palabras.Zbo_NoSuyas.arg(fichero) };
+        return { launch::UltimaPartida(host::nameFromDisk(*lineas)), palabras.Zbo_SinPartida.arg(fichero) };
     } catch (const host::Failure &) {
-        return sesion.Falla(sesion.palabras.Zbo_SinLineas.arg(fichero));
+        return { std::nullopt, palabras.Zbo_SinLineas.arg(fichero) };
     }
-    if (!lineas)
-        return sesion.Falla(sesion.palabras.Zbo_NoSuyas.arg(fichero));
-    const std::optional<launch::Partida> partida = launch::UltimaPartida(host::nameFromDisk(*lineas));
-    if (!partida)
-        return sesion.Falla(sesion.palabras.Zbo_SinPartida.arg(fichero));
+}
+
+int porque(Sesion &sesion)
+{
     Revision pendientes;
     const Rescatado rescatado = RescataLoGuardado(sesion, pendientes);
     QStringList quedan;
     for (const Hallazgo &hallazgo : pendientes)
         quedan += hallazgo.texto;
+    const auto [partida, falta] = ultimaContada(sesion.palabras);
+    if (!partida) {
+        for (const QString &linea : rescatado.lineas + quedan)
+            sesion.Avisa(linea);
+        return sesion.Falla(falta);
+    }
     QJsonObject objeto = PartidaEnJson(*partida, sesion.palabras);
     objeto[u"brought_back"_s] = QJsonArray::fromStringList(rescatado.vueltos);
     objeto[u"left_behind"_s] = QJsonArray::fromStringList(quedan);

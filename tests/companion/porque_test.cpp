@@ -139,6 +139,42 @@ TEST_F(Why, WithoutLinesItCouldNotTell)
     EXPECT_EQ(Zembro({ u"why"_s }).error, "zembro: " + Ruta(u"log"_s).toUtf8() + " tells of no launch.\n");
 }
 
+TEST_F(Why, WithoutLinesTooWhatAGameSavedComesBack)
+{
+    const QByteArray temporal = qgetenv("TMPDIR");
+    PonDirectorio(u"temporal"_s);
+    ASSERT_EQ(chmod(Ruta(u"temporal"_s).toUtf8().constData(), 0700), 0);
+    qputenv("TMPDIR", Ruta(u"temporal"_s).toUtf8());
+    const QString corrida = u"temporal/ZB-DOS-99999999-1/"_s; // no process has such a number
+    Pon(u"roms/ni\u00F1o.nes"_s, "a game");
+    const auto deja = [&](const QString &casa) {
+        Pon(corrida + u"files-E/NINO.SAV"_s, "saved");
+        PonDirectorio(corrida + u"shown-E"_s);
+        ASSERT_TRUE(QFile::link(Ruta(casa + u"/ni\u00F1o.nes"_s), Ruta(corrida + u"shown-E/NINO.NES"_s)));
+    };
+    const std::initializer_list<std::function<void()>> sinLineas { [&] { QFile::remove(Ruta(u"log"_s)); },
+        [&] { Pon(u"log"_s, "none of a launch\n"); },
+        [&] {
+            QFile::remove(Ruta(u"log"_s));
+            ASSERT_EQ(mkfifo(Ruta(u"log"_s).toUtf8().constData(), 0600), 0);
+        } };
+    for (const auto &faltan : sinLineas) {
+        faltan();
+        deja(u"roms"_s);
+        const Respuesta respuesta = Zembro({ u"why"_s });
+        EXPECT_EQ(respuesta.estado, companion::NoPudo);
+        EXPECT_EQ(Bytes(u"roms/NINO.SAV"_s), "saved");
+        EXPECT_TRUE(respuesta.error.startsWith("zembro: What a game had saved is back in its place: "
+            + Ruta(u"roms/NINO.SAV"_s).toUtf8() + "\nzembro: "))
+            << respuesta.error.toStdString();
+        EXPECT_FALSE(QFile::exists(Ruta(corrida)));
+        QFile::remove(Ruta(u"roms/NINO.SAV"_s));
+    }
+    deja(u"gone"_s);
+    EXPECT_TRUE(Zembro({ u"why"_s }).error.contains(Ruta(corrida + u"files-E"_s).toUtf8()));
+    temporal.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporal);
+}
+
 TEST_F(Why, WithoutTheVariableTheFileOfTheStartersIsRead)
 {
     qunsetenv(host::AsideFileVariable);
