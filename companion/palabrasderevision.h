@@ -31,6 +31,8 @@ struct PalabrasDeRevision {
                        "it needs a line Parametros especificos, its records, and a line with an apostrophe.");
     QString Zbo_Cortado = QStringLiteral("This record has another number of fields than it needs; where a "
                                          "comma cuts it, put double quotes around the text: %1");
+    QString Zbo_TrasComillas = QStringLiteral("Behind the second double quotes of a field nobody reads on, "
+                                              "so this record is cut there; take the inner ones away: %1");
     QString Zbo_SinFichero =
         QStringLiteral("The note %1 has no file any more; remove it, or bring the file back.");
     QString Zbo_SinBlanco = QStringLiteral(
@@ -50,6 +52,11 @@ struct PalabrasDeRevision {
                                          "where a launch starts it, this names them: %3");
     QString Zbo_JuegoSinROMs = QStringLiteral("MAME doesn't find all ROMs of the game %1; in the directory "
                                               "%2, where a launch starts it, this names them: %3");
+    QString Zbo_MAMECalla =
+        QStringLiteral("MAME said nothing for %1 seconds, so nothing is known of its ROMs; in the directory "
+                       "%2, where a launch starts it, this asks it: %3");
+    QString Zbo_MAMEDice = QStringLiteral("MAME ended without a word on any set of ROMs (%1); in the "
+                                          "directory %2, where a launch starts it, this asks it: %3");
     QString Zbo_SinVerificar = QStringLiteral("MAME was asked about the ROMs of the first %1 games alone; "
                                               "not asked about: %2. check SYSTEM EMULATOR asks about all.");
     QString Zbo_SinTipo = QStringLiteral("The XDI line doesn't end in a type from 0 to 3 or from 5 to 8, so "
@@ -107,8 +114,9 @@ struct PalabrasDeRevision {
                                              "correct the name of this block of notes, or remove it: %1");
     QString Zbo_SinCabecera = QStringLiteral("These notes stand below no name of a system, so nothing reads "
                                              "them; put its name on a line of its own above them: %1");
-    QString Zbo_MuchasNotas = QStringLiteral("From here on the notes of %1 are more than the %2 that the "
-                                             "program takes, so none of its games is listed; remove some.");
+    QString Zbo_MuchasNotas =
+        QStringLiteral("From here on the notes of %1 are more than the %2 that the "
+                       "program takes, so not all of its games are listed; remove some.");
     QString Zbo_SinMarcaNot = QStringLiteral("No line that begins with [ ends the notes of the systems, so a "
                                              "new system gets none; put [EOF] behind the last of them.");
     QString Zbo_ParDeNadie = QStringLiteral(

@@ -8,6 +8,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <functional>
 #include <vector>
 
@@ -74,6 +75,9 @@ struct Cuenta {
 // Of one pair: program, directories, list. The lines are those of Zembro.emu.
 Cuenta RevisaPareja(
     Sesion &sesion, const Pareja &pareja, const LineasDelCatalogo &lineas, Revision &revision);
+
+// How long a MAME may be silent until it is ended.
+extern std::chrono::milliseconds PacienciaConMAME;
 
 // What MAME says of the ROMs of the machine that a pair's parameters name; and where they name none, of those
 // of the games whose names a launch hands on. It is asked about so many games only, unless the pair is asked

@@ -10,18 +10,21 @@
 #include "core/romelegida.h"
 #include "core/rutas.h"
 
+#include "host/failure.h"
 #include "host/letters.h"
 #include "host/paths.h"
 #include "host/process.h"
+#include "host/reading.h"
 
 #include "launch/ensayo.h"
 #include "launch/piezas.h"
 #include "launch/shell.h"
 
-#include <QProcess>
 #include <QSet>
 
-#include <optional>
+#include <algorithm>
+#include <chrono>
+#include <span>
 
 using namespace Qt::StringLiterals;
 
@@ -67,8 +70,10 @@ public:
     QString Orden(const QString &nombre) const { return launch::EnShell(orden({ nombre })); }
 
     struct Dicho {
-        bool acabo = false;
+        bool callado = false; // until it was ended
         bool todoBien = false;
+        QString otraCosa; // how it ended, and what it said last, where no set of ROMs is named
+        bool mudo = false; // ended by itself, and said nothing at all
         QSet<QString> buenas; // sets that it calls good
     };
     Dicho Pregunta(const QStringList &nombres) const;
@@ -86,30 +91,45 @@ private:
     QStringList m_opciones;
 };
 
-PreguntasAMAME::Dicho PreguntasAMAME::Pregunta(const QStringList &nombres) const
+// "romset pacman [puckman] is good"; of one that isn't there some say nothing.
+QSet<QString> lasBuenas(const QByteArray &salida)
 {
-    constexpr int paciencia = 20'000; // milliseconds
-    constexpr int pacienciaPorJuego = 100;
-    QProcess mame;
-    mame.setStandardInputFile(QProcess::nullDevice());
-    mame.setProcessChannelMode(QProcess::MergedChannels);
-    mame.setWorkingDirectory(Directorio());
-    mame.start(m_programa.ExeCorto.enDisco, orden(nombres).mid(1));
-    Dicho dicho;
-    dicho.acabo = mame.waitForFinished(paciencia + pacienciaPorJuego * int(nombres.size()))
-        && mame.exitStatus() == QProcess::NormalExit;
-    if (mame.state() != QProcess::NotRunning) {
-        mame.kill();
-        mame.waitForFinished(paciencia);
-    }
-    dicho.todoBien = dicho.acabo && mame.exitCode() == 0;
-    // "romset pacman [puckman] is good"; of one that isn't there some say nothing.
-    for (const QByteArray &linea : mame.readAllStandardOutput().split('\n')) {
+    QSet<QString> buenas;
+    for (const QByteArray &linea : salida.split('\n')) {
         const QByteArray entera = linea.simplified();
         if (entera.startsWith("romset ")
             && (entera.endsWith(" is good") || entera.endsWith(" is best available")))
-            dicho.buenas.insert(host::lower(QString::fromUtf8(entera.split(' ').value(1))));
+            buenas.insert(host::lower(QString::fromUtf8(entera.split(' ').value(1))));
     }
+    return buenas;
+}
+
+QString otraCosaQueROMs(const host::ProcessEnd &final, const QByteArray &salida)
+{
+    constexpr qsizetype bastante = 200; // letters
+    if (!final.signal && salida.contains("romset"))
+        return {};
+    const QString acaba =
+        final.signal ? u"signal %1"_s.arg(*final.signal) : u"status %1"_s.arg(final.status.value_or(-1));
+    const QByteArray ultima = salida.trimmed().split('\n').last().simplified();
+    return ultima.isEmpty() ? acaba : acaba + u": "_s + QString::fromUtf8(ultima).left(bastante);
+}
+
+PreguntasAMAME::Dicho PreguntasAMAME::Pregunta(const QStringList &nombres) const
+{
+    Dicho dicho;
+    QByteArray salida;
+    try {
+        const host::ProcessEnd final = host::readAllThatIsSaid(Directorio(), orden(nombres), PacienciaConMAME,
+            [&salida](const QByteArray &trozo) { salida += trozo; });
+        dicho.todoBien = final.status == 0;
+        dicho.otraCosa = otraCosaQueROMs(final, salida);
+        dicho.mudo = !final.signal && salida.trimmed().isEmpty();
+    } catch (const host::Failure &fallo) {
+        dicho.callado = fallo.number() == host::DeviceError;
+        dicho.todoBien = !dicho.callado; // that it doesn't start is a finding of its own
+    }
+    dicho.buenas = lasBuenas(salida);
     return dicho;
 }
 
@@ -144,27 +164,14 @@ std::vector<JuegoDeMAME> juegosDeMAME(
     return juegos;
 }
 
-// The games of which MAME doesn't find all ROMs. An old one takes one name alone, and says nothing of others.
-std::vector<JuegoDeMAME> losQueFallan(const PreguntasAMAME &mame, const std::vector<JuegoDeMAME> &juegos)
+// The names of the sets of some games.
+QStringList nombresDe(std::span<const JuegoDeMAME> juegos)
 {
-    std::vector<JuegoDeMAME> fallan;
-    for (size_t desde = 0; desde < juegos.size(); desde += size_t(JuegosPorLlamada)) {
-        const size_t hasta = std::min(juegos.size(), desde + size_t(JuegosPorLlamada));
-        QStringList nombres;
-        for (size_t i = desde; i < hasta; ++i)
-            nombres += juegos[i].nombre;
-        nombres.removeDuplicates();
-        const PreguntasAMAME::Dicho dicho = mame.Pregunta(nombres);
-        const bool deVarios = !dicho.buenas.isEmpty() || nombres.size() == 1
-            || mame.Pregunta({ nombres.first() }).buenas.isEmpty();
-        if (!dicho.acabo || dicho.todoBien || !deVarios)
-            continue;
-        for (size_t i = desde; i < hasta; ++i) {
-            if (!dicho.buenas.contains(host::lower(juegos[i].nombre)))
-                fallan.push_back(juegos[i]);
-        }
-    }
-    return fallan;
+    QStringList nombres;
+    for (const JuegoDeMAME &juego : juegos)
+        nombres += juego.nombre;
+    nombres.removeDuplicates();
+    return nombres;
 }
 
 // Of a pair whose emulator is MAME, and starts.
@@ -182,13 +189,19 @@ public:
     void Maquina()
     {
         const PreguntasAMAME::Dicho dicho = mame.Pregunta({ mame.maquina });
-        if (dicho.acabo && !dicho.todoBien)
+        if (!dicho.callado && !dicho.todoBien && (dicho.otraCosa.isEmpty() || dicho.mudo))
             halla(u"machine-without-roms"_s, m_palabras.Zbo_SinROMs, mame.maquina, mame.maquina);
+        else
+            diceOtraCosa(dicho, mame.maquina);
     }
+
     void Juegos(const std::vector<JuegoDeMAME> &juegos)
     {
-        for (const JuegoDeMAME &juego : losQueFallan(mame, juegos))
-            halla(u"game-without-roms"_s, m_palabras.Zbo_JuegoSinROMs, juego.entrada, juego.nombre);
+        for (size_t desde = 0; desde < juegos.size(); desde += size_t(JuegosPorLlamada)) {
+            const size_t cuantos = std::min(juegos.size() - desde, size_t(JuegosPorLlamada));
+            if (!algunosJuegos(std::span(juegos).subspan(desde, cuantos)))
+                return;
+        }
     }
 
 private:
@@ -198,6 +211,9 @@ private:
             dicho.arg(cual, mame.Directorio(), mame.Orden(romset)) });
     }
 
+    bool diceOtraCosa(const PreguntasAMAME::Dicho &dicho, const QString &nombre);
+    bool algunosJuegos(std::span<const JuegoDeMAME> juegos);
+
     const Palabras &m_palabras;
     const QString m_nombre;
     const int m_linea;
@@ -206,6 +222,40 @@ private:
 public:
     const PreguntasAMAME mame;
 };
+
+// Told once, of all games: nothing is known of them.
+bool RevisorDeMAME::diceOtraCosa(const PreguntasAMAME::Dicho &dicho, const QString &nombre)
+{
+    const auto segundos = std::chrono::duration_cast<std::chrono::seconds>(PacienciaConMAME);
+    if (dicho.callado)
+        halla(u"mame-silent"_s, m_palabras.Zbo_MAMECalla, QString::number(segundos.count()), nombre);
+    else if (!dicho.todoBien && !dicho.otraCosa.isEmpty())
+        halla(u"mame-failed"_s, m_palabras.Zbo_MAMEDice, dicho.otraCosa, nombre);
+    else
+        return false;
+    return true;
+}
+
+// An old one takes one name alone, and says nothing of others. False where it need not be asked again.
+bool RevisorDeMAME::algunosJuegos(std::span<const JuegoDeMAME> juegos)
+{
+    const QStringList nombres = nombresDe(juegos);
+    const PreguntasAMAME::Dicho dicho = mame.Pregunta(nombres);
+    if (!dicho.callado && !dicho.todoBien && dicho.buenas.isEmpty() && nombres.size() > 1) {
+        const PreguntasAMAME::Dicho deUno = mame.Pregunta({ nombres.first() });
+        if (deUno.callado)
+            return !diceOtraCosa(deUno, nombres.first());
+        if (!deUno.buenas.isEmpty())
+            return true;
+    }
+    if (diceOtraCosa(dicho, nombres.first()))
+        return false;
+    for (const JuegoDeMAME &juego : juegos) {
+        if (!dicho.todoBien && !dicho.buenas.contains(host::lower(juego.nombre)))
+            halla(u"game-without-roms"_s, m_palabras.Zbo_JuegoSinROMs, juego.entrada, juego.nombre);
+    }
+    return true;
+}
 
 bool esDeMAME(const core::Modulo &M, const Pareja &pareja)
 {
@@ -217,6 +267,8 @@ constexpr int UnDirectorio = 1; // types whose launches hand on the name of a ga
 constexpr int UnZip = 3;
 
 } // namespace
+
+std::chrono::milliseconds PacienciaConMAME = std::chrono::seconds(20);
 
 void RevisaMaquinaDeMAME(
     const Sesion &sesion, const Pareja &pareja, const LineasDeEmulador &lineas, Revision &revision)

@@ -37,6 +37,7 @@ constexpr qsizetype CamposDeParametros = 4;
 struct Registro {
     QStringList campos;
     bool abierto = false; // double quotes that the line doesn't close
+    bool cortado = false; // text behind closing double quotes, which nobody reads
 };
 
 Registro registroDe(const QString &linea)
@@ -45,7 +46,14 @@ Registro registroDe(const QString &linea)
     host::TextSource fuente(linea);
     while (!fuente.atEnd()) {
         const QStringView resto = fuente.rest().trimmed();
-        registro.abierto = registro.abierto || (resto.startsWith(u'"') && resto.indexOf(u'"', 1) < 0);
+        const qsizetype cierre = resto.startsWith(u'"') ? resto.indexOf(u'"', 1) : 0;
+        registro.abierto = registro.abierto || cierre < 0;
+        if (cierre > 0) {
+            const QStringView detras = resto.sliced(cierre + 1);
+            const qsizetype coma = detras.indexOf(u',');
+            registro.cortado =
+                registro.cortado || !detras.first(coma < 0 ? detras.size() : coma).trimmed().isEmpty();
+        }
         registro.campos += fuente.readField();
     }
     return registro;
@@ -154,8 +162,11 @@ bool RevisorDeNotas::estaEntero(
         halla(u"cut-record"_s, m_palabras.Zbo_Cortado.arg(linea), indice);
     else if (registro.campos.first().isEmpty())
         halla(u"no-name"_s, m_palabras.Zbo_SinClaveReg.arg(linea), indice);
-    else
+    else {
+        if (registro.cortado)
+            halla(u"cut-record"_s, m_palabras.Zbo_TrasComillas.arg(linea), indice);
         return true;
+    }
     return false;
 }
 
@@ -169,8 +180,8 @@ void RevisorDeNotas::Sistema(const QString &sistema, size_t desde)
         const Registro registro = registroDe(linea);
         if (registro.campos.value(0) == u"'" || core::AcabaLosSistemas(m_lineas, i, m_sistemas))
             return;
-        if (!linea.isEmpty() && ++cuantas == core::MaxROMs + 1)
-            halla(u"too-many-notes"_s, m_palabras.Zbo_MuchasNotas.arg(sistema).arg(core::MaxROMs), i);
+        if (!linea.isEmpty() && ++cuantas == core::MaxROMs) // the table needs an empty one behind them
+            halla(u"too-many-notes"_s, m_palabras.Zbo_MuchasNotas.arg(sistema).arg(core::MaxROMs - 1), i);
         if (linea.isEmpty() || !estaEntero(linea, registro, CamposDeNota, i))
             continue;
         const QString &clave = registro.campos.first();

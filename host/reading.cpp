@@ -7,6 +7,7 @@
 #include <csignal>
 
 #include <sys/prctl.h>
+#include <unistd.h>
 
 namespace host {
 
@@ -24,21 +25,56 @@ public:
     {
         if (state() == NotRunning)
             return;
+        if (m_leads && processId() > 0)
+            ::kill(-static_cast<pid_t>(processId()), SIGKILL);
         kill();
         waitForFinished();
     }
     Read(const Read &) = delete;
     Read &operator=(const Read &) = delete;
+
+    void leadGroup()
+    {
+        m_leads = true;
+        setProcessChannelMode(MergedChannels);
+        setChildProcessModifier([] {
+            prctl(PR_SET_PDEATHSIG, SIGKILL);
+            setpgid(0, 0);
+        });
+    }
+
+private:
+    bool m_leads = false;
 };
+
+ProcessEnd readFrom(Read &process, const QStringList &arguments, const QByteArray &input,
+    std::chrono::milliseconds patience, const std::function<void(const QByteArray &)> &take);
 
 } // namespace
 
 ProcessEnd readProgram(const QStringList &arguments, const QByteArray &input,
     std::chrono::milliseconds patience, const std::function<void(const QByteArray &)> &take)
 {
+    Read process;
+    return readFrom(process, arguments, input, patience, take);
+}
+
+ProcessEnd readAllThatIsSaid(const QString &directory, const QStringList &arguments,
+    std::chrono::milliseconds patience, const std::function<void(const QByteArray &)> &take)
+{
+    Read process;
+    process.leadGroup();
+    process.setWorkingDirectory(directory);
+    return readFrom(process, arguments, {}, patience, take);
+}
+
+namespace {
+
+ProcessEnd readFrom(Read &process, const QStringList &arguments, const QByteArray &input,
+    std::chrono::milliseconds patience, const std::function<void(const QByteArray &)> &take)
+{
     const QString name = arguments.value(0);
     const QString program = findProgram(name);
-    Read process;
     process.start(program, arguments.mid(1));
     if (!process.waitForStarted(-1))
         throw Failure(InvalidArgument, QStringLiteral("start a program"), name);
@@ -59,5 +95,7 @@ ProcessEnd readProgram(const QStringList &arguments, const QByteArray &input,
         end.signal = process.exitCode();
     return end;
 }
+
+} // namespace
 
 } // namespace host

@@ -18,4 +18,9 @@ namespace host {
 ProcessEnd readProgram(const QStringList &arguments, const QByteArray &input,
     std::chrono::milliseconds patience, const std::function<void(const QByteArray &)> &take);
 
+// The same in this directory, without anything to read, and of what it writes to its standard error too. It
+// leads a process group of its own, all of which ends where its patience does.
+ProcessEnd readAllThatIsSaid(const QString &directory, const QStringList &arguments,
+    std::chrono::milliseconds patience, const std::function<void(const QByteArray &)> &take);
+
 } // namespace host

@@ -5,11 +5,15 @@
 
 #include "companion/diferencia.h"
 #include "companion/eleccion.h"
+#include "companion/revision.h"
 
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>
+#include <QThread>
+
+#include <utility>
 
 #include <sys/stat.h>
 
@@ -477,6 +481,61 @@ TEST_F(CheckMAME, NothingIsSaidOfGamesWhereItTakesOneNameAlone_OrOneThatTheParam
     Cambia(u"Zembro.emu"_s, "PAR1=-rompath BIOS", "PAR1=NAOMI");
     EXPECT_FALSE(clases(SisUno).contains(u"game-without-roms"_s));
     EXPECT_TRUE(clases(SisUno).contains(u"machine-without-roms"_s));
+}
+
+// It isn't asked again, and of what it started nothing is left.
+TEST_F(CheckMAME, OneThatDoesntAnswerIsSaidOnce_AndEndedWithAllThatItStarted)
+{
+    const auto antes = std::exchange(companion::PacienciaConMAME, std::chrono::milliseconds(1100));
+    PonGuion(u"emu/mame"_s, "echo x >> calls\nsleep 1000 & echo $! > child\nwait\n");
+    const QStringList suyas = clases(SisUno);
+    EXPECT_EQ(suyas.count(u"mame-silent"_s), 1) << suyas.join(u' ').toStdString();
+    EXPECT_FALSE(suyas.contains(u"game-without-roms"_s));
+    EXPECT_EQ(Bytes(u"emu/calls"_s), "x\n");
+    const QString hijo = QString::fromLatin1(Bytes(u"emu/child"_s).trimmed());
+    ASSERT_FALSE(hijo.isEmpty());
+    // It ends a moment behind the signal, and whoever adopts it may take its time to bury it.
+    const auto sigue = [&] {
+        QFile estado(u"/proc/"_s + hijo + u"/stat"_s);
+        return estado.open(QIODevice::ReadOnly) && !estado.readAll().contains(") Z");
+    };
+    for (int veces = 0; veces < 100 && sigue(); ++veces)
+        QThread::msleep(20);
+    EXPECT_FALSE(sigue());
+    const QByteArray emu = Ruta(u"emu/"_s).toUtf8();
+    EXPECT_TRUE(dicho().contains("MAME said nothing for 1 seconds, so nothing is known of its ROMs; in the "
+                                 "directory "
+        + emu + ", where a launch starts it, this asks it: " + emu + "mame -verifyroms galaga"))
+        << dicho().toStdString();
+    Cambia(u"Zembro.emu"_s, "PAR1=-rompath BIOS", "PAR1=NAOMI");
+    EXPECT_EQ(clases(SisUno).count(u"mame-silent"_s), 1);
+    companion::PacienciaConMAME = antes;
+}
+
+TEST_F(CheckMAME, OneThatSaysNothingOfAnySetIsSaidOnce_WithWhatItSays)
+{
+    struct Caso {
+        QByteArray guion;
+        QByteArray dicho;
+    };
+    const Caso casos[] = {
+        { "exit 3\n", "status 3" },
+        { "echo 'mame: no lib.so.7' >&2; exit 127\n", "status 127: mame: no lib.so.7" },
+        { "kill -SEGV $$\n", "signal 11" },
+    };
+    for (const Caso &caso : casos) {
+        PonGuion(u"emu/mame"_s, caso.guion);
+        const QStringList suyas = clases(SisUno);
+        EXPECT_EQ(suyas.count(u"mame-failed"_s), 1) << suyas.join(u' ').toStdString();
+        EXPECT_FALSE(suyas.contains(u"game-without-roms"_s));
+        EXPECT_TRUE(dicho().contains("MAME ended without a word on any set of ROMs (" + caso.dicho + "); "))
+            << dicho().toStdString();
+    }
+    // Of the machine that the parameters name too.
+    PonGuion(u"emu/mame"_s, "echo 'mame: no lib.so.7' >&2; exit 127\n");
+    Cambia(u"Zembro.emu"_s, "PAR1=-rompath BIOS", "PAR1=NAOMI");
+    EXPECT_EQ(clases(SisUno).count(u"mame-failed"_s), 1);
+    EXPECT_FALSE(clases(SisUno).contains(u"machine-without-roms"_s));
 }
 
 TEST_F(CheckMAME, OfManyGamesTheFirstOnesAreAskedAbout_AndAllOfAPairThatIsAskedFor)
