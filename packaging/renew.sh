@@ -68,9 +68,9 @@ deliver() { # source, name
     changed "$1" "$2" || renew "$1" "$2"
 }
 
-# Two starts at once renew one behind the other.
+# Two starts at once renew one behind the other, where the file system knows locks.
 exec 9>>"$delivered"
-flock 9
+flock 9 2>/dev/null || true
 # A line that was cut short, as on a full disk, doesn't spoil the next one.
 [ -z "$(tail -c 1 "$delivered")" ] || echo >&9
 for program in Zembrolix Cvtgif15.exe Cvtcap.exe zembro; do

@@ -16,4 +16,5 @@ if [ -z "${ZEMBRO_LOG+set}" ]; then
     fi
     export ZEMBRO_LOG
 fi
-exec "$1/Zembrolix"
+# Nor does the program keep the lock of a portable directory.
+exec "$1/Zembrolix" 8<&-

@@ -68,20 +68,20 @@ pt Configurado: %s
 ca Configurat: %s
 [both]
 en %s holds files of yours too. They stay there, as %s is there already.
-es También en %s hay ficheros suyos. Se quedan ahí, pues %s ya existe.
-it Anche in %s ci sono file suoi. Restano lì, perché %s esiste già.
+es También en %s hay ficheros tuyos. Se quedan ahí, pues %s ya existe.
+it Anche in %s ci sono file tuoi. Restano lì, perché %s esiste già.
 fr %s contient aussi des fichiers à vous. Ils y restent, car %s existe déjà.
-de Auch in %s liegen Dateien von Ihnen. Sie bleiben dort, denn %s gibt es schon.
-pt Também em %s há ficheiros seus. Ficam aí, pois %s já existe.
-ca També a %s hi ha fitxers vostres. S'hi queden, ja que %s ja existeix.
+de Auch in %s liegen Dateien von dir. Sie bleiben dort, denn %s gibt es schon.
+pt Também em %s há ficheiros teus. Ficam aí, pois %s já existe.
+ca També a %s hi ha fitxers teus. S'hi queden, ja que %s ja existeix.
 [no-parent]
 en %s can't be made: what you have in %s stays there.
-es No se puede crear %s: lo que usted tiene en %s se queda ahí.
-it Non si può creare %s: quello che ha in %s resta lì.
+es No se puede crear %s: lo que tienes en %s se queda ahí.
+it Non si può creare %s: quello che hai in %s resta lì.
 fr %s ne peut pas être créé : ce que vous avez dans %s y reste.
-de %s kann nicht angelegt werden: Was Sie in %s haben, bleibt dort.
-pt Não se pode criar %s: o que tem em %s fica aí.
-ca No es pot crear %s: el que teniu a %s s'hi queda.
+de %s kann nicht angelegt werden: Was du in %s hast, bleibt dort.
+pt Não se pode criar %s: o que tens em %s fica aí.
+ca No es pot crear %s: el que tens a %s s'hi queda.
 [in-the-way]
 en %s is in the way of moving %s to %s.
 es %s impide trasladar %s a %s.
@@ -108,12 +108,12 @@ pt A cópia de %s é diferente; o original fica onde está.
 ca La còpia de %s és diferent; l'original es queda on és.
 [moved]
 en What you had in %s is in %s now.
-es Lo que usted tenía en %s está ahora en %s.
-it Quello che aveva in %s è ora in %s.
+es Lo que tenías en %s está ahora en %s.
+it Quello che avevi in %s è ora in %s.
 fr Ce que vous aviez dans %s est maintenant dans %s.
-de Was Sie in %s hatten, liegt jetzt in %s.
-pt O que tinha em %s está agora em %s.
-ca El que teníeu a %s és ara a %s.
+de Was du in %s hattest, liegt jetzt in %s.
+pt O que tinhas em %s está agora em %s.
+ca El que tenies a %s és ara a %s.
 [old-paths]
 en The paths of its catalogue still lead to %s.
 es Las rutas de su catálogo aún llevan a %s.
@@ -171,21 +171,21 @@ de Es gibt kein persönliches Verzeichnis ($HOME), in dem seines stehen könnte.
 pt Não há diretório pessoal ($HOME) onde guardar o seu diretório.
 ca No hi ha directori personal ($HOME) on desar el seu directori.
 [not-made]
-en Its directory can't be made: %s
-es No se puede crear su directorio: %s
-it Non si può creare la sua cartella: %s
-fr Son répertoire ne peut pas être créé : %s
-de Sein Verzeichnis kann nicht angelegt werden: %s
-pt Não se pode criar o seu diretório: %s
-ca No es pot crear el seu directori: %s
+en Its directory can't be made. %s
+es No se puede crear su directorio. %s
+it Non si può creare la sua cartella. %s
+fr Son répertoire ne peut pas être créé. %s
+de Sein Verzeichnis kann nicht angelegt werden. %s
+pt Não se pode criar o seu diretório. %s
+ca No es pot crear el seu directori. %s
 [not-renewed]
-en Not all of its directory can be renewed: %s
-es No todo su directorio se puede poner al día: %s
-it Non tutta la sua cartella si può aggiornare: %s
-fr Son répertoire ne peut pas être mis à jour en entier : %s
-de Nicht alles in seinem Verzeichnis kann erneuert werden: %s
-pt Nem todo o seu diretório pode ser atualizado: %s
-ca No tot el seu directori es pot posar al dia: %s
+en Not all of its directory can be renewed. %s
+es No todo su directorio se puede poner al día. %s
+it Non tutta la sua cartella si può aggiornare. %s
+fr Son répertoire ne peut pas être mis à jour en entier. %s
+de Nicht alles in seinem Verzeichnis kann erneuert werden. %s
+pt Nem todo o seu diretório pode ser atualizado. %s
+ca No tot el seu directori es pot posar al dia. %s
 [not-run]
 en Programs in %s can't be run.
 es En %s no se pueden ejecutar programas.
@@ -196,12 +196,12 @@ pt Em %s não se podem executar programas.
 ca A %s no es poden executar programes.
 [no-terminal]
 en No terminal is found to show the check in; in one of yours, zembro check does it.
-es No se encuentra ningún terminal donde mostrar la comprobación; en uno suyo la hace zembro check.
-it Non si trova un terminale in cui mostrare il controllo; in uno dei suoi lo fa zembro check.
+es No se encuentra ningún terminal donde mostrar la comprobación; en uno tuyo la hace zembro check.
+it Non si trova un terminale in cui mostrare il controllo; in uno dei tuoi lo fa zembro check.
 fr Aucun terminal n'est trouvé pour montrer la vérification ; dans l'un des vôtres, zembro check la fait.
-de Es findet sich kein Terminal, um die Prüfung zu zeigen; in einem von Ihren macht sie zembro check.
-pt Não se encontra nenhum terminal onde mostrar a verificação; num dos seus, fá-la zembro check.
-ca No es troba cap terminal on mostrar la comprovació; en un de vostre la fa zembro check.
+de Es findet sich kein Terminal, um die Prüfung zu zeigen; in einem deiner Terminals macht sie zembro check.
+pt Não se encontra nenhum terminal onde mostrar a verificação; num dos teus, fá-la zembro check.
+ca No es troba cap terminal on mostrar la comprovació; en un de teu la fa zembro check.
 [set-aside]
 en %s wasn't as it was delivered. It is %s now, beside the new one.
 es %s no estaba como se entregó. Ahora es %s, junto al nuevo.
@@ -244,12 +244,12 @@ pt Não se pode escrever em %s; fica como está.
 ca No es pot escriure a %s; es queda com és.
 [not-exchanged]
 en %s in %s can't be exchanged for the newer one. Once that is mended, renew it again.
-es %s no se puede cambiar en %s por lo nuevo. Cuando eso se arregle, póngalo al día otra vez.
-it %s non si può cambiare in %s con quello nuovo. Quando sarà rimediato, la aggiorni di nuovo.
+es %s no se puede cambiar en %s por lo nuevo. Cuando eso se arregle, ponlo al día otra vez.
+it %s non si può cambiare in %s con quello nuovo. Quando sarà rimediato, aggiornala di nuovo.
 fr %s ne peut pas être échangé dans %s contre le nouveau. Une fois cela réparé, mettez-le à jour de nouveau.
-de %s kann in %s nicht gegen das Neue getauscht werden. Ist das behoben, erneuern Sie es noch einmal.
-pt %s não se pode trocar em %s pelo novo. Quando isso se remediar, atualize-o outra vez.
-ca %s no es pot canviar a %s pel nou. Quan això s'arregli, poseu-lo al dia un altre cop.
+de %s kann in %s nicht gegen das Neue getauscht werden. Ist das behoben, erneuere es noch einmal.
+pt %s não se pode trocar em %s pelo novo. Quando isso se remediar, atualiza-o outra vez.
+ca %s no es pot canviar a %s pel nou. Quan això s'arregli, posa'l al dia un altre cop.
 [which-directory]
 en which directory?
 es ¿qué directorio?
@@ -260,20 +260,36 @@ pt que diretório?
 ca quin directori?
 [no-programs-here]
 en programs on this medium can't be run; copy the directory elsewhere.
-es en este soporte no se pueden ejecutar programas; copie el directorio a otro sitio.
-it su questo supporto non si possono eseguire programmi; copi la cartella altrove.
+es en este soporte no se pueden ejecutar programas; copia el directorio a otro sitio.
+it su questo supporto non si possono eseguire programmi; copia la cartella altrove.
 fr sur ce support, aucun programme ne peut être exécuté ; copiez le répertoire ailleurs.
-de auf diesem Datenträger können keine Programme ausgeführt werden; kopieren Sie das Verzeichnis woandershin.
-pt neste suporte não se podem executar programas; copie o diretório para outro lugar.
-ca en aquest suport no es poden executar programes; copieu el directori a un altre lloc.
+de auf diesem Datenträger können keine Programme ausgeführt werden; kopiere das Verzeichnis woandershin.
+pt neste suporte não se podem executar programas; copia o diretório para outro lugar.
+ca en aquest suport no es poden executar programes; copia el directori a un altre lloc.
+[waits]
+en another run of start.sh is at work in %s; this one waits for it.
+es otro start.sh está trabajando en %s; este lo espera.
+it un altro start.sh sta lavorando in %s; questo lo aspetta.
+fr un autre start.sh est à l'œuvre dans %s ; celui-ci l'attend.
+de ein anderes start.sh arbeitet gerade in %s; dieses wartet darauf.
+pt outro start.sh está a trabalhar em %s; este espera por ele.
+ca un altre start.sh treballa a %s; aquest l'espera.
+[completing]
+en the renewal of this directory was cut short; it is being completed.
+es la puesta al día de este directorio quedó a medias; se está completando.
+it l'aggiornamento di questa cartella è rimasto a metà; lo si sta completando.
+fr la mise à jour de ce répertoire a été interrompue ; elle est en train d'être achevée.
+de die Erneuerung dieses Verzeichnisses wurde unterbrochen; sie wird jetzt zu Ende geführt.
+pt a atualização deste diretório ficou a meio; está a ser completada.
+ca la posada al dia d'aquest directori va quedar a mitges; s'està completant.
 [cut-short]
 en the renewal of this directory was cut short. Nothing of yours is lost; start.sh --renew %s of the newer version completes it.
-es la puesta al día de este directorio quedó a medias. Nada suyo se ha perdido; la completa el start.sh --renew %s de la versión nueva.
-it l'aggiornamento di questa cartella è rimasto a metà. Nulla di suo è perso; lo completa lo start.sh --renew %s della versione nuova.
-fr la mise à jour de ce répertoire a été interrompue. Rien de vous n'est perdu ; le start.sh --renew %s de la nouvelle version l'achève.
-de die Erneuerung dieses Verzeichnisses wurde unterbrochen. Nichts von Ihnen ist verloren; start.sh --renew %s der neueren Version führt sie zu Ende.
-pt a atualização deste diretório ficou a meio. Nada seu se perdeu; completa-a o start.sh --renew %s da versão nova.
-ca la posada al dia d'aquest directori va quedar a mitges. Res de vostre no s'ha perdut; la completa l'start.sh --renew %s de la versió nova.
+es la puesta al día de este directorio quedó a medias. Nada tuyo se ha perdido; la completa el start.sh --renew %s de la versión nueva.
+it l'aggiornamento di questa cartella è rimasto a metà. Nulla di tuo è perso; lo completa lo start.sh --renew %s della versione nuova.
+fr la mise à jour de ce répertoire a été interrompue. Rien de ce qui est à vous n'est perdu ; le start.sh --renew %s de la nouvelle version l'achève.
+de die Erneuerung dieses Verzeichnisses wurde unterbrochen. Nichts von dir ist verloren; start.sh --renew %s der neueren Version führt sie zu Ende.
+pt a atualização deste diretório ficou a meio. Nada teu se perdeu; completa-a o start.sh --renew %s da versão nova.
+ca la posada al dia d'aquest directori va quedar a mitges. Res de teu no s'ha perdut; la completa l'start.sh --renew %s de la versió nova.
 WORDS
     return 1
 }

@@ -16,18 +16,57 @@ restore() { # directory
         [ -e "$1/$part" ] || [ -L "$1/$part" ] || [ ! -e "$1/.$part.old" ] || mv -T "$1/.$part.old" "$1/$part" || return 1
     done
 }
-[ ! -f "$here/.renewing" ] || restore "$here" 2>/dev/null
-. "$delivered/words.sh" || exit 1
+# While another run exchanges it, what is said stands in one of the two.
+{ . "$delivered/words.sh" || . "$here/.delivered.old/words.sh" || . "$delivered/words.sh"; } 2>/dev/null || exit 1
 
+# Somebody who starts from a file manager sees no terminal.
+unseen() {
+    [ ! -t 0 ] && [ ! -t 2 ] && [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]
+}
 tell() { # words
     echo "start.sh: $1" >&2
-    # Somebody who starts from a file manager sees no terminal.
-    [ -t 0 ] || [ -t 2 ] || [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || "$here/Aviso" "$1" >/dev/null 2>&1
+    ! unseen || "$here/Aviso" "$1" >/dev/null 2>&1 8<&-
 }
 fail() { # key, values...
+    exec 8<&-
     tell "$(say "$@")"
     exit 1
 }
+# What takes long is shown until it is over, by a copy that nobody exchanges meanwhile.
+box=
+tell_long() { # words, directory of the newer version
+    echo "start.sh: $1" >&2
+    [ -x "$2/Aviso" ] && [ -O "$2/Aviso" ] && unseen || return 0
+    { sleep 3 && exec "$2/Aviso" "$1"; } >/dev/null 2>&1 8<&- &
+    box=$!
+}
+over() {
+    [ -z "$box" ] || kill "$box" 2>/dev/null
+    box=
+}
+
+# While a run renews a directory no other one renews it or starts from it: the lock is on a file that stays there (that on
+# the directory is the program's), and a run that is called by the one that has it has it too. Where there are no locks
+# it goes on without. What is started doesn't get it, as it would have it for as long as it runs.
+take() { # directory, -x alone or -s with others; false, where others had it
+    [ /dev/fd/8 -ef "$1/.lock" ] || { exec 8>>"$1/.lock"; } 2>/dev/null || return 0
+    flock -n "$2" 8 2>/dev/null
+    [ $? -eq 1 ] || return 0
+    flock -w 1 "$2" 8
+    if [ $? -eq 1 ]; then
+        tell_long "$(say waits "$1")" "$(cat "$1/.renewing" 2>/dev/null)"
+        flock "$2" 8
+        over
+    fi
+    return 1
+}
+if [ "${1:-}" != --renew ]; then
+    [ -f "$here/.renewing" ] && mode=-x || mode=-s
+    # Another run may have exchanged this file itself, or have been cut short meanwhile.
+    take "$here" "$mode" || exec "$here/start.sh" "$@"
+    [ "$mode" = -x ] || [ ! -f "$here/.renewing" ] || exec "$here/start.sh" "$@"
+    [ "$mode" = -s ] || restore "$here" 2>/dev/null
+fi
 
 # What of a part the user has put there or changed, also a directory that holds nothing: what wasn't delivered with that
 # directory, and comes with none newer.
@@ -40,7 +79,7 @@ own() { # part, directory
             [ ! -d "$here/$name" ] || continue
         elif [ -f "$2/$name" ]; then
             line="$(sha256sum <"$2/$name" | cut -d' ' -f1)  $name"
-            ! grep -qxF -- "$line" "$2/delivered/manifest" 2>/dev/null && ! cmp -s "$here/$name" "$2/$name" || continue
+            ! grep -qxF -- "$line" "$2/delivered/manifest" 2>/dev/null && ! cmp -s "$here/$name" "$2/$name" 2>/dev/null || continue
         fi
         [ "$name" = delivered/manifest ] || printf '%s\0' "$name"
     done < <(cd "$2" && find "$1" \( ! -type d -o -empty \) -print0 2>/dev/null)
@@ -84,16 +123,26 @@ exchange() { # name, directory
     mv -T "$2/.$1.new" "$2/$1" || { restore "$2"; return 1; }
     rm -rf "$2/.$1.old"
 }
+# Whole, or not at all, as on a full disk.
+write() { # directory, name, what writes it...
+    local half=$1/.written.new name=$1/$2
+    shift 2
+    { "$@" >"$half" && mv -T "$half" "$name" || { rm -f "$half" && false; }; } 2>/dev/null
+}
 renew() { # directory
     local part
     [ -d "$1" ] && [ -x "$1" ] || fail no-such-directory "$1"
     [ -x "$1/Zembrolix" ] && [ -f "$1/.delivered" ] || fail not-the-program "$1"
     [ "$(readlink -f "$1")" != "$here" ] || fail this-one "$1"
     [ -w "$1" ] || fail stays "$1"
-    # From here on its own start.sh knows that it isn't whole.
-    printf '%s\n' "$here" >"$1/.renewing" && restore "$1" || fail stays "$1"
+    take "$1" -x
+    restore "$1" 2>/dev/null || fail stays "$1"
     # Nor is it the user's what a renewal has brought that was cut short, when one to a still newer version follows.
-    [ ! -f "$1/delivered/manifest" ] || { echo && cat "$delivered/manifest"; } >>"$1/delivered/manifest" || fail stays "$1"
+    if [ -f "$1/delivered/manifest" ]; then
+        write "$1" delivered/manifest cat "$1/delivered/manifest" "$delivered/manifest" || fail stays "$1"
+    fi
+    # From here on its own start.sh knows that it isn't whole.
+    write "$1" .renewing printf '%s\n' "$here" || fail stays "$1"
     for part in $parts; do
         exchange "$part" "$1" || fail not-exchanged "$part" "$1"
     done
@@ -101,15 +150,21 @@ renew() { # directory
     rm -rf "$1/antes/.new" "$1/.renewing"
 }
 
+# As a shell takes it.
+quoted() { # path
+    printf "'%s'" "${1//\'/\'\\\'\'}"
+}
 # A renewal that was cut short is completed, where the newer version is still there; else what is here may yet start.
 if [ -f "$here/.renewing" ]; then
     newer=$(cat "$here/.renewing")
     if [ "${1:-}" = --renew ]; then
-        fail cut-short "$here"
-    elif [ -w "$here" ] && [ -x "$newer/start.sh" ] && [ -O "$newer/start.sh" ] && "$newer/start.sh" --renew "$here"; then
-        exec "$here/start.sh" "$@"
+        fail cut-short "$(quoted "$here")"
+    elif [ -w "$here" ] && [ -x "$newer/start.sh" ] && [ -O "$newer/start.sh" ]; then
+        tell_long "$(say completing)" "$newer"
+        "$newer/start.sh" --renew "$here" && over && exec "$here/start.sh" "$@"
+        over
     fi
-    tell "$(say cut-short "$here")"
+    tell "$(say cut-short "$(quoted "$here")")"
 fi
 
 case "${1:-}" in
@@ -118,7 +173,10 @@ case "${1:-}" in
     renew "$2"
     exit
     ;;
---check) exec "$here/zembro" check ;;
+--check)
+    "$here/zembro" check 8<&-
+    exit
+    ;;
 "") ;;
 *)
     echo "usage: start.sh [--renew DIRECTORY | --check]" >&2
@@ -138,7 +196,7 @@ if [ -w "$here" ]; then
     # Without a language yet.
     if cmp -s "$delivered/Zembro.cfg" "$here/Zembro.cfg"; then
         mkdir -p "$here/roms/Atari 2600"
-        "$here/BuscaEmuladores" "$delivered/emuladores.tsv" "$here" | while IFS= read -r line; do say configured "$line"; done >&2
+        "$here/BuscaEmuladores" "$delivered/emuladores.tsv" "$here" 8<&- | while IFS= read -r line; do say configured "$line"; done >&2
         "$here/PrimerosAjustes" "$here" "Atari 2600" Stella
     fi
 fi

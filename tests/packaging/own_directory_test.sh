@@ -161,7 +161,7 @@ rm -rf "$work/cut"
 anew
 own
 LC_ALL=de_DE.UTF-8 use "$work/mine" --make
-grep -qx "Was Sie in $fresh hatten, liegt jetzt in $work/mine\." "$work/said" || complain "in German: it says $(cat "$work/said")"
+grep -qx "Was du in $fresh hattest, liegt jetzt in $work/mine\." "$work/said" || complain "in German: it says $(cat "$work/said")"
 
 # A word that is none, and a directory without a name.
 for words in --find\ --everything --directory "--directory $work --play" --all; do

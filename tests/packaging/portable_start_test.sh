@@ -16,7 +16,7 @@ cmake --install "$build" --prefix "$work/usr" >/dev/null && cmake --install "$bu
 make_directory() { # directory, version
     mkdir -p "$1"/{lib,plugins,fonts,licenses}
     "$sources/packaging/portable/fill.sh" "$work/usr" "$1"
-    printf '#!/bin/sh\necho "started $0, %s"\n' "$2" >"$1/Zembrolix"
+    printf '#!/bin/sh\n[ ! -e /proc/$$/fd/8 ] || echo it has the lock\necho "started $0, %s"\n' "$2" >"$1/Zembrolix"
     touch "$1/qt.conf"
     echo "$2" | tee "$1/lib/$2" >"$1/lib/each"
     "$sources/packaging/portable/manifest.sh" "$1"
@@ -76,7 +76,7 @@ export LANG=en_US.UTF-8
 DISPLAY=:none start "$work/unable" 1
 [ "$(cat "$work/shown" 2>/dev/null)" = "programs on this medium can't be run; copy the directory elsewhere." ] || complain "unable: the box says $(cat "$work/shown")"
 LANG=it_IT.UTF-8 start "$work/unable" 1
-grep -qx 'start.sh: su questo supporto non si possono eseguire programmi; copi la cartella altrove.' "$work/errors" || complain "unable, in Italian: $(cat "$work/errors")"
+grep -qx 'start.sh: su questo supporto non si possono eseguire programmi; copia la cartella altrove.' "$work/errors" || complain "unable, in Italian: $(cat "$work/errors")"
 
 # The emulator is that of the machine on which the directory happens to be.
 mkdir "$work/bin"
@@ -190,7 +190,7 @@ make_directory "$work/old" one
 for program in BuscaEmuladores PrimerosAjustes Aviso Cvtgif15.exe Cvtcap.exe zembro; do
     echo '#!/bin/sh' | tee "$work/old/$program" >"$work/newer/$program" # quick to copy
 done
-printf '#!/bin/sh\nexec "$1/Zembrolix"\n' >"$work/newer/delivered/start"
+printf '#!/bin/sh\nexec "$1/Zembrolix" 8<&-\n' >"$work/newer/delivered/start"
 "$sources/packaging/portable/manifest.sh" "$work/newer"
 old=$work/old
 "$sources/packaging/portable/manifest.sh" "$old"
@@ -230,16 +230,110 @@ for tool in cp:2 mv:1 rm:5 install:2 sync:6; do
     done
 done
 rm -rf "$work/cut"
+
+# A start at whichever of the steps of a renewal waits for its end, and takes nothing away from it; so does another renewal.
+await() { # situation: the start in the background
+    for ((turn = 0; turn < 100; turn++)); do
+        [ ! -e "$work/status" ] || break
+        sleep 0.1
+    done
+    [ "$(cat "$work/status" 2>/dev/null)" = 0 ] || complain "$1: the other one: status $(cat "$work/status" 2>/dev/null): $(cat "$work/other said")"
+}
+count_meetings=0
+for tool in cp:5 mv:2 rm:8 sync:7; do
+    each=${tool#*:} tool=${tool%:*}
+    for ((nth = 1; ; nth += each)); do
+        rm -rf "$mine" "$work/cut" "$work/status"
+        cp -a "$old" "$mine"
+        cp "$work/newer/delivered/start" "$mine/delivered/start"
+        : >"$work/calls"
+        mkdir "$work/cut"
+        other="'$mine/start.sh'"
+        [ $((count_meetings % 3)) != 0 ] || other="'$work/newer/start.sh' --renew '$mine'"
+        printf '#!/bin/sh\necho >>"%s"\n[ $(wc -l <"%s") != %s ] || { { PATH="%s"; %s; echo $? >"%s"; } >"%s" 2>&1 8<&- 9<&- & sleep 0.1; }\nexec %s "$@"\n' \
+            "$work/calls" "$work/calls" "$nth" "$PATH" "$other" "$work/status" "$work/other said" "$(command -v "$tool")" >"$work/cut/$tool"
+        chmod +x "$work/cut/$tool"
+        PATH=$work/cut:$PATH start "$work/newer" 0 --renew "$mine"
+        [ "$(wc -l <"$work/calls")" -ge "$nth" ] || break
+        count_meetings=$((count_meetings + 1))
+        await "met at $tool $nth"
+        renewed "met at $tool $nth"
+        [ "$other" != "'$mine/start.sh'" ] || grep -q "^started $mine/Zembrolix, " "$work/other said" || complain "met at $tool $nth: it starts $(cat "$work/other said")"
+    done
+done
+rm -rf "$work/cut"
+[ "$count_meetings" -ge 15 ] || complain "only $count_meetings steps were met"
+export LANG=it_IT.UTF-8
+# Of two starts, one completes what was cut short.
+for pause in 0 0.05 0.2 0.4; do
+    rm -rf "$mine" "$work/status"
+    cp -a "$old" "$mine"
+    echo "$work/newer" >"$mine/.renewing"
+    { "$mine/start.sh"; echo $? >"$work/status"; } >"$work/other said" 2>&1 &
+    sleep "$pause"
+    start "$mine" 0
+    await "completed twice, $pause"
+    renewed "completed twice, $pause"
+    [ "$said $(grep ^started "$work/other said")" = "started $mine/Zembrolix, two started $mine/Zembrolix, two" ] || complain "completed twice, $pause: $said $(cat "$work/other said")"
+    [ "$(cat "$work/errors" "$work/other said" | grep -cx "start.sh: l'aggiornamento di questa cartella è rimasto a metà; lo si sta completando.")" = 1 ] ||
+        complain "completed twice, $pause: it says $(cat "$work/errors" "$work/other said")"
+done
+# What takes long is told, in a box too, which is gone once it is over.
+echo "$work/newer" >"$mine/.renewing"
+cp "$work/newer/Aviso" "$work/box"
+printf '#!/bin/sh\necho "$$ $*" >"%s/shown"\nexec sleep 60\n' "$work" >"$work/newer/Aviso"
+flock "$mine/.lock" sleep 6 &
+sleep 0.2
+DISPLAY=:none start "$mine" 0 </dev/null
+waiting="un altro start.sh sta lavorando in $mine; questo lo aspetta."
+grep -qx "start.sh: $waiting" "$work/errors" || complain "held: it says $(cat "$work/errors")"
+read -r shower words <"$work/shown"
+[ "$words" = "$waiting" ] || complain "held: the box says $words"
+! kill -0 "$shower" 2>/dev/null || { complain "held: the box stays"; kill "$shower"; }
+mv "$work/box" "$work/newer/Aviso"
+renewed held
+# Others that only start or check don't wait.
+flock -s "$mine/.lock" sleep 3 &
+start "$mine" 0
+[ ! -s "$work/errors" ] || complain "shared: it says $(cat "$work/errors")"
+# Where there are no locks.
+mkdir "$work/unlocked"
+printf '#!/bin/sh\necho "flock: No locks available" >&2\nexit 71\n' >"$work/unlocked/flock"
+chmod +x "$work/unlocked/flock"
+rm -rf "$mine"
+cp -a "$old" "$mine"
+PATH=$work/unlocked:$PATH start "$work/newer" 0 --renew "$mine"
+! grep -q flock "$work/errors" || complain "without locks: it says $(cat "$work/errors")"
+PATH=$work/unlocked:$PATH start "$mine" 0
+renewed "without locks"
 PATH=${PATH#*:}
 [ "$count_cuts" -ge 25 ] || complain "only $count_cuts steps were cut"
-cp -a "$old/." "$work/half"
-echo /nowhere >"$work/half/.renewing"
-mv "$work/half/plugins" "$work/half/.plugins.old"
-start "$work/half" 0
-grep -qx "start.sh: the renewal of this directory was cut short. Nothing of yours is lost; start.sh --renew $work/half of the newer version completes it." "$work/errors" ||
-    complain "half: it says $(cat "$work/errors")"
-[ -d "$work/half/plugins/of mine" ] || complain "half: a part is gone"
-start "$work/half" 1 --renew "$old"
+export LANG=en_US.UTF-8
+half="$work/clé d'Ana"
+cp -a "$old/." "$half"
+echo /nowhere >"$half/.renewing"
+mv "$half/plugins" "$half/.plugins.old"
+start "$half" 0
+words="start.sh: the renewal of this directory was cut short. Nothing of yours is lost; start.sh --renew '$work/clé d'\\''Ana' of the newer version completes it."
+grep -qxF "$words" "$work/errors" || complain "half: it says $(cat "$work/errors")"
+[ -d "$half/plugins/of mine" ] || complain "half: a part is gone"
+start "$half" 1 --renew "$old"
+# Where a file of the user's has the name of a directory, only what becomes of it is told.
+rm -rf "$mine"
+cp -a "$old" "$mine"
+rm -rf "$mine/fonts"
+echo mine >"$mine/fonts"
+start "$work/newer" 0 --renew "$mine"
+[ "$(cat "$mine/antes/fonts")" = mine ] || complain "in the way: what the user had is gone"
+! grep -v '^start.sh: .* as it was delivered' "$work/errors" || complain "in the way: it says $(cat "$work/errors")"
+# On a full disk, nothing has begun.
+rm -rf "$mine"
+cp -a "$old" "$mine"
+before=$(state "$mine")
+said=$(trap '' XFSZ; ulimit -f 0; "$work/newer/start.sh" --renew "$mine" 2>&1) && complain "full: it is renewed"
+[ "$said" = "start.sh: $mine can't be written; it stays as it is." ] || complain "full: it says $said"
+[ "$(state "$mine" | grep -v ' ./.lock$')" = "$before" ] || complain "full: $(state "$mine" | diff - <(echo "$before"))"
+[ ! -e "$mine/.renewing" ] || complain "full: it is taken for one that was cut short"
 mine="$work/Memoria USB/zembrolix"
 
 # What is no directory of it stays as it is.

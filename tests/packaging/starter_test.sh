@@ -126,15 +126,15 @@ chmod -R a+rX "$work/usr"
 mkdir "$work/locked"
 chmod 555 "$work/locked"
 said=$(HOME=$work/locked as_user "$work/usr/games/zembrolix" 2>&1) && complain "locked: it starts"
-[ "$said" = "zembrolix: Its directory can't be made: $work/locked can't be written." ] || complain "locked: it says $said"
+[ "$said" = "zembrolix: Its directory can't be made. $work/locked can't be written." ] || complain "locked: it says $said"
 said=$(HOME=$work/locked LANG=pt_BR.UTF-8 as_user "$work/usr/games/zembrolix" 2>&1) && complain "locked: it starts"
-[ "$said" = "zembrolix: Não se pode criar o seu diretório: Não se pode escrever em $work/locked." ] || complain "locked, in Portuguese: it says $said"
+[ "$said" = "zembrolix: Não se pode criar o seu diretório. Não se pode escrever em $work/locked." ] || complain "locked, in Portuguese: it says $said"
 # What can't be read and entered isn't called one that can't be written.
 mkdir -p "$work/closed" "$work/room/Zembrolix"
 chmod 700 "$work/closed"
 [ "$(id -u)" -eq 0 ] || chmod 0 "$work/closed"
 said=$(HOME=$work/closed as_user "$work/usr/games/zembrolix" 2>&1) && complain "closed: it starts"
-[ "$said" = "zembrolix: Its directory can't be made: $work/closed can't be entered." ] || complain "closed: it says $said"
+[ "$said" = "zembrolix: Its directory can't be made. $work/closed can't be entered." ] || complain "closed: it says $said"
 chmod 0 "$work/room/Zembrolix"
 said=$(HOME=$work/room as_user "$work/usr/games/zembrolix" 2>&1) && complain "closed directory: it starts"
 [ "$said" = "zembrolix: $work/room/Zembrolix can't be entered." ] || complain "closed directory: it says $said"
@@ -145,7 +145,7 @@ chmod 777 "$work/half"
 chmod 555 "$work/half/LNG"
 said=$(HOME=$work/locked as_user "$work/usr/games/zembrolix" --directory "$work/half" 2>&1) && complain "half: it starts"
 case $said in
-"zembrolix: Its directory can't be made: "*) ;;
+"zembrolix: Its directory can't be made. "*) ;;
 *) complain "half: it says $said" ;;
 esac
 cp -a "$mine" "$work/old"
@@ -154,7 +154,7 @@ chmod 555 "$work/old/LNG"
 printf 'newest\r\n' >>"$files/LNG/ZB-ITA.LNG"
 said=$(HOME=$work/locked as_user "$work/usr/games/zembrolix" --directory "$work/old" 2>&1) || complain "old: it doesn't start: $said"
 case $said in
-"zembrolix: Not all of its directory can be renewed: "*"started $work/old/Zembrolix"*) ;;
+"zembrolix: Not all of its directory can be renewed. "*"started $work/old/Zembrolix"*) ;;
 *) complain "old: it says $said" ;;
 esac
 # Where no program may be run, that is said.
