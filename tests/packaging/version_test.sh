@@ -18,5 +18,8 @@ told=$(grep -rInE "(zembro(lix)?[ _-]?v?|[^a-z]v)$pattern([^0-9]|\$)" --ignore-c
 [ "$("$build/companion/zembro" --version)" = "zembro $version" ] || complain "zembro tells another one"
 head -n 1 "$build/data/beside/Zembro.txt" | tr -d '\r' | grep -qx "ZEMBROLIX $version" || complain "the manual tells another one"
 grep -q "\"Zembrolix $version\"" packaging/zembro.1 || complain "the page for man tells another one"
+# Of the day that shops of programs are told.
+day=$(sed -n 's/^set(RELEASE_DATE \(.*\))$/\1/p' packaging/CMakeLists.txt)
+grep -q "^## $pattern, $day\$" CHANGELOG.md || complain "its changes are of another day than $day"
 grep -q "^## $pattern\b" CHANGELOG.md || complain "nothing is told of its changes"
 exit "$bad"
