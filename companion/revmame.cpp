@@ -165,7 +165,7 @@ std::vector<JuegoDeMAME> juegosDeMAME(
 }
 
 // The names of the sets of some games.
-QStringList nombresDe(std::span<const JuegoDeMAME> juegos)
+QStringList nombresDeSets(std::span<const JuegoDeMAME> juegos)
 {
     QStringList nombres;
     for (const JuegoDeMAME &juego : juegos)
@@ -239,7 +239,7 @@ bool RevisorDeMAME::diceOtraCosa(const PreguntasAMAME::Dicho &dicho, const QStri
 // An old one takes one name alone, and says nothing of others. False where it need not be asked again.
 bool RevisorDeMAME::algunosJuegos(std::span<const JuegoDeMAME> juegos)
 {
-    const QStringList nombres = nombresDe(juegos);
+    const QStringList nombres = nombresDeSets(juegos);
     const PreguntasAMAME::Dicho dicho = mame.Pregunta(nombres);
     if (!dicho.callado && !dicho.todoBien && dicho.buenas.isEmpty() && nombres.size() > 1) {
         const PreguntasAMAME::Dicho deUno = mame.Pregunta({ nombres.first() });
