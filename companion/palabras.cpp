@@ -276,6 +276,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_ZipRoto", &P::Zbo_ZipRoto },
         { u"Zbo_ZipCifrado", &P::Zbo_ZipCifrado },
         { u"Zbo_ZipSinJuego", &P::Zbo_ZipSinJuego },
+        { u"Zbo_ZipPrimera", &P::Zbo_ZipPrimera },
         { u"Zbo_Ocultos", &P::Zbo_Ocultos },
         { u"Zbo_ValorNumero", &P::Zbo_ValorNumero },
         { u"Zbo_ValorIdioma", &P::Zbo_ValorIdioma },

@@ -44,6 +44,9 @@ struct PalabrasDeAuxilio {
         QStringLiteral("The ZIP %1 asks for a password; pack its files anew without one.");
     QString Zbo_ZipSinJuego = QStringLiteral("The ZIP %1 holds no file with an extension of the system, so "
                                              "no game is found in it; add the extension: %2");
+    QString Zbo_ZipPrimera =
+        QStringLiteral("In the ZIP %1 no game is found: the first extension of the system is tried with the "
+                       "first file alone; put *.ZIP ahead of it: %2");
 
     // Counts, and what else to do.
     QString Zbo_Ocultos = QStringLiteral("Hidden, and so not listed: %1 (%2)");

@@ -10,6 +10,8 @@
 #include "launch/busquedarom.h"
 #include "launch/indicezip.h"
 
+#include <algorithm>
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -38,6 +40,26 @@ QString extensionDe(const QString &nombre)
     return u"*."_s + host::upper(nombre.sliced(nombre.lastIndexOf(u'.') + 1).left(3));
 }
 
+bool esTexto(const QString &fichero)
+{
+    return QStringList { u"*.TXT"_s, u"*.DIZ"_s, u"*.NFO"_s, u"*.DOC"_s, u"*.HTM"_s, u"*.PDF"_s, u"*.MD"_s }
+        .contains(extensionDe(fichero));
+}
+
+// Why no game is found among these files, and what to do.
+QString sinJuego(
+    const Palabras &palabras, const QString &zip, const QStringList &ficheros, const QStringList &extensiones)
+{
+    // The others are tried with each file.
+    const QString primera = extensiones.value(0);
+    const auto esDePrimera = [&](const QString &uno) { return host::upper(uno).endsWith(primera.mid(1)); };
+    if (primera.size() > 2 && primera != u"*.ZIP" && std::ranges::any_of(ficheros, esDePrimera))
+        return palabras.Zbo_ZipPrimera.arg(zip, primera);
+    const auto juego = std::ranges::find_if_not(ficheros, esTexto);
+    return palabras.Zbo_ZipSinJuego.arg(
+        zip, extensionDe(juego == ficheros.end() ? ficheros.value(0) : *juego));
+}
+
 } // namespace
 
 void RevisaJuegos(const Sesion &sesion, const Pareja &pareja, const QString &directorio,
@@ -58,15 +80,14 @@ void RevisaJuegos(const Sesion &sesion, const Pareja &pareja, const QString &dir
         if (!host::upper(nombre).endsWith(u"ZIP") || core::UnDirectorioPorJuego(tipo))
             continue;
         const std::optional<launch::IndiceZip> indice = launch::IndiceDe(directorio + nombre);
-        const bool eligeUno = core::FicherosSueltos(tipo);
+        const bool eligeUno = core::FicherosSueltos(tipo) && !core::CargaSoloElEmulador(tipo);
         if (!indice)
             halla(u"zip-damaged"_s, nombre, palabras.Zbo_ZipRoto.arg(nombre));
-        else if (indice->cifrado)
+        else if (indice->cifrado && !core::CargaSoloElEmulador(tipo))
             halla(u"zip-encrypted"_s, nombre, palabras.Zbo_ZipCifrado.arg(nombre));
         else if (eligeUno
             && !launch::EligeFichero(launch::Candidatos(indice->ficheros, indice->ficheros), extensiones))
-            halla(u"zip-without-game"_s, nombre,
-                palabras.Zbo_ZipSinJuego.arg(nombre, extensionDe(indice->ficheros.value(0))));
+            halla(u"zip-without-game"_s, nombre, sinJuego(palabras, nombre, indice->ficheros, extensiones));
     }
 }
 

@@ -360,6 +360,26 @@ TEST_F(CheckPair, ZIPsThatNoLaunchCanUseAreSaid)
     EXPECT_TRUE(todo.contains("add the extension: *.SMC\n")) << todo.toStdString();
 }
 
+TEST_F(CheckPair, OfAZIPWithoutAGameWhatHelpsIsSaid)
+{
+    const QByteArray primera = "In the ZIP Read.zip no game is found: the first extension of the system is "
+                               "tried with the first file alone; put *.ZIP ahead of it: *.NES\n";
+    Cambia(u"Zembro.emu"_s, "*.NES", "*.NES\r\n*.ZIP");
+    Pon(u"roms/Read.zip"_s, Zip({ { .nombre = "readme.txt" }, { .nombre = "Read.nes" } }));
+    EXPECT_TRUE(dicho().contains(primera)) << dicho().toStdString();
+    Cambia(u"Zembro.emu"_s, "*.NES\r\n*.ZIP", "*.ZIP\r\n*.NES");
+    EXPECT_THAT(clases(SisUno), IsEmpty()) << "as it said";
+    Pon(u"roms/Read.zip"_s, Zip({ { .nombre = "readme.txt" }, { .nombre = "Other.smc" } }));
+    EXPECT_TRUE(dicho().contains("add the extension: *.SMC\n")) << dicho().toStdString();
+    Pon(u"roms/Read.zip"_s, Zip({ { .nombre = "readme.txt" } }));
+    EXPECT_TRUE(dicho().contains("add the extension: *.TXT\n")) << dicho().toStdString();
+    // The emulator alone is started there, and nothing is unpacked.
+    Pon(u"roms/Locked.zip"_s, ZipCifrado({ { .nombre = "Locked.nes" } }, "secret"));
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"zip-encrypted"_s, u"zip-without-game"_s));
+    Cambia(u"Zembro.emu"_s, "NO.0", "NO.5");
+    EXPECT_THAT(clases(SisUno), IsEmpty());
+}
+
 TEST_F(CheckPair, GamesThatCannotBeReadAreSaid)
 {
     const bool administrador = geteuid() == 0;
