@@ -88,7 +88,8 @@ QString LineaDeNota(const Nota &nota)
     const QString linea =
         u"Los juegos de %1%2 van en este directorio%3. / The games of %1%2 go into this directory%4."_s;
     return nota.faltaConfigurar
-        ? linea.arg(nota.sistema, tipos, u"; luego, ./run.sh --find"_s, u"; then run ./run.sh --find"_s)
+        ? linea.arg(nota.sistema, tipos, u"; luego, ./zembro find --write en el del programa"_s,
+            u"; then run ./zembro find --write in the program's"_s)
         : linea.arg(nota.sistema, tipos, QString(), QString());
 }
 

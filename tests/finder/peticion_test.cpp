@@ -127,7 +127,7 @@ TEST_F(Request, AddsTheSystemsWithGamesBesideWhatIsThereAndSaysSo)
     EXPECT_EQ(errors, "");
     EXPECT_TRUE(QDir(maquina.Ruta(u"Z/capturas/Ahead"_s)).exists());
     EXPECT_FALSE(QDir(maquina.Ruta(u"Z/capturas/Middle"_s)).exists());
-    EXPECT_TRUE(bytes(u"roms/Middle/LEEME.txt"_s).contains("./run.sh --find"));
+    EXPECT_TRUE(bytes(u"roms/Middle/LEEME.txt"_s).contains("./zembro find --write"));
 }
 
 TEST_F(Request, WithAllAddsSystemsWithoutGamesToo)

@@ -92,8 +92,10 @@ TEST_F(Finder, ConfiguresNoSystemWithoutGamesButMakesItsDirectoryWithALineOfText
         QStringList({ u"Zembro.emu"_s, u"Zembro.sye"_s, u"roms"_s, u"roms/Games-Home"_s,
             u"roms/Games-Home/LEEME.txt"_s }));
     EXPECT_EQ(maquina.Bytes(u"Zembro Dir/roms/Games-Home/LEEME.txt"_s),
-        "Los juegos de Games/Home (*.ZIP) van en este directorio; luego, ./run.sh --find. / "
-        "The games of Games/Home (*.ZIP) go into this directory; then run ./run.sh --find.\r\n");
+        "Los juegos de Games/Home (*.ZIP) van en este directorio; luego, ./zembro find --write en el del "
+        "programa. / "
+        "The games of Games/Home (*.ZIP) go into this directory; then run ./zembro find --write in the "
+        "program's.\r\n");
     EXPECT_EQ(output, "");
     EXPECT_EQ(errors, "");
 }
