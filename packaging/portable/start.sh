@@ -49,7 +49,8 @@ over() {
 # the directory is the program's), and a run that is called by the one that has it has it too. Where there are no locks
 # it goes on without. What is started doesn't get it, as it would have it for as long as it runs.
 take() { # directory, -x alone or -s with others; false, where others had it
-    [ /dev/fd/8 -ef "$1/.lock" ] || { exec 8>>"$1/.lock"; } 2>/dev/null || return 0
+    # Another user's can be read, and locked, at least.
+    [ /dev/fd/8 -ef "$1/.lock" ] || { exec 8<>"$1/.lock" || exec 8<"$1/.lock"; } 2>/dev/null || return 0
     flock -n "$2" 8 2>/dev/null
     [ $? -eq 1 ] || return 0
     flock -w 1 "$2" 8
