@@ -37,8 +37,19 @@ QString conLineas(const QString &texto, const std::vector<SinCierre> &huecos, co
 
 } // namespace
 
+namespace {
+
+bool soloTieneRetornos(const QString &texto)
+{
+    return !texto.contains(u'\n') && texto.contains(u'\r');
+}
+
+} // namespace
+
 std::vector<size_t> LineasConRetorno(const QString &texto)
 {
+    if (soloTieneRetornos(texto))
+        return { 0 };
     std::vector<size_t> indices;
     const std::vector<LineaConFin> lineas = EnLineas(texto);
     for (size_t i = 0; i < lineas.size(); ++i) {
@@ -50,6 +61,8 @@ std::vector<size_t> LineasConRetorno(const QString &texto)
 
 QString SinRetornosSueltos(const QString &texto)
 {
+    if (soloTieneRetornos(texto))
+        return QString(texto).replace(u'\r', u"\r\n"_s);
     // A file of any size comes back without a copy.
     if (!texto.contains(u"\r\r"_s) && !texto.endsWith(u'\r'))
         return texto;

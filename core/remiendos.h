@@ -14,7 +14,8 @@
 namespace core {
 
 // The lines whose text ends in a carriage return that is no part of their end, as indices; and the text
-// without those.
+// without those. A text whose lines end in nothing else, as those of old Macintoshes do, is one such line,
+// and comes back in lines.
 std::vector<size_t> LineasConRetorno(const QString &texto);
 QString SinRetornosSueltos(const QString &texto);
 

@@ -216,6 +216,19 @@ TEST_F(Mend, CarriageReturnsAheadOfTheEndsOfLinesAreToldAndTakenAway)
     }
 }
 
+TEST_F(Mend, LinesThatEndInCarriageReturnsAloneGetTheirEnds)
+{
+    Pon(u"Zembro.sye"_s, "-Sis\r\n'------\r\n[EOF]\r\n");
+    for (const QString &fichero : { u"Zembro.sye"_s, u"Zembro.rom"_s }) {
+        const QByteArray entero = Bytes(fichero);
+        Pon(fichero, QByteArray(entero).replace("\r\n", "\r"));
+        EXPECT_TRUE(Halladas().remendables.contains(u"stray-return"_s));
+        EXPECT_EQ(Remienda().estado, companion::Bien);
+        EXPECT_EQ(Bytes(fichero), entero);
+        EXPECT_EQ(Quedan(), 0) << fichero.toStdString();
+    }
+}
+
 // As a copy that breaks off leaves it.
 TEST_F(Mend, OfAFileThatIsCutWithinALineEndItComesToRest)
 {

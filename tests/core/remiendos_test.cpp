@@ -57,6 +57,14 @@ TEST(MendedNotes, DoNotTakeAGameInBracketsForTheMark)
     EXPECT_TRUE(core::TieneMarcaDeNotas(u"Alfa\r\n'\r\n[\r\n"_s, Sistemas));
 }
 
+TEST(CarriageReturns, AreEndsOfLinesWhereThereAreNoOthers)
+{
+    EXPECT_EQ(core::SinRetornosSueltos(u"one\rtwo\r\rthree"_s), u"one\r\ntwo\r\n\r\nthree"_s);
+    EXPECT_EQ(core::LineasConRetorno(u"one\rtwo"_s), std::vector<size_t>({ 0 }));
+    EXPECT_EQ(core::SinRetornosSueltos(u"one\rtwo\r\r\nthree\n"_s), u"one\rtwo\r\nthree\n"_s);
+    EXPECT_EQ(core::LineasConRetorno(u"one\rtwo\nthree\n"_s), std::vector<size_t>());
+}
+
 TEST(ClosingSeparators, AreAddedToDirectories_AndNotToFiles)
 {
     const auto hay = [](const QString &ruta) {
