@@ -5,63 +5,19 @@
 # where there is no compositor to try.
 set -u
 
-build=$1
-sources=$(cd "$(dirname "$0")/../.." && pwd)
-command -v weston >/dev/null || { echo "skipped: weston isn't installed"; exit 77; }
-
-work=$(mktemp -d)
-compositor=
-program=
-finish() {
-    kill $program $compositor 2>/dev/null
-    wait $program $compositor 2>/dev/null
-    rm -rf "$work"
-}
-trap finish EXIT
-fail() {
-    echo "wayland pictures: $*" >&2
-    tail -n 10 "$work/weston.log" "$work/wire.log" >&2
-    [ -z "${KEEP_PICTURE-}" ] || cp "$work/seen.png" "$KEEP_PICTURE"
-    exit 1
-}
-
-# Up to 30 seconds, and as long as the command takes.
-comes() { # command...
-    for _ in $(seq "${tries:-300}"); do
-        "$@" && return
-        sleep 0.1
-    done
-    return 1
-}
+# shellcheck source=compositor.sh
+. "$(dirname "$0")/compositor.sh"
 
 # A ground of a colour that the program doesn't have.
-export XDG_RUNTIME_DIR=$work/run HOME=$work
-mkdir -m 700 "$XDG_RUNTIME_DIR"
 printf '%s\n' '[shell]' 'panel-position=none' 'background-color=0xff00ff00' 'animation=none' 'startup-animation=none' >"$work/weston.ini"
 xdotool mousemove 0 0
-weston --config="$work/weston.ini" --backend=x11-backend.so --use-pixman --scale=2 --socket=wayland-test --idle-time=0 \
-    --width=600 --height=480 >"$work/weston.log" 2>&1 &
-compositor=$!
-comes test -S "$XDG_RUNTIME_DIR/wayland-test" || fail "no compositor"
-screen=
-is_shown() {
-    screen=$(xdotool search --onlyvisible --class weston)
-    [ -n "$screen" ]
-}
-comes is_shown || fail "no screen of the compositor"
-xdotool windowactivate --sync "$screen"
+compose --config="$work/weston.ini" --scale=2 --width=600 --height=480
 # The pointer in the last corner of all; the compositor only takes its place from where it comes in.
 xdotool mousemove --window "$screen" 1197 957
 
 mkdir -p "$work/program/games"
 for name in First Second "Agjpqy, a name that is longer than the list is wide"; do touch "$work/program/games/$name.bin"; done
-printf '%s\r\n' "' Sistemas y emuladores configurados" '-Atari 2600' 'WEB1=' '*.ZIP' '*.A26' '*.BIN' \' '+Emulator' 'WEB2=' \
-    "EXE=/bin/true" 'XDI=0' "ROM=$work/program/games/" "IMG=$work/program/games/" 'PAR1=' 'PAR2=' \
-    \'---------- '[EOF]' >"$work/program/Zembro.emu"
-"$sources/packaging/assemble.sh" "$build" "$work/program" >/dev/null || fail "no program directory"
-printf '%s\r\n' \' \' \' \' \' \' \' \' \' '' '[General]' 'LastSisUsed = 0' 'LastEmuUsed = 0' 'SaveLastEmu&Sis = 1' \
-    'TypeOfEditor = 1' 'MsgEndDOS = Finalizado' 'LanguageFile = ZB-ESP.LNG' 'DebugMode = 0' '' '[Filters]' CFG ROMS '' '[EOF]' \
-    >"$work/program/Zembro.cfg"
+furnish /bin/true "$work/program/games/"
 
 # What the compositor shows, once it stands still, and where the program's window is in it.
 shot() {
@@ -69,7 +25,7 @@ shot() {
     convert "$work/all.png" -fill '#00ff00' -draw 'rectangle 1170,930 1199,959' "$work/seen.png"
 }
 look() {
-    local before= now
+    local before='' now
     shot
     for _ in $(seq 10); do
         now=$(convert "$work/seen.png" -format '%#' info:)
@@ -85,11 +41,10 @@ window_is() { # width height
     look
     [ "$width" -eq "$1" ] && [ "$height" -eq "$2" ]
 }
+unset QT_SCALE_FACTOR
 start() { # size, width and height in pixels
     printf 'Size = %s\r\n' "$1" >"$work/program/Zembro.tam"
-    env -u DISPLAY -u QT_SCALE_FACTOR WAYLAND_DISPLAY=wayland-test WAYLAND_DEBUG=1 QT_QPA_PLATFORM=wayland TMPDIR="$work" \
-        "$work/program/Zembrolix" 2>"$work/wire.log" &
-    program=$!
+    launch
     size=$1
     tries=60 comes window_is "$2" "$3" || fail "size $1: no window of $2 by $3, but one of $width by $height"
 }
@@ -115,9 +70,6 @@ no_lines() { # what shows
     [ "$most" -lt 20 ] || fail "size $size: a black line of $most pixels in $1"
 }
 
-popups() { grep -cE -- '-> xdg_surface@[0-9]+\.get_popup' "$work/wire.log"; }
-shut() { grep -cE -- '-> xdg_popup@[0-9]+\.destroy' "$work/wire.log"; }
-more() { [ "$($1)" -gt "$2" ]; }
 opens() { # what, key
     local open
     open=$(popups)

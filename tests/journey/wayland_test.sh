@@ -4,61 +4,18 @@
 # and it ends when it is told to. Status 77 where there is no compositor to try.
 set -u
 
-build=$1
-sources=$(cd "$(dirname "$0")/../.." && pwd)
-command -v weston >/dev/null || { echo "skipped: weston isn't installed"; exit 77; }
+# shellcheck source=compositor.sh
+. "$(dirname "$0")/compositor.sh"
 
-work=$(mktemp -d)
-compositor=
-program=
-finish() {
-    kill $program $compositor 2>/dev/null
-    wait $program $compositor 2>/dev/null
-    rm -rf "$work"
-}
-trap finish EXIT
-fail() {
-    echo "wayland: $*" >&2
-    tail -n 30 "$work/weston.log" "$work/wire.log" >&2
-    exit 1
-}
-
-# Up to 30 seconds.
-comes() { # command...
-    for _ in $(seq 300); do
-        "$@" && return
-        sleep 0.1
-    done
-    return 1
-}
 alive() { kill -0 "$1" 2>/dev/null; }
 
-export XDG_RUNTIME_DIR=$work/run HOME=$work
-mkdir -m 700 "$XDG_RUNTIME_DIR"
-weston --no-config --backend=x11-backend.so --use-pixman --socket=wayland-test --idle-time=0 --width=1200 --height=900 \
-    >"$work/weston.log" 2>&1 &
-compositor=$!
-comes test -S "$XDG_RUNTIME_DIR/wayland-test" || fail "no compositor"
-is_shown() { [ -n "$(xdotool search --onlyvisible --class weston)" ]; }
-comes is_shown || fail "no screen of the compositor"
-xdotool search --onlyvisible --class weston windowactivate --sync
+compose --no-config --width=1200 --height=900
 
-# An emulator that only tells that it was started, in a catalogue of its own: what else this machine has doesn't count.
-mkdir "$work/program"
+# An emulator that only tells that it was started.
 printf '#!/bin/sh\necho "$*" >>"%s/played"\n' "$work" >"$work/emulator"
 chmod 755 "$work/emulator"
-printf '%s\r\n' "' Sistemas y emuladores configurados" '-Atari 2600' 'WEB1=' '*.ZIP' '*.A26' '*.BIN' \' '+Emulator' 'WEB2=' \
-    "EXE=$work/emulator" 'XDI=0' "ROM=$work/program/demo/" "IMG=$work/program/demo/" 'PAR1=' 'PAR2=' \
-    \'---------- '[EOF]' >"$work/program/Zembro.emu"
-
-# Settings as they stand behind the first run.
-"$sources/packaging/assemble.sh" "$build" "$work/program" >/dev/null || fail "no program directory"
-printf '%s\r\n' \' \' \' \' \' \' \' \' \' '' '[General]' 'LastSisUsed = 0' 'LastEmuUsed = 0' 'SaveLastEmu&Sis = 1' \
-    'TypeOfEditor = 1' 'MsgEndDOS = Finalizado' 'LanguageFile = ZB-ESP.LNG' 'DebugMode = 0' '' '[Filters]' CFG ROMS '' '[EOF]' \
-    >"$work/program/Zembro.cfg"
-# The client tells each message that it sends.
-env -u DISPLAY WAYLAND_DISPLAY=wayland-test WAYLAND_DEBUG=1 QT_QPA_PLATFORM=wayland TMPDIR="$work" "$work/program/Zembrolix" 2>"$work/wire.log" &
-program=$!
+furnish "$work/emulator" "$work/program/demo/"
+launch
 # A surface shows from the first commit that has a buffer attached.
 has_window() {
     awk '
@@ -77,9 +34,6 @@ alive "$program" || fail "the program ended"
 # From here on by keys.
 told() { grep -qE -- "$1" "$work/wire.log"; }
 tell() { xdotool "$@"; sleep 0.3; }
-popups() { grep -cE -- '-> xdg_surface@[0-9]+\.get_popup' "$work/wire.log"; }
-shut() { grep -cE -- '-> xdg_popup@[0-9]+\.destroy' "$work/wire.log"; }
-more() { [ "$($1)" -gt "$2" ]; }
 plays() { [ "$(cat "$work/played" 2>/dev/null | wc -l)" -eq "$1" ]; }
 comes told 'wl_keyboard@[0-9]+\.enter' || fail "the keyboard isn't the program's"
 
