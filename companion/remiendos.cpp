@@ -10,13 +10,18 @@
 #include "host/letters.h"
 #include "host/paths.h"
 
+#include <QSet>
+
 #include <algorithm>
+#include <map>
 
 using namespace Qt::StringLiterals;
 
 namespace companion {
 
 namespace {
+
+constexpr qsizetype LargoDeExtension = 4; // with its point
 
 QString catalogoRemendado(const QString &texto)
 {
@@ -29,13 +34,11 @@ QString ajustesRemendados(const QString &texto)
     return core::ConAjustesEnSuSitio(core::SinRetornosSueltos(texto));
 }
 
-// The names of the catalogue's systems, as it is on the disk or repaired.
-QStringList nombresDelCatalogo(const core::Modulo &M)
+QStringList nombresDelCatalogo(const core::Modulo &catalogo)
 {
-    const auto catalogo = core::CatalogoDe(TextoDelPrograma(M, u"Zembro.emu"_s));
     QStringList nombres;
-    for (int s = 0; s <= catalogo->Indice_Sistema; ++s)
-        nombres += core::Valor(catalogo->Cat_Nombre(s, 0), 1);
+    for (int s = 0; s <= catalogo.Indice_Sistema; ++s)
+        nombres += core::Valor(catalogo.Cat_Nombre(s, 0), 1);
     return nombres;
 }
 
@@ -68,13 +71,40 @@ QStringList sistemasConJuegos(const core::Modulo &catalogo, const QStringList &c
     return sistemas;
 }
 
+// The names of a system's games, in upper case, and without the extension too; of the directories that can be
+// listed.
+QSet<QString> nombresDeJuegos(const core::Modulo &catalogo, const QString &sistema)
+{
+    QSet<QString> nombres;
+    for (const Pareja &pareja : Parejas(catalogo)) {
+        if (pareja.nombreSistema != sistema)
+            continue;
+        try {
+            for (const QString &nombre :
+                host::listFilesAndDirectories(DirectorioDeJuegos(catalogo, pareja))) {
+                const QString mayus = host::upper(nombre);
+                nombres << mayus << mayus.chopped(std::min<qsizetype>(LargoDeExtension, mayus.size()));
+            }
+        } catch (const host::Failure &) {
+            continue; // told of the pair
+        }
+    }
+    return nombres;
+}
+
 QString notasRemendadas(const QString &texto, const core::Modulo &M)
 {
+    const auto catalogo = core::CatalogoDe(TextoDelPrograma(M, u"Zembro.emu"_s));
+    std::map<QString, QSet<QString>> nombres;
+    const auto deQuien = [&](const QStringList &claves) { return sistemasConJuegos(*catalogo, claves); };
+    const auto hay = [&](const QString &sistema, const QString &clave) {
+        auto suyos = nombres.find(sistema);
+        if (suyos == nombres.end())
+            suyos = nombres.emplace(sistema, nombresDeJuegos(*catalogo, sistema)).first;
+        return suyos->second.contains(clave);
+    };
     return core::NotasRemendadas(
-        texto, nombresDelCatalogo(M), SistemasConocidos(M), [&M](const QStringList &claves) {
-            const auto catalogo = core::CatalogoDe(TextoDelPrograma(M, u"Zembro.emu"_s));
-            return sistemasConJuegos(*catalogo, claves);
-        });
+        texto, nombresDelCatalogo(*catalogo), SistemasConocidos(M), { deQuien, hay });
 }
 
 } // namespace

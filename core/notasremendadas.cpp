@@ -59,17 +59,29 @@ QString conBloques(QString texto, const QStringList &sistemas)
     return texto;
 }
 
-QString unaPasada(const QString &texto, const QStringList &delCatalogo, const QStringList &conocidos,
-    const SistemasDeClaves &deQuien)
+using Paso = std::function<QString(const QString &)>;
+
+// Closes the blocks without an end, and joins those of one name, which that one was missing for.
+QString conBloquesEnteros(const QString &texto, const QStringList &conocidos)
 {
-    QString remendado = SinRetornosSueltos(texto); // the one copy of a file that may be large
-    remendado = ConNombreDeNotas(remendado, conocidos, deQuien);
-    remendado = ConMarcaDeNotas(remendado, conocidos);
-    remendado = ConNotasCerradas(remendado, conocidos);
-    if (NotasSinNombre(remendado, conocidos).empty())
-        remendado = conBloques(remendado, delCatalogo);
-    remendado = ConCabeceraDeParametros(remendado, conocidos);
-    return SinRepetidos(ConParametrosCerrados(remendado), conocidos);
+    return SinRepetidos(ConNotasCerradas(texto, conocidos), conocidos);
+}
+
+std::vector<Paso> pasos(
+    const QStringList &delCatalogo, const QStringList &conocidos, const SistemasDeClaves &deQuien)
+{
+    return {
+        SinRetornosSueltos, // the one copy of a file that may be large
+        [&](const QString &texto) { return ConNombreDeNotas(texto, conocidos, deQuien); },
+        [&](const QString &texto) { return ConMarcaDeNotas(texto, conocidos); },
+        [&](const QString &texto) { return conBloquesEnteros(texto, conocidos); },
+        [&](const QString &texto) {
+            return NotasSinNombre(texto, conocidos).empty() ? conBloques(texto, delCatalogo) : texto;
+        },
+        [&](const QString &texto) { return ConCabeceraDeParametros(texto, conocidos); },
+        ConParametrosCerrados,
+        [&](const QString &texto) { return SinRepetidos(texto, conocidos); },
+    };
 }
 
 } // namespace
@@ -128,15 +140,28 @@ QString ConNombreDeNotas(const QString &texto, const QStringList &sistemas, cons
 }
 
 QString NotasRemendadas(const QString &texto, const QStringList &delCatalogo, const QStringList &conocidos,
-    const SistemasDeClaves &deQuien)
+    const JuegosDelDisco &juegos)
 {
+    const std::vector<Paso> todos = pasos(delCatalogo, conocidos, juegos.deQuien);
+    const auto unaPasada = [&](const QString &antes, bool dePasoEnPaso) {
+        QString remendado = antes;
+        for (const Paso &paso : todos) {
+            const QString otro = paso(remendado);
+            if (!dePasoEnPaso || DicenLoMismo(remendado, otro, conocidos, juegos.hay))
+                remendado = otro;
+        }
+        return remendado;
+    };
     QString remendado = texto;
     for (int pasada = 0; pasada < PasadasDeRemiendo; ++pasada) {
-        const QString antes = std::exchange(remendado, unaPasada(remendado, delCatalogo, conocidos, deQuien));
-        if (antes == remendado)
+        QString otro = unaPasada(remendado, false);
+        if (!DicenLoMismo(remendado, otro, conocidos, juegos.hay))
+            otro = unaPasada(remendado, true);
+        if (otro == remendado)
             break;
+        remendado = otro;
     }
-    return remendado;
+    return DicenLoMismo(texto, remendado, conocidos, juegos.hay) ? remendado : texto;
 }
 
 } // namespace core

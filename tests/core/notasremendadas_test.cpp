@@ -2,8 +2,13 @@
 #include "core/notasremendadas.h"
 
 #include "core/lineas.h"
+#include "core/modulo.h"
+#include "core/notas.h"
+#include "core/parrom.h"
 
+#include "host/failure.h"
 #include "host/letters.h"
+#include "host/paths.h"
 #include "host/textsource.h"
 
 #include <QSet>
@@ -11,6 +16,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
+#include <memory>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -34,22 +41,83 @@ QString sin(const QString &lineas)
     return QString(Enteras).replace(lineas, QString());
 }
 
-// Of whose games there are files.
+// The games of which there are files.
+const std::map<QString, QStringList> Juegos { { u"Alfa"_s, { u"GAME.BIN"_s, u"B, C.BIN"_s } },
+    { u"Beta"_s, { u"[X] ONE.ZIP"_s, u"TWO"_s } }, { u"Gamma, the third"_s, { u"LAST.BIN"_s } } };
+
+bool hayJuego(const QString &sistema, const QString &clave)
+{
+    return Juegos.at(sistema).contains(clave);
+}
+
 QStringList deQuien(const QStringList &claves)
 {
-    const QStringList ficheros[] = { { u"GAME.BIN"_s, u"B, C.BIN"_s }, { u"[X] ONE.ZIP"_s, u"TWO"_s },
-        { u"LAST.BIN"_s } };
     QStringList suyos;
-    for (qsizetype i = 0; i < Conocidos.size(); ++i) {
-        if (std::ranges::any_of(claves, [&](const QString &clave) { return ficheros[i].contains(clave); }))
-            suyos += Conocidos[i];
+    for (const QString &sistema : Conocidos) {
+        if (std::ranges::any_of(claves, [&](const QString &clave) { return hayJuego(sistema, clave); }))
+            suyos += sistema;
     }
     return suyos;
 }
 
 QString remendadas(const QString &texto)
 {
-    return core::NotasRemendadas(texto, Configurados, Conocidos, deQuien);
+    return core::NotasRemendadas(texto, Configurados, Conocidos, { deQuien, hayJuego });
+}
+
+// What the main screen's readers make of a text.
+class Lectores {
+public:
+    // What shows of the systems' games, as "system: KEY" with the description, and what their launches get.
+    std::map<QString, QString> Muestran(const QString &texto)
+    {
+        M->Ficheros.readInstead(m_fichero, texto);
+        std::map<QString, QString> visto;
+        for (const QString &sistema : Conocidos) {
+            const int cuantas = notasDe(sistema);
+            for (const QString &clave : Juegos.at(sistema)) {
+                int i = 0;
+                while (i < cuantas && host::upper(M->Nota_Clave(i)) != clave)
+                    ++i;
+                if (i < cuantas)
+                    visto[sistema + u": "_s + clave] = M->Nota_Texto(i);
+                host::TextSource fuente(texto);
+                const QString parametros = core::ParametrosDe(fuente, clave);
+                if (!parametros.isEmpty())
+                    visto[clave] = parametros;
+            }
+        }
+        return visto;
+    }
+
+private:
+    int notasDe(const QString &sistema)
+    {
+        try {
+            return core::CargaNotas(*M, sistema);
+        } catch (const host::Failure &) {
+            M->Ficheros.closeAll();
+            return 0; // the list comes up empty
+        }
+    }
+
+    const QString m_fichero = host::programFile(u"Zembro.rom"_s);
+    const std::unique_ptr<core::Modulo> M = std::make_unique<core::Modulo>();
+};
+
+// What showed ahead of the repairs, and doesn't behind them. A game that got what is no description
+// may get one instead.
+QStringList seDejaDeVer(Lectores &lectores, const QString &roto, const QString &sano)
+{
+    const std::map<QString, QString> despues = lectores.Muestran(sano);
+    QStringList falta;
+    for (const auto &[juego, texto] : lectores.Muestran(roto)) {
+        const auto suyo = despues.find(juego);
+        if (suyo == despues.end()
+            || (suyo->second != texto && !sano.contains(u",\""_s + suyo->second + u'"')))
+            falta += juego + u" = "_s + texto;
+    }
+    return falta;
 }
 
 // What each line with anything to say says: its fields, the first one whichever its case; of a line that is
@@ -100,12 +168,13 @@ private:
 
     QString unGolpe(const QString &texto)
     {
+        const QString deBloques[] = { u"Alfa"_s, u"Beta"_s, u"Gamma, the third"_s, u"'"_s, u"[EOF]"_s };
         const QString sueltos[] = { u"'"_s, u"\""_s, u","_s, u"["_s, u"\r"_s, u"\r\n"_s, u"\n"_s, u" "_s,
             u"x"_s, u"'\r\n"_s };
         QStringList lineas = texto.split(u'\n');
         const qsizetype donde = uno(lineas.size());
         const qsizetype otra = uno(lineas.size());
-        switch (uno(8)) {
+        switch (uno(11)) {
         case 0:
             return texto.first(uno(texto.size()));
         case 1:
@@ -121,6 +190,14 @@ private:
             break;
         case 6:
             lineas.swapItemsAt(donde, otra);
+            break;
+        case 7:
+        case 8:
+            lineas.insert(donde, deBloques[uno(std::size(deBloques))] + u'\r');
+            break;
+        case 9:
+            lineas.removeIf([&, cual = deBloques[uno(std::size(deBloques))] + u'\r'](
+                                const QString &linea) { return linea == cual; });
             break;
         default:
             lineas[donde] = host::lower(lineas[donde]);
@@ -187,19 +264,57 @@ TEST(AllMendedNotes, ComeToRestWhereOneRepairMakesRoomForAnother)
     EXPECT_EQ(remendadas(sano), sano);
 }
 
+// Two headings of one name, with or without notes between them: what the second has joins the first.
+TEST(AllMendedNotes, AreOneBlock_WhereTheHeadingStandsTwice)
+{
+    const QString partidas = QString(Enteras).replace(u"\"B, C"_s, u"Alfa\r\n\"B, C"_s);
+    const QString seguidas = QString(Enteras).replace(u"Alfa\r\nGAME"_s, u"Alfa\r\nAlfa\r\nGAME"_s);
+    for (const QString &texto : { partidas, seguidas })
+        EXPECT_EQ(remendadas(texto), Enteras) << texto.toStdString();
+}
+
+// The reader takes two fields at a time, so that an odd line out of place may bring it back into step.
+TEST(AllMendedNotes, StayAsTheyAre_WhereLessOfThemWouldShow)
+{
+    const QString enCabeza = u"Alfa\r\n"_s + QString(Enteras).replace(u"' of two lines\r\n"_s, QString());
+    const QString conSuelto =
+        QString(Enteras).replace(u"Alfa\r\n"_s, u"Alfa\r\nAlfa\r\n"_s).replace(u"\"B, C"_s, u"'\r\n\"B, C"_s);
+    for (const QString &texto : { enCabeza, conSuelto }) {
+        EXPECT_EQ(remendadas(texto), texto);
+        EXPECT_THAT(core::NotasSinCierre(texto, Conocidos), testing::Not(testing::IsEmpty()));
+    }
+}
+
+// What a system shows of the next one's, as its own block isn't closed, shows no more where none of its
+// games has that name.
+TEST(AllMendedNotes, AreClosedWhereTheNextOnesShow_UnlessAGameHasOneOfThose)
+{
+    const QString abierto = QString(Enteras).replace(u"C\"\r\n'\r\n"_s, u"C\"\r\n"_s);
+    EXPECT_EQ(remendadas(abierto), Enteras);
+    const QString compartido = QString(Enteras)
+                                   .replace(u"\"B, C.BIN\",\"B and C\"\r\n'\r\n"_s, QString())
+                                   .replace(u"Beta\r\n"_s, u"Beta\r\nodd\r\n\"B, C.BIN\",\"Of Beta\"\r\n"_s);
+    EXPECT_EQ(Lectores().Muestran(compartido).at(u"Alfa: B, C.BIN"_s), u"Of Beta"_s);
+    EXPECT_EQ(remendadas(compartido), compartido);
+}
+
 TEST(AllMendedNotes, HowEverMangledComeToRestAtOnce_AndLoseNothingThatTheySaid)
 {
     Destrozo destrozo(20260501);
+    Lectores lectores;
     int cambiados = 0;
     for (int i = 0; i < 4'000; ++i) {
         const QString roto = destrozo.De(Enteras);
         const QString sano = remendadas(roto);
         cambiados += sano != roto;
         ASSERT_EQ(remendadas(sano), sano) << i << '\n' << roto.toStdString();
-        const QSet<QString> falta = loDicho(roto) - loDicho(sano);
-        ASSERT_TRUE(falta.isEmpty()) << i << '\n'
-                                     << roto.toStdString() << "\n--- lost ---\n"
-                                     << QStringList(falta.begin(), falta.end()).join(u" | "_s).toStdString();
+        const QStringList falta = sano == roto ? QStringList() : seDejaDeVer(lectores, roto, sano);
+        ASSERT_THAT(falta, testing::IsEmpty()) << i << '\n' << roto.toStdString();
+        const QSet<QString> perdido = loDicho(roto) - loDicho(sano);
+        ASSERT_TRUE(perdido.isEmpty())
+            << i << '\n'
+            << roto.toStdString() << "\n--- lost ---\n"
+            << QStringList(perdido.begin(), perdido.end()).join(u" | "_s).toStdString();
     }
     EXPECT_GT(cambiados, 1'500);
 }
