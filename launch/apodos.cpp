@@ -1,5 +1,6 @@
 #include "launch/apodos.h"
 
+#include "launch/apodado.h"
 #include "launch/intenta.h"
 #include "launch/mostrado.h"
 
@@ -7,8 +8,11 @@
 #include "host/letters.h"
 #include "host/paths.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -53,28 +57,44 @@ public:
     }
     void EnsenaLoGuardado(const QByteArray &casa, const UnidadesDOS::Apodo &apodo) const
     {
-        const QByteArray prefijo = PrefijoEnCasa(apodo.fichero);
+        QSet<QString> dados { host::upper(host::nameFromDisk(apodo.nombre)) };
+        const auto ensena = [&](const QByteArray &enCasa, const QByteArray &nombre) {
+            const QString dado = host::upper(host::nameFromDisk(nombre));
+            if (!dados.contains(dado) && Ensena(casa + '/' + enCasa, nombre))
+                dados.insert(dado); // of those that differ by their case alone the game sees one
+        };
         Intenta([&] {
-            for (const QString &nombre : host::listFiles(host::nameFromDisk(casa))) {
-                const QByteArray bytes = host::nameToDisk(nombre);
-                if (SeLlamaIgual(bytes, apodo.nombre))
-                    Ensena(casa + '/' + bytes, bytes.toUpper());
-                else if (bytes.size() > prefijo.size() && bytes.startsWith(prefijo))
-                    Ensena(casa + '/' + bytes, bytes.sliced(prefijo.size()));
-            }
+            for (const QByteArray &enCasa : guardados(casa, apodo.fichero))
+                ensena(enCasa, NombreMostrado(apodo.fichero, apodo.nombre, enCasa));
             for (const QString &nombre : host::listDirectories(host::nameFromDisk(casa)))
-                Ensena(casa + '/' + host::nameToDisk(nombre), host::nameToDisk(nombre));
+                ensena(host::nameToDisk(nombre), host::nameToDisk(nombre));
         });
     }
+    // What begins with the name of another file that begins so is that one's.
+    static QByteArrayList guardados(const QByteArray &casa, const QByteArray &juego)
+    {
+        QByteArrayList posibles;
+        for (const QString &nombre : host::listFiles(host::nameFromDisk(casa))) {
+            if (!NombreMostrado(juego, {}, host::nameToDisk(nombre)).isEmpty())
+                posibles += host::nameToDisk(nombre);
+        }
+        QByteArrayList suyos;
+        std::ranges::copy_if(posibles, std::back_inserter(suyos), [&](const QByteArray &uno) {
+            return std::ranges::none_of(
+                posibles, [&](const QByteArray &otro) { return uno.startsWith(PrefijoEnCasa(otro)); });
+        });
+        return suyos;
+    }
     // Of the same game.
-    void Hereda(const Pendiente &pendiente, const QByteArray &casa, const QByteArray &apodo) const
+    void Hereda(const Pendiente &pendiente, const QByteArray &casa, const QByteArray &fichero) const
     {
         const QByteArray deEntonces = host::nameToDisk(pendiente.lugar);
         QByteArray enlaces = deEntonces;
         const qsizetype corte = deEntonces.lastIndexOf('/') + 1;
         enlaces.replace(corte, qstrlen(UnidadDeCorrida), MostradoEnCorrida);
-        if (pendiente.destino != host::nameFromDisk(casa) || !EstadoDe(enlaces + '/' + apodo)
-            || !separaRenombrados(deEntonces, Mostrado(enlaces)))
+        const Mostrado mostrado(enlaces);
+        if (pendiente.destino != host::nameFromDisk(casa) || mostrado.Juego() != fichero
+            || !separaRenombrados(deEntonces, mostrado))
             return;
         for (const QByteArray &nombre : EntradasDe(deEntonces)) {
             const QByteArray suyo = deEntonces + '/' + nombre;
@@ -135,7 +155,7 @@ QByteArray HazCarpetaDeApodos(const CarpetaDeCorrida &corrida, const UnidadesDOS
         unidad.EnsenaLoGuardado(montaje.lugar, apodo);
         const std::vector<Pendiente> &deAntes = corrida.DeAntes();
         for (auto ultimo = deAntes.rbegin(); ultimo != deAntes.rend(); ++ultimo)
-            unidad.Hereda(*ultimo, montaje.lugar, apodo.nombre);
+            unidad.Hereda(*ultimo, montaje.lugar, apodo.fichero);
     }
     return bien ? unidad.Lugar() : QByteArray();
 }

@@ -9,9 +9,8 @@
 namespace launch {
 
 // Makes it in the directory of the run, and yields its place; empty if it can't be made. Besides the file it
-// shows what lies beside it with the new name and another ending, what an earlier run of it has saved under
-// names of other kinds, and the directories. What this one saves, the directory of the run brings back. What
-// an earlier one couldn't bring back is there again.
+// shows what earlier runs of it have saved, and the directories. What this one saves, the directory of the
+// run brings back. What an earlier one couldn't bring back is there again.
 QByteArray HazCarpetaDeApodos(const CarpetaDeCorrida &corrida, const UnidadesDOS::Montaje &montaje);
 
 } // namespace launch

@@ -1,5 +1,6 @@
 #include "launch/mostrado.h"
 
+#include "launch/apodado.h"
 #include "launch/destino.h"
 #include "launch/intenta.h"
 
@@ -191,19 +192,6 @@ private:
 
 } // namespace
 
-QByteArray PrefijoEnCasa(const QByteArray &juego)
-{
-    return QByteArray(juego).replace('\\', '_') + " - "; // which would be taken for a separator
-}
-
-bool SeLlamaIgual(const QByteArray &nombre, const QByteArray &otro)
-{
-    const auto base = [](const QByteArray &entero) {
-        return entero.first(entero.indexOf('.') < 0 ? entero.size() : entero.indexOf('.'));
-    };
-    return mismoNombre(base(nombre), base(otro));
-}
-
 std::optional<struct stat> EstadoDe(const QByteArray &ruta)
 {
     struct stat estado;
@@ -234,7 +222,7 @@ Mostrado::Mostrado(const QByteArray &enlaces)
     }
     // Under made-up names there are the game, and what begins with its name at home.
     const auto esDe = [&](const QByteArray &destino, const Enlace &enlace, const QByteArray &juego) {
-        return nombreDe(destino) == PrefijoEnCasa(nombreDe(juego)) + enlace.nombre;
+        return NombreMostrado(nombreDe(juego), m_enlaces[juego].nombre, nombreDe(destino)) == enlace.nombre;
     };
     QByteArrayList apodados;
     for (auto uno = m_enlaces.begin(); uno != m_enlaces.end(); ++uno) {
@@ -261,14 +249,12 @@ const Mostrado::Enlace *Mostrado::Propio(const QByteArray &nombre) const
 
 Mostrado::Nombre Mostrado::EnCasa(const QByteArray &nombre) const
 {
-    // A new file under the game's own made-up name would be a neighbour with that name.
-    const bool comoElJuego = SeLlamaIgual(nombre, m_apodo) && !mismoNombre(nombre, m_apodo);
-    QByteArray prefijo = m_juego.isEmpty() || comoElJuego ? QByteArray() : PrefijoEnCasa(m_juego);
-    if (prefijo.size() + nombre.size() > NAME_MAX)
-        prefijo.clear();
-    if (const Enlace *enlace = Propio(nombre))
-        return { nombreDe(enlace->destino), prefijo.size() };
-    return { prefijo + nombre, prefijo.size() };
+    const QByteArray prefijo = m_juego.isEmpty() ? QByteArray() : PrefijoEnCasa(m_juego);
+    const Enlace *propio = Propio(nombre);
+    const QByteArray enCasa = propio ? nombreDe(propio->destino)
+        : m_juego.isEmpty()          ? nombre
+                                     : NombreEnCasa(m_juego, m_apodo, nombre);
+    return { enCasa, enCasa.startsWith(prefijo) ? prefijo.size() : 0 };
 }
 
 const Mostrado::Enlace *Mostrado::Renombrado(const QByteArray &ruta, bool deArriba) const

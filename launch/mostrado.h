@@ -20,13 +20,6 @@ std::optional<struct stat> EstadoDe(const QByteArray &ruta);
 // None where it can't be listed.
 QByteArrayList EntradasDe(const QByteArray &lugar);
 
-// What stands ahead of the name at home that a game gives to what isn't named after it, or replaces it: other
-// games there may give the same one.
-QByteArray PrefijoEnCasa(const QByteArray &juego);
-
-// "NINO" of "NINO.SAV": what a game saves under its own name begins so.
-bool SeLlamaIgual(const QByteArray &nombre, const QByteArray &otro);
-
 // Read from the links of the run's beginning.
 class Mostrado {
 public:
@@ -34,6 +27,8 @@ public:
 
     // The directory that they lead to.
     const QByteArray &Casa() const { return m_casa; }
+    // The file of the game there; empty if it isn't known.
+    const QByteArray &Juego() const { return m_juego; }
     // A disk that isn't there now leaves an empty directory in its place.
     bool EstaEnCasa() const { return m_esta; }
     // What a file of this name is called at home, and where the game's name begins in that.
@@ -48,7 +43,7 @@ public:
         QByteArray nombre; // that it was shown under
         QByteArray ruta; // of the link of the beginning
         QByteArray destino;
-        bool propio = false; // the game's own, by the name that it has at home too, or the end of that
+        bool propio = false; // a directory, or what the game has saved; else it is the game itself
     };
     const QHash<QByteArray, Enlace> &Enlaces() const { return m_enlaces; } // by what they lead to
 
@@ -62,7 +57,7 @@ public:
 
 private:
     QByteArray m_casa;
-    QByteArray m_juego; // its file; empty if it isn't known
+    QByteArray m_juego;
     QByteArray m_apodo; // that it was shown under
     bool m_esta = false;
     QHash<QByteArray, Enlace> m_enlaces;

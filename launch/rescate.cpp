@@ -50,12 +50,13 @@ void borraEnlaces(const QByteArray &lugar, const std::function<bool(const QByteA
     }
 }
 
-// "NINO-2.SAV".
+// "niño.nes - HISCORE-2.DAT", "niño.nes - 2.SAV".
 QString conNumero(const QString &nombre, qsizetype desde, int numero)
 {
     const qsizetype punto = nombre.indexOf(u'.', desde);
     const qsizetype fin = punto < 0 ? nombre.size() : punto;
-    return nombre.first(fin) + u'-' + QString::number(numero) + nombre.sliced(fin);
+    return nombre.first(fin) + (fin > desde ? u"-"_s : QString()) + QString::number(numero)
+        + nombre.sliced(fin);
 }
 
 // Whether a game of another run was shown this file: it may have it under another name by now.
@@ -99,11 +100,15 @@ public:
 private:
     static QByteArray nombreDe(const QByteArray &ruta) { return ruta.sliced(ruta.lastIndexOf('/') + 1); }
     static std::pair<time_t, long> hora(const timespec &tiempo) { return { tiempo.tv_sec, tiempo.tv_nsec }; }
+    // Of a game whose name only the case tells from this one's.
+    static bool esDeOtro(const QByteArray &alli, const Mostrado::Nombre &suyo)
+    {
+        return !alli.isEmpty() && !nombreDe(alli).startsWith(suyo.nombre.first(suyo.desde));
+    }
     // Of the user's own links what they lead to; one that leads nowhere now stays.
-    static std::optional<EnCasa> enCasa(const QString &ruta, const QByteArray &guardado,
+    static std::optional<EnCasa> enCasa(const QByteArray &alli, const QByteArray &guardado,
         const struct stat &suyo, const Mostrado::Enlace *mostrado)
     {
-        const QByteArray alli = host::findOnDisk(ruta);
         if (alli.isEmpty() || !EstadoDe(alli))
             return std::nullopt;
         EnCasa esto { host::nameFromDisk(nombreDe(alli)), false, false, true };
@@ -125,8 +130,11 @@ private:
     {
         return VueltaDe(
             host::nameFromDisk(suyo.nombre), S_ISDIR(estado.st_mode), mostrado != nullptr,
-            [&](const QString &nombre) { return enCasa(a + u'/' + nombre, guardado, estado, mostrado); },
-            host::nameFromDisk(suyo.nombre.first(suyo.desde)).size());
+            [&](const QString &nombre) {
+                const QByteArray alli = host::findOnDisk(a + u'/' + nombre);
+                return esDeOtro(alli, suyo) ? std::nullopt : enCasa(alli, guardado, estado, mostrado);
+            },
+            prefijoDe(suyo));
     }
     void llevaFichero(
         const QByteArray &guardado, const struct stat &estado, const QString &a, bool deArriba) const
@@ -138,24 +146,42 @@ private:
             && loVeOtraCorrida(host::nameToDisk(a + u'/' + vuelta.nombre), m_corrida);
         if ((vuelta.aparta || enUso) && !aparta(a, vuelta.nombre, suyo))
             vuelta = vueltaDe(guardado, estado, a, suyo, nullptr);
-        const QString destino = a + u'/' + vuelta.nombre;
-        if (vuelta.escribe) {
-            host::Replacement fichero(destino, borradorPara(destino));
-            fichero.read();
-            fichero.write(host::readBytes(host::nameFromDisk(guardado)));
-            fichero.commit();
-            const std::array<timespec, 2> tiempos { estado.st_mtim, estado.st_mtim };
-            utimensat(AT_FDCWD, host::findOnDisk(destino).constData(), tiempos.data(), 0);
-        }
+        const QString destino =
+            vuelta.escribe ? escribe(guardado, estado, a, vuelta.nombre, suyo) : a + u'/' + vuelta.nombre;
         if (unlink(guardado.constData()) == 0)
             m_vueltos << destino;
+    }
+    // Yields where it is now.
+    static QString escribe(const QByteArray &guardado, const struct stat &estado, const QString &a,
+        const QString &nombre, const Mostrado::Nombre &suyo)
+    {
+        const QString destino = a + u'/' + nombre;
+        const bool deOtro = esDeOtro(host::findOnDisk(destino), suyo); // which would be replaced
+        QString libre = destino;
+        for (int numero = 2; deOtro && !host::findOnDisk(libre).isEmpty(); ++numero)
+            libre = a + u'/' + conNumero(nombre, prefijoDe(suyo), numero);
+        host::Replacement fichero(libre, borradorPara(libre));
+        fichero.read();
+        fichero.write(host::readBytes(host::nameFromDisk(guardado)));
+        fichero.commit();
+        const std::array<timespec, 2> tiempos { estado.st_mtim, estado.st_mtim };
+        utimensat(AT_FDCWD, host::findOnDisk(libre).constData(), tiempos.data(), 0);
+        const bool enSuSitio = deOtro
+            && renameat2(AT_FDCWD, host::nameToDisk(libre).constData(), AT_FDCWD,
+                   host::nameToDisk(destino).constData(), RENAME_NOREPLACE)
+                == 0;
+        return enSuSitio ? destino : libre;
+    }
+    static qsizetype prefijoDe(const Mostrado::Nombre &suyo)
+    {
+        return host::nameFromDisk(suyo.nombre.first(suyo.desde)).size();
     }
     // What another run, or the user, put there meanwhile.
     static bool aparta(const QString &a, const QString &nombre, const Mostrado::Nombre &suyo)
     {
         const QByteArray alli = host::nameToDisk(a + u'/' + nombre);
         const auto estado = EstadoDe(alli);
-        const qsizetype desde = host::nameFromDisk(suyo.nombre.first(suyo.desde)).size();
+        const qsizetype desde = prefijoDe(suyo);
         for (int numero = 2; estado && S_ISREG(estado->st_mode); ++numero) {
             const QString libre = a + u'/' + conNumero(nombre, desde, numero);
             if (host::findOnDisk(libre).isEmpty())

@@ -1,7 +1,7 @@
 #include "launch/unidadesdos.h"
 
+#include "launch/apodado.h"
 #include "launch/intenta.h"
-#include "launch/mostrado.h"
 #include "launch/nombresdos.h"
 
 #include "host/encoding.h"
@@ -44,51 +44,6 @@ std::optional<QByteArray> directoriosDesde(QByteArray lugar, const QByteArray &r
         lugar += parte + '/';
     }
     return dicho.size() - 1 <= MasLargoElDirectorio ? std::optional(dicho) : std::nullopt;
-}
-
-// Letters and digits, accents gone; what is left over of a part is cut.
-QByteArray llano(const QString &parte, qsizetype largo)
-{
-    QByteArray resultado;
-    for (const QChar letra : parte.normalized(QString::NormalizationForm_D).toUpper()) {
-        if (letra.unicode() < 128 && letra.isLetterOrNumber() && resultado.size() < largo)
-            resultado += letra.toLatin1();
-    }
-    return resultado;
-}
-
-struct Apodado {
-    QByteArray base; // empty where nothing is left of the name
-    QByteArray terminacion; // with its point
-
-    bool operator==(const Apodado &) const = default;
-};
-
-Apodado apodado(const QByteArray &entrada)
-{
-    const QString nombre = host::nameFromDisk(entrada);
-    const qsizetype punto = nombre.lastIndexOf(u'.');
-    const QByteArray base = llano(nombre.first(punto < 0 ? nombre.size() : punto), 8);
-    const QByteArray terminacion = punto < 0 ? QByteArray() : llano(nombre.sliced(punto + 1), 3);
-    return { EsDispositivo(base) ? QByteArray() : base, terminacion.isEmpty() ? "" : "." + terminacion };
-}
-
-// What is saved beside a game bears its name: where a neighbour would get the same one, and where nothing is
-// left of the name, a checksum of it tells them apart, the same in each run. A game that has saved under that
-// name keeps it when the neighbour has gone.
-QByteArray apodoDe(const QByteArray &lugar, const QByteArray &entrada)
-{
-    constexpr qsizetype Letras = 4; // ahead of the checksum's four digits
-    const Apodado propio = apodado(entrada);
-    const QByteArray suma = QByteArray::number(qChecksum(entrada), 16).toUpper().rightJustified(4, '0');
-    const QByteArray conSuma =
-        (propio.base.isEmpty() ? QByteArray("GAME") : propio.base.first(std::min(propio.base.size(), Letras)))
-        + suma + propio.terminacion;
-    const bool tieneOtro = std::ranges::any_of(EntradasDe(lugar), [&](const QByteArray &otra) {
-        const bool vecino = otra != entrada && !otra.startsWith(PrefijoEnCasa(entrada));
-        return (vecino && apodado(otra) == propio) || SeLlamaIgual(otra, conSuma);
-    });
-    return propio.base.isEmpty() || tieneOtro ? conSuma : propio.base + propio.terminacion;
 }
 
 // Without what leads through a directory and back.
@@ -148,7 +103,7 @@ std::optional<QByteArray> UnidadesDOS::RutaOApodo(const QString &enDisco)
     Unidad *unidad = hecha == m_unidades.end() ? nueva(lugar) : &*hecha;
     if (!unidad)
         return std::nullopt;
-    unidad->apodos = { { apodoDe(lugar, entrada), entrada } };
+    unidad->apodos = { { ApodoEnDOS(entrada), entrada } };
     unidad->montada = true;
     return unidad->letra + (":\\" + unidad->apodos[0].nombre);
 }

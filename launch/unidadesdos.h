@@ -20,7 +20,7 @@ public:
 
     // A file under a name of its own making: DOS can't open it by the one that it has.
     struct Apodo {
-        QByteArray nombre; // "NINO.NES"
+        QByteArray nombre; // see ApodoEnDOS
         QByteArray fichero; // in the place of its drive
     };
     struct Montaje {

@@ -1,5 +1,6 @@
 #include "launch/wine.h"
 
+#include "launch/apodado.h"
 #include "launch/apodos.h"
 #include "launch/nombresdos.h"
 
@@ -28,20 +29,6 @@ bool esMalo(QChar letra)
 QString nombreDe(const QString &ruta)
 {
     return ruta.sliced(ruta.lastIndexOf(u'/') + 1);
-}
-
-// What Windows can't say replaced, or gone at the end.
-QString apodoDe(QString nombre)
-{
-    for (QChar &letra : nombre) {
-        if (esMalo(letra))
-            letra = u'_';
-    }
-    while (nombre.endsWith(u' ') || nombre.endsWith(u'.'))
-        nombre.chop(1);
-    if (EsDispositivo(nombre.toUtf8()))
-        nombre.prepend(u'_');
-    return nombre.isEmpty() ? u"GAME"_s : nombre;
 }
 
 } // namespace
@@ -95,7 +82,7 @@ std::vector<UnidadesDOS::Montaje> ApodosDeWindows(const LineaDeOrden &orden)
             continue;
         const QString nombre = nombreDe(enDisco);
         apodos.push_back({ letra++, host::nameToDisk(enDisco.chopped(nombre.size() + 1)), false,
-            { { host::nameToDisk(apodoDe(nombre)), host::nameToDisk(nombre) } } });
+            { { ApodoEnWindows(host::nameToDisk(nombre)), host::nameToDisk(nombre) } } });
     }
     return apodos;
 }

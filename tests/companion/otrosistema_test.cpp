@@ -1,6 +1,8 @@
 // What zembro check and zembro command tell of programs for DOS and Windows, and of their drives.
 #include "mesadepruebas.h"
 
+#include "launch/apodado.h"
+
 #include "host/process.h"
 
 #include <QFile>
@@ -174,16 +176,18 @@ TEST_F(OtroSistema, CommandShowsAFileUnderAnotherName)
 {
     PonHerramienta(u"dosbox"_s);
     Pon(u"roms/ni\u00F1o.nes"_s, "a game");
+    const QString apodo = QString::fromLatin1(launch::ApodoEnDOS("ni\xC3\xB1o.nes"));
     const QStringList orden { u"command"_s, u"Sis"_s, u"Uno"_s, u"ni\u00F1o.nes"_s };
     const QByteArray dicho = Zembro(orden).salida;
-    EXPECT_TRUE(dicho.contains(Ruta(u"roms/ni\u00F1o.nes"_s).toUtf8() + ", shown as NINO.NES\n"))
+    EXPECT_TRUE(
+        dicho.contains(Ruta(u"roms/ni\u00F1o.nes"_s).toUtf8() + ", shown as " + apodo.toUtf8() + "\n"))
         << dicho.toStdString();
     EXPECT_TRUE(dicho.contains("/ZB-DOS-*/files-")) << dicho.toStdString();
     EXPECT_TRUE(dicho.contains("mount D ")) << "where it may look for others " << dicho.toStdString();
-    EXPECT_TRUE(dicho.contains("c:\\emu\\uno.exe -a e:\\nino.nes")) << dicho.toStdString();
+    EXPECT_TRUE(dicho.contains("c:\\emu\\uno.exe -a e:\\" + apodo.toLower().toUtf8())) << dicho.toStdString();
     const QJsonArray unidades = Json(orden)[u"drives"_s].toArray();
     EXPECT_EQ(unidades.last()[u"shows"_s], u"ni\u00F1o.nes"_s);
-    EXPECT_EQ(unidades.last()[u"as"_s], u"NINO.NES"_s);
+    EXPECT_EQ(unidades.last()[u"as"_s], apodo);
 }
 
 TEST_F(OtroSistema, WithoutAToolCommandShowsNoEmptyProgram)
@@ -312,8 +316,8 @@ TEST_F(OtroSistema, CheckBringsBackWhatAGameSaved_AndTellsWhatCantBe)
     ASSERT_TRUE(QFile::link(Ruta(u"roms/ni\u00F1o.nes"_s), Ruta(corrida + u"shown-E/NINO.NES"_s)));
     EXPECT_TRUE(Zembro({ u"check"_s })
                     .salida.startsWith("What a game had saved is back in its place: "
-                        + Ruta(u"roms/NINO.SAV"_s).toUtf8() + "\n"));
-    EXPECT_EQ(Bytes(u"roms/NINO.SAV"_s), "saved");
+                        + Ruta(u"roms/ni\u00F1o.nes - .SAV"_s).toUtf8() + "\n"));
+    EXPECT_EQ(Bytes(u"roms/ni\u00F1o.nes - .SAV"_s), "saved");
     EXPECT_FALSE(QFile::exists(Ruta(corrida)));
     temporal.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporal);
 }

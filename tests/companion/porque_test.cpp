@@ -163,12 +163,12 @@ TEST_F(Why, WithoutLinesTooWhatAGameSavedComesBack)
         deja(u"roms"_s);
         const Respuesta respuesta = Zembro({ u"why"_s });
         EXPECT_EQ(respuesta.estado, companion::NoPudo);
-        EXPECT_EQ(Bytes(u"roms/NINO.SAV"_s), "saved");
+        EXPECT_EQ(Bytes(u"roms/ni\u00F1o.nes - .SAV"_s), "saved");
         EXPECT_TRUE(respuesta.error.startsWith("zembro: What a game had saved is back in its place: "
-            + Ruta(u"roms/NINO.SAV"_s).toUtf8() + "\nzembro: "))
+            + Ruta(u"roms/ni\u00F1o.nes - .SAV"_s).toUtf8() + "\nzembro: "))
             << respuesta.error.toStdString();
         EXPECT_FALSE(QFile::exists(Ruta(corrida)));
-        QFile::remove(Ruta(u"roms/NINO.SAV"_s));
+        QFile::remove(Ruta(u"roms/ni\u00F1o.nes - .SAV"_s));
     }
     deja(u"gone"_s);
     EXPECT_TRUE(Zembro({ u"why"_s }).error.contains(Ruta(corrida + u"files-E"_s).toUtf8()));

@@ -1,6 +1,8 @@
 // Launches of programs for DOS, from the selection to the end, in the real DOSBox.
 #include "dostest.h"
 
+#include "launch/apodado.h"
+
 #include "host/encoding.h"
 #include "host/paths.h"
 #include "host/process.h"
@@ -237,20 +239,22 @@ TEST_F(LaunchesInDosBox, AGameWithAccentsIsOpened_AndWhatItSavesStaysBesideIt)
     NameBoth();
     PutProgram("tells.com", "old/EMUS/nes.com");
     // Saves beside the game, over what it finds there.
+    const QByteArray nombre = launch::ApodoEnDOS("ni\xC3\xB1o.nes");
     makeFile("old/EMUS/GO.BAT",
-        "@nes.com %1\r\n@type E:\\NINO.SAV > C:\\FOUND\r\n@echo saved > E:\\NINO.SAV\r\n@echo new > "
-        "E:\\NINO.NEW\r\n");
+        QByteArray("@nes.com %1\r\n@type E:\\NINO.SAV > C:\\FOUND\r\n@echo saved > E:\\NINO.SAV\r\n"
+                   "@echo saved > E:\\NINO.ST1\r\n")
+            .replace("NINO", nombre.first(8)));
     makeFile("media/ROMS/el ni\xC3\xB1o.nes", "another");
     makeFile("media/ROMS/ni\xC3\xB1o.nes", "the child");
-    makeFile("media/ROMS/Nino.sav", "before");
+    makeFile("media/ROMS/ni\xC3\xB1o.nes - .sav", "before");
     pantalla.lista1 = u"niño.nes"_s;
     Select(0, u"C:\\EMUS\\GO.BAT"_s, u"D:\\ROMS\\"_s);
     Juega();
     EXPECT_THAT(Notices(), IsEmpty());
-    EXPECT_THAT(Told("old/EMUS"), ElementsAre(" E:\\NINO.NES", "EMUS", "the child"));
+    EXPECT_THAT(Told("old/EMUS"), ElementsAre(" E:\\" + nombre, "EMUS", "the child"));
     EXPECT_EQ(bytes("old/FOUND"), "before");
-    EXPECT_EQ(bytes("media/ROMS/Nino.sav"), "saved\r\n");
-    EXPECT_EQ(bytes("media/ROMS/NINO.NEW"), "new\r\n");
+    EXPECT_EQ(bytes("media/ROMS/ni\xC3\xB1o.nes - .sav"), "saved\r\n");
+    EXPECT_EQ(bytes("media/ROMS/ni\xC3\xB1o.nes - .ST1"), "saved\r\n");
     EXPECT_EQ(bytes("media/ROMS/ni\xC3\xB1o.nes"), "the child");
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
 }
@@ -274,9 +278,32 @@ TEST_F(LaunchesInDosBox, WhatAGameWithAccentsSavesReplacesNoFileThatItDidNotSee)
                     "a.gb"),
         "played");
     EXPECT_EQ(bytes("media/ROMS/Espa\xC3\xB1"
-                    "a.gb - ESPANA.GB"),
+                    "a.gb - .NEW"),
         "new\r\n");
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
+}
+
+// Which no drive of one game's own keeps apart.
+TEST_F(LaunchesInDosBox, GamesOfLikeNamesAreToldApartInTheEmulatorsOwnDirectory)
+{
+    NameBoth();
+    makeDirectory("old/SAVES");
+    makeFile("old/EMUS/GO.BAT", "@copy %1 C:\\SAVES > NUL\r\n");
+    Select(0, u"C:\\EMUS\\GO.BAT"_s, u"D:\\ROMS\\"_s);
+    const QByteArrayList juegos { "Pok\xC3\xA9mon Plata.gb", "Pok\xC3\xA9mon Perla.gb",
+        "Pok\xC3\xA9mon Perla.gbc", "\xE3\x82\xBD.gb", "\xE3\x83\x8B.gb" };
+    for (const QByteArray &juego : juegos) {
+        makeFile("media/ROMS/" + juego, juego);
+        pantalla.lista1 = QString::fromUtf8(juego);
+        Juega();
+    }
+    EXPECT_THAT(Notices(), IsEmpty());
+    QSet<QByteArray> bases;
+    for (const QByteArray &juego : juegos) {
+        EXPECT_EQ(bytes("old/SAVES/" + launch::ApodoEnDOS(juego)), juego);
+        bases.insert(launch::ApodoEnDOS(juego).first(8));
+    }
+    EXPECT_EQ(bases.size(), juegos.size());
 }
 
 TEST_F(LaunchesInDosBox, TheRecordOfAGameWithAccentsGoesOnInOneFile)
@@ -303,17 +330,18 @@ TEST_F(LaunchesInDosBox, WhatAGameWithAccentsRenamesKeepsItsBytes)
 {
     NameBoth();
     makeFile("old/EMUS/GO.BAT",
-        "@E:\r\n@ren NINOMALO.SV2 NINOMALO.SV3\r\n@ren NINOMALO.SV1 NINOMALO.SV2\r\n@echo new state B > "
-        "E:\\NINOMALO.SV1\r\n");
+        QByteArray("@E:\r\n@ren NINO.SV2 NINO.SV3\r\n@ren NINO.SV1 NINO.SV2\r\n@echo new state B > "
+                   "E:\\NINO.SV1\r\n")
+            .replace("NINO", launch::ApodoEnDOS("Ni\xC3\xB1o malo.nes").first(8)));
     makeFile("media/ROMS/Ni\xC3\xB1o malo.nes", "the child");
-    makeFile("media/ROMS/NINOMALO.SV1", "precious state A");
-    makeFile("media/ROMS/Ninomalo.sv2", "earlier state");
+    makeFile("media/ROMS/Ni\xC3\xB1o malo.nes - .SV1", "precious state A");
+    makeFile("media/ROMS/Ni\xC3\xB1o malo.nes - .sv2", "earlier state");
     pantalla.lista1 = u"Niño malo.nes"_s;
     Select(0, u"C:\\EMUS\\GO.BAT"_s, u"D:\\ROMS\\"_s);
     Juega();
-    EXPECT_EQ(bytes("media/ROMS/NINOMALO.SV1"), "new state B\r\n");
-    EXPECT_EQ(bytes("media/ROMS/Ninomalo.sv2"), "precious state A");
-    EXPECT_EQ(bytes("media/ROMS/NINOMALO.SV3"), "earlier state");
+    EXPECT_EQ(bytes("media/ROMS/Ni\xC3\xB1o malo.nes - .SV1"), "new state B\r\n");
+    EXPECT_EQ(bytes("media/ROMS/Ni\xC3\xB1o malo.nes - .sv2"), "precious state A");
+    EXPECT_EQ(bytes("media/ROMS/Ni\xC3\xB1o malo.nes - .SV3"), "earlier state");
     EXPECT_THAT(host::listInDiskOrder(path(u"media/ROMS"_s)), testing::SizeIs(4));
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
 }

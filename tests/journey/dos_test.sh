@@ -139,12 +139,13 @@ plays 2 0 "$c/EMUS/GAMMA" '   alone alone\longna~1.pic|EMUS\GAMMA|zipped'
 plays 2 1 "$d/PROGS" ' -zip alone|PROGS|'
 plays 3 0 "$c/EMUS/DELTA" ' -b d:\roms\thefir~1.pic|EMUS\DELTA|a picture'
 plays 3 1 "$d/PROGS" '|PROGS|'
-plays 4 0 "$c/EMUS/DELTA" '  E:\NINO.PIC|EMUS\DELTA|a child'
+shown=$("$work/program/zembro" command Extra 'Extra accents' niño.pic | sed -n 's/.*, shown as //p')
+plays 4 0 "$c/EMUS/DELTA" "  E:\\$shown|EMUS\\DELTA|a child"
 plays 4 1 "$d/PROGS" '  D:\ROMS\NOTES\THESEC~1.PIC  -Mine|PROGS|'
 
 # A game under another name saves beside itself also where the program is left, or killed, ahead of its end.
 accents="$d/Roms/Accents"
-printf '%s\r\n' '@echo saved > E:\NINO.SAV' '@md E:\STATES' '@echo slot > E:\STATES\ONE' \
+printf '%s\r\n' "@echo saved > E:\\${shown%.PIC}.SAV" '@md E:\STATES' '@echo slot > E:\STATES\ONE' \
     '@C:\EMUS\PAINTE~1\PAINTS.COM %1' >"$c/EMUS/DELTA/SAVES.BAT"
 sed -i '/^+Extra accents/,/^XDI/s/^EXE=.*/EXE=C:\\EMUS\\DELTA\\SAVES.BAT\r/' "$work/program/Zembro.emu"
 export TMPDIR=$work/temporary
@@ -162,7 +163,7 @@ for ending in leave kill_it; do
     wait $program 2>/dev/null || [ $ending = kill_it ] || fail "it ended with status $?"
     program=
     "$work/program/zembro" check >/dev/null || true
-    [ -e "$TMPDIR"/ZB-DOS-*/files-E/NINO.SAV ] || fail "$ending: the drive of a game that goes on is gone"
+    [ -e "$TMPDIR"/ZB-DOS-*/files-E/"${shown%.PIC}.SAV" ] || fail "$ending: the drive of a game that goes on is gone"
     xdotool windowfocus --sync "$dosbox"
     xdotool key --clearmodifiers space
     wait_for 30 ended || fail "$ending: DOSBox stays"
@@ -170,7 +171,7 @@ for ending in leave kill_it; do
     program=$!
     main=$(timeout 60 xdotool search --sync --onlyvisible --pid $program --name '^Zembrolix v2' | head -1)
     wait_for 30 test -e "$accents/STATES/ONE" || fail "$ending: what was saved isn't back: $(cat "$work/log")"
-    [ "$(tr -d '\r' <"$accents/NINO.SAV")" = saved ] || fail "$ending: '$(cat "$accents/NINO.SAV")' was saved"
+    [ "$(tr -d '\r' <"$accents/niño.pic - .SAV")" = saved ] || fail "$ending: what was saved is lost"
     leave
     wait $program || fail "it ended with status $?"
     program=

@@ -1,18 +1,22 @@
 // What is started for a program of another system, by a DOSBox and a Wine that only record what they get.
 #include "escenario.h"
 
+#include "launch/apodado.h"
 #include "launch/codigo437.h"
 #include "launch/cronica.h"
 #include "launch/destino.h"
 #include "launch/dosbox.h"
 #include "launch/encargo.h"
 #include "launch/jugar.h"
+#include "launch/nombresdos.h"
 #include "launch/shell.h"
 #include "launch/wine.h"
 
 #include "host/encoding.h"
 #include "host/paths.h"
 #include "host/process.h"
+
+#include <QSet>
 
 using namespace Qt::StringLiterals;
 using launch::Corredor;
@@ -243,11 +247,15 @@ TEST_F(EncargoTest, AGameThatDosCantOpenByItsNameGetsAnotherOne)
 {
     Pon(ParaDOS);
     PonHerramienta("dosbox");
-    for (const auto &[nombre, apodo] :
-        std::initializer_list<std::pair<QByteArray, QByteArray>> { { "ni\xC3\xB1o.nes", "NINO.NES" },
-            { "a.b.c", "AB.C" }, { "a=b.nes", "AB.NES" }, { "\xE4\xB8\x80.nes", "GAME[0-9A-F]{4}.NES" },
-            { "ni\xA4os\n.nes", "NIOS.NES" }, { "Con.nes", "GAME[0-9A-F]{4}.NES" },
-            { "aux", "GAME[0-9A-F]{4}" }, { "ni\xC3\xB1\xC3\xB3.nes", "NINO[0-9A-F]{4}.NES" } }) {
+    const auto con = [](const QByteArray &letras, const QByteArray &terminacion = QByteArray()) {
+        return letras + "[0-9A-Z]{" + QByteArray::number(8 - letras.size()) + '}'
+            + (terminacion.isEmpty() ? terminacion : "[.]" + terminacion);
+    };
+    for (const auto &[nombre, apodo] : std::initializer_list<std::pair<QByteArray, QByteArray>> {
+             { "ni\xC3\xB1o.nes", con("NI", "NES") }, { "a.b.c", con("AB", "C") },
+             { "a=b.nes", con("AB", "NES") }, { "\xE4\xB8\x80.nes", con("", "NES") },
+             { "ni\xA4os\n.nes", con("NI", "NES") }, { "Con.nes", con("CO", "NES") }, { "aux", con("AU") },
+             { "x,.\xC3\xB1\xE4\xB8\x80zes", con("X", "NZE") }, { "=.\xE4\xB8\x80", con("") } }) {
         PonROM(nombre);
         pantalla.lista1 = host::nameFromDisk(nombre);
         Juega();
@@ -259,30 +267,65 @@ TEST_F(EncargoTest, AGameThatDosCantOpenByItsNameGetsAnotherOne)
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
 }
 
-TEST_F(EncargoTest, AGameKeepsTheNameThatItSavedUnderAsNeighboursComeAndGo)
+// Also an emulator that keeps what its games save in a directory of its own finds each one's again.
+TEST_F(EncargoTest, TheNameOfAGameDependsOnNoOther)
 {
-    Pon(ParaDOS);
-    PonHerramienta("dosbox");
-    PonROM("S\xC3\xBAper Mario.nes");
-    pantalla.lista1 = u"Súper Mario.nes"_s;
-    const auto nombre = [&] {
-        Juega();
-        const QByteArray linea = Configuracion().value(Configuracion().size() - 3).trimmed();
-        return linea.sliced(linea.lastIndexOf('\\') + 1);
+    QSet<QByteArray> apodos;
+    int cuantos = 0;
+    for (const QByteArray &forma : { QByteArray("Pok\xC3\xA9mon %.gbc"), QByteArray("\xE3\x82\xBD%.gbc"),
+             QByteArray("\xD0\xA1\xD1\x83%.gbc"), QByteArray("%\xC3\xB1.gbc"), QByteArray("a.b%.gbc") }) {
+        for (int i = 0; i < 1000; ++i, ++cuantos) {
+            const QByteArray apodo =
+                launch::ApodoEnDOS(QByteArray(forma).replace("%", QByteArray::number(i)));
+            EXPECT_TRUE(launch::SeAbreEnDOS(apodo)) << apodo.constData();
+            apodos.insert(apodo);
+        }
+    }
+    EXPECT_EQ(apodos.size(), cuantos);
+    EXPECT_EQ(launch::ApodoEnDOS("Pok\xC3\xA9mon Plata.gbc"), "POZDH92A.GBC");
+    EXPECT_NE(launch::ApodoEnDOS("Pok\xC3\xA9mon Plata.gbc").first(8),
+        launch::ApodoEnDOS("Pok\xC3\xA9mon Plata.gb").first(8));
+    EXPECT_NE(launch::ApodoEnDOS("Ni\xC3\xB1o.nes"), launch::ApodoEnDOS("ni\xC3\xB1o.nes"));
+}
+
+TEST(Apodado, WhatAGameSavesComesHomeBehindItsName_AndIsShownAgain)
+{
+    struct Caso {
+        QByteArray fichero;
+        QByteArray apodo;
+        QByteArray guardado;
+        QByteArray enCasa;
     };
-    EXPECT_EQ(nombre(), "SUPERMAR.NES");
-    // What it left itself is no neighbour, nor one of another kind.
-    PonROM("S\xC3\xBAper Mario.nes - SUPERMAR.NES");
-    PonROM("S\xC3\xBAper Mario.gb");
-    EXPECT_EQ(nombre(), "SUPERMAR.NES");
-    PonROM("S\xC3\xBAper Mario 2.nes");
-    const QByteArray conSuma = nombre();
-    EXPECT_THAT(conSuma.toStdString(), testing::MatchesRegex("SUPE[0-9A-F]{4}[.]NES"));
-    PonROM(conSuma.first(8).toLower() + ".sav");
-    ASSERT_EQ(unlink(place("roms/S\xC3\xBAper Mario 2.nes").constData()), 0);
-    EXPECT_EQ(nombre(), conSuma) << "its save is there";
-    ASSERT_EQ(unlink(place("roms/" + conSuma.first(8).toLower() + ".sav").constData()), 0);
-    EXPECT_EQ(nombre(), "SUPERMAR.NES");
+    const QByteArray largo(250, 'n');
+    for (const Caso &caso : std::initializer_list<Caso> {
+             { "ni\xC3\xB1o.nes", "NI012345.NES", "NI012345.SAV", "ni\xC3\xB1o.nes - .SAV" },
+             { "ni\xC3\xB1o.nes", "NI012345.NES", "HISCORE.DAT", "ni\xC3\xB1o.nes - HISCORE.DAT" },
+             { "ni\xC3\xB1o.nes", "NI012345.NES", "NI012345", "ni\xC3\xB1o.nes - NI012345" },
+             { "ni\xC3\xB1o.nes", "NI012345.NES", "NI012345.NEW", "ni\xC3\xB1o.nes - .NEW" },
+             { "ni\xC3\xB1o.nes", "NI012345.NES", "NI01234.SAV", "ni\xC3\xB1o.nes - NI01234.SAV" },
+             { "ni\xC3\xB1o", "NI012345", "NI012345.SAV", "ni\xC3\xB1o - .SAV" },
+             { "a.b?.nes", "a.b_-01234567.nes", "a.b_-01234567.nes.sav", "a.b?.nes - .nes.sav" },
+             { "a.b?.nes", "a.b_-01234567.nes", "a.sav", "a.b?.nes - a.sav" } }) {
+        EXPECT_EQ(launch::NombreEnCasa(caso.fichero, caso.apodo, caso.guardado), caso.enCasa);
+        EXPECT_EQ(launch::NombreMostrado(caso.fichero, caso.apodo, caso.enCasa), caso.guardado);
+    }
+    EXPECT_EQ(
+        launch::NombreEnCasa("ni\xC3\xB1o.nes", "NI012345.NES", "ni012345.sav"), "ni\xC3\xB1o.nes - .sav");
+    for (const QByteArray &propio : { QByteArray("NI012345.NES"), QByteArray("ni012345.nes") })
+        EXPECT_EQ(launch::NombreEnCasa("ni\xC3\xB1o.nes", "NI012345.NES", propio), "ni\xC3\xB1o.nes - .NEW");
+    for (const QByteArray &ajeno :
+        { QByteArray("ni\xC3\xB1o.nes"), QByteArray("ni\xC3\xB1o.nes - "), QByteArray("NI012345.SAV"),
+            QByteArray("Ni\xC3\xB1o.nes - .SAV"), QByteArray("ni\xC3\xB1o.SAV") })
+        EXPECT_EQ(launch::NombreMostrado("ni\xC3\xB1o.nes", "NI012345.NES", ajeno), QByteArray());
+    // Cut between characters, and different for two that begin alike.
+    const QByteArray prefijo = launch::PrefijoEnCasa(largo + ".nes");
+    EXPECT_LE(prefijo.size(), 203);
+    EXPECT_TRUE(prefijo.startsWith(QByteArray(191, 'n') + '~'));
+    EXPECT_NE(prefijo, launch::PrefijoEnCasa(largo + ".gbc"));
+    EXPECT_TRUE(host::nameFromDisk(launch::PrefijoEnCasa(QByteArray("\xC3\xB1").repeated(120)))
+                    .startsWith(QString(95, u'\u00F1') + u'~'));
+    EXPECT_NE(launch::PrefijoEnCasa("a\\b"), launch::PrefijoEnCasa("a_b"));
+    EXPECT_EQ(host::nameToDisk(host::nameFromDisk(launch::PrefijoEnCasa("a\\b"))).count('\\'), 0);
 }
 
 TEST_F(EncargoTest, AnEmulatorThatDosCantOpenByItsNameIsRefused)
@@ -374,7 +417,8 @@ TEST_F(EncargoTest, OfAGameHandedOverByItsNameAloneDosHasToKnowTheName)
     pantalla.lista1 = u"ni\u00F1o.zip"_s;
     Juega();
     EXPECT_THAT(Avisos(), IsEmpty()) << "this one gets the whole path";
-    EXPECT_TRUE(Configuracion().join('\n').contains("\\NINO.ZIP")) << Configuracion().join('\n').constData();
+    EXPECT_TRUE(Configuracion().join('\n').contains('\\' + launch::ApodoEnDOS("ni\xC3\xB1o.zip")))
+        << Configuracion().join('\n').constData();
 }
 
 TEST_F(EncargoTest, DrivesForCdsStandInARow)
@@ -413,14 +457,19 @@ TEST_F(EncargoTest, AGameThatWindowsCantOpenByItsNameGetsAnotherOne)
     Pon(ParaWindows);
     PonHerramienta("wine");
     for (const auto &[nombre, apodo] : std::initializer_list<std::pair<QByteArray, QByteArray>> {
-             { "what?.nes", "what_.nes" }, { "a\\b*.nes", "a_b_.nes" }, { "ends. ", "ends" },
-             { " .. ", "GAME" }, { "Con.nes", "_Con.nes" }, { "com1", "_com1" } }) {
+             { "what?.nes", "what_-*.nes" }, { "a\\b*.nes", "a_b_-*.nes" }, { "ends. ", "ends-*" },
+             { " .. ", "-*" }, { "Con.nes", "Con-*.nes" }, { "com1", "com1-*" }, { "a.b?", "a-*.b_" } }) {
         PonROM(nombre, nombre);
         pantalla.lista1 = host::nameFromDisk(nombre);
         Juega();
         const QByteArray dicho = Argumentos().value(1);
         EXPECT_TRUE(dicho.startsWith("Z:" + place("tmp/ZB-DOS-").replace('/', '\\'))) << dicho.constData();
-        EXPECT_TRUE(dicho.endsWith("\\files-A\\" + apodo)) << dicho.constData();
+        const QByteArray mostrado = dicho.sliced(dicho.indexOf("\\files-A\\") + 9);
+        EXPECT_THAT(mostrado.toStdString(),
+            testing::MatchesRegex(
+                QByteArray(apodo).replace(".", "[.]").replace("*", "[0-9A-Z]{8}").toStdString()));
+        EXPECT_EQ(mostrado, launch::ApodoEnWindows(nombre));
+        EXPECT_TRUE(launch::SeDiceEnWindows(host::nameFromDisk(mostrado)));
     }
     EXPECT_THAT(Avisos(), IsEmpty());
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
@@ -430,8 +479,9 @@ TEST_F(EncargoTest, WhatSuchAGameSavesStaysBesideIt)
 {
     Pon(ParaWindows);
     makeFile("bin/wine",
-        "#!/bin/sh\ncd '" + place("tmp") + "'/ZB-DOS-*/files-A && echo saved > what_.sav && cat what_.nes > '"
-            + place("out/read") + "'\n");
+        "#!/bin/sh\ncd '" + place("tmp")
+            + "'/ZB-DOS-*/files-A && for f in what_-*.nes; do echo saved > ${f%.nes}.sav; cat $f > '"
+            + place("out/read") + "'; done\n");
     setMode("bin/wine", 0755);
     qputenv("PATH", place("bin") + ":/usr/bin:/bin");
     host::rememberEnvironment();
@@ -439,7 +489,7 @@ TEST_F(EncargoTest, WhatSuchAGameSavesStaysBesideIt)
     pantalla.lista1 = u"what?.nes"_s;
     Juega();
     EXPECT_EQ(bytes("out/read"), "the game");
-    EXPECT_EQ(bytes("roms/what_.sav"), "saved\n");
+    EXPECT_EQ(bytes("roms/what?.nes - .sav"), "saved\n");
     EXPECT_EQ(bytes("roms/what?.nes"), "the game");
 }
 

@@ -1,6 +1,7 @@
 // What games have saved on drives with other names, brought back after any end of a run.
 #include "escenario.h"
 
+#include "launch/apodado.h"
 #include "launch/apodos.h"
 #include "launch/rescate.h"
 
@@ -30,7 +31,7 @@ protected:
     {
         PonPalabrasDeEncargo();
         PonROM("ni\xC3\xB1o.nes", "the game");
-        makeFile("roms/Nino.sav", "before");
+        makeFile("roms/ni\xC3\xB1o.nes - .SAV", "before");
         makeFile("roms/hiscore.dat", "records");
         makeDirectory("roms/Docs");
     }
@@ -75,8 +76,8 @@ TEST_F(RescateTest, LoQueDejaUnaMuerteVuelve_DirectoriosTambien)
     const launch::Rescate rescate = launch::RescataRestos();
     EXPECT_THAT(rescate.pendientes, IsEmpty());
     EXPECT_EQ(rescate.vueltos.size(), 5);
-    EXPECT_EQ(bytes("roms/NINO.NEW"), "new\n");
-    EXPECT_EQ(bytes("roms/Nino.sav"), "saved\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .NEW"), "new\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SAV"), "saved\n");
     EXPECT_EQ(bytes("roms/hiscore.dat"), "records");
     EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - HISCORE.DAT"), "mine\n");
     EXPECT_EQ(bytes("roms/SAVES/ONE"), "one\n");
@@ -87,21 +88,21 @@ TEST_F(RescateTest, LoQueDejaUnaMuerteVuelve_DirectoriosTambien)
 
 TEST_F(RescateTest, LoQueElJuegoRenombraNoSePierde)
 {
-    makeFile("roms/NINO.SV1", "state A");
-    makeFile("roms/Nino.sv2", "state B");
+    makeFile("roms/ni\xC3\xB1o.nes - .SV1", "state A");
+    makeFile("roms/ni\xC3\xB1o.nes - .SV2", "state B");
     makeFile("roms/Docs/OLD", "old");
     makeLink("../Nino.sav", "roms/Docs/Sav"); // the user's own, from before
-    makeLink(place("roms/Nino.sav"), "roms/Docs/Far");
+    makeLink(place("roms/ni\xC3\xB1o.nes - .SAV"), "roms/Docs/Far");
     Matada("mv NINO.SV2 NINO.SV3; mv NINO.SV1 NINO.SV2; echo state C > NINO.SV1; mkdir BACK; mv NINO.SAV "
            "BACK/NINO.SAV; echo after > NINO.SAV");
     const launch::Rescate rescate = launch::RescataRestos();
     EXPECT_THAT(rescate.pendientes, IsEmpty());
     EXPECT_EQ(rescate.vueltos.size(), 5);
-    EXPECT_EQ(bytes("roms/NINO.SV1"), "state C\n");
-    EXPECT_EQ(bytes("roms/Nino.sv2"), "state A");
-    EXPECT_EQ(bytes("roms/NINO.SV3"), "state B");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SV1"), "state C\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SV2"), "state A");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SV3"), "state B");
     EXPECT_EQ(bytes("roms/BACK/NINO.SAV"), "before");
-    EXPECT_EQ(bytes("roms/Nino.sav"), "after\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SAV"), "after\n");
     EXPECT_EQ(host::listInDiskOrder(path(u"roms/Docs"_s)).size(), 3);
     EXPECT_EQ(bytes("roms/hiscore.dat"), "records");
     EXPECT_THAT(Temporales(), IsEmpty());
@@ -117,7 +118,7 @@ TEST_F(RescateTest, LoQueSeLlamaDeOtroModoSigueEnUnSoloFichero)
     Matada("cat HISCORE.DAT CONFIG > NINO.SEE; echo 2 >> HISCORE.DAT"); // in its place
     EXPECT_EQ(bytes(enCasa), "1\n2\n");
     launch::RescataRestos();
-    EXPECT_EQ(bytes("roms/NINO.SEE"), "1\ncfg\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SEE"), "1\ncfg\n");
     Matada("cat HISCORE.DAT > X; echo 3 >> X; rm HISCORE.DAT; mv X HISCORE.DAT"); // by a new file
     launch::RescataRestos();
     EXPECT_EQ(bytes(enCasa), "1\n2\n3\n");
@@ -134,24 +135,20 @@ TEST_F(RescateTest, LoQueSeLlamaDeOtroModoSigueEnUnSoloFichero)
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
-// In the name that it was shown under it would be a neighbour of that name, and the game get another one.
-TEST_F(RescateTest, LoQueElJuegoPoneEnSuLugarQuedaConSuNombre)
+// Under an extension that isn't the game's: it is no other game for a list.
+TEST_F(RescateTest, LoQueElJuegoPoneEnSuLugarQuedaJuntoAEl)
 {
-    const auto apodo = [&] {
-        launch::UnidadesDOS unidades;
-        return unidades.RutaOApodo(path(u"roms/ni\u00F1o.nes"_s)).value_or(QByteArray()).sliced(3);
-    };
-    EXPECT_EQ(apodo(), "NINO.NES");
-    for (const auto &[linea, fichero] : { std::pair("echo new > X; mv X NINO.NES", "NINO.NES"),
-             { "rm NINO.NES; echo newer > NINO.NES", "NINO-2.NES" } }) {
-        Matada(linea);
-        EXPECT_THAT(launch::RescataRestos().pendientes, IsEmpty());
-        EXPECT_TRUE(exists(QByteArray("roms/ni\xC3\xB1o.nes - ") + fichero)) << fichero;
-        EXPECT_EQ(apodo(), "NINO.NES");
-    }
-    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - NINO.NES"), "new\n");
+    const QByteArray enCasa = "roms/ni\xC3\xB1o.nes - ";
+    Matada("echo new > X; mv X NINO.NES");
+    EXPECT_THAT(launch::RescataRestos().pendientes, IsEmpty());
+    EXPECT_EQ(bytes(enCasa + ".NEW"), "new\n");
+    Matada("cat NINO.NEW NINO.NES > NINO.SEE; rm NINO.NES; echo newer > NINO.NES");
+    EXPECT_THAT(launch::RescataRestos().pendientes, IsEmpty());
+    EXPECT_EQ(bytes(enCasa + ".SEE"), "new\nthe game");
+    EXPECT_EQ(bytes(enCasa + ".NEW"), "new\n");
+    EXPECT_EQ(bytes(enCasa + "2.NEW"), "newer\n");
     EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes"), "the game");
-    EXPECT_FALSE(exists("roms/NINO.NES"));
+    EXPECT_THAT(host::listInDiskOrder(path(u"roms"_s)), testing::SizeIs(7));
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
@@ -178,15 +175,78 @@ TEST_F(RescateTest, LosQueEscribenElMismoNombreTienenCadaUnoElSuyo)
         "girl");
 }
 
-// Its files differ by their case alone: what it saved goes to the one that it saw.
-TEST_F(RescateTest, DeDosQueSoloLasMayusculasDistinguenVuelveAlQueVio)
+// Its files differ by their case alone: it sees one, and what it saves goes there.
+TEST_F(RescateTest, DeDosQueSoloLasMayusculasDistinguenVeUno)
 {
-    makeFile("roms/NINO.sav", "the other");
-    Matada("cat NINO.SAV > NINO.SEE; rm NINO.SAV; echo after > NINO.SAV");
+    makeFile("roms/ni\xC3\xB1o.nes - .sav", "the other");
+    Matada("cat NINO.[sS][aA]* > NINO.TWO; rm NINO.[sS][aA]*; echo after > NINO.SAV");
     launch::RescataRestos();
-    const bool vioElOtro = bytes("roms/NINO.SEE") == "the other";
-    EXPECT_EQ(bytes(vioElOtro ? "roms/NINO.sav" : "roms/Nino.sav"), "after\n");
-    EXPECT_EQ(bytes(vioElOtro ? "roms/Nino.sav" : "roms/NINO.sav"), vioElOtro ? "before" : "the other");
+    const bool vioElOtro = bytes("roms/ni\xC3\xB1o.nes - .TWO") == "the other";
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .TWO"), vioElOtro ? "the other" : "before");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .sav"), vioElOtro ? "after\n" : "the other");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SAV"), vioElOtro ? "before" : "after\n");
+}
+
+// Each has its own, whatever they save under.
+TEST_F(RescateTest, DeDosJuegosQueSoloLasMayusculasDistinguenCadaUnoVeLoSuyo)
+{
+    const QByteArray otro = "Ni\xC3\xB1O.nes";
+    PonROM(otro, "another game");
+    for (const QByteArray &dicho : { QByteArray("one"), QByteArray("two") }) {
+        const launch::CarpetaDeCorrida corrida;
+        const QByteArray lugar =
+            launch::HazCarpetaDeApodos(corrida, { 'E', place("roms"), false, { { "NINO.NES", otro } } })
+                .sliced(place().size());
+        EXPECT_EQ(
+            bytes(lugar + "/NINO.SAV"), dicho == "one" ? std::nullopt : std::optional(QByteArray("one")));
+        EXPECT_EQ(bytes(lugar + "/REC"), dicho == "one" ? std::nullopt : std::optional(QByteArray("one")));
+        for (const QByteArray &nombre : { QByteArray("/NINO.SAV"), QByteArray("/REC") }) {
+            unlink(place(lugar + nombre).constData());
+            makeFile(lugar + nombre, dicho);
+        }
+    }
+    Matada("cat NINO.SAV > NINO.SEE; rm NINO.SAV; echo mine > NINO.SAV");
+    EXPECT_THAT(launch::RescataRestos().pendientes, IsEmpty());
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SEE"), "before");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SAV"), "mine\n");
+    EXPECT_EQ(bytes("roms/Ni\xC3\xB1O.nes - .SAV"), "two");
+    EXPECT_EQ(bytes("roms/Ni\xC3\xB1O.nes - REC"), "two");
+    EXPECT_THAT(host::listInDiskOrder(path(u"roms"_s)), testing::SizeIs(8));
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+// What lies beside a game under a name that DOS opens is somebody else's.
+TEST_F(RescateTest, DeLosVecinosNoSeVeNada)
+{
+    PonROM("NINO.SAV", "of NINO.NES");
+    PonROM("ni\xC3\xB1o.nes - More.nes", "its sequel");
+    PonROM("ni\xC3\xB1o.nes - More.nes - .SAV", "the sequel's");
+    Matada("ls > NINO.SEE");
+    launch::RescataRestos();
+    const QByteArrayList visto = bytes("roms/ni\xC3\xB1o.nes - .SEE").value_or(QByteArray()).split('\n');
+    EXPECT_THAT(
+        visto, testing::UnorderedElementsAre("Docs", "NINO.NES", "NINO.SAV", "NINO.SEE", "More.nes", ""));
+    EXPECT_EQ(bytes("roms/NINO.SAV"), "of NINO.NES");
+    Matada("rm NINO.SAV; echo mine > NINO.SAV");
+    launch::RescataRestos();
+    EXPECT_EQ(bytes("roms/NINO.SAV"), "of NINO.NES");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SAV"), "mine\n");
+}
+
+TEST_F(RescateTest, LoPendienteEsSoloDelJuegoQueLoGuardo)
+{
+    PonROM("nin\xC3\xB3.nes", "another game");
+    Matada("echo new > NINO.NEW");
+    rename(place("roms").constData(), place("away").constData());
+    const launch::CarpetaDeCorrida corrida;
+    rename(place("away").constData(), place("roms").constData());
+    ASSERT_EQ(corrida.DeAntes().size(), 1);
+    const launch::UnidadesDOS::Montaje otro { 'E', place("roms"), false,
+        { { "NINO.NES", "nin\xC3\xB3.nes" } } };
+    const QByteArray lugar = launch::HazCarpetaDeApodos(corrida, otro).sliced(place().size());
+    EXPECT_FALSE(exists(lugar + "/NINO.NEW"));
+    launch::RescataRestos();
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .NEW"), "new\n");
 }
 
 // Nobody has seen what lies there now.
@@ -205,28 +265,28 @@ TEST_F(RescateTest, LoCambiadoEnCasaEntretantoQuedaJuntoALoNuevo)
 
 TEST_F(RescateTest, LoQueRenombraSinMasLoEstaEnSuSitio)
 {
-    makeFile("roms/NINO.SV1", "state A");
+    makeFile("roms/ni\xC3\xB1o.nes - .SV1", "state A");
     Matada("mv NINO.SV1 HISCORE.DAT; mv NINO.SAV NINO.BAK; mv NINO.NES NINO.OLD");
     EXPECT_THAT(launch::RescataRestos().pendientes, IsEmpty());
-    EXPECT_EQ(bytes("roms/NINO.BAK"), "before");
-    EXPECT_FALSE(exists("roms/Nino.sav"));
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .BAK"), "before");
+    EXPECT_FALSE(exists("roms/ni\xC3\xB1o.nes - .SAV"));
     EXPECT_EQ(bytes("roms/hiscore.dat"), "records") << "it hadn't seen that";
     EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - HISCORE.DAT"), "state A");
     EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes"), "the game") << "the user's name for it stays";
-    EXPECT_EQ(bytes("roms/NINO.OLD"), "the game");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .OLD"), "the game");
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
 TEST_F(RescateTest, LoRenombradoAUnDirectorioDelUsuarioQuedaAlli)
 {
-    makeFile("roms/NINO.SV1", "state A");
+    makeFile("roms/ni\xC3\xB1o.nes - .SV1", "state A");
     makeDirectory("roms/Docs/DEEP");
-    makeLink(place("roms/NINO.SV1"), "roms/Docs/Far"); // the user's own, from before
+    makeLink(place("roms/ni\xC3\xB1o.nes - .SV1"), "roms/Docs/Far"); // the user's own, from before
     Matada("mv NINO.SV1 Docs/DEEP/NINO.SV1; echo state B > NINO.SV1; mv NINO.SAV Docs/NINO.SAV; mv NINO.NES "
            "Docs/NINO.NES");
     const launch::Rescate rescate = launch::RescataRestos();
     EXPECT_THAT(rescate.pendientes, IsEmpty());
-    EXPECT_EQ(bytes("roms/NINO.SV1"), "state B\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SV1"), "state B\n");
     EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes"), "the game");
     struct stat estado;
     for (const auto &[fichero, dicho] : { std::pair("roms/Docs/DEEP/NINO.SV1", "state A"),
@@ -235,20 +295,20 @@ TEST_F(RescateTest, LoRenombradoAUnDirectorioDelUsuarioQuedaAlli)
         EXPECT_TRUE(lstat(place(fichero).constData(), &estado) == 0 && S_ISREG(estado.st_mode)) << fichero;
     }
     EXPECT_TRUE(lstat(place("roms/Docs/Far").constData(), &estado) == 0 && S_ISLNK(estado.st_mode));
-    EXPECT_FALSE(exists("roms/Nino.sav"));
+    EXPECT_FALSE(exists("roms/ni\xC3\xB1o.nes - .SAV"));
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
 TEST_F(RescateTest, LoRenombradoEsperaAlDiscoQueFalta)
 {
-    makeFile("roms/NINO.SV1", "state A");
+    makeFile("roms/ni\xC3\xB1o.nes - .SV1", "state A");
     Matada("mv NINO.SV1 NINO.SV2; echo state B > NINO.SV1");
     rename(place("roms").constData(), place("away").constData());
     EXPECT_EQ(launch::RescataRestos().pendientes.size(), 1);
     rename(place("away").constData(), place("roms").constData());
     EXPECT_EQ(launch::RescataRestos().vueltos.size(), 2);
-    EXPECT_EQ(bytes("roms/NINO.SV1"), "state B\n");
-    EXPECT_EQ(bytes("roms/NINO.SV2"), "state A");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SV1"), "state B\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SV2"), "state A");
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
@@ -270,7 +330,7 @@ TEST_F(RescateTest, UnJuegoQueSigueConservaSuUnidad)
     EXPECT_TRUE(exists("tmp/" + corrida + "/files-E/NINO.NES"));
     kill(juego, SIGKILL);
     waitpid(juego, nullptr, 0);
-    EXPECT_THAT(launch::RescataRestos().vueltos, ElementsAre(path(u"roms/NINO.NEW"_s)));
+    EXPECT_THAT(launch::RescataRestos().vueltos, ElementsAre(path(u"roms/ni\u00F1o.nes - .NEW"_s)));
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
@@ -280,8 +340,8 @@ TEST_F(RescateTest, LaCorridaDeOtroProcesoVivoNoSeToca)
     const QByteArray lugar = launch::HazCarpetaDeApodos(corrida, Montaje());
     makeFile(lugar.sliced(place().size()) + "/NINO.NEW", "new");
     EXPECT_EQ(inChild([] { return launch::RescataRestos().vueltos.isEmpty() ? 0 : 1; }), 0);
-    EXPECT_FALSE(exists("roms/NINO.NEW"));
-    EXPECT_THAT(corrida.Recoge().vueltos, ElementsAre(path(u"roms/NINO.NEW"_s)));
+    EXPECT_FALSE(exists("roms/ni\xC3\xB1o.nes - .NEW"));
+    EXPECT_THAT(corrida.Recoge().vueltos, ElementsAre(path(u"roms/ni\u00F1o.nes - .NEW"_s)));
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
@@ -305,7 +365,7 @@ TEST_F(RescateTest, LoQueNoCabeSeDiceUnaVez_YLaProximaPartidaLoVe_YAlFinVuelve)
     rmdir(place("roms").constData());
     rename(place("away").constData(), place("roms").constData());
     EXPECT_EQ(launch::RescataRestos().vueltos.size(), 2);
-    EXPECT_EQ(bytes("roms/NINO.NEW"), "new\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .NEW"), "new\n");
     EXPECT_EQ(bytes("roms/SAVES/ONE"), "one\n");
     EXPECT_THAT(Temporales(), IsEmpty());
 }
@@ -313,11 +373,11 @@ TEST_F(RescateTest, LoQueNoCabeSeDiceUnaVez_YLaProximaPartidaLoVe_YAlFinVuelve)
 TEST_F(RescateTest, LoPendienteMasNuevoEsLoQueElJuegoVe)
 {
     for (const bool masNuevo : { true, false }) {
-        makeFile("roms/Nino.sav", "before");
+        makeFile("roms/ni\xC3\xB1o.nes - .SAV", "before");
         Matada("rm NINO.SAV; echo later > NINO.SAV; echo mine > NINO.NES.tmp; mv NINO.NES.tmp NINO.NES");
         const std::array<timespec, 2> tiempos { timespec { masNuevo ? 1'000'000'000 : 4'000'000'000, 0 },
             timespec { masNuevo ? 1'000'000'000 : 4'000'000'000, 0 } };
-        utimensat(AT_FDCWD, place("roms/Nino.sav").constData(), tiempos.data(), 0);
+        utimensat(AT_FDCWD, place("roms/ni\xC3\xB1o.nes - .SAV").constData(), tiempos.data(), 0);
         rename(place("roms").constData(), place("away").constData());
         const launch::CarpetaDeCorrida corrida;
         rename(place("away").constData(), place("roms").constData());
@@ -332,8 +392,8 @@ TEST_F(RescateTest, LoPendienteMasNuevoEsLoQueElJuegoVe)
 
 TEST_F(RescateTest, LoRenombradoPendienteNoSePierdeEnLaProximaPartida)
 {
-    makeFile("roms/NINO.SV1", "state A");
-    makeFile("roms/NINO.SV2", "earlier");
+    makeFile("roms/ni\xC3\xB1o.nes - .SV1", "state A");
+    makeFile("roms/ni\xC3\xB1o.nes - .SV2", "earlier");
     Matada("mv NINO.SV2 NINO.SV3; mv NINO.SV1 NINO.SV2; echo state B > NINO.SV1");
     rename(place("roms").constData(), place("away").constData());
     {
@@ -345,9 +405,9 @@ TEST_F(RescateTest, LoRenombradoPendienteNoSePierdeEnLaProximaPartida)
         EXPECT_EQ(bytes(lugar + "/NINO.SV3"), "earlier");
     }
     launch::RescataRestos();
-    EXPECT_EQ(bytes("roms/NINO.SV1"), "state B\n");
-    EXPECT_EQ(bytes("roms/NINO.SV2"), "state A");
-    EXPECT_EQ(bytes("roms/NINO.SV3"), "earlier");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SV1"), "state B\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SV2"), "state A");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SV3"), "earlier");
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
@@ -355,7 +415,7 @@ TEST_F(RescateTest, VariasCorridasVuelvenPorSuOrden_CadaUnaConSuHora)
 {
     const std::array<timespec, 2> hora { timespec { 1'500'000'000, 0 }, timespec { 1'500'000'000, 0 } };
     const std::array<timespec, 2> antes { timespec { 1'000'000'000, 0 }, timespec { 1'000'000'000, 0 } };
-    utimensat(AT_FDCWD, place("roms/Nino.sav").constData(), antes.data(), 0);
+    utimensat(AT_FDCWD, place("roms/ni\xC3\xB1o.nes - .SAV").constData(), antes.data(), 0);
     makeDirectory("kept");
     const QByteArray primera = Matada("rm NINO.SAV; echo first > NINO.SAV");
     rename(place("tmp/" + primera).constData(), place("kept/" + primera).constData());
@@ -369,10 +429,11 @@ TEST_F(RescateTest, VariasCorridasVuelvenPorSuOrden_CadaUnaConSuHora)
     for (const QByteArray &fichero : { "tmp/" + segunda + "/lock", "tmp/" + segunda + "/files-E/NINO.SAV" })
         utimensat(AT_FDCWD, place(fichero).constData(), luego.data(), 0);
     launch::RescataRestos();
-    EXPECT_EQ(bytes("roms/Nino.sav"), "second\n");
-    EXPECT_FALSE(exists("roms/NINO-2.SAV"));
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SAV"), "second\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - 2.SAV"), "before");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - 3.SAV"), "first\n");
     struct stat estado;
-    ASSERT_EQ(stat(place("roms/Nino.sav").constData(), &estado), 0);
+    ASSERT_EQ(stat(place("roms/ni\xC3\xB1o.nes - .SAV").constData(), &estado), 0);
     EXPECT_EQ(estado.st_mtim.tv_sec, 1'600'000'000);
     EXPECT_THAT(Temporales(), IsEmpty());
 }
@@ -405,7 +466,7 @@ TEST_F(RescateTest, DeUnDirectorioQueNoSeEscribeNadaSePierde)
 // Both runs were shown what stood there at their beginning.
 TEST_F(RescateTest, DeDosPartidasALaVezNoSePierdeNinguna)
 {
-    setTime("roms/Nino.sav", 1'000'000'000);
+    setTime("roms/ni\xC3\xB1o.nes - .SAV", 1'000'000'000);
     std::optional<launch::CarpetaDeCorrida> una(std::in_place);
     const QByteArray enUna = launch::HazCarpetaDeApodos(*una, Montaje()).sliced(place().size());
     unlink(place(enUna + "/NINO.SAV").constData());
@@ -414,13 +475,14 @@ TEST_F(RescateTest, DeDosPartidasALaVezNoSePierdeNinguna)
     std::optional<launch::CarpetaDeCorrida> otra(std::in_place);
     const QByteArray enOtra = launch::HazCarpetaDeApodos(*otra, Montaje()).sliced(place().size());
     una.reset();
-    EXPECT_EQ(bytes("roms/Nino.sav"), "one");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SAV"), "one");
     unlink(place(enOtra + "/NINO.SAV").constData());
     makeFile(enOtra + "/NINO.SAV", "other");
     otra.reset();
-    EXPECT_EQ(bytes("roms/Nino.sav"), "other") << "the last one goes on";
-    EXPECT_EQ(bytes("roms/Nino-2.sav"), "before") << "which the other one may have under another name";
-    EXPECT_EQ(bytes("roms/Nino-3.sav"), "one") << "which the other one was not shown";
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SAV"), "other") << "the last one goes on";
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - 2.SAV"), "before")
+        << "which the other one may have under another name";
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - 3.SAV"), "one") << "which the other one was not shown";
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
@@ -446,8 +508,8 @@ TEST_F(RescateTest, LoMismoDeUnLugarSeDiceUnaVezMientrasElProgramaDura)
     EXPECT_EQ(dichosTras("NINO.SV9"), 2);
     EXPECT_EQ(dichosTras(""), 2);
     launch::RescataRestos();
-    EXPECT_EQ(bytes("roms/NINO.NEW"), "saved");
-    EXPECT_EQ(bytes("roms/NINO.SV9"), "saved");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .NEW"), "saved");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SV9"), "saved");
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
@@ -462,12 +524,12 @@ TEST_F(RescateTest, LoQueOtraPartidaTieneConOtroNombreNoSePierde)
     unlink(place(enOtra + "/NINO.SAV").constData());
     makeFile(enOtra + "/NINO.SAV", "other");
     otra.reset();
-    EXPECT_EQ(bytes("roms/Nino.sav"), "other");
-    EXPECT_EQ(bytes("roms/Nino-2.sav"), "before");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SAV"), "other");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - 2.SAV"), "before");
     una.reset();
-    EXPECT_EQ(bytes("roms/Nino.sav"), "other");
-    EXPECT_EQ(bytes("roms/Nino-2.sav"), "before");
-    EXPECT_EQ(bytes("roms/NINO.BAK"), "other") << "where one file had two names";
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SAV"), "other");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - 2.SAV"), "before");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .BAK"), "other") << "where one file had two names";
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
@@ -479,7 +541,7 @@ TEST_F(RescateTest, UnFicheroDelUsuarioConElNombreDelBorradorQueda)
            "echo tmp > ZEMBRO.TMP");
     EXPECT_THAT(launch::RescataRestos().pendientes, IsEmpty());
     EXPECT_EQ(bytes("roms/Zembro.tmp"), "the user's");
-    EXPECT_EQ(bytes("roms/NINO.NEW"), "new\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .NEW"), "new\n");
     EXPECT_EQ(bytes("roms/SAVES/Zembro.tmp"), "inner\n");
     EXPECT_EQ(bytes("roms/SAVES/a"), "one\n");
     EXPECT_EQ(bytes("roms/SAVES/zz"), "two\n");
@@ -492,53 +554,68 @@ TEST_F(RescateTest, DeUnEnlaceDelUsuarioCuentaAdondeLleva)
     makeDirectory("other disk");
     makeDirectory("other disk/saves");
     makeFile("other disk/nino.sv1", "far");
-    makeLink("../other disk/nino.sv1", "roms/NINO.SV1");
+    makeLink("../other disk/nino.sv1", "roms/ni\xC3\xB1o.nes - .SV1");
     makeLink("../other disk/saves", "roms/Saves");
-    makeLink("nowhere", "roms/NINO.SV2");
+    makeLink("nowhere", "roms/ni\xC3\xB1o.nes - .SV2");
     Matada("echo two > NINO.SV2; rm NINO.SV1; echo mine > NINO.SV1; echo one > Saves/ONE");
     setTime("other disk/nino.sv1", 4'000'000'000);
     launch::RescataRestos();
     EXPECT_EQ(bytes("other disk/nino.sv1"), "far") << "newer than what was saved";
-    EXPECT_EQ(bytes("roms/NINO-2.SV1"), "mine\n");
-    EXPECT_EQ(bytes("roms/NINO-2.SV2"), "two\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - 2.SV1"), "mine\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - 2.SV2"), "two\n");
     EXPECT_EQ(bytes("other disk/saves/ONE"), "one\n");
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
 TEST_F(RescateTest, JuegosDeCualquierNombreTienenSuRecord)
 {
-    for (const QByteArray &nombre : { QByteArray("a\\b.nes"), QByteArray("ni\xA4o.nes"), QByteArray("c:.nes"),
-             QByteArray("two\nlines. "), QByteArray("*?.nes"), QByteArray(248, 'n') + ".nes" }) {
+    const QByteArray largo(120, '\xC3'); // bytes that are no text
+    for (const QByteArray &nombre :
+        { QByteArray("a\\b.nes"), QByteArray("a_b=.nes"), QByteArray("ni\xA4o.nes"), QByteArray("c:.nes"),
+            QByteArray("two\nlines. "), QByteArray("*?.nes"), QByteArray(248, 'n') + ".nes",
+            QByteArray(247, 'n') + "m.nes", QByteArray("\xC3\xB1").repeated(120) + ".nes", largo + ".nes" }) {
         PonROM(nombre);
         const launch::UnidadesDOS::Montaje montaje { 'E', place("roms"), false, { { "GAME.NES", nombre } } };
         for (const QByteArray &dicho : { QByteArray("1"), QByteArray("2") }) {
             launch::CarpetaDeCorrida corrida;
             const QByteArray lugar = launch::HazCarpetaDeApodos(corrida, montaje).sliced(place().size());
-            if (nombre.size() < 200) {
-                EXPECT_EQ(exists(lugar + "/REC"), dicho == "2") << nombre.constData();
+            for (const QByteArray &guardado : { QByteArray("/REC"), QByteArray("/GAME.SAV") }) {
+                EXPECT_EQ(exists(lugar + guardado), dicho == "2") << nombre.constData();
+                unlink(place(lugar + guardado).constData());
+                makeFile(lugar + guardado, dicho);
             }
-            unlink(place(lugar + "/REC").constData());
-            makeFile(lugar + "/REC", dicho);
             EXPECT_THAT(corrida.Recoge().pendientes, IsEmpty()) << nombre.constData();
         }
-        const QByteArray enCasa =
-            nombre.size() < 200 ? QByteArray(nombre).replace('\\', '_') + " - REC" : QByteArray("REC-2");
-        EXPECT_EQ(bytes("roms/" + enCasa), "2") << enCasa.constData();
+        EXPECT_EQ(bytes("roms/" + launch::PrefijoEnCasa(nombre) + "REC"), "2") << nombre.constData();
+        EXPECT_EQ(bytes("roms/" + launch::PrefijoEnCasa(nombre) + ".SAV"), "2") << nombre.constData();
     }
     EXPECT_THAT(Temporales(), IsEmpty());
+}
+
+// Windows has longer ones than DOS.
+TEST_F(RescateTest, LoQueConElNombreDelJuegoNoCabeEspera)
+{
+    const launch::CarpetaDeCorrida corrida;
+    const QByteArray lugar = launch::HazCarpetaDeApodos(corrida, Montaje()).sliced(place().size());
+    const QByteArray largo(250, 'x');
+    makeFile(lugar + '/' + largo, "saved");
+    makeFile(lugar + "/NINO.NEW", "new");
+    EXPECT_EQ(launch::RescataCorrida(corrida.Ruta()).pendientes.size(), 1);
+    EXPECT_EQ(bytes(lugar + '/' + largo), "saved");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .NEW"), "new");
 }
 
 // A disk that has no second names for links: nothing there tells a link that was moved from one that was
 // deleted.
 TEST_F(RescateTest, LoMovidoNoSePierdeTampocoDondeLosEnlacesTienenUnSoloNombre)
 {
-    setTime("roms/Nino.sav", 1'000'000'000);
-    makeLink(place("roms/Nino.sav"), "roms/Docs/Far"); // the user's own, from before
+    setTime("roms/ni\xC3\xB1o.nes - .SAV", 1'000'000'000);
+    makeLink(place("roms/ni\xC3\xB1o.nes - .SAV"), "roms/Docs/Far"); // the user's own, from before
     Matada("for f in *; do cp -P --preserve=timestamps $f ../copy && mv -T ../copy $f; done; mv NINO.SAV "
            "Docs/NINO.SAV; "
            "echo after > NINO.SAV");
     EXPECT_THAT(launch::RescataRestos().pendientes, IsEmpty());
-    EXPECT_EQ(bytes("roms/Nino.sav"), "after\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1o.nes - .SAV"), "after\n");
     EXPECT_EQ(bytes("roms/Docs/NINO.SAV"), "before");
     struct stat estado;
     EXPECT_TRUE(lstat(place("roms/Docs/Far").constData(), &estado) == 0 && S_ISLNK(estado.st_mode));

@@ -83,6 +83,8 @@ TEST(VueltaDe, NadaDeLoQueNoVioSeReemplaza)
                 u"NINO-3.SAV"_s, true },
             { u"a.nes - NINO.SAV"_s, false, false, { { u"a.nes - NINO.SAV"_s, suyo } },
                 u"a.nes - NINO-2.SAV"_s, true, false, 8 },
+            { u"a.nes - .SAV"_s, false, false, { { u"a.nes - .SAV"_s, suyo } }, u"a.nes - 2.SAV"_s, true,
+                false, 8 },
             // Somebody has changed it while the game ran.
             { u"NINO.SAV"_s, false, true, { { u"NINO.SAV"_s, { u"Nino.sav"_s, false, false, false, true } } },
                 u"Nino.sav"_s, true, true },
