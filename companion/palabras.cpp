@@ -277,6 +277,8 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_ZipCifrado", &P::Zbo_ZipCifrado },
         { u"Zbo_ZipSinJuego", &P::Zbo_ZipSinJuego },
         { u"Zbo_ZipPrimera", &P::Zbo_ZipPrimera },
+        { u"Zbo_ZipCarpetas", &P::Zbo_ZipCarpetas },
+        { u"Zbo_ZipNada", &P::Zbo_ZipNada },
         { u"Zbo_Ocultos", &P::Zbo_Ocultos },
         { u"Zbo_ValorNumero", &P::Zbo_ValorNumero },
         { u"Zbo_ValorIdioma", &P::Zbo_ValorIdioma },

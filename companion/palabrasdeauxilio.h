@@ -47,6 +47,10 @@ struct PalabrasDeAuxilio {
     QString Zbo_ZipPrimera =
         QStringLiteral("In the ZIP %1 no game is found: the first extension of the system is tried with the "
                        "first file alone; put *.ZIP ahead of it: %2");
+    QString Zbo_ZipCarpetas = QStringLiteral("The ZIP %1 holds no game outside its folders, and inside them "
+                                             "none is looked for; pack it anew without folders.");
+    QString Zbo_ZipNada = QStringLiteral(
+        "The ZIP %1 holds no file with an extension of the system, so no game is found in it.");
 
     // Counts, and what else to do.
     QString Zbo_Ocultos = QStringLiteral("Hidden, and so not listed: %1 (%2)");

@@ -10,8 +10,6 @@
 #include "launch/busquedarom.h"
 #include "launch/indicezip.h"
 
-#include <algorithm>
-
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -20,6 +18,8 @@ using namespace Qt::StringLiterals;
 namespace companion {
 
 namespace {
+
+constexpr qsizetype MasLargaLaExtension = 3; // by more the list finds nothing
 
 bool seLee(const QString &ruta)
 {
@@ -34,30 +34,56 @@ QStringList extensionesDe(const core::Modulo &M, int sistema)
     return extensiones;
 }
 
-// Of the ones that a system would have to have.
+bool seEncuentra(const launch::IndiceZip &indice, const QStringList &extensiones)
+{
+    return launch::EligeFichero(launch::Candidatos(indice.ficheros, indice.ficheros), extensiones)
+        .has_value();
+}
+
 QString extensionDe(const QString &nombre)
 {
-    return u"*."_s + host::upper(nombre.sliced(nombre.lastIndexOf(u'.') + 1).left(3));
+    const qsizetype punto = nombre.lastIndexOf(u'.');
+    return punto < 0 ? QString() : host::upper(nombre.sliced(punto + 1));
 }
 
-bool esTexto(const QString &fichero)
+// A text or a picture that comes with a game, or another archive: no launch is to find that.
+bool esAcompanante(const QString &fichero)
 {
-    return QStringList { u"*.TXT"_s, u"*.DIZ"_s, u"*.NFO"_s, u"*.DOC"_s, u"*.HTM"_s, u"*.PDF"_s, u"*.MD"_s }
-        .contains(extensionDe(fichero));
+    static const QStringList suyas { u"TXT"_s, u"DIZ"_s, u"NFO"_s, u"DOC"_s, u"RTF"_s, u"HTM"_s, u"HTML"_s,
+        u"PDF"_s, u"MD"_s, u"INI"_s, u"XML"_s, u"URL"_s, u"SFV"_s, u"JPG"_s, u"JPEG"_s, u"PNG"_s, u"GIF"_s,
+        u"BMP"_s, u"WEBP"_s, u"ZIP"_s };
+    return suyas.contains(extensionDe(fichero));
 }
 
-// Why no game is found among these files, and what to do.
-QString sinJuego(
-    const Palabras &palabras, const QString &zip, const QStringList &ficheros, const QStringList &extensiones)
+// The extension with which a launch would find a game there; none if there is none such.
+QString extensionQueFalta(const launch::IndiceZip &indice, const QStringList &extensiones)
 {
-    // The others are tried with each file.
-    const QString primera = extensiones.value(0);
-    const auto esDePrimera = [&](const QString &uno) { return host::upper(uno).endsWith(primera.mid(1)); };
-    if (primera.size() > 2 && primera != u"*.ZIP" && std::ranges::any_of(ficheros, esDePrimera))
-        return palabras.Zbo_ZipPrimera.arg(zip, primera);
-    const auto juego = std::ranges::find_if_not(ficheros, esTexto);
-    return palabras.Zbo_ZipSinJuego.arg(
-        zip, extensionDe(juego == ficheros.end() ? ficheros.value(0) : *juego));
+    const qsizetype libre = extensiones.indexOf(QString());
+    for (const QString &fichero : indice.ficheros) {
+        QStringList conElla = extensiones;
+        const QString extension = extensionDe(fichero);
+        if (libre < 0 || extension.isEmpty() || extension.size() > MasLargaLaExtension
+            || esAcompanante(fichero))
+            continue;
+        conElla[libre] = u"*."_s + extension;
+        if (seEncuentra(indice, conElla))
+            return conElla[libre];
+    }
+    return {};
+}
+
+// Why no game is found in it, and what would help: each was tried.
+QString sinJuego(const Palabras &palabras, const QString &zip, const launch::IndiceZip &indice,
+    const QStringList &extensiones)
+{
+    const auto conZip = launch::EligeFichero(
+        launch::Candidatos(indice.ficheros, indice.ficheros), QStringList { u"*.ZIP"_s } + extensiones);
+    if (conZip && !esAcompanante(*conZip))
+        return palabras.Zbo_ZipPrimera.arg(zip, extensiones.value(0));
+    const QString falta = extensionQueFalta(indice, extensiones);
+    if (!falta.isEmpty())
+        return palabras.Zbo_ZipSinJuego.arg(zip, falta);
+    return (indice.enDirectorios ? palabras.Zbo_ZipCarpetas : palabras.Zbo_ZipNada).arg(zip);
 }
 
 } // namespace
@@ -85,9 +111,8 @@ void RevisaJuegos(const Sesion &sesion, const Pareja &pareja, const QString &dir
             halla(u"zip-damaged"_s, nombre, palabras.Zbo_ZipRoto.arg(nombre));
         else if (indice->cifrado && !core::CargaSoloElEmulador(tipo))
             halla(u"zip-encrypted"_s, nombre, palabras.Zbo_ZipCifrado.arg(nombre));
-        else if (eligeUno
-            && !launch::EligeFichero(launch::Candidatos(indice->ficheros, indice->ficheros), extensiones))
-            halla(u"zip-without-game"_s, nombre, sinJuego(palabras, nombre, indice->ficheros, extensiones));
+        else if (eligeUno && !seEncuentra(*indice, extensiones))
+            halla(u"zip-without-game"_s, nombre, sinJuego(palabras, nombre, *indice, extensiones));
     }
 }
 

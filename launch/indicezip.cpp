@@ -31,6 +31,8 @@ std::optional<IndiceZip> IndiceDe(const QString &ruta)
         indice.cifrado = indice.cifrado || archive_entry_is_data_encrypted(miembro);
         if (!suyo.contains(u'/'))
             indice.ficheros += suyo;
+        else
+            indice.enDirectorios = true;
     }
     return leido == ARCHIVE_EOF ? std::optional(indice) : std::nullopt;
 }

@@ -10,6 +10,7 @@ namespace launch {
 
 struct IndiceZip {
     QStringList ficheros; // the names of the plain files that don't lie in a subdirectory, in their order
+    bool enDirectorios = false; // there are others, which do
     bool cifrado = false; // one of its files asks for a password
 };
 

@@ -372,12 +372,46 @@ TEST_F(CheckPair, OfAZIPWithoutAGameWhatHelpsIsSaid)
     Pon(u"roms/Read.zip"_s, Zip({ { .nombre = "readme.txt" }, { .nombre = "Other.smc" } }));
     EXPECT_TRUE(dicho().contains("add the extension: *.SMC\n")) << dicho().toStdString();
     Pon(u"roms/Read.zip"_s, Zip({ { .nombre = "readme.txt" } }));
-    EXPECT_TRUE(dicho().contains("add the extension: *.TXT\n")) << dicho().toStdString();
+    EXPECT_TRUE(dicho().contains("so no game is found in it.\n")) << dicho().toStdString();
     // The emulator alone is started there, and nothing is unpacked.
     Pon(u"roms/Locked.zip"_s, ZipCifrado({ { .nombre = "Locked.nes" } }, "secret"));
     EXPECT_THAT(clases(SisUno), ElementsAre(u"zip-encrypted"_s, u"zip-without-game"_s));
     Cambia(u"Zembro.emu"_s, "NO.0", "NO.5");
     EXPECT_THAT(clases(SisUno), IsEmpty());
+}
+
+// Where the advice is followed, the finding is gone; where none helps, none is given.
+TEST_F(CheckPair, WhatIsSaidOfAZIPWithoutAGameIsTrue)
+{
+    struct Caso {
+        QByteArrayList miembros;
+        QByteArray dice;
+        QByteArray extensiones; // with what it says
+    };
+    const QByteArray antes = "*.ZIP\r\n*.NES";
+    Cambia(u"Zembro.emu"_s, "*.NES", antes);
+    for (const Caso &caso : std::initializer_list<Caso> {
+             { { "LEEME", "Other.smc" }, "add the extension: *.SMC\n", antes + "\r\n*.SMC" },
+             { { "cover.jpg", "Other.smc" }, "add the extension: *.SMC\n", antes + "\r\n*.SMC" },
+             { { "readme.txt", "cover.PNG", "a.html", "Other.jag" }, "add the extension: *.JAG\n",
+                 antes + "\r\n*.JAG" },
+             { { "Other.jaguar" }, "so no game is found in it.\n", {} },
+             { { "LEEME" }, "so no game is found in it.\n", {} },
+             { { "cover.jpg", "inner.zip" }, "so no game is found in it.\n", {} },
+
+             { { "Game/LEEME", "Game/Read.nes" }, "pack it anew without folders.\n", {} },
+             { { "readme.txt", "Game/Read.nes" }, "pack it anew without folders.\n", {} } }) {
+        QList<MiembroZip> miembros;
+        for (const QByteArray &miembro : caso.miembros)
+            miembros.push_back({ .nombre = miembro });
+        Pon(u"roms/Read.zip"_s, Zip(miembros));
+        EXPECT_TRUE(dicho().contains(caso.dice)) << dicho().toStdString();
+        if (caso.extensiones.isEmpty())
+            continue;
+        Cambia(u"Zembro.emu"_s, antes, caso.extensiones);
+        EXPECT_THAT(clases(SisUno), IsEmpty()) << caso.dice.constData();
+        Cambia(u"Zembro.emu"_s, caso.extensiones, antes);
+    }
 }
 
 TEST_F(CheckPair, GamesThatCannotBeReadAreSaid)
