@@ -284,6 +284,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_ValorIdioma", &P::Zbo_ValorIdioma },
         { u"Zbo_HazDir", &P::Zbo_HazDir },
         { u"Zbo_EnCopia", &P::Zbo_EnCopia },
+        { u"Zbo_FichVacio", &P::Zbo_FichVacio },
         { u"Zbo_DesIguales", &P::Zbo_DesIguales },
     };
     return claves;

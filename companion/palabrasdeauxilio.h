@@ -59,6 +59,7 @@ struct PalabrasDeAuxilio {
         "There is no such language file; choose the language in the options, or name one of these: %1");
     QString Zbo_HazDir = QStringLiteral("make it, or correct its path in the configuration.");
     QString Zbo_EnCopia = QStringLiteral("A copy holds it as it was: zembro restore %1");
+    QString Zbo_FichVacio = QStringLiteral("This file is empty, so all that it said is lost.");
     QString Zbo_DesIguales = QStringLiteral(
         "%1 and %2 differ in case alone, so they have one description together; rename one of them.");
 };

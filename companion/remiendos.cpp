@@ -120,9 +120,15 @@ core::EnDisco LoQueHayEn(const QString &valor)
 
 std::vector<Remiendo> Remiendos(const core::Modulo &M)
 {
-    return { { u"Zembro.emu"_s, catalogoRemendado }, { u"Zembro.sye"_s, catalogoRemendado },
-        { u"Zembro.cfg"_s, ajustesRemendados },
+    std::vector<Remiendo> todos { { u"Zembro.emu"_s, catalogoRemendado },
+        { u"Zembro.sye"_s, catalogoRemendado }, { u"Zembro.cfg"_s, ajustesRemendados },
         { u"Zembro.rom"_s, [&M](const QString &texto) { return notasRemendadas(texto, M); } } };
+    for (Remiendo &uno : todos) {
+        uno.cambio = [fichero = uno.fichero, cambio = uno.cambio](const QString &texto) {
+            return SeReponeDeUnaCopia(fichero, texto) ? texto : cambio(texto);
+        };
+    }
+    return todos;
 }
 
 } // namespace companion

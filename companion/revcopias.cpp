@@ -37,7 +37,33 @@ void revisaRetornos(const Sesion &sesion, const QString &fichero, Revision &revi
             sesion.palabras.Zbo_Retornos.arg(lineas.size()) });
 }
 
+bool estaVacio(const QString &texto)
+{
+    return texto.trimmed().isEmpty();
+}
+
+// Whether nothing stands in a file, whichever comes of it.
+bool revisaVacio(const Sesion &sesion, const QString &fichero, Revision &revision)
+{
+    const QString texto = TextoDelPrograma(sesion.M, fichero);
+    if (estaVacio(texto))
+        revision.push_back({ u"empty-file"_s, fichero, 0, {}, sesion.palabras.Zbo_FichVacio });
+    return SeReponeDeUnaCopia(fichero, texto);
+}
+
 } // namespace
+
+bool SeReponeDeUnaCopia(const QString &fichero, const QString &texto)
+{
+    const QStringList copias = estaVacio(texto) ? Copias() : QStringList();
+    return std::ranges::any_of(copias, [&](const QString &copia) {
+        try {
+            return !estaVacio(host::decodeText(FicherosDeCopia(copia).value(fichero)).text);
+        } catch (const host::Failure &) {
+            return false; // one that can't be read is no help
+        }
+    });
+}
 
 void RevisaFicheros(Sesion &sesion, Revision &revision)
 {
@@ -50,9 +76,15 @@ void RevisaFicheros(Sesion &sesion, Revision &revision)
         }
     }
     for (const QString &fichero : { u"Zembro.emu"_s, u"Zembro.sye"_s })
-        Revisa(revision, fichero, palabras, [&] { RevisaCatalogo(sesion, fichero, revision); });
+        Revisa(revision, fichero, palabras, [&] {
+            if (!revisaVacio(sesion, fichero, revision))
+                RevisaCatalogo(sesion, fichero, revision);
+        });
     Revisa(revision, u"Zembro.emu"_s, palabras, [&] { revisaLugares(sesion, revision); });
-    Revisa(revision, u"Zembro.rom"_s, palabras, [&] { RevisaNotas(sesion, revision); });
+    Revisa(revision, u"Zembro.rom"_s, palabras, [&] {
+        if (!revisaVacio(sesion, u"Zembro.rom"_s, revision))
+            RevisaNotas(sesion, revision);
+    });
     Revisa(revision, u"Zembro.cfg"_s, palabras, [&] { RevisaAjustes(sesion, revision); });
     Revisa(revision, u"LNG"_s, palabras, [&] { RevisaIdiomas(sesion, revision); });
 }
@@ -71,7 +103,7 @@ bool esDeAlgoPerdido(const Hallazgo &hallazgo)
         u"line-without-emulator"_s, u"line-ahead-of-systems"_s, u"system-without-emulator"_s,
         u"malformed-line"_s, u"cut-record"_s, u"open-quotes"_s, u"no-name"_s, u"system-without-notes"_s,
         u"notes-without-name"_s, u"no-settings"_s, u"setting-missing"_s, u"setting-out-of-place"_s,
-        u"setting-out-of-range"_s, u"unreadable-settings"_s, u"unreadable"_s };
+        u"setting-out-of-range"_s, u"unreadable-settings"_s, u"unreadable"_s, u"empty-file"_s };
     return !hallazgo.seRemienda && hallazgo.copia.isEmpty() && clases.contains(hallazgo.clase);
 }
 

@@ -1,5 +1,6 @@
 #include "companion/revisa.h"
 
+#include "companion/copias.h"
 #include "companion/diferencia.h"
 #include "companion/otrosistema.h"
 #include "companion/revision.h"
@@ -128,6 +129,32 @@ QStringList enLineas(const Sesion &sesion, const Pareja &pareja, const Cuenta &c
     return lineas;
 }
 
+// Of such a file its own finding tells.
+bool estaVacio(const Sesion &sesion, const QString &fichero)
+{
+    return host::exists(host::programFile(fichero))
+        && TextoDelPrograma(sesion.M, fichero).trimmed().isEmpty();
+}
+
+// The newest copy that has a file; empty where none has.
+QString copiaCon(const QString &fichero)
+{
+    const QStringList copias = Copias();
+    const auto suya = std::ranges::find_if(
+        copias, [&](const QString &copia) { return host::exists(RutaDeCopia(copia, fichero)); });
+    return suya == copias.end() ? QString() : *suya;
+}
+
+// Without a catalogue there is nothing to look at.
+int faltaElCatalogo(const Sesion &sesion)
+{
+    const QString copia = copiaCon(u"Zembro.emu"_s);
+    if (copia.isEmpty())
+        return sesion.Falla(sesion.palabras.Zbo_NoDir.arg(host::programDirectory()));
+    return sesion.Falla(sesion.palabras.Zbo_FalloFichero + u": "_s + host::programFile(u"Zembro.emu"_s)
+        + u" ["_s + sesion.palabras.Zbo_EnCopia.arg(copia) + u']');
+}
+
 // False where the catalogue isn't read to its end. Of what doesn't fit its own findings tell.
 bool leeCatalogo(Sesion &sesion, Revision &revision)
 {
@@ -135,7 +162,7 @@ bool leeCatalogo(Sesion &sesion, Revision &revision)
         LeeMundo(sesion);
         return true;
     } catch (const host::Failure &fallo) {
-        if (fallo.number() != host::OutOfRange)
+        if (fallo.number() != host::OutOfRange && !estaVacio(sesion, u"Zembro.emu"_s))
             revision.push_back({ u"unreadable"_s, u"Zembro.emu"_s, 0, {}, TextoDe(fallo, sesion.palabras) });
         return false;
     }
@@ -206,7 +233,7 @@ int revisaTodo(Sesion &sesion)
     const QString sistema = sesion.Argumento(0);
     const bool todo = (sistema + sesion.Argumento(1)).isEmpty();
     if (!hayCatalogo && !host::exists(host::programFile(u"Zembro.emu"_s)))
-        return sesion.Falla(sesion.palabras.Zbo_NoDir.arg(host::programDirectory()));
+        return faltaElCatalogo(sesion);
     if (!hayCatalogo && !todo)
         return sesion.Falla(sesion.palabras.Zbo_CatalogoMal);
     const std::vector<Pareja> parejas =
@@ -262,7 +289,7 @@ QStringList remendado(Sesion &sesion, const Remiendo &remiendo)
 int remienda(Sesion &sesion)
 {
     if (!host::exists(host::programFile(u"Zembro.emu"_s)))
-        return sesion.Falla(sesion.palabras.Zbo_NoDir.arg(host::programDirectory()));
+        return faltaElCatalogo(sesion);
     const bool escribe = sesion.Tiene(u"write"_s);
     QJsonArray cambios;
     QStringList lineas;

@@ -48,6 +48,10 @@ void RevisaFicheros(Sesion &sesion, Revision &revision);
 // any more behind it.
 void MarcaCopias(Sesion &sesion, Revision &revision);
 
+// Whether nothing stands in a file of which a copy holds something: then nothing else is said of it, and no
+// repair makes a file of it that looks whole.
+bool SeReponeDeUnaCopia(const QString &fichero, const QString &texto);
+
 // Of Zembro.emu and Zembro.sye; of Zembro.rom; of Zembro.cfg; of the language files.
 void RevisaCatalogo(const Sesion &sesion, const QString &fichero, Revision &revision);
 void RevisaNotas(Sesion &sesion, Revision &revision);

@@ -227,6 +227,8 @@ void RevisorDeNotas::parametrosDe(const QStringList &campos, size_t indice)
             && host::sameName(pareja.nombreEmulador, campos[2]);
     };
     const std::vector<Pareja> parejas = Parejas(M);
+    if (parejas.empty())
+        return; // the catalogue has a finding of its own
     const auto suya = std::ranges::find_if(parejas, esSuya);
     if (suya == parejas.end())
         return halla(

@@ -181,6 +181,38 @@ TEST_F(Mend, ACopyThatHoldsWhatWasLostIsNamed)
     EXPECT_FALSE(dicho().contains("A copy holds it"));
 }
 
+TEST_F(Mend, AFileThatIsEmptyOrGoneIsToldWithTheCopyThatHasIt_AndNotMadeAnew)
+{
+    Zembro({ u"save"_s });
+    const QString copia = QDir(Ruta(u"copias"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot).value(0);
+    const QByteArray repon = "A copy holds it as it was: zembro restore ";
+    for (const QString &fichero : { u"Zembro.sye"_s, u"Zembro.rom"_s, u"Zembro.emu"_s }) {
+        const QByteArray entero = Bytes(fichero);
+        for (const QByteArray &nada : { QByteArray(), QByteArray("\r\n \r\n") }) {
+            Pon(fichero, nada);
+            const QByteArray vacio =
+                fichero.toUtf8() + ": This file is empty, so all that it said is lost. " + repon;
+            EXPECT_TRUE(dicho().contains(vacio)) << dicho().toStdString();
+            EXPECT_EQ(dicho().count(fichero.toUtf8() + ':'), 1) << dicho().toStdString();
+            Remienda();
+            EXPECT_EQ(Bytes(fichero), nada);
+        }
+        Borra(fichero);
+        const Respuesta respuesta = Zembro({ u"check"_s });
+        EXPECT_TRUE((respuesta.salida + respuesta.error).contains(repon)) << fichero.toStdString();
+        Zembro({ u"restore"_s, copia, u"--write"_s });
+        EXPECT_EQ(Bytes(fichero), entero);
+        EXPECT_THAT(clases(), IsEmpty()) << fichero.toStdString();
+    }
+}
+
+// Nothing tells whose the parameters are while no pair is known.
+TEST_F(Mend, OfAnEmptyCatalogueTheParametersArentSaidToBeNobodys)
+{
+    Pon(u"Zembro.emu"_s, "");
+    EXPECT_FALSE(clases().contains(u"parameters-of-nobody"_s));
+}
+
 TEST_F(Mend, SettingsSayWhatTheyTake)
 {
     Cambia(u"Zembro.cfg"_s, "TypeOfEditor = 1", "TypeOfEditor = 7");
