@@ -128,6 +128,65 @@ TEST_F(Reading, ThatFailsEndsTheProgram)
     EXPECT_TRUE(goes(numberIn("number")));
 }
 
+// A script that starts what does the work, as many a distribution's do.
+TEST_F(Reading, ThatASignalEndsTakesAllAlongThatTheProgramStarted)
+{
+    const QString program =
+        script("sleep 1000 & echo $! >started; echo $$ >number; echo a; trap '' INT TERM HUP QUIT; wait\n");
+    const auto read = [&] { host::readProgram({ program }, {}, 1000s, [](const QByteArray &) {}); };
+    const auto readAll = [&] {
+        host::readAllThatIsSaid(path(u""_s), { program }, 1000s, [](const QByteArray &) {});
+    };
+    for (const int signal : { SIGINT, SIGTERM, SIGHUP }) {
+        for (const std::function<void()> &reading :
+            { std::function<void()>(read), std::function<void()>(readAll) }) {
+            makeFile("number", "");
+            const pid_t reader = startChild([&] {
+                reading();
+                return 0;
+            });
+            for (int i = 0; i < 1000 && !numberIn("number"); ++i)
+                usleep(10'000);
+            ASSERT_GT(reader, 1);
+            kill(reader, signal);
+            int status = 0;
+            ASSERT_EQ(waitpid(reader, &status, 0), reader);
+            EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal) << signal;
+            EXPECT_TRUE(goes(numberIn("number"))) << signal;
+            EXPECT_TRUE(goes(numberIn("started"))) << signal;
+        }
+    }
+}
+
+// As one that runs in the background is started.
+TEST_F(Reading, ThatIgnoresASignalGoesOn)
+{
+    const pid_t reader = startChild([&] {
+        signal(SIGINT, SIG_IGN);
+        return run("kill -INT $PPID; sleep 0.2; exit 3\n").status.value_or(0);
+    });
+    EXPECT_EQ(endOf(reader), 3);
+}
+
+// One that hands on what it writes in large pieces is silent for long, so the whole is what counts.
+TEST_F(Reading, OfAllThatIsSaidEndsWithItsTime_HoweverMuchIsSaid)
+{
+    QElapsedTimer timer;
+    timer.start();
+    for (const QByteArray &lines :
+        { "while :; do echo a; sleep 0.01; done\n"_ba, "yes\n"_ba, "sleep 1000\n"_ba }) {
+        EXPECT_EQ(failureOf([&] {
+            host::readAllThatIsSaid(path(u""_s), { script(lines) }, 300ms, [](const QByteArray &) {});
+        }),
+            host::DeviceError);
+    }
+    EXPECT_LT(timer.elapsed(), 15'000);
+    QByteArray said;
+    host::readAllThatIsSaid(path(u""_s), { script("echo a; sleep 0.3; echo b\n") }, 20s,
+        [&](const QByteArray &piece) { said += piece; });
+    EXPECT_EQ(said, "a\nb\n");
+}
+
 TEST_F(Reading, ThatIsKilledTakesTheProgramAlong)
 {
     const QString program = script("echo $$ >number; echo a; exec sleep 1000\n");
