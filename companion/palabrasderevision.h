@@ -53,10 +53,20 @@ struct PalabrasDeRevision {
     QString Zbo_JuegoSinROMs = QStringLiteral("MAME doesn't find all ROMs of the game %1; in the directory "
                                               "%2, where a launch starts it, this names them: %3");
     QString Zbo_MAMECalla =
-        QStringLiteral("MAME said nothing for %1 seconds, so nothing is known of its ROMs; in the directory "
-                       "%2, where a launch starts it, this asks it: %3");
-    QString Zbo_MAMEDice = QStringLiteral("MAME ended without a word on any set of ROMs (%1); in the "
-                                          "directory %2, where a launch starts it, this asks it: %3");
+        QStringLiteral("MAME wasn't done after %1 seconds and was ended, so nothing is known of its ROMs; to "
+                       "see what it waits for, in the directory %2, where a launch starts it, run %3");
+    QString Zbo_MAMESenal = QStringLiteral(
+        "MAME was ended by the signal %1 and told nothing of its ROMs; try whether it always does so, and "
+        "install it anew then: in the directory %2, where a launch starts it, run %3");
+    QString Zbo_MAMEMudo =
+        QStringLiteral("MAME said nothing and ended with the status %1, so nothing is known of its ROMs; try "
+                       "whether it is a MAME at all: in the directory %2, where a launch starts it, run %3");
+    QString Zbo_MAMEDice =
+        QStringLiteral("MAME named no set of ROMs and ended with the status %1; mend what it said at last "
+                       "(%4), then in the directory %2, where a launch starts it, run %3");
+    QString Zbo_MAMENoParte =
+        QStringLiteral("MAME can't be started (%1), so nothing is known of its ROMs; install it anew, or try "
+                       "it: in the directory %2, where a launch starts it, run %3");
     QString Zbo_SinVerificar = QStringLiteral("MAME was asked about the ROMs of the first %1 games alone; "
                                               "not asked about: %2. check SYSTEM EMULATOR asks about all.");
     QString Zbo_SinTipo = QStringLiteral("The XDI line doesn't end in a type from 0 to 3 or from 5 to 8, so "

@@ -34,12 +34,6 @@ namespace {
 constexpr int EstadoSinCargar = 127;
 constexpr int EstadoSinEjecutar = 126;
 
-QString nombreDeSenal(int senal)
-{
-    const char *nombre = sigabbrev_np(senal);
-    return nombre ? u"SIG"_s + QString::fromLatin1(nombre) : QString::number(senal);
-}
-
 // A bare name is the executable's in its own directory.
 QString programaDe(const launch::Partida &partida)
 {
@@ -106,6 +100,12 @@ bool AcaboBien(const launch::Partida &partida)
     return partida.fallo.isEmpty() && !partida.final.signal && partida.final.status.value_or(0) == 0;
 }
 
+QString NombreDeSenal(int senal)
+{
+    const char *nombre = sigabbrev_np(senal);
+    return nombre ? u"SIG"_s + QString::fromLatin1(nombre) : QString::number(senal);
+}
+
 QStringList CuentaPartida(const launch::Partida &partida, const Palabras &palabras)
 {
     QStringList lineas { palabras.Zbo_Partida.arg(
@@ -117,7 +117,7 @@ QStringList CuentaPartida(const launch::Partida &partida, const Palabras &palabr
     if (!partida.fallo.isEmpty())
         lineas << palabras.Zbo_NoArranca.arg(MotivoDe(partida, palabras));
     else if (partida.final.signal)
-        lineas << palabras.Zbo_PorSenal.arg(nombreDeSenal(*partida.final.signal), segundos);
+        lineas << palabras.Zbo_PorSenal.arg(NombreDeSenal(*partida.final.signal), segundos);
     else if (partida.final.status)
         lineas << palabras.Zbo_ConEstado.arg(QString::number(*partida.final.status), segundos);
     else

@@ -19,6 +19,8 @@ QStringList CuentaPartida(const launch::Partida &partida, const Palabras &palabr
 QJsonObject PartidaEnJson(const launch::Partida &partida, const Palabras &palabras);
 // Why it didn't start, in the words of the language.
 QString MotivoDe(const launch::Partida &partida, const Palabras &palabras);
+// "SIGSEGV"; the number of one without a name.
+QString NombreDeSenal(int senal);
 bool AcaboBien(const launch::Partida &partida);
 
 } // namespace companion

@@ -80,8 +80,13 @@ struct Cuenta {
 Cuenta RevisaPareja(
     Sesion &sesion, const Pareja &pareja, const LineasDelCatalogo &lineas, Revision &revision);
 
-// How long a MAME may be silent until it is ended.
-extern std::chrono::milliseconds PacienciaConMAME;
+// How long a MAME may take until it is ended: to begin, and for each game that it is asked about. It may hand
+// on all that it says at its end, so its silence tells nothing.
+struct PacienciaConMAME {
+    std::chrono::milliseconds alPrincipio = std::chrono::seconds(60);
+    std::chrono::milliseconds porJuego = std::chrono::seconds(5); // of gigabytes on a slow disk
+};
+extern PacienciaConMAME Paciencia;
 
 // What MAME says of the ROMs of the machine that a pair's parameters name; and where they name none, of those
 // of the games whose names a launch hands on. It is asked about so many games only, unless the pair is asked

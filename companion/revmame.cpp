@@ -3,6 +3,7 @@
 #include "companion/revision.h"
 
 #include "companion/pantalla.h"
+#include "companion/porque.h"
 
 #include "finder/eleccion.h"
 
@@ -24,6 +25,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <optional>
 #include <span>
 
 using namespace Qt::StringLiterals;
@@ -32,8 +34,9 @@ namespace companion {
 
 namespace {
 
-// Games whose ROMs are asked for where all pairs are checked, and in one call.
-constexpr qsizetype JuegosPorLlamada = 500;
+// Games whose ROMs are asked for where all pairs are checked; and in one call.
+constexpr qsizetype JuegosSinPedir = 500;
+constexpr qsizetype JuegosPorLlamada = 100;
 
 // Takes the options that tell MAME where its ROMs are out of the parameters.
 QStringList dondeHayROMs(QStringList &parametros)
@@ -70,13 +73,21 @@ public:
     QString Orden(const QString &nombre) const { return launch::EnShell(orden({ nombre })); }
 
     struct Dicho {
-        bool callado = false; // until it was ended
-        bool todoBien = false;
-        QString otraCosa; // how it ended, and what it said last, where no set of ROMs is named
-        bool mudo = false; // ended by itself, and said nothing at all
+        std::optional<std::chrono::seconds> sinAcabar; // when it was ended
+        QString sinArrancar; // why
+        std::optional<int> senal; // that ended it
+        int estado = 0;
+        bool deROMs = false; // it named a set of ROMs
+        QString loUltimo; // that it said
         QSet<QString> buenas; // sets that it calls good
+
+        // Whether it ended as it does where it answers.
+        bool Acaba() const { return !sinAcabar && sinArrancar.isEmpty() && !senal; }
+        bool TodoBien() const { return Acaba() && estado == 0; }
+        // It says nothing of a set that isn't there.
+        bool EsMudo() const { return Acaba() && estado != 0 && loUltimo.isEmpty(); }
     };
-    Dicho Pregunta(const QStringList &nombres) const;
+    Dicho Pregunta(const QStringList &nombres, const Palabras &palabras) const;
 
     QString maquina; // that the parameters name, the first of them that is no option
     qsizetype delante = 0; // how many parameters stand ahead of the game
@@ -91,45 +102,76 @@ private:
     QStringList m_opciones;
 };
 
-// "romset pacman [puckman] is good"; of one that isn't there some say nothing.
-QSet<QString> lasBuenas(const QByteArray &salida)
-{
-    QSet<QString> buenas;
-    for (const QByteArray &linea : salida.split('\n')) {
-        const QByteArray entera = linea.simplified();
-        if (entera.startsWith("romset ")
-            && (entera.endsWith(" is good") || entera.endsWith(" is best available")))
-            buenas.insert(host::lower(QString::fromUtf8(entera.split(' ').value(1))));
+// What it says, line by line: one that says anything without end takes no memory.
+class LoQueDice {
+public:
+    explicit LoQueDice(const QStringList &nombres)
+        : m_pedidas(nombres.begin(), nombres.end())
+    {
     }
-    return buenas;
-}
 
-QString otraCosaQueROMs(const host::ProcessEnd &final, const QByteArray &salida)
-{
-    constexpr qsizetype bastante = 200; // letters
-    if (!final.signal && salida.contains("romset"))
-        return {};
-    const QString acaba =
-        final.signal ? u"signal %1"_s.arg(*final.signal) : u"status %1"_s.arg(final.status.value_or(-1));
-    const QByteArray ultima = salida.trimmed().split('\n').last().simplified();
-    return ultima.isEmpty() ? acaba : acaba + u": "_s + QString::fromUtf8(ultima).left(bastante);
-}
+    void Toma(const QByteArray &trozo)
+    {
+        m_resto += trozo;
+        qsizetype desde = 0;
+        for (qsizetype fin; (fin = m_resto.indexOf('\n', desde)) >= 0; desde = fin + 1)
+            linea(m_resto.sliced(desde, fin - desde).simplified());
+        m_resto = m_resto.sliced(desde).left(Bastante);
+    }
 
-PreguntasAMAME::Dicho PreguntasAMAME::Pregunta(const QStringList &nombres) const
+    void En(PreguntasAMAME::Dicho &dicho)
+    {
+        linea(m_resto.simplified());
+        dicho.deROMs = m_deROMs;
+        dicho.loUltimo = QString::fromUtf8(m_ultima).left(Letras);
+        dicho.buenas = m_buenas;
+    }
+
+private:
+    static constexpr qsizetype Bastante = 4096;
+    static constexpr qsizetype Letras = 200;
+
+    // "romset pacman [puckman] is good"; of one that isn't there some say nothing.
+    void linea(const QByteArray &entera)
+    {
+        if (!entera.isEmpty())
+            m_ultima = entera;
+        m_deROMs = m_deROMs || entera.contains("romset");
+        if (!entera.startsWith("romset ")
+            || !(entera.endsWith(" is good") || entera.endsWith(" is best available")))
+            return;
+        const QString cual = host::lower(QString::fromUtf8(entera.split(' ').value(1)));
+        if (m_pedidas.contains(cual))
+            m_buenas.insert(cual);
+    }
+
+    const QSet<QString> m_pedidas;
+    QByteArray m_resto; // a line that isn't whole yet
+    QByteArray m_ultima;
+    bool m_deROMs = false;
+    QSet<QString> m_buenas;
+};
+
+PreguntasAMAME::Dicho PreguntasAMAME::Pregunta(const QStringList &nombres, const Palabras &palabras) const
 {
+    const std::chrono::milliseconds limite = Paciencia.alPrincipio + nombres.size() * Paciencia.porJuego;
+    QStringList enMinusculas;
+    for (const QString &nombre : nombres)
+        enMinusculas += host::lower(nombre);
     Dicho dicho;
-    QByteArray salida;
+    LoQueDice loQueDice(enMinusculas);
     try {
-        const host::ProcessEnd final = host::readAllThatIsSaid(Directorio(), orden(nombres), PacienciaConMAME,
-            [&salida](const QByteArray &trozo) { salida += trozo; });
-        dicho.todoBien = final.status == 0;
-        dicho.otraCosa = otraCosaQueROMs(final, salida);
-        dicho.mudo = !final.signal && salida.trimmed().isEmpty();
+        const host::ProcessEnd final = host::readAllThatIsSaid(Directorio(), orden(nombres), limite,
+            [&loQueDice](const QByteArray &trozo) { loQueDice.Toma(trozo); });
+        dicho.senal = final.signal;
+        dicho.estado = final.status.value_or(0);
     } catch (const host::Failure &fallo) {
-        dicho.callado = fallo.number() == host::DeviceError;
-        dicho.todoBien = !dicho.callado; // that it doesn't start is a finding of its own
+        if (fallo.number() == host::DeviceError)
+            dicho.sinAcabar = std::chrono::duration_cast<std::chrono::seconds>(limite);
+        else
+            dicho.sinArrancar = TextoDe(fallo, palabras);
     }
-    dicho.buenas = lasBuenas(salida);
+    loQueDice.En(dicho);
     return dicho;
 }
 
@@ -188,31 +230,40 @@ public:
 
     void Maquina()
     {
-        const PreguntasAMAME::Dicho dicho = mame.Pregunta({ mame.maquina });
-        if (!dicho.callado && !dicho.todoBien && (dicho.otraCosa.isEmpty() || dicho.mudo))
+        const PreguntasAMAME::Dicho dicho = mame.Pregunta({ mame.maquina }, m_palabras);
+        if (dicho.EsMudo())
             halla(u"machine-without-roms"_s, m_palabras.Zbo_SinROMs, mame.maquina, mame.maquina);
-        else
-            diceOtraCosa(dicho, mame.maquina);
+        else if (!diceOtraCosa(dicho, mame.maquina) && !dicho.TodoBien())
+            halla(u"machine-without-roms"_s, m_palabras.Zbo_SinROMs, mame.maquina, mame.maquina);
     }
 
+    // Of one first: a MAME that never answers is known by that.
     void Juegos(const std::vector<JuegoDeMAME> &juegos)
     {
+        if (juegos.empty())
+            return;
+        const QString primero = juegos.front().nombre;
+        const PreguntasAMAME::Dicho deUno = mame.Pregunta({ primero }, m_palabras);
+        if (!deUno.EsMudo() && diceOtraCosa(deUno, primero))
+            return;
         for (size_t desde = 0; desde < juegos.size(); desde += size_t(JuegosPorLlamada)) {
             const size_t cuantos = std::min(juegos.size() - desde, size_t(JuegosPorLlamada));
-            if (!algunosJuegos(std::span(juegos).subspan(desde, cuantos)))
+            if (!algunosJuegos(std::span(juegos).subspan(desde, cuantos), deUno))
                 return;
         }
     }
 
 private:
-    void halla(const QString &clase, const QString &dicho, const QString &cual, const QString &romset)
+    void halla(const QString &clase, const QString &dicho, const QString &cual, const QString &romset,
+        const QString &loUltimo = {})
     {
+        const QString texto = dicho.arg(cual, mame.Directorio(), mame.Orden(romset));
         m_revision.push_back({ clase, u"Zembro.emu"_s, m_linea, m_nombre,
-            dicho.arg(cual, mame.Directorio(), mame.Orden(romset)) });
+            loUltimo.isEmpty() ? texto : QString(texto).replace(u"%4"_s, loUltimo) });
     }
 
     bool diceOtraCosa(const PreguntasAMAME::Dicho &dicho, const QString &nombre);
-    bool algunosJuegos(std::span<const JuegoDeMAME> juegos);
+    bool algunosJuegos(std::span<const JuegoDeMAME> juegos, const PreguntasAMAME::Dicho &deUno);
 
     const Palabras &m_palabras;
     const QString m_nombre;
@@ -226,32 +277,35 @@ public:
 // Told once, of all games: nothing is known of them.
 bool RevisorDeMAME::diceOtraCosa(const PreguntasAMAME::Dicho &dicho, const QString &nombre)
 {
-    const auto segundos = std::chrono::duration_cast<std::chrono::seconds>(PacienciaConMAME);
-    if (dicho.callado)
-        halla(u"mame-silent"_s, m_palabras.Zbo_MAMECalla, QString::number(segundos.count()), nombre);
-    else if (!dicho.todoBien && !dicho.otraCosa.isEmpty())
-        halla(u"mame-failed"_s, m_palabras.Zbo_MAMEDice, dicho.otraCosa, nombre);
+    const QString estado = QString::number(dicho.estado);
+    if (dicho.sinAcabar)
+        halla(u"mame-unfinished"_s, m_palabras.Zbo_MAMECalla, QString::number(dicho.sinAcabar->count()),
+            nombre);
+    else if (!dicho.sinArrancar.isEmpty())
+        halla(u"mame-failed"_s, m_palabras.Zbo_MAMENoParte, dicho.sinArrancar, nombre);
+    else if (dicho.senal)
+        halla(u"mame-failed"_s, m_palabras.Zbo_MAMESenal, NombreDeSenal(*dicho.senal), nombre);
+    else if (dicho.EsMudo())
+        halla(u"mame-failed"_s, m_palabras.Zbo_MAMEMudo, estado, nombre);
+    else if (!dicho.TodoBien() && !dicho.deROMs)
+        halla(u"mame-failed"_s, m_palabras.Zbo_MAMEDice, estado, nombre, dicho.loUltimo);
     else
         return false;
     return true;
 }
 
 // An old one takes one name alone, and says nothing of others. False where it need not be asked again.
-bool RevisorDeMAME::algunosJuegos(std::span<const JuegoDeMAME> juegos)
+bool RevisorDeMAME::algunosJuegos(std::span<const JuegoDeMAME> juegos, const PreguntasAMAME::Dicho &deUno)
 {
     const QStringList nombres = nombresDeSets(juegos);
-    const PreguntasAMAME::Dicho dicho = mame.Pregunta(nombres);
-    if (!dicho.callado && !dicho.todoBien && dicho.buenas.isEmpty() && nombres.size() > 1) {
-        const PreguntasAMAME::Dicho deUno = mame.Pregunta({ nombres.first() });
-        if (deUno.callado)
-            return !diceOtraCosa(deUno, nombres.first());
-        if (!deUno.buenas.isEmpty())
-            return true;
-    }
+    const PreguntasAMAME::Dicho dicho = mame.Pregunta(nombres, m_palabras);
+    if (dicho.Acaba() && !dicho.TodoBien() && dicho.buenas.isEmpty() && nombres.size() > 1
+        && !deUno.buenas.isEmpty())
+        return true;
     if (diceOtraCosa(dicho, nombres.first()))
         return false;
     for (const JuegoDeMAME &juego : juegos) {
-        if (!dicho.todoBien && !dicho.buenas.contains(host::lower(juego.nombre)))
+        if (!dicho.TodoBien() && !dicho.buenas.contains(host::lower(juego.nombre)))
             halla(u"game-without-roms"_s, m_palabras.Zbo_JuegoSinROMs, juego.entrada, juego.nombre);
     }
     return true;
@@ -268,7 +322,7 @@ constexpr int UnZip = 3;
 
 } // namespace
 
-std::chrono::milliseconds PacienciaConMAME = std::chrono::seconds(20);
+PacienciaConMAME Paciencia;
 
 void RevisaMaquinaDeMAME(
     const Sesion &sesion, const Pareja &pareja, const LineasDeEmulador &lineas, Revision &revision)
@@ -290,7 +344,7 @@ qsizetype RevisaJuegosDeMAME(Sesion &sesion, const Pareja &pareja, const LineasD
     if (!revisor.mame.maquina.isEmpty())
         return 0;
     const bool pedida = !sesion.Argumento(0).isEmpty();
-    const qsizetype cuantos = pedida ? entradas.size() : std::min(entradas.size(), JuegosPorLlamada);
+    const qsizetype cuantos = pedida ? entradas.size() : std::min(entradas.size(), JuegosSinPedir);
     revisor.Juegos(juegosDeMAME(sesion, pareja, entradas, cuantos, revisor.mame.delante));
     return entradas.size() - cuantos;
 }

@@ -86,9 +86,10 @@ TEST_F(CheckMAME, GamesOfWhichItFindsNotAllROMsAreSaid_WhereItsParametersNameNoM
     };
     EXPECT_EQ(
         suyos, QJsonArray({ dicho(u"Galaga, the first"_s, u"galaga"_s), dicho(u"gone.zip"_s, u"gone"_s) }));
-    // One call for all, with the names that a launch hands on.
-    EXPECT_EQ(Bytes(u"emu/calls"_s),
-        Ruta(u"emu"_s).toUtf8() + " -verifyroms galaga gone pacman puckman -rompath bios\n");
+    // One call for all, with the names that a launch hands on, behind one that shows whether it answers.
+    const QByteArray antes = Ruta(u"emu"_s).toUtf8() + " -verifyroms galaga";
+    EXPECT_EQ(
+        Bytes(u"emu/calls"_s), antes + " -rompath bios\n" + antes + " gone pacman puckman -rompath bios\n");
 }
 
 TEST_F(CheckMAME, NothingIsSaidOfGamesWhereItTakesOneNameAlone_OrOneThatTheParametersName)
@@ -104,10 +105,11 @@ TEST_F(CheckMAME, NothingIsSaidOfGamesWhereItTakesOneNameAlone_OrOneThatTheParam
 // It isn't asked again, and of what it started nothing is left.
 TEST_F(CheckMAME, OneThatDoesntAnswerIsSaidOnce_AndEndedWithAllThatItStarted)
 {
-    const auto antes = std::exchange(companion::PacienciaConMAME, std::chrono::milliseconds(1100));
+    const auto antes = std::exchange(
+        companion::Paciencia, { std::chrono::milliseconds(600), std::chrono::milliseconds(500) });
     PonGuion(u"emu/mame"_s, "echo x >> calls\nsleep 1000 & echo $! > child\nwait\n");
     const QStringList suyas = clases(SisUno);
-    EXPECT_EQ(suyas.count(u"mame-silent"_s), 1) << suyas.join(u' ').toStdString();
+    EXPECT_EQ(suyas.count(u"mame-unfinished"_s), 1) << suyas.join(u' ').toStdString();
     EXPECT_FALSE(suyas.contains(u"game-without-roms"_s));
     EXPECT_EQ(Bytes(u"emu/calls"_s), "x\n");
     const QString hijo = QString::fromLatin1(Bytes(u"emu/child"_s).trimmed());
@@ -121,13 +123,14 @@ TEST_F(CheckMAME, OneThatDoesntAnswerIsSaidOnce_AndEndedWithAllThatItStarted)
         QThread::msleep(20);
     EXPECT_FALSE(sigue());
     const QByteArray emu = Ruta(u"emu/"_s).toUtf8();
-    EXPECT_TRUE(dicho().contains("MAME said nothing for 1 seconds, so nothing is known of its ROMs; in the "
-                                 "directory "
-        + emu + ", where a launch starts it, this asks it: " + emu + "mame -verifyroms galaga"))
+    EXPECT_TRUE(dicho().contains(
+        "MAME wasn't done after 1 seconds and was ended, so nothing is known of its ROMs; to see what "
+        "it waits for, in the directory "
+        + emu + ", where a launch starts it, run " + emu + "mame -verifyroms galaga"))
         << dicho().toStdString();
     Cambia(u"Zembro.emu"_s, "PAR1=-rompath BIOS", "PAR1=NAOMI");
-    EXPECT_EQ(clases(SisUno).count(u"mame-silent"_s), 1);
-    companion::PacienciaConMAME = antes;
+    EXPECT_EQ(clases(SisUno).count(u"mame-unfinished"_s), 1);
+    companion::Paciencia = antes;
 }
 
 TEST_F(CheckMAME, OneThatSaysNothingOfAnySetIsSaidOnce_WithWhatItSays)
@@ -137,16 +140,26 @@ TEST_F(CheckMAME, OneThatSaysNothingOfAnySetIsSaidOnce_WithWhatItSays)
         QByteArray dicho;
     };
     const Caso casos[] = {
-        { "exit 3\n", "status 3" },
-        { "echo 'mame: no lib.so.7' >&2; exit 127\n", "status 127: mame: no lib.so.7" },
-        { "kill -SEGV $$\n", "signal 11" },
+        { "exit 3\n",
+            "MAME said nothing and ended with the status 3, so nothing is known of its ROMs; try whether it "
+            "is "
+            "a MAME at all: in the directory " },
+        { "echo a; echo 'mame: no lib.so.7' >&2; exit 127\n",
+            "MAME named no set of ROMs and ended with the status 127; mend what it said at last (mame: no "
+            "lib.so.7), then in the directory " },
+        { "kill -SEGV $$\n",
+            "MAME was ended by the signal SIGSEGV and told nothing of its ROMs; try whether it always does "
+            "so, "
+            "and install it anew then: in the directory " },
     };
     for (const Caso &caso : casos) {
         PonGuion(u"emu/mame"_s, caso.guion);
         const QStringList suyas = clases(SisUno);
         EXPECT_EQ(suyas.count(u"mame-failed"_s), 1) << suyas.join(u' ').toStdString();
         EXPECT_FALSE(suyas.contains(u"game-without-roms"_s));
-        EXPECT_TRUE(dicho().contains("MAME ended without a word on any set of ROMs (" + caso.dicho + "); "))
+        const QByteArray emu = Ruta(u"emu/"_s).toUtf8();
+        EXPECT_TRUE(dicho().contains(caso.dicho + emu + ", where a launch starts it, run " + emu
+            + "mame -verifyroms galaga -rompath bios\n"))
             << dicho().toStdString();
     }
     // Of the machine that the parameters name too.
@@ -154,6 +167,30 @@ TEST_F(CheckMAME, OneThatSaysNothingOfAnySetIsSaidOnce_WithWhatItSays)
     Cambia(u"Zembro.emu"_s, "PAR1=-rompath BIOS", "PAR1=NAOMI");
     EXPECT_EQ(clases(SisUno).count(u"mame-failed"_s), 1);
     EXPECT_FALSE(clases(SisUno).contains(u"machine-without-roms"_s));
+}
+
+// It takes its time for each game, and hands on what it says at its end alone.
+TEST_F(CheckMAME, OneThatIsSilentForLongIsWaitedFor_InProportionToTheGames)
+{
+    const auto antes = std::exchange(
+        companion::Paciencia, { std::chrono::milliseconds(400), std::chrono::milliseconds(800) });
+    PonGuion(u"emu/mame"_s,
+        "shift; all=; for set; do [ $set = -rompath ] && break; sleep 0.4\n"
+        "[ $set = gone ] || all=\"$all\\nromset $set is good\"; done; printf \"$all\\n\"; exit 2\n");
+    const QStringList suyas = clases(SisUno);
+    EXPECT_EQ(suyas.count(u"game-without-roms"_s), 1) << suyas.join(u' ').toStdString();
+    EXPECT_EQ(suyas.count(u"mame-unfinished"_s), 0);
+    companion::Paciencia = antes;
+}
+
+// Neither its memory nor its time are for one that says anything without end.
+TEST_F(CheckMAME, OneThatSaysTooMuchIsEnded)
+{
+    const auto antes = std::exchange(
+        companion::Paciencia, { std::chrono::milliseconds(300), std::chrono::milliseconds(10) });
+    PonGuion(u"emu/mame"_s, "exec yes romset none is good\n");
+    EXPECT_EQ(clases(SisUno).count(u"mame-unfinished"_s), 1);
+    companion::Paciencia = antes;
 }
 
 TEST_F(CheckMAME, OfManyGamesTheFirstOnesAreAskedAbout_AndAllOfAPairThatIsAskedFor)
@@ -165,10 +202,10 @@ TEST_F(CheckMAME, OfManyGamesTheFirstOnesAreAskedAbout_AndAllOfAPairThatIsAskedF
     EXPECT_TRUE(dicho().contains("    MAME was asked about the ROMs of the first 500 games alone; not asked "
                                  "about: 104. check SYSTEM EMULATOR asks about all.\n"))
         << dicho().toStdString();
-    EXPECT_TRUE(Bytes(u"emu/calls"_s).startsWith("503\n"));
+    EXPECT_EQ(Bytes(u"emu/calls"_s), "4\n" + QByteArray("103\n").repeated(5));
     Borra(u"emu/calls"_s);
     EXPECT_EQ(Json(SisUno, companion::Hallazgos)[u"pairs"_s][0][u"not_verified"_s].toInt(-1), 0);
-    EXPECT_EQ(Bytes(u"emu/calls"_s), "503\n107\n");
+    EXPECT_EQ(Bytes(u"emu/calls"_s), "4\n" + QByteArray("103\n").repeated(6) + "7\n");
 }
 
 TEST_F(Check, AMachineIsOneOfMAMEsByEachOfItsNames)
