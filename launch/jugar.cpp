@@ -104,7 +104,7 @@ void Lanzamiento::SoloExe()
 void Lanzamiento::ConROM(const QString &entrada)
 {
     MiraSiEsDeDOS();
-    m_piezas.RomDir = RomDirDe(LeeRuta(M.Cat_ROM), m_dos);
+    m_piezas.RomDir = RomDirDe(LeeRuta(M.Cat_ROM));
     const Busqueda busqueda = BuscaROM(M, m_seleccion.tipo, entrada);
     m_via = busqueda.via;
     if (m_via == Via::Nota)
@@ -156,10 +156,10 @@ void Lanzamiento::MiraSiEsDeDOS()
     ProgramaDe(EXE(), m_dos);
 }
 
-// One that is shown under another name lies on another drive than its directory.
+// DOS gets no other drive for the directory, whose letter would be another than the game's.
 void Lanzamiento::PonUnidadDelJuego()
 {
-    if (!m_dos || !ConApodos() || m_piezas.RomCorto.enDisco.isEmpty())
+    if (!m_dos || !ConApodos())
         return;
     if (const auto dicho = m_dos->RutaOApodo(m_piezas.RomDir.enDisco + m_piezas.RomCorto.enDisco))
         m_piezas.RomDir.texto = host::lower(QString::fromLatin1(dicho->first(dicho->lastIndexOf('\\') + 1)));

@@ -139,9 +139,9 @@ QString TituloDe(const QString &ExeNombre)
     return punto < 0 ? ExeNombre : ExeNombre.first(punto);
 }
 
-Ruta RomDirDe(const QString &rom, UnidadesDOS *dos)
+Ruta RomDirDe(const QString &rom)
 {
-    return rutaCorta(rom, dos);
+    return rutaCorta(rom, nullptr);
 }
 
 Ruta RomCortoDe(const Ruta &RomDir, const QString &nombre, UnidadesDOS *dos, bool conApodos)
@@ -154,7 +154,7 @@ QString ClaveEnDOS(const QString &exe, const QString &rom, const QString &nombre
     if (core::ClaseDe(exe) != core::ClaseDePrograma::DOS)
         return {};
     UnidadesDOS dos;
-    return host::upper(RomCortoDe(RomDirDe(rom, &dos), nombre, &dos).texto);
+    return host::upper(RomCortoDe(RomDirDe(rom), nombre, &dos).texto);
 }
 
 // At once: one by one each asks for the whole directory.

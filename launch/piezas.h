@@ -33,7 +33,7 @@ Programa ProgramaDe(const QString &exe, UnidadesDOS *dos = nullptr);
 QString TituloDe(const QString &ExeNombre);
 
 // The ROM directory, with the closing separator of its setting; empty if there is no such directory.
-Ruta RomDirDe(const QString &rom, UnidadesDOS *dos = nullptr);
+Ruta RomDirDe(const QString &rom);
 
 // The short name of a file of the ROM directory, which is looked for in lower case; empty if there is no such
 // file.

@@ -7,6 +7,7 @@
 #include "launch/destino.h"
 #include "launch/dosbox.h"
 #include "launch/encargo.h"
+#include "launch/ensayo.h"
 #include "launch/jugar.h"
 #include "launch/nombresdos.h"
 #include "launch/shell.h"
@@ -326,6 +327,49 @@ TEST(Apodado, WhatAGameSavesComesHomeBehindItsName_AndIsShownAgain)
                     .startsWith(QString(95, u'\u00F1') + u'~'));
     EXPECT_NE(launch::PrefijoEnCasa("a\\b"), launch::PrefijoEnCasa("a_b"));
     EXPECT_EQ(host::nameToDisk(host::nameFromDisk(launch::PrefijoEnCasa("a\\b"))).count('\\'), 0);
+}
+
+// The command that is shown and the line that DOS gets are made one after the other.
+TEST_F(EncargoTest, TheCommandNamesTheDrivesThatDosGets)
+{
+    Pon(ParaDOS);
+    PonHerramienta("dosbox");
+    makeDirectory("other");
+    makeDirectory("roms/Deep Ones");
+    for (const QByteArray &lugar : { QByteArray("roms/"), QByteArray("roms/Deep Ones/") }) {
+        for (const QByteArray &nombre :
+            { QByteArray("ni\xC3\xB1o"), QByteArray("Super Mario"), QByteArray("Luigi") }) {
+            makeFile(lugar + nombre + ".nes", "a game");
+            makeFile(lugar + nombre + ".zip", "a game");
+        }
+    }
+    PonNota(0, u"NIÑO.NES"_s, u"The child"_s);
+    for (const QByteArray &unidades : { QByteArray(), "C=" + place("emu") + "\n",
+             "D=" + place("other") + "\n", "E=" + place("roms") + "\n" }) {
+        makeFile("program/Zembro.uni", unidades);
+        for (const auto &[tipo, emulador, entrada] :
+            std::initializer_list<std::tuple<int, QString, QString>> { { 0, u"Emu"_s, u"niño.nes"_s },
+                { 0, u"Emu"_s, u"The child"_s }, { 0, u"Emu"_s, u"Luigi.nes"_s },
+                { 0, u"Emu"_s, u"Super Mario.nes"_s }, { 0, u"Emu"_s, u"gone.nes"_s },
+                { 3, u"NeoRage"_s, u"niño.zip"_s }, { 3, u"NeoRage"_s, u"Luigi.zip"_s },
+                { 3, u"Emu"_s, u"Luigi.zip"_s }, { 5, u"Emu"_s, QString() } }) {
+            for (const QString &rom : { u"roms/"_s, u"roms/Deep Ones/"_s }) {
+                M.Cat_ROM(3, 2) = u"ROM="_s + path(rom);
+                M.Cat_XDI(3, 2) = u"XDI="_s + QString::number(tipo);
+                pantalla.combo2 = emulador;
+                pantalla.lista1 = entrada;
+                const launch::Ensayo ensayo = launch::Ensaya(M, pantalla);
+                ASSERT_TRUE(ensayo.orden);
+                const QByteArray enDOS = ensayo.encargo.programaDOS + ensayo.encargo.colaDOS;
+                QString dicho = ensayo.orden->EnTexto();
+                if (tipo == 5) // the program alone stands there
+                    dicho.prepend(QString::fromLatin1(enDOS).first(enDOS.lastIndexOf('\\') + 1));
+                EXPECT_EQ(
+                    dicho.toUpper().trimmed().toStdString(), QByteArray(enDOS).toUpper().toStdString())
+                    << unidades.constData() << entrada.toStdString();
+            }
+        }
+    }
 }
 
 TEST_F(EncargoTest, AnEmulatorThatDosCantOpenByItsNameIsRefused)
