@@ -114,6 +114,10 @@ core::EnDisco LoQueHayEn(const QString &valor)
     const QString ruta = core::RutaDeValor(valor);
     if (valor.isEmpty() || !host::exists(ruta))
         return core::EnDisco::Nada;
+    // What is found without the blanks at its end is something else: behind more of a path it isn't found.
+    const auto acabaEnBlanco = [](const QString &una) { return una.endsWith(u' ') || una.endsWith(u'\t'); };
+    if (acabaEnBlanco(ruta) && !acabaEnBlanco(host::trueSpelling(ruta)))
+        return core::EnDisco::Nada;
     const bool directorio = host::exists(host::withClosingSeparator(ruta));
     return directorio ? core::EnDisco::Directorio : core::EnDisco::Fichero;
 }

@@ -75,6 +75,14 @@ TEST_F(Check, BlanksBehindADirectoryAreSaid_AndTakenAwayWhereThatIsThere)
         << dicho().toStdString();
     EXPECT_EQ(Zembro({ u"check"_s, u"--mend"_s, u"--write"_s }).estado, companion::Bien);
     EXPECT_EQ(Bytes(u"Zembro.emu"_s), entero);
+    // Without a separator ahead of them, where the end of a path may have blanks, and the middle of one not.
+    for (const QByteArray &blancos : { " "_ba, "  "_ba, "\t"_ba }) {
+        Cambia(u"Zembro.emu"_s, "roms/\r\n", "roms" + blancos + "\r\n");
+        EXPECT_THAT(clases(), Contains(u"blanks-behind-path"_s));
+        EXPECT_THAT(clases(), testing::Not(Contains(u"no-closing-separator"_s)));
+        EXPECT_EQ(Zembro({ u"check"_s, u"--mend"_s, u"--write"_s }).estado, companion::Bien);
+        EXPECT_EQ(Bytes(u"Zembro.emu"_s), entero);
+    }
     Cambia(u"Zembro.emu"_s, "roms/\r\n", "gone/ \r\n");
     const QByteArray perdido = Bytes(u"Zembro.emu"_s);
     EXPECT_THAT(clases(), Contains(u"blanks-behind-path"_s));
