@@ -82,7 +82,9 @@ public:
                 if (i < cuantas)
                     visto[sistema + u": "_s + clave] = M->Nota_Texto(i);
                 host::TextSource fuente(texto);
-                const QString parametros = core::ParametrosDe(fuente, clave);
+                QString parametros = core::ParametrosDe(fuente, clave);
+                while (parametros.endsWith(u'\r'))
+                    parametros.chop(1); // no part of what the line says
                 if (!parametros.isEmpty())
                     visto[clave] = parametros;
             }
