@@ -3,6 +3,8 @@
 #include "core/lineas.h"
 
 #include <algorithm>
+#include <span>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -19,11 +21,13 @@ struct Paso {
     QString linea;
 };
 
+using Vistas = std::span<const core::LineaConFin>;
+
 // Lines that differ in their ends alone are shown with them, those of the rest aren't.
-std::vector<QString> lineasDe(const QString &texto, bool conFines)
+std::vector<QString> lineasDe(Vistas vistas, bool conFines)
 {
     std::vector<QString> lineas;
-    for (const core::LineaConFin &linea : core::EnLineas(texto)) {
+    for (const core::LineaConFin &linea : vistas) {
         const QString fin = linea.fin.isEmpty() ? u"  \\ No newline at end of file"_s
             : linea.fin.size() > 1              ? u"\r"_s
                                                 : QString();
@@ -79,6 +83,23 @@ std::vector<Paso> pasosDe(const Lineas &a, const Lineas &b)
     return pasos;
 }
 
+// How many lines at the beginning and at the end of both are equal and no context of others: of a large file
+// most of them.
+std::pair<size_t, size_t> lejosDeTodoCambio(Vistas a, Vistas b)
+{
+    const auto iguales = [](const core::LineaConFin &una, const core::LineaConFin &otra) {
+        return una.linea == otra.linea && una.fin == otra.fin;
+    };
+    const size_t corta = std::min(a.size(), b.size());
+    size_t delante = 0;
+    while (delante < corta && iguales(a[delante], b[delante]))
+        ++delante;
+    size_t detras = 0;
+    while (detras < corta - delante && iguales(a[a.size() - 1 - detras], b[b.size() - 1 - detras]))
+        ++detras;
+    return { delante - std::min(delante, Contexto), detras - std::min(detras, Contexto) };
+}
+
 QString cabecera(size_t antes, size_t total, size_t despues, size_t totalDespues)
 {
     const auto parte = [](size_t primera, size_t cuantas) {
@@ -91,8 +112,17 @@ QString cabecera(size_t antes, size_t total, size_t despues, size_t totalDespues
 
 QStringList Diferencia(const QString &fichero, const QString &antes, const QString &despues)
 {
-    const bool soloFines = antes != despues && lineasDe(antes, false) == lineasDe(despues, false);
-    const std::vector<Paso> pasos = pasosDe(lineasDe(antes, soloFines), lineasDe(despues, soloFines));
+    if (antes == despues)
+        return {};
+    const std::vector<core::LineaConFin> todasAntes = core::EnLineas(antes);
+    const std::vector<core::LineaConFin> todasDespues = core::EnLineas(despues);
+    const bool soloFines = std::ranges::equal(
+        todasAntes, todasDespues, {}, &core::LineaConFin::linea, &core::LineaConFin::linea);
+    const auto [saltadas, dejadas] = lejosDeTodoCambio(todasAntes, todasDespues);
+    const auto cerca = [&, desde = saltadas, fuera = saltadas + dejadas](Vistas todas) {
+        return lineasDe(todas.subspan(desde, todas.size() - fuera), soloFines);
+    };
+    const std::vector<Paso> pasos = pasosDe(cerca(todasAntes), cerca(todasDespues));
     std::vector<bool> visibles(pasos.size());
     for (size_t i = 0; i < pasos.size(); ++i) {
         if (pasos[i].signo == ' ')
@@ -102,8 +132,8 @@ QStringList Diferencia(const QString &fichero, const QString &antes, const QStri
             visibles[k] = true;
     }
     QStringList lineas;
-    size_t deAntes = 0;
-    size_t deDespues = 0;
+    size_t deAntes = saltadas;
+    size_t deDespues = saltadas;
     for (size_t i = 0; i < pasos.size();) {
         const size_t principio = i;
         QStringList trozo;

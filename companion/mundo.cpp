@@ -14,6 +14,8 @@
 #include "host/letters.h"
 #include "host/paths.h"
 
+#include <QScopeGuard>
+
 using namespace Qt::StringLiterals;
 
 namespace companion {
@@ -130,6 +132,7 @@ Listado Lista(Sesion &sesion, const Pareja &pareja)
 {
     core::Modulo &M = sesion.M;
     M.Ficheros.closeAll();
+    const auto cierra = qScopeGuard([&M] { M.Ficheros.closeAll(); }); // what a failure leaves open
     core::VaciaLista(M);
     Listado listado { core::ListaDe(M, pareja.sistema, pareja.fila, pareja.nombreSistema), {} };
     const core::Recuento &recuento = listado.recuento;

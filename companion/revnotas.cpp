@@ -180,8 +180,10 @@ void RevisorDeNotas::Sistema(const QString &sistema, size_t desde)
         const Registro registro = registroDe(linea);
         if (registro.campos.value(0) == u"'" || core::AcabaLosSistemas(m_lineas, i, m_sistemas))
             return;
-        if (!linea.isEmpty() && ++cuantas == core::MaxROMs) // the table needs an empty one behind them
-            halla(u"too-many-notes"_s, m_palabras.Zbo_MuchasNotas.arg(sistema).arg(core::MaxROMs - 1), i);
+        // The table needs an empty one behind them. None of them shows then, so the rest can wait.
+        if (!linea.isEmpty() && ++cuantas == core::MaxROMs)
+            return halla(
+                u"too-many-notes"_s, m_palabras.Zbo_MuchasNotas.arg(sistema).arg(core::MaxROMs - 1), i);
         if (linea.isEmpty() || !estaEntero(linea, registro, CamposDeNota, i))
             continue;
         const QString &clave = registro.campos.first();
