@@ -1,6 +1,7 @@
 // Renders the artwork while building: render_artwork LIST DIRECTORY, render_artwork --icon DRAWING SIDE PNG
 // LIST is the resource list of the drawings. Every drawing comes as a packed picture in each scale into
-// DIRECTORY, with a resource list of them all. An icon has SIDE pixels each way.
+// DIRECTORY, with a resource list of those in their own size, and another one of the rest. An icon has SIDE
+// pixels each way.
 
 #include "forms/rendered.h"
 #include "forms/svg.h"
@@ -65,20 +66,33 @@ QString rendered(const QString &file, const QSize &size, const QDir &directory)
     return name;
 }
 
-// The entries of the resource list for a drawing; empty if it can't be rendered.
-QString entriesOf(const Drawing &drawing, const QDir &directory)
+// Of resources. Most starts show the drawings in their own size: the program holds those as they are shown.
+struct Lists {
+    QString ownSize;
+    QString otherScales;
+};
+
+// False if a drawing can't be rendered.
+bool addEntries(Lists &lists, const Drawing &drawing, const QDir &directory)
 {
-    QString entries;
     for (const qreal scale : forms::RenderedScales) {
         for (const QSize &size : sizesOf(drawing, scale)) {
             const QString file = rendered(drawing.file, size, directory);
             if (file.isEmpty())
-                return {};
+                return false;
             const QString path = forms::renderedPath(drawing.name, size, scale);
-            entries += u"<file alias=\"%1\">%2</file>\n"_s.arg(path.sliced(Prefix.size()), file);
+            (scale == 1 ? lists.ownSize : lists.otherScales) +=
+                u"<file alias=\"%1\">%2</file>\n"_s.arg(path.sliced(Prefix.size()), file);
         }
     }
-    return entries;
+    return true;
+}
+
+bool writeList(const QString &path, const QString &entries)
+{
+    QFile out(path);
+    const QString list = u"<RCC><qresource prefix=\"/artwork\">\n%1</qresource></RCC>\n"_s.arg(entries);
+    return !entries.isEmpty() && out.open(QIODevice::WriteOnly) && out.write(list.toUtf8()) > 0;
 }
 
 int renderIcon(const QString &drawing, int side, const QString &file)
@@ -101,18 +115,14 @@ int main(int argc, char **argv)
         return 2;
     const QDir directory(QString::fromLocal8Bit(argv[2]));
     const QList<Drawing> drawings = drawingsIn(QString::fromLocal8Bit(argv[1]));
-    QString list = u"<RCC><qresource prefix=\"/artwork\">\n"_s;
+    Lists lists;
     for (const Drawing &drawing : drawings) {
-        const QString entries = entriesOf(drawing, directory);
-        if (entries.isEmpty()) {
+        if (!addEntries(lists, drawing, directory)) {
             std::fprintf(stderr, "render_artwork: can't render %s\n", qPrintable(drawing.file));
             return 1;
         }
-        list += entries;
     }
-    list += u"</qresource></RCC>\n"_s;
-    QFile out(directory.filePath(u"rendered.qrc"_s));
-    const bool written =
-        !drawings.isEmpty() && out.open(QIODevice::WriteOnly) && out.write(list.toUtf8()) > 0;
+    const bool written = writeList(directory.filePath(u"own_size.qrc"_s), lists.ownSize)
+        && writeList(directory.filePath(u"other_scales.qrc"_s), lists.otherScales);
     return written ? 0 : 1;
 }
