@@ -4,12 +4,15 @@
 #include "forms/pictures.h"
 #include "forms/sharp.h"
 
+#include <QColor>
 #include <QGuiApplication>
+#include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
 
 #include <cstdlib>
+#include <cstring>
 #include <utility>
 
 namespace forms {
@@ -22,6 +25,18 @@ bool isMadeFor(QPainter &painter, const QRect &place, const QPixmap &picture)
 {
     const QSize rest = Sharp(painter, place).place().size() - picture.size();
     return std::abs(rest.width()) <= 1 && std::abs(rest.height()) <= 1;
+}
+
+// Of an opaque picture that has no other one, as the black of a set that is off: it needs no stretching,
+// which the toolkit does anew at each painting.
+std::optional<QColor> onlyColour(const QPixmap &picture)
+{
+    constexpr qsizetype Pixel = 4;
+    const QImage image = picture.toImage();
+    if (image.format() != QImage::Format_RGB32
+        || std::memcmp(image.constBits(), image.constBits() + Pixel, image.sizeInBytes() - Pixel) != 0)
+        return std::nullopt;
+    return image.pixelColor(0, 0);
 }
 
 } // namespace
@@ -37,6 +52,7 @@ void Image::SetPicture(const QPixmap &picture)
     if (m_artwork.isEmpty() && picture.cacheKey() == m_picture.cacheKey())
         return;
     m_picture = picture;
+    m_onlyColour = onlyColour(picture);
     m_artwork.clear();
     update();
 }
@@ -46,6 +62,7 @@ void Image::SetArtwork(const QString &name)
     if (name == m_artwork)
         return;
     m_picture = {};
+    m_onlyColour.reset();
     m_artwork = name;
     update();
 }
@@ -62,6 +79,8 @@ void Image::paintEvent(QPaintEvent *event)
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (!m_artwork.isEmpty())
         drawPart(painter, event->region(), artwork(m_artwork, size(), devicePixelRatioF()));
+    else if (m_onlyColour)
+        painter.fillRect(rect(), *m_onlyColour);
     else if (!m_picture.isNull() && isMadeFor(painter, rect(), m_picture))
         drawUnscaled(painter, rect(), m_picture);
     else if (!m_picture.isNull())

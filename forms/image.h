@@ -3,9 +3,12 @@
 
 #include "forms/control.h"
 
+#include <QColor>
 #include <QPixmap>
 #include <QWheelEvent>
 #include <QWidget>
+
+#include <optional>
 
 namespace forms {
 
@@ -41,6 +44,7 @@ private:
 
     int m_held = 0; // the button that is pressed on it, by the mouse or by Space; 0: none
     QPixmap m_picture;
+    std::optional<QColor> m_onlyColour; // of the picture
     QString m_artwork;
     bool m_border = false;
 };

@@ -392,6 +392,23 @@ TEST_F(Images, APicture_IsStretchedOverTheWholeImage)
     EXPECT_EQ(image.Picture().cacheKey(), picture.cacheKey());
 }
 
+TEST_F(Images, APictureOfOneColour_IsToldFromOneWithAnother)
+{
+    drive::show(form);
+    for (const QPoint spot : { QPoint(0, 0), QPoint(1, 1), QPoint(2, 2) }) {
+        QImage spotted = solid(Qt::green).toImage();
+        spotted.setPixelColor(spot, Qt::blue);
+        image.SetPicture(QPixmap::fromImage(spotted));
+        EXPECT_NE(drive::colourAt(image, { 6 + spot.x() * 13, 3 + spot.y() * 6 }), QColor(Qt::green));
+        image.SetPicture(solid(Qt::green));
+        EXPECT_EQ(drive::colourAt(image, { 6 + spot.x() * 13, 3 + spot.y() * 6 }), QColor(Qt::green));
+    }
+    QPixmap clear(3, 3);
+    clear.fill(Qt::transparent);
+    image.SetPicture(clear);
+    EXPECT_EQ(drive::colourAt(image, { 10, 10 }), drive::colourAt(form, { 1, 1 }));
+}
+
 TEST_F(Images, APictureMadeForTheScreensPixels_IsDrawnInThem)
 {
     for (const double scale : { 1.0, 1.1, 1.25, 1.33, 1.5, 1.75, 2.0, 2.5, 3.0 }) {
