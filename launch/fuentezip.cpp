@@ -1,5 +1,7 @@
 #include "launch/fuentezip.h"
 
+#include "launch/libarchive.h"
+
 #include "host/retried.h"
 
 #include <algorithm>
@@ -121,11 +123,11 @@ bool FuenteZip::AbrePara(archive *archivo)
         || !S_ISREG(estado.st_mode))
         return false;
     m_sistemas = LugaresDeSistemasComoFat(m_fichero);
-    archive_read_set_callback_data(archivo, this);
-    archive_read_set_read_callback(archivo, lee);
-    archive_read_set_skip_callback(archivo, salta);
-    archive_read_set_seek_callback(archivo, va);
-    return archive_read_open1(archivo) == ARCHIVE_OK;
+    libarchive::read_set_callback_data(archivo, this);
+    libarchive::read_set_read_callback(archivo, lee);
+    libarchive::read_set_skip_callback(archivo, salta);
+    libarchive::read_set_seek_callback(archivo, va);
+    return libarchive::read_open1(archivo) == ARCHIVE_OK;
 }
 
 la_ssize_t FuenteZip::lee(archive *archivo, void *fuente, const void **bytes)
@@ -136,7 +138,7 @@ la_ssize_t FuenteZip::lee(archive *archivo, void *fuente, const void **bytes)
         leidos = pread(yo->m_fichero.number(), yo->m_bloque.data(), BloqueDelZIP, yo->m_lugar);
     while (leidos < 0 && errno == EINTR);
     if (leidos < 0) {
-        archive_set_error(archivo, errno, "the archive can't be read");
+        libarchive::set_error(archivo, errno, "the archive can't be read");
         return ARCHIVE_FATAL;
     }
     yo->cambiaSistemas(leidos);

@@ -2,6 +2,7 @@
 
 #include "launch/destino.h"
 #include "launch/fuentezip.h"
+#include "launch/libarchive.h"
 
 #include "host/encoding.h"
 #include "host/failure.h"
@@ -13,8 +14,6 @@
 #include <climits>
 #include <memory>
 
-#include <archive.h>
-#include <archive_entry.h>
 #include <fcntl.h>
 
 using namespace Qt::StringLiterals;
@@ -113,16 +112,17 @@ host::Descriptor abre(const QString &ruta)
 }
 
 struct Cierra {
-    void operator()(archive *a) const { archive_read_free(a); }
+    void operator()(archive *a) const { libarchive::read_free(a); }
 };
 using Archivo = std::unique_ptr<archive, Cierra>;
 
 Archivo leeZip(FuenteZip &fuente, Contraseñas &contraseñas)
 {
-    Archivo archivo(archive_read_new());
-    archive_read_support_format_zip(archivo.get());
-    archive_read_set_options(archivo.get(), "zip:hdrcharset=CP437"); // of names that aren't marked as UTF-8
-    archive_read_set_passphrase_callback(archivo.get(), &contraseñas, otraContraseña);
+    Archivo archivo(libarchive::read_new());
+    libarchive::read_support_format_zip(archivo.get());
+    libarchive::read_set_options(
+        archivo.get(), "zip:hdrcharset=CP437"); // of names that aren't marked as UTF-8
+    libarchive::read_set_passphrase_callback(archivo.get(), &contraseñas, otraContraseña);
     if (!fuente.AbrePara(archivo.get()))
         archivo.reset();
     return archivo;
@@ -170,7 +170,7 @@ Desempaquetado Extraccion::Todo()
     archive_entry *miembro = nullptr;
     int estado = ARCHIVE_OK;
     while (!m_discoLleno && estado >= ARCHIVE_WARN) {
-        estado = archive_read_next_header(m_archivo, &miembro);
+        estado = libarchive::read_next_header(m_archivo, &miembro);
         if (estado == ARCHIVE_EOF)
             break;
         if (estado >= ARCHIVE_WARN)
@@ -183,9 +183,9 @@ Desempaquetado Extraccion::Todo()
 // Links and devices are passed over, and names that can't be read.
 void Extraccion::Miembro(archive_entry *miembro)
 {
-    const QByteArray nombre = archive_entry_pathname(miembro);
+    const QByteArray nombre = libarchive::entry_pathname(miembro);
     const QList<QByteArray> partes = PartesDe(nombre);
-    const auto clase = archive_entry_filetype(miembro);
+    const auto clase = libarchive::entry_filetype(miembro);
     if (partes.isEmpty() || nombre.size() > MaxNombre)
         return;
     m_contraseñas.NuevoMiembro();
@@ -222,14 +222,14 @@ void Extraccion::Subdirectorio(const QList<QByteArray> &partes)
 void Extraccion::FicheroEn(const host::Descriptor &directorio, const QByteArray &lugar,
     const QByteArray &nombre, archive_entry *miembro)
 {
-    if (!directorio.isOpen() || !PuedeOcupar(directorio, nombre, archive_entry_pathname(miembro)))
+    if (!directorio.isOpen() || !PuedeOcupar(directorio, nombre, libarchive::entry_pathname(miembro)))
         return;
     FicheroNuevo fichero(directorio);
     if (!fichero.Abierto())
         return;
     const Lectura lectura = Copia(&fichero);
     m_discoLleno = lectura == Lectura::DiscoLleno;
-    const bool soloLectura = (archive_entry_perm(miembro) & 0200) == 0;
+    const bool soloLectura = (libarchive::entry_perm(miembro) & 0200) == 0;
     Leido(
         miembro, lectura, lugar, nombre, lectura == Lectura::Entera && fichero.Termina(nombre, soloLectura));
 }
@@ -265,7 +265,7 @@ bool Extraccion::PuedeOcupar(
 // Of an encrypted member wrong data may as well mean a wrong password, which its user knows of.
 bool Extraccion::EsIlegible(archive_entry *miembro, Lectura lectura) const
 {
-    const bool dañada = lectura == Lectura::Dañada && archive_entry_is_data_encrypted(miembro) == 0;
+    const bool dañada = lectura == Lectura::Dañada && libarchive::entry_is_data_encrypted(miembro) == 0;
     return (dañada || lectura == Lectura::Desconocida) && !m_contraseñas.Falto();
 }
 
@@ -275,7 +275,7 @@ Extraccion::Lectura Extraccion::Copia(FicheroNuevo *fichero)
 {
     std::array<char, BloqueDeCopia> bloque;
     for (;;) {
-        const la_ssize_t leidos = archive_read_data(m_archivo, bloque.data(), bloque.size());
+        const la_ssize_t leidos = libarchive::read_data(m_archivo, bloque.data(), bloque.size());
         if (leidos == 0)
             return Lectura::Entera;
         if (leidos < 0)

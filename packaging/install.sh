@@ -5,7 +5,7 @@ set -euo pipefail
 
 declare -A packages=(
     [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libarchive-dev libxcb1-dev
-             libxcb-ewmh-dev libxcb-randr0-dev libgraphicsmagick++1-dev dasm zip"
+             libxcb-ewmh-dev libxcb-randr0-dev libgraphicsmagick++1-dev libfontconfig-dev dasm zip"
     [play]="stella fonts-liberation qt6-wayland"
     [screen]="xvfb openbox xdotool x11-utils imagemagick"
     [test]="desktop-file-utils appstream file man-db libgtest-dev libgmock-dev zip dbus at-spi2-core python3-gi gir1.2-atspi-2.0 weston qt6-wayland

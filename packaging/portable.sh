@@ -32,7 +32,11 @@ printf '[Paths]\nPrefix = .\nPlugins = plugins\n' >"$program/qt.conf"
 # Libraries, under the names by which they are looked for: a stick may know no links. "NAME PATH" for each.
 elf() { find "$program" -type f \( -name '*.so*' -o -perm -u+x \) -exec sh -c 'head -c 4 "$1" | grep -q ELF' sh {} \; -print; }
 mapfile -t binaries < <(elf | sort)
-ldd "${binaries[@]}" | awk '$2 == "=>" { print $1, $3 } /not found/ { print "missing:", $1 >"/dev/stderr"; bad = 1 } END { exit bad }' |
+archives=$(gcc -print-file-name=libarchive.so) # the program loads it where it reads one, without being linked to it
+{
+    ldd "${binaries[@]}" "$archives"
+    objdump -p "$archives" | awk -v path="$archives" '$1 == "SONAME" { print $2, "=>", path }'
+} | awk '$2 == "=>" { print $1, $3 } /not found/ { print "missing:", $1 >"/dev/stderr"; bad = 1 } END { exit bad }' |
     grep -vE '^(ld-linux.*|lib(c|m|dl|rt|pthread|util|resolv|anl|nsl)\.so\.[0-9]+) ' | sort -u >"$work/libraries"
 while read -r library path; do
     install -m 644 "$path" "$program/lib/$library"
