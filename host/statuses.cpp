@@ -3,12 +3,14 @@
 #include "host/descriptor.h"
 #include "host/encoding.h"
 #include "host/retried.h"
+#include "host/slowdisk.h"
 
 #include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <system_error>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <fcntl.h>
@@ -26,6 +28,12 @@ constexpr auto Patience = 3ms; // a disk of the machine takes a tenth of a milli
 constexpr std::size_t WorthAHelper = 512; // names; fewer are done before it has begun
 constexpr std::size_t Helpers = 1; // a second processor, where there is one
 constexpr std::size_t HelpersIfSlow = 15; // they only wait
+
+std::function<void()> &watching()
+{
+    static std::function<void()> tell;
+    return tell;
+}
 
 // One pass over the names, by as many threads as join in.
 class Looking {
@@ -92,10 +100,24 @@ void lookAtEach(const Descriptor &directory, const QStringList &names, const Tel
     std::vector<std::jthread> helpers;
     if (looking.total() >= WorthAHelper)
         addHelpers(helpers, Helpers, looking);
+    bool told = false;
     while (looking.takeSome()) {
-        if (looking.isSlow())
-            addHelpers(helpers, HelpersIfSlow, looking);
+        if (!looking.isSlow())
+            continue;
+        addHelpers(helpers, HelpersIfSlow, looking);
+        if (!std::exchange(told, true) && watching())
+            watching()();
     }
+}
+
+SlowDiskWatch::SlowDiskWatch(std::function<void()> tell)
+{
+    watching() = std::move(tell);
+}
+
+SlowDiskWatch::~SlowDiskWatch()
+{
+    watching() = nullptr;
 }
 
 } // namespace host

@@ -9,6 +9,7 @@
 #include "core/arranque.h"
 #include "core/lista.h"
 
+#include "forms/latehourglass.h"
 #include "forms/yield.h"
 
 #include "host/letters.h"
@@ -43,8 +44,11 @@ void Portada::Carga()
     M.ImagenCambio = 1;
     M.Lista1Cambio = 1;
     MuestraVentana();
-    Llena_Combos();
-    Llena_Lista();
+    {
+        const forms::LateHourglass reloj;
+        Llena_Combos();
+        Llena_Lista();
+    }
     LLena_INFO();
     MuestraEstado();
     if (!M.AjustesSinGrabar.isEmpty())

@@ -2,7 +2,10 @@
 
 #include "mundotest.h"
 
+#include "tests/host/systemcalls.h"
 #include "tests/support/witness.h"
+
+#include <QGuiApplication>
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
@@ -121,6 +124,29 @@ TEST_F(ArranqueTest, SettingsAreKept)
     EXPECT_EQ(M->Filtros(1), u" HI"_s);
     EXPECT_EQ(M->Filtros(2), QString());
     EXPECT_EQ(M->FiltrosTexto, u"CFG, HI"_s);
+}
+
+// The first one takes longer to load than a list to fill.
+TEST_F(ArranqueTest, HourglassIsShownOnceTheDiskTurnsOutToBeSlow)
+{
+    for (int i = 0; i < 40; ++i)
+        files.writeSize(u"alfa/more%1.sms"_s.arg(i), 1024);
+    QList<bool> shown;
+    const Witness pointer(*portada, QEvent::CursorChange, [&] {
+        if (portada->cursor().shape() == Qt::WaitCursor)
+            shown << !QGuiApplication::overrideCursor();
+    });
+    {
+        const systemcalls::SlowLooks slow(500'000);
+        startAt(Alfa, 0);
+    }
+    ASSERT_THAT(shown, testing::SizeIs(testing::Ge(2))); // that of the list, and that of its first entry
+    EXPECT_FALSE(shown.first());
+    EXPECT_TRUE(shown.last());
+    EXPECT_FALSE(QGuiApplication::overrideCursor());
+    shown.clear();
+    portada->Llena_Lista();
+    EXPECT_THAT(shown, testing::Each(true));
 }
 
 TEST_F(ArranqueTest, WindowComesUpAheadOfTheCatalogue)
