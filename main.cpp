@@ -10,6 +10,7 @@
 
 #include "host/desktopquestions.h"
 #include "host/display.h"
+#include "host/fontsahead.h"
 #include "host/process.h"
 
 #include "mainscreen/portada.h"
@@ -51,7 +52,9 @@ int main(int argc, char **argv)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(*factor, 'g', 12));
     host::DesktopQuestions preguntas;
     host::setQuestions(&preguntas);
+    host::FontsAhead fuentes;
     forms::Application aplicacion(argc, argv);
+    fuentes.wait();
     forms::Application::setWindowIcon(forms::artworkIcon(u"icono"_s));
 
     bool arrancando = true;
