@@ -15,7 +15,7 @@ namespace {
 
 constexpr qsizetype LargoDelApodo = 8;
 constexpr qsizetype LetrasDelNombre = 2; // of these eight, ahead of the checksum
-constexpr qsizetype LargoDeLaTerminacion = 3;
+constexpr qsizetype LetrasDeLaTerminacion = 3;
 constexpr qsizetype MasLargaLaBase = 100; // in bytes: Windows opens paths of 259 characters
 constexpr qsizetype MasLargoElPrefijo = 200; // of 255: the rest is for the name that the game gave
 constexpr char Separa[] = " - ";
@@ -59,12 +59,12 @@ QByteArray baseDe(const QByteArray &nombre)
     return nombre.first(punto < 0 ? nombre.size() : punto);
 }
 
-bool mismoNombre(const QByteArray &uno, const QByteArray &otro)
+} // namespace
+
+bool MismoNombre(const QByteArray &uno, const QByteArray &otro)
 {
     return host::sameName(host::nameFromDisk(uno), host::nameFromDisk(otro));
 }
-
-} // namespace
 
 QByteArray ApodoEnDOS(const QByteArray &fichero)
 {
@@ -72,7 +72,7 @@ QByteArray ApodoEnDOS(const QByteArray &fichero)
     const qsizetype punto = nombre.lastIndexOf(u'.');
     const QByteArray letras = llano(nombre.first(punto < 0 ? nombre.size() : punto), LetrasDelNombre);
     const QByteArray terminacion =
-        punto < 0 ? QByteArray() : llano(nombre.sliced(punto + 1), LargoDeLaTerminacion);
+        punto < 0 ? QByteArray() : llano(nombre.sliced(punto + 1), LetrasDeLaTerminacion);
     return letras + sumaDe(fichero, LargoDelApodo - letras.size())
         + (terminacion.isEmpty() ? QByteArray() : '.' + terminacion);
 }
@@ -103,9 +103,9 @@ QByteArray PrefijoEnCasa(const QByteArray &fichero)
 QByteArray NombreEnCasa(const QByteArray &fichero, const QByteArray &apodo, const QByteArray &nombre)
 {
     const QByteArray base = baseDe(apodo);
-    const bool suyo = mismoNombre(nombre.first(std::min(nombre.size(), base.size())), base)
+    const bool suyo = MismoNombre(nombre.first(std::min(nombre.size(), base.size())), base)
         && nombre.sliced(base.size()).startsWith('.');
-    if (mismoNombre(nombre, apodo))
+    if (MismoNombre(nombre, apodo))
         return PrefijoEnCasa(fichero) + EnLugarDelJuego;
     return PrefijoEnCasa(fichero) + (suyo ? nombre.sliced(base.size()) : nombre);
 }

@@ -6,6 +6,9 @@
 
 namespace launch {
 
+// Two names of entries, in any case.
+bool MismoNombre(const QByteArray &uno, const QByteArray &otro);
+
 // "NIA0B1C2.NES" for "niño.nes": eight characters, of which six are a checksum of the whole name. It depends
 // on nothing else, and two games have the same one once in two thousand million: so also an emulator that
 // keeps what they save in a directory of its own tells them apart.

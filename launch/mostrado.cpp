@@ -34,11 +34,6 @@ QByteArray nombreDe(const QByteArray &ruta)
     return ruta.sliced(ruta.lastIndexOf('/') + 1);
 }
 
-bool mismoNombre(const QByteArray &uno, const QByteArray &otro)
-{
-    return host::sameName(host::nameFromDisk(uno), host::nameFromDisk(otro));
-}
-
 bool esElMismo(const std::optional<struct stat> &uno, const std::optional<struct stat> &otro)
 {
     return uno && otro && uno->st_dev == otro->st_dev && uno->st_ino == otro->st_ino;
@@ -170,7 +165,7 @@ private:
             && estado->st_mtim.tv_nsec == enlace.visto.tv_nsec;
         return enlace.propio && comoEntonces && S_ISREG(estado->st_mode)
             && std::ranges::none_of(
-                m_entradas, [&](const QByteArray &entrada) { return mismoNombre(entrada, enlace.nombre); });
+                m_entradas, [&](const QByteArray &entrada) { return MismoNombre(entrada, enlace.nombre); });
     }
     static bool muda(const QByteArray &fichero, const QByteArray &ruta, const QByteArray &nuevo)
     {
@@ -218,7 +213,7 @@ Mostrado::Mostrado(const QByteArray &enlaces)
         const auto estado = EstadoDe(ruta);
         m_enlaces.insert(destino,
             { estado ? estado->st_mtim : timespec(), nombre, ruta, destino,
-                mismoNombre(nombreDe(destino), nombre) });
+                MismoNombre(nombreDe(destino), nombre) });
     }
     // Under made-up names there are the game, and what begins with its name at home.
     const auto esDe = [&](const QByteArray &destino, const Enlace &enlace, const QByteArray &juego) {
@@ -243,7 +238,7 @@ Mostrado::Mostrado(const QByteArray &enlaces)
 const Mostrado::Enlace *Mostrado::Propio(const QByteArray &nombre) const
 {
     const auto suyo = std::ranges::find_if(
-        m_enlaces, [&](const Enlace &enlace) { return enlace.propio && mismoNombre(enlace.nombre, nombre); });
+        m_enlaces, [&](const Enlace &enlace) { return enlace.propio && MismoNombre(enlace.nombre, nombre); });
     return suyo == m_enlaces.end() ? nullptr : &*suyo;
 }
 
@@ -262,7 +257,7 @@ const Mostrado::Enlace *Mostrado::Renombrado(const QByteArray &ruta, bool deArri
     const QByteArray destino = destinoDelEnlace(ruta);
     const auto enlace = destino.isEmpty() ? m_enlaces.end() : m_enlaces.find(destino);
     const bool enSuSitio =
-        enlace != m_enlaces.end() && deArriba && mismoNombre(enlace->nombre, nombreDe(ruta));
+        enlace != m_enlaces.end() && deArriba && MismoNombre(enlace->nombre, nombreDe(ruta));
     return enlace == m_enlaces.end() || enSuSitio ? nullptr : &*enlace;
 }
 
