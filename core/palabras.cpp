@@ -35,6 +35,8 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zem_SoloTamano1", &P::Zem_SoloTamano1 },
         { u"Zem_NoZip0", &P::Zem_NoZip0 },
         { u"Zem_NoZip1", &P::Zem_NoZip1 },
+        { u"Zem_NoJunto0", &P::Zem_NoJunto0 },
+        { u"Zem_NoJunto1", &P::Zem_NoJunto1 },
         { u"Zem_NoCampo0", &P::Zem_NoCampo0 },
         { u"Zem_NoCampo1", &P::Zem_NoCampo1 },
         { u"Zem_NoFiltro0", &P::Zem_NoFiltro0 },

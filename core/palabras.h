@@ -52,6 +52,8 @@ struct Palabras {
     // Playing one out of an archive.
     QString Zem_NoZip0 = QStringLiteral("ZIP ilegible");
     QString Zem_NoZip1 = QStringLiteral("El ZIP está dañado, o es demasiado antiguo.");
+    QString Zem_NoJunto0 = QStringLiteral("Sin descomprimir");
+    QString Zem_NoJunto1 = QStringLiteral("No se puede escribir en el directorio del emulador.");
 
     // What the desktop lacks.
     QString Zem_Falta0 = QStringLiteral("Falta un programa");

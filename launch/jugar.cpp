@@ -21,6 +21,7 @@
 #include "host/letters.h"
 #include "host/paths.h"
 #include "host/questions.h"
+#include "host/replacement.h"
 
 #include <chrono>
 #include <optional>
@@ -74,6 +75,7 @@ private:
     FicheroDelZip BuscaEnElZip(const QString &carpeta);
     void Tipo2();
     QString CarpetaEnDOS(QString &nombre) const;
+    bool NadaSeDesempaquetaEn(const QString &Carpeta) const;
     void Tipo3();
 
     QString LeeCatalogo(const Tabla &tabla, int prefijo) const;
@@ -232,8 +234,23 @@ void Lanzamiento::Tipo2()
         miembros = Desempaqueta(archivo, ruta);
     if (miembros.nadaLegible)
         AvisaDeIlegible();
+    else if (host::exists(archivo.enDisco) && NadaSeDesempaquetaEn(Carpeta))
+        m_obras.Aviso(M.Palabras.Zem_NoJunto0, M.Palabras.Zem_NoJunto1);
     Corre(Caso::Comprimido);
     m_obras.LimpiaCarpeta(miembros.ficheros);
+}
+
+// On a disk that can't be written to. What was unpacked there beforehand serves.
+bool Lanzamiento::NadaSeDesempaquetaEn(const QString &Carpeta) const
+{
+    const QString &ExeDir = m_piezas.programa.ExeDir.enDisco;
+    if (ExeDir.isEmpty() || Carpeta.isEmpty())
+        return false;
+    if (!host::exists(ExeDir + Carpeta))
+        return host::liesInReadOnlyPlace(ExeDir + Carpeta);
+    QByteArrayList entradas;
+    return Intenta([&] { entradas = host::listInDiskOrder(ExeDir + Carpeta); }) && entradas.isEmpty()
+        && host::liesInReadOnlyPlace(ExeDir + Carpeta + u"/x"_s);
 }
 
 // The name was short among the archives: beside the emulator it may be something else's. DOS gets the one

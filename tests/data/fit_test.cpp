@@ -59,7 +59,7 @@ const QStringList Warnings { u"Msg_EmuYaAñadido"_s, u"Msg_SisYaAñadido"_s, u"M
     u"Zem_NoParam"_s, u"Zem_NoNombre"_s, u"Zem_Cambiado"_s, u"Zem_NoCampo"_s, u"Zem_NoFiltro"_s,
     u"Zem_NoFinal"_s, u"Zem_Comillas"_s, u"Zem_SoloLeer"_s };
 const QStringList Notices { u"Msg_EmuNoWeb"_s, u"Msg_SisNoWeb"_s, u"Msg_ZipSinRoms"_s, u"Msg_CFGGrabada"_s,
-    u"Msg_GrabacionOK"_s, u"Msg_ArchGrande"_s, u"Zem_NoZip"_s, u"Zem_NoTmp"_s };
+    u"Msg_GrabacionOK"_s, u"Msg_ArchGrande"_s, u"Zem_NoZip"_s, u"Zem_NoJunto"_s, u"Zem_NoTmp"_s };
 
 const QStringList JoinedInNotices { u"Msg_IMGTransXX"_s, u"Msg_IMGTrans1I"_s, u"Msg_IMGTrans1D"_s,
     u"Msg_IMGTransMI"_s, u"Msg_IMGTransMD"_s, u"Msg_NoDiscoX0"_s, u"Msg_NoDiscoI1"_s, u"Msg_NoDiscoD1"_s };

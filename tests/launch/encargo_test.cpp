@@ -364,8 +364,7 @@ TEST_F(EncargoTest, TheCommandNamesTheDrivesThatDosGets)
                 QString dicho = ensayo.orden->EnTexto();
                 if (tipo == 5) // the program alone stands there
                     dicho.prepend(QString::fromLatin1(enDOS).first(enDOS.lastIndexOf('\\') + 1));
-                EXPECT_EQ(
-                    dicho.toUpper().trimmed().toStdString(), QByteArray(enDOS).toUpper().toStdString())
+                EXPECT_EQ(dicho.toUpper().trimmed().toStdString(), QByteArray(enDOS).toUpper().toStdString())
                     << unidades.constData() << entrada.toStdString();
             }
         }

@@ -112,6 +112,8 @@ Escenario::Escenario()
     M.Msg_ZipSinRoms1 = u"Zip1"_s;
     M.Palabras.Zem_NoZip0 = u"No0"_s;
     M.Palabras.Zem_NoZip1 = u"No1"_s;
+    M.Palabras.Zem_NoJunto0 = u"Junto0"_s;
+    M.Palabras.Zem_NoJunto1 = u"Junto1"_s;
     M.DebugMode = u"0"_s;
     M.MsgEndDOS = u"Finalizado"_s;
     EXPECT_EQ(chdir(place("program").constData()), 0);

@@ -3,6 +3,7 @@
 #include "zipdeprueba.h"
 
 #include "launch/destino.h"
+#include "launch/ensayo.h"
 #include "launch/jugar.h"
 
 #include "host/paths.h"
@@ -135,6 +136,34 @@ TEST_P(PorLasDosVias, WhereTheDirectoryCanNotBeMadeTheEmulatorStartsAnyway)
     juega(GetParam());
     EXPECT_EQ(Argumentos(), QByteArrayList({ "-1", "mario", "-2" }));
     EXPECT_EQ(bytes("emu/mario"), "in the way");
+}
+
+// A directory for the game that was unpacked there beforehand serves.
+TEST_P(PorLasDosVias, WhereNothingCanBeWrittenBesideTheEmulatorTheUserIsTold)
+{
+    const QString dicho = u"Aviso Junto0: Junto1"_s;
+    const auto avisa = [&] {
+        setMode("emu", 0555);
+        const int estado = inChildOfOrdinaryUser([&] {
+            pantalla.lista1 = GetParam();
+            pantalla.llamadas.clear();
+            const bool alEnsayar = !launch::Ensaya(M, pantalla).aviso.isEmpty();
+            Juega();
+            return (pantalla.llamadas.contains(dicho) ? 1 : 0) + (alEnsayar ? 2 : 0);
+        });
+        setMode("emu", 0755);
+        return estado;
+    };
+    setMode("out", 0777);
+    EXPECT_EQ(avisa(), 3);
+    EXPECT_TRUE(HuboJuego());
+    makeDirectory("emu/mario");
+    EXPECT_EQ(avisa(), 3) << "it is empty";
+    makeFile("emu/mario/rom.bin");
+    EXPECT_EQ(avisa(), 0);
+    ASSERT_EQ(unlink(place("roms/mario.zip").constData()), 0);
+    ASSERT_EQ(unlink(place("emu/mario/rom.bin").constData()), 0);
+    EXPECT_EQ(avisa(), 0) << "there is nothing to unpack";
 }
 
 TEST_P(PorLasDosVias, ALinkInTheDirectorysPlaceIsNeitherUnpackedIntoNorEmptied)
