@@ -74,6 +74,12 @@ QString withoutTrailingPoints(QString name)
     return name;
 }
 
+bool isBeyondAscii(QChar letter)
+{
+    constexpr char16_t FirstBeyond = 128;
+    return letter >= QChar(FirstBeyond);
+}
+
 // False only if this name surely has another plain form than this one, which is in upper case. Letters beyond
 // ASCII may be written in several ways, so that they prove nothing.
 bool mayShareForm(QStringView name, QStringView form)
@@ -215,10 +221,30 @@ QString Directory::find(const QString &name) const
 {
     if (const Entry *entry = named(name))
         return entry->name;
-    if (!m_shortFormsNamed && !mayBeShortForm(name))
+    if (m_shortFormsNamed || mayBeShortForm(name)) {
+        nameShortForms();
+        const auto form = m_byShortForm.constFind(upper(name));
+        if (form != m_byShortForm.constEnd())
+            return *form;
+    }
+    return findOld(name);
+}
+
+// The first one in the order of names counts.
+QString Directory::findOld(const QString &name) const
+{
+    if (std::none_of(name.begin(), name.end(), isBeyondAscii))
         return {};
-    nameShortForms();
-    return m_byShortForm.value(upper(name));
+    for (std::size_t i = m_oldNamed ? m_entries.size() : 0; i < m_entries.size(); ++i) {
+        const QString &own = m_entries[i].name;
+        const DecodedText text =
+            std::any_of(own.begin(), own.end(), isBeyondAscii) ? decodeText(nameToDisk(own)) : DecodedText();
+        if (!text.text.isEmpty() && text.encoding == Encoding::Windows1252
+            && !m_byOldName.contains(upper(text.text)))
+            m_byOldName.insert(upper(text.text), own);
+    }
+    m_oldNamed = true;
+    return m_byOldName.value(upper(name));
 }
 
 bool Directory::holdsFile(const QString &name) const

@@ -35,8 +35,9 @@ public:
     // In the order of names, ties by bytes, without "." and "..".
     const std::vector<Entry> &entries() const { return m_entries; }
 
-    // The entry of this name, else the first that has it in any case, or else the one that has this short
-    // form, spelled as it is. Empty if there is none.
+    // The entry of this name, else the first that has it in any case, else the one that has this short form,
+    // or else one of an old disk, whose bytes are no UTF-8 and read so by Windows's code page; spelled as it
+    // is. Empty if there is none.
     QString find(const QString &name) const;
 
     // True if what find gives was a plain file at the reading; false also where the reading didn't tell.
@@ -51,11 +52,14 @@ private:
     bool isAloneWith(const QString &name, const QString &plain) const;
     bool mayBeShortForm(const QString &name) const;
     void nameShortForms() const;
+    QString findOld(const QString &name) const;
 
     std::vector<Entry> m_entries;
     mutable QHash<QString, QString> m_shortForms; // by name, of those whose form isn't the name itself
     mutable QHash<QString, QString> m_byShortForm; // by upper-cased form
     mutable bool m_shortFormsNamed = false;
+    mutable QHash<QString, QString> m_byOldName; // by upper-cased text
+    mutable bool m_oldNamed = false;
     mutable std::size_t m_next = 0; // behind the one found last and its equals
 };
 

@@ -283,6 +283,25 @@ TEST_F(LaunchesInDosBox, WhatAGameWithAccentsSavesReplacesNoFileThatItDidNotSee)
     EXPECT_THAT(host::listInDiskOrder(path(u"tmp"_s)), IsEmpty());
 }
 
+// Of a disk that was written with Windows's code page.
+TEST_F(LaunchesInDosBox, ADirectoryWhoseNameIsNoUtf8IsReached)
+{
+    NameBoth();
+    PutProgram("tells.com", "old/EMUS/nes.com");
+    makeDirectory("media/ROMS/NI\xD1OS");
+    makeFile("media/ROMS/NI\xD1OS/Super Mario.nes", "a game");
+    makeFile("media/ROMS/NI\xD1OS/el ni\xF1o.nes", "a child");
+    Select(0, u"C:\\EMUS\\NES.COM"_s, u"D:\\ROMS\\Niños\\"_s);
+    pantalla.lista1 = u"Super Mario.nes"_s;
+    Juega();
+    EXPECT_THAT(Notices(), IsEmpty());
+    EXPECT_THAT(Told("old/EMUS"), ElementsAre("  E:\\SUPERM~1.NES", "EMUS", "a game"));
+    pantalla.lista1 = host::nameFromDisk("el ni\xF1o.nes");
+    Juega();
+    EXPECT_THAT(
+        Told("old/EMUS"), ElementsAre("  E:\\" + launch::ApodoEnDOS("el ni\xF1o.nes"), "EMUS", "a child"));
+}
+
 // Which no drive of one game's own keeps apart.
 TEST_F(LaunchesInDosBox, GamesOfLikeNamesAreToldApartInTheEmulatorsOwnDirectory)
 {

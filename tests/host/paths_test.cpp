@@ -68,6 +68,21 @@ TEST_F(Finding, NothingIsFound_OfANameWithANullCharacter)
     EXPECT_EQ(findForWriting(path(u"a\0b"_s)), QByteArray());
 }
 
+TEST_F(Finding, NamesOfAnOldDiskAreFoundByWhatTheirBytesMean)
+{
+    makeDirectory("NI\xD1OS");
+    makeDirectory("NI\xD1OS/\xC9poca");
+    makeFile("NI\xD1OS/\xC9poca/a\xF1o.txt");
+    for (const QString &name :
+        { u"NIÑOS/Época/año.txt"_s, u"niños\\ÉPOCA\\AÑO.TXT"_s, u"Niños./época/AÑO.TXT "_s })
+        EXPECT_EQ(findOnDisk(path(name)), place("NI\xD1OS/\xC9poca/a\xF1o.txt")) << name.toStdString();
+    EXPECT_EQ(findOnDisk(path(u"NINOS"_s)), QByteArray());
+    EXPECT_EQ(findOnDisk(path(u"NIÓOS"_s)), QByteArray());
+    EXPECT_EQ(findOnDisk(path(nameFromDisk("ni\xD1os"))), place("NI\xD1OS")) << "as ever";
+    makeDirectory("ni\xC3\xB1os");
+    EXPECT_EQ(findOnDisk(path(u"NIÑOS/"_s)), place("ni\xC3\xB1os/")) << "which says it itself";
+}
+
 TEST_F(Finding, EachComponentIsFoundInAnyCase)
 {
     makeDirectory("Roms");
