@@ -57,6 +57,11 @@ class EncargoDOS {
 public:
     Encargo encargo;
 
+    void Prefiere(const Lugares &lugares)
+    {
+        m_unidades.Prefiere(lugares.exe);
+        m_unidades.Prefiere(lugares.rom);
+    }
     void Programa(const QString &programa)
     {
         const std::optional<QByteArray> dicho = m_unidades.Ruta(programa);
@@ -120,6 +125,7 @@ Encargo paraDOS(const LineaDeOrden &orden, const QString &programa, const Lugare
     dos.encargo.argumentos = { dos.encargo.herramienta };
     if (dos.encargo.herramienta.isEmpty())
         dos.encargo.traba = Traba::SinHerramienta;
+    dos.Prefiere(lugares);
     dos.Programa(programa);
     for (std::size_t i = 1; i < orden.Piezas().size(); ++i)
         dos.Pieza(orden.Piezas()[i]);
@@ -157,6 +163,7 @@ Encargo paraWindows(const LineaDeOrden &orden, const QString &programa)
 Lugares LugaresDe(const core::Modulo &M, int sistema, int fila)
 {
     Lugares lugares;
+    Intenta([&] { lugares.exe = core::RutaDeLinea(M.Cat_EXE(sistema, fila)); });
     Intenta([&] { lugares.rom = core::RutaDeLinea(M.Cat_ROM(sistema, fila)); });
     for (const auto *tabla : { &M.Cat_PAR1, &M.Cat_PAR2 })
         Intenta([&] { lugares.parametros += core::Valor((*tabla)(sistema, fila), core::PrefijoParametro); });

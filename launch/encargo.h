@@ -43,8 +43,10 @@ struct Encargo {
     std::vector<UnidadesDOS::Montaje> apodos; // files of it that Wine can't open by their names
 };
 
-// Where an emulator may go to by its own configuration, besides what stands in the command line.
+// Where an emulator may go to by its own configuration, besides what stands in the command line: as the
+// catalogue has it.
 struct Lugares {
+    QString exe;
     QString rom; // the directory of its games
     QStringList parametros;
 };

@@ -155,6 +155,8 @@ void Lanzamiento::MiraSiEsDeDOS()
     if (core::ClaseDe(EXE()) != core::ClaseDePrograma::DOS)
         return;
     m_dos = &m_unidades;
+    m_unidades.Prefiere(EXE());
+    m_unidades.Prefiere(LeeRuta(M.Cat_ROM));
     ProgramaDe(EXE(), m_dos);
 }
 

@@ -9,6 +9,7 @@
 #include "host/volumes.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace launch {
 
@@ -108,13 +109,14 @@ std::optional<QByteArray> UnidadesDOS::RutaOApodo(const QString &enDisco)
     return unidad->letra + (":\\" + unidad->apodos[0].nombre);
 }
 
-// The drive that lies nearest above it, and what it is there.
+// The drive that lies nearest above it, or one that is preferred, and what it is there.
 UnidadesDOS::Dicho UnidadesDOS::masCercana(const QByteArray &lugar)
 {
     Dicho mejor;
     for (Unidad &unidad : m_unidades) {
+        const auto rango = [](const Unidad &una) { return std::pair(una.preferida, una.lugar.size()); };
         if (!unidad.apodos.empty() || !lugar.startsWith(unidad.lugar)
-            || (mejor.unidad && unidad.lugar.size() <= mejor.unidad->lugar.size()))
+            || (mejor.unidad && rango(unidad) <= rango(*mejor.unidad)))
             continue;
         if (const auto posible = directoriosDesde(unidad.lugar, lugar.sliced(unidad.lugar.size())))
             mejor = { &unidad, *posible };
@@ -131,6 +133,13 @@ std::optional<QByteArray> UnidadesDOS::directorio(const QByteArray &lugar)
         return std::nullopt;
     dicho.unidad->montada = true;
     return dicho.unidad->letra + (':' + dicho.directorio);
+}
+
+void UnidadesDOS::Prefiere(const QString &tecleada)
+{
+    const auto unidad = std::ranges::find(m_unidades, host::driveLetter(tecleada).toLatin1(), &Unidad::letra);
+    if (unidad != m_unidades.end())
+        unidad->preferida = true;
 }
 
 void UnidadesDOS::NombraLaDe(const QString &directorio)

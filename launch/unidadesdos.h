@@ -30,6 +30,10 @@ public:
         std::vector<Apodo> apodos = {}; // if there are any, the drive shows DOS nothing else of its place
     };
 
+    // Where a place lies on several of the user's drives, the one that a path names that was typed goes ahead
+    // of the nearest.
+    void Prefiere(const QString &tecleada);
+
     // "D:\ROMS\GAME.NES", for an absolute path in its spelling on the disk; of a directory that ends in a
     // slash with its backslash. None where DOS can't open a file of this name, or all letters are given.
     std::optional<QByteArray> Ruta(const QString &enDisco);
@@ -52,6 +56,7 @@ private:
         QByteArray lugar; // with a closing slash
         bool montada;
         std::vector<Apodo> apodos = {};
+        bool preferida = false;
     };
 
     struct Dicho {

@@ -371,6 +371,39 @@ TEST_F(EncargoTest, TheCommandNamesTheDrivesThatDosGets)
     }
 }
 
+// Its own settings may name that drive.
+TEST_F(EncargoTest, OfDrivesWithinOneAnotherTheOneThatTheCatalogueNamesCounts)
+{
+    Pon(ParaDOS);
+    PonHerramienta("dosbox");
+    makeFile("program/Zembro.uni", "C=" + place() + "\nD=" + place("roms") + "\nE=" + place("emu") + "\n");
+    struct Caso {
+        QString exe;
+        QString rom;
+        QByteArray enDOS;
+        QString letras;
+    };
+    for (const Caso &caso : std::initializer_list<Caso> {
+             { u"C:\\emu\\nes.exe"_s, u"C:\\roms\\"_s, "C:\\EMU\\NES.EXE  C:\\ROMS\\MARIO.NES", u"C"_s },
+             { u"c:\\emu\\nes.exe"_s, u"D:\\"_s, "C:\\EMU\\NES.EXE  D:\\MARIO.NES", u"CD"_s },
+             { u"E:\\nes.exe"_s, u"C:\\roms\\"_s, "E:\\NES.EXE  C:\\ROMS\\MARIO.NES", u"CE"_s },
+             { u"E:\\nes.exe"_s, path(u"roms/"_s), "E:\\NES.EXE  D:\\MARIO.NES", u"DE"_s },
+             { path(u"emu/nes.exe"_s), path(u"roms/"_s), "E:\\NES.EXE  D:\\MARIO.NES", u"DE"_s } }) {
+        M.Cat_EXE(3, 2) = u"EXE="_s + caso.exe;
+        M.Cat_ROM(3, 2) = u"ROM="_s + caso.rom;
+        M.Cat_XDI(3, 2) = u"XDI=0"_s;
+        pantalla.lista1 = u"mario.nes"_s;
+        const launch::Ensayo ensayo = launch::Ensaya(M, pantalla);
+        EXPECT_EQ(ensayo.encargo.programaDOS + ensayo.encargo.colaDOS, caso.enDOS);
+        EXPECT_EQ(ensayo.orden.value_or(LineaDeOrden()).EnTexto().toUpper().trimmed(),
+            QString::fromLatin1(caso.enDOS));
+        QString letras;
+        for (const auto &montaje : ensayo.encargo.montajes)
+            letras += QLatin1Char(montaje.letra);
+        EXPECT_EQ(letras, caso.letras) << caso.enDOS.constData();
+    }
+}
+
 TEST_F(EncargoTest, AnEmulatorThatDosCantOpenByItsNameIsRefused)
 {
     makeFile("emu/n\xC3\xA9s.exe", ParaDOS);
