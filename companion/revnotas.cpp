@@ -184,6 +184,8 @@ void RevisorDeNotas::Sistema(const QString &sistema, size_t desde)
         if (!linea.isEmpty() && ++cuantas == core::MaxROMs)
             return halla(
                 u"too-many-notes"_s, m_palabras.Zbo_MuchasNotas.arg(sistema).arg(core::MaxROMs - 1), i);
+        if (m_sistemas.contains(linea))
+            continue; // the block that it should have ended is a finding, and so is a second one
         if (linea.isEmpty() || !estaEntero(linea, registro, CamposDeNota, i))
             continue;
         const QString &clave = registro.campos.first();

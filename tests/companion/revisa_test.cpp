@@ -234,6 +234,13 @@ TEST_F(Check, NotesThatRunIntoTheNextSystemsAreSaid_AndMended)
     EXPECT_THAT(clases(), IsEmpty());
 }
 
+TEST_F(Check, AHeadingInTheMiddleOfNotesIsNoRecordThatACommaCuts)
+{
+    Cambia(u"Zembro.rom"_s, "Sis\r\n", "Sis\r\nSis\r\n");
+    EXPECT_THAT(clases(), testing::Contains(u"block-without-end"_s));
+    EXPECT_THAT(clases(), testing::Not(testing::Contains(u"cut-record"_s)));
+}
+
 TEST_F(Check, ASystemWithoutNotesIsSaid_AndMended)
 {
     Cambia(u"Zembro.rom"_s, "Sis\r\nMARIO.NES,\"Super Mario\"\r\n'\r\n", "");
