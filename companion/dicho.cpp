@@ -49,9 +49,12 @@ QString impedimento(const Sesion &sesion, const launch::Ensayo &ensayo)
 
 MotivoDeParo motivoDe(const Sesion &sesion, const Pareja &pareja, const launch::Ensayo &ensayo)
 {
+    const std::optional<QString> falta = programaQueFalta(sesion.M, pareja);
+    const QString pegado = ProgramaPegado(sesion.M, pareja);
+    if (!falta && !pegado.isEmpty())
+        return { sesion.palabras.Zbo_ParPegado.arg(pegado), {} };
     if (!ensayo.orden || !ensayo.orden->Argumentos().isEmpty())
         return { impedimento(sesion, ensayo), {} };
-    const std::optional<QString> falta = programaQueFalta(sesion.M, pareja);
     if (!falta)
         return { sesion.palabras.Zbo_SinPrograma, {} };
     return { NoHayPrograma(*falta, sesion.palabras), ProgramaParecido(*falta) };

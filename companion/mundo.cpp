@@ -128,6 +128,15 @@ int TipoDe(const core::Modulo &M, const Pareja &pareja)
     return core::Numero(core::TipoDe(M.Cat_XDI(pareja.sistema, pareja.fila)));
 }
 
+QString ProgramaPegado(const core::Modulo &M, const Pareja &pareja)
+{
+    const QString parametros = core::Valor(M.Cat_PAR1(pareja.sistema, pareja.fila), core::PrefijoParametro);
+    const QString exe = core::RutaDeLinea(M.Cat_EXE(pareja.sistema, pareja.fila));
+    const bool pegado =
+        core::CargaSoloElEmulador(TipoDe(M, pareja)) && !parametros.isEmpty() && !parametros.startsWith(u' ');
+    return pegado ? exe.sliced(host::lastSeparator(exe) + 1) + host::lower(parametros) : QString();
+}
+
 Listado Lista(Sesion &sesion, const Pareja &pareja)
 {
     core::Modulo &M = sesion.M;

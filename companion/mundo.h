@@ -44,6 +44,10 @@ QString DirectorioDeJuegos(const core::Modulo &M, const Pareja &pareja);
 QString DirectorioDeCapturas(const core::Modulo &M, const Pareja &pareja);
 int TipoDe(const core::Modulo &M, const Pareja &pareja);
 
+// What would be started instead of the program in types 5 to 8, whose parameters stand right behind its name;
+// empty where a blank stands between them.
+QString ProgramaPegado(const core::Modulo &M, const Pareja &pareja);
+
 struct Listado {
     core::Recuento recuento;
     QString resumen; // the line over the list

@@ -274,6 +274,7 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_EXENoFichero", &P::Zbo_EXENoFichero },
         { u"Zbo_EXECortado", &P::Zbo_EXECortado },
         { u"Zbo_ParComillas", &P::Zbo_ParComillas },
+        { u"Zbo_ParPegado", &P::Zbo_ParPegado },
         { u"Zbo_CapCortada", &P::Zbo_CapCortada },
         { u"Zbo_JuegoNoLee", &P::Zbo_JuegoNoLee },
         { u"Zbo_ZipRoto", &P::Zbo_ZipRoto },

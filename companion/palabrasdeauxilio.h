@@ -35,6 +35,10 @@ struct PalabrasDeAuxilio {
     QString Zbo_ParComillas = QStringLiteral("The double quotes of these parameters aren't closed, so all "
                                              "behind them is one argument; close them: %1");
 
+    QString Zbo_ParPegado =
+        QStringLiteral("Where the emulator starts alone, PAR1 follows its name as it stands, and there is no "
+                       "program %1; put a blank ahead of the parameters.");
+
     // Pictures and games that are damaged.
     QString Zbo_CapCortada =
         QStringLiteral("%1 is cut, so only a part of it shows; bring it back, or let captures make it anew.");

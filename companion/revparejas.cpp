@@ -110,6 +110,8 @@ void RevisorDePareja::Programa()
             halla(u"similar-program"_s, m_palabras.Zbo_Parecido.arg(otro), m_lineas.EXE);
         return;
     }
+    if (const QString pegado = ProgramaPegado(M, m_pareja); !pegado.isEmpty())
+        return halla(u"parameters-joined"_s, m_palabras.Zbo_ParPegado.arg(pegado), m_lineas.XDI);
     if (EncargoDe(M, m_pareja).corredor != launch::Corredor::Ninguno)
         return;
     if (const std::optional<Impedimento> falta = ImpedimentoDe(enDisco, m_palabras))

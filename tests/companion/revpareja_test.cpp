@@ -109,6 +109,22 @@ TEST_F(CheckPair, AProgramThatIsCutIsSaid)
     EXPECT_THAT(clases(SisUno), IsEmpty());
 }
 
+TEST_F(CheckPair, ParametersThatJoinTheProgramsNameAreSaid)
+{
+    Cambia(u"Zembro.emu"_s, "XDI=NO.0", "XDI=NO.5");
+    for (const auto &[par, seDice] : { std::pair(" -Full", false), { "", false }, { "-Full", true } }) {
+        const QByteArray linea = QByteArray("PAR1=") + par;
+        QByteArray catalogo = Bytes(u"Zembro.emu"_s);
+        const qsizetype principio = catalogo.indexOf("PAR1=");
+        catalogo.replace(principio, catalogo.indexOf("\r\n", principio) - principio, linea);
+        Pon(u"Zembro.emu"_s, catalogo);
+        EXPECT_EQ(clases(SisUno).contains(u"parameters-joined"_s), seDice) << par;
+        EXPECT_EQ(dicho().contains("there is no program uno.sh-full; put a blank ahead"), seDice);
+        EXPECT_EQ(
+            Zembro({ u"command"_s, u"Sis"_s, u"Uno"_s }).salida.contains("put a blank ahead of"), seDice);
+    }
+}
+
 TEST_F(CheckPair, ParametersInTheLineOfTheProgramAreSaid)
 {
     const QByteArray exe = Ruta(u"emu/uno.sh"_s).toUtf8();
@@ -377,7 +393,7 @@ TEST_F(CheckPair, OfAZIPWithoutAGameWhatHelpsIsSaid)
     Pon(u"roms/Locked.zip"_s, ZipCifrado({ { .nombre = "Locked.nes" } }, "secret"));
     EXPECT_THAT(clases(SisUno), ElementsAre(u"zip-encrypted"_s, u"zip-without-game"_s));
     Cambia(u"Zembro.emu"_s, "NO.0", "NO.5");
-    EXPECT_THAT(clases(SisUno), IsEmpty());
+    EXPECT_THAT(clases(SisUno), ElementsAre(u"parameters-joined"_s));
 }
 
 // Where the advice is followed, the finding is gone; where none helps, none is given.
