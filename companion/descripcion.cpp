@@ -96,7 +96,8 @@ bool leeMAME(const Sesion &sesion, const QString &mame, LectorDeFuente &lector)
         sesion.Falla(sesion.palabras.Zbo_SinMAME);
         return false;
     }
-    const QString motivo = LeeListaDeMAME(mame, [&](const QByteArray &trozo) { lector.Trozo(trozo); });
+    const QString motivo =
+        LeeListaDeMAME(mame, sesion.palabras, [&](const QByteArray &trozo) { lector.Trozo(trozo); });
     if (!motivo.isEmpty())
         sesion.Falla(sesion.palabras.Zbo_MAMEMal.arg(mame, motivo));
     return motivo.isEmpty();

@@ -1,5 +1,7 @@
 #include "companion/mame.h"
 
+#include "companion/porque.h"
+
 #include "core/rutas.h"
 
 #include "finder/eleccion.h"
@@ -31,12 +33,14 @@ QString MAMEDe(const core::Modulo &M, const std::vector<Pareja> &parejas)
     return finder::RutaDePrograma({ u"mame"_s, u"org.mamedev.MAME"_s }, finder::LugaresDeLaMaquina());
 }
 
-QString LeeListaDeMAME(const QString &mame, const std::function<void(const QByteArray &)> &toma)
+QString LeeListaDeMAME(
+    const QString &mame, const Palabras &palabras, const std::function<void(const QByteArray &)> &toma)
 {
     const host::ProcessEnd final = host::readProgram({ mame, u"-listxml"_s }, {}, PacienciaConMame, toma);
     if (final.signal)
-        return u"signal "_s + QString::number(*final.signal);
-    return final.status == 0 ? QString() : u"status "_s + QString::number(final.status.value_or(-1));
+        return palabras.Zbo_PorLaSenal.arg(NombreDeSenal(*final.signal));
+    const int estado = final.status.value_or(0);
+    return estado == 0 ? QString() : palabras.Zbo_ConElEstado.arg(estado);
 }
 
 } // namespace companion

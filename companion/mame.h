@@ -15,6 +15,7 @@ QString MAMEDe(const core::Modulo &M, const std::vector<Pareja> &parejas);
 
 // Hands on its whole list, which has hundreds of megabytes, piece by piece. Yields why it came to no good
 // end, in words that follow its name; empty if it did. Fails as host::readProgram.
-QString LeeListaDeMAME(const QString &mame, const std::function<void(const QByteArray &)> &toma);
+QString LeeListaDeMAME(
+    const QString &mame, const Palabras &palabras, const std::function<void(const QByteArray &)> &toma);
 
 } // namespace companion

@@ -263,6 +263,8 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_OpMame", &P::Zbo_OpMame },
         { u"Zbo_SinMAME", &P::Zbo_SinMAME },
         { u"Zbo_MAMEMal", &P::Zbo_MAMEMal },
+        { u"Zbo_PorLaSenal", &P::Zbo_PorLaSenal },
+        { u"Zbo_ConElEstado", &P::Zbo_ConElEstado },
         { u"Zbo_LoRemienda", &P::Zbo_LoRemienda },
         { u"Zbo_BloqueDoble", &P::Zbo_BloqueDoble },
         { u"Zbo_ParDobles", &P::Zbo_ParDobles },

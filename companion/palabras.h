@@ -221,6 +221,8 @@ struct Palabras : PalabrasDeRevision, PalabrasDeAuxilio {
     QString Zbo_SinMAME =
         QStringLiteral("There is no MAME on this machine; install it, or give its list by --from.");
     QString Zbo_MAMEMal = QStringLiteral("%1 did not come to the end of its list: %2");
+    QString Zbo_PorLaSenal = QStringLiteral("ended by the signal %1");
+    QString Zbo_ConElEstado = QStringLiteral("ended with the status %1");
 };
 
 struct ClaveDePalabra {

@@ -229,8 +229,9 @@ TEST_F(Describe, ByTheListOfAMAMEThatBreaksOffNothingIsTaken)
     const QByteArray lista =
         "echo '<mame><machine name=\"zelda ii\"><description>Z</description></machine>'\n";
     const std::pair<QByteArray, QByteArray> finales[] = {
-        { "echo '</mame>'; exit 3\n", nombre + " did not come to the end of its list: status 3\n" },
-        { "kill -SEGV $$\n", nombre + " did not come to the end of its list: signal 11\n" },
+        { "echo '</mame>'; exit 3\n",
+            nombre + " did not come to the end of its list: ended with the status 3\n" },
+        { "kill -SEGV $$\n", nombre + " did not come to the end of its list: ended by the signal SIGSEGV\n" },
         { "exit 0\n", nombre + " can't be read: line 2, " },
     };
     for (const auto &[final, dicho] : finales) {
