@@ -6,7 +6,6 @@
 
 #include "host/descriptor.h"
 #include "host/encoding.h"
-#include "host/letters.h"
 #include "host/paths.h"
 
 #include <algorithm>
