@@ -5,6 +5,7 @@
 #include "forms/svg.h"
 
 #include "host/failure.h"
+#include "host/filestate.h"
 #include "host/numberedfiles.h"
 
 #include <QCoreApplication>
@@ -13,6 +14,7 @@
 #include <QImage>
 #include <QResource>
 
+#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -23,11 +25,21 @@ namespace {
 
 QHash<QString, QPixmap> drawn;
 
+// A press on the row that stands selected, as the second of a double click, loads the same picture again.
+struct Loaded {
+    host::FileState file;
+    QPixmap picture;
+};
+std::optional<Loaded> lastLoaded;
+
 // Pictures must be gone before the application object.
 void forgetAtTheEnd()
 {
     static const bool once = [] {
-        qAddPostRoutine([] { drawn.clear(); });
+        qAddPostRoutine([] {
+            drawn.clear();
+            lastLoaded.reset();
+        });
         return true;
     }();
     Q_UNUSED(once)
@@ -57,10 +69,16 @@ QImage decodeFile(const QString &path)
 
 QPixmap LoadPicture(const QString &path)
 {
+    const std::optional<host::FileState> file = host::stateOfFile(path);
+    if (file && lastLoaded && lastLoaded->file == *file)
+        return lastLoaded->picture;
     QImage image = decodeFile(path);
     if (image.isNull())
         throw host::Failure(host::InvalidPicture, u"load a picture"_s, path);
-    return QPixmap::fromImage(std::move(image));
+    const QPixmap picture = QPixmap::fromImage(std::move(image));
+    forgetAtTheEnd();
+    lastLoaded = file ? std::optional(Loaded { *file, picture }) : std::nullopt;
+    return picture;
 }
 
 bool isPicture(const QString &path)

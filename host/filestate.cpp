@@ -1,5 +1,7 @@
 #include "host/filestate.h"
 
+#include "host/paths.h"
+
 #include <time.h>
 
 namespace host {
@@ -28,6 +30,14 @@ std::optional<FileState> stateOf(const struct stat &status)
         return std::nullopt;
     return FileState { status.st_dev, status.st_ino, status.st_size, nanoseconds(status.st_mtim),
         nanoseconds(status.st_ctim) };
+}
+
+std::optional<FileState> stateOfFile(const QString &path)
+{
+    struct stat status;
+    if (stat(findOnDisk(path).constData(), &status) != 0)
+        return std::nullopt;
+    return stateOf(status);
 }
 
 // The clock of a file system that counts whole seconds, or pairs of them, doesn't show a change soon after

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QHashFunctions>
+#include <QString>
 
 #include <optional>
 
@@ -23,6 +24,9 @@ size_t qHash(const FileState &state, size_t seed = 0) noexcept;
 
 // Of a plain file; none where it changed so lately that another change might leave no trace.
 std::optional<FileState> stateOf(const struct stat &status);
+
+// The same of what a path leads to; none where that can't be told.
+std::optional<FileState> stateOfFile(const QString &path);
 
 // Since the clock's beginning.
 qint64 nanoseconds(const timespec &time);

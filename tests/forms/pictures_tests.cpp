@@ -52,6 +52,22 @@ protected:
     const QTemporaryDir directory;
 };
 
+TEST_F(Pictures, AFileThatStaysAsItWas_IsNotLoadedAgain)
+{
+    const QString path = write(u"PONG.GIF"_s, redGif);
+    QTest::qSleep(30); // a change later than that leaves another time
+    const QPixmap first = forms::LoadPicture(path);
+    EXPECT_EQ(forms::LoadPicture(path).cacheKey(), first.cacheKey());
+    QByteArray greenGif = redGif;
+    greenGif.replace(QByteArray("\xFF\x00\x00", 3), QByteArray("\x00\xFF\x00", 3));
+    write(u"PONG.GIF"_s, greenGif);
+    EXPECT_EQ(forms::LoadPicture(path).toImage().pixelColor(0, 0), QColor(Qt::green));
+    write(u"PONG.GIF"_s, redGif);
+    EXPECT_EQ(forms::LoadPicture(path).toImage().pixelColor(0, 0), QColor(Qt::red));
+    ASSERT_TRUE(QFile::remove(path));
+    EXPECT_EQ(failureOf(path), host::FileNotFound);
+}
+
 TEST_F(Pictures, AGif_IsLoaded)
 {
     const QPixmap picture = forms::LoadPicture(write(u"PONG.GIF"_s, redGif));
