@@ -130,7 +130,7 @@ QStringList enLineas(const Sesion &sesion, const Pareja &pareja, const Cuenta &c
 }
 
 // Of such a file its own finding tells.
-bool estaVacio(const Sesion &sesion, const QString &fichero)
+bool hayFicheroVacio(const Sesion &sesion, const QString &fichero)
 {
     return host::exists(host::programFile(fichero))
         && TextoDelPrograma(sesion.M, fichero).trimmed().isEmpty();
@@ -162,7 +162,7 @@ bool leeCatalogo(Sesion &sesion, Revision &revision)
         LeeMundo(sesion);
         return true;
     } catch (const host::Failure &fallo) {
-        if (fallo.number() != host::OutOfRange && !estaVacio(sesion, u"Zembro.emu"_s))
+        if (fallo.number() != host::OutOfRange && !hayFicheroVacio(sesion, u"Zembro.emu"_s))
             revision.push_back({ u"unreadable"_s, u"Zembro.emu"_s, 0, {}, TextoDe(fallo, sesion.palabras) });
         return false;
     }
