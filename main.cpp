@@ -53,8 +53,7 @@ int main(int argc, char **argv)
     host::DesktopQuestions preguntas;
     host::setQuestions(&preguntas);
     host::FontsAhead fuentes;
-    forms::Application aplicacion(argc, argv);
-    fuentes.wait();
+    forms::Application aplicacion(argc, argv, &fuentes);
     forms::Application::setWindowIcon(forms::artworkIcon(u"icono"_s));
 
     bool arrancando = true;

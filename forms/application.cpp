@@ -11,6 +11,8 @@
 #include "forms/wholeframes.h"
 #include "forms/units.h"
 
+#include "host/fontsahead.h"
+
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QDialog>
@@ -79,9 +81,11 @@ bool isToolkitsOwn(const QWidget &control)
 
 } // namespace
 
-Application::Application(int &argc, char **argv)
+Application::Application(int &argc, char **argv, host::FontsAhead *fonts)
     : QApplication(argc, argv)
 {
+    if (fonts)
+        fonts->wait();
     setDesktopFileName(u"zembrolix"_s); // so that a desktop finds the icon and the entry of its windows
     addOwnFonts();
     setLook(*this);

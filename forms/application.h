@@ -10,6 +10,10 @@
 
 #include <memory>
 
+namespace host {
+class FontsAhead;
+}
+
 namespace forms {
 
 class Hold;
@@ -17,8 +21,9 @@ class WholeFrames;
 
 class Application : public QApplication {
 public:
-    // Sets the palette, the style and the fonts, and keeps the process alive when the last window closes.
-    Application(int &argc, char **argv);
+    // Sets the palette, the style and the fonts, and keeps the process alive when the last window closes. The
+    // machine's fonts are waited for where they are being read.
+    Application(int &argc, char **argv, host::FontsAhead *fonts = nullptr);
 
     ~Application() override;
 

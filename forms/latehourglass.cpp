@@ -4,7 +4,6 @@
 #include <QTimer>
 #include <QWindow>
 
-#include <chrono>
 #include <utility>
 
 using namespace std::chrono_literals;
@@ -12,6 +11,8 @@ using namespace std::chrono_literals;
 namespace forms {
 
 namespace {
+
+constexpr auto Late = 50ms;
 
 // The toolkit keeps a pointer's shape from the first window that it was for.
 void loadHourglass()
@@ -24,7 +25,10 @@ void loadHourglass()
 } // namespace
 
 LateHourglass::LateHourglass()
-    : m_watch([this] { show(); })
+    : m_watch([this] {
+        if (std::chrono::steady_clock::now() - m_begun > Late)
+            show();
+    })
 {
     QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
 }

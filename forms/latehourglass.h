@@ -3,11 +3,13 @@
 
 #include "host/slowdisk.h"
 
+#include <chrono>
+
 namespace forms {
 
-// While it lives, an hourglass that a screen asks for isn't shown, unless a disk turns out to be slow: it is
-// an animation, megabytes of it in some of the desktops' themes, and the first one takes longer to load than
-// a list to fill. Once the program has come to rest it is loaded, for later.
+// While it lives, an hourglass that a screen asks for isn't shown before a slow disk has made the start take
+// long: it is an animation, megabytes of it in some of the desktops' themes, and the first one takes longer
+// to load than a list to fill. Once the program has come to rest it is loaded, for later.
 class LateHourglass {
 public:
     LateHourglass();
@@ -18,6 +20,7 @@ public:
 private:
     void show();
 
+    std::chrono::steady_clock::time_point m_begun = std::chrono::steady_clock::now();
     bool m_shown = false;
     host::SlowDiskWatch m_watch;
 };

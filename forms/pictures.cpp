@@ -27,6 +27,7 @@ QHash<QString, QPixmap> drawn;
 
 // A press on the row that stands selected, as the second of a double click, loads the same picture again.
 struct Loaded {
+    QString path;
     host::FileState file;
     QPixmap picture;
 };
@@ -60,24 +61,24 @@ QPixmap draw(const QString &name, const QSize &size, qreal devicePixelRatio)
     return picture;
 }
 
-QImage decodeFile(const QString &path)
+QImage decodeFile(const QString &path, std::optional<host::FileState> *state = nullptr)
 {
-    return decodeRaster(host::readBytes(path, MostRasterBytes + 1));
+    return decodeRaster(host::readBytes(path, MostRasterBytes + 1, state));
 }
 
 } // namespace
 
 QPixmap LoadPicture(const QString &path)
 {
-    const std::optional<host::FileState> file = host::stateOfFile(path);
-    if (file && lastLoaded && lastLoaded->file == *file)
+    if (lastLoaded && lastLoaded->path == path && host::stateOfFile(path) == lastLoaded->file)
         return lastLoaded->picture;
-    QImage image = decodeFile(path);
+    std::optional<host::FileState> file;
+    QImage image = decodeFile(path, &file);
     if (image.isNull())
         throw host::Failure(host::InvalidPicture, u"load a picture"_s, path);
     const QPixmap picture = QPixmap::fromImage(std::move(image));
     forgetAtTheEnd();
-    lastLoaded = file ? std::optional(Loaded { *file, picture }) : std::nullopt;
+    lastLoaded = file ? std::optional(Loaded { path, *file, picture }) : std::nullopt;
     return picture;
 }
 

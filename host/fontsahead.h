@@ -6,7 +6,9 @@
 namespace host {
 
 // Takes a fifth of a bare start, and doesn't need the toolkit: it is read in a thread of its own while that
-// one connects to the screen. To be made in the main thread, behind all changes of the environment.
+// one connects to the screen. To be made in the main thread, behind the program's own changes of the
+// environment; the toolkit takes the mark of a desktop's start out of it, and in that moment a variable could
+// be overlooked.
 class FontsAhead {
 public:
     FontsAhead();

@@ -156,7 +156,7 @@ NumberedFiles::OpenFile &NumberedFiles::open(int number, const char *operation)
     return file->second;
 }
 
-QByteArray readBytes(const QString &path, qint64 most)
+QByteArray readBytes(const QString &path, qint64 most, std::optional<FileState> *state)
 {
     const QByteArray found = findOnDisk(path);
     if (found.isEmpty())
@@ -166,6 +166,8 @@ QByteArray readBytes(const QString &path, qint64 most)
         throw Failure(FileNotFound, u"open a file"_s, path);
     if (!file)
         throw Failure(PathAccess, u"read a file"_s, path);
+    if (state)
+        *state = stateOf(file->status);
     return file->bytes;
 }
 

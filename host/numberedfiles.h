@@ -5,6 +5,7 @@
 #pragma once
 
 #include "host/encoding.h"
+#include "host/filestate.h"
 #include "host/textsource.h"
 
 #include <QString>
@@ -74,8 +75,9 @@ private:
     std::map<QString, QString> m_instead; // texts by paths
 };
 
-// A file's bytes, the first `most` of them. Fails with 53 or 75.
-QByteArray readBytes(const QString &path, qint64 most = std::numeric_limits<qint64>::max());
+// A file's bytes, the first `most` of them, and the state that they were read in. Fails with 53 or 75.
+QByteArray readBytes(const QString &path, qint64 most = std::numeric_limits<qint64>::max(),
+    std::optional<FileState> *state = nullptr);
 
 // The bytes of a file; none where there surely is no such file. Fails with 75 where that can't be told.
 std::optional<QByteArray> readIfThere(const QString &path);

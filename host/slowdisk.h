@@ -5,7 +5,8 @@
 
 namespace host {
 
-// While it lives, `tell` runs in the thread that makes such a pass, once it is known. There is one at a time.
+// While it lives, `tell` runs in the thread that makes such a pass, again and again while that goes on: a busy
+// machine makes a disk look slow for a moment. There is one at a time.
 class SlowDiskWatch {
 public:
     explicit SlowDiskWatch(std::function<void()> tell);

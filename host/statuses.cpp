@@ -23,7 +23,7 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t InOneGo = 32; // names between two looks at the clock
+constexpr std::size_t InOneGo = 32; // names between two looks at the clock, from the sixth look on
 constexpr auto Patience = 3ms; // a disk of the machine takes a tenth of a millisecond for as many
 constexpr std::size_t WorthAHelper = 512; // names; fewer are done before it has begun
 constexpr std::size_t Helpers = 1; // a second processor, where there is one
@@ -50,10 +50,10 @@ public:
     bool isSlow() const { return m_slow; }
 
     // The next few of the names; false if there are none.
-    bool takeSome()
+    bool takeSome(std::size_t some)
     {
-        const std::size_t first = m_next.fetch_add(InOneGo);
-        const std::size_t end = std::min(first + InOneGo, total());
+        const std::size_t first = m_next.fetch_add(some);
+        const std::size_t end = std::min(first + some, total());
         const auto start = Clock::now();
         for (std::size_t i = first; i < end; ++i)
             lookAt(i);
@@ -84,7 +84,7 @@ void addHelpers(std::vector<std::jthread> &helpers, std::size_t wanted, Looking 
     try {
         while (helpers.size() < wanted) {
             helpers.emplace_back([&looking] {
-                while (looking.takeSome()) { }
+                while (looking.takeSome(looking.isSlow() ? 1 : InOneGo)) { }
             });
         }
     } catch (const std::system_error &) {
@@ -100,12 +100,13 @@ void lookAtEach(const Descriptor &directory, const QStringList &names, const Tel
     std::vector<std::jthread> helpers;
     if (looking.total() >= WorthAHelper)
         addHelpers(helpers, Helpers, looking);
-    bool told = false;
-    while (looking.takeSome()) {
+    // A single look may take long.
+    for (std::size_t some = 1; looking.takeSome(some);) {
+        some = looking.isSlow() ? 1 : std::min(2 * some, InOneGo);
         if (!looking.isSlow())
             continue;
         addHelpers(helpers, HelpersIfSlow, looking);
-        if (!std::exchange(told, true) && watching())
+        if (watching())
             watching()();
     }
 }

@@ -12,6 +12,8 @@ namespace launch {
 std::optional<IndiceZip> IndiceDe(const QString &ruta)
 {
     constexpr std::size_t bloque = 65536;
+    if (!libarchive::Esta())
+        return std::nullopt;
     const auto cierra = [](archive *abierto) { libarchive::read_free(abierto); };
     const std::unique_ptr<archive, decltype(cierra)> archivo(libarchive::read_new(), cierra);
     libarchive::read_support_format_zip_seekable(archivo.get());

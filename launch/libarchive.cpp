@@ -8,10 +8,24 @@ using namespace Qt::StringLiterals;
 
 namespace launch::libarchive {
 
-void *Direccion(const char *nombre)
+namespace {
+
+void *bibliotecaAbierta()
 {
     static void *const biblioteca = dlopen(LIBARCHIVE, RTLD_NOW | RTLD_LOCAL);
-    void *direccion = biblioteca ? dlsym(biblioteca, nombre) : nullptr;
+    return biblioteca;
+}
+
+} // namespace
+
+bool Esta()
+{
+    return bibliotecaAbierta() != nullptr;
+}
+
+void *Direccion(const char *nombre)
+{
+    void *direccion = Esta() ? dlsym(bibliotecaAbierta(), nombre) : nullptr;
     if (!direccion)
         throw host::Failure(
             host::DeviceError, u"load the library that reads archives"_s, QStringLiteral(LIBARCHIVE));

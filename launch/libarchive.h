@@ -7,6 +7,9 @@
 
 namespace launch::libarchive {
 
+// False where this machine doesn't have the library.
+bool Esta();
+
 // Where the library has it; raises DeviceError where this machine doesn't have the library, or another one.
 void *Direccion(const char *nombre);
 

@@ -118,6 +118,8 @@ using Archivo = std::unique_ptr<archive, Cierra>;
 
 Archivo leeZip(FuenteZip &fuente, Contraseñas &contraseñas)
 {
+    if (!libarchive::Esta())
+        return {};
     Archivo archivo(libarchive::read_new());
     libarchive::read_support_format_zip(archivo.get());
     libarchive::read_set_options(
