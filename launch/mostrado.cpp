@@ -214,6 +214,7 @@ Mostrado::Mostrado(const QByteArray &enlaces)
             { estado ? estado->st_mtim : timespec(), nombre, ruta, destino,
                 MismoNombre(nombreDe(destino), nombre) });
     }
+    m_esta = m_esta || (!m_casa.isEmpty() && !EntradasDe(m_casa).isEmpty());
     // Under made-up names there are the game, and what begins with its name at home.
     const auto esDe = [&](const QByteArray &destino, const Enlace &enlace, const QByteArray &juego) {
         return NombreMostrado(nombreDe(juego), m_enlaces[juego].nombre, nombreDe(destino)) == enlace.nombre;

@@ -29,7 +29,7 @@ public:
     const QByteArray &Casa() const { return m_casa; }
     // The file of the game there; empty if it isn't known.
     const QByteArray &Juego() const { return m_juego; }
-    // A disk that isn't there now leaves an empty directory in its place.
+    // A disk that isn't there now leaves an empty directory in its place, or none.
     bool EstaEnCasa() const { return m_esta; }
     // What a file of this name is called at home, and where the game's name begins in that.
     struct Nombre {

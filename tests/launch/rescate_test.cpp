@@ -312,6 +312,32 @@ TEST_F(RescateTest, LoRenombradoEsperaAlDiscoQueFalta)
     EXPECT_THAT(Temporales(), IsEmpty());
 }
 
+TEST_F(RescateTest, LoDeUnJuegoRenombradoOBorradoVuelve)
+{
+    const QByteArray juego = "roms/ni\xC3\xB1o.nes";
+    unlink(place(juego + " - .SAV").constData());
+    rmdir(place("roms/Docs").constData());
+    Matada("echo first > NINO.SAV");
+    rename(place(juego).constData(),
+        place("roms/ni\xC3\xB1"
+              "a.nes")
+            .constData());
+    EXPECT_THAT(launch::RescataRestos().pendientes, IsEmpty());
+    EXPECT_EQ(bytes(juego + " - .SAV"), "first\n");
+    EXPECT_THAT(Temporales(), IsEmpty());
+
+    unlink(place(juego + " - .SAV").constData());
+    makeFile(juego, "the game");
+    Matada("echo second > NINO.SAV");
+    unlink(place(juego).constData());
+    EXPECT_THAT(launch::RescataRestos().pendientes, IsEmpty());
+    EXPECT_EQ(bytes(juego + " - .SAV"), "second\n");
+    EXPECT_EQ(bytes("roms/ni\xC3\xB1"
+                    "a.nes"),
+        "the game");
+    EXPECT_THAT(Temporales(), IsEmpty());
+}
+
 TEST_F(RescateTest, UnJuegoQueSigueConservaSuUnidad)
 {
     const QByteArray corrida = Matada("echo new > NINO.NEW");
