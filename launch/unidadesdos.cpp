@@ -9,7 +9,7 @@
 #include "host/volumes.h"
 
 #include <algorithm>
-#include <utility>
+#include <tuple>
 
 namespace launch {
 
@@ -83,7 +83,7 @@ std::optional<QByteArray> UnidadesDOS::Ruta(const QString &enDisco)
     const QByteArray nombre = entrada.isEmpty() ? QByteArray() : nombreEn(lugar, entrada);
     if (nombre.isEmpty() != entrada.isEmpty())
         return std::nullopt;
-    const std::optional<QByteArray> dicho = directorio(lugar);
+    const std::optional<QByteArray> dicho = directorio(lugar, entrada);
     return dicho && dicho->size() + nombre.size() <= MasLargaLaRuta ? std::optional(*dicho + nombre)
                                                                     : std::nullopt;
 }
@@ -109,12 +109,19 @@ std::optional<QByteArray> UnidadesDOS::RutaOApodo(const QString &enDisco)
     return unidad->letra + (":\\" + unidad->apodos[0].nombre);
 }
 
-// The drive that lies nearest above it, or one that is preferred, and what it is there.
-UnidadesDOS::Dicho UnidadesDOS::masCercana(const QByteArray &lugar)
+// The drive that lies nearest above it, or one that is preferred, and what it is there. For a file in it that
+// has been typed itself another one may be.
+UnidadesDOS::Dicho UnidadesDOS::masCercana(const QByteArray &lugar, const QByteArray &entrada)
 {
+    const QByteArray ruta = entrada.isEmpty() ? lugar : lugar + entrada + '/';
+    const auto rango = [&](const Unidad &una) {
+        qsizetype tecleado = 0;
+        for (const QByteArray &tecleada : una.tecleadas)
+            tecleado = ruta.startsWith(tecleada) ? qMax(tecleado, tecleada.size()) : tecleado;
+        return std::tuple(tecleado, una.preferida, una.lugar.size());
+    };
     Dicho mejor;
     for (Unidad &unidad : m_unidades) {
-        const auto rango = [](const Unidad &una) { return std::pair(una.preferida, una.lugar.size()); };
         if (!unidad.apodos.empty() || !lugar.startsWith(unidad.lugar)
             || (mejor.unidad && rango(unidad) <= rango(*mejor.unidad)))
             continue;
@@ -124,9 +131,9 @@ UnidadesDOS::Dicho UnidadesDOS::masCercana(const QByteArray &lugar)
     return mejor;
 }
 
-std::optional<QByteArray> UnidadesDOS::directorio(const QByteArray &lugar)
+std::optional<QByteArray> UnidadesDOS::directorio(const QByteArray &lugar, const QByteArray &entrada)
 {
-    Dicho dicho = masCercana(lugar);
+    Dicho dicho = masCercana(lugar, entrada);
     if (!dicho.unidad)
         dicho = { nueva(lugar), "\\" };
     if (!dicho.unidad)
@@ -138,8 +145,12 @@ std::optional<QByteArray> UnidadesDOS::directorio(const QByteArray &lugar)
 void UnidadesDOS::Prefiere(const QString &tecleada)
 {
     const auto unidad = std::ranges::find(m_unidades, host::driveLetter(tecleada).toLatin1(), &Unidad::letra);
-    if (unidad != m_unidades.end())
-        unidad->preferida = true;
+    if (unidad == m_unidades.end())
+        return;
+    unidad->preferida = true;
+    const QByteArray enDisco = host::findOnDisk(tecleada);
+    if (!enDisco.isEmpty())
+        unidad->tecleadas += directo(enDisco);
 }
 
 void UnidadesDOS::NombraLaDe(const QString &directorio)

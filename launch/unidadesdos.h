@@ -4,6 +4,7 @@
 #include "host/drives.h"
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QString>
 
 #include <optional>
@@ -31,7 +32,7 @@ public:
     };
 
     // Where a place lies on several of the user's drives, the one that a path names that was typed goes ahead
-    // of the nearest.
+    // of the nearest: for what that path leads to, and less so for all the rest.
     void Prefiere(const QString &tecleada);
 
     // "D:\ROMS\GAME.NES", for an absolute path in its spelling on the disk; of a directory that ends in a
@@ -57,14 +58,15 @@ private:
         bool montada;
         std::vector<Apodo> apodos = {};
         bool preferida = false;
+        QByteArrayList tecleadas = {}; // the paths that named it, each with a closing slash
     };
 
     struct Dicho {
         Unidad *unidad = nullptr;
         QByteArray directorio;
     };
-    Dicho masCercana(const QByteArray &lugar);
-    std::optional<QByteArray> directorio(const QByteArray &lugar);
+    Dicho masCercana(const QByteArray &lugar, const QByteArray &entrada = {});
+    std::optional<QByteArray> directorio(const QByteArray &lugar, const QByteArray &entrada);
     Unidad *nueva(const QByteArray &lugar);
 
     std::vector<Unidad> m_unidades;

@@ -377,18 +377,27 @@ TEST_F(EncargoTest, OfDrivesWithinOneAnotherTheOneThatTheCatalogueNamesCounts)
     Pon(ParaDOS);
     PonHerramienta("dosbox");
     makeFile("program/Zembro.uni", "C=" + place() + "\nD=" + place("roms") + "\nE=" + place("emu") + "\n");
+    makeFile("emu/mario.nes");
+    makeDirectory("emu/rr");
+    makeFile("emu/rr/mario.nes");
     struct Caso {
         QString exe;
         QString rom;
         QByteArray enDOS;
         QString letras;
     };
-    for (const Caso &caso : std::initializer_list<Caso> {
-             { u"C:\\emu\\nes.exe"_s, u"C:\\roms\\"_s, "C:\\EMU\\NES.EXE  C:\\ROMS\\MARIO.NES", u"C"_s },
-             { u"c:\\emu\\nes.exe"_s, u"D:\\"_s, "C:\\EMU\\NES.EXE  D:\\MARIO.NES", u"CD"_s },
-             { u"E:\\nes.exe"_s, u"C:\\roms\\"_s, "E:\\NES.EXE  C:\\ROMS\\MARIO.NES", u"CE"_s },
-             { u"E:\\nes.exe"_s, path(u"roms/"_s), "E:\\NES.EXE  D:\\MARIO.NES", u"DE"_s },
-             { path(u"emu/nes.exe"_s), path(u"roms/"_s), "E:\\NES.EXE  D:\\MARIO.NES", u"DE"_s } }) {
+    for (const Caso &caso :
+        std::initializer_list<Caso> {
+            { u"C:\\emu\\nes.exe"_s, u"C:\\roms\\"_s, "C:\\EMU\\NES.EXE  C:\\ROMS\\MARIO.NES", u"C"_s },
+            { u"c:\\emu\\nes.exe"_s, u"D:\\"_s, "C:\\EMU\\NES.EXE  D:\\MARIO.NES", u"CD"_s },
+            { u"E:\\nes.exe"_s, u"C:\\roms\\"_s, "E:\\NES.EXE  C:\\ROMS\\MARIO.NES", u"CE"_s },
+            { u"C:\\emu\\nes.exe"_s, u"E:\\rr\\"_s, "C:\\EMU\\NES.EXE  E:\\RR\\MARIO.NES", u"CE"_s },
+            { u"E:\\nes.exe"_s, u"C:\\emu\\rr\\"_s, "E:\\NES.EXE  C:\\EMU\\RR\\MARIO.NES", u"CE"_s },
+            { u"C:\\emu\\nes.exe"_s, u"E:\\"_s, "C:\\EMU\\NES.EXE  E:\\MARIO.NES", u"CE"_s },
+            { u"E:\\nes.exe"_s, u"C:\\emu\\"_s, "E:\\NES.EXE  C:\\EMU\\MARIO.NES", u"CE"_s },
+            { u"C:\\emu\\nes.exe"_s, path(u"emu/rr/"_s), "C:\\EMU\\NES.EXE  C:\\EMU\\RR\\MARIO.NES", u"C"_s },
+            { u"E:\\nes.exe"_s, path(u"roms/"_s), "E:\\NES.EXE  D:\\MARIO.NES", u"DE"_s },
+            { path(u"emu/nes.exe"_s), path(u"roms/"_s), "E:\\NES.EXE  D:\\MARIO.NES", u"DE"_s } }) {
         M.Cat_EXE(3, 2) = u"EXE="_s + caso.exe;
         M.Cat_ROM(3, 2) = u"ROM="_s + caso.rom;
         M.Cat_XDI(3, 2) = u"XDI=0"_s;
