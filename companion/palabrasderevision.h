@@ -124,6 +124,13 @@ struct PalabrasDeRevision {
                                              "correct the name of this block of notes, or remove it: %1");
     QString Zbo_SinCabecera = QStringLiteral("These notes stand below no name of a system, so nothing reads "
                                              "them; put its name on a line of its own above them: %1");
+    QString Zbo_LineaVacia =
+        QStringLiteral("A blank line, which counts as a field, so that what stands behind "
+                       "it is read out of step; take the line away.");
+    QString Zbo_FueraDeSitio =
+        QStringLiteral("From here on notes of games of %1: %2. They stand outside of the notes of that "
+                       "system, which don't show them; move them to the others, below its name, or take "
+                       "away the line that came between.");
     QString Zbo_MuchasNotas =
         QStringLiteral("From here on the notes of %1 are more than the %2 that the "
                        "program takes, so not all of its games are listed; remove some.");

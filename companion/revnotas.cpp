@@ -3,6 +3,7 @@
 
 #include "core/clasedeprograma.h"
 #include "core/lineas.h"
+#include "core/lineasvacias.h"
 #include "core/notas.h"
 #include "core/notasremendadas.h"
 #include "core/remiendos.h"
@@ -214,10 +215,11 @@ void RevisorDeNotas::Ajenas()
         const bool cabecera = m_sistemas.contains(linea);
         const bool suelta = std::ranges::any_of(
             tramos, [i](const core::SinCierre &tramo) { return i >= tramo.inicio && i < tramo.fin; });
-        if (!dentro && !suelta && !cabecera && !linea.trimmed().isEmpty() && !linea.startsWith(u'\''))
+        const bool cierra = core::CierraLasNotas(linea);
+        const bool dice = !cierra && !linea.trimmed().isEmpty() && !linea.startsWith(u'\'');
+        if (!dentro && !suelta && !cabecera && dice)
             halla(u"unknown-system"_s, m_palabras.Zbo_NotasAjenas.arg(linea), i);
-        dentro =
-            (dentro && linea != u"'") || (!suelta && !linea.trimmed().isEmpty() && !linea.startsWith(u'\''));
+        dentro = (dentro && !cierra) || (!suelta && dice);
     }
 }
 
@@ -314,6 +316,9 @@ void RevisaNotas(Sesion &sesion, Revision &revision)
     for (const core::SinCierre &hueco : core::NotasSinCierre(texto, conocidos))
         revision.push_back({ u"block-without-end"_s, Fichero, static_cast<int>(hueco.inicio) + 1, {},
             sesion.palabras.Zbo_SinApostrofo.arg(lineas[hueco.inicio].linea) });
+    for (const size_t vacia : core::VaciasEntreRegistros(texto, conocidos))
+        revision.push_back(
+            { u"blank-line"_s, Fichero, static_cast<int>(vacia) + 1, {}, sesion.palabras.Zbo_LineaVacia });
     RevisorDeNotas revisor(sesion, texto, lineas, conocidos, revision);
     for (const QString &sistema : sistemasDe(sesion.M)) {
         const auto suya = std::ranges::find_if(

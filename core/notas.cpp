@@ -183,6 +183,15 @@ bool AcabaLosSistemas(const Lineas &lineas, size_t indice, const QStringList &si
     return true;
 }
 
+bool CierraLasNotas(QStringView linea)
+{
+    while (linea.startsWith(u' '))
+        linea = linea.sliced(1);
+    if (!linea.startsWith(u'\'') && !linea.startsWith(u'"'))
+        return false;
+    return host::TextSource(linea.toString()).readField() == u"'";
+}
+
 namespace {
 
 // What ends a block that has lost its apostrophe.

@@ -81,6 +81,10 @@ QString ConParametrosCambiados(const QString &texto, const Parametros &parametro
 // may begin so too. With names of systems, as far as they are known.
 bool AcabaLosSistemas(const std::vector<LineaConFin> &lineas, size_t indice, const QStringList &sistemas);
 
+// Whether the reader takes the line for the apostrophe that ends a block, where a record may begin: also
+// with blanks around it, in double quotes, or ahead of a comma.
+bool CierraLasNotas(QStringView linea);
+
 // An empty block for a system ahead of the first line that begins with "[" and is no note; without such a
 // line nothing changes.
 QString ConSistemaNuevo(const QString &texto, const QString &sistema);

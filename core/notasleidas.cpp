@@ -81,11 +81,13 @@ Notas notasDe(const QString &texto, const Tramo &tramo)
         const QString clave = host::upper(fuente.readField());
         if (clave == u"'")
             return notas;
+        // The last field of a line, in double quotes: another one's description, out of step.
+        const bool esClave = empiezaLinea(inicio) || !empiezaLinea(leido()) || resto[inicio] != u'"';
         const bool enUnaLinea = empiezaLinea(inicio) && !fuente.atEnd() && !empiezaLinea(leido());
         const QString descripcion = campoDe(fuente);
         const bool suya = enUnaLinea && tramo.desde + inicio < tramo.hasta
             && resto.sliced(inicio, leido() - inicio).count(u'\n') == 1 && empiezaLinea(leido());
-        if (!notas.contains(clave))
+        if (esClave && !notas.contains(clave))
             notas.insert(clave, { descripcion, suya });
     }
     return {};

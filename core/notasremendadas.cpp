@@ -1,6 +1,7 @@
 #include "core/notasremendadas.h"
 
 #include "core/lineas.h"
+#include "core/lineasvacias.h"
 #include "core/notas.h"
 #include "core/repetidos.h"
 
@@ -72,6 +73,7 @@ std::vector<Paso> pasos(
 {
     return {
         SinRetornosSueltos, // the one copy of a file that may be large
+        [&](const QString &texto) { return SinVaciasEntreRegistros(texto, conocidos); },
         [&](const QString &texto) { return ConNombreDeNotas(texto, conocidos, deQuien); },
         [&](const QString &texto) { return ConMarcaDeNotas(texto, conocidos); },
         [&](const QString &texto) { return conBloquesEnteros(texto, conocidos); },
@@ -98,9 +100,10 @@ std::vector<SinCierre> NotasSinNombre(const QString &texto, const QStringList &s
         if (AcabaLosSistemas(lineas, i, sistemas) || linea.startsWith(CabeceraParametros))
             break;
         const bool cabecera = nombres.contains(linea.toString());
-        if (cabecera || linea.startsWith(u'\'')) {
-            dentro = cabecera || (dentro && linea != u"'");
-            suelto = suelto && !cabecera && linea != u"'";
+        const bool cierra = CierraLasNotas(linea);
+        if (cabecera || cierra || linea.startsWith(u'\'')) {
+            dentro = cabecera || (dentro && !cierra);
+            suelto = suelto && !cabecera && !cierra;
         } else if (suelto && !linea.isEmpty()) {
             tramos.back().fin = i + 1;
         } else if (!dentro && !linea.isEmpty()) {

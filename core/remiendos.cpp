@@ -184,7 +184,7 @@ std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &s
             break;
         if (cabecera)
             inicio = i;
-        abierto = cabecera || (abierto && linea != u"'");
+        abierto = cabecera || (abierto && !CierraLasNotas(linea));
     }
     return huecos;
 }
@@ -247,7 +247,7 @@ std::optional<size_t> lugarDeLaMarca(const std::vector<LineaConFin> &lineas, con
         const bool nota = dentro && esRegistroDe(CamposDeNota, linea.linea);
         if (!cabecera && !nota && !linea.linea.isEmpty() && !linea.linea.startsWith(u'\''))
             return std::nullopt;
-        dentro = cabecera || (dentro && linea.linea != u"'");
+        dentro = cabecera || (dentro && !CierraLasNotas(linea.linea));
     }
     return FinDeLosParametros(lineas);
 }

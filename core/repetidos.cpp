@@ -55,7 +55,7 @@ std::vector<BloqueDeNotas> bloquesDe(const Lineas &lineas, const QStringList &si
         const bool dentro = !bloques.empty() && !bloques.back().cerrado;
         if (nombres.contains(linea.toString()))
             bloques.push_back({ linea.toString(), i, i, false });
-        else if (dentro && linea == u"'")
+        else if (dentro && CierraLasNotas(linea))
             bloques.back() = { bloques.back().sistema, bloques.back().cabecera, i, true };
     }
     return bloques;

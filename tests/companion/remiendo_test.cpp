@@ -5,6 +5,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -346,4 +348,29 @@ TEST_F(Mend, NotesWhoseNameIsGoneStayAsTheyAre_WhereTheGamesOfASystemCantBeListe
     const QByteArray antes = Bytes(u"Zembro.rom"_s);
     Remienda();
     EXPECT_EQ(Bytes(u"Zembro.rom"_s), antes);
+}
+
+TEST_F(Mend, BlankLinesAmongNotesAndParametersAreToldEach_AndTakenAway)
+{
+    Cambia(u"Zembro.rom"_s, "Mario\"\r\n", "Mario\"\r\nZELDA.NES,\"Zelda\"\r\n");
+    Cambia(u"Zembro.rom"_s, "-fast\r\n", "-fast\r\nZELDA.NES,Sis,Uno,-slow\r\n");
+    const QByteArray entero = Bytes(u"Zembro.rom"_s);
+    EXPECT_THAT(clases(), IsEmpty());
+    for (const QByteArray vacias : { "\r\n", "  \r\n", "\r\n\r\n" }) {
+        for (const QByteArray delante :
+            { "MARIO.NES,\"", "ZELDA.NES,\"", "ZELDA.NES,Sis", "MARIO.NES,Sis" }) {
+            Cambia(u"Zembro.rom"_s, delante, vacias + delante);
+            const Clases halladas = Halladas();
+            EXPECT_EQ(halladas.remendables.count(u"blank-line"_s), vacias.count('\n'))
+                << delante.toStdString();
+            const QByteArrayList lineas = Bytes(u"Zembro.rom"_s).split('\n');
+            const auto primera = std::ranges::find_if(
+                lineas, [&](const QByteArray &linea) { return linea.startsWith(delante); });
+            const QByteArray numero = QByteArray::number(primera - lineas.begin());
+            EXPECT_TRUE(dicho().contains("Zembro.rom:" + numero + ": A blank line, which counts as a field"))
+                << dicho().toStdString();
+            EXPECT_EQ(Remienda().estado, companion::Bien);
+            EXPECT_EQ(Bytes(u"Zembro.rom"_s), entero) << delante.toStdString();
+        }
+    }
 }

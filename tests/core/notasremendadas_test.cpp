@@ -320,3 +320,34 @@ TEST(AllMendedNotes, HowEverMangledComeToRestAtOnce_AndLoseNothingThatTheySaid)
     }
     EXPECT_GT(cambiados, 1'500);
 }
+
+TEST(AllMendedNotes, LoseTheBlankLinesThatHideWhatStandsBehindThem)
+{
+    const QString enteras = QString(Enteras).replace(u"Beta,Two"_s, u"Beta,Duo"_s);
+    const auto con = [&](QStringView delante, QStringView vacias) {
+        return QString(enteras).replace(delante.toString(), vacias.toString() + delante.toString());
+    };
+    for (const QStringView delante :
+        { u"GAME.BIN,\"", u"\"B, C.BIN\",", u"TWO,\"", u"GAME.BIN,Alfa", u"'\r\nfin" }) {
+        for (const QStringView vacias : { u"\r\n", u" \r\n", u"\r\n\r\n", u"\t\r\n" })
+            EXPECT_EQ(remendadas(con(delante, vacias)), enteras) << delante.toString().toStdString();
+    }
+}
+
+// Out of step a description that is a game's name is read as a key, which shows nothing of anybody's.
+TEST(AllMendedNotes, LoseThemAlsoWhereADescriptionIsCalledAsAGame)
+{
+    const QString enteras = QString(Enteras).replace(u"\"A game\""_s, u"\"game.bin\""_s);
+    const QString roto = QString(enteras).replace(u"GAME.BIN,\""_s, u"\r\nGAME.BIN,\""_s);
+    EXPECT_EQ(remendadas(roto), enteras);
+}
+
+// An apostrophe with blanks around it ends a block for the reader.
+TEST(AllMendedNotes, AreNoBlocksWithoutAnEnd_WhereBlanksStandBesideTheApostrophe)
+{
+    const QString conBlancos = QString(Enteras).replace(u"C\"\r\n'\r\n"_s, u"C\"\r\n ' \r\n"_s);
+    EXPECT_THAT(core::NotasSinCierre(conBlancos, Conocidos), testing::IsEmpty());
+    EXPECT_EQ(remendadas(conBlancos), conBlancos);
+    const QString enMedio = QString(Enteras).replace(u"A game\"\r\n"_s, u"A game\"\r\n '\r\n"_s);
+    EXPECT_THAT(core::NotasSinNombre(enMedio, Conocidos), testing::SizeIs(1));
+}
