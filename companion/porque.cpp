@@ -113,6 +113,8 @@ QStringList CuentaPartida(const launch::Partida &partida, const Palabras &palabr
     if (!partida.argumentos.isEmpty())
         lineas << palabras.Zbo_LaOrden.arg(launch::EnShell(partida.argumentos))
                << palabras.Zbo_EnDir.arg(partida.directorio);
+    if (!partida.aviso.isEmpty())
+        lineas << partida.aviso;
     const QString segundos = QString::number(partida.segundos, 'f', 1);
     if (!partida.fallo.isEmpty())
         lineas << palabras.Zbo_NoArranca.arg(MotivoDe(partida, palabras));
@@ -150,6 +152,8 @@ QJsonObject PartidaEnJson(const launch::Partida &partida, const Palabras &palabr
         { u"emulator"_s, partida.emulador }, { u"entry"_s, partida.entrada },
         { u"arguments"_s, QJsonArray::fromStringList(partida.argumentos) },
         { u"directory"_s, partida.directorio } };
+    if (!partida.aviso.isEmpty())
+        objeto[u"notice"_s] = partida.aviso;
     if (!partida.fallo.isEmpty())
         objeto[u"problem"_s] = MotivoDe(partida, palabras);
     if (partida.final.status)

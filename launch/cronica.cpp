@@ -58,6 +58,12 @@ void Cronica::Orden(const QStringList &argumentos, const QString &directorio)
     Di({ u"directory"_s, directorio });
 }
 
+void Cronica::Aviso(const QString &texto)
+{
+    m_partida.aviso = texto;
+    Di({ u"notice"_s, texto });
+}
+
 void Cronica::Fallo(const QString &motivo)
 {
     m_partida.fallo = motivo;
@@ -96,6 +102,8 @@ void apunta(Partida &partida, const QString &suceso, const QStringList &resto)
         partida.argumentos = resto;
     } else if (suceso == u"directory") {
         partida.directorio = resto.value(0);
+    } else if (suceso == u"notice") {
+        partida.aviso = resto.value(0);
     } else if (suceso == u"failed") {
         partida.fallo = resto.value(0);
     } else if (suceso == u"status" || suceso == u"signal") {

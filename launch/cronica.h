@@ -1,8 +1,8 @@
 // What became of a launch, as it is told while it goes on, and read again afterwards.
 //
 // A line is "zembrolix", the time, the process and the number of its launch, what happened, and what belongs
-// to it, quoted as for a shell: "game" system emulator entry; "start" arguments; "directory" where; "failed"
-// why; "status" or "signal" number "after" seconds.
+// to it, quoted as for a shell: "game" system emulator entry; "start" arguments; "directory" where; "notice"
+// what was told ahead of the start; "failed" why; "status" or "signal" number "after" seconds.
 #pragma once
 
 #include "host/process.h"
@@ -26,6 +26,7 @@ struct Partida {
     QString entrada;
     QStringList argumentos; // as the emulator got them; empty if it came to no start
     QString directorio;
+    QString aviso; // what was told ahead of the start; empty for nothing
     QString fallo; // why it didn't start; empty if it did
     bool acabada = false; // it was seen to end, also where how isn't known
     host::ProcessEnd final; // how the emulator ended, if it has
@@ -42,6 +43,7 @@ public:
 
     void Juego(const QString &sistema, const QString &emulador, const QString &entrada);
     void Orden(const QStringList &argumentos, const QString &directorio);
+    void Aviso(const QString &texto);
     void Fallo(const QString &motivo);
     void Final(const host::ProcessEnd &final, double segundos);
 

@@ -64,6 +64,7 @@ public:
         ensayo.tituloDeAviso = titulo;
         ensayo.aviso = texto;
     }
+    void AvisoPrevio(const QString &titulo, const QString &texto) override { Aviso(titulo, texto); }
     void EnsenaOrden(const QString &) override { ensayo.enDepuracion = true; }
     void Arranca(const LineaDeOrden &orden, const QString &, const Lugares &lugares) override
     {

@@ -82,7 +82,6 @@ private:
     QString LeeRuta(const Tabla &tabla) const;
     QStringList Extensiones() const;
     Desempaquetado Desempaqueta(const Ruta &ArchivoZip, const QString &DirectorioDestino);
-    void AvisaDeIlegible();
     void Corre(Caso caso);
 
     core::Modulo &M;
@@ -206,7 +205,7 @@ void Lanzamiento::Tipo0Zip()
             carpeta + u'/' + *fichero.elegido };
         Corre(Caso::Desempaquetado);
     } else if (fichero.ilegible) {
-        AvisaDeIlegible();
+        m_obras.Aviso(M.Palabras.Zem_NoZip0, M.Palabras.Zem_NoZip1);
     } else {
         m_obras.Aviso(M.Msg_ZipSinRoms0, M.Msg_ZipSinRoms1);
     }
@@ -235,9 +234,9 @@ void Lanzamiento::Tipo2()
     if (!ruta.isEmpty())
         miembros = Desempaqueta(archivo, ruta);
     if (miembros.nadaLegible)
-        AvisaDeIlegible();
+        m_obras.AvisoPrevio(M.Palabras.Zem_NoZip0, M.Palabras.Zem_NoZip1);
     else if (host::exists(archivo.enDisco) && NadaSeDesempaquetaEn(Carpeta))
-        m_obras.Aviso(M.Palabras.Zem_NoJunto0, M.Palabras.Zem_NoJunto1);
+        m_obras.AvisoPrevio(M.Palabras.Zem_NoJunto0, M.Palabras.Zem_NoJunto1);
     Corre(Caso::Comprimido);
     m_obras.LimpiaCarpeta(miembros.ficheros);
 }
@@ -303,11 +302,6 @@ Desempaquetado Lanzamiento::Desempaqueta(const Ruta &ArchivoZip, const QString &
     M.ArchivoZip = ArchivoZip.texto;
     M.DirectorioDestino = DirectorioDestino;
     return m_obras.Desempaqueta(ArchivoZip.enDisco, M.DirectorioDestino);
-}
-
-void Lanzamiento::AvisaDeIlegible()
-{
-    m_obras.Aviso(M.Palabras.Zem_NoZip0, M.Palabras.Zem_NoZip1);
 }
 
 void Lanzamiento::Corre(Caso caso)
@@ -382,6 +376,11 @@ public:
     void Aviso(const QString &titulo, const QString &texto) override
     {
         m_cronica.Fallo(texto);
+        Intenta([&] { m_pantalla.Aviso(titulo, texto); });
+    }
+    void AvisoPrevio(const QString &titulo, const QString &texto) override
+    {
+        m_cronica.Aviso(texto);
         Intenta([&] { m_pantalla.Aviso(titulo, texto); });
     }
     void EnsenaOrden(const QString &texto) override { host::questions().tell(u"Zembrolix"_s, texto); }

@@ -37,7 +37,9 @@ public:
     virtual Desempaquetado Desempaqueta(const QString &ArchivoZip, const QString &destino) = 0;
     virtual QStringList FicherosEn(const QString &carpeta) = 0; // the plain ones; none where it fails
 
+    // Instead of a start, or ahead of one.
     virtual void Aviso(const QString &titulo, const QString &texto) = 0;
+    virtual void AvisoPrevio(const QString &titulo, const QString &texto) = 0;
     virtual void EnsenaOrden(const QString &texto) = 0; // in the debug mode
     // And stays until the emulator has ended. `exe` is its executable as the catalogue has it.
     virtual void Arranca(const LineaDeOrden &orden, const QString &exe, const Lugares &lugares) = 0;

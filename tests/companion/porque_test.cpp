@@ -90,6 +90,20 @@ TEST_F(Why, AStartThatFailedIsSaid)
         "Doesn't start: There is no program /x; correct its path in the configuration.\n"));
 }
 
+TEST_F(Why, ANoticeAheadOfAGoodEndIsSaid_AndIsNoFinding)
+{
+    Pon(u"log"_s,
+        Empieza + "zembrolix T 7.1 notice 'Nothing can be written.'\nzembrolix T 7.1 status 0 after 60.0\n");
+    const Respuesta respuesta = Zembro({ u"why"_s });
+    EXPECT_EQ(respuesta.estado, companion::Bien);
+    EXPECT_TRUE(respuesta.salida.endsWith(
+        "Nothing can be written.\nThe emulator ended with the status 0 after 60.0 seconds.\n"))
+        << respuesta.salida.toStdString();
+    const QJsonObject json = Json({ u"why"_s });
+    EXPECT_EQ(json[u"notice"_s], u"Nothing can be written."_s);
+    EXPECT_FALSE(json.contains(u"problem"_s));
+}
+
 TEST_F(Why, AnEndThatNobodySawHowIsNoRunThatGoesOn)
 {
     Pon(u"log"_s, Empieza + "zembrolix 2026-01-02T03:04:06 7.1 status unknown after 60.0\n");

@@ -1,5 +1,6 @@
 // What is told of a launch, and read again.
 #include "escenario.h"
+#include "zipdeprueba.h"
 
 #include "launch/cronica.h"
 #include "launch/jugar.h"
@@ -84,6 +85,21 @@ TEST_F(CronicaTest, TellsOfAZipWithoutAGame)
     EXPECT_EQ(leida().fallo, u"no game\nin there"_s);
     for (const QString &linea : std::as_const(lineas))
         EXPECT_FALSE(linea.contains(u'\n'));
+}
+
+// What can't be unpacked beside the emulator may be there already: it starts all the same.
+TEST_F(CronicaTest, ANoticeAheadOfAStartIsNoFailure)
+{
+    PonEmulador(2, u"-a"_s);
+    M.Palabras.Zem_NoZip1 = u"not a member\ncan be read"_s;
+    PonROM("mario.zip", Zip({ { .nombre = "rom.bin", .metodo = 6 } }));
+    pantalla.lista1 = u"mario.zip"_s;
+    for (const Partida &partida : { juega(), leida() }) {
+        EXPECT_EQ(partida.fallo, QString());
+        EXPECT_EQ(partida.aviso, M.Palabras.Zem_NoZip1);
+        EXPECT_EQ(partida.final.status, 0);
+    }
+    EXPECT_TRUE(lineas.filter(u" failed "_s).isEmpty());
 }
 
 TEST_F(CronicaTest, TheLaunchThatBeganLastCounts_WhateverEndsBehindIt)
