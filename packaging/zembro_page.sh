@@ -82,7 +82,7 @@ END
         play atari stella prisma
     printf '\n## why\n'
     play_on_screen
-    example "What became of the last launch of the main program, if it was started by \`./run.sh\`, the package's \`zembrolix\` or the portable archive's starter. It first brings back what a game for DOS or Windows saved and nobody has put into its place yet, and says of each file where it is now, or where it lies still." why
+    example "What became of the last launch of the main program, if it was started by \`./run.sh\`, the package's \`zembrolix\` or the portable archive's starter. It first brings back what a game for DOS or Windows saved and nobody has put into its place yet, and says of each file where it is now, or where it lies still. What you were told ahead of the start, that nothing could be unpacked beside the emulator, stands ahead of the end." why
     printf '\n## check\n'
     sed -i -e "s|^EXE=.*|EXE=$work/dyes|" -e "/^'---/d" Zembro.emu
     mv demo/prisma.gif "demo/prisma (1).gif"
