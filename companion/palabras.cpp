@@ -123,7 +123,6 @@ std::span<const ClaveDePalabra> ClavesDePalabras()
         { u"Zbo_NotasAjenas", &P::Zbo_NotasAjenas },
         { u"Zbo_SinCabecera", &P::Zbo_SinCabecera },
         { u"Zbo_LineaVacia", &P::Zbo_LineaVacia },
-        { u"Zbo_FueraDeSitio", &P::Zbo_FueraDeSitio },
         { u"Zbo_MuchasNotas", &P::Zbo_MuchasNotas },
         { u"Zbo_SinMarcaNot", &P::Zbo_SinMarcaNot },
         { u"Zbo_ParDeNadie", &P::Zbo_ParDeNadie },

@@ -127,10 +127,6 @@ struct PalabrasDeRevision {
     QString Zbo_LineaVacia =
         QStringLiteral("A blank line, which counts as a field, so that what stands behind "
                        "it is read out of step; take the line away.");
-    QString Zbo_FueraDeSitio =
-        QStringLiteral("From here on notes of games of %1: %2. They stand outside of the notes of that "
-                       "system, which don't show them; move them to the others, below its name, or take "
-                       "away the line that came between.");
     QString Zbo_MuchasNotas =
         QStringLiteral("From here on the notes of %1 are more than the %2 that the "
                        "program takes, so not all of its games are listed; remove some.");

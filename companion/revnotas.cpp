@@ -5,7 +5,6 @@
 #include "core/lineas.h"
 #include "core/lineasvacias.h"
 #include "core/notas.h"
-#include "core/notasfuera.h"
 #include "core/notasremendadas.h"
 #include "core/remiendos.h"
 #include "core/repetidos.h"
@@ -94,13 +93,7 @@ public:
     bool Falta(const QString &clave) const
     {
         const QString mayus = host::upper(clave);
-        return m_hay && m_todos && !Esta(mayus);
-    }
-
-    // True also where not all directories can be listed.
-    bool Esta(const QString &mayus) const
-    {
-        return m_nombres.contains(mayus) || m_nombres.contains(mayus + u".ZIP"_s);
+        return m_hay && m_todos && !m_nombres.contains(mayus) && !m_nombres.contains(mayus + u".ZIP"_s);
     }
 
     // Under a name of DOS, which a launch in it looks for.
@@ -128,7 +121,6 @@ public:
     {
     }
 
-    void DeOtroSistema(const QStringList &configurados); // ahead of the others
     void Sistema(const QString &sistema, size_t desde);
     void Ajenas();
     void Parametros();
@@ -139,11 +131,6 @@ private:
         m_revision.push_back({ clase, Fichero, static_cast<int>(indice) + 1, {}, dicho });
     }
     bool estaEntero(const QString &linea, const Registro &registro, qsizetype campos, size_t indice);
-    bool estaFuera(size_t indice) const
-    {
-        return std::ranges::any_of(m_fuera,
-            [indice](const core::NotasFuera &tramo) { return indice >= tramo.inicio && indice < tramo.fin; });
-    }
     void parametrosDe(const QStringList &campos, size_t indice);
     const Ficheros &ficherosDe(const QString &sistema);
 
@@ -155,7 +142,6 @@ private:
     const size_t m_parametros; // the index of their heading
     Revision &m_revision;
     std::map<QString, Ficheros> m_ficheros;
-    std::vector<core::NotasFuera> m_fuera;
     QSet<QString> m_anotadas; // keys of the notes, in upper case
     const std::unique_ptr<core::Modulo> m_sinNotas = std::make_unique<core::Modulo>();
 };
@@ -185,24 +171,11 @@ bool RevisorDeNotas::estaEntero(
     return false;
 }
 
-// Notes of games that a system has whose notes they don't stand among.
-void RevisorDeNotas::DeOtroSistema(const QStringList &configurados)
-{
-    const auto hay = [&](const QString &sistema, const QString &clave) {
-        return ficherosDe(sistema).Esta(clave);
-    };
-    m_fuera = core::NotasFueraDeSitio(m_texto, configurados, m_sistemas, hay);
-    for (const core::NotasFuera &tramo : m_fuera)
-        halla(u"notes-out-of-place"_s,
-            m_palabras.Zbo_FueraDeSitio.arg(tramo.sistema).arg(tramo.fin - tramo.inicio), tramo.inicio);
-}
-
 // The records of one system, up to its apostrophe.
 void RevisorDeNotas::Sistema(const QString &sistema, size_t desde)
 {
     QSet<QString> vistas;
     int cuantas = 0;
-    bool deOtro = false; // behind the name of one, where this one's closing line is missing
     for (size_t i = desde; i < m_lineas.size(); ++i) {
         const QString linea = m_lineas[i].linea.toString();
         const Registro registro = registroDe(linea);
@@ -212,17 +185,15 @@ void RevisorDeNotas::Sistema(const QString &sistema, size_t desde)
         if (!linea.isEmpty() && ++cuantas == core::MaxROMs)
             return halla(
                 u"too-many-notes"_s, m_palabras.Zbo_MuchasNotas.arg(sistema).arg(core::MaxROMs - 1), i);
-        if (m_sistemas.contains(linea)) {
-            deOtro = deOtro || linea != sistema;
+        if (m_sistemas.contains(linea))
             continue; // the block that it should have ended is a finding, and so is a second one
-        }
         if (linea.isEmpty() || !estaEntero(linea, registro, CamposDeNota, i))
             continue;
         const QString &clave = registro.campos.first();
         const QString mayus = host::upper(clave);
         if (vistas.contains(mayus))
             halla(u"name-twice"_s, m_palabras.Zbo_Repetido.arg(clave), i);
-        else if (!deOtro && !estaFuera(i) && ficherosDe(sistema).Falta(clave))
+        else if (ficherosDe(sistema).Falta(clave))
             halla(u"note-without-file"_s, m_palabras.Zbo_SinFichero.arg(clave), i);
         vistas.insert(mayus);
         m_anotadas.insert(mayus);
@@ -349,9 +320,7 @@ void RevisaNotas(Sesion &sesion, Revision &revision)
         revision.push_back(
             { u"blank-line"_s, Fichero, static_cast<int>(vacia) + 1, {}, sesion.palabras.Zbo_LineaVacia });
     RevisorDeNotas revisor(sesion, texto, lineas, conocidos, revision);
-    const QStringList configurados = sistemasDe(sesion.M);
-    revisor.DeOtroSistema(configurados);
-    for (const QString &sistema : configurados) {
+    for (const QString &sistema : sistemasDe(sesion.M)) {
         const auto suya = std::ranges::find_if(
             lineas, [&](const core::LineaConFin &linea) { return linea.linea == sistema; });
         if (suya == lineas.end())

@@ -3,7 +3,6 @@
 #include "core/lineas.h"
 #include "core/lineasvacias.h"
 #include "core/notas.h"
-#include "core/notasfuera.h"
 #include "core/repetidos.h"
 
 #include "host/textsource.h"
@@ -20,6 +19,19 @@ namespace {
 
 // Each of them makes room for another at most: a line taken away lets what stood around it be seen as one.
 constexpr int PasadasDeRemiendo = 8;
+
+// A key, and a description that begins with double quotes; the name of a system may hold a comma too.
+bool esNotaEntera(QStringView linea)
+{
+    if (linea.count(u'"') % 2 != 0)
+        return false;
+    host::TextSource fuente(linea.toString());
+    if (fuente.atEnd() || fuente.readField().isEmpty() || fuente.atEnd())
+        return false;
+    const bool conComillas = fuente.rest().trimmed().startsWith(u'"');
+    fuente.readField();
+    return conComillas && fuente.atEnd();
+}
 
 // Systems without a block of their own.
 QStringList sinBloque(const QString &texto, const QStringList &sistemas)
@@ -41,54 +53,33 @@ QStringList sinBloque(const QString &texto, const QStringList &sistemas)
     return faltan;
 }
 
-// What the repairs go by.
-struct Entorno {
-    const QStringList &delCatalogo;
-    const QStringList &conocidos;
-    const JuegosDelDisco &juegos;
-
-    // Systems of which notes stand elsewhere: what would make their block look whole would hide those.
-    QStringList ConNotasFuera(const QString &texto) const
-    {
-        return SistemasConNotasFuera(texto, delCatalogo, conocidos, juegos.hay);
-    }
-};
-
-// An empty block for each system that has none.
-QString conBloques(QString texto, const Entorno &entorno)
+QString conBloques(QString texto, const QStringList &sistemas)
 {
-    const QStringList faltan = sinBloque(texto, entorno.delCatalogo);
-    if (faltan.isEmpty() || !NotasSinNombre(texto, entorno.conocidos).empty())
-        return texto;
-    const QStringList fuera = entorno.ConNotasFuera(texto);
-    for (const QString &sistema : faltan) {
-        if (!fuera.contains(sistema))
-            texto = ConSistemaNuevo(texto, sistema);
-    }
+    for (const QString &sistema : sinBloque(texto, sistemas))
+        texto = ConSistemaNuevo(texto, sistema);
     return texto;
 }
 
 using Paso = std::function<QString(const QString &)>;
 
 // Closes the blocks without an end, and joins those of one name, which that one was missing for.
-QString conBloquesEnteros(const QString &texto, const Entorno &entorno)
+QString conBloquesEnteros(const QString &texto, const QStringList &conocidos)
 {
-    const QStringList &conocidos = entorno.conocidos;
-    const bool abiertos = !NotasSinCierre(texto, conocidos).empty();
-    const QStringList fuera = abiertos ? entorno.ConNotasFuera(texto) : QStringList();
-    return SinRepetidos(ConNotasCerradas(texto, conocidos, fuera), conocidos);
+    return SinRepetidos(ConNotasCerradas(texto, conocidos), conocidos);
 }
 
-std::vector<Paso> pasos(const Entorno &entorno)
+std::vector<Paso> pasos(
+    const QStringList &delCatalogo, const QStringList &conocidos, const SistemasDeClaves &deQuien)
 {
-    const QStringList &conocidos = entorno.conocidos;
     return {
         SinRetornosSueltos, // the one copy of a file that may be large
         [&](const QString &texto) { return SinVaciasEntreRegistros(texto, conocidos); },
-        [&](const QString &texto) { return ConNombreDeNotas(texto, conocidos, entorno.juegos.deQuien); },
+        [&](const QString &texto) { return ConNombreDeNotas(texto, conocidos, deQuien); },
         [&](const QString &texto) { return ConMarcaDeNotas(texto, conocidos); },
-        [&](const QString &texto) { return conBloquesEnteros(texto, entorno); },
-        [&](const QString &texto) { return conBloques(texto, entorno); },
+        [&](const QString &texto) { return conBloquesEnteros(texto, conocidos); },
+        [&](const QString &texto) {
+            return NotasSinNombre(texto, conocidos).empty() ? conBloques(texto, delCatalogo) : texto;
+        },
         [&](const QString &texto) { return ConCabeceraDeParametros(texto, conocidos); },
         ConParametrosCerrados,
         [&](const QString &texto) { return SinRepetidos(texto, conocidos); },
@@ -96,18 +87,6 @@ std::vector<Paso> pasos(const Entorno &entorno)
 }
 
 } // namespace
-
-bool EsNotaEntera(QStringView linea)
-{
-    if (linea.count(u'"') % 2 != 0)
-        return false;
-    host::TextSource fuente(linea.toString());
-    if (fuente.atEnd() || fuente.readField().isEmpty() || fuente.atEnd())
-        return false;
-    const bool conComillas = fuente.rest().trimmed().startsWith(u'"');
-    fuente.readField();
-    return conComillas && fuente.atEnd();
-}
 
 std::vector<SinCierre> NotasSinNombre(const QString &texto, const QStringList &sistemas)
 {
@@ -128,7 +107,7 @@ std::vector<SinCierre> NotasSinNombre(const QString &texto, const QStringList &s
         } else if (suelto && !linea.isEmpty()) {
             tramos.back().fin = i + 1;
         } else if (!dentro && !linea.isEmpty()) {
-            suelto = EsNotaEntera(linea);
+            suelto = esNotaEntera(linea);
             dentro = !suelto;
             if (suelto)
                 tramos.push_back({ i, i + 1 });
@@ -147,7 +126,7 @@ QString ConNombreDeNotas(const QString &texto, const QStringList &sistemas, cons
     const auto principio = lineas.begin() + std::ptrdiff_t(tramos.front().inicio);
     const auto final = lineas.begin() + std::ptrdiff_t(tramos.front().fin);
     if (!std::all_of(principio, final,
-            [](const LineaConFin &linea) { return linea.linea.isEmpty() || EsNotaEntera(linea.linea); }))
+            [](const LineaConFin &linea) { return linea.linea.isEmpty() || esNotaEntera(linea.linea); }))
         return texto;
     QStringList claves;
     for (auto linea = principio; linea != final; ++linea) {
@@ -166,8 +145,7 @@ QString ConNombreDeNotas(const QString &texto, const QStringList &sistemas, cons
 QString NotasRemendadas(const QString &texto, const QStringList &delCatalogo, const QStringList &conocidos,
     const JuegosDelDisco &juegos)
 {
-    const Entorno entorno { delCatalogo, conocidos, juegos };
-    const std::vector<Paso> todos = pasos(entorno);
+    const std::vector<Paso> todos = pasos(delCatalogo, conocidos, juegos.deQuien);
     const auto unaPasada = [&](const QString &antes, bool dePasoEnPaso) {
         QString remendado = antes;
         for (const Paso &paso : todos) {

@@ -12,10 +12,6 @@
 
 namespace core {
 
-// Whether a line is a key and a description that begins with double quotes, and nothing else; the name of a
-// system may hold a comma too.
-bool EsNotaEntera(QStringView linea);
-
 // The runs of notes that stand outside of all blocks, as the line with the system's name above them is gone:
 // from the index of their first line to behind their last one.
 std::vector<SinCierre> NotasSinNombre(const QString &texto, const QStringList &sistemas);

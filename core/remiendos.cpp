@@ -189,15 +189,9 @@ std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &s
     return huecos;
 }
 
-QString ConNotasCerradas(const QString &texto, const QStringList &sistemas, const QStringList &salvo)
+QString ConNotasCerradas(const QString &texto, const QStringList &sistemas)
 {
-    std::vector<SinCierre> huecos = NotasSinCierre(texto, sistemas);
-    if (!salvo.isEmpty()) {
-        const std::vector<LineaConFin> lineas = EnLineas(texto);
-        std::erase_if(
-            huecos, [&](const SinCierre &hueco) { return salvo.contains(lineas[hueco.inicio].linea); });
-    }
-    return conLineas(texto, huecos, u"'"_s);
+    return conLineas(texto, NotasSinCierre(texto, sistemas), u"'"_s);
 }
 
 bool TieneMarcaDeNotas(const QString &texto, const QStringList &sistemas)

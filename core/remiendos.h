@@ -46,10 +46,9 @@ bool SobranBlancos(const QString &valor, const LoQueHay &hay);
 QString ConSeparadorFinal(const QString &valor, const LoQueHay &hay);
 QString ConSeparadoresFinales(const QString &texto, const LoQueHay &hay);
 
-// The systems of these names whose notes run into the next one's, as their closing apostrophe is missing; and
-// the text with it, but for some of them.
+// The systems of these names whose notes run into the next one's, as their closing apostrophe is missing.
 std::vector<SinCierre> NotasSinCierre(const QString &texto, const QStringList &sistemas);
-QString ConNotasCerradas(const QString &texto, const QStringList &sistemas, const QStringList &salvo = {});
+QString ConNotasCerradas(const QString &texto, const QStringList &sistemas);
 
 // Whether a line that begins with "[" ends the notes of the systems; and the text with one where its place is
 // sure: ahead of the parameters, or behind blocks of these systems and nothing else.

@@ -54,42 +54,6 @@ TEST_F(Check, ANoteThatBeginsAsAMarkEndsNothing)
     EXPECT_THAT(clases(), ElementsAre(u"note-without-file"_s));
 }
 
-// Advice to remove them would lose what is right.
-TEST_F(Check, NotesAmongAnotherSystemsAreToldAsSuch_AndNoRepairHidesThem)
-{
-    const QByteArray otro = "-Other\r\nWEB1=\r\n*.NES\r\n'\r\n+Tres\r\nEXE=" + Ruta(u"emu/uno.sh"_s).toUtf8()
-        + "\r\nXDI=NO.0\r\nROM=" + Ruta(u"otros/"_s).toUtf8() + "\r\nIMG=\r\nPAR1=\r\nPAR2=\r\nWEB2=\r\n";
-    Pon(u"otros/Luigi.nes"_s, "x");
-    Cambia(u"Zembro.emu"_s, "[EOF]", otro + "'------\r\n[EOF]");
-    Cambia(u"Zembro.rom"_s, "Sis\r\nMARIO.NES,\"Super Mario\"\r\n'\r\n",
-        "Other\r\nLUIGI.NES,\"Luigi\"\r\nMARIO.NES,\"Super "
-        "Mario\"\r\nZELDA.NES,\"Zelda\"\r\nGONE.NES,\"G\"\r\n'\r\n");
-    const QByteArray antes = Bytes(u"Zembro.rom"_s);
-    EXPECT_EQ(clases().count(u"notes-out-of-place"_s), 1);
-    EXPECT_EQ(clases().count(u"note-without-file"_s), 1);
-    EXPECT_TRUE(dicho().contains("Zembro.rom:3: From here on notes of games of Sis: 2. They stand outside"))
-        << dicho().toStdString();
-    Zembro({ u"check"_s, u"--mend"_s, u"--write"_s });
-    EXPECT_EQ(Bytes(u"Zembro.rom"_s), antes);
-}
-
-TEST_F(Check, NotesBehindAStrangeLineAreTold_AndNoRepairClosesTheBlockAheadOfIt)
-{
-    Pon(u"Zembro.sye"_s, "-Sis\r\n*.NES\r\n'\r\n+Uno\r\n'------\r\n-Other\r\n'------\r\n[EOF]\r\n");
-    const QByteArray entero = Bytes(u"Zembro.rom"_s);
-    for (const QByteArray extranya : { "[x]", "Other" }) {
-        Cambia(u"Zembro.rom"_s, "Mario\"\r\n", "Mario\"\r\n" + extranya + "\r\nZELDA.NES,\"Zelda\"\r\n");
-        const QByteArray roto = Bytes(u"Zembro.rom"_s);
-        EXPECT_TRUE(
-            dicho().contains("Zembro.rom:4: From here on notes of games of Sis: 1. They stand outside"))
-            << dicho().toStdString();
-        Zembro({ u"check"_s, u"--mend"_s, u"--write"_s });
-        EXPECT_EQ(Bytes(u"Zembro.rom"_s), roto);
-        EXPECT_THAT(clases(), Contains(u"notes-out-of-place"_s));
-        Pon(u"Zembro.rom"_s, entero);
-    }
-}
-
 TEST_F(Check, NotesWithoutTheMarkOfTheirEndAreSaid)
 {
     Cambia(u"Zembro.rom"_s, "[EOF]\r\n", "");

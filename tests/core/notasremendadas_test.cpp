@@ -275,18 +275,6 @@ TEST(AllMendedNotes, AreOneBlock_WhereTheHeadingStandsTwice)
         EXPECT_EQ(remendadas(texto), Enteras) << texto.toStdString();
 }
 
-// What would make the file look whole would hide them.
-TEST(AllMendedNotes, GetNoEmptyBlockNorAnEndAheadOfSomethingStrange_WhereTheirSystemsStandElsewhere)
-{
-    const QString sinCierreNiNombre = sin(u"'\r\nBeta\r\n"_s);
-    EXPECT_EQ(remendadas(sinCierreNiNombre), sinCierreNiNombre);
-    for (const QStringView extranya : { u"[x]\r\n", u"Gamma, the third\r\n" }) {
-        const QString roto = QString(Enteras).replace(u"\"B, C"_s, extranya.toString() + u"\"B, C"_s);
-        EXPECT_FALSE(remendadas(roto).contains(u"'\r\n"_s + extranya.toString()))
-            << remendadas(roto).toStdString();
-    }
-}
-
 // The reader takes two fields at a time, so that an odd line out of place may bring it back into step.
 TEST(AllMendedNotes, StayAsTheyAre_WhereLessOfThemWouldShow)
 {
