@@ -38,18 +38,13 @@ example() { # text, arguments
 play_on_screen() {
     LC_ALL=en_GB.UTF-8 "$build/companion/PrimerosAjustes" "$PWD" "Atari 2600" Stella
     ZEMBRO_LOG=$XDG_STATE_HOME/zembrolix/log "$project/tests/with_screen.sh" bash -c '
-        ./Zembrolix 2>/dev/null &
-        for _ in $(seq 100); do
-            xdotool search --onlyvisible --name "^Zembrolix" >/dev/null 2>&1 && break
-            sleep 0.1
-        done
-        sleep 1
-        xdotool key Return
+        . "$0/packaging/press_play.sh"
+        press_play
         for _ in $(seq 100); do
             grep -q " after " "$ZEMBRO_LOG" 2>/dev/null && break
             sleep 0.1
         done
-        kill $!'
+        kill "$main"' "$project"
     grep -q " after " "$XDG_STATE_HOME/zembrolix/log" || { echo "$0: nothing was played" >&2; return 1; }
 }
 

@@ -22,6 +22,8 @@ mkdir -p "$HOME" "$TMPDIR"
 chmod 700 "$TMPDIR"
 "$here/../packaging/assemble.sh" "$build" "$program" >/dev/null || exit 1
 cd "$program" || exit 1
+# shellcheck source=../packaging/press_play.sh
+. "$here/../packaging/press_play.sh"
 
 verdict() { # what, fine or not, why not
     if [ "$2" = fine ]; then
@@ -145,14 +147,7 @@ echo "--- the last launch of the main program"
 definition=error step 2 'There is no file' why
 export ZEMBRO_LOG=$work/state.log
 LC_ALL=en_GB.UTF-8 "$build/companion/PrimerosAjustes" "$program" "Atari 2600" Stella
-./Zembrolix 2>/dev/null &
-main=$!
-for _ in $(seq 100); do
-    xdotool search --onlyvisible --name "^Zembrolix" >/dev/null 2>&1 && break
-    sleep 0.1
-done
-sleep 1
-xdotool key Return
+press_play
 sleep 4
 xdotool key F12
 sleep 1

@@ -2,7 +2,6 @@
 #include "escenario.h"
 
 #include "launch/apodado.h"
-#include "launch/codigo437.h"
 #include "launch/cronica.h"
 #include "launch/destino.h"
 #include "launch/dosbox.h"
@@ -289,46 +288,6 @@ TEST_F(EncargoTest, TheNameOfAGameDependsOnNoOther)
     EXPECT_NE(launch::ApodoEnDOS("Ni\xC3\xB1o.nes"), launch::ApodoEnDOS("ni\xC3\xB1o.nes"));
 }
 
-TEST(Apodado, WhatAGameSavesComesHomeBehindItsName_AndIsShownAgain)
-{
-    struct Caso {
-        QByteArray fichero;
-        QByteArray apodo;
-        QByteArray guardado;
-        QByteArray enCasa;
-    };
-    const QByteArray largo(250, 'n');
-    for (const Caso &caso : std::initializer_list<Caso> {
-             { "ni\xC3\xB1o.nes", "NI012345.NES", "NI012345.SAV", "ni\xC3\xB1o.nes - .SAV" },
-             { "ni\xC3\xB1o.nes", "NI012345.NES", "HISCORE.DAT", "ni\xC3\xB1o.nes - HISCORE.DAT" },
-             { "ni\xC3\xB1o.nes", "NI012345.NES", "NI012345", "ni\xC3\xB1o.nes - NI012345" },
-             { "ni\xC3\xB1o.nes", "NI012345.NES", "NI012345.NEW", "ni\xC3\xB1o.nes - .NEW" },
-             { "ni\xC3\xB1o.nes", "NI012345.NES", "NI01234.SAV", "ni\xC3\xB1o.nes - NI01234.SAV" },
-             { "ni\xC3\xB1o", "NI012345", "NI012345.SAV", "ni\xC3\xB1o - .SAV" },
-             { "a.b?.nes", "a.b_-01234567.nes", "a.b_-01234567.nes.sav", "a.b?.nes - .nes.sav" },
-             { "a.b?.nes", "a.b_-01234567.nes", "a.sav", "a.b?.nes - a.sav" } }) {
-        EXPECT_EQ(launch::NombreEnCasa(caso.fichero, caso.apodo, caso.guardado), caso.enCasa);
-        EXPECT_EQ(launch::NombreMostrado(caso.fichero, caso.apodo, caso.enCasa), caso.guardado);
-    }
-    EXPECT_EQ(
-        launch::NombreEnCasa("ni\xC3\xB1o.nes", "NI012345.NES", "ni012345.sav"), "ni\xC3\xB1o.nes - .sav");
-    for (const QByteArray &propio : { QByteArray("NI012345.NES"), QByteArray("ni012345.nes") })
-        EXPECT_EQ(launch::NombreEnCasa("ni\xC3\xB1o.nes", "NI012345.NES", propio), "ni\xC3\xB1o.nes - .NEW");
-    for (const QByteArray &ajeno :
-        { QByteArray("ni\xC3\xB1o.nes"), QByteArray("ni\xC3\xB1o.nes - "), QByteArray("NI012345.SAV"),
-            QByteArray("Ni\xC3\xB1o.nes - .SAV"), QByteArray("ni\xC3\xB1o.SAV") })
-        EXPECT_EQ(launch::NombreMostrado("ni\xC3\xB1o.nes", "NI012345.NES", ajeno), QByteArray());
-    // Cut between characters, and different for two that begin alike.
-    const QByteArray prefijo = launch::PrefijoEnCasa(largo + ".nes");
-    EXPECT_LE(prefijo.size(), 203);
-    EXPECT_TRUE(prefijo.startsWith(QByteArray(191, 'n') + '~'));
-    EXPECT_NE(prefijo, launch::PrefijoEnCasa(largo + ".gbc"));
-    EXPECT_TRUE(host::nameFromDisk(launch::PrefijoEnCasa(QByteArray("\xC3\xB1").repeated(120)))
-                    .startsWith(QString(95, u'\u00F1') + u'~'));
-    EXPECT_NE(launch::PrefijoEnCasa("a\\b"), launch::PrefijoEnCasa("a_b"));
-    EXPECT_EQ(host::nameToDisk(host::nameFromDisk(launch::PrefijoEnCasa("a\\b"))).count('\\'), 0);
-}
-
 // The command that is shown and the line that DOS gets are made one after the other.
 TEST_F(EncargoTest, TheCommandNamesTheDrivesThatDosGets)
 {
@@ -592,24 +551,6 @@ TEST_F(EncargoTest, AnEmulatorThatWindowsCantOpenByItsNameIsRefused)
     EXPECT_FALSE(HuboJuego());
 }
 
-TEST(RutasDeWindows, AreOnTheNearestDrive)
-{
-    const std::vector<host::Drive> unidades { { u'C', u"/w/drive_c"_s }, { u'Z', u"/"_s } };
-    const auto ruta = [&](const QString &enDisco) { return launch::RutaDeWindows(enDisco, unidades); };
-    EXPECT_EQ(ruta(u"/w/drive_c/a b/x.exe"_s), u"C:\\a b\\x.exe"_s);
-    EXPECT_EQ(ruta(u"/w/drive_c"_s), u"C:\\"_s);
-    EXPECT_EQ(ruta(u"/w/drive_cd/x"_s), u"Z:\\w\\drive_cd\\x"_s);
-    EXPECT_EQ(ruta(u"/roms/"_s), u"Z:\\roms\\"_s);
-    EXPECT_EQ(ruta(u"/w/../roms/./x"_s), u"Z:\\roms\\x"_s);
-    EXPECT_EQ(ruta(u"mario.nes"_s), u"mario.nes"_s);
-    EXPECT_EQ(ruta(u"/a:b/x"_s), u"/a:b/x"_s) << "Windows has no such name";
-    EXPECT_EQ(ruta(u"/control/com10/auxiliary.c"_s), u"Z:\\control\\com10\\auxiliary.c"_s);
-    EXPECT_TRUE(launch::SeDiceEnWindows(u"/roms/./../x/"_s));
-    EXPECT_EQ(ruta(u"/nul/x"_s), u"/nul/x"_s);
-    EXPECT_EQ(ruta(u"/a\\b"_s), u"/a\\b"_s);
-    EXPECT_EQ(launch::RutaDeWindows(u"/x"_s, { { u'C', u"/w"_s } }), u"/x"_s);
-}
-
 TEST_F(EncargoTest, TheSameRunCanBeToldWithoutAFile)
 {
     Pon(ParaDOS);
@@ -617,14 +558,4 @@ TEST_F(EncargoTest, TheSameRunCanBeToldWithoutAFile)
     EXPECT_EQ(launch::ArgumentosDeDOSBox(De(u" -x 5%"_s)),
         QStringList({ path(u"bin/dosbox"_s), u"-c"_s, u"mount C \""_s + path(u"emu"_s) + u"\" >nul"_s,
             u"-c"_s, u"C:"_s, u"-c"_s, u"cd \\"_s, u"-c"_s, u"C:\\NES.EXE -x 5%%"_s, u"-c"_s, u"exit"_s }));
-}
-
-TEST(Codigo437, HasTheLettersOfItsPageAndNoOthers)
-{
-    EXPECT_EQ(launch::EnCodigo437(u"ñÑáü~ a"_s), QByteArray("\xA4\xA5\xA0\x81~ a"));
-    EXPECT_EQ(launch::EnCodigo437(u"Ç\u00A0■"_s), QByteArray("\x80\xFF\xFE"));
-    EXPECT_EQ(launch::EnCodigo437(QString()), QByteArray());
-    EXPECT_EQ(launch::DeCodigo437("\xA4\xA5\xA0\x81~ a\xFF"), u"ñÑáü~ a\u00A0"_s);
-    for (const QString &otro : { u"Ã"_s, u"\n"_s, u"\u007f"_s, u"\u0000"_s, u"\uF7A4"_s })
-        EXPECT_EQ(launch::EnCodigo437(otro), std::nullopt);
 }
